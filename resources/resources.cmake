@@ -1,0 +1,25 @@
+# SPDX-FileCopyrightText: 2026 Orvane
+# SPDX-License-Identifier: MIT
+
+# The two resource packs of the library. Included where the target Pages is created: the rules that
+# compile the translations must stand in the same directory scope as the packs that hold them.
+set(TRANSLATION_DIR ${PROJECT_BINARY_DIR}/resources/translations)
+file(MAKE_DIRECTORY ${TRANSLATION_DIR})
+foreach(_language IN ITEMS en es zh_CN fr ja de it pl zh_TW ru)
+  list(APPEND _translations ${PROJECT_SOURCE_DIR}/resources/translations/XPanoHead_${_language}.ts)
+endforeach()
+foreach(_language IN ITEMS zh_CN zh_TW de cs fi en es fr ja it nl nb pl ru)
+  list(APPEND _translations ${PROJECT_SOURCE_DIR}/resources/translations/XUI_${_language}.ts)
+endforeach()
+set_source_files_properties(${_translations} PROPERTIES OUTPUT_LOCATION ${TRANSLATION_DIR})
+qt5_add_translation(_compiled_translations ${_translations})
+
+# The file names fix the initialisers: qInitResources_XPanoHead and qInitResources_XUI.
+foreach(_pack IN ITEMS XPanoHead XUI)
+  configure_file(${PROJECT_SOURCE_DIR}/resources/${_pack}.qrc
+                 ${PROJECT_BINARY_DIR}/resources/${_pack}.qrc @ONLY)
+  target_sources(Pages PRIVATE ${PROJECT_BINARY_DIR}/resources/${_pack}.qrc)
+endforeach()
+set_target_properties(Pages PROPERTIES AUTORCC ON AUTORCC_OPTIONS "--format-version;1")
+unset(_translations)
+unset(_compiled_translations)
