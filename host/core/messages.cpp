@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/core/messages.h"
+
+namespace PanoHost
+{
+
+QString Failure::text() const
+{
+    QString line = what;
+    if (!why.isEmpty()) {
+        line += (line.isEmpty() ? QString() : QStringLiteral(": ")) + why;
+    }
+    if (!tryThis.isEmpty()) {
+        line += (line.isEmpty() ? QString() : QStringLiteral("; ")) + tryThis;
+    }
+    return onOneLine(line);
+}
+
+QString errorLine(const Failure &failure)
+{
+    return QStringLiteral("panohost: error: ") + failure.text();
+}
+
+QString warningLine(const QString &text)
+{
+    return QStringLiteral("panohost: warning: ") + onOneLine(text);
+}
+
+QString onOneLine(const QString &text)
+{
+    QString line = text;
+    for (QChar &c : line) {
+        const bool breaksLine = c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
+        if (c.category() == QChar::Other_Control || breaksLine) {
+            c = QLatin1Char(' ');
+        }
+    }
+    return line;
+}
+
+} // namespace PanoHost
