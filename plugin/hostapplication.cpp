@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: MIT
+#include "plugin/hostapplication.h"
+
+#include "plugin/xiapplication.h"
+
+#include <QCoreApplication>
+
+XIApplication *PanoHead::findHost()
+{
+    QCoreApplication *application = QCoreApplication::instance();
+    if (application == nullptr) {
+        return nullptr;
+    }
+    return static_cast<XIApplication *>(application->qt_metacast("XIApplication"));
+}

@@ -1,0 +1,144 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: MIT
+#include "plugin/readingthread.h"
+
+#include "plugin/hostapplication.h"
+#include "plugin/xiapplication.h"
+
+#include <QMutexLocker>
+#include <QSet>
+
+namespace
+{
+
+constexpr int kPhotosPerSignal = 10;
+constexpr unsigned long kWaitMs = 100;
+
+QQueue<QString> withoutDuplicates(const QStringList &files)
+{
+    QQueue<QString> queue;
+    queue.reserve(files.size());
+    QSet<QString> seen;
+    seen.reserve(files.size());
+    for (const QString &file : files) {
+        const int known = seen.size();
+        seen.insert(file);
+        if (seen.size() > known) {
+            queue.enqueue(file);
+        }
+    }
+    return queue;
+}
+
+/** Null for a photo that the host cannot read; an exception of the host counts as that. */
+XIImageDef *readPhoto(XIApplication *host, const QString &file)
+{
+    try {
+        return host->CreateImageDef(file);
+    } catch (...) {
+        return nullptr;
+    }
+}
+
+} // namespace
+
+ReadingThread::ReadingThread(QObject *parent)
+    : QThread(parent)
+{
+    waitForEnd();
+}
+
+ReadingThread::~ReadingThread()
+{
+    disconnect();
+    stop();
+}
+
+void ReadingThread::Start(const QStringList &files)
+{
+    // Both are done before locking: they may take long for a record-size shoot.
+    QQueue<QString> queue = withoutDuplicates(files);
+    const bool hasHost = PanoHead::findHost() != nullptr;
+    {
+        const QMutexLocker lock(&m_mutex);
+        m_images.clear();
+        m_queue.clear();
+        if (!hasHost) {
+            return;
+        }
+        m_queue.swap(queue);
+        m_stop = false;
+        if (m_takesWork) {
+            return;
+        }
+        m_takesWork = true;
+    }
+    // An earlier run that will not look at the queue again may still be winding down;
+    // QThread::start() would do nothing until it has ended.
+    wait();
+    start();
+}
+
+QList<XIImageDef *> ReadingThread::XIImageDefs()
+{
+    const QMutexLocker lock(&m_mutex);
+    return m_images;
+}
+
+void ReadingThread::Clear()
+{
+    stop();
+    Q_EMIT Loaded();
+}
+
+void ReadingThread::stop()
+{
+    {
+        const QMutexLocker lock(&m_mutex);
+        m_images.clear();
+        m_queue.clear();
+        m_stop = true;
+    }
+    waitForEnd();
+}
+
+void ReadingThread::waitForEnd()
+{
+    while (isRunning()) {
+        wait(kWaitMs);
+    }
+}
+
+void ReadingThread::run()
+{
+    XIApplication *host = PanoHead::findHost();
+    Q_EMIT Start();
+    QString file;
+    while (takeNext(&file)) {
+        keep(readPhoto(host, file));
+    }
+    Q_EMIT Done();
+}
+
+bool ReadingThread::takeNext(QString *file)
+{
+    const QMutexLocker lock(&m_mutex);
+    if (m_stop || m_queue.isEmpty()) {
+        m_takesWork = false;
+        return false;
+    }
+    *file = m_queue.dequeue();
+    return true;
+}
+
+void ReadingThread::keep(XIImageDef *image)
+{
+    const QMutexLocker lock(&m_mutex);
+    if (image == nullptr || m_stop) {
+        return;
+    }
+    m_images.append(image);
+    if (m_images.size() % kPhotosPerSignal == 0 || m_queue.isEmpty()) {
+        Q_EMIT Loaded();
+    }
+}

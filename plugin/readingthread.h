@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QList>
+#include <QMutex>
+#include <QQueue>
+#include <QStringList>
+#include <QThread>
+
+class XIApplication;
+class XIImageDef;
+
+/**
+ * Turns photo files into host image objects, one at a time, off the GUI thread.
+ *
+ * Each page owns one. All operations are for the GUI thread. The image objects belong to the
+ * host; only pointers are kept. Connect `Loaded()` through a queued connection (the automatic
+ * type does this for receivers on the GUI thread): the worker emits it while it holds the lock.
+ */
+class ReadingThread : public QThread
+{
+    Q_OBJECT
+
+public:
+    explicit ReadingThread(QObject *parent);
+    /** Drops the work, waits for the photo in hand and emits nothing. */
+    ~ReadingThread() override;
+
+    /**
+     * Forgets earlier images and reads \p files (full paths) in their order, each once. During a
+     * run the image of the photo in hand still joins the new list; call `Clear()` first for a
+     * clean one. Without a host nothing is read.
+     */
+    void Start(const QStringList &files);
+    /** The images read so far, in reading order. */
+    [[nodiscard]] QList<XIImageDef *> XIImageDefs();
+
+Q_SIGNALS:
+    /** Each tenth image, the last of the queue, and the end of `Clear()`. */
+    void Loaded();
+    /** A run begins; emitted on the worker thread. */
+    void Start();
+    /** A run has ended; emitted on the worker thread. */
+    void Done();
+
+public Q_SLOTS:
+    /**
+     * Forgets everything. When it returns, the run has ended, list and queue are empty and
+     * `Loaded()` has been emitted once. Waits as long as the host needs for the photo in hand.
+     */
+    void Clear();
+
+protected:
+    void run() override;
+
+private:
+    void stop();
+    void waitForEnd();
+    [[nodiscard]] bool takeNext(QString *file);
+    void keep(XIImageDef *image);
+
+    QMutex m_mutex; ///< guards everything below
+    bool m_stop = true; ///< the run ends after the photo in hand, which is dropped
+    QQueue<QString> m_queue;
+    QList<XIImageDef *> m_images;
+    bool m_takesWork = false; ///< the worker will look at the queue again
+};
