@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+
+namespace PanoHead
+{
+
+/** Why a record cannot be read, in English, for a command line. */
+struct ReadError {
+    QString reason;
+    int line = 0; ///< 1-based; 0: the reader does not know
+};
+
+constexpr qint64 kMaxRecordBytes = 64 * 1024 * 1024;
+
+/**
+ * The bytes of a record file. Regular files only, opened without blocking and bounded in size, so
+ * that no path a user can type (a FIFO, a device, a huge file) stops the GUI thread.
+ * \p error may be null.
+ */
+[[nodiscard]] std::optional<QByteArray> readRecordFile(const QString &path, ReadError *error);
+
+} // namespace PanoHead
