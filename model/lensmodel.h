@@ -9,12 +9,14 @@
  * pages' lens combo boxes.
  */
 enum class LensModel : qint32 {
-    NotChosen = -1, ///< take the lens type of the head's record (generator argument, record default)
-    Standard = 0,   ///< rectilinear
-    Fisheye = 1,    ///< equidistant fisheye
+    NotChosen
+    = -1, ///< take the lens type of the head's record (generator argument, record default)
+    Standard = 0, ///< rectilinear
+    Fisheye = 1, ///< equidistant fisheye
 };
 
-namespace PanoHead {
+namespace PanoHead
+{
 
 /** Whether \p value, a number from a host or a record, names a lens: only then may it be used. */
 [[nodiscard]] constexpr bool isLensModel(int value)

@@ -21,8 +21,7 @@
  * Host interface record: the fields and their order are fixed. Fields named `reserved…` are
  * carried with their defaults and never written.
  */
-struct StructuredPanoramaProperties
-{
+struct StructuredPanoramaProperties {
     /** One entry per shooting position; each lists the full paths of its photos. */
     QVector<QStringList> imageGroups;
     /** Pairs of positions that may be linked. Indices are not checked against `imageGroups`. */
@@ -40,7 +39,7 @@ struct StructuredPanoramaProperties
     /** True when `roll` is filled. */
     bool rollKnown = false;
     LensModel lensModel = LensModel::NotChosen;
-    std::array<qint32, 3> reservedValues{{0, 0, 0}};
+    std::array<qint32, 3> reservedValues{ { 0, 0, 0 } };
     bool reservedFlag1 = false;
     /** Start control-point detection by itself. */
     bool autoDetection = false;

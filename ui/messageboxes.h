@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QMessageBox>
+
+namespace PanoHead
+{
+
+/**
+ * A modal box with one OK button. \p text is shown as plain text, whatever a record or a file name
+ * brought into it. \p parent may be deleted while the box is open: guard what comes after.
+ */
+void showMessage(QWidget *parent, QMessageBox::Icon icon, const QString &title,
+                 const QString &text);
+
+} // namespace PanoHead

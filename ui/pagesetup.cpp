@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: MIT
+#include "ui/pagesetup.h"
+
+#include "model/lensmodel.h"
+#include "ui/previewlabel.h"
+#include "ui/xuipixmaphelper.h"
+
+#include <QComboBox>
+#include <QCompleter>
+#include <QDesktopServices>
+#include <QDirModel>
+#include <QLineEdit>
+#include <QScrollArea>
+#include <QUrl>
+#include <QWizardPage>
+
+#include <limits>
+
+namespace PanoHead
+{
+
+PreviewLabel *placePreview(QScrollArea *area)
+{
+    auto *preview = new PreviewLabel;
+    preview->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
+    area->setWidget(preview);
+    return preview;
+}
+
+void completePaths(QLineEdit *edit)
+{
+    auto *completer = new QCompleter(edit);
+    // Lists at once and needs no thread, unlike its successor.
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    auto *model = new QDirModel(completer);
+    model->setFilter(QDir::AllDirs | QDir::Files | QDir::Drives | QDir::NoDotAndDotDot);
+    QT_WARNING_POP
+    completer->setModel(model);
+    edit->setCompleter(completer);
+}
+
+void liftLengthLimit(QLineEdit *edit)
+{
+    edit->setMaxLength(std::numeric_limits<int>::max());
+}
+
+void fillLensTypes(QComboBox *box, const QStringList &names)
+{
+    box->clear();
+    box->addItems(names);
+    box->setCurrentIndex(static_cast<int>(LensModel::Fisheye));
+}
+
+void recolourSubtitle(QWizardPage *page, const QWidget *label)
+{
+    const QColor colour = label->palette().brush(QPalette::Current, QPalette::WindowText).color();
+    page->setSubTitle(page->subTitle().replace(QLatin1String("#DCDCDC"), colour.name()));
+}
+
+void setLogo(QWizardPage *page, const QString &resourcePath)
+{
+    page->setPixmap(QWizard::LogoPixmap,
+                    XuiPixmapHelper::CreateHighDpiPixmap(resourcePath, 255, QSize(-1, -1)));
+}
+
+void openInBrowser(const QString &url)
+{
+    QDesktopServices::openUrl(QUrl(url));
+}
+
+} // namespace PanoHead
