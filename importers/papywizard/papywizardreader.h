@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "importers/common/recordfile.h"
+#include "model/lensmodel.h"
+#include "model/shootdata.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QVector>
+
+#include <optional>
+
+namespace PanoHead
+{
+
+/** What a Papywizard XML record says. */
+struct PapywizardRecord {
+    QVector<ShootData> shots; ///< one per `pict` element, file order; degrees
+    QString title;
+    QString gps;
+    QString comment;
+    double xmlFocal = -1.0; ///< mm times `sensorCoef`; -1.0: the record has no lens
+    double sensorCoef = 1.0; ///< crop factor
+    int nbPicts = -1; ///< photos per position; -1: the record does not say
+    int xmlLensType = static_cast<int>(LensModel::Standard);
+    bool portrait = false;
+    bool hasShoot = false; ///< there is a `shoot` element, with or without pictures
+};
+
+/**
+ * Reads a record from the bytes of its file. Missing elements and attributes keep the defaults;
+ * numbers that do not convert, or are not finite as 32-bit float, become 0 (the crop factor 1.0).
+ * Nothing only when the bytes are not well-formed XML or exceed `XmlLimits`; \p error, which may
+ * be null, then says why.
+ */
+[[nodiscard]] std::optional<PapywizardRecord> readPapywizard(const QByteArray &bytes,
+                                                             ReadError *error = nullptr);
+
+} // namespace PanoHead
