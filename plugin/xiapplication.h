@@ -27,7 +27,8 @@ public:
     /** Remembers \p path, a file that the user has just chosen. */
     virtual void SetLastPath(const QString &path) = 0;
     virtual QVariant ReadSetting(const QString &group, const QString &key,
-                                 const QVariant &defaultValue) = 0;
+                                 const QVariant &defaultValue)
+        = 0;
     virtual void WriteSetting(const QString &group, const QString &key, const QVariant &value) = 0;
     virtual void Reserved3() = 0;
     /** The user-interface locale. */

@@ -18,8 +18,8 @@ public:
     /** Flags by which the host says which plug-ins it wants; hosts may pass other values. */
     enum APX : int {
         None = 0,
-        Grids = 1,       ///< Gigapan and Papywizard
-        AllHeads = 2,    ///< all four importers
+        Grids = 1, ///< Gigapan and Papywizard
+        AllHeads = 2, ///< all four importers
     };
 
     virtual ~XIPluginLibrary() = default;
