@@ -5,6 +5,7 @@
 #include "tests/support/gate.h"
 
 #include <stdexcept>
+#include <thread>
 
 FakeHost::FakeHost() = default;
 FakeHost::~FakeHost() = default;
@@ -101,6 +102,9 @@ XIImageDef *FakeHost::CreateImageDef(const QString &fileName)
     // Without the lock: a photo that is held back must not hold back another thread's.
     if (photo.enter) {
         photo.enter->open();
+    }
+    for (int i = 0; i < photo.spins; ++i) {
+        std::this_thread::yield();
     }
     if (photo.leave) {
         photo.leave->pass();

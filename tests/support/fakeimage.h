@@ -34,6 +34,7 @@ struct FakePhoto {
     int lensType = 0;
     long shotTime = 0;
     float exposure = 0.0F;
+    int spins = 0; ///< how often the host yields its processor before it answers
     Gate *enter = nullptr; ///< opened once when the host begins with the photo
     Gate *leave = nullptr; ///< the host needs a pass through this one before it answers
 };
