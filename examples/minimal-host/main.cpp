@@ -132,7 +132,7 @@ int main(int argc, char **argv)
         err << "usage: minimal-host PATH/libXPanoHead.so\n";
         return 2;
     }
-    QPluginLoader loader(MinimalHost::arguments().at(1));
+    QPluginLoader loader(QFileInfo(MinimalHost::arguments().at(1)).absoluteFilePath());
     QObject *root = loader.instance();
     auto *library = root == nullptr
         ? nullptr
