@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
 #include <QDir>
-#include <QDirIterator>
 #include <QFile>
 #include <QImage>
+#include <QRegularExpression>
 #include <QTranslator>
 #include <QtTest>
 
@@ -20,6 +20,13 @@ class ResourcesTest : public QObject
 private Q_SLOTS:
     void wizardPictureHasItsPathAndSize_data();
     void wizardPictureHasItsPathAndSize();
+    void uiFolderHoldsExactlyTheNamedIcons();
+    void uiIconHasItsSize_data();
+    void uiIconHasItsSize();
+    void busyAnimationTurnsWithEveryFrame();
+    void controlModuleDeclaresItsTypes_data();
+    void controlModuleDeclaresItsTypes();
+    void uiPackHoldsItsScriptsAndPages();
     void translationFolderHoldsExactlyTheNamedFiles();
     void everyTranslationLoads_data();
     void everyTranslationLoads();
@@ -63,6 +70,171 @@ void ResourcesTest::wizardPictureHasItsPathAndSize()
     QVERIFY2(!picture.isNull(), qPrintable(path));
     QCOMPARE(picture.size(), size);
     QVERIFY(picture.hasAlphaChannel());
+}
+
+void ResourcesTest::uiFolderHoldsExactlyTheNamedIcons()
+{
+    QStringList expected{
+        QStringLiteral("video_pause@2x"),
+        QStringLiteral("compass_reflect"),
+        QStringLiteral("video_widgetscreen@2x"),
+        QStringLiteral("compass_background"),
+        QStringLiteral("collapsible_open"),
+        QStringLiteral("video_widgetscreen"),
+        QStringLiteral("settings_small_disabled"),
+        QStringLiteral("flag"),
+        QStringLiteral("help_24"),
+        QStringLiteral("help_16"),
+        QStringLiteral("help_case_studies_icon_64px"),
+        QStringLiteral("blog"),
+        QStringLiteral("settings_small"),
+        QStringLiteral("video_mute"),
+        QStringLiteral("video_volume"),
+        QStringLiteral("help_forum_icon_64px"),
+        QStringLiteral("video_fullscreen"),
+        QStringLiteral("sizegrip"),
+        QStringLiteral("video_fullscreen@2x"),
+        QStringLiteral("help_general_icon_64px"),
+        QStringLiteral("sound_play_16"),
+        QStringLiteral("google-plus"),
+        QStringLiteral("video_mute@2x"),
+        QStringLiteral("collapsible_close"),
+        QStringLiteral("video_play@2x"),
+        QStringLiteral("video_pause"),
+        QStringLiteral("compass_arrow"),
+        QStringLiteral("flickr"),
+        QStringLiteral("twitter"),
+        QStringLiteral("video_volume@2x"),
+        QStringLiteral("youtube"),
+        QStringLiteral("help_video_tutorials_icon_64px"),
+        QStringLiteral("facebook"),
+        QStringLiteral("video_play"),
+        QStringLiteral("sound_play_16@2"),
+        QStringLiteral("iconwait_01"),
+        QStringLiteral("iconwait_02"),
+        QStringLiteral("iconwait_03"),
+        QStringLiteral("iconwait_04"),
+        QStringLiteral("iconwait_05"),
+        QStringLiteral("iconwait_06"),
+        QStringLiteral("iconwait_07"),
+        QStringLiteral("iconwait_08"),
+        QStringLiteral("iconwait_09"),
+        QStringLiteral("iconwait_10"),
+        QStringLiteral("iconwait_11"),
+        QStringLiteral("iconwait_12"),
+        QStringLiteral("help_user_manual_icon_64px"),
+    };
+    QCOMPARE(expected.size(), 48);
+    expected.replaceInStrings(QRegularExpression(QStringLiteral("$")), QStringLiteral(".png"));
+    QStringList found = QDir(QStringLiteral(":/UI")).entryList(QDir::Files);
+    expected.sort();
+    found.sort();
+    QCOMPARE(found, expected);
+    for (const QString &icon : found)
+        QVERIFY2(!QImage(QStringLiteral(":/UI/") + icon).isNull(), qPrintable(icon));
+}
+
+void ResourcesTest::uiIconHasItsSize_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<int>("side");
+    const auto row = [](const char *path, int side) {
+        QTest::newRow(path) << QString::fromLatin1(path) << side;
+    };
+    row(":/UI/video_play.png", 24);
+    row(":/UI/video_play@2x.png", 48);
+    row(":/UI/help_16.png", 16);
+    row(":/UI/help_24.png", 24);
+    row(":/UI/help_general_icon_64px.png", 64);
+    row(":/UI/sound_play_16.png", 16);
+    row(":/UI/sound_play_16@2.png", 32);
+    row(":/UI/settings_small.png", 16);
+    row(":/UI/settings_small_disabled.png", 16);
+    row(":/Resources/settings_small.png", 16);
+    row(":/UI/compass_background.png", 128);
+    row(":/UI/compass_arrow.png", 128);
+    row(":/UI/iconwait_01.png", 32);
+}
+
+void ResourcesTest::uiIconHasItsSize()
+{
+    QFETCH(QString, path);
+    QFETCH(int, side);
+    QCOMPARE(QImage(path).size(), QSize(side, side));
+}
+
+void ResourcesTest::busyAnimationTurnsWithEveryFrame()
+{
+    const auto frame = [](int number) {
+        return QImage(QStringLiteral(":/UI/iconwait_%1.png").arg(number, 2, 10, QLatin1Char('0')));
+    };
+    // The brightest dot sits at twelve o'clock first and moves on by a twelfth of a turn, so three
+    // frames are a quarter turn clockwise.
+    for (int number = 1; number <= 12; ++number) {
+        for (int other = number + 1; other <= 12; ++other)
+            QVERIFY2(frame(number) != frame(other), qPrintable(QString::number(number)));
+    }
+    const auto opacityAt
+        = [&frame](int number, int x, int y) { return qAlpha(frame(number).pixel(x, y)); };
+    QVERIFY(opacityAt(1, 16, 4) > 240);
+    QVERIFY(opacityAt(4, 28, 16) > 240);
+    QVERIFY(opacityAt(7, 16, 28) > 240);
+    QVERIFY(opacityAt(10, 4, 16) > 240);
+    QVERIFY(opacityAt(4, 16, 4) < 220);
+}
+
+void ResourcesTest::controlModuleDeclaresItsTypes_data()
+{
+    QTest::addColumn<QString>("theme");
+    QTest::addColumn<QStringList>("declarations");
+    QTest::newRow("dark") << QStringLiteral("dark")
+                          << QStringList{ QStringLiteral("Button 1.0 button.qml"),
+                                          QStringLiteral("CheckBox 1.0 checkbox.qml"),
+                                          QStringLiteral("Slider 1.0 slider.qml"),
+                                          QStringLiteral("SpinBox 1.0 spinbox.qml"),
+                                          QStringLiteral("ComboBox 1.0 combobox.qml") };
+    QTest::newRow("light") << QStringLiteral("light")
+                           << QStringList{ QStringLiteral("Button 1.0 button.qml") };
+}
+
+void ResourcesTest::controlModuleDeclaresItsTypes()
+{
+    QFETCH(QString, theme);
+    QFETCH(QStringList, declarations);
+    const QDir folder(QStringLiteral(":/UI/qml/%1/OrvaneControls").arg(theme));
+    QFile qmldir(folder.filePath(QStringLiteral("qmldir")));
+    QVERIFY(qmldir.open(QIODevice::ReadOnly));
+    QStringList lines = QString::fromUtf8(qmldir.readAll()).split(QLatin1Char('\n'));
+    lines
+        = lines.filter(QRegularExpression(QStringLiteral("^[^#]"))); // neither comments nor blanks
+    QCOMPARE(lines.takeFirst(), QStringLiteral("module OrvaneControls"));
+    QCOMPARE(lines, declarations);
+
+    QStringList expected{ QStringLiteral("qmldir") };
+    for (const QString &declaration : declarations)
+        expected << declaration.section(QLatin1Char(' '), 2);
+    expected.sort();
+    QStringList found = folder.entryList();
+    found.sort();
+    QCOMPARE(found, expected);
+}
+
+void ResourcesTest::uiPackHoldsItsScriptsAndPages()
+{
+    const auto filesIn = [](const QString &folder) {
+        QStringList files = QDir(folder).entryList(QDir::Files);
+        files.sort();
+        return files;
+    };
+    QCOMPARE(filesIn(QStringLiteral(":/QML")),
+             (QStringList{ QStringLiteral("CubeFace.qml"), QStringLiteral("cubefaces.js"),
+                           QStringLiteral("preview.qml"), QStringLiteral("rotator.qml") }));
+    QCOMPARE(filesIn(QStringLiteral(":/html")),
+             (QStringList{ QStringLiteral("ggmap.html"), QStringLiteral("ggmap_geolocation.html"),
+                           QStringLiteral("htmleditor.html") }));
+    QCOMPARE(filesIn(QStringLiteral(":/Shader")).size(), 1);
+    QCOMPARE(filesIn(QStringLiteral(":/Resources")),
+             QStringList{ QStringLiteral("settings_small.png") });
 }
 
 void ResourcesTest::translationFolderHoldsExactlyTheNamedFiles()
