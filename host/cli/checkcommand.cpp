@@ -1,0 +1,160 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/cli/commanderror.h"
+#include "host/cli/commands.h"
+#include "host/cli/displayname.h"
+#include "host/cli/importjob.h"
+#include "host/cli/inputcheck.h"
+#include "host/cli/lenschoice.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace PanoHost
+{
+
+namespace
+{
+
+CommandLine checkLine()
+{
+    return CommandLine(
+        { "panohost check papywizard RECORD.xml PHOTO...",
+          "Says what record and photos know: counts, focal length, lens, order, pauses.\n"
+          "Writes nothing. Exit status 3 when 'import' would refuse them.",
+          "# 33 photos, 36 shots: where did the shoot stop?\n"
+          "panohost check papywizard shoot.xml IMG_*.jpg" },
+        importOptions());
+}
+
+void printRow(const char *name, const QString &text)
+{
+    printOut(QStringLiteral("%1 %2\n").arg(QString::fromLatin1(name), -8).arg(onOneLine(text)));
+}
+
+QString millimetres(double focal35mm)
+{
+    return focal35mm > 0.0 ? QStringLiteral("%1 mm").arg(QString::number(focal35mm, 'g', 4))
+                           : QStringLiteral("not known");
+}
+
+QString lensName(LensModel lens)
+{
+    switch (lens) {
+    case LensModel::Standard:
+        return QStringLiteral("standard");
+    case LensModel::Fisheye:
+        return QStringLiteral("fisheye");
+    case LensModel::NotChosen:
+        break;
+    }
+    return QStringLiteral("not known");
+}
+
+void printRecord(const QString &path, const RecordSummary &record)
+{
+    printRow("record",
+             QStringLiteral("%1: %2, bracket %3, focal %4, lens %5")
+                 .arg(displayName(path), counted(record.shotCount, "shot"),
+                      QString::number(record.bracketCount), millimetres(record.focal35mm),
+                      lensName(record.lens)));
+}
+
+/** The photos that can be read; names the others. */
+QVector<PhotoInfo> readableInfos(Session &session, const QStringList &photos)
+{
+    QVector<PhotoInfo> infos;
+    for (const QString &photo : photos) {
+        Interrupt::check();
+        const Result<PhotoInfo> info = session.app.photoInfo(photo);
+        if (info) {
+            infos += info.value();
+        } else {
+            printRow("bad", QStringLiteral("%1: %2").arg(displayName(photo), info.error().why));
+        }
+        session.console.progress(infos.size(), photos.size(),
+                                 QStringLiteral("reading %1").arg(QFileInfo(photo).fileName()));
+    }
+    session.console.endProgress();
+    return infos;
+}
+
+/** Whether the photos, in the order of the shots, were taken one after the other. */
+QString orderText(const QVector<PhotoInfo> &photos)
+{
+    for (int i = 1; i < photos.size(); ++i) {
+        const PhotoInfo &before = photos.at(i - 1);
+        const PhotoInfo &photo = photos.at(i);
+        if (before.timeMs == 0 || photo.timeMs == 0) {
+            return QStringLiteral("not all photos have a capture time");
+        }
+        if (photo.timeMs < before.timeMs) {
+            return QStringLiteral("%1 was taken before %2; try --order time")
+                .arg(QFileInfo(photo.path).fileName(), QFileInfo(before.path).fileName());
+        }
+    }
+    return QStringLiteral("capture times agree");
+}
+
+/** The longest pause between two photos, when it stands out. */
+QString gapText(const QVector<PhotoInfo> &photos)
+{
+    QVector<qint64> pauses;
+    for (int i = 1; i < photos.size(); ++i) {
+        pauses += photos.at(i).timeMs - photos.at(i - 1).timeMs;
+    }
+    if (pauses.isEmpty()) {
+        return QStringLiteral("none");
+    }
+    const auto longest = std::max_element(pauses.begin(), pauses.end());
+    QVector<qint64> sorted = pauses;
+    std::sort(sorted.begin(), sorted.end());
+    constexpr qint64 kNotableFactor = 4;
+    constexpr qint64 kNotableMs = 5000;
+    const qint64 usual = sorted.at(sorted.size() / 2);
+    if (*longest < std::max(kNotableMs, usual * kNotableFactor)) {
+        return QStringLiteral("none");
+    }
+    const int before = static_cast<int>(longest - pauses.begin());
+    return QStringLiteral("%1 s after %2 (usually %3 s)")
+        .arg(QString::number(*longest / 1000), QFileInfo(photos.at(before).path).fileName(),
+             QString::number(usual / 1000));
+}
+
+void printPhotos(const QVector<PhotoInfo> &photos, int given)
+{
+    const LensFacts facts = lensFactsOf(photos);
+    printRow("photos",
+             QStringLiteral("%1 given, %2 readable, focal %3, lens %4")
+                 .arg(QString::number(given), QString::number(photos.size()),
+                      millimetres(facts.focal35mm), lensName(facts.lens)));
+    printRow("order", orderText(photos));
+    printRow("gaps", gapText(photos));
+}
+
+} // namespace
+
+ExitCode runCheck(Session &session, const QStringList &arguments)
+{
+    CommandLine line = checkLine();
+    if (!line.parse(arguments)) {
+        return ExitCode::Done;
+    }
+    applyCommonOptions(session, line);
+    const ImportRequest request = importRequest(line);
+    if (request.head->readRecord != nullptr) {
+        printRecord(request.record, valueOrThrow(request.head->readRecord(request.record)));
+    }
+    requirePhotoFiles(request.photos);
+    const QStringList photos = orderedPhotos(session, request.photos, request.order);
+    printPhotos(readableInfos(session, photos), photos.size());
+
+    ImportJob job(session, request);
+    job.checkInputs();
+    job.preparePage();
+    printRow("result", QStringLiteral("can be imported"));
+    return ExitCode::Done;
+}
+
+} // namespace PanoHost

@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/cli/environment.h"
+
+#include <QByteArray>
+#include <QDir>
+#include <QFile>
+#include <QtGlobal>
+
+#include <clocale>
+#include <cstdio>
+#include <langinfo.h>
+
+namespace PanoHost
+{
+
+namespace
+{
+
+/**
+ * File names are bytes; Qt turns them into text by the locale. Under the plain "C" locale names
+ * with accents would be mangled, here and in every tool that is called.
+ */
+void requireUnicodeFileNames()
+{
+    std::setlocale(LC_ALL, "");
+    if (QByteArray(nl_langinfo(CODESET)) == QByteArrayLiteral("UTF-8")) {
+        return;
+    }
+    qunsetenv("LC_ALL");
+    qputenv("LC_CTYPE", "C.UTF-8");
+    std::setlocale(LC_ALL, "");
+}
+
+/** Qt's remarks about its own platform are no news for whoever runs a command. */
+bool isPlatformNote(const QByteArray &text)
+{
+    return text.contains("propagateSizeHints") || text.startsWith("No such plugin")
+        || text.contains("XDG_RUNTIME_DIR") || text.contains("This plugin does not support");
+}
+
+void messageHandler(QtMsgType type, const QMessageLogContext &, const QString &message)
+{
+    const QByteArray text = message.toLocal8Bit();
+    if (isPlatformNote(text)) {
+        return;
+    }
+    std::fprintf(stderr, "panohost: %s\n", text.constData());
+    if (type == QtFatalMsg) {
+        std::abort();
+    }
+}
+
+} // namespace
+
+QStringList Environment::decodeArguments(int argc, char **argv)
+{
+    requireUnicodeFileNames();
+    QStringList words;
+    words.reserve(argc);
+    for (int i = 1; i < argc; ++i) {
+        words += QString::fromLocal8Bit(argv[i]);
+    }
+    return words;
+}
+
+Environment::Environment(Use use)
+{
+    if (use == Use::Window) {
+        return;
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qunsetenv("QT_QPA_PLATFORMTHEME");
+    qunsetenv("QT_STYLE_OVERRIDE");
+    // File dialogs keep their state in QtProject.conf: a command must not change the user's.
+    m_configFolder = std::make_unique<QTemporaryDir>(QDir::tempPath()
+                                                     + QStringLiteral("/panohost-config-XXXXXX"));
+    if (m_configFolder->isValid()) {
+        qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_configFolder->path()));
+    }
+    qInstallMessageHandler(messageHandler);
+}
+
+bool Environment::hasDisplay()
+{
+    return !qEnvironmentVariableIsEmpty("DISPLAY")
+        || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
+        || !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+}
+
+} // namespace PanoHost

@@ -1,0 +1,123 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/cli/commanderror.h"
+#include "host/cli/commands.h"
+#include "host/cli/displayname.h"
+#include "host/cli/importjob.h"
+#include "host/cli/inputcheck.h"
+#include "host/core/panoramajson.h"
+#include "host/core/ptoproject.h"
+
+#include <QDir>
+
+namespace PanoHost
+{
+
+namespace
+{
+
+CommandLine importLine()
+{
+    return CommandLine(
+        { "panohost import papywizard RECORD.xml PHOTO... -o NAME.pto [--json FILE|-]",
+          "Reads the record and the photos through the head's import page and writes a\n"
+          "project that Hugin and its tools open. Photos belong to shots by their names\n"
+          "in order (IMG_10 comes before IMG_9); --order changes that.",
+          "# the usual case\n"
+          "panohost import papywizard shoot.xml IMG_*.jpg -o shoot.pto\n"
+          "# no EXIF data, a lens of 24 mm (35 mm equivalent), camera in portrait position\n"
+          "panohost import papywizard shoot.xml *.tif --focal 24 --rotate 90 -o shoot.pto\n"
+          "# a head that counts downwards; the description goes to another program\n"
+          "panohost import papywizard shoot.xml *.jpg --invert-pitch --json - | jq .positions" },
+        QVector<OptionRow>{
+            { "-o|--output", "NAME.pto", "the Hugin project to write", nullptr },
+            { "--json", "FILE|-", "the description as JSON; '-' is standard output", nullptr },
+        } + importOptions());
+}
+
+struct Outputs {
+    QString project; ///< empty: none
+    QString json; ///< empty: none
+    bool jsonToStdout = false;
+};
+
+Outputs outputsFrom(const CommandLine &line)
+{
+    Outputs outputs;
+    const QString project = line.value(QStringLiteral("output"));
+    const QString json = line.value(QStringLiteral("json"));
+    if (project.isEmpty() && json.isEmpty()) {
+        throw usageError(QStringLiteral("no result asked for"),
+                         QStringLiteral("add -o NAME.pto or --json FILE"));
+    }
+    outputs.jsonToStdout = json == QLatin1String("-");
+    if (!project.isEmpty()) {
+        outputs.project = QDir().absoluteFilePath(project);
+    }
+    if (!json.isEmpty() && !outputs.jsonToStdout) {
+        outputs.json = QDir().absoluteFilePath(json);
+    }
+    if (!outputs.json.isEmpty() && outputs.json == outputs.project) {
+        throw usageError(QStringLiteral("-o and --json name the same file"));
+    }
+    return outputs;
+}
+
+void requireWritableOutputs(const Outputs &outputs, const ImportRequest &request)
+{
+    const QStringList inputs = QStringList(request.record) + request.photos;
+    for (const QString &path : { outputs.project, outputs.json }) {
+        if (!path.isEmpty()) {
+            requireWritable(path, inputs);
+        }
+    }
+}
+
+void writeProject(Session &session, Panorama &panorama, const QString &path,
+                  const ImportRequest &request)
+{
+    PtoOptions options;
+    options.ignoreExifRotation = request.ignoreExifRotation;
+    const PtoProject project = valueOrThrow(writePtoProject(panorama, path, options));
+    panorama.project = ProjectReference{ path, project.yawCentreDegrees };
+    for (const QString &warning : project.warnings) {
+        session.console.warning(warning);
+    }
+    panorama.warnings += project.warnings;
+}
+
+} // namespace
+
+ExitCode runImport(Session &session, const QStringList &arguments)
+{
+    CommandLine line = importLine();
+    if (!line.parse(arguments)) {
+        return ExitCode::Done;
+    }
+    applyCommonOptions(session, line);
+    const ImportRequest request = importRequest(line);
+    const Outputs outputs = outputsFrom(line);
+    requireWritableOutputs(outputs, request);
+
+    Panorama panorama = importPanorama(session, request);
+    Interrupt::check();
+    if (!outputs.project.isEmpty()) {
+        writeProject(session, panorama, outputs.project, request);
+    }
+    if (!outputs.json.isEmpty()) {
+        (void)valueOrThrow(writePanoramaJson(panorama, outputs.json));
+    }
+    if (outputs.jsonToStdout) {
+        printOut(QString::fromUtf8(panoramaToJson(panorama, QDir::currentPath())));
+    }
+    session.console.info(QStringLiteral("%1%2, %3, %4")
+                             .arg(outputs.project.isEmpty()
+                                      ? QString()
+                                      : displayName(outputs.project) + QStringLiteral(": "),
+                                  counted(panorama.positions.size(), "position"),
+                                  counted(photoCount(panorama), "photo"),
+                                  counted(panorama.description.authorizedLinks.size(), "link")));
+    return ExitCode::Done;
+}
+
+} // namespace PanoHost

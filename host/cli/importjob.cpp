@@ -1,0 +1,161 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/cli/importjob.h"
+
+#include "host/cli/commanderror.h"
+#include "host/cli/displayname.h"
+#include "host/cli/inputcheck.h"
+#include "host/cli/lenschoice.h"
+#include "plugin/xiabout.h"
+
+#include <QDir>
+#include <QWizardPage>
+
+namespace PanoHost
+{
+
+namespace
+{
+
+/** The letters of a library's string literal lie in the library and go with it. */
+QString ownCopy(const QString &text)
+{
+    return QString(text.constData(), text.size());
+}
+
+} // namespace
+
+ImportJob::ImportJob(Session &session, ImportRequest request)
+    : m_session(session)
+    , m_request(std::move(request))
+{
+}
+
+ImportJob::~ImportJob()
+{
+    m_session.app.clearPathAliases();
+}
+
+void ImportJob::checkInputs()
+{
+    const bool hasRecord = m_request.head->readRecord != nullptr;
+    if (hasRecord) {
+        m_record = valueOrThrow(m_request.head->readRecord(m_request.record));
+    }
+    requirePhotoFiles(m_request.photos);
+    if (hasRecord) {
+        requireMatchingCounts(displayName(m_request.record), m_record, m_request.photos.size());
+    }
+    m_photos = orderedPhotos(m_session, m_request.photos, m_request.order);
+}
+
+void ImportJob::preparePage()
+{
+    const ImportPlugin &plugin = openPlugin();
+    m_page = std::make_unique<PageDriver>(plugin.page(), m_session);
+    if (!m_request.record.isEmpty()) {
+        m_page->enterRecord(m_request.record, m_request.head->recordEntry);
+    }
+    m_page->choosePhotos(namesForPage());
+    setFocalAndLens();
+    turnCamera();
+    pressButtons();
+}
+
+const ImportPlugin &ImportJob::openPlugin()
+{
+    // Qt's own dialog is the one that can be filled in; and it would list the user's last folder.
+    m_session.app.setUseSystemFileDialog(false);
+    m_session.app.SetLastPath(QDir::tempPath());
+    m_library = valueOrThrow(PluginLibrary::open(m_session.pluginPath));
+    m_session.console.detail(QStringLiteral("using %1").arg(m_library->path()));
+    const QString head = QString::fromLatin1(m_request.head->name);
+    const ImportPlugin *plugin = m_library->find(head);
+    if (plugin == nullptr || plugin->page() == nullptr) {
+        throw CommandError({ ExitCode::NoPlugin, m_library->path(),
+                             QStringLiteral("has no import plug-in for %1").arg(head),
+                             QStringLiteral("set --plugin to another library") });
+    }
+    m_source = { ownCopy(plugin->about->UID()), ownCopy(plugin->about->Name()), m_request.record,
+                 ownCopy(plugin->about->Version()) };
+    return *plugin;
+}
+
+QStringList ImportJob::namesForPage()
+{
+    if (!NumberedLinks::areNeeded(m_photos)) {
+        return m_photos;
+    }
+    QString error;
+    const QStringList links = m_links.create(m_photos, &error);
+    if (links.isEmpty()) {
+        throw CommandError({ ExitCode::ToolFailed, QStringLiteral("temporary links to the photos"),
+                             error, QStringLiteral("is the temporary folder full? set TMPDIR") });
+    }
+    for (const QString &link : links) {
+        m_session.app.addPathAlias(link, m_links.truePaths().value(link));
+    }
+    return links;
+}
+
+void ImportJob::setFocalAndLens()
+{
+    QVector<PhotoInfo> infos;
+    infos.reserve(m_photos.size());
+    for (const QString &photo : m_photos) {
+        infos += valueOrThrow(m_session.app.photoInfo(photo));
+    }
+    const LensFacts photoFacts = lensFactsOf(infos);
+    const LensFacts recordFacts{ m_record.focal35mm, m_record.lens };
+    const LensChoice choice = chooseLens(m_request, photoFacts, recordFacts);
+    m_warnings += choice.warnings;
+    m_page->setNumber(QStringLiteral("m_spFocal"), choice.focal35mm);
+    m_page->setIndex(QStringLiteral("m_cbLensType"), static_cast<int>(choice.lens));
+}
+
+void ImportJob::turnCamera()
+{
+    if (m_request.invertPitch) {
+        m_page->click(QStringLiteral("m_pInverseCoordinates"));
+    }
+    const QString button
+        = m_request.clockwiseTurns > 0 ? QStringLiteral("m_pbRot90") : QStringLiteral("m_pbRot270");
+    for (int turn = std::abs(m_request.clockwiseTurns); turn > 0; --turn) {
+        m_page->click(button);
+    }
+}
+
+void ImportJob::pressButtons()
+{
+    for (const ButtonState &button : m_request.buttons) {
+        m_page->setChecked(button.name, button.checked);
+    }
+}
+
+QPixmap ImportJob::layout()
+{
+    return m_page->layout();
+}
+
+Panorama ImportJob::handOver()
+{
+    const StructuredPanoramaProperties description = m_page->handOver();
+    PanoHostApplication &app = m_session.app;
+    Panorama panorama = valueOrThrow(joinPanorama(
+        description, m_source, [&app](const QString &path) { return app.photoInfo(path); }));
+    panorama.warnings = m_warnings + panorama.warnings;
+    for (const QString &warning : qAsConst(panorama.warnings)) {
+        m_session.console.warning(warning);
+    }
+    return panorama;
+}
+
+Panorama importPanorama(Session &session, const ImportRequest &request)
+{
+    ImportJob job(session, request);
+    job.checkInputs();
+    job.preparePage();
+    return job.handOver();
+}
+
+} // namespace PanoHost

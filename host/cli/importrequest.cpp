@@ -1,0 +1,195 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/cli/importrequest.h"
+
+#include "host/cli/commanderror.h"
+
+#include <QDir>
+
+namespace PanoHost
+{
+
+namespace
+{
+
+struct ButtonOption {
+    const char *option;
+    const char *value; ///< null for a switch
+    const char *button;
+    bool checked;
+};
+
+/** In the order of pressing: the pages couple the two radio groups, so the stack comes first. */
+constexpr ButtonOption kButtonOptions[] = {
+    { "stack", "hard", "m_rbStackLinking0", true },
+    { "stack", "detect", "m_rbStackLinking1", true },
+    { "detect", "reference", "m_rbLevelLinking0", true },
+    { "detect", "all", "m_rbLevelLinking1", true },
+    { "auto-detection", nullptr, "m_autoStart", true },
+    { "no-auto-detection", nullptr, "m_autoStart", false },
+    { "clean-links", nullptr, "m_cleanLink", true },
+    { "skip-optimization", nullptr, "m_noOptim", true },
+    { "recorded-location", "yes", "m_GridOptim", true },
+    { "recorded-location", "no", "m_GridOptim", false },
+};
+
+QVector<ButtonState> buttonsFrom(const CommandLine &line)
+{
+    QVector<ButtonState> buttons;
+    for (const ButtonOption &row : kButtonOptions) {
+        const QString option = QString::fromLatin1(row.option);
+        const bool wanted = line.isSet(option)
+            && (row.value == nullptr || line.value(option) == QLatin1String(row.value));
+        if (wanted) {
+            buttons += { QString::fromLatin1(row.button), row.checked };
+        }
+    }
+    return buttons;
+}
+
+void refuseContradictions(const CommandLine &line)
+{
+    if (line.value(QStringLiteral("detect")) == QLatin1String("all")
+        && line.value(QStringLiteral("stack")) == QLatin1String("hard")) {
+        throw usageError(QStringLiteral("--detect all needs --stack detect: hard-linked photos of "
+                                        "a stack take their place from its reference photo"),
+                         QStringLiteral("drop one of the two"));
+    }
+    if (line.isSet(QStringLiteral("auto-detection"))
+        && line.isSet(QStringLiteral("no-auto-detection"))) {
+        throw usageError(QStringLiteral("--auto-detection and --no-auto-detection exclude each "
+                                        "other"),
+                         QStringLiteral("drop one of the two"));
+    }
+}
+
+/** Options that other heads have and this one has not. */
+void refuseForeignOptions(const CommandLine &line, const HeadRow &head)
+{
+    const QStringList own = QString::fromLatin1(head.options).split(QLatin1Char('|'));
+    for (const OptionRow &row : importOptions()) {
+        const QString name = longName(row);
+        if (line.isSet(name) && !own.contains(name)) {
+            throw usageError(QStringLiteral("--%1 is not an option of %2")
+                                 .arg(name, QString::fromLatin1(head.name)));
+        }
+    }
+}
+
+void setFocal(ImportRequest &request, const QString &word)
+{
+    if (word == QLatin1String("xml") || word == QLatin1String("exif")) {
+        request.focalSource
+            = word == QLatin1String("xml") ? ValueSource::Record : ValueSource::Photos;
+        return;
+    }
+    constexpr double kSmallestMm = 1.0;
+    constexpr double kLargestMm = 10000.0;
+    bool isNumber = false;
+    request.focal35mm = word.toDouble(&isNumber);
+    if (!isNumber || !(request.focal35mm >= kSmallestMm && request.focal35mm <= kLargestMm)) {
+        throw usageError(QStringLiteral("--focal %1: not a focal length").arg(word),
+                         QStringLiteral("give millimetres from 1 to 10000 (35 mm equivalent), "
+                                        "'xml' or 'exif'"));
+    }
+    request.focalSource = ValueSource::Given;
+}
+
+void setLens(ImportRequest &request, const QString &word)
+{
+    if (word == QLatin1String("xml")) {
+        request.lensSource = ValueSource::Record;
+        return;
+    }
+    request.lensSource = ValueSource::Given;
+    request.lens = word == QLatin1String("fisheye") ? LensModel::Fisheye : LensModel::Standard;
+}
+
+PhotoOrder orderFrom(const QString &word)
+{
+    if (word == QLatin1String("time")) {
+        return PhotoOrder::ByTime;
+    }
+    return word == QLatin1String("given") ? PhotoOrder::AsGiven : PhotoOrder::ByName;
+}
+
+void setFiles(ImportRequest &request, QStringList words)
+{
+    const QString head = QString::fromLatin1(request.head->name);
+    if (request.head->recordName != nullptr) {
+        if (words.isEmpty()) {
+            throw usageError(QStringLiteral("%1 needs its record, %2, and the photos")
+                                 .arg(head, QString::fromLatin1(request.head->recordName)),
+                             QStringLiteral("see 'panohost import --help'"));
+        }
+        request.record = QDir().absoluteFilePath(words.takeFirst());
+    }
+    if (words.isEmpty()) {
+        throw usageError(QStringLiteral("no photos given"),
+                         QStringLiteral("name them after the record, e.g. DIR/*.jpg"));
+    }
+    request.photos.reserve(words.size());
+    for (const QString &word : words) {
+        request.photos += QDir::cleanPath(QDir().absoluteFilePath(word));
+    }
+}
+
+} // namespace
+
+QVector<OptionRow> importOptions()
+{
+    return {
+        { "--focal", "MM|xml|exif",
+          "focal length, 35 mm equivalent; default: from the photos, else from the record",
+          nullptr },
+        { "--lens", "KIND", "standard, fisheye or xml (what the record says)",
+          "standard|fisheye|xml" },
+        { "--rotate", "DEGREES", "the camera was turned: 90 (clockwise), -90 or 180",
+          "90|-90|180" },
+        { "--invert-pitch", nullptr, "the head counts downwards: swap up and down", nullptr },
+        { "--detect", "LEVEL", "control points in the reference exposures or in all of them",
+          "reference|all" },
+        { "--stack", "HOW", "photos of a bracket: hard links, or detect control points",
+          "hard|detect" },
+        { "--skip-optimization", nullptr,
+          "keep the recorded angles; good for previews and short lenses only", nullptr },
+        { "--recorded-location", "yes|no", "start the optimisation from the recorded angles",
+          "yes|no" },
+        { "--clean-links", nullptr, "remove wrong control points after detection", nullptr },
+        { "--auto-detection", nullptr, "detect control points without asking", nullptr },
+        { "--no-auto-detection", nullptr, "do not", nullptr },
+        { "--ignore-exif-rotation", nullptr,
+          "the photos' EXIF orientation is wrong; use the recorded roll alone", nullptr },
+        { "--order", "HOW", "which photo belongs to which shot: by name, time, or as given",
+          "name|time|given" },
+    };
+}
+
+ImportRequest importRequest(const CommandLine &line)
+{
+    QStringList words = line.positional();
+    if (words.isEmpty()) {
+        throw usageError(
+            QStringLiteral("no head given"),
+            QStringLiteral("one of %1; see --help").arg(headNames().join(QLatin1String(", "))));
+    }
+    ImportRequest request;
+    request.head = &headNamed(words.takeFirst());
+    refuseForeignOptions(line, *request.head);
+    refuseContradictions(line);
+    if (line.isSet(QStringLiteral("focal"))) {
+        setFocal(request, line.value(QStringLiteral("focal")));
+    }
+    if (line.isSet(QStringLiteral("lens"))) {
+        setLens(request, line.value(QStringLiteral("lens")));
+    }
+    request.clockwiseTurns = line.value(QStringLiteral("rotate")).toInt() / 90;
+    request.invertPitch = line.isSet(QStringLiteral("invert-pitch"));
+    request.buttons = buttonsFrom(line);
+    request.ignoreExifRotation = line.isSet(QStringLiteral("ignore-exif-rotation"));
+    request.order = orderFrom(line.value(QStringLiteral("order")));
+    setFiles(request, words);
+    return request;
+}
+
+} // namespace PanoHost

@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "host/cli/commandline.h"
+#include "host/cli/heads.h"
+
+#include <optional>
+
+namespace PanoHost
+{
+
+/** Where a page field takes its value from. */
+enum class ValueSource {
+    Default, ///< the photos where they say it, else the record
+    Photos,
+    Record,
+    Given,
+};
+
+enum class PhotoOrder { ByName, ByTime, AsGiven };
+
+/** A check box or radio button of the page and the state that the user wants. */
+struct ButtonState {
+    QString name;
+    bool checked;
+};
+
+/** One import as asked for on the command line. */
+struct ImportRequest {
+    const HeadRow *head = nullptr;
+    QString record; ///< absolute path; empty for heads without one
+    QStringList photos; ///< absolute paths, in the order given
+    PhotoOrder order = PhotoOrder::ByName;
+    ValueSource focalSource = ValueSource::Default;
+    double focal35mm = 0.0; ///< when given
+    ValueSource lensSource = ValueSource::Default;
+    LensModel lens = LensModel::Standard; ///< when given
+    int clockwiseTurns = 0; ///< quarter turns of the camera; negative: to the left
+    bool invertPitch = false;
+    QVector<ButtonState> buttons; ///< in the order in which they are pressed
+    bool ignoreExifRotation = false;
+};
+
+/** The options of all heads' pages, for the commands that import. */
+[[nodiscard]] QVector<OptionRow> importOptions();
+
+/**
+ * Makes the request from the words HEAD [RECORD] PHOTO... and the options of \p line. Throws the
+ * usage error for an unknown head, missing words, or options that exclude each other.
+ */
+[[nodiscard]] ImportRequest importRequest(const CommandLine &line);
+
+} // namespace PanoHost

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "host/cli/importrequest.h"
+#include "host/core/photofile.h"
+
+namespace PanoHost
+{
+
+/** What one source says about the lens. */
+struct LensFacts {
+    double focal35mm = 0.0; ///< 0: not known
+    LensModel lens = LensModel::NotChosen; ///< `NotChosen`: not known
+    int withoutFocal = 0; ///< photos that do not name a focal length
+};
+
+/** The focal length and lens that an import uses. */
+struct LensChoice {
+    double focal35mm = 0.0;
+    LensModel lens = LensModel::Standard;
+    QStringList warnings;
+};
+
+/** The mean focal length of the photos that name one, and the lens of the last that names one. */
+[[nodiscard]] LensFacts lensFactsOf(const QVector<PhotoInfo> &photos);
+
+/**
+ * Chooses between what the user gave, the photos and the record: without a wish the photos win
+ * where they say something. Throws when the wanted source does not know the focal length.
+ */
+[[nodiscard]] LensChoice chooseLens(const ImportRequest &request, const LensFacts &photos,
+                                    const LensFacts &record);
+
+} // namespace PanoHost

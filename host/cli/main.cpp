@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/cli/commanderror.h"
+#include "host/cli/environment.h"
+#include "host/cli/invocation.h"
+#include "host/cli/wordsuggestion.h"
+#include "host/core/photofile.h"
+#include "host/gui/window.h"
+
+#include <new>
+
+using namespace PanoHost;
+
+namespace
+{
+
+ExitCode dispatch(Session &session, const Invocation &invocation)
+{
+    switch (invocation.kind) {
+    case Invocation::Kind::Window:
+        return runWindow(session, invocation.arguments);
+    case Invocation::Kind::Command:
+        return invocation.command->run(session, invocation.arguments);
+    case Invocation::Kind::General:
+        (void)generalLine().parse(invocation.arguments);
+        return ExitCode::Done;
+    case Invocation::Kind::Unknown:
+        break;
+    }
+    throw usageError(QStringLiteral("'%1' is neither a command nor a file%2")
+                         .arg(invocation.word, suggestion(invocation.word, commandNames())),
+                     QStringLiteral("see 'panohost --help'"));
+}
+
+ExitCode run(Session &session, const Invocation &invocation)
+{
+    try {
+        return dispatch(session, invocation);
+    } catch (const CommandError &error) {
+        session.console.endProgress();
+        if (error.failure().code != ExitCode::Interrupted) {
+            session.console.error(error.failure());
+        }
+        return error.failure().code;
+    } catch (const std::bad_alloc &) {
+        const Failure failure{
+            ExitCode::InputRefused, QStringLiteral("not enough memory"), {}, {}
+        };
+        session.console.error(failure);
+        return failure.code;
+    }
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const Invocation invocation = Invocation::of(Environment::decodeArguments(argc, argv));
+    const bool window = invocation.kind == Invocation::Kind::Window;
+    Console console;
+    if (window && !Environment::hasDisplay()) {
+        console.error({ ExitCode::Usage,
+                        QStringLiteral("no display to show the window on"),
+                        {},
+                        QStringLiteral("the commands work without one: see 'panohost --help'") });
+        return static_cast<int>(ExitCode::Usage);
+    }
+    const Environment environment(window ? Environment::Use::Window : Environment::Use::Command);
+    initializePhotoReading();
+    if (window) {
+        prepareWindow();
+    }
+    PanoHostApplication app(argc, argv);
+    QCoreApplication::setApplicationVersion(QStringLiteral(PANOHOST_VERSION));
+    Interrupt interrupt;
+    Session session{ app, console, interrupt, {} };
+    return static_cast<int>(run(session, invocation));
+}

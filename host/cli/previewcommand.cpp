@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/cli/commanderror.h"
+#include "host/cli/commands.h"
+#include "host/cli/displayname.h"
+#include "host/cli/importjob.h"
+#include "host/cli/inputcheck.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QFileInfo>
+#include <QImageWriter>
+
+#include "host/core/safefile.h"
+
+namespace PanoHost
+{
+
+namespace
+{
+
+CommandLine previewLine()
+{
+    return CommandLine(
+        { "panohost preview papywizard RECORD.xml PHOTO... -o LAYOUT.png",
+          "Saves the picture that the import page shows: each photo at its place, with\n"
+          "number, yaw and pitch. Works without a display.",
+          "# does every photo sit where it belongs?\n"
+          "panohost preview papywizard shoot.xml IMG_*.jpg -o layout.png" },
+        QVector<OptionRow>{ { "-o|--output", "LAYOUT.png", "the picture to write", nullptr } }
+            + importOptions());
+}
+
+QByteArray formatOf(const QString &path)
+{
+    const QByteArray format = QFileInfo(path).suffix().toLower().toLatin1();
+    if (!QImageWriter::supportedImageFormats().contains(format)) {
+        throw usageError(QStringLiteral("-o %1: no picture format").arg(displayName(path)),
+                         QStringLiteral("end the name in .png or .jpg"));
+    }
+    return format;
+}
+
+} // namespace
+
+ExitCode runPreview(Session &session, const QStringList &arguments)
+{
+    CommandLine line = previewLine();
+    if (!line.parse(arguments)) {
+        return ExitCode::Done;
+    }
+    applyCommonOptions(session, line);
+    const ImportRequest request = importRequest(line);
+    if (!line.isSet(QStringLiteral("output"))) {
+        throw usageError(QStringLiteral("no picture named"), QStringLiteral("add -o LAYOUT.png"));
+    }
+    const QString path = QDir().absoluteFilePath(line.value(QStringLiteral("output")));
+    const QByteArray format = formatOf(path);
+    requireWritable(path, QStringList(request.record) + request.photos);
+
+    ImportJob job(session, request);
+    job.checkInputs();
+    job.preparePage();
+    const QPixmap layout = job.layout();
+    QByteArray picture;
+    QBuffer buffer(&picture);
+    buffer.open(QIODevice::WriteOnly);
+    if (layout.isNull() || !layout.save(&buffer, format.constData())) {
+        throw inputRefused(displayName(path), QStringLiteral("the page shows no layout"),
+                           QStringLiteral("try 'panohost check'"));
+    }
+    (void)valueOrThrow(writeFileAtomically(path, picture));
+    session.console.info(QStringLiteral("%1: %2 x %3 pixels")
+                             .arg(displayName(path), QString::number(layout.width()),
+                                  QString::number(layout.height())));
+    return ExitCode::Done;
+}
+
+} // namespace PanoHost
