@@ -10,15 +10,19 @@
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QPointer>
 #include <QUrl>
 
 namespace PanoHead
 {
 
-QStringList askForFiles(QWidget *parent, const FileQuestion &question, const QString &start)
+namespace
+{
+
+QStringList askForFiles(QWidget *page, const FileQuestion &question, const QString &start)
 {
     QString selectedFilter = question.selectedFilter;
-    return QFileDialog::getOpenFileNames(parent, question.caption, start, question.filters,
+    return QFileDialog::getOpenFileNames(page, question.caption, start, question.filters,
                                          &selectedFilter, XUI::UseSystemFileDialog());
 }
 
@@ -27,6 +31,7 @@ bool controlHeld()
     return QGuiApplication::keyboardModifiers().testFlag(Qt::ControlModifier);
 }
 
+/** Whatever characters the name has; nothing for an empty path. */
 void openInDesktop(const QString &path)
 {
     if (!path.isEmpty()) {
@@ -39,13 +44,11 @@ QString folderOf(const QString &path)
     return path.isEmpty() ? QString() : QFileInfo(path).absolutePath();
 }
 
+/** \p chosen, or where it is empty the place that the host remembers. */
 QString startLocation(const QString &chosen)
 {
-    if (!chosen.isEmpty()) {
-        return chosen;
-    }
     XIApplication *host = findHost();
-    return host == nullptr ? QString() : host->LastPath();
+    return chosen.isEmpty() && host != nullptr ? host->LastPath() : chosen;
 }
 
 void rememberLocation(const QString &path)
@@ -53,6 +56,46 @@ void rememberLocation(const QString &path)
     if (XIApplication *host = findHost()) {
         host->SetLastPath(path);
     }
+}
+
+} // namespace
+
+QStringList selectPhotos(QWidget *page, const FileQuestion &question, const QStringList &current,
+                         ControlShows controlShows)
+{
+    const QString start = startLocation(current.value(0));
+    if (controlHeld()) {
+        openInDesktop(controlShows == ControlShows::Folder ? folderOf(start) : start);
+        return {};
+    }
+    const QPointer<QWidget> guard(page);
+    const QStringList photos = sortedPhotos(askForFiles(page, question, start));
+    if (guard.isNull() || photos.isEmpty()) {
+        return {};
+    }
+    rememberLocation(photos.first());
+    return photos;
+}
+
+std::optional<RecordChoice> selectRecord(QWidget *page, const FileQuestion &question,
+                                         const QString &current, const QString &ending)
+{
+    const QString start = startLocation(current);
+    if (controlHeld()) {
+        openInDesktop(folderOf(start));
+        return std::nullopt;
+    }
+    const QPointer<QWidget> guard(page);
+    const QStringList files = askForFiles(page, question, start);
+    if (guard.isNull()) {
+        return std::nullopt;
+    }
+    RecordChoice choice{ splitSelection(files, ending), {} };
+    if (!files.isEmpty()) {
+        choice.location = choice.selection.record.isEmpty() ? start : choice.selection.record;
+        rememberLocation(choice.location);
+    }
+    return choice;
 }
 
 QStringList sortedPhotos(QStringList files)

@@ -2,8 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "importers/common/photoselection.h"
+
 #include <QString>
 #include <QStringList>
+
+#include <optional>
 
 class ReadingThread;
 class QWidget;
@@ -18,26 +22,36 @@ struct FileQuestion {
     QString selectedFilter;
 };
 
-/** The files that the user picks, in the dialog's order; empty when it was cancelled. */
-[[nodiscard]] QStringList askForFiles(QWidget *parent, const FileQuestion &question,
-                                      const QString &start);
+/** What a button that asks for photos shows instead while Control is held. */
+enum class ControlShows {
+    Location, ///< the start location itself: the first photo, or the host's last path
+    Folder, ///< the folder that holds it
+};
 
-/** Whether Control is held: the button then shows the place instead of asking for files. */
-[[nodiscard]] bool controlHeld();
+/**
+ * Lets the user pick photos, starting at the first of \p current, and tells the host. Sorted
+ * case-sensitively: IMG_10 before IMG_9, Z before a. Empty, and nothing to be done, when the dialog
+ * was cancelled, Control showed the place, or the host deleted \p page meanwhile.
+ */
+[[nodiscard]] QStringList selectPhotos(QWidget *page, const FileQuestion &question,
+                                       const QStringList &current, ControlShows controlShows);
 
-/** Lets the desktop open a file or folder, whatever characters its name has; nothing if empty. */
-void openInDesktop(const QString &path);
+/** What the user picked in a dialog that takes the head's record together with the photos. */
+struct RecordChoice {
+    RecordSelection selection;
+    QString location; ///< the record, or the start location when only photos were picked
+};
 
-/** The folder that holds \p path; empty for an empty path. */
-[[nodiscard]] QString folderOf(const QString &path);
+/**
+ * Lets the user pick the head's record, known by its \p ending, and photos, starting at
+ * \p current, and tells the host. Everything is empty when the dialog was cancelled. Nothing, and
+ * nothing to be done, when Control showed the folder or the host deleted \p page meanwhile.
+ */
+[[nodiscard]] std::optional<RecordChoice> selectRecord(QWidget *page, const FileQuestion &question,
+                                                       const QString &current,
+                                                       const QString &ending);
 
-/** \p chosen, or where it is empty the place that the host remembers. */
-[[nodiscard]] QString startLocation(const QString &chosen);
-
-/** Tells the host what the user has chosen. */
-void rememberLocation(const QString &path);
-
-/** Sorted case-sensitively: IMG_10 before IMG_9, Z before a. */
+/** Sorted case-sensitively. */
 [[nodiscard]] QStringList sortedPhotos(QStringList files);
 
 /** Reads \p files from a clean start; not at all without a host. */

@@ -4,10 +4,9 @@
 
 #include "importers/common/angles.h"
 #include "importers/common/displaytexts.h"
-#include "importers/common/mismatch.h"
-#include "importers/common/photoselection.h"
 #include "importers/common/previewlayout.h"
 #include "importers/common/shotorder.h"
+#include "importers/papywizard/recordedshoot.h"
 #include "plugin/hostapplication.h"
 #include "plugin/readingthread.h"
 #include "plugin/xiapplication.h"
@@ -18,8 +17,7 @@
 #include "ui/pagesetup.h"
 #include "ui/plaintooltip.h"
 #include "ui/previewlabel.h"
-
-#include <QPointer>
+#include "ui/shootview.h"
 
 #include <algorithm>
 
@@ -31,6 +29,19 @@ namespace
 // The step is limited, so that close rows do not blow the picture up.
 constexpr LayoutRules kPapywizardLayout{ 8.0 /* smallest step, degrees */, Span::Absolute,
                                          Precision::Double };
+
+ShootView shootView(const Ui::UIWPMerlinClass &form)
+{
+    return { form.m_leConfigFile, form.m_lbPapyLog, form.m_lbThetaMinMax,
+             form.m_lbPhiMinMax,  form.m_leImage,   form.m_lbImageLog };
+}
+
+LensView lensView(const Ui::UIWPMerlinClass &form)
+{
+    return { form.m_lbBracket,          form.m_lbFocalLength, form.m_pbFLUseXML,
+             form.m_lbFocalLengthImage, form.m_pbFLUseImage,  form.m_spFocal,
+             form.m_cbLensType };
+}
 
 LinkingChoices linkingChoices(const Ui::UIWPMerlinClass &form)
 {
@@ -100,7 +111,8 @@ void UIWPMerlin::cleanupPage()
 
 bool UIWPMerlin::isComplete() const
 {
-    return images.size() == m_readingThread->XIImageDefs().size() && images.size() == shotCount;
+    return m_state.images.size() == m_readingThread->XIImageDefs().size()
+        && m_state.images.size() == m_state.shotCount;
 }
 
 bool UIWPMerlin::validatePage()
@@ -109,14 +121,15 @@ bool UIWPMerlin::validatePage()
     if (host == nullptr) {
         return true;
     }
-    if (nbPicts > 1 && !fillsBrackets(images.size(), nbPicts)) {
+    if (!fillsBrackets(m_state.images.size(), nbPicts)) {
         showMessage(this, QMessageBox::Warning, tr("Warning"),
                     tr("Papywizard XML has bracketing and the number of images isn't a multiple of "
                        "this number of brackets."));
         return false;
     }
     nbPicts = std::max(nbPicts, 1);
-    generateSPP(images, m_spFocal->value(), static_cast<LensModel>(m_cbLensType->currentIndex()));
+    generateSPP(m_state.images, m_spFocal->value(),
+                static_cast<LensModel>(m_cbLensType->currentIndex()));
     writeLinking(*this, linkingChoices(*this));
     writeOptions(*this, detectionOptions(*this));
     host->ImportStructuredPanorama(*this);
@@ -141,46 +154,35 @@ void UIWPMerlin::BrowserWeb(const QString &url)
 
 void UIWPMerlin::ParseConfigFile(const QString &path)
 {
-    shotCount = -1;
-    setExtents({ AngleRange::scanStart(), AngleRange::scanStart() });
-    if (!parse(path)) {
+    if (!readRecord(*this, m_state, path)) {
         return;
     }
-    shotCount = shots.size();
     m_leHeaderTitle->setText(MerlinToSPP::title);
     m_leHeaderGps->setText(gps);
     m_leHeaderComment->setText(comment);
-    m_leConfigFile->setToolTip(QStringLiteral("%1\n%2\n%3").arg(MerlinToSPP::title, gps, comment));
-    setExtents(extentsOf(shots));
+    m_leConfigFile->setToolTip(headerText(*this));
 }
 
 void UIWPMerlin::SelectConfigFile()
 {
-    const QString start = startLocation(configPath);
-    if (controlHeld()) {
-        openInDesktop(folderOf(start));
+    const auto choice
+        = selectRecord(this,
+                       { tr("Select the preset file and/or images"),
+                         tr("All Files (*.*);;XML files (*.xml)"), tr("All Files (*.*)") },
+                       m_state.configPath, QStringLiteral(".xml"));
+    if (!choice) {
         return;
     }
-    const QPointer<UIWPMerlin> self(this);
-    const QStringList files
-        = askForFiles(this,
-                      { tr("Select the preset file and/or images"),
-                        tr("All Files (*.*);;XML files (*.xml)"), tr("All Files (*.*)") },
-                      start);
-    if (self.isNull()) {
-        return;
+    // Photos alone make the start location the record; a cancelled dialog reads the current one
+    // again. Both wanted.
+    if (!choice->location.isEmpty()) {
+        m_state.configPath = choice->location;
     }
-    const RecordSelection selection = splitSelection(files, QStringLiteral(".xml"));
-    if (!files.isEmpty()) {
-        configPath = selection.record.isEmpty() ? start : selection.record;
-        rememberLocation(configPath);
+    if (!m_state.configPath.isEmpty()) {
+        ParseConfigFile(m_state.configPath);
     }
-    // A cancelled dialog reads the current record again.
-    if (!configPath.isEmpty()) {
-        ParseConfigFile(configPath);
-    }
-    if (!selection.photos.isEmpty()) {
-        usePhotos(selection.photos);
+    if (!choice->selection.photos.isEmpty()) {
+        usePhotos(sortedPhotos(choice->selection.photos));
     }
     UpdateUI();
     Q_EMIT completeChanged();
@@ -188,92 +190,64 @@ void UIWPMerlin::SelectConfigFile()
 
 void UIWPMerlin::SelectImages()
 {
-    const QString start = startLocation(images.value(0));
-    if (controlHeld()) {
-        openInDesktop(folderOf(start));
-        return;
-    }
-    const QPointer<UIWPMerlin> self(this);
-    const QStringList photos = askForFiles(
-        this, { tr("Select images"), tr("All Files (*.*)"), tr("All Files (*.*)") }, start);
-    if (self.isNull()) {
-        return;
-    }
+    const QStringList photos
+        = selectPhotos(this, { tr("Select images"), tr("All Files (*.*)"), tr("All Files (*.*)") },
+                       m_state.images, ControlShows::Folder);
     if (!photos.isEmpty()) {
         usePhotos(photos);
-        rememberLocation(images.first());
+        UpdateUI();
+        Q_EMIT completeChanged();
     }
-    UpdateUI();
-    Q_EMIT completeChanged();
 }
 
 void UIWPMerlin::usePhotos(const QStringList &photos)
 {
-    images = sortedPhotos(photos);
+    m_state.images = photos;
     previewImages.clear();
-    readPhotos(*m_readingThread, images);
+    readPhotos(*m_readingThread, photos);
 }
 
 void UIWPMerlin::SetConfigFFilename(const QString &text)
 {
-    configPath = text;
-    ParseConfigFile(configPath);
+    m_state.configPath = text;
+    ParseConfigFile(text);
     UpdateUI();
     Q_EMIT completeChanged();
 }
 
 void UIWPMerlin::Reset()
 {
-    configPath.clear();
-    shotCount = -1;
-    nbPicts = -1;
-    xmlFocal = kNoRecordedFocal;
-    xmlLensType = 0;
-    imageFocal = 0.0;
-    imageLensType = 0;
-    setExtents({ AngleRange::unknown(), AngleRange::unknown() });
-    images.clear();
-    shots.clear();
+    forgetShoot(*this, m_state);
     m_readingThread->Clear();
     redrawAll();
 }
 
 void UIWPMerlin::OnImageLoaded()
 {
-    const LensFacts photos = lensFactsOf(m_readingThread->XIImageDefs());
-    imageFocal = photos.focalMm;
-    imageLensType = photos.lensType;
-    const LensFacts preset = PanoHead::presetLens(photos, { xmlFocal, xmlLensType });
+    const LensFacts preset = adoptPhotos(m_state, *this, m_readingThread->XIImageDefs());
     if (preset.focalMm > 0.0) {
-        presetLens(preset.focalMm, preset.lensType);
+        setLens(lensView(*this), preset);
     }
     UpdateUI();
     Q_EMIT completeChanged();
 }
 
-void UIWPMerlin::presetLens(double focalMm, int lensType)
-{
-    m_spFocal->setValue(focalMm);
-    m_cbLensType->setCurrentIndex(lensType);
-}
-
 void UIWPMerlin::OnFLUseXML()
 {
-    presetLens(xmlFocal, xmlLensType);
+    setLens(lensView(*this), { xmlFocal, xmlLensType });
     redrawAll();
 }
 
 void UIWPMerlin::OnFLUseImage()
 {
-    presetLens(imageFocal, imageLensType);
+    setLens(lensView(*this), { m_state.imageFocal, m_state.imageLensType });
     redrawAll();
 }
 
 void UIWPMerlin::OnInverseCoordinates()
 {
     invertPitch(shots);
-    const AngleExtents old = extents();
-    setExtents({ old.yaw, old.pitch.negated() });
+    m_state.invertPitchRange();
     redrawAll();
 }
 
@@ -316,72 +290,28 @@ void UIWPMerlin::redrawAll()
 void UIWPMerlin::UpdateUI()
 {
     const BlockSignal blocker(this);
-    const QString notAvailable = tr("N/A");
-    m_leConfigFile->setText(configPath);
-    m_lbPapyLog->setText(countText(shotCount, notAvailable));
-    m_leImage->setText(photoNames(images));
-    m_lbImageLog->setText(countText(images.size(), notAvailable));
-    m_lbThetaMinMax->setText(rangeText(extents().yaw, notAvailable));
-    m_lbPhiMinMax->setText(rangeText(extents().pitch, notAvailable));
-    m_lbBracket->setText(nbPicts == -1 ? notAvailable : QStringLiteral("%1").arg(nbPicts));
-    m_lbFocalLength->setText(xmlFocal == kNoRecordedFocal ? notAvailable : focalText(xmlFocal));
-    m_pbFLUseXML->setEnabled(xmlFocal != kNoRecordedFocal);
-    m_lbFocalLengthImage->setText(imageFocal > 0.0 ? focalText(imageFocal) : notAvailable);
-    m_pbFLUseImage->setEnabled(imageFocal > 0.0);
-    m_lbWarning->setText(warningText(warning()));
+    showShoot(shootView(*this), m_state, { tr("N/A"), tr("N/A") });
+    showLens(lensView(*this), nbPicts, xmlFocal, m_state.imageFocal, tr("N/A"));
+    const MismatchTexts texts{
+        tr("Bracketing used in XML, should be multiple of that number"),
+        tr("Not the same as in XML fil"), // cut off like this: wanted
+        tr("Focal Length difference between EXIF and XML"),
+        tr("Lens type difference between EXIF and XML"),
+    };
+    m_lbWarning->setText(warningText(textOf(mismatchOf(*this, m_state), texts)));
     UpdatePreview();
-}
-
-QString UIWPMerlin::warning() const
-{
-    switch (lastMismatch(recordFacts(), nbPicts, photoFacts())) {
-    case Mismatch::None:
-        return {};
-    case Mismatch::Bracketing:
-        return tr("Bracketing used in XML, should be multiple of that number");
-    case Mismatch::Count:
-        return tr("Not the same as in XML fil"); // cut off like this: wanted
-    case Mismatch::FocalLength:
-        return tr("Focal Length difference between EXIF and XML");
-    case Mismatch::LensType:
-        return tr("Lens type difference between EXIF and XML");
-    }
-    return {};
-}
-
-ShootFacts UIWPMerlin::recordFacts() const
-{
-    return { shotCount, { xmlFocal, xmlLensType } };
-}
-
-ShootFacts UIWPMerlin::photoFacts() const
-{
-    return { images.size(), { imageFocal, imageLensType } };
-}
-
-AngleExtents UIWPMerlin::extents() const
-{
-    return { { yawMin, yawMax }, { pitchMin, pitchMax } };
-}
-
-void UIWPMerlin::setExtents(const AngleExtents &extents)
-{
-    yawMin = extents.yaw.minimum;
-    yawMax = extents.yaw.maximum;
-    pitchMin = extents.pitch.minimum;
-    pitchMax = extents.pitch.maximum;
 }
 
 void UIWPMerlin::UpdatePreview()
 {
     const QList<XIImageDef *> read = m_readingThread->XIImageDefs();
-    // The same number of photos counts as the same picture, none included; whoever changes the
-    // picture otherwise empties the list first.
+    // The same number of photos counts as the same picture, none included: wanted. Whoever changes
+    // the picture otherwise empties the list first.
     if (read.size() == previewImages.size()) {
         return;
     }
     previewImages = byShotTime(read, EqualTimes::KeepReadingOrder);
-    m_preview->showScene({ layOutShots(shots, extents(), kPapywizardLayout), previewImages,
+    m_preview->showScene({ layOutShots(shots, m_state.extents(), kPapywizardLayout), previewImages,
                            palette().brush(QPalette::Current, QPalette::Window),
                            CellStyle::FittedWithCaption },
                          m_hSlider->value());

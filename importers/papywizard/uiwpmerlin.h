@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "importers/common/anglerange.h"
+#include "importers/common/shootstate.h"
 #include "importers/papywizard/merlintospp.h"
 #include "ui_uiwpmerlin.h"
 
@@ -14,7 +14,6 @@ class XIImageDef;
 
 namespace PanoHead
 {
-struct ShootFacts;
 class PreviewLabel;
 } // namespace PanoHead
 
@@ -60,24 +59,10 @@ public Q_SLOTS:
 private:
     void CreateWidgets();
     void CreateConnects();
-    void setExtents(const PanoHead::AngleExtents &extents);
     void usePhotos(const QStringList &photos);
-    void presetLens(double focalMm, int lensType);
     void redrawAll();
-    [[nodiscard]] PanoHead::AngleExtents extents() const;
-    [[nodiscard]] PanoHead::ShootFacts recordFacts() const;
-    [[nodiscard]] PanoHead::ShootFacts photoFacts() const;
-    [[nodiscard]] QString warning() const;
 
-    QString configPath;
-    QStringList images;
-    qint32 shotCount = -1; ///< -1: nothing is parsed
-    double imageFocal = 0.0; ///< mm, mean of the photos; 0: unknown
-    qint32 imageLensType = 0; ///< of the last photo
-    float yawMin = 0.0F;
-    float yawMax = 0.0F;
-    float pitchMin = 0.0F;
-    float pitchMax = 0.0F;
+    PanoHead::ShootState m_state;
     QList<XIImageDef *> previewImages; ///< what the preview shows, by capture time; not owned
     ReadingThread *m_readingThread;
     PanoHead::PreviewLabel *m_preview = nullptr;
