@@ -1,0 +1,105 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/demo/camera.h"
+
+#include "host/demo/parallel.h"
+
+namespace PanoHost
+{
+namespace
+{
+
+constexpr double kDiagonal35mm = 43.266615305567875; // of a 36 x 24 mm frame
+
+/** Averages the light of \p rayAt over every pixel of a picture of \p size. */
+QImage exposed(const Radiance &radiance, const QSize &size, const Exposure &exposure,
+               const std::function<Vec3(double x, double y)> &rayAt)
+{
+    QImage picture(size, QImage::Format_RGB32);
+    const int side = exposure.samplesPerSide;
+    const float gain = static_cast<float>(std::exp2(exposure.stops) / (side * side));
+    uchar *const pixels = picture.bits(); // once: scanLine() of a shared picture is not thread-safe
+    const qsizetype stride = picture.bytesPerLine();
+    forEachRow(size.height(), [&](int row) {
+        auto *const line = reinterpret_cast<QRgb *>(pixels + row * stride);
+        for (int column = 0; column < size.width(); ++column) {
+            Rgb light;
+            for (int sample = 0; sample < side * side; ++sample) {
+                const double x = column + (sample % side + 0.5) / side;
+                const double y = row + (sample / side + 0.5) / side;
+                light = light + radiance(rayAt(x, y));
+            }
+            line[column] = encoded(gain * light);
+        }
+    });
+    return picture;
+}
+
+} // namespace
+
+double Camera::focalPixels() const
+{
+    return focal35mm * std::hypot(size.width(), size.height()) / kDiagonal35mm;
+}
+
+View::View(const Camera &camera, const Pose &pose)
+    : m_camera(camera)
+    , m_focalPixels(camera.focalPixels())
+    , m_forward(directionTo(pose.yawDegrees, pose.pitchDegrees))
+{
+    const Vec3 levelRight = directionTo(pose.yawDegrees + 90.0, 0.0);
+    const Vec3 levelUp = directionTo(pose.yawDegrees, pose.pitchDegrees + 90.0);
+    const double cosine = std::cos(radians(pose.rollDegrees));
+    const double sine = std::sin(radians(pose.rollDegrees));
+    m_right = cosine * levelRight + -sine * levelUp;
+    m_up = sine * levelRight + cosine * levelUp;
+}
+
+Vec3 View::directionAt(double x, double y) const
+{
+    const double right = (x - m_camera.size.width() / 2.0) / m_focalPixels;
+    const double up = (m_camera.size.height() / 2.0 - y) / m_focalPixels;
+    if (m_camera.projection == Projection::Rectilinear)
+        return normalized(m_forward + right * m_right + up * m_up);
+    const double angle = std::hypot(right, up);
+    const double perAngle = angle > 0.0 ? std::sin(angle) / angle : 1.0;
+    return std::cos(angle) * m_forward + perAngle * (right * m_right + up * m_up);
+}
+
+std::optional<QPointF> View::pixelAt(const Vec3 &direction) const
+{
+    const double forward = dot(direction, m_forward);
+    const double right = dot(direction, m_right);
+    const double up = dot(direction, m_up);
+    const double sine = std::hypot(right, up);
+    double scale = m_focalPixels;
+    if (m_camera.projection == Projection::EquidistantFisheye)
+        scale *= sine > 0.0 ? std::atan2(sine, forward) / sine : 1.0;
+    else if (forward > 0.0)
+        scale /= forward;
+    else
+        return std::nullopt;
+    const QPointF pixel(m_camera.size.width() / 2.0 + scale * right,
+                        m_camera.size.height() / 2.0 - scale * up);
+    const bool inside = pixel.x() >= 0.0 && pixel.x() <= m_camera.size.width() && pixel.y() >= 0.0
+        && pixel.y() <= m_camera.size.height();
+    return inside ? std::optional(pixel) : std::nullopt;
+}
+
+QImage renderPhoto(const Radiance &radiance, const Camera &camera, const Pose &pose,
+                   const Exposure &exposure)
+{
+    const View view(camera, pose);
+    return exposed(radiance, camera.size, exposure,
+                   [&view](double x, double y) { return view.directionAt(x, y); });
+}
+
+QImage renderSphere(const Radiance &radiance, int width, const Exposure &exposure)
+{
+    const int height = width / 2;
+    return exposed(radiance, QSize(width, height), exposure, [=](double x, double y) {
+        return directionTo((x / width - 0.5) * 360.0, (0.5 - y / height) * 180.0);
+    });
+}
+
+} // namespace PanoHost

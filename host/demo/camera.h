@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "host/demo/direction.h"
+#include "host/demo/rgb.h"
+
+#include <QImage>
+#include <QPointF>
+#include <QSize>
+
+#include <functional>
+#include <optional>
+
+namespace PanoHost
+{
+
+/** What a ray from the head meets; called from several threads at a time. */
+using Radiance = std::function<Rgb(const Vec3 &direction)>;
+
+enum class Projection {
+    Rectilinear,
+    EquidistantFisheye,
+};
+
+/** A camera without lens errors. */
+struct Camera {
+    QSize size; ///< stored pixels
+    double focal35mm = 0.0; ///< millimetres, 35 mm equivalent by the frame's diagonal
+    Projection projection = Projection::Rectilinear;
+
+    /** Focal length in pixels: pixels per radian at the centre of the picture. */
+    [[nodiscard]] double focalPixels() const;
+};
+
+/** Where a camera points: yaw to the right, pitch up, roll clockwise seen from behind it. */
+struct Pose {
+    double yawDegrees = 0.0;
+    double pitchDegrees = 0.0;
+    double rollDegrees = 0.0;
+};
+
+/**
+ * The way between pixels and directions for one photo. Pixel coordinates are continuous: the
+ * first pixel reaches from 0 to 1, its middle is 0.5.
+ */
+class View
+{
+public:
+    View(const Camera &camera, const Pose &pose);
+
+    /** Unit vector through the point (\p x, \p y) of the picture. */
+    [[nodiscard]] Vec3 directionAt(double x, double y) const;
+    /** Empty when \p direction does not meet the picture. */
+    [[nodiscard]] std::optional<QPointF> pixelAt(const Vec3 &direction) const;
+    /** Unit vector to the middle of the picture. */
+    [[nodiscard]] const Vec3 &axis() const { return m_forward; }
+
+private:
+    Camera m_camera;
+    double m_focalPixels = 0.0;
+    Vec3 m_right;
+    Vec3 m_up;
+    Vec3 m_forward;
+};
+
+/** How carefully and how brightly a picture is taken. */
+struct Exposure {
+    double stops = 0.0; ///< brighter than the reference exposure by that many stops
+    int samplesPerSide = 2; ///< rays per pixel: the square of this
+};
+
+/** A photo: 32-bit RGB, sRGB curve, light averaged over each pixel. */
+[[nodiscard]] QImage renderPhoto(const Radiance &radiance, const Camera &camera, const Pose &pose,
+                                 const Exposure &exposure = {});
+
+/**
+ * The whole sphere as \p width x \p width / 2 pixels, yaw -180 at the left edge, pitch 90 at the
+ * top, light averaged over each pixel: what a faultless panorama of the scene looks like.
+ */
+[[nodiscard]] QImage renderSphere(const Radiance &radiance, int width,
+                                  const Exposure &exposure = {});
+
+} // namespace PanoHost
