@@ -12,27 +12,23 @@ namespace
 constexpr double kDiagonal35mm = 43.266615305567875; // of a 36 x 24 mm frame
 
 /** Averages the light of \p rayAt over every pixel of a picture of \p size. */
-QImage exposed(const Radiance &radiance, const QSize &size, const Exposure &exposure,
-               const std::function<Vec3(double x, double y)> &rayAt)
+LightField exposed(const Radiance &radiance, const QSize &size, int side,
+                   const std::function<Vec3(double x, double y)> &rayAt)
 {
-    QImage picture(size, QImage::Format_RGB32);
-    const int side = exposure.samplesPerSide;
-    const float gain = static_cast<float>(std::exp2(exposure.stops) / (side * side));
-    uchar *const pixels = picture.bits(); // once: scanLine() of a shared picture is not thread-safe
-    const qsizetype stride = picture.bytesPerLine();
+    LightField light{ size, std::vector<Rgb>(static_cast<size_t>(size.width()) * size.height()) };
     forEachRow(size.height(), [&](int row) {
-        auto *const line = reinterpret_cast<QRgb *>(pixels + row * stride);
+        Rgb *const line = light.pixels.data() + static_cast<size_t>(row) * size.width();
         for (int column = 0; column < size.width(); ++column) {
-            Rgb light;
+            Rgb sum;
             for (int sample = 0; sample < side * side; ++sample) {
                 const double x = column + (sample % side + 0.5) / side;
                 const double y = row + (sample / side + 0.5) / side;
-                light = light + radiance(rayAt(x, y));
+                sum = sum + radiance(rayAt(x, y));
             }
-            line[column] = encoded(gain * light);
+            line[column] = 1.0F / static_cast<float>(side * side) * sum;
         }
     });
-    return picture;
+    return light;
 }
 
 } // namespace
@@ -86,20 +82,34 @@ std::optional<QPointF> View::pixelAt(const Vec3 &direction) const
     return inside ? std::optional(pixel) : std::nullopt;
 }
 
-QImage renderPhoto(const Radiance &radiance, const Camera &camera, const Pose &pose,
-                   const Exposure &exposure)
+LightField exposePhoto(const Radiance &radiance, const Camera &camera, const Pose &pose,
+                       int samplesPerSide)
 {
     const View view(camera, pose);
-    return exposed(radiance, camera.size, exposure,
+    return exposed(radiance, camera.size, samplesPerSide,
                    [&view](double x, double y) { return view.directionAt(x, y); });
 }
 
-QImage renderSphere(const Radiance &radiance, int width, const Exposure &exposure)
+LightField exposeSphere(const Radiance &radiance, int width, int samplesPerSide)
 {
     const int height = width / 2;
-    return exposed(radiance, QSize(width, height), exposure, [=](double x, double y) {
+    return exposed(radiance, QSize(width, height), samplesPerSide, [=](double x, double y) {
         return directionTo((x / width - 0.5) * 360.0, (0.5 - y / height) * 180.0);
     });
+}
+
+QImage developed(const LightField &light, double stops)
+{
+    QImage picture(light.size, QImage::Format_RGB32);
+    const auto gain = static_cast<float>(std::exp2(stops));
+    const int width = light.size.width();
+    for (int row = 0; row < light.size.height(); ++row) {
+        auto *const line = reinterpret_cast<QRgb *>(picture.scanLine(row));
+        const Rgb *const from = light.pixels.data() + static_cast<size_t>(row) * width;
+        for (int column = 0; column < width; ++column)
+            line[column] = encoded(gain * from[column]);
+    }
+    return picture;
 }
 
 } // namespace PanoHost

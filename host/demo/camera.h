@@ -11,6 +11,7 @@
 
 #include <functional>
 #include <optional>
+#include <vector>
 
 namespace PanoHost
 {
@@ -64,21 +65,26 @@ private:
     Vec3 m_forward;
 };
 
-/** How carefully and how brightly a picture is taken. */
-struct Exposure {
-    double stops = 0.0; ///< brighter than the reference exposure by that many stops
-    int samplesPerSide = 2; ///< rays per pixel: the square of this
+/** The light that fell on each pixel, not yet a picture. */
+struct LightField {
+    QSize size;
+    std::vector<Rgb> pixels; ///< row by row
 };
 
-/** A photo: 32-bit RGB, sRGB curve, light averaged over each pixel. */
-[[nodiscard]] QImage renderPhoto(const Radiance &radiance, const Camera &camera, const Pose &pose,
-                                 const Exposure &exposure = {});
+/**
+ * What a photo receives, averaged over each pixel.
+ * \param samplesPerSide rays per pixel: the square of this
+ */
+[[nodiscard]] LightField exposePhoto(const Radiance &radiance, const Camera &camera,
+                                     const Pose &pose, int samplesPerSide = 2);
 
 /**
  * The whole sphere as \p width x \p width / 2 pixels, yaw -180 at the left edge, pitch 90 at the
- * top, light averaged over each pixel: what a faultless panorama of the scene looks like.
+ * top, averaged over each pixel: what a faultless panorama of the scene receives.
  */
-[[nodiscard]] QImage renderSphere(const Radiance &radiance, int width,
-                                  const Exposure &exposure = {});
+[[nodiscard]] LightField exposeSphere(const Radiance &radiance, int width, int samplesPerSide = 2);
+
+/** 32-bit RGB with the sRGB curve, \p stops brighter than the reference exposure. */
+[[nodiscard]] QImage developed(const LightField &light, double stops = 0.0);
 
 } // namespace PanoHost

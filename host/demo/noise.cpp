@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/demo/noise.h"
 
+#include <array>
 #include <cmath>
 
 namespace PanoHost
@@ -18,20 +19,29 @@ quint32 scrambled(quint32 value)
     return value ^ (value >> 16U);
 }
 
-quint32 hashOf(int x, int y, int z, quint32 seed)
-{
-    return scrambled(static_cast<quint32>(x) * 0x9E3779B1U + static_cast<quint32>(y) * 0x85EBCA77U
-                     + static_cast<quint32>(z) * 0xC2B2AE3DU + seed * 0x27D4EB2FU);
-}
-
 /** Dot product with one of the twelve directions to the middles of a cube's edges. */
 float slope(quint32 hash, float x, float y, float z)
 {
-    const quint32 kind = hash % 12U;
-    const float first = kind < 8U ? x : y;
-    const float second = kind < 4U ? y : z;
-    return ((hash & 0x10000U) != 0U ? first : -first)
-        + ((hash & 0x20000U) != 0U ? second : -second);
+    static constexpr std::array<std::array<float, 3>, 16> kSlopes{ {
+        { 1, 1, 0 },
+        { -1, 1, 0 },
+        { 1, -1, 0 },
+        { -1, -1, 0 },
+        { 1, 0, 1 },
+        { -1, 0, 1 },
+        { 1, 0, -1 },
+        { -1, 0, -1 },
+        { 0, 1, 1 },
+        { 0, -1, 1 },
+        { 0, 1, -1 },
+        { 0, -1, -1 },
+        { 1, 1, 0 },
+        { -1, 1, 0 },
+        { 0, -1, 1 },
+        { 0, -1, -1 }, // four again, to make a power of two
+    } };
+    const std::array<float, 3> &direction = kSlopes[hash & 15U];
+    return direction[0] * x + direction[1] * y + direction[2] * z;
 }
 
 float fade(float t)
@@ -44,6 +54,11 @@ float lerp(float a, float b, float share)
     return a + share * (b - a);
 }
 
+constexpr quint32 kStepX = 0x9E3779B1U;
+constexpr quint32 kStepY = 0x85EBCA77U;
+constexpr quint32 kStepZ = 0xC2B2AE3DU;
+constexpr quint32 kStepSeed = 0x27D4EB2FU;
+
 } // namespace
 
 float noise(const Vec3 &point, quint32 seed)
@@ -51,22 +66,21 @@ float noise(const Vec3 &point, quint32 seed)
     const double floorX = std::floor(point.x);
     const double floorY = std::floor(point.y);
     const double floorZ = std::floor(point.z);
-    const int x0 = static_cast<int>(floorX);
-    const int y0 = static_cast<int>(floorY);
-    const int z0 = static_cast<int>(floorZ);
-    const float x = static_cast<float>(point.x - floorX);
-    const float y = static_cast<float>(point.y - floorY);
-    const float z = static_cast<float>(point.z - floorZ);
-    const auto corner = [&](int i, int j, int k) {
-        return slope(hashOf(x0 + i, y0 + j, z0 + k, seed), x - static_cast<float>(i),
-                     y - static_cast<float>(j), z - static_cast<float>(k));
+    const auto x = static_cast<float>(point.x - floorX);
+    const auto y = static_cast<float>(point.y - floorY);
+    const auto z = static_cast<float>(point.z - floorZ);
+    const quint32 cell = static_cast<quint32>(static_cast<int>(floorX)) * kStepX
+        + static_cast<quint32>(static_cast<int>(floorY)) * kStepY
+        + static_cast<quint32>(static_cast<int>(floorZ)) * kStepZ + seed * kStepSeed;
+    const auto alongX = [&](quint32 corner, float dy, float dz, float u) {
+        return lerp(slope(scrambled(corner), x, dy, dz),
+                    slope(scrambled(corner + kStepX), x - 1.0F, dy, dz), u);
     };
     const float u = fade(x);
     const float v = fade(y);
-    const float bottom = lerp(lerp(corner(0, 0, 0), corner(1, 0, 0), u),
-                              lerp(corner(0, 1, 0), corner(1, 1, 0), u), v);
-    const float top = lerp(lerp(corner(0, 0, 1), corner(1, 0, 1), u),
-                           lerp(corner(0, 1, 1), corner(1, 1, 1), u), v);
+    const float bottom = lerp(alongX(cell, y, z, u), alongX(cell + kStepY, y - 1.0F, z, u), v);
+    const float top = lerp(alongX(cell + kStepZ, y, z - 1.0F, u),
+                           alongX(cell + kStepY + kStepZ, y - 1.0F, z - 1.0F, u), v);
     return lerp(bottom, top, fade(z));
 }
 
@@ -100,7 +114,9 @@ float ridgedNoise(const Vec3 &point, int octaves, quint32 seed)
 
 float cellValue(int column, int row, quint32 seed)
 {
-    return static_cast<float>(hashOf(column, row, 0, seed) >> 8U) / 16777216.0F;
+    const quint32 cell = static_cast<quint32>(column) * kStepX + static_cast<quint32>(row) * kStepY
+        + seed * kStepSeed;
+    return static_cast<float>(scrambled(cell) >> 8U) / 16777216.0F;
 }
 
 } // namespace PanoHost

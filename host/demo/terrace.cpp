@@ -90,38 +90,56 @@ float sunOnFloor(float x, float y)
     return smoothStep(-0.03F, 0.03F, height - (kWallTop + 1.0F));
 }
 
-/** The compass rose at (\p x, \p y): an eight-pointed star in two shades on a round inlay. */
+/** One point of a compass rose: half light, half dark, from the middle to its tip. */
+struct RosePoint {
+    double yawDegrees;
+    float length;
+    float waist; ///< the notches beside it lie at (waist, waist)
+    unsigned int light;
+    unsigned int dark;
+};
+
+constexpr std::array<RosePoint, 8> kRosePoints{ {
+    { 45.0, 0.56F, 0.14F, 0xc78f3d, 0x8c5d22 },
+    { 135.0, 0.56F, 0.14F, 0xc78f3d, 0x8c5d22 },
+    { -135.0, 0.56F, 0.14F, 0xc78f3d, 0x8c5d22 },
+    { -45.0, 0.56F, 0.14F, 0xc78f3d, 0x8c5d22 },
+    { 180.0, 0.84F, 0.125F, 0x3a6fb5, 0x12335f },
+    { 90.0, 0.84F, 0.125F, 0x3a6fb5, 0x12335f },
+    { -90.0, 0.84F, 0.125F, 0x3a6fb5, 0x12335f },
+    { 0.0, 0.84F, 0.125F, 0xd8453a, 0x8f1d17 },
+} };
+
+Rgb withRosePoint(const Rgb &behind, const RosePoint &point, float x, float y, float soft)
+{
+    const auto sine = static_cast<float>(std::sin(radians(point.yawDegrees)));
+    const auto cosine = static_cast<float>(std::cos(radians(point.yawDegrees)));
+    const float along = x * sine + y * cosine;
+    const float across = x * cosine - y * sine;
+    const float toTip = point.length - point.waist;
+    const float edge = ((along - point.length) * point.waist + std::fabs(across) * toTip)
+        / std::hypot(toTip, point.waist);
+    const float diagonal = (std::fabs(across) - along) * 0.70710678F;
+    const Rgb colour
+        = mix(rgbFromHex(point.light), rgbFromHex(point.dark), smoothStep(-soft, soft, across));
+    return mix(behind, colour, inside(std::max(edge, diagonal), soft));
+}
+
+/** The compass rose at (\p x, \p y): an eight-pointed star on a round inlay. */
 Rgb withRose(const Rgb &stone, float x, float y, float soft)
 {
+    constexpr float kDotTurn = 0.19634954F; // radians from one dot of the ring to the next
     const float radius = std::hypot(x, y);
     const float angle = std::atan2(x, y);
-    const auto star = [&](float turn, float length, float waist, float *side) {
-        const float wrapped = angle - turn;
-        const float quarter = 1.57079633F;
-        const float local = wrapped - quarter * std::round(wrapped / quarter);
-        const float up = radius * std::cos(local);
-        const float across = radius * std::sin(local);
-        *side = across;
-        // The edge from the tip (length, 0) to the notch on the diagonal (waist, waist).
-        const float norm = std::hypot(length - waist, waist);
-        return ((up - length) * waist + std::fabs(across) * (length - waist)) / norm;
-    };
-    float side = 0.0F;
     Rgb colour = mix(stone, rgbFromHex(0xe9dcc0), 0.85F * inside(radius - kRoseRadius, soft));
     const float ring = std::min(std::fabs(radius - 0.86F), std::fabs(radius - 0.60F)) - 0.012F;
     colour = mix(colour, rgbFromHex(0x6d5334), inside(ring, soft));
-    const float dots = std::hypot(radius - 0.73F,
-                                  0.73F * (angle - 0.19634954F * std::round(angle / 0.19634954F)));
-    colour = mix(colour, rgbFromHex(0x16407a), inside(dots - 0.035F, soft));
-    const float minor = star(0.78539816F, 0.56F, 0.14F, &side);
-    colour = mix(colour,
-                 mix(rgbFromHex(0xc78f3d), rgbFromHex(0x8c5d22), smoothStep(-soft, soft, side)),
-                 inside(minor, soft));
-    const float major = star(0.0F, 0.84F, 0.125F, &side);
-    const bool north = std::fabs(angle) < 0.78539816F;
-    const Rgb light = north ? rgbFromHex(0xd8453a) : rgbFromHex(0x3a6fb5);
-    const Rgb dark = north ? rgbFromHex(0x8f1d17) : rgbFromHex(0x12335f);
-    return mix(colour, mix(light, dark, smoothStep(-soft, soft, side)), inside(major, soft));
+    const float toDot = angle - kDotTurn * (std::floor(angle / kDotTurn) + 0.5F);
+    const float dot = std::hypot(radius - 0.73F, 0.73F * toDot);
+    colour = mix(colour, rgbFromHex(0x16407a), inside(dot - 0.035F, soft));
+    for (const RosePoint &point : kRosePoints)
+        colour = withRosePoint(colour, point, x, y, soft);
+    return mix(colour, rgbFromHex(0xf0d9a0), inside(radius - 0.045F, soft));
 }
 
 } // namespace
@@ -153,7 +171,8 @@ Rgb Terrace::wall(const Vec3 &direction) const
     const float up = kRadius * static_cast<float>(direction.z) / flat;
     const double yaw = yawDegreesOf(direction);
     const float soft = softness(kRadius);
-    if (up > kCopingFoot)
+    const float overhang = smoothStep(-soft, soft, up - kCopingFoot);
+    if (overhang >= 1.0F)
         return coping(direction);
     const float along = kRadius * static_cast<float>(radians(yaw));
     const float degreesPerBlock = 7.5F;
@@ -193,7 +212,7 @@ Rgb Terrace::wall(const Vec3 &direction) const
         = -static_cast<float>(dot({ direction.x / flat, direction.y / flat, 0.0 }, Sky::sun()));
     const float light = 0.60F + 0.62F * std::max(0.0F, facing) + 0.05F * std::sin(along);
     const float foot = 0.72F + 0.28F * smoothStep(-1.0F, -0.90F, up);
-    return (light * foot) * stone;
+    return mix((light * foot) * stone, coping(direction), overhang);
 }
 
 Rgb Terrace::paving(float x, float y, const Vec3 &direction) const
