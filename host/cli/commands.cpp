@@ -14,6 +14,7 @@ const QVector<CommandRow> &commands()
         { "check", "say what is known about record and photos; writes nothing", runCheck },
         { "describe", "print a panorama's description as JSON or as a table", runDescribe },
         { "preview", "save the layout picture of the import page", runPreview },
+        { "demo", "photograph a made-up scene, import and stitch it", runDemoCommand },
         { "plugins", "list the import plug-ins found", runPlugins },
     };
     return rows;

@@ -34,6 +34,7 @@ ExitCode runImport(Session &session, const QStringList &arguments);
 ExitCode runCheck(Session &session, const QStringList &arguments);
 ExitCode runDescribe(Session &session, const QStringList &arguments);
 ExitCode runPreview(Session &session, const QStringList &arguments);
+ExitCode runDemoCommand(Session &session, const QStringList &arguments);
 ExitCode runPlugins(Session &session, const QStringList &arguments);
 
 } // namespace PanoHost

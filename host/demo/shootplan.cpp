@@ -25,10 +25,10 @@ Pose cameraPose(const Pose &head, Mounting mounting)
 
 } // namespace
 
-QVector<Pose> positionsOf(const QVector<HeadRow> &rows)
+QVector<Pose> positionsOf(const QVector<ShootRow> &rows)
 {
     QVector<Pose> positions;
-    for (const HeadRow &row : rows) {
+    for (const ShootRow &row : rows) {
         for (int i = 0; i < row.count; ++i)
             positions.append({ wrappedYawDegrees(i * 360.0 / row.count), row.pitchDegrees, 0.0 });
     }
@@ -46,12 +46,12 @@ QVector<Pose> withPlay(QVector<Pose> positions, double degrees)
     return positions;
 }
 
-QVector<HeadRow> landscapeRows()
+QVector<ShootRow> landscapeRows()
 {
     return { { 45.0, 8 }, { 0.0, 8 }, { -45.0, 8 }, { 90.0, 1 }, { -90.0, 1 } };
 }
 
-QVector<HeadRow> portraitRows()
+QVector<ShootRow> portraitRows()
 {
     return { { 45.0, 10 }, { 0.0, 10 }, { -45.0, 10 }, { 90.0, 1 }, { -90.0, 1 } };
 }
@@ -70,7 +70,7 @@ QVector<PlannedShot> shotsOf(const ShootPlan &plan)
             shot.time = plan.start.addMSecs(position * kMillisecondsPerPosition
                                             + level * kMillisecondsPerLevel);
             shot.fileName
-                = QStringLiteral("IMG_%1.jpg").arg(shots.size() + 1, 4, 10, QLatin1Char('0'));
+                = QStringLiteral("demo_%1.jpg").arg(shots.size() + 1, 4, 10, QLatin1Char('0'));
             shots.append(shot);
         }
     }

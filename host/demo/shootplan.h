@@ -19,7 +19,7 @@ enum class Mounting {
 };
 
 /** A row of positions, evenly spread over a full turn from yaw 0. */
-struct HeadRow {
+struct ShootRow {
     double pitchDegrees = 0.0;
     int count = 1;
 };
@@ -46,7 +46,7 @@ struct PlannedShot {
 };
 
 /** Positions of \p rows, in order. */
-[[nodiscard]] QVector<Pose> positionsOf(const QVector<HeadRow> &rows);
+[[nodiscard]] QVector<Pose> positionsOf(const QVector<ShootRow> &rows);
 
 /**
  * Moves every position by up to \p degrees in yaw and pitch, the same way each time: no head stops
@@ -55,10 +55,10 @@ struct PlannedShot {
 [[nodiscard]] QVector<Pose> withPlay(QVector<Pose> positions, double degrees);
 
 /** 26 positions that cover the sphere at 24 mm in landscape: three rows, zenith and nadir. */
-[[nodiscard]] QVector<HeadRow> landscapeRows();
+[[nodiscard]] QVector<ShootRow> landscapeRows();
 
 /** 32 positions that cover the sphere at 24 mm in portrait. */
-[[nodiscard]] QVector<HeadRow> portraitRows();
+[[nodiscard]] QVector<ShootRow> portraitRows();
 
 /** The photos of \p plan in shooting order: position by position, each with all its exposures. */
 [[nodiscard]] QVector<PlannedShot> shotsOf(const ShootPlan &plan);

@@ -1,0 +1,147 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/cli/commanderror.h"
+#include "host/cli/commands.h"
+#include "host/cli/displayname.h"
+#include "host/cli/importjob.h"
+#include "host/cli/wordsuggestion.h"
+#include "host/demo/demo.h"
+
+#include <QDir>
+#include <QProcess>
+
+namespace PanoHost
+{
+
+namespace
+{
+
+CommandLine demoLine()
+{
+    return CommandLine(
+        { "panohost demo [DIR]",
+          "Shows the whole way with photos of its own: draws a scene, photographs it with a\n"
+          "made-up head, imports record and photos through the head's import page, writes a\n"
+          "Hugin project, stitches it and compares the panorama with the scene. Everything is\n"
+          "left in DIR (panohost-demo when not given). Succeeds when the two agree.",
+          "# half a minute, then look at panohost-demo/demo.jpg\n"
+          "panohost demo\n"
+          "# quicker, smaller, into another folder, and show the result\n"
+          "panohost demo /tmp/try --size small --open" },
+        QVector<OptionRow>{
+            { "--size", "SIZE", "size of the photos and the panorama", "small|normal" },
+            { "--head", "HEAD", "the head to play; papywizard when not given", nullptr },
+            { "--open", nullptr, "show the panorama in the desktop's picture viewer", nullptr },
+        });
+}
+
+DemoOptions optionsFrom(const CommandLine &line)
+{
+    DemoOptions options;
+    const QStringList words = line.positional();
+    if (words.size() > 1) {
+        throw usageError(QStringLiteral("demo takes one folder, %1 given").arg(words.size()));
+    }
+    options.folder = QDir().absoluteFilePath(words.value(0, QStringLiteral("panohost-demo")));
+    if (line.value(QStringLiteral("size")) == QLatin1String("small")) {
+        options.size = DemoSize::Small;
+    }
+    const QString head = line.isSet(QStringLiteral("head")) ? line.value(QStringLiteral("head"))
+                                                            : QStringLiteral("papywizard");
+    (void)headNamed(head);
+    options.head = demoHead(head);
+    if (options.head == nullptr) {
+        throw usageError(
+            QStringLiteral("the demo cannot play the head '%1'").arg(head),
+            QStringLiteral("choose one of: %1").arg(demoHeadNames().join(QStringLiteral(", "))));
+    }
+    return options;
+}
+
+DemoImport importThroughPage(Session &session, const QString &head, const QString &record,
+                             const QStringList &photos)
+{
+    ImportRequest request;
+    request.head = &headNamed(head);
+    request.record = record;
+    request.photos = photos;
+    ImportJob job(session, request);
+    job.checkInputs();
+    job.preparePage();
+    const QImage layout = job.layout().toImage();
+    return { job.handOver(), layout };
+}
+
+void showPicture(Session &session, const QString &path)
+{
+    // Not through Qt's desktop services: the commands run without a desktop platform.
+    if (!QProcess::startDetached(QStringLiteral("xdg-open"), { path })) {
+        session.console.warning(
+            QStringLiteral("cannot open the picture: xdg-open not found; apt install xdg-utils"));
+    }
+}
+
+ExitCode report(Session &session, const DemoReport &made)
+{
+    for (const DemoStep &step : made.steps) {
+        session.console.info(
+            QStringLiteral("%1: %2 s").arg(step.name).arg(step.seconds, 0, 'f', 1));
+    }
+    const double psnr = made.agreement.psnrDecibels;
+    printOut(QStringLiteral("Panorama: %1 (%2x%3, %4, %5 dB)\n")
+                 .arg(displayName(made.panoramaPath))
+                 .arg(made.size.width())
+                 .arg(made.size.height())
+                 .arg(counted(made.photoCount, "photo"))
+                 .arg(psnr, 0, 'f', 1));
+    if (made.agreement.coveredShare < 1.0) {
+        session.console.warning(QStringLiteral("%1 % of the panorama is not covered by any photo")
+                                    .arg(100.0 * (1.0 - made.agreement.coveredShare), 0, 'f', 1));
+    }
+    if (made.missingTool) {
+        Failure failure = *made.missingTool;
+        failure.why += QStringLiteral("; the panorama is put together without blending");
+        session.console.error(failure);
+        return failure.code;
+    }
+    if (psnr > kLeastPsnrDecibels) {
+        return ExitCode::Done;
+    }
+    throw CommandError(
+        { ExitCode::ToolFailed,
+          displayName(made.panoramaPath),
+          QStringLiteral("it does not look like the scene (%1 dB, at least %2 needed)")
+              .arg(psnr, 0, 'f', 1)
+              .arg(kLeastPsnrDecibels, 0, 'f', 0),
+          {} });
+}
+
+} // namespace
+
+ExitCode runDemoCommand(Session &session, const QStringList &arguments)
+{
+    CommandLine line = demoLine();
+    if (!line.parse(arguments)) {
+        return ExitCode::Done;
+    }
+    applyCommonOptions(session, line);
+    const DemoOptions options = optionsFrom(line);
+    const auto importer
+        = [&session](const QString &head, const QString &record, const QStringList &photos) {
+              return importThroughPage(session, head, record, photos);
+          };
+    JobWatch watch;
+    watch.progress = [&session](int done, int total, const QString &text) {
+        session.console.progress(done, total, text);
+    };
+    watch.interrupted = &Interrupt::requested;
+    const DemoReport made = valueOrThrow(runDemo(options, importer, watch));
+    session.console.endProgress();
+    const ExitCode code = report(session, made);
+    if (line.isSet(QStringLiteral("open"))) {
+        showPicture(session, made.panoramaPath);
+    }
+    return code;
+}
+
+} // namespace PanoHost

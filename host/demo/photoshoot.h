@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "host/core/result.h"
+#include "host/demo/scene.h"
+#include "host/demo/shootplan.h"
+#include "host/demo/toolrun.h"
+
+#include <QStringList>
+
+namespace PanoHost
+{
+
+/**
+ * Takes all photos of \p plan and writes them into \p folder, which exists. Files of the same
+ * names are replaced. Answers their paths in shooting order.
+ */
+[[nodiscard]] Result<QStringList> takePhotos(const Scene &scene, const ShootPlan &plan,
+                                             const QString &folder, const JobWatch &watch);
+
+/** What a faultless panorama of \p scene looks like: \p width x \p width / 2 pixels. */
+[[nodiscard]] QImage truthOf(const Scene &scene, int width);
+
+} // namespace PanoHost
