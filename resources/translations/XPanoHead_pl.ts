@@ -1,4 +1,259 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <TS version="2.1" language="pl" sourcelanguage="en">
+<context>
+    <name>UIWPClauss</name>
+    <message>
+        <source>Clauss import</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This importer is not available yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>UIWPGigapan</name>
+    <message>
+        <source>Gigapan import</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This importer is not available yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>UIWPMerlin</name>
+    <message>
+        <source>Standard</source>
+        <translation>Standardowy</translation>
+    </message>
+    <message>
+        <source>Fisheye</source>
+        <translation>Rybie oko</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Ostrzeżenie</translation>
+    </message>
+    <message>
+        <source>Papywizard XML has bracketing and the number of images isn&apos;t a multiple of this number of brackets.</source>
+        <translation>Plik XML Papywizard używa bracketingu, a liczba zdjęć nie jest wielokrotnością liczby ekspozycji w serii.</translation>
+    </message>
+    <message>
+        <source>Select the preset file and/or images</source>
+        <translation>Wybierz plik zapisu i/lub zdjęcia</translation>
+    </message>
+    <message>
+        <source>All Files (*.*);;XML files (*.xml)</source>
+        <translation>Wszystkie pliki (*.*);;Pliki XML (*.xml)</translation>
+    </message>
+    <message>
+        <source>All Files (*.*)</source>
+        <translation>Wszystkie pliki (*.*)</translation>
+    </message>
+    <message>
+        <source>Select images</source>
+        <translation>Wybierz zdjęcia</translation>
+    </message>
+    <message>
+        <source>N/A</source>
+        <translation>brak</translation>
+    </message>
+    <message>
+        <source>Bracketing used in XML, should be multiple of that number</source>
+        <translation>W XML użyto bracketingu: liczba zdjęć powinna być wielokrotnością tej liczby</translation>
+    </message>
+    <message>
+        <source>Not the same as in XML fil</source>
+        <translation>Niezgodne z plikiem XML</translation>
+    </message>
+    <message>
+        <source>Focal Length difference between EXIF and XML</source>
+        <translation>Ogniskowa w EXIF i XML jest różna</translation>
+    </message>
+    <message>
+        <source>Lens type difference between EXIF and XML</source>
+        <translation>Typ obiektywu w EXIF i XML jest różny</translation>
+    </message>
+</context>
+<context>
+    <name>UIWPMerlinClass</name>
+    <message>
+        <source>Papywizard panohead control software</source>
+        <translation>Papywizard, program sterujący głowicą panoramiczną</translation>
+    </message>
+    <message>
+        <source>Papywizard import</source>
+        <translation>Import Papywizard</translation>
+    </message>
+    <message>
+        <source>&lt;a href=&quot;https://www.papywizard.org&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;Papywizard&lt;/font&gt;&lt;/a&gt; is a free project to drive Merlin/Orion panorama heads. The XML file format is open and used by a wide range of motorized panorama heads.</source>
+        <translation>&lt;a href=&quot;https://www.papywizard.org&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;Papywizard&lt;/font&gt;&lt;/a&gt; to wolny projekt do sterowania głowicami panoramicznymi Merlin/Orion. Format pliku XML jest otwarty i używany przez wiele zmotoryzowanych głowic panoramicznych.</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Ogólne</translation>
+    </message>
+    <message>
+        <source>XML:</source>
+        <translation>XML:</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Resetuj</translation>
+    </message>
+    <message>
+        <source>Number of images:</source>
+        <translation>Liczba zdjęć:</translation>
+    </message>
+    <message>
+        <source>N/A</source>
+        <translation>brak</translation>
+    </message>
+    <message>
+        <source>Yaw:</source>
+        <translation>Odchylenie:</translation>
+    </message>
+    <message>
+        <source>Pitch:</source>
+        <translation>Pochylenie:</translation>
+    </message>
+    <message>
+        <source>Bracketing:</source>
+        <translation>Bracketing:</translation>
+    </message>
+    <message>
+        <source>XML focal:</source>
+        <translation>Ogniskowa w XML:</translation>
+    </message>
+    <message>
+        <source>Images:</source>
+        <translation>Zdjęcia:</translation>
+    </message>
+    <message>
+        <source>Image focal:</source>
+        <translation>Ogniskowa zdjęć:</translation>
+    </message>
+    <message>
+        <source>Shoot setup</source>
+        <translation>Ustawienia ujęć</translation>
+    </message>
+    <message>
+        <source>Inverse Y coordinates</source>
+        <translation>Odwróć współrzędne Y</translation>
+    </message>
+    <message>
+        <source>Rotate left</source>
+        <translation>Obróć w lewo</translation>
+    </message>
+    <message>
+        <source>Rotate right</source>
+        <translation>Obróć w prawo</translation>
+    </message>
+    <message>
+        <source>Focal length:</source>
+        <translation>Ogniskowa:</translation>
+    </message>
+    <message>
+        <source>Lens Type:</source>
+        <translation>Typ obiektywu:</translation>
+    </message>
+    <message>
+        <source>Use XML information</source>
+        <translation>Użyj danych z XML</translation>
+    </message>
+    <message>
+        <source>Use image information</source>
+        <translation>Użyj danych ze zdjęć</translation>
+    </message>
+    <message>
+        <source>Stack</source>
+        <translation>Stos</translation>
+    </message>
+    <message>
+        <source>Detect links in:</source>
+        <translation>Wykrywaj połączenia w:</translation>
+    </message>
+    <message>
+        <source>The reference level</source>
+        <translation>poziomie odniesienia</translation>
+    </message>
+    <message>
+        <source>All stack levels</source>
+        <translation>wszystkich poziomach stosu</translation>
+    </message>
+    <message>
+        <source>For a stack:</source>
+        <translation>W obrębie stosu:</translation>
+    </message>
+    <message>
+        <source>Use hard links</source>
+        <translation>Użyj stałych połączeń</translation>
+    </message>
+    <message>
+        <source>Detect control points</source>
+        <translation>Wykryj punkty kontrolne</translation>
+    </message>
+    <message>
+        <source>Detection options</source>
+        <translation>Opcje wykrywania</translation>
+    </message>
+    <message>
+        <source>Auto detection</source>
+        <translation>Automatyczne wykrywanie</translation>
+    </message>
+    <message>
+        <source>Clean wrong link</source>
+        <translation>Usuń błędne połączenia</translation>
+    </message>
+    <message>
+        <source>Skip optimization</source>
+        <translation>Pomiń optymalizację</translation>
+    </message>
+    <message>
+        <source>Use recorded location</source>
+        <translation>Użyj zapisanych pozycji</translation>
+    </message>
+    <message>
+        <source>Header details</source>
+        <translation>Dane nagłówka</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>Tytuł:</translation>
+    </message>
+    <message>
+        <source>GPS:</source>
+        <translation>GPS:</translation>
+    </message>
+    <message>
+        <source>Comment:</source>
+        <translation>Komentarz:</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Podgląd</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Powiększenie</translation>
+    </message>
+</context>
+<context>
+    <name>UIWPVRDrive2</name>
+    <message>
+        <source>VRDrive2 import</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This importer is not available yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
 </TS>

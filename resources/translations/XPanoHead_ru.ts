@@ -1,4 +1,259 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <TS version="2.1" language="ru" sourcelanguage="en">
+<context>
+    <name>UIWPClauss</name>
+    <message>
+        <source>Clauss import</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This importer is not available yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>UIWPGigapan</name>
+    <message>
+        <source>Gigapan import</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This importer is not available yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>UIWPMerlin</name>
+    <message>
+        <source>Standard</source>
+        <translation>Стандартный</translation>
+    </message>
+    <message>
+        <source>Fisheye</source>
+        <translation>Рыбий глаз</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Предупреждение</translation>
+    </message>
+    <message>
+        <source>Papywizard XML has bracketing and the number of images isn&apos;t a multiple of this number of brackets.</source>
+        <translation>В XML Papywizard используется брекетинг, но число снимков не кратно числу экспозиций в серии.</translation>
+    </message>
+    <message>
+        <source>Select the preset file and/or images</source>
+        <translation>Выберите файл съёмки и/или снимки</translation>
+    </message>
+    <message>
+        <source>All Files (*.*);;XML files (*.xml)</source>
+        <translation>Все файлы (*.*);;Файлы XML (*.xml)</translation>
+    </message>
+    <message>
+        <source>All Files (*.*)</source>
+        <translation>Все файлы (*.*)</translation>
+    </message>
+    <message>
+        <source>Select images</source>
+        <translation>Выберите снимки</translation>
+    </message>
+    <message>
+        <source>N/A</source>
+        <translation>Н/Д</translation>
+    </message>
+    <message>
+        <source>Bracketing used in XML, should be multiple of that number</source>
+        <translation>В XML используется брекетинг: число снимков должно быть кратно этому числу</translation>
+    </message>
+    <message>
+        <source>Not the same as in XML fil</source>
+        <translation>Не совпадает с файлом XML</translation>
+    </message>
+    <message>
+        <source>Focal Length difference between EXIF and XML</source>
+        <translation>Фокусное расстояние в EXIF и XML различается</translation>
+    </message>
+    <message>
+        <source>Lens type difference between EXIF and XML</source>
+        <translation>Тип объектива в EXIF и XML различается</translation>
+    </message>
+</context>
+<context>
+    <name>UIWPMerlinClass</name>
+    <message>
+        <source>Papywizard panohead control software</source>
+        <translation>Papywizard, программа управления панорамной головкой</translation>
+    </message>
+    <message>
+        <source>Papywizard import</source>
+        <translation>Импорт Papywizard</translation>
+    </message>
+    <message>
+        <source>&lt;a href=&quot;https://www.papywizard.org&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;Papywizard&lt;/font&gt;&lt;/a&gt; is a free project to drive Merlin/Orion panorama heads. The XML file format is open and used by a wide range of motorized panorama heads.</source>
+        <translation>&lt;a href=&quot;https://www.papywizard.org&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;Papywizard&lt;/font&gt;&lt;/a&gt; — свободный проект для управления панорамными головками Merlin/Orion. Формат файла XML открыт и используется многими моторизованными панорамными головками.</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Общие</translation>
+    </message>
+    <message>
+        <source>XML:</source>
+        <translation>XML:</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Сбросить</translation>
+    </message>
+    <message>
+        <source>Number of images:</source>
+        <translation>Число снимков:</translation>
+    </message>
+    <message>
+        <source>N/A</source>
+        <translation>Н/Д</translation>
+    </message>
+    <message>
+        <source>Yaw:</source>
+        <translation>Рыскание:</translation>
+    </message>
+    <message>
+        <source>Pitch:</source>
+        <translation>Тангаж:</translation>
+    </message>
+    <message>
+        <source>Bracketing:</source>
+        <translation>Брекетинг:</translation>
+    </message>
+    <message>
+        <source>XML focal:</source>
+        <translation>Фокусное по XML:</translation>
+    </message>
+    <message>
+        <source>Images:</source>
+        <translation>Снимки:</translation>
+    </message>
+    <message>
+        <source>Image focal:</source>
+        <translation>Фокусное по снимкам:</translation>
+    </message>
+    <message>
+        <source>Shoot setup</source>
+        <translation>Параметры съёмки</translation>
+    </message>
+    <message>
+        <source>Inverse Y coordinates</source>
+        <translation>Обратить координаты Y</translation>
+    </message>
+    <message>
+        <source>Rotate left</source>
+        <translation>Повернуть влево</translation>
+    </message>
+    <message>
+        <source>Rotate right</source>
+        <translation>Повернуть вправо</translation>
+    </message>
+    <message>
+        <source>Focal length:</source>
+        <translation>Фокусное расстояние:</translation>
+    </message>
+    <message>
+        <source>Lens Type:</source>
+        <translation>Тип объектива:</translation>
+    </message>
+    <message>
+        <source>Use XML information</source>
+        <translation>Взять данные из XML</translation>
+    </message>
+    <message>
+        <source>Use image information</source>
+        <translation>Взять данные из снимков</translation>
+    </message>
+    <message>
+        <source>Stack</source>
+        <translation>Стопка</translation>
+    </message>
+    <message>
+        <source>Detect links in:</source>
+        <translation>Искать связи:</translation>
+    </message>
+    <message>
+        <source>The reference level</source>
+        <translation>на опорном уровне</translation>
+    </message>
+    <message>
+        <source>All stack levels</source>
+        <translation>на всех уровнях стопки</translation>
+    </message>
+    <message>
+        <source>For a stack:</source>
+        <translation>Внутри стопки:</translation>
+    </message>
+    <message>
+        <source>Use hard links</source>
+        <translation>Использовать жёсткие связи</translation>
+    </message>
+    <message>
+        <source>Detect control points</source>
+        <translation>Искать контрольные точки</translation>
+    </message>
+    <message>
+        <source>Detection options</source>
+        <translation>Параметры поиска</translation>
+    </message>
+    <message>
+        <source>Auto detection</source>
+        <translation>Автоматический поиск</translation>
+    </message>
+    <message>
+        <source>Clean wrong link</source>
+        <translation>Удалять ошибочные связи</translation>
+    </message>
+    <message>
+        <source>Skip optimization</source>
+        <translation>Пропустить оптимизацию</translation>
+    </message>
+    <message>
+        <source>Use recorded location</source>
+        <translation>Использовать записанные положения</translation>
+    </message>
+    <message>
+        <source>Header details</source>
+        <translation>Данные заголовка</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>Название:</translation>
+    </message>
+    <message>
+        <source>GPS:</source>
+        <translation>GPS:</translation>
+    </message>
+    <message>
+        <source>Comment:</source>
+        <translation>Комментарий:</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Предпросмотр</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Масштаб</translation>
+    </message>
+</context>
+<context>
+    <name>UIWPVRDrive2</name>
+    <message>
+        <source>VRDrive2 import</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This importer is not available yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
 </TS>
