@@ -31,8 +31,11 @@ QString onOneLine(const QString &text)
 {
     QString line = text;
     for (QChar &c : line) {
-        const bool breaksLine = c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
-        if (c.category() == QChar::Other_Control || breaksLine) {
+        const ushort code = c.unicode();
+        const bool separator = code == QChar::LineSeparator || code == QChar::ParagraphSeparator;
+        const bool turnsWriting
+            = (code >= 0x202A && code <= 0x202E) || (code >= 0x2066 && code <= 0x2069);
+        if (c.category() == QChar::Other_Control || separator || turnsWriting) {
             c = QLatin1Char(' ');
         }
     }

@@ -36,8 +36,9 @@ struct Failure {
 [[nodiscard]] QString warningLine(const QString &text);
 
 /**
- * \p text on one line: line ends, tabs and other control characters (a file name may hold any of
- * them) become spaces, so that no name can fake a second message or steer the terminal.
+ * \p text on one line: line ends, tabs, other control characters and marks that turn the direction
+ * of writing (a file name may hold any of them) become spaces, so that no name can fake a second
+ * message or steer the terminal.
  */
 [[nodiscard]] QString onOneLine(const QString &text);
 

@@ -7,6 +7,7 @@
 
 #include <QBuffer>
 #include <QDateTime>
+#include <QFileInfo>
 #include <QImageReader>
 #include <QMutex>
 #include <QMutexLocker>
@@ -41,6 +42,13 @@ struct Metadata {
     PhotoInfo info;
     QByteArray preview; ///< an encoded picture; empty when none is embedded or none was wanted
 };
+
+/** Opens a file for exiv2, which takes names like "-" or "http:" as sources of its own kind. */
+Exiv2::Image::AutoPtr openImage(const QString &path)
+{
+    const QString absolute = QFileInfo(path).absoluteFilePath();
+    return Exiv2::ImageFactory::open(QFile::encodeName(absolute).toStdString());
+}
 
 /** A positive, finite number of the EXIF data, or 0. */
 double positiveNumber(const Exiv2::ExifData &exif, const char *key)
@@ -177,9 +185,9 @@ void readTime(const Exiv2::ExifData &exif, PhotoInfo &info)
         stamp = text(exif, "Exif.Image.DateTime");
         fraction = text(exif, "Exif.Photo.SubSecTime");
     }
-    // UTC, so that no change of the clocks makes an hour twice.
-    QDateTime time = QDateTime::fromString(stamp, QStringLiteral("yyyy:MM:dd HH:mm:ss"));
-    time.setTimeSpec(Qt::UTC);
+    // UTC, so that no change of the clocks skips an hour or makes one twice.
+    QDateTime time(QDate::fromString(stamp.left(10), QStringLiteral("yyyy:MM:dd")),
+                   QTime::fromString(stamp.mid(11), QStringLiteral("HH:mm:ss")), Qt::UTC);
     if (!time.isValid()) {
         return;
     }
@@ -199,80 +207,159 @@ int orientationOf(const Exiv2::ExifData &exif)
     return number >= 1.0 && number <= 8.0 ? int(number) : 1;
 }
 
-/** The largest embedded preview that is no larger than the bound allows. */
-QByteArray embeddedPreview(const Exiv2::Image &image)
-{
-    const Exiv2::PreviewManager previews(image);
-    const Exiv2::PreviewPropertiesList list = previews.getPreviewProperties();
-    for (auto entry = list.rbegin(); entry != list.rend(); ++entry) {
-        if (entry->size_ > 0 && entry->size_ <= kMostPreviewBytes) {
-            const Exiv2::PreviewImage preview = previews.getPreviewImage(*entry);
-            return { reinterpret_cast<const char *>(preview.pData()), int(preview.size()) };
-        }
-    }
-    return {};
-}
-
-/** What exiv2 knows about the file; the size only where it knows one. */
-std::optional<Metadata> readMetadata(const QString &path, const QSize &stored, bool wantPreview)
+/** What exiv2 knows about the file, when it knows the format. */
+std::optional<PhotoInfo> readMetadata(const QString &path)
 {
     const QMutexLocker locker(&exivMutex());
     try {
-        const auto image = Exiv2::ImageFactory::open(QFile::encodeName(path).toStdString());
+        const auto image = openImage(path);
         image->readMetadata();
         const Exiv2::ExifData &exif = image->exifData();
-        Metadata metadata;
-        metadata.info.storedSize
-            = stored.isEmpty() ? QSize(image->pixelWidth(), image->pixelHeight()) : stored;
-        metadata.info.orientation = orientationOf(exif);
-        metadata.info.focal35mm = focal35mm(exif, metadata.info.storedSize);
-        metadata.info.lens = lensOf(exif, metadata.info.focal35mm);
-        metadata.info.exposureValue = exposureOf(exif);
-        readTime(exif, metadata.info);
-        if (wantPreview) {
-            metadata.preview = embeddedPreview(*image);
-        }
-        return metadata;
+        PhotoInfo info;
+        info.storedSize = QSize(image->pixelWidth(), image->pixelHeight());
+        info.orientation = orientationOf(exif);
+        info.focal35mm = focal35mm(exif, info.storedSize);
+        info.lens = lensOf(exif, info.focal35mm);
+        info.exposureValue = exposureOf(exif);
+        readTime(exif, info);
+        return info;
     } catch (const std::exception &) {
         return {};
     }
 }
 
-/** Whether reading \p reader's picture stays within bounds. */
-bool decodable(const QImageReader &reader, const QSize &size)
+/** The largest embedded preview of bounded size; empty when there is none. */
+QByteArray embeddedPreview(const QString &path)
 {
-    const bool scalesWhileReading = reader.format() == "jpeg";
-    return scalesWhileReading || qint64(size.width()) * size.height() * 4 <= kMostDecodedBytes;
+    const QMutexLocker locker(&exivMutex());
+    try {
+        const auto image = openImage(path);
+        image->readMetadata();
+        const Exiv2::PreviewManager previews(*image);
+        const Exiv2::PreviewPropertiesList list = previews.getPreviewProperties();
+        for (auto entry = list.rbegin(); entry != list.rend(); ++entry) {
+            if (entry->size_ > 0 && entry->size_ <= kMostPreviewBytes) {
+                const Exiv2::PreviewImage preview = previews.getPreviewImage(*entry);
+                return { reinterpret_cast<const char *>(preview.pData()), int(preview.size()) };
+            }
+        }
+    } catch (const std::exception &) {
+    }
+    return {};
 }
 
+/** Whether the decoder of \p format is made for photos (and reads nothing but the file). */
+bool isPhotoFormat(const QByteArray &format)
+{
+    static const QByteArrayList formats{ "jpeg", "jpg",  "png", "tiff", "tif",
+                                         "webp", "bmp",  "ppm", "pgm",  "heif",
+                                         "heic", "avif", "jp2", "exr",  "hdr" };
+    return formats.contains(format);
+}
+
+/** The next marker of a JPEG stream, as decoders find it: past garbage and fill bytes; 0: none. */
+int nextJpegMarker(QIODevice &device)
+{
+    char byte = 0;
+    bool prefixed = false;
+    while (device.getChar(&byte)) {
+        const auto code = static_cast<unsigned char>(byte);
+        if (prefixed && code != 0xFF && code != 0x00) {
+            return code;
+        }
+        prefixed = code == 0xFF;
+    }
+    return 0;
+}
+
+/**
+ * Whether a decoder must hold all coefficients of a JPEG stream at once, however small the wanted
+ * picture is: progressive ones, and those with a scan per component. Keeps the device's position.
+ */
+bool needsAllCoefficients(QIODevice &device)
+{
+    const qint64 before = device.pos();
+    device.seek(0);
+    int components = 0;
+    bool all = false;
+    while (const int marker = nextJpegMarker(device)) {
+        const bool bare = marker == 0x01 || (marker >= 0xD0 && marker <= 0xD8);
+        if (bare) {
+            continue;
+        }
+        const QByteArray head = device.peek(8).leftJustified(8, 0);
+        const bool frame
+            = (marker & 0xF0) == 0xC0 && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
+        if (frame) {
+            components = static_cast<unsigned char>(head[7]);
+            all = (marker & 3) == 2;
+        }
+        if (all || marker == 0xDA || marker == 0xD9) {
+            all = all || static_cast<unsigned char>(head[2]) < components;
+            break;
+        }
+        const int length
+            = (static_cast<unsigned char>(head[0]) << 8) | static_cast<unsigned char>(head[1]);
+        if (!device.seek(device.pos() + std::max(length, 2))) {
+            break;
+        }
+    }
+    device.seek(before);
+    return all;
+}
+
+/** Whether decoding a picture of \p size pixels from \p reader stays within bounds. */
+bool decodable(const QImageReader &reader, const QSize &size)
+{
+    const qint64 pixels = qint64(size.width()) * size.height();
+    if (reader.format() != "jpeg") {
+        return pixels * 4 <= kMostDecodedBytes;
+    }
+    // Up to four components of 16-bit coefficients; others are reduced while they are decoded.
+    const bool whole = needsAllCoefficients(*reader.device());
+    return (whole ? pixels * 8 : pixels / 64 * 4) <= kMostDecodedBytes;
+}
+
+/** The size of the thumbnail for a picture of \p size. */
+QSize thumbnailSize(const QSize &size)
+{
+    const int longer = std::max(size.width(), size.height());
+    if (longer <= kThumbnailSide) {
+        return size;
+    }
+    const double scale = double(kThumbnailSide) / longer;
+    return QSize(qRound(size.width() * scale), qRound(size.height() * scale)).expandedTo({ 1, 1 });
+}
+
+/** The picture of \p reader at thumbnail size, turned as the picture itself says. */
 QImage decodedThumbnail(QImageReader &reader)
 {
     const QSize size = reader.size();
-    if (!size.isEmpty()) {
-        if (!decodable(reader, size)) {
-            return {};
-        }
-        const QSize bound(kThumbnailSide, kThumbnailSide);
-        const bool larger = size.width() > kThumbnailSide || size.height() > kThumbnailSide;
-        if (larger) {
-            reader.setScaledSize(size.scaled(bound, Qt::KeepAspectRatio).expandedTo({ 1, 1 }));
-        }
+    if (size.isEmpty() || !decodable(reader, size)) {
+        return {};
+    }
+    if (thumbnailSize(size) != size) {
+        reader.setScaledSize(thumbnailSize(size));
     }
     reader.setAutoTransform(true);
     return reader.read();
 }
 
-QImage previewThumbnail(const QByteArray &preview, int orientation)
+/** The thumbnail from the preview that the file embeds; null when there is none. */
+QImage previewThumbnail(const QString &path, int orientation)
 {
     QBuffer buffer;
-    buffer.setData(preview);
+    buffer.setData(embeddedPreview(path));
+    buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer);
+    if (!isPhotoFormat(reader.format())) {
+        return {};
+    }
     const QImage picture = decodedThumbnail(reader);
-    // Most previews leave the turn to the file around them.
-    const bool turnedAlready = reader.transformation() != QImageIOHandler::TransformationNone;
-    if (turnedAlready) {
+    if (reader.transformation() != QImageIOHandler::TransformationNone) {
         return picture;
     }
+    // Most previews leave the turn to the file around them.
     QTransform turn;
     turn.rotate(clockwiseDegrees(orientation));
     return picture.transformed(turn);
@@ -281,20 +368,40 @@ QImage previewThumbnail(const QByteArray &preview, int orientation)
 /** Stands for a photo whose picture is too large, or of a kind that cannot be decoded here. */
 QImage placeholder(const PhotoInfo &info)
 {
-    QSize size = info.storedSize.isEmpty() ? QSize(3, 2) : info.storedSize;
+    QSize size = info.storedSize;
     if (clockwiseDegrees(info.orientation) % 180 != 0) {
         size.transpose();
     }
-    QImage picture(
-        size.scaled(kThumbnailSide, kThumbnailSide, Qt::KeepAspectRatio).expandedTo({ 1, 1 }),
-        QImage::Format_RGB32);
+    QImage picture(thumbnailSize(size), QImage::Format_RGB32);
     picture.fill(Qt::gray);
     return picture;
 }
 
-Failure unreadable(const QString &path, const QString &why)
+Failure unreadable(const QString &path)
 {
-    return { ExitCode::InputRefused, path, why, {} };
+    return { ExitCode::InputRefused, path, QStringLiteral("cannot read (not a photo?)"), {} };
+}
+
+struct Header {
+    PhotoInfo info;
+    bool pictureIsPhoto = false; ///< what the image reader decodes is the photo itself
+};
+
+Header readHeader(const QString &path, const QImageReader &reader)
+{
+    const QSize decoded = isPhotoFormat(reader.format()) ? reader.size() : QSize();
+    const std::optional<PhotoInfo> metadata = readMetadata(path);
+    Header header;
+    header.info = metadata.value_or(PhotoInfo());
+    header.info.path = path;
+    // RAW files are TIFF files whose first picture is a small preview.
+    const QSize known = header.info.storedSize;
+    const bool preview = reader.format().startsWith("tif") && known.width() > decoded.width();
+    header.pictureIsPhoto = !decoded.isEmpty() && !preview;
+    if (header.pictureIsPhoto) {
+        header.info.storedSize = decoded;
+    }
+    return header;
 }
 
 } // namespace
@@ -315,31 +422,19 @@ Result<PhotoReading> readPhoto(const QString &path)
         return opened.error();
     }
     QImageReader reader(opened.value().get());
-    const QSize stored = reader.canRead() ? reader.size() : QSize();
-    const bool picture = !stored.isEmpty();
-    std::optional<Metadata> metadata = readMetadata(path, stored, !picture);
-    if (!metadata && !picture) {
-        return unreadable(path, QStringLiteral("cannot read (not a photo?)"));
+    const Header header = readHeader(path, reader);
+    if (header.info.storedSize.isEmpty()) {
+        return unreadable(path);
     }
-
-    PhotoReading reading;
-    reading.info = metadata ? metadata->info : PhotoInfo();
-    reading.info.path = path;
-    if (!metadata) {
-        reading.info.storedSize = stored;
-    }
-    if (reading.info.storedSize.isEmpty()) {
-        return unreadable(path, QStringLiteral("its size in pixels is not known"));
-    }
-    if (picture) {
-        const bool fits = decodable(reader, stored);
+    PhotoReading reading{ header.info, {} };
+    if (header.pictureIsPhoto && decodable(reader, header.info.storedSize)) {
         reading.thumbnail = decodedThumbnail(reader);
-        if (fits && reading.thumbnail.isNull()) {
-            return unreadable(path, QStringLiteral("cannot read (%1)").arg(reader.errorString()));
+        if (reading.thumbnail.isNull()) {
+            return unreadable(path);
         }
-    } else {
-        reading.thumbnail = previewThumbnail(metadata->preview, reading.info.orientation);
+        return reading;
     }
+    reading.thumbnail = previewThumbnail(path, reading.info.orientation);
     if (reading.thumbnail.isNull()) {
         reading.thumbnail = placeholder(reading.info);
     }
@@ -353,17 +448,11 @@ Result<PhotoInfo> readPhotoInfo(const QString &path)
         return opened.error();
     }
     QImageReader reader(opened.value().get());
-    const QSize stored = reader.canRead() ? reader.size() : QSize();
-    const std::optional<Metadata> metadata = readMetadata(path, stored, false);
-    PhotoInfo info = metadata ? metadata->info : PhotoInfo();
-    info.path = path;
-    if (!metadata) {
-        info.storedSize = stored;
+    const Header header = readHeader(path, reader);
+    if (header.info.storedSize.isEmpty()) {
+        return unreadable(path);
     }
-    if (info.storedSize.isEmpty()) {
-        return unreadable(path, QStringLiteral("cannot read (not a photo?)"));
-    }
-    return info;
+    return header.info;
 }
 
 double exposureValue(double fNumber, double seconds, double iso)
@@ -390,8 +479,8 @@ int clockwiseDegrees(int orientation)
 
 qint64 timeMsFromText(const QString &text)
 {
-    QDateTime time = QDateTime::fromString(text, Qt::ISODateWithMs);
-    time.setTimeSpec(Qt::UTC);
+    // Without a zone Qt takes it for local time, in which some hours do not exist.
+    const QDateTime time = QDateTime::fromString(text + QLatin1Char('Z'), Qt::ISODateWithMs);
     return time.isValid() ? time.toMSecsSinceEpoch() : 0;
 }
 
