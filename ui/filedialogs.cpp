@@ -110,10 +110,15 @@ void readPhotos(ReadingThread &thread, const QStringList &files)
         return;
     }
     // The photo in hand would join the new list.
+    clearIfRunning(thread);
+    thread.Start(files);
+}
+
+void clearIfRunning(ReadingThread &thread)
+{
     if (thread.isRunning()) {
         thread.Clear();
     }
-    thread.Start(files);
 }
 
 } // namespace PanoHead

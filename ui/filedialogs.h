@@ -57,4 +57,7 @@ struct RecordChoice {
 /** Reads \p files from a clean start; not at all without a host. */
 void readPhotos(ReadingThread &thread, const QStringList &files);
 
+/** Stops a run and forgets its images; leaves an idle thread as it is. */
+void clearIfRunning(ReadingThread &thread);
+
 } // namespace PanoHead

@@ -46,6 +46,13 @@ void liftLengthLimit(QLineEdit *edit)
     edit->setMaxLength(std::numeric_limits<int>::max());
 }
 
+void keepPlaceWhenHidden(QWidget *widget)
+{
+    QSizePolicy policy = widget->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget->setSizePolicy(policy);
+}
+
 void fillLensTypes(QComboBox *box, const QStringList &names)
 {
     box->clear();

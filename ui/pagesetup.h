@@ -24,6 +24,9 @@ void completePaths(QLineEdit *edit);
 /** Lets \p edit show the names of as many photos as a shoot may have. */
 void liftLengthLimit(QLineEdit *edit);
 
+/** Hiding \p widget does not move its neighbours. */
+void keepPlaceWhenHidden(QWidget *widget);
+
 /** Items in the order of `LensModel`, with the fisheye preselected: the page presets the lens. */
 void fillLensTypes(QComboBox *box, const QStringList &names);
 

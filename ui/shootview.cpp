@@ -4,6 +4,7 @@
 
 #include "importers/common/displaytexts.h"
 #include "importers/common/shootstate.h"
+#include "plugin/readingthread.h"
 
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -13,6 +14,12 @@
 
 namespace PanoHead
 {
+
+bool isReadAndRecorded(const ShootState &state, ReadingThread &thread)
+{
+    const int photos = state.images.size();
+    return photos == thread.XIImageDefs().size() && photos == state.shotCount;
+}
 
 void showShoot(const ShootView &view, const ShootState &state, const NotAvailable &notAvailable)
 {

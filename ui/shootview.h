@@ -6,6 +6,7 @@
 
 #include <QString>
 
+class ReadingThread;
 class QComboBox;
 class QDoubleSpinBox;
 class QLabel;
@@ -26,6 +27,9 @@ struct ShootView {
     QLineEdit *photos;
     QLabel *photoCount;
 };
+
+/** Every chosen photo has been read, and there are as many as recorded shots. */
+[[nodiscard]] bool isReadAndRecorded(const ShootState &state, ReadingThread &thread);
 
 /** What stands for an unknown value, translated by the page. */
 struct NotAvailable {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "importers/common/linksearch.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace PanoHead
@@ -14,6 +15,9 @@ constexpr double kPi = 3.141592653589793;
 constexpr double kFrameDiagonalMm = 43.266615305567875; // of 36 x 24 mm
 constexpr double kReachFactor = 0.6499999761581421; // 0.65 as 32-bit float
 constexpr float kFullTurn = 6.2831854820251465F; // 2 pi as 32-bit float
+constexpr double kCloseFactor = 0.699999988079071; // 0.7 as 32-bit float
+constexpr float kPiSingle = 3.1415927F;
+constexpr qint32 kUnspecified = 0;
 constexpr qint32 kBelow = 1;
 constexpr qint32 kBeside = 2;
 constexpr qint32 kNoLink = 0;
@@ -71,6 +75,32 @@ qint32 linkTypeTowards(const Pointing &a, const Pointing &b)
     return kNoLink;
 }
 
+/** A photo's direction as a unit vector, and how far it sees. */
+struct CloseView {
+    explicit CloseView(const PhotoDirection &photo)
+        : halfAngleOfView(static_cast<float>(
+            std::atan(kFrameDiagonalMm / (2.0 * static_cast<double>(photo.focalMm)))))
+    {
+        const double yaw = static_cast<double>(photo.yawDegrees * kPiSingle / 180.0F);
+        const double pitch = static_cast<double>(photo.pitchDegrees * kPiSingle / 180.0F);
+        x = std::sin(yaw) * std::cos(pitch);
+        y = std::cos(yaw) * std::cos(pitch);
+        z = -std::sin(pitch);
+    }
+
+    double x;
+    double y;
+    double z;
+    double halfAngleOfView; // radians, rounded to 32-bit
+};
+
+/** Radians. Clamped, since brackets repeat a direction and rounding may push the cosine above 1. */
+double angleBetween(const CloseView &a, const CloseView &b)
+{
+    const double cosine = a.x * b.x + a.y * b.y + a.z * b.z;
+    return std::acos(std::min(std::max(cosine, -1.0), 1.0));
+}
+
 } // namespace
 
 float halfFieldOfView(float focalMm)
@@ -95,6 +125,23 @@ void appendNeighbourLinks(QVector<AuthorizedLink> &links, const QVector<Directio
             const qint32 type = linkTypeTowards(pointings[i], pointings[j]);
             if (type != kNoLink) {
                 links.append({ type, { i, j } });
+            }
+        }
+    }
+}
+
+void appendCloseLinks(QVector<AuthorizedLink> &links, const QVector<PhotoDirection> &photos)
+{
+    QVector<CloseView> views;
+    views.reserve(photos.size());
+    for (const PhotoDirection &photo : photos) {
+        views.append(CloseView(photo));
+    }
+    for (int i = 0; i < views.size(); ++i) {
+        for (int j = i + 1; j < views.size(); ++j) {
+            const double near = angleBetween(views[i], views[j]) * kCloseFactor;
+            if (near < views[i].halfAngleOfView || near < views[j].halfAngleOfView) {
+                links.append({ kUnspecified, { i, j } });
             }
         }
     }

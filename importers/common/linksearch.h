@@ -33,4 +33,18 @@ struct Direction {
 void appendNeighbourLinks(QVector<AuthorizedLink> &links, const QVector<Direction> &positions,
                           float halfFieldOfViewRadians);
 
+/** Where a photo points, with the lens it was taken through. */
+struct PhotoDirection {
+    float yawDegrees;
+    float pitchDegrees;
+    float focalMm; ///< 35 mm equivalent; 0 sees half the sphere, not a number sees nothing
+};
+
+/**
+ * Appends a link of type 0 for every pair i < j whose angular distance, times 0.7, is below half
+ * the diagonal angle of view of either photo. Identical directions always link: here the cosine is
+ * clamped. Order: ascending i, then ascending j.
+ */
+void appendCloseLinks(QVector<AuthorizedLink> &links, const QVector<PhotoDirection> &photos);
+
 } // namespace PanoHead
