@@ -2,16 +2,146 @@
 // SPDX-License-Identifier: MIT
 #include "importers/vrdrive2/uiwpvrdrive2.h"
 
+#include "importers/common/angles.h"
+#include "importers/common/displaytexts.h"
+#include "importers/common/previewlayout.h"
+#include "importers/papywizard/recordedshoot.h"
+#include "plugin/hostapplication.h"
+#include "plugin/readingthread.h"
+#include "plugin/xiapplication.h"
+#include "ui/blocksignal.h"
+#include "ui/choices.h"
+#include "ui/filedialogs.h"
+#include "ui/messageboxes.h"
+#include "ui/pagesetup.h"
+#include "ui/plaintooltip.h"
+#include "ui/previewlabel.h"
+#include "ui/shootview.h"
+
+#include <algorithm>
+
+using namespace PanoHead;
+
+namespace
+{
+
+// The span of a range without shots differs from the Papywizard page's: wanted.
+constexpr LayoutRules kVRDrive2Layout{ 8.0 /* smallest step, degrees */, Span::NegatedSumToo,
+                                       Precision::Double };
+
+constexpr qint32 kTonemapped = 2;
+constexpr qint32 kHdrRadiance = 3;
+
+ShootView shootView(const Ui::UIWPVRDrive2Class &form)
+{
+    return { form.m_leConfigFile, form.m_lbPapyLog, form.m_lbThetaMinMax,
+             form.m_lbPhiMinMax,  form.m_leImage,   form.m_lbImageLog };
+}
+
+LensView lensView(const Ui::UIWPVRDrive2Class &form)
+{
+    return { form.m_lbBracket,          form.m_lbFocalLength, form.m_pbFLUseXML,
+             form.m_lbFocalLengthImage, form.m_pbFLUseImage,  form.m_spFocal,
+             form.m_cbLensType };
+}
+
+LinkingChoices linkingChoices(const Ui::UIWPVRDrive2Class &form)
+{
+    return { form.m_rbLevelLinking0, form.m_rbLevelLinking1, form.m_rbStackLinking0,
+             form.m_rbStackLinking1 };
+}
+
+DetectionOptions detectionOptions(const Ui::UIWPVRDrive2Class &form)
+{
+    return { form.m_autoStart, form.m_cleanLink, form.m_noOptim, form.m_GridOptim };
+}
+
+} // namespace
+
 UIWPVRDrive2::UIWPVRDrive2(QWidget *parent)
     : QWizardPage(parent)
+    , m_readingThread(nullptr)
 {
-    setTitle(tr("VRDrive2 import"));
-    setSubTitle(tr("This importer is not available yet."));
+    setupUi(this);
+    setLogo(this, QStringLiteral(":/7A21C94E-5B20-2020-2020-B662C695C918/Resources/VRDrive2.png"));
+    m_readingThread = new ReadingThread(this);
+    CreateWidgets();
+    CreateConnects();
+    Reset();
+    recolourSubtitle(this, m_preview);
+}
+
+UIWPVRDrive2::~UIWPVRDrive2()
+{
+    m_readingThread->disconnect(this);
+    delete m_readingThread;
+}
+
+void UIWPVRDrive2::CreateWidgets()
+{
+    m_preview = placePreview(m_saPreview);
+    completePaths(m_leConfigFile);
+    liftLengthLimit(m_leImage);
+    keepPlaceWhenHidden(m_lbWarning);
+    m_GridOptim->setChecked(true);
+    m_cleanLink->setChecked(true);
+    m_autoStart->setChecked(true);
+    m_noOptim->setChecked(false);
+    fillLensTypes(m_cbLensType, { tr("Standard"), tr("Fisheye") });
+    new PlainToolTip(m_leConfigFile);
+}
+
+void UIWPVRDrive2::CreateConnects()
+{
+    connect(m_pbSelectImages, &QPushButton::clicked, this, &UIWPVRDrive2::SelectImages);
+    connect(m_pbSelectConfigFile, &QPushButton::clicked, this, &UIWPVRDrive2::SelectConfigFile);
+    connect(m_pbReset, &QPushButton::clicked, this, &UIWPVRDrive2::Reset);
+    connect(m_leConfigFile, &QLineEdit::textEdited, this, &UIWPVRDrive2::SetConfigFFilename);
+    connect(m_hSlider, &QSlider::valueChanged, this, &UIWPVRDrive2::OnZoomChanged);
+    connect(m_readingThread, &ReadingThread::Loaded, this, &UIWPVRDrive2::OnImageLoaded);
+    connect(m_pInverseCoordinates, &QPushButton::clicked, this,
+            &UIWPVRDrive2::OnInverseCoordinates);
+    connect(m_pbRot90, &QPushButton::clicked, this, &UIWPVRDrive2::OnRotate90);
+    connect(m_pbRot270, &QPushButton::clicked, this, &UIWPVRDrive2::OnRotate270);
+    connect(m_rbLevelLinking1, &QRadioButton::clicked, this, &UIWPVRDrive2::OnLevelLinkingClicked);
+    connect(m_rbStackLinking0, &QRadioButton::clicked, this, &UIWPVRDrive2::OnStackLinkingClicked);
+    connect(m_pbFLUseXML, &QPushButton::clicked, this, &UIWPVRDrive2::OnFLUseXML);
+    connect(m_pbFLUseImage, &QPushButton::clicked, this, &UIWPVRDrive2::OnFLUseImage);
+}
+
+void UIWPVRDrive2::initializePage() { }
+
+void UIWPVRDrive2::cleanupPage()
+{
+    Reset();
 }
 
 bool UIWPVRDrive2::isComplete() const
 {
-    return false;
+    return isReadAndRecorded(m_state, *m_readingThread);
+}
+
+bool UIWPVRDrive2::validatePage()
+{
+    XIApplication *host = findHost();
+    if (host == nullptr) {
+        return true;
+    }
+    if (!fillsBrackets(m_state.images.size(), nbPicts)) {
+        // The wording of the Papywizard page: wanted.
+        showMessage(this, QMessageBox::Warning, tr("Warning"),
+                    tr("Papywizard XML has bracketing and the number of images isn't a multiple of "
+                       "this number of brackets."));
+        return false;
+    }
+    nbPicts = std::max(nbPicts, 1);
+    generateSPP(m_state.images, m_readingThread->XIImageDefs(), m_spFocal->value(),
+                static_cast<LensModel>(m_cbLensType->currentIndex()));
+    writeLinking(*this, linkingChoices(*this));
+    writeOptions(*this, detectionOptions(*this));
+    renderMode = m_rbOutputMode1->isChecked() ? kTonemapped : kHdrRadiance;
+    host->ImportStructuredPanorama(*this);
+    return true;
 }
 
 QByteArray UIWPVRDrive2::SaveState() const
@@ -22,4 +152,160 @@ QByteArray UIWPVRDrive2::SaveState() const
 void UIWPVRDrive2::RestoreState(const QByteArray &state)
 {
     Q_UNUSED(state)
+    UpdatePreview();
+}
+
+void UIWPVRDrive2::BrowserWeb(const QString &url)
+{
+    openInBrowser(url);
+}
+
+void UIWPVRDrive2::ParseConfigFile(const QString &fileName)
+{
+    if (readRecord(*this, m_state, fileName)) {
+        m_leConfigFile->setToolTip(headerText(*this));
+    }
+}
+
+void UIWPVRDrive2::SelectConfigFile()
+{
+    const auto choice
+        = selectRecord(this,
+                       { tr("Select the preset file and/or images"),
+                         tr("All Files (*.*);;XML files (*.xml)"), tr("All Files (*.*)") },
+                       m_state.configPath, QStringLiteral(".xml"));
+    if (!choice) {
+        return;
+    }
+    if (!choice->selection.record.isEmpty()) {
+        m_state.configPath = choice->selection.record;
+        ParseConfigFile(m_state.configPath);
+    }
+    const QStringList photos = sortedPhotos(choice->selection.photos);
+    if (!photos.isEmpty() && photos != m_state.images) {
+        usePhotos(photos);
+    }
+    UpdateUI();
+    Q_EMIT completeChanged();
+}
+
+void UIWPVRDrive2::SelectImages()
+{
+    const QStringList photos
+        = selectPhotos(this, { tr("Select images"), tr("All Files (*.*)"), tr("All Files (*.*)") },
+                       m_state.images, ControlShows::Folder);
+    if (!photos.isEmpty()) {
+        usePhotos(photos);
+        UpdateUI();
+        Q_EMIT completeChanged();
+    }
+}
+
+void UIWPVRDrive2::usePhotos(const QStringList &photos)
+{
+    m_state.images = photos;
+    readPhotos(*m_readingThread, photos);
+}
+
+void UIWPVRDrive2::SetConfigFFilename(const QString &text)
+{
+    m_state.configPath = text;
+    ParseConfigFile(text);
+    UpdateUI();
+    Q_EMIT completeChanged();
+}
+
+void UIWPVRDrive2::Reset()
+{
+    forgetShoot(*this, m_state);
+    m_readingThread->Clear();
+    UpdateUI();
+    Q_EMIT completeChanged();
+}
+
+void UIWPVRDrive2::OnImageLoaded()
+{
+    const LensFacts preset = adoptPhotos(m_state, *this, m_readingThread->XIImageDefs());
+    if (preset.focalMm > 0.0) {
+        setLens(lensView(*this), preset);
+    }
+    UpdateUI();
+    UpdatePreview();
+    Q_EMIT completeChanged();
+}
+
+void UIWPVRDrive2::OnFLUseXML()
+{
+    setLens(lensView(*this), { xmlFocal, xmlLensType });
+    UpdateUI();
+    Q_EMIT completeChanged();
+}
+
+void UIWPVRDrive2::OnFLUseImage()
+{
+    setLens(lensView(*this), { m_state.imageFocal, m_state.imageLensType });
+    UpdateUI();
+    Q_EMIT completeChanged();
+}
+
+void UIWPVRDrive2::OnInverseCoordinates()
+{
+    invertPitch(shots);
+    m_state.invertPitchRange();
+    UpdateUI();
+}
+
+void UIWPVRDrive2::OnRotate90()
+{
+    rotate(shots, 90.0F);
+    UpdateUI();
+}
+
+void UIWPVRDrive2::OnRotate270()
+{
+    rotate(shots, -90.0F);
+    UpdateUI();
+}
+
+void UIWPVRDrive2::OnZoomChanged()
+{
+    UpdatePreview();
+    Q_EMIT completeChanged();
+}
+
+void UIWPVRDrive2::OnLevelLinkingClicked(bool checked)
+{
+    onAllLevelsClicked(linkingChoices(*this), checked);
+}
+
+void UIWPVRDrive2::OnStackLinkingClicked(bool checked)
+{
+    onHardLinksClicked(linkingChoices(*this), checked);
+}
+
+void UIWPVRDrive2::UpdateUI()
+{
+    const BlockSignal blocker(this);
+    // The ranges are not translated on this page: wanted.
+    showShoot(shootView(*this), m_state, { tr("N/A"), QStringLiteral("N/A") });
+    showLens(lensView(*this), nbPicts, xmlFocal, m_state.imageFocal, tr("N/A"));
+    const QString warning
+        = textOf(mismatchOf(*this, m_state),
+                 {
+                     tr("Bracketing used in XML, should be multiple of that number"),
+                     tr("Not the same as in XML fil"), // cut off like this: wanted
+                     tr("Focal length difference between EXIF and XML"),
+                     tr("Lens type difference between EXIF and XML"),
+                 });
+    m_lbWarning->setText(warningText(warning));
+    m_lbWarning->setVisible(!warning.isEmpty());
+    UpdatePreview();
+}
+
+void UIWPVRDrive2::UpdatePreview()
+{
+    m_preview->showScene(
+        { layOutShots(shots, m_state.extents(), kVRDrive2Layout), m_readingThread->XIImageDefs(),
+          palette().brush(QPalette::Current, QPalette::Window), CellStyle::FittedWithCaption },
+        m_hSlider->value());
 }

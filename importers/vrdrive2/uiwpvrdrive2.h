@@ -2,18 +2,65 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QByteArray>
+#include "importers/common/shootstate.h"
+#include "importers/vrdrive2/vrdrive2tospp.h"
+#include "ui_uiwpvrdrive2.h"
+
+#include <QStringList>
 #include <QWizardPage>
 
-/** Stands in for the importer's page until the importer exists. */
-class UIWPVRDrive2 : public QWizardPage
+class ReadingThread;
+
+namespace PanoHead
+{
+class PreviewLabel;
+}
+
+/** The wizard page of the VR Drive 2 importer. */
+class UIWPVRDrive2 : public QWizardPage, public VRDrive2ToSPP, public Ui::UIWPVRDrive2Class
 {
     Q_OBJECT
 
 public:
     explicit UIWPVRDrive2(QWidget *parent);
+    /** Stops the reading thread. */
+    ~UIWPVRDrive2() override;
 
+    void initializePage() override;
+    void cleanupPage() override;
+    bool validatePage() override;
     [[nodiscard]] bool isComplete() const override;
+
+    /** Pages keep no state of their own. */
     [[nodiscard]] QByteArray SaveState() const;
     void RestoreState(const QByteArray &state);
+    /** Reads the record at \p fileName; the position count tells success. */
+    void ParseConfigFile(const QString &fileName);
+
+public Q_SLOTS:
+    void SelectImages();
+    void SelectConfigFile();
+    void SetConfigFFilename(const QString &text);
+    void Reset();
+    void UpdateUI();
+    void UpdatePreview();
+    void BrowserWeb(const QString &url);
+    void OnZoomChanged();
+    void OnImageLoaded();
+    void OnInverseCoordinates();
+    void OnRotate90();
+    void OnRotate270();
+    void OnLevelLinkingClicked(bool checked);
+    void OnStackLinkingClicked(bool checked);
+    void OnFLUseXML();
+    void OnFLUseImage();
+
+private:
+    void CreateWidgets();
+    void CreateConnects();
+    void usePhotos(const QStringList &photos);
+
+    PanoHead::ShootState m_state;
+    ReadingThread *m_readingThread;
+    PanoHead::PreviewLabel *m_preview = nullptr;
 };
