@@ -2,16 +2,104 @@
 // SPDX-License-Identifier: MIT
 #include "importers/clauss/uiwpclauss.h"
 
+#include "importers/common/angles.h"
+#include "importers/common/previewlayout.h"
+#include "importers/common/shotorder.h"
+#include "plugin/hostapplication.h"
+#include "plugin/readingthread.h"
+#include "plugin/xiapplication.h"
+#include "ui/blocksignal.h"
+#include "ui/choices.h"
+#include "ui/filedialogs.h"
+#include "ui/messageboxes.h"
+#include "ui/pagesetup.h"
+#include "ui/previewlabel.h"
+#include "ui/shootview.h"
+
+#include <QPointer>
+
+using namespace PanoHead;
+
+namespace
+{
+
+// Scripts hold whole degrees, and every step counts as it is: wanted.
+constexpr LayoutRules kClaussLayout{ 0.0 /* no smallest step */, Span::Absolute,
+                                     Precision::Single };
+
+ShootView shootView(const Ui::UIWPClaussClass &form)
+{
+    return { form.m_leConfigFile, form.m_lbPapyLog, form.m_lbThetaMinMax,
+             form.m_lbPhiMinMax,  form.m_leImage,   form.m_lbImageLog };
+}
+
+DetectionOptions detectionOptions(const Ui::UIWPClaussClass &form)
+{
+    return { form.m_autoStart, form.m_cleanLink, form.m_noOptim, form.m_GridOptim };
+}
+
+} // namespace
+
 UIWPClauss::UIWPClauss(QWidget *parent)
     : QWizardPage(parent)
+    , m_readingThread(nullptr)
 {
-    setTitle(tr("Clauss import"));
-    setSubTitle(tr("This importer is not available yet."));
+    setupUi(this);
+    setLogo(this, QStringLiteral(":/7A21C94E-5B20-2020-2020-D6D081182F97/Resources/Clauss_wp.png"));
+    m_readingThread = new ReadingThread(this);
+    CreateWidgets();
+    CreateConnects();
+    Reset();
+    recolourSubtitle(this, m_preview);
+}
+
+UIWPClauss::~UIWPClauss()
+{
+    m_readingThread->disconnect(this);
+    delete m_readingThread;
+}
+
+void UIWPClauss::CreateWidgets()
+{
+    m_preview = placePreview(m_saPreview);
+    completePaths(m_leConfigFile);
+    liftLengthLimit(m_leImage);
+}
+
+void UIWPClauss::CreateConnects()
+{
+    connect(m_pbSelectImages, &QPushButton::clicked, this, &UIWPClauss::SelectImages);
+    connect(m_pbSelectConfigFile, &QPushButton::clicked, this, &UIWPClauss::SelectConfigFile);
+    connect(m_pbReset, &QPushButton::clicked, this, &UIWPClauss::Reset);
+    connect(m_leConfigFile, &QLineEdit::editingFinished, this, &UIWPClauss::SetConfigFFilename);
+    connect(m_hSlider, &QSlider::valueChanged, this, &UIWPClauss::UpdatePreview);
+    connect(m_readingThread, &ReadingThread::Loaded, this, &UIWPClauss::UpdatePreview);
+    connect(m_pInverseCoordinates, &QPushButton::clicked, this, &UIWPClauss::OnInverseCoordinates);
+}
+
+void UIWPClauss::initializePage() { }
+
+void UIWPClauss::cleanupPage()
+{
+    clearIfRunning(*m_readingThread);
+    Reset();
 }
 
 bool UIWPClauss::isComplete() const
 {
-    return false;
+    return isReadAndRecorded(m_state, *m_readingThread);
+}
+
+bool UIWPClauss::validatePage()
+{
+    XIApplication *host = findHost();
+    if (host == nullptr) {
+        return true;
+    }
+    generateSPP(m_state.images, m_readingThread->XIImageDefs());
+    writeOptions(*this, detectionOptions(*this));
+    host->ImportStructuredPanorama(*this);
+    return true;
 }
 
 QByteArray UIWPClauss::SaveState() const
@@ -22,4 +110,117 @@ QByteArray UIWPClauss::SaveState() const
 void UIWPClauss::RestoreState(const QByteArray &state)
 {
     Q_UNUSED(state)
+    UpdatePreview();
+}
+
+void UIWPClauss::BrowserWeb(const QString &url)
+{
+    openInBrowser(url);
+}
+
+void UIWPClauss::ParseConfigFile(const QString &fileName)
+{
+    m_state.shotCount = -1;
+    if (!parse(fileName)) {
+        showMessage(this, QMessageBox::Critical, tr("Error"),
+                    tr("Error parse file:%1").arg(fileName));
+        return;
+    }
+    m_state.shotCount = shots.size();
+    m_state.setExtents(extentsOf(shots));
+}
+
+void UIWPClauss::SelectConfigFile()
+{
+    const auto choice = selectRecord(this,
+                                     { tr("Select the preset file and/or images"),
+                                       tr("All Files (*.*)"), tr("All Files (*.*)") },
+                                     m_state.configPath, QStringLiteral(".txt"));
+    if (!choice) {
+        return;
+    }
+    if (!choice->selection.record.isEmpty()) {
+        const QPointer<UIWPClauss> self(this);
+        m_state.configPath = choice->selection.record;
+        ParseConfigFile(m_state.configPath);
+        if (self.isNull()) {
+            return;
+        }
+    }
+    // In the dialog's order, not sorted: wanted.
+    const QStringList photos = choice->selection.photos;
+    if (!photos.isEmpty() && photos != m_state.images) {
+        usePhotos(photos);
+    }
+    UpdateUI();
+}
+
+void UIWPClauss::SelectImages()
+{
+    const QStringList photos
+        = selectPhotos(this, { tr("Select images"), tr("All Files (*.*)"), tr("All Files (*.*)") },
+                       m_state.images, ControlShows::Location);
+    if (!photos.isEmpty()) {
+        usePhotos(photos);
+        UpdateUI();
+    }
+}
+
+void UIWPClauss::usePhotos(const QStringList &photos)
+{
+    m_state.images = photos;
+    readPhotos(*m_readingThread, photos);
+}
+
+void UIWPClauss::SetConfigFFilename()
+{
+    const QString text = m_leConfigFile->text();
+    // An open error box takes the focus, so that the edit reports once more: the text has not
+    // changed then, since it is stored before it is parsed.
+    if (!text.isEmpty() && text != m_state.configPath) {
+        const QPointer<UIWPClauss> self(this);
+        m_state.configPath = text;
+        ParseConfigFile(text);
+        if (self.isNull()) {
+            return;
+        }
+    }
+    UpdateUI();
+}
+
+void UIWPClauss::Reset()
+{
+    m_state = ShootState();
+    shots.clear();
+    m_readingThread->Clear();
+    UpdateUI();
+}
+
+void UIWPClauss::OnInverseCoordinates()
+{
+    invertPitch(shots);
+    m_state.invertPitchRange();
+    UpdateUI();
+}
+
+void UIWPClauss::UpdateUI()
+{
+    {
+        const BlockSignal blocker(this);
+        showShoot(shootView(*this), m_state, { tr("N/A"), tr("N/A") });
+    }
+    UpdatePreview();
+}
+
+void UIWPClauss::UpdatePreview()
+{
+    previewImages = byShotTime(m_readingThread->XIImageDefs(), EqualTimes::GiveUp);
+    // After a failed parse positions may be left, without a range to lay them out over.
+    const bool hasRecord = m_state.shotCount > 0;
+    m_preview->showScene(
+        { hasRecord ? layOutShots(shots, m_state.extents(), kClaussLayout) : PreviewLayout(),
+          previewImages, palette().brush(QPalette::Current, QPalette::Window),
+          CellStyle::FittedWithCaption },
+        m_hSlider->value());
+    Q_EMIT completeChanged();
 }

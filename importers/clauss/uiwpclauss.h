@@ -2,18 +2,61 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QByteArray>
+#include "importers/clauss/clausstospp.h"
+#include "importers/common/shootstate.h"
+#include "ui_uiwpclauss.h"
+
+#include <QStringList>
 #include <QWizardPage>
 
-/** Stands in for the importer's page until the importer exists. */
-class UIWPClauss : public QWizardPage
+class ReadingThread;
+
+namespace PanoHead
+{
+class PreviewLabel;
+}
+
+/** The wizard page of the Clauss Rodeon importer. */
+class UIWPClauss : public QWizardPage, public ClaussToSPP, public Ui::UIWPClaussClass
 {
     Q_OBJECT
 
 public:
     explicit UIWPClauss(QWidget *parent);
+    /** Stops the reading thread. */
+    ~UIWPClauss() override;
 
+    void initializePage() override;
+    void cleanupPage() override;
+    bool validatePage() override;
     [[nodiscard]] bool isComplete() const override;
+
+    /** Pages keep no state of their own. */
     [[nodiscard]] QByteArray SaveState() const;
     void RestoreState(const QByteArray &state);
+    /**
+     * Reads the script at \p fileName; a box says when that fails. The host may delete the page
+     * while the box is open.
+     */
+    void ParseConfigFile(const QString &fileName);
+
+public Q_SLOTS:
+    void SelectImages();
+    void SelectConfigFile();
+    void SetConfigFFilename();
+    void Reset();
+    void UpdateUI();
+    void UpdatePreview();
+    void BrowserWeb(const QString &url);
+    void OnInverseCoordinates();
+
+private:
+    void CreateWidgets();
+    void CreateConnects();
+    void usePhotos(const QStringList &photos);
+
+    PanoHead::ShootState m_state;
+    QList<XIImageDef *> previewImages; ///< what the preview shows, by capture time; not owned
+    ReadingThread *m_readingThread;
+    PanoHead::PreviewLabel *m_preview = nullptr;
 };

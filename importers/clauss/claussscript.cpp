@@ -1,0 +1,121 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: MIT
+#include "importers/clauss/claussscript.h"
+
+#include <cmath>
+
+namespace PanoHead
+{
+
+namespace
+{
+
+struct Command {
+    QByteArray key;
+    QByteArray value;
+};
+
+bool isWordCharacter(char c)
+{
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_'
+        || c == '-';
+}
+
+int endOfWord(const QByteArray &line, int start)
+{
+    int end = start;
+    while (end < line.size() && isWordCharacter(line.at(end))) {
+        ++end;
+    }
+    return end;
+}
+
+/** A key from the line's first character on, perhaps an equals sign, a value; the rest is dropped.
+ */
+Command parseLine(const QByteArray &line)
+{
+    const int keyEnd = endOfWord(line, 0);
+    const bool hasSign = keyEnd < line.size() && line.at(keyEnd) == '=';
+    const int valueStart = hasSign ? keyEnd + 1 : keyEnd;
+    return { line.left(keyEnd), line.mid(valueStart, endOfWord(line, valueStart) - valueStart) };
+}
+
+/** The commands as text: no byte order mark, nothing behind a NUL, no carriage returns. */
+QByteArray commandsIn(const QByteArray &bytes)
+{
+    QByteArray text = bytes.startsWith("\xEF\xBB\xBF") ? bytes.mid(3) : bytes;
+    const int nul = text.indexOf('\0');
+    if (nul >= 0) {
+        text.truncate(nul);
+    }
+    return text.replace("\r", "");
+}
+
+class Reader
+{
+public:
+    ClaussScript read(const QByteArray &text)
+    {
+        int start = 0;
+        while (start < text.size()) {
+            const int newline = text.indexOf('\n', start);
+            const int end = newline < 0 ? text.size() : newline;
+            ++m_line;
+            run(parseLine(QByteArray::fromRawData(text.constData() + start, end - start)));
+            start = end + 1;
+        }
+        return m_script;
+    }
+
+private:
+    void run(const Command &command)
+    {
+        if (command.key == "op_shoot") {
+            shoot();
+        } else if (command.key == "op_v-angle") {
+            m_vertical = angleOf(command);
+        } else if (command.key == "op_h-angle") {
+            m_horizontal = angleOf(command);
+        }
+    }
+
+    void shoot()
+    {
+        ShootData shot;
+        shot.yaw = m_horizontal;
+        shot.pitch = m_vertical;
+        shot.id = m_script.shots.size();
+        m_script.shots.append(shot);
+    }
+
+    float angleOf(const Command &command)
+    {
+        bool ok = false;
+        const float angle = command.value.toFloat(&ok);
+        if (ok && std::isfinite(angle)) {
+            return angle;
+        }
+        if (m_script.isSound) {
+            m_script.isSound = false;
+            m_script.firstError = { QStringLiteral("%1=%2 is not a number")
+                                        .arg(QString::fromLatin1(command.key),
+                                             QString::fromLatin1(command.value.left(40))),
+                                    m_line };
+        }
+        return 0.0F;
+    }
+
+    ClaussScript m_script;
+    float m_horizontal = 0.0F; // degrees, kept until changed
+    float m_vertical = 0.0F;
+    int m_line = 0;
+};
+
+} // namespace
+
+ClaussScript readClaussScript(const QByteArray &bytes)
+{
+    return Reader().read(commandsIn(bytes));
+}
+
+} // namespace PanoHead

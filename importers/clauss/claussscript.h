@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "importers/common/recordfile.h"
+#include "model/shootdata.h"
+
+#include <QByteArray>
+#include <QVector>
+
+namespace PanoHead
+{
+
+/** What a Clauss Rodeon script says. */
+struct ClaussScript {
+    QVector<ShootData> shots; ///< one per shooting command; degrees, `id` counts from 0
+    bool isSound = true; ///< every angle was a number
+    ReadError firstError; ///< of the first angle that was none
+};
+
+/**
+ * Reads a script: one command per line, up to the first NUL byte. An angle that is not a finite
+ * number reads as 0 and reading goes on. Unknown commands are skipped. Only letters, digits,
+ * underscores and hyphens belong to a value, so that decimals are cut at the point.
+ */
+[[nodiscard]] ClaussScript readClaussScript(const QByteArray &bytes);
+
+} // namespace PanoHead

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: MIT
+#include "importers/clauss/clausstospp.h"
+
+#include "importers/clauss/claussscript.h"
+#include "importers/common/angles.h"
+#include "importers/common/linksearch.h"
+#include "plugin/xiimagedef.h"
+
+#include <algorithm>
+#include <new>
+
+ClaussToSPP::ClaussToSPP()
+{
+    positionsKnown = true;
+    useRecordedLocation = false;
+    overlap = 25.0;
+}
+
+bool ClaussToSPP::parse(const QString &fileName)
+{
+    shots.clear();
+    const std::optional<QByteArray> bytes = PanoHead::readRecordFile(fileName, nullptr);
+    if (!bytes) {
+        return false;
+    }
+    try {
+        const PanoHead::ClaussScript script = PanoHead::readClaussScript(*bytes);
+        shots = script.shots;
+        return script.isSound;
+    } catch (const std::bad_alloc &) {
+        return false;
+    }
+}
+
+void ClaussToSPP::generateSPP(QStringList &images, QList<XIImageDef *> imageDefs)
+{
+    for (const QString &image : qAsConst(images)) {
+        imageGroups.append({ image });
+    }
+    PanoHead::appendAngles(*this, shots, PanoHead::RollAngles::LeaveEmpty);
+    const int count = std::min({ images.size(), shots.size(), imageDefs.size() });
+    QVector<PanoHead::PhotoDirection> photos;
+    photos.reserve(count);
+    for (int i = 0; i < count; ++i) {
+        photos.append({ shots.at(i).yaw, shots.at(i).pitch, imageDefs.at(i)->FocalLength() });
+    }
+    PanoHead::appendCloseLinks(authorizedLinks, photos);
+}
