@@ -2,16 +2,122 @@
 // SPDX-License-Identifier: MIT
 #include "importers/gigapan/uiwpgigapan.h"
 
+#include "importers/common/displaytexts.h"
+#include "importers/common/shotorder.h"
+#include "importers/gigapan/gridguess.h"
+#include "importers/gigapan/gridlayout.h"
+#include "importers/gigapan/gridorder.h"
+#include "plugin/hostapplication.h"
+#include "plugin/readingthread.h"
+#include "plugin/xiapplication.h"
+#include "plugin/xiimagedef.h"
+#include "ui/choices.h"
+#include "ui/filedialogs.h"
+#include "ui/pagesetup.h"
+#include "ui/previewlabel.h"
+#include "ui/xnoevent.h"
+
+#include <QPixmap>
+
+using namespace PanoHead;
+
+namespace
+{
+
+constexpr int kFreshRows = 4;
+constexpr int kFreshColumns = 5;
+
+LinkingChoices linkingChoices(const Ui::UIWPGigapanClass &form)
+{
+    return { form.m_rbLevelLinking0, form.m_rbLevelLinking1, form.m_rbStackLinking0,
+             form.m_rbStackLinking1 };
+}
+
+DetectionOptions detectionOptions(const Ui::UIWPGigapanClass &form)
+{
+    return { form.m_autoStart, form.m_cleanLink, form.m_noOptim, nullptr };
+}
+
+/** Null for the serpentine, which has no button. */
+QRadioButton *buttonOf(const Ui::UIWPGigapanClass &form, int mode)
+{
+    QRadioButton *const buttons[]
+        = { form.m_rbMode0, form.m_rbMode1, form.m_rbMode2, form.m_rbMode3 };
+    return mode >= kColumnsFromLeft && mode <= kColumnsFromRight ? buttons[mode] : nullptr;
+}
+
+} // namespace
+
 UIWPGigapan::UIWPGigapan(QWidget *parent)
     : QWizardPage(parent)
+    , GigapanToSPP(0, 0, kColumnsFromLeft, 1, 0)
+    , m_readingThread(nullptr)
 {
-    setTitle(tr("Gigapan import"));
-    setSubTitle(tr("This importer is not available yet."));
+    setupUi(this);
+    m_readingThread = new ReadingThread(this);
+    CreateWidgets();
+    CreateConnects();
+    Reset();
+    recolourSubtitle(this, m_preview);
+}
+
+UIWPGigapan::~UIWPGigapan()
+{
+    m_readingThread->disconnect(this);
+    delete m_readingThread;
+}
+
+void UIWPGigapan::CreateWidgets()
+{
+    m_preview = placePreview(m_saPreview);
+    liftLengthLimit(m_leImage);
+}
+
+void UIWPGigapan::CreateConnects()
+{
+    const auto valueChanged = QOverload<int>::of(&QSpinBox::valueChanged);
+    connect(m_sbRow, valueChanged, this, &UIWPGigapan::SetRow);
+    connect(m_sbIgnore, valueChanged, this, &UIWPGigapan::IgnoreNImages);
+    connect(m_pbSelectImages, &QPushButton::clicked, this, &UIWPGigapan::SelectImages);
+    connect(m_pbReset, &QPushButton::clicked, this, &UIWPGigapan::Reset);
+    connect(m_sbBracket, valueChanged, this, &UIWPGigapan::OnChangeBracket);
+    connect(m_hSlider, &QSlider::valueChanged, this, &UIWPGigapan::UpdateUI);
+    connect(m_readingThread, &ReadingThread::Loaded, this, &UIWPGigapan::UpdatePreview);
+    connect(m_rbMode0, &QRadioButton::toggled, this, &UIWPGigapan::OnMode0Toggled);
+    connect(m_rbMode1, &QRadioButton::toggled, this, &UIWPGigapan::OnMode1Toggled);
+    connect(m_rbMode2, &QRadioButton::toggled, this, &UIWPGigapan::OnMode2Toggled);
+    connect(m_rbMode3, &QRadioButton::toggled, this, &UIWPGigapan::OnMode3Toggled);
+    connect(m_rbLevelLinking1, &QRadioButton::clicked, this, &UIWPGigapan::OnLevelLinkingClicked);
+    connect(m_rbStackLinking0, &QRadioButton::clicked, this, &UIWPGigapan::OnStackLinkingClicked);
+}
+
+void UIWPGigapan::initializePage()
+{
+    Reset();
+}
+
+void UIWPGigapan::cleanupPage()
+{
+    clearIfRunning(*m_readingThread);
 }
 
 bool UIWPGigapan::isComplete() const
 {
-    return false;
+    return !images.isEmpty() && m_readingThread->XIImageDefs().size() == images.size();
+}
+
+bool UIWPGigapan::validatePage()
+{
+    XIApplication *host = findHost();
+    if (host == nullptr) {
+        return true;
+    }
+    generateSPP(images, m_cbIS360->isChecked());
+    overlap = m_dsbOverlapping->value();
+    writeLinking(*this, linkingChoices(*this));
+    writeOptions(*this, detectionOptions(*this));
+    host->ImportStructuredPanorama(*this);
+    return true;
 }
 
 QByteArray UIWPGigapan::SaveState() const
@@ -22,4 +128,153 @@ QByteArray UIWPGigapan::SaveState() const
 void UIWPGigapan::RestoreState(const QByteArray &state)
 {
     Q_UNUSED(state)
+    UpdatePreview();
+}
+
+void UIWPGigapan::BrowserWeb(const QString &url)
+{
+    openInBrowser(url);
+}
+
+void UIWPGigapan::SelectImages()
+{
+    const QStringList photos
+        = selectPhotos(this, { tr("Select images"), tr("All Files (*.*)"), tr("All Files (*.*)") },
+                       images, ControlShows::Location);
+    if (photos.isEmpty()) {
+        return;
+    }
+    images = photos;
+    readPhotos(*m_readingThread, photos);
+    ignoredCount = 0;
+    bracketCount = 1;
+    const GridSize guess = guessGrid(images.size());
+    rows = guess.rows;
+    columns = guess.columns;
+    UpdateUI();
+}
+
+void UIWPGigapan::SetRow(int value)
+{
+    setGrid(rows, value);
+}
+
+void UIWPGigapan::IgnoreNImages(int ignored)
+{
+    setGrid(ignoredCount, ignored);
+}
+
+void UIWPGigapan::OnChangeBracket(int bracket)
+{
+    setGrid(bracketCount, bracket);
+}
+
+void UIWPGigapan::setGrid(qint32 &setting, int value)
+{
+    if (m_isUpdating) {
+        return;
+    }
+    setting = value;
+    columns = columnsFor(images.size(), ignoredCount, bracketCount, rows);
+    UpdateUI();
+}
+
+void UIWPGigapan::OnMode0Toggled(bool checked)
+{
+    setMode(kColumnsFromLeft, checked);
+}
+void UIWPGigapan::OnMode1Toggled(bool checked)
+{
+    setMode(kRowsDownward, checked);
+}
+void UIWPGigapan::OnMode2Toggled(bool checked)
+{
+    setMode(kRowsUpward, checked);
+}
+void UIWPGigapan::OnMode3Toggled(bool checked)
+{
+    setMode(kColumnsFromRight, checked);
+}
+void UIWPGigapan::OnMode4Toggled(bool checked)
+{
+    setMode(kSerpentine, checked);
+}
+
+void UIWPGigapan::setMode(int gridOrder, bool checked)
+{
+    if (m_isUpdating || !checked) {
+        return;
+    }
+    const XNoEvent noEvent(m_isUpdating);
+    mode = gridOrder;
+    previewImages.clear();
+    UpdatePreview();
+}
+
+void UIWPGigapan::OnLevelLinkingClicked(bool checked)
+{
+    onAllLevelsClicked(linkingChoices(*this), checked);
+}
+
+void UIWPGigapan::OnStackLinkingClicked(bool checked)
+{
+    onHardLinksClicked(linkingChoices(*this), checked);
+}
+
+void UIWPGigapan::Reset()
+{
+    images.clear();
+    ignoredCount = 0;
+    columns = kFreshColumns;
+    rows = kFreshRows;
+    bracketCount = 1;
+    mode = kColumnsFromLeft;
+    m_readingThread->Clear();
+    UpdateUI();
+}
+
+void UIWPGigapan::UpdateUI()
+{
+    const XNoEvent noEvent(m_isUpdating);
+    m_leImage->setText(photoNames(images));
+    m_lbImage->setText(QStringLiteral("%1 ").arg(images.size()) + tr("images in "));
+    m_sbColumn->setValue(columns);
+    m_sbRow->setValue(rows);
+    m_sbIgnore->setValue(ignoredCount);
+    m_sbBracket->setValue(bracketCount);
+    if (QRadioButton *button = buttonOf(*this, mode)) {
+        button->setChecked(true);
+    }
+    previewImages.clear();
+    UpdatePreview();
+}
+
+void UIWPGigapan::UpdatePreview()
+{
+    const XNoEvent noEvent(m_isUpdating);
+    refreshPreviewImages();
+    const GridView grid{ m_sbRow->value(), m_sbColumn->value(), mode, bracketCount, ignoredCount };
+    m_preview->showScene({ layOutGrid(grid, thumbnailSize()), previewImages, QBrush(Qt::lightGray),
+                           CellStyle::UnscaledPhoto },
+                         m_hSlider->value());
+    Q_EMIT completeChanged();
+}
+
+void UIWPGigapan::refreshPreviewImages()
+{
+    const QList<XIImageDef *> read = m_readingThread->XIImageDefs();
+    if (read.size() != previewImages.size()) {
+        previewImages = byShotTime(read, EqualTimes::GiveUp);
+    }
+}
+
+QSize UIWPGigapan::thumbnailSize() const
+{
+    for (XIImageDef *image : previewImages) {
+        const QPixmap *thumbnail = image->Thumbnail();
+        if (thumbnail != nullptr && !thumbnail->isNull()) {
+            return thumbnail->size();
+        }
+    }
+    return kDefaultThumbnail;
 }

@@ -111,8 +111,7 @@ void UIWPMerlin::cleanupPage()
 
 bool UIWPMerlin::isComplete() const
 {
-    return m_state.images.size() == m_readingThread->XIImageDefs().size()
-        && m_state.images.size() == m_state.shotCount;
+    return isReadAndRecorded(m_state, *m_readingThread);
 }
 
 bool UIWPMerlin::validatePage()

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "importers/common/previewlayout.h"
+
+#include <QSize>
+
+namespace PanoHead
+{
+
+/** A grid as its page shows it. */
+struct GridView {
+    int rows = 1;
+    int columns = 1;
+    int mode = 0;
+    int bracketCount = 1;
+    int ignoredCount = 0;
+};
+
+/** Sides of a thumbnail while no photo has been read, pixels. */
+constexpr QSize kDefaultThumbnail(96, 96);
+
+/**
+ * Places one cell per grid position, at most half as large as \p thumbnail and halved further
+ * until the canvas fits in 10,000 x 10,000 pixels; empty when that is impossible. Each cell shows
+ * the first photo of its stack. Cells come in shooting order; the serpentine walks its columns and
+ * does not count ignored photos: wanted.
+ */
+[[nodiscard]] PreviewLayout layOutGrid(const GridView &grid, const QSize &thumbnail);
+
+} // namespace PanoHead
