@@ -14,6 +14,25 @@ endforeach()
 set_source_files_properties(${_translations} PROPERTIES OUTPUT_LOCATION ${TRANSLATION_DIR})
 qt5_add_translation(_compiled_translations ${_translations})
 
+# Writes one notice per line of the table of components; answers their lines of the collection file.
+function(panohead_write_notices table folder result)
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${table})
+  file(STRINGS ${table} lines REGEX "^[^#]" ENCODING UTF-8)
+  foreach(line IN LISTS lines)
+    string(REGEX REPLACE " *\\| *" ";" fields "${line}")
+    list(LENGTH fields count)
+    if(NOT count EQUAL 9)
+      message(FATAL_ERROR "${table}: this line has ${count} fields instead of 9:\n${line}")
+    endif()
+    list(POP_FRONT fields file component version holders licence use evidence package home)
+    configure_file(${PROJECT_SOURCE_DIR}/resources/licenses/notice.txt.in ${folder}/${file}.txt @ONLY)
+    string(APPEND entries "    <file alias=\"${file}.txt\">${folder}/${file}.txt</file>\n")
+  endforeach()
+  set(${result} "${entries}" PARENT_SCOPE)
+endfunction()
+panohead_write_notices(${PROJECT_SOURCE_DIR}/resources/licenses/table
+                       ${PROJECT_BINARY_DIR}/resources/licenses LICENSE_FILES)
+
 # The file names fix the initialisers: qInitResources_XPanoHead and qInitResources_XUI.
 foreach(_pack IN ITEMS XPanoHead XUI)
   configure_file(${PROJECT_SOURCE_DIR}/resources/${_pack}.qrc

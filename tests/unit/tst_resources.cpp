@@ -27,6 +27,7 @@ private Q_SLOTS:
     void controlModuleDeclaresItsTypes_data();
     void controlModuleDeclaresItsTypes();
     void uiPackHoldsItsScriptsAndPages();
+    void everyNamedComponentHasItsNotice();
     void translationFolderHoldsExactlyTheNamedFiles();
     void everyTranslationLoads_data();
     void everyTranslationLoads();
@@ -235,6 +236,45 @@ void ResourcesTest::uiPackHoldsItsScriptsAndPages()
     QCOMPARE(filesIn(QStringLiteral(":/Shader")).size(), 1);
     QCOMPARE(filesIn(QStringLiteral(":/Resources")),
              QStringList{ QStringLiteral("settings_small.png") });
+}
+
+void ResourcesTest::everyNamedComponentHasItsNotice()
+{
+    const QStringList expected{
+        QStringLiteral("brotli.txt"),        QStringLiteral("double-conversion.txt"),
+        QStringLiteral("enblend.txt"),       QStringLiteral("exiv2.txt"),
+        QStringLiteral("expat.txt"),         QStringLiteral("freetype.txt"),
+        QStringLiteral("gcc-runtime.txt"),   QStringLiteral("glib.txt"),
+        QStringLiteral("glibc.txt"),         QStringLiteral("graphite2.txt"),
+        QStringLiteral("gsl.txt"),           QStringLiteral("harfbuzz.txt"),
+        QStringLiteral("hugin.txt"),         QStringLiteral("icu.txt"),
+        QStringLiteral("lcms2.txt"),         QStringLiteral("libglvnd.txt"),
+        QStringLiteral("libjpeg-turbo.txt"), QStringLiteral("libpano13.txt"),
+        QStringLiteral("libpng.txt"),        QStringLiteral("libtiff.txt"),
+        QStringLiteral("libwebp.txt"),       QStringLiteral("libx11.txt"),
+        QStringLiteral("libxcb.txt"),        QStringLiteral("md4c.txt"),
+        QStringLiteral("ocl-icd.txt"),       QStringLiteral("onetbb.txt"),
+        QStringLiteral("openexr.txt"),       QStringLiteral("pcre2.txt"),
+        QStringLiteral("qtbase.txt"),        QStringLiteral("qtimageformats.txt"),
+        QStringLiteral("vigra.txt"),         QStringLiteral("zlib.txt"),
+        QStringLiteral("zstd.txt"),
+    };
+    QCOMPARE(expected.size(), 33);
+    const QDir folder(QStringLiteral(":/Licenses"));
+    QStringList found = folder.entryList();
+    found.sort();
+    QCOMPARE(found, expected);
+    // Component and version, blank, then four labelled lines.
+    const QRegularExpression form(QStringLiteral(
+        "^\\S.* [0-9][0-9.]*\n\n"
+        "Use here: \\S.*\nCopyright: \\S.*\nLicense: \\S.* \\(SPDX identifier\\)\n"
+        "Full text: /usr/share/doc/\\S+/copyright on Debian, and at https?://\\S+\n$"));
+    for (const QString &name : found) {
+        QFile notice(folder.filePath(name));
+        QVERIFY(notice.open(QIODevice::ReadOnly));
+        const QString text = QString::fromUtf8(notice.readAll());
+        QVERIFY2(form.match(text).hasMatch(), qPrintable(name + QLatin1Char('\n') + text));
+    }
 }
 
 void ResourcesTest::translationFolderHoldsExactlyTheNamedFiles()
