@@ -16,14 +16,17 @@ namespace PanoHead
  * What Qt's XML parser may be given. It recurses per element, keeps every node, expands entities
  * without a total limit and is quadratic in entity declarations; within these limits it needs
  * neither much stack nor much memory nor much time.
+ *
+ * Entities that a document declares for itself must be plain text: no markup, no references to
+ * other entities, no parameter entities. Only then a scan without expanding sees what the parser
+ * sees.
  */
 struct XmlLimits {
     int maxDepth = 256;
-    int maxNodes = 1'100'000; ///< elements, attributes and text runs together
+    int maxNodes = 1'100'000; ///< elements, attributes, text runs, comments and the like together
     int maxAttributes = 4'096; ///< of one element
-    int maxDoctypeLength = 4'096;
-    int maxExpansion = 24'000; ///< references times the longest possible expansion, characters
-    int maxNestedEntity = 4'096; ///< Qt refuses a nested entity that expands to more
+    int maxDoctypeLength = 4'096; ///< characters, of all declarations together
+    int maxExpansion = 24'000; ///< references times length of the declarations, characters
 };
 
 /**
