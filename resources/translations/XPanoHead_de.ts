@@ -84,7 +84,7 @@
     </message>
     <message>
         <source>Number of image:</source>
-        <translation>Anzahl der Bilder:</translation>
+        <translation>Bildanzahl:</translation>
     </message>
     <message>
         <source>Options</source>
@@ -352,7 +352,7 @@
     </message>
     <message>
         <source>Number of images:</source>
-        <translation>Anzahl der Bilder:</translation>
+        <translation>Bildanzahl:</translation>
     </message>
     <message>
         <source>N/A</source>
@@ -360,19 +360,19 @@
     </message>
     <message>
         <source>Yaw:</source>
-        <translation>Gierwinkel:</translation>
+        <translation>Gieren:</translation>
     </message>
     <message>
         <source>Pitch:</source>
-        <translation>Nickwinkel:</translation>
+        <translation>Nicken:</translation>
     </message>
     <message>
         <source>Bracketing:</source>
-        <translation>Belichtungsreihe:</translation>
+        <translation>Bracketing:</translation>
     </message>
     <message>
         <source>XML focal:</source>
-        <translation>Brennweite laut XML:</translation>
+        <translation>XML-Brennweite:</translation>
     </message>
     <message>
         <source>Images:</source>
@@ -380,7 +380,7 @@
     </message>
     <message>
         <source>Image focal:</source>
-        <translation>Brennweite der Bilder:</translation>
+        <translation>Bild-Brennweite:</translation>
     </message>
     <message>
         <source>Shoot setup</source>
@@ -554,7 +554,7 @@
     </message>
     <message>
         <source>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; plug-in enables an automated HDR workflow with all parameters set for true light rendering and easy use of Weavix software.</source>
-        <translation>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt;: Das Plug-in ermöglicht einen automatisierten HDR-Ablauf, bei dem alle Parameter für eine lichtgetreue Wiedergabe und die einfache Nutzung der Weavix-Software eingestellt sind.</translation>
+        <translation>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt;: automatisierter HDR-Ablauf, alle Parameter auf lichtgetreue Wiedergabe und einfache Nutzung der Weavix-Software eingestellt.</translation>
     </message>
     <message>
         <source>General</source>
@@ -570,7 +570,7 @@
     </message>
     <message>
         <source>Number of images:</source>
-        <translation>Anzahl der Bilder:</translation>
+        <translation>Bildanzahl:</translation>
     </message>
     <message>
         <source>N/A</source>
@@ -578,7 +578,7 @@
     </message>
     <message>
         <source>Image focal:</source>
-        <translation>Brennweite der Bilder:</translation>
+        <translation>Bild-Brennweite:</translation>
     </message>
     <message>
         <source>XML:</source>
@@ -590,19 +590,19 @@
     </message>
     <message>
         <source>Yaw:</source>
-        <translation>Gierwinkel:</translation>
+        <translation>Gieren:</translation>
     </message>
     <message>
         <source>Pitch:</source>
-        <translation>Nickwinkel:</translation>
+        <translation>Nicken:</translation>
     </message>
     <message>
         <source>Bracketing:</source>
-        <translation>Belichtungsreihe:</translation>
+        <translation>Bracketing:</translation>
     </message>
     <message>
         <source>XML focal:</source>
-        <translation>Brennweite laut XML:</translation>
+        <translation>XML-Brennweite:</translation>
     </message>
     <message>
         <source>Output:</source>

@@ -60,7 +60,7 @@
     </message>
     <message>
         <source>Number of shoot:</source>
-        <translation>Número de tomas:</translation>
+        <translation>N.º de tomas:</translation>
     </message>
     <message>
         <source>N/A</source>
@@ -84,7 +84,7 @@
     </message>
     <message>
         <source>Number of image:</source>
-        <translation>Número de imágenes:</translation>
+        <translation>N.º de imágenes:</translation>
     </message>
     <message>
         <source>Options</source>
@@ -202,7 +202,7 @@
     </message>
     <message>
         <source>Shoot setup</source>
-        <translation>Ajustes de la toma</translation>
+        <translation>Toma</translation>
     </message>
     <message>
         <source>Force 360° panorama</source>
@@ -242,7 +242,7 @@
     </message>
     <message>
         <source>Detection options</source>
-        <translation>Opciones de detección</translation>
+        <translation>Detección</translation>
     </message>
     <message>
         <source>Auto detection</source>
@@ -332,7 +332,7 @@
     </message>
     <message>
         <source>&lt;a href=&quot;https://www.papywizard.org&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;Papywizard&lt;/font&gt;&lt;/a&gt; is a free project to drive Merlin/Orion panorama heads. The XML file format is open and used by a wide range of motorized panorama heads.</source>
-        <translation>&lt;a href=&quot;https://www.papywizard.org&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;Papywizard&lt;/font&gt;&lt;/a&gt; es un proyecto libre para controlar cabezales panorámicos Merlin/Orion. El formato de archivo XML es abierto y lo usan muchos cabezales panorámicos motorizados.</translation>
+        <translation>&lt;a href=&quot;https://www.papywizard.org&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;Papywizard&lt;/font&gt;&lt;/a&gt; es un proyecto libre para controlar cabezales Merlin/Orion. Su formato XML es abierto y lo usan muchos cabezales panorámicos motorizados.</translation>
     </message>
     <message>
         <source>General</source>
@@ -352,7 +352,7 @@
     </message>
     <message>
         <source>Number of images:</source>
-        <translation>Número de imágenes:</translation>
+        <translation>N.º de imágenes:</translation>
     </message>
     <message>
         <source>N/A</source>
@@ -372,7 +372,7 @@
     </message>
     <message>
         <source>XML focal:</source>
-        <translation>Focal del XML:</translation>
+        <translation>Focal XML:</translation>
     </message>
     <message>
         <source>Images:</source>
@@ -380,11 +380,11 @@
     </message>
     <message>
         <source>Image focal:</source>
-        <translation>Focal de la imagen:</translation>
+        <translation>Focal de imágenes:</translation>
     </message>
     <message>
         <source>Shoot setup</source>
-        <translation>Ajustes de la toma</translation>
+        <translation>Toma</translation>
     </message>
     <message>
         <source>Inverse Y coordinates</source>
@@ -444,7 +444,7 @@
     </message>
     <message>
         <source>Detection options</source>
-        <translation>Opciones de detección</translation>
+        <translation>Detección</translation>
     </message>
     <message>
         <source>Auto detection</source>
@@ -464,7 +464,7 @@
     </message>
     <message>
         <source>Header details</source>
-        <translation>Detalles de la cabecera</translation>
+        <translation>Cabecera</translation>
     </message>
     <message>
         <source>Title:</source>
@@ -554,7 +554,7 @@
     </message>
     <message>
         <source>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; plug-in enables an automated HDR workflow with all parameters set for true light rendering and easy use of Weavix software.</source>
-        <translation>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt;: este complemento permite un flujo de trabajo HDR automatizado con todos los parámetros ajustados para una reproducción fiel de la luz y un uso sencillo del software Weavix.</translation>
+        <translation>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt;: flujo HDR automatizado con todos los parámetros ajustados para una luz fiel y un uso sencillo del software Weavix.</translation>
     </message>
     <message>
         <source>General</source>
@@ -570,7 +570,7 @@
     </message>
     <message>
         <source>Number of images:</source>
-        <translation>Número de imágenes:</translation>
+        <translation>N.º de imágenes:</translation>
     </message>
     <message>
         <source>N/A</source>
@@ -578,7 +578,7 @@
     </message>
     <message>
         <source>Image focal:</source>
-        <translation>Focal de la imagen:</translation>
+        <translation>Focal de imágenes:</translation>
     </message>
     <message>
         <source>XML:</source>
@@ -602,7 +602,7 @@
     </message>
     <message>
         <source>XML focal:</source>
-        <translation>Focal del XML:</translation>
+        <translation>Focal XML:</translation>
     </message>
     <message>
         <source>Output:</source>
@@ -622,7 +622,7 @@
     </message>
     <message>
         <source>Shoot setup</source>
-        <translation>Ajustes de la toma</translation>
+        <translation>Toma</translation>
     </message>
     <message>
         <source>Inverse Y coordinates</source>
@@ -682,7 +682,7 @@
     </message>
     <message>
         <source>Detection options</source>
-        <translation>Opciones de detección</translation>
+        <translation>Detección</translation>
     </message>
     <message>
         <source>Auto detection</source>

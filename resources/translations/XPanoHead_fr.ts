@@ -84,7 +84,7 @@
     </message>
     <message>
         <source>Number of image:</source>
-        <translation>Nombre d&apos;images&#xa0;:</translation>
+        <translation>Nb d&apos;images&#xa0;:</translation>
     </message>
     <message>
         <source>Options</source>
@@ -202,7 +202,7 @@
     </message>
     <message>
         <source>Shoot setup</source>
-        <translation>Réglages de prise de vue</translation>
+        <translation>Prise de vue</translation>
     </message>
     <message>
         <source>Force 360° panorama</source>
@@ -332,7 +332,7 @@
     </message>
     <message>
         <source>&lt;a href=&quot;https://www.papywizard.org&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;Papywizard&lt;/font&gt;&lt;/a&gt; is a free project to drive Merlin/Orion panorama heads. The XML file format is open and used by a wide range of motorized panorama heads.</source>
-        <translation>&lt;a href=&quot;https://www.papywizard.org&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;Papywizard&lt;/font&gt;&lt;/a&gt; est un projet libre qui pilote les têtes panoramiques Merlin/Orion. Le format de fichier XML est ouvert et utilisé par un grand nombre de têtes panoramiques motorisées.</translation>
+        <translation>&lt;a href=&quot;https://www.papywizard.org&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;Papywizard&lt;/font&gt;&lt;/a&gt; est un projet libre pour piloter les têtes Merlin/Orion. Son format XML, ouvert, sert à de nombreuses têtes panoramiques motorisées.</translation>
     </message>
     <message>
         <source>General</source>
@@ -352,7 +352,7 @@
     </message>
     <message>
         <source>Number of images:</source>
-        <translation>Nombre d&apos;images&#xa0;:</translation>
+        <translation>Nb d&apos;images&#xa0;:</translation>
     </message>
     <message>
         <source>N/A</source>
@@ -372,7 +372,7 @@
     </message>
     <message>
         <source>XML focal:</source>
-        <translation>Focale du XML&#xa0;:</translation>
+        <translation>Focale XML&#xa0;:</translation>
     </message>
     <message>
         <source>Images:</source>
@@ -384,7 +384,7 @@
     </message>
     <message>
         <source>Shoot setup</source>
-        <translation>Réglages de prise de vue</translation>
+        <translation>Prise de vue</translation>
     </message>
     <message>
         <source>Inverse Y coordinates</source>
@@ -464,7 +464,7 @@
     </message>
     <message>
         <source>Header details</source>
-        <translation>Détails de l&apos;en-tête</translation>
+        <translation>En-tête</translation>
     </message>
     <message>
         <source>Title:</source>
@@ -554,7 +554,7 @@
     </message>
     <message>
         <source>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; plug-in enables an automated HDR workflow with all parameters set for true light rendering and easy use of Weavix software.</source>
-        <translation>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; : ce module permet un flux de travail HDR automatisé dont tous les paramètres sont réglés pour un rendu fidèle de la lumière et une utilisation facile du logiciel Weavix.</translation>
+        <translation>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt;&#xa0;: flux HDR automatisé, tous les paramètres étant réglés pour un rendu fidèle de la lumière et un usage facile de Weavix.</translation>
     </message>
     <message>
         <source>General</source>
@@ -570,7 +570,7 @@
     </message>
     <message>
         <source>Number of images:</source>
-        <translation>Nombre d&apos;images&#xa0;:</translation>
+        <translation>Nb d&apos;images&#xa0;:</translation>
     </message>
     <message>
         <source>N/A</source>
@@ -602,7 +602,7 @@
     </message>
     <message>
         <source>XML focal:</source>
-        <translation>Focale du XML&#xa0;:</translation>
+        <translation>Focale XML&#xa0;:</translation>
     </message>
     <message>
         <source>Output:</source>
@@ -622,7 +622,7 @@
     </message>
     <message>
         <source>Shoot setup</source>
-        <translation>Réglages de prise de vue</translation>
+        <translation>Prise de vue</translation>
     </message>
     <message>
         <source>Inverse Y coordinates</source>

@@ -84,7 +84,7 @@
     </message>
     <message>
         <source>Number of image:</source>
-        <translation>Numero di immagini:</translation>
+        <translation>N. immagini:</translation>
     </message>
     <message>
         <source>Options</source>
@@ -202,7 +202,7 @@
     </message>
     <message>
         <source>Shoot setup</source>
-        <translation>Impostazioni di ripresa</translation>
+        <translation>Ripresa</translation>
     </message>
     <message>
         <source>Force 360° panorama</source>
@@ -242,7 +242,7 @@
     </message>
     <message>
         <source>Detection options</source>
-        <translation>Opzioni di rilevamento</translation>
+        <translation>Rilevamento</translation>
     </message>
     <message>
         <source>Auto detection</source>
@@ -352,7 +352,7 @@
     </message>
     <message>
         <source>Number of images:</source>
-        <translation>Numero di immagini:</translation>
+        <translation>N. immagini:</translation>
     </message>
     <message>
         <source>N/A</source>
@@ -372,7 +372,7 @@
     </message>
     <message>
         <source>XML focal:</source>
-        <translation>Focale nell&apos;XML:</translation>
+        <translation>Focale XML:</translation>
     </message>
     <message>
         <source>Images:</source>
@@ -380,11 +380,11 @@
     </message>
     <message>
         <source>Image focal:</source>
-        <translation>Focale delle immagini:</translation>
+        <translation>Focale immagini:</translation>
     </message>
     <message>
         <source>Shoot setup</source>
-        <translation>Impostazioni di ripresa</translation>
+        <translation>Ripresa</translation>
     </message>
     <message>
         <source>Inverse Y coordinates</source>
@@ -444,7 +444,7 @@
     </message>
     <message>
         <source>Detection options</source>
-        <translation>Opzioni di rilevamento</translation>
+        <translation>Rilevamento</translation>
     </message>
     <message>
         <source>Auto detection</source>
@@ -464,7 +464,7 @@
     </message>
     <message>
         <source>Header details</source>
-        <translation>Dettagli dell&apos;intestazione</translation>
+        <translation>Intestazione</translation>
     </message>
     <message>
         <source>Title:</source>
@@ -554,7 +554,7 @@
     </message>
     <message>
         <source>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; plug-in enables an automated HDR workflow with all parameters set for true light rendering and easy use of Weavix software.</source>
-        <translation>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt;: il plug-in permette un flusso di lavoro HDR automatizzato con tutti i parametri impostati per una resa fedele della luce e un uso semplice del software Weavix.</translation>
+        <translation>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt;: flusso HDR automatizzato con tutti i parametri impostati per una luce fedele e un uso semplice del software Weavix.</translation>
     </message>
     <message>
         <source>General</source>
@@ -570,7 +570,7 @@
     </message>
     <message>
         <source>Number of images:</source>
-        <translation>Numero di immagini:</translation>
+        <translation>N. immagini:</translation>
     </message>
     <message>
         <source>N/A</source>
@@ -578,7 +578,7 @@
     </message>
     <message>
         <source>Image focal:</source>
-        <translation>Focale delle immagini:</translation>
+        <translation>Focale immagini:</translation>
     </message>
     <message>
         <source>XML:</source>
@@ -602,7 +602,7 @@
     </message>
     <message>
         <source>XML focal:</source>
-        <translation>Focale nell&apos;XML:</translation>
+        <translation>Focale XML:</translation>
     </message>
     <message>
         <source>Output:</source>
@@ -622,7 +622,7 @@
     </message>
     <message>
         <source>Shoot setup</source>
-        <translation>Impostazioni di ripresa</translation>
+        <translation>Ripresa</translation>
     </message>
     <message>
         <source>Inverse Y coordinates</source>
@@ -682,7 +682,7 @@
     </message>
     <message>
         <source>Detection options</source>
-        <translation>Opzioni di rilevamento</translation>
+        <translation>Rilevamento</translation>
     </message>
     <message>
         <source>Auto detection</source>

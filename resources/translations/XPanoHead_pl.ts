@@ -84,7 +84,7 @@
     </message>
     <message>
         <source>Number of image:</source>
-        <translation>Liczba zdjęć:</translation>
+        <translation>Zdjęć:</translation>
     </message>
     <message>
         <source>Options</source>
@@ -332,7 +332,7 @@
     </message>
     <message>
         <source>&lt;a href=&quot;https://www.papywizard.org&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;Papywizard&lt;/font&gt;&lt;/a&gt; is a free project to drive Merlin/Orion panorama heads. The XML file format is open and used by a wide range of motorized panorama heads.</source>
-        <translation>&lt;a href=&quot;https://www.papywizard.org&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;Papywizard&lt;/font&gt;&lt;/a&gt; to wolny projekt do sterowania głowicami panoramicznymi Merlin/Orion. Format pliku XML jest otwarty i używany przez wiele zmotoryzowanych głowic panoramicznych.</translation>
+        <translation>&lt;a href=&quot;https://www.papywizard.org&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;Papywizard&lt;/font&gt;&lt;/a&gt; to wolny projekt sterujący głowicami Merlin/Orion. Jego otwarty format XML jest używany przez wiele zmotoryzowanych głowic.</translation>
     </message>
     <message>
         <source>General</source>
@@ -352,7 +352,7 @@
     </message>
     <message>
         <source>Number of images:</source>
-        <translation>Liczba zdjęć:</translation>
+        <translation>Zdjęć:</translation>
     </message>
     <message>
         <source>N/A</source>
@@ -372,7 +372,7 @@
     </message>
     <message>
         <source>XML focal:</source>
-        <translation>Ogniskowa w XML:</translation>
+        <translation>Ogn. XML:</translation>
     </message>
     <message>
         <source>Images:</source>
@@ -554,7 +554,7 @@
     </message>
     <message>
         <source>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; plug-in enables an automated HDR workflow with all parameters set for true light rendering and easy use of Weavix software.</source>
-        <translation>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt;: wtyczka umożliwia zautomatyzowaną pracę z HDR, ze wszystkimi parametrami ustawionymi tak, by wiernie oddać światło i ułatwić korzystanie z oprogramowania Weavix.</translation>
+        <translation>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt;: zautomatyzowana praca z HDR, wszystkie parametry dobrane dla wiernego światła i łatwej obsługi programu Weavix.</translation>
     </message>
     <message>
         <source>General</source>
@@ -570,7 +570,7 @@
     </message>
     <message>
         <source>Number of images:</source>
-        <translation>Liczba zdjęć:</translation>
+        <translation>Zdjęć:</translation>
     </message>
     <message>
         <source>N/A</source>
@@ -602,7 +602,7 @@
     </message>
     <message>
         <source>XML focal:</source>
-        <translation>Ogniskowa w XML:</translation>
+        <translation>Ogn. XML:</translation>
     </message>
     <message>
         <source>Output:</source>

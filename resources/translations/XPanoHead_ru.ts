@@ -60,7 +60,7 @@
     </message>
     <message>
         <source>Number of shoot:</source>
-        <translation>Число позиций съёмки:</translation>
+        <translation>Позиций съёмки:</translation>
     </message>
     <message>
         <source>N/A</source>
@@ -84,7 +84,7 @@
     </message>
     <message>
         <source>Number of image:</source>
-        <translation>Число снимков:</translation>
+        <translation>Снимков:</translation>
     </message>
     <message>
         <source>Options</source>
@@ -202,7 +202,7 @@
     </message>
     <message>
         <source>Shoot setup</source>
-        <translation>Параметры съёмки</translation>
+        <translation>Съёмка</translation>
     </message>
     <message>
         <source>Force 360° panorama</source>
@@ -332,7 +332,7 @@
     </message>
     <message>
         <source>&lt;a href=&quot;https://www.papywizard.org&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;Papywizard&lt;/font&gt;&lt;/a&gt; is a free project to drive Merlin/Orion panorama heads. The XML file format is open and used by a wide range of motorized panorama heads.</source>
-        <translation>&lt;a href=&quot;https://www.papywizard.org&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;Papywizard&lt;/font&gt;&lt;/a&gt; — свободный проект для управления панорамными головками Merlin/Orion. Формат файла XML открыт и используется многими моторизованными панорамными головками.</translation>
+        <translation>&lt;a href=&quot;https://www.papywizard.org&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;Papywizard&lt;/font&gt;&lt;/a&gt; — свободный проект для управления головками Merlin/Orion. Его открытый формат XML используют многие моторизованные головки.</translation>
     </message>
     <message>
         <source>General</source>
@@ -352,7 +352,7 @@
     </message>
     <message>
         <source>Number of images:</source>
-        <translation>Число снимков:</translation>
+        <translation>Снимков:</translation>
     </message>
     <message>
         <source>N/A</source>
@@ -372,7 +372,7 @@
     </message>
     <message>
         <source>XML focal:</source>
-        <translation>Фокусное по XML:</translation>
+        <translation>Фокус XML:</translation>
     </message>
     <message>
         <source>Images:</source>
@@ -380,11 +380,11 @@
     </message>
     <message>
         <source>Image focal:</source>
-        <translation>Фокусное по снимкам:</translation>
+        <translation>Фокус снимков:</translation>
     </message>
     <message>
         <source>Shoot setup</source>
-        <translation>Параметры съёмки</translation>
+        <translation>Съёмка</translation>
     </message>
     <message>
         <source>Inverse Y coordinates</source>
@@ -464,7 +464,7 @@
     </message>
     <message>
         <source>Header details</source>
-        <translation>Данные заголовка</translation>
+        <translation>Заголовок</translation>
     </message>
     <message>
         <source>Title:</source>
@@ -554,7 +554,7 @@
     </message>
     <message>
         <source>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; plug-in enables an automated HDR workflow with all parameters set for true light rendering and easy use of Weavix software.</source>
-        <translation>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt;: модуль обеспечивает автоматизированную обработку HDR, в которой все параметры настроены на верную передачу света и простую работу с программой Weavix.</translation>
+        <translation>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt;: автоматизированный HDR, все параметры настроены на верную передачу света и простую работу с Weavix.</translation>
     </message>
     <message>
         <source>General</source>
@@ -570,7 +570,7 @@
     </message>
     <message>
         <source>Number of images:</source>
-        <translation>Число снимков:</translation>
+        <translation>Снимков:</translation>
     </message>
     <message>
         <source>N/A</source>
@@ -578,7 +578,7 @@
     </message>
     <message>
         <source>Image focal:</source>
-        <translation>Фокусное по снимкам:</translation>
+        <translation>Фокус снимков:</translation>
     </message>
     <message>
         <source>XML:</source>
@@ -602,7 +602,7 @@
     </message>
     <message>
         <source>XML focal:</source>
-        <translation>Фокусное по XML:</translation>
+        <translation>Фокус XML:</translation>
     </message>
     <message>
         <source>Output:</source>
@@ -610,11 +610,11 @@
     </message>
     <message>
         <source>8-bits / 16-bits tonemapped</source>
-        <translation>8 бит / 16 бит с тональным отображением</translation>
+        <translation>8 / 16 бит, тональное сжатие</translation>
     </message>
     <message>
         <source>32-bits HDR radiance</source>
-        <translation>32-битный HDR (яркость сцены)</translation>
+        <translation>32 бита HDR (яркость)</translation>
     </message>
     <message>
         <source>TextLabel</source>
@@ -622,7 +622,7 @@
     </message>
     <message>
         <source>Shoot setup</source>
-        <translation>Параметры съёмки</translation>
+        <translation>Съёмка</translation>
     </message>
     <message>
         <source>Inverse Y coordinates</source>
