@@ -2,8 +2,15 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/gui/window.h"
 
-namespace PanoHost
-{
+#include "host/cli/commanderror.h"
+#include "host/cli/commands.h"
+#include "host/core/pluginlibrary.h"
+#include "host/gui/importwizard.h"
+
+#include <QStyle>
+#include <QStyleFactory>
+
+namespace PanoHost {
 
 void prepareWindow()
 {
@@ -13,9 +20,25 @@ void prepareWindow()
 
 ExitCode runWindow(Session &session, const QStringList &arguments)
 {
-    Q_UNUSED(session)
-    Q_UNUSED(arguments)
-    return ExitCode::Usage;
+    CommandLine line = generalLine();
+    if (!line.parse(arguments)) {
+        return ExitCode::Done;
+    }
+    applyCommonOptions(session, line);
+    // Without a desktop's own style Qt falls back to one that looks like last century.
+    if (QApplication::style()->objectName() == QLatin1String("windows")) {
+        QApplication::setStyle(QStyleFactory::create(QStringLiteral("fusion")));
+    }
+    const auto library = valueOrThrow(PluginLibrary::open(session.pluginPath));
+    ImportWizard wizard(session.app, *library);
+    QObject::connect(&session.interrupt, &Interrupt::interrupted, &wizard, &QDialog::reject);
+    wizard.show();
+    if (!line.positional().isEmpty()) {
+        wizard.fillIn(line.positional());
+    }
+    QApplication::exec();
+    Interrupt::check();
+    return ExitCode::Done;
 }
 
 } // namespace PanoHost

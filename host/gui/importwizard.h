@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "host/core/delivery.h"
+#include "host/core/panohostapplication.h"
+#include "host/core/panorama.h"
+#include "host/core/pluginlibrary.h"
+
+#include <QWizard>
+
+namespace PanoHost {
+
+class ChoicePage;
+class ResultPage;
+
+/**
+ * The import wizard: choose the head, work its plug-in's page, look at the result and save it.
+ * The plug-ins' pages stay the plug-ins' own: they are taken out again before this object goes, so
+ * delete the wizard before the library is unloaded.
+ */
+class ImportWizard : public QWizard
+{
+    Q_OBJECT
+public:
+    /** \p app and \p library outlive the wizard. */
+    ImportWizard(PanoHostApplication &app, const PluginLibrary &library, QWidget *parent = nullptr);
+    ~ImportWizard() override;
+
+    [[nodiscard]] int nextId() const override;
+
+    /**
+     * Fills \p files into the page of a plug-in, as if the user had chosen them there: the last
+     * one ending in ".xml" is the record, the others are photos. Goes to the page first.
+     */
+    void fillIn(const QStringList &files);
+
+    /** What the last Next of a plug-in's page added, and which plug-in it was. */
+    [[nodiscard]] const StructuredPanoramaProperties &description() const { return m_description; }
+    [[nodiscard]] const SourceInfo &source() const { return m_source; }
+
+protected:
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+    void done(int result) override;
+
+private:
+    void takeDelivery();
+    void openLinksOfSubtitle();
+    void rememberChoice(int id);
+    void showHelp();
+    [[nodiscard]] const ImportPlugin *pluginOf(int id) const;
+
+    PanoHostApplication &m_app;
+    const PluginLibrary &m_library;
+    ChoicePage *m_choicePage;
+    ResultPage *m_resultPage;
+    DeliveryLog m_deliveries;
+    StructuredPanoramaProperties m_description;
+    SourceInfo m_source;
+};
+
+} // namespace PanoHost

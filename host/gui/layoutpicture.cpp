@@ -1,0 +1,122 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/gui/layoutpicture.h"
+
+#include <QPainter>
+
+#include <cmath>
+
+namespace PanoHost {
+
+namespace {
+
+constexpr double kYawSpan = 360.0;
+constexpr double kPitchSpan = 180.0;
+// Beyond these, numbers and lines are a blur, and painting them takes long.
+constexpr int kMostNumbers = 150;
+constexpr int kMostLinks = 20000;
+
+double wrappedYaw(double yaw)
+{
+    const double turned = std::fmod(yaw + kYawSpan / 2.0, kYawSpan);
+    return (turned < 0.0 ? turned + kYawSpan : turned) - kYawSpan / 2.0;
+}
+
+} // namespace
+
+LayoutScene layoutScene(const Panorama &panorama)
+{
+    LayoutScene scene;
+    for (const Position &position : panorama.positions) {
+        scene.places += QPointF(wrappedYaw(position.yawDegrees), position.pitchDegrees);
+    }
+    scene.linked.fill(false, scene.places.size());
+    for (const AuthorizedLink &link : panorama.description.authorizedLinks) {
+        const bool pair = link.indices.size() == 2;
+        const int from = pair ? link.indices.at(0) : -1;
+        const int to = pair ? link.indices.at(1) : -1;
+        // Grids link cells that hold no photo as well.
+        if (from < 0 || to < 0 || from >= scene.places.size() || to >= scene.places.size()) {
+            continue;
+        }
+        scene.links += {from, to};
+        scene.linked[from] = true;
+        scene.linked[to] = true;
+    }
+    return scene;
+}
+
+LayoutPicture::LayoutPicture(QWidget *parent)
+    : QWidget(parent)
+{
+    setAccessibleName(tr("Layout of the positions"));
+    setMinimumSize(240, 120);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void LayoutPicture::show(const LayoutScene &scene)
+{
+    m_scene = scene;
+    update();
+}
+
+QSize LayoutPicture::sizeHint() const { return {480, 240}; }
+
+void LayoutPicture::paintEvent(QPaintEvent *event)
+{
+    Q_UNUSED(event)
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillRect(rect(), palette().base());
+    paintGrid(painter);
+    paintLinks(painter);
+    paintPlaces(painter);
+}
+
+QPointF LayoutPicture::onScreen(const QPointF &place) const
+{
+    return {(place.x() / kYawSpan + 0.5) * width(), (0.5 - place.y() / kPitchSpan) * height()};
+}
+
+void LayoutPicture::paintGrid(QPainter &painter) const
+{
+    constexpr double kStep = 30.0;
+    painter.setPen(palette().color(QPalette::AlternateBase));
+    for (double yaw = -kYawSpan / 2.0; yaw <= kYawSpan / 2.0; yaw += kStep) {
+        painter.drawLine(onScreen({yaw, -kPitchSpan / 2.0}), onScreen({yaw, kPitchSpan / 2.0}));
+    }
+    for (double pitch = -kPitchSpan / 2.0; pitch <= kPitchSpan / 2.0; pitch += kStep) {
+        painter.drawLine(onScreen({-kYawSpan / 2.0, pitch}), onScreen({kYawSpan / 2.0, pitch}));
+    }
+}
+
+void LayoutPicture::paintLinks(QPainter &painter) const
+{
+    painter.setPen(palette().color(QPalette::Mid));
+    const int count = std::min(m_scene.links.size(), kMostLinks);
+    for (int i = 0; i < count; ++i) {
+        const QPointF from = m_scene.places.at(m_scene.links.at(i).first);
+        QPointF to = m_scene.places.at(m_scene.links.at(i).second);
+        // The short way round: over the seam the line leaves the picture on one side.
+        to.setX(from.x() + wrappedYaw(to.x() - from.x()));
+        painter.drawLine(onScreen(from), onScreen(to));
+    }
+}
+
+void LayoutPicture::paintPlaces(QPainter &painter) const
+{
+    constexpr double kRadius = 3.0;
+    const bool numbered = m_scene.places.size() <= kMostNumbers;
+    for (int i = 0; i < m_scene.places.size(); ++i) {
+        const QPointF place = onScreen(m_scene.places.at(i));
+        painter.setPen(palette().color(QPalette::Text));
+        // An unlinked position is a ring: told apart without colour.
+        painter.setBrush(m_scene.linked.at(i) ? palette().highlight() : QBrush(Qt::NoBrush));
+        painter.drawEllipse(place, kRadius, kRadius);
+        if (numbered) {
+            painter.drawText(place + QPointF(kRadius + 1.0, -kRadius), QString::number(i));
+        }
+    }
+}
+
+} // namespace PanoHost

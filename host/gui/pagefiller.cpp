@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/gui/pagefiller.h"
+
+#include "host/cli/dialogcatcher.h"
+#include "host/cli/numberedlinks.h"
+
+#include <QAbstractButton>
+#include <QDir>
+#include <QLineEdit>
+#include <QWizardPage>
+
+namespace PanoHost {
+
+namespace {
+
+QLineEdit *recordEdit(const QWizardPage *page)
+{
+    return page->findChild<QLineEdit *>(QStringLiteral("m_leConfigFile"));
+}
+
+} // namespace
+
+FilledFiles sortFiles(const QStringList &files)
+{
+    FilledFiles sorted;
+    for (const QString &file : files) {
+        const QString path = QDir().absoluteFilePath(file);
+        if (path.endsWith(QLatin1String(".xml"), Qt::CaseInsensitive)) {
+            sorted.record = path;
+        } else {
+            sorted.photos += path;
+        }
+    }
+    sorted.photos.sort(Qt::CaseSensitive);
+    return sorted;
+}
+
+int recordHead(const QVector<ImportPlugin> &plugins, const FilledFiles &files)
+{
+    const QString head = files.record.isEmpty() ? QStringLiteral("gigapan")
+                                                : QStringLiteral("papywizard");
+    for (int i = 0; i < plugins.size(); ++i) {
+        if (plugins.at(i).head() == head) {
+            return i;
+        }
+    }
+    return 0;
+}
+
+QString recordPath(const QWizardPage *page)
+{
+    const QLineEdit *edit = recordEdit(page);
+    return edit == nullptr ? QString() : edit->text();
+}
+
+void fillPage(PanoHostApplication &app, QWizardPage *page, const FilledFiles &files)
+{
+    QLineEdit *edit = recordEdit(page);
+    if (edit != nullptr && !files.record.isEmpty()) {
+        edit->setText(files.record);
+        Q_EMIT edit->textEdited(files.record);
+        Q_EMIT edit->editingFinished();
+    }
+    auto *button = page->findChild<QAbstractButton *>(QStringLiteral("m_pbSelectImages"));
+    if (button == nullptr || files.photos.isEmpty() || NumberedLinks::areNeeded(files.photos)) {
+        return;
+    }
+    XUISettings &settings = *app.UIInstances()->settings;
+    const bool systemDialog = settings.useSystemFileDialog;
+    settings.useSystemFileDialog = false;
+    DialogCatcher dialogs;
+    dialogs.answerNextFileDialog(files.photos);
+    button->click();
+    settings.useSystemFileDialog = systemDialog;
+}
+
+} // namespace PanoHost

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "host/core/panohostapplication.h"
+#include "host/core/pluginlibrary.h"
+
+#include <QStringList>
+
+class QWizardPage;
+
+namespace PanoHost {
+
+/** Files dropped onto the wizard or named on the command line. */
+struct FilledFiles {
+    QString record;     ///< the last one that ends in ".xml"; empty: none
+    QStringList photos; ///< all others
+};
+
+[[nodiscard]] FilledFiles sortFiles(const QStringList &files);
+
+/** The place of the plug-in that \p files are for, when the user has not chosen one. */
+[[nodiscard]] int recordHead(const QVector<ImportPlugin> &plugins, const FilledFiles &files);
+
+/** The record that \p page shows; empty when it has none. */
+[[nodiscard]] QString recordPath(const QWizardPage *page);
+
+/** Enters \p files into a plug-in's \p page the way a user would. */
+void fillPage(PanoHostApplication &app, QWizardPage *page, const FilledFiles &files);
+
+} // namespace PanoHost

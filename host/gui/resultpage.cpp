@@ -1,0 +1,218 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/gui/resultpage.h"
+
+#include "host/core/panoramajson.h"
+#include "host/core/ptoproject.h"
+#include "host/gui/importwizard.h"
+#include "host/gui/layoutpicture.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QProcess>
+#include <QPushButton>
+#include <QStandardPaths>
+#include <QStyle>
+#include <QVBoxLayout>
+
+namespace PanoHost {
+
+namespace {
+
+QString yesOrNo(bool yes) { return yes ? ResultPage::tr("yes") : ResultPage::tr("no"); }
+
+QString countsText(const Panorama &panorama)
+{
+    return ResultPage::tr("Positions: %1\nPhotos: %2\nLinks: %3")
+        .arg(QString::number(panorama.positions.size()), QString::number(photoCount(panorama)),
+             QString::number(panorama.description.authorizedLinks.size()));
+}
+
+QString lensText(const Panorama &panorama)
+{
+    const QString lens = panorama.lens == LensModel::Fisheye ? ResultPage::tr("fisheye")
+                                                             : ResultPage::tr("standard");
+    return ResultPage::tr("Lens: %1, %2 mm")
+        .arg(lens, QString::number(panorama.focal35mm, 'g', 5));
+}
+
+QString optionsText(const StructuredPanoramaProperties &description)
+{
+    const QString stack = description.stackLinking == 0 ? ResultPage::tr("hard links")
+                                                        : ResultPage::tr("detected");
+    const QString level = description.levelLinking == 0 ? ResultPage::tr("reference level")
+                                                        : ResultPage::tr("all levels");
+    const QString points
+        = ResultPage::tr("Control points: automatic %1, %2, stacks %3, cleaned %4")
+              .arg(yesOrNo(description.autoDetection), level, stack,
+                   yesOrNo(description.cleanWrongLinks));
+    const QString optimisation
+        = ResultPage::tr("Optimisation: skipped %1, from the recorded location %2")
+              .arg(yesOrNo(description.skipOptimization),
+                   yesOrNo(description.useRecordedLocation));
+    return points + QLatin1Char('\n') + optimisation;
+}
+
+} // namespace
+
+ResultPage::ResultPage(PanoHostApplication &app, QWidget *parent)
+    : QWizardPage(parent)
+    , m_app(app)
+{
+    setTitle(tr("The panorama"));
+    setSubTitle(tr("This is what the import page delivered. Save it as a project for Hugin, as a "
+                   "description for other programs, or both."));
+    setFinalPage(true);
+    createWidgets();
+}
+
+void ResultPage::createWidgets()
+{
+    m_summary = new QLabel;
+    m_summary->setObjectName(QStringLiteral("m_summary"));
+    m_summary->setTextFormat(Qt::PlainText);
+    m_summary->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    m_warningIcon = new QLabel;
+    m_warnings = new QLabel;
+    m_warnings->setObjectName(QStringLiteral("m_warnings"));
+    m_warnings->setTextFormat(Qt::PlainText);
+    m_warnings->setWordWrap(true);
+    m_saved = new QLabel;
+    m_saved->setObjectName(QStringLiteral("m_saved"));
+    m_saved->setTextFormat(Qt::PlainText);
+    m_saved->setWordWrap(true);
+    m_layout = new LayoutPicture;
+    m_saveProject = new QPushButton(tr("Save &project..."));
+    m_saveProject->setObjectName(QStringLiteral("m_saveProject"));
+    m_saveJson = new QPushButton(tr("Save &description..."));
+    m_saveJson->setObjectName(QStringLiteral("m_saveJson"));
+    m_openHugin = new QPushButton(tr("Open in &Hugin"));
+    m_openHugin->setObjectName(QStringLiteral("m_openHugin"));
+    connect(m_saveProject, &QPushButton::clicked, this, &ResultPage::askForProject);
+    connect(m_saveJson, &QPushButton::clicked, this, &ResultPage::askForJson);
+    connect(m_openHugin, &QPushButton::clicked, this, &ResultPage::openInHugin);
+
+    auto *warningRow = new QHBoxLayout;
+    warningRow->addWidget(m_warningIcon, 0, Qt::AlignTop);
+    warningRow->addWidget(m_warnings, 1);
+    auto *buttonRow = new QHBoxLayout;
+    buttonRow->addWidget(m_saveProject);
+    buttonRow->addWidget(m_saveJson);
+    buttonRow->addWidget(m_openHugin);
+    buttonRow->addStretch();
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(m_summary);
+    layout->addLayout(warningRow);
+    layout->addWidget(m_layout, 1);
+    layout->addLayout(buttonRow);
+    layout->addWidget(m_saved);
+}
+
+void ResultPage::initializePage()
+{
+    const auto *import = qobject_cast<const ImportWizard *>(wizard());
+    m_projectPath.clear();
+    m_saved->clear();
+    m_openHugin->setVisible(!QStandardPaths::findExecutable(QStringLiteral("hugin")).isEmpty());
+    m_openHugin->setEnabled(false);
+    showPanorama(joinPanorama(import->description(), import->source(),
+                              [this](const QString &path) { return m_app.photoInfo(path); }));
+}
+
+void ResultPage::showPanorama(const Result<Panorama> &panorama)
+{
+    m_panorama.reset();
+    if (panorama) {
+        m_panorama = panorama.value();
+    }
+    const QString warnings = panorama ? panorama.value().warnings.join(QLatin1Char('\n'))
+                                      : panorama.error().text();
+    const int iconSide = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    m_warningIcon->setPixmap(
+        style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(iconSide, iconSide));
+    m_warningIcon->setVisible(!warnings.isEmpty());
+    m_warnings->setVisible(!warnings.isEmpty());
+    m_warnings->setText(warnings);
+    m_summary->setText(panorama ? countsText(panorama.value()) + QLatin1Char('\n')
+                               + lensText(panorama.value()) + QLatin1Char('\n')
+                               + optionsText(panorama.value().description)
+                                : tr("Nothing that can be saved."));
+    m_layout->show(panorama ? layoutScene(panorama.value()) : LayoutScene{});
+    m_saveProject->setEnabled(panorama.ok());
+    m_saveJson->setEnabled(panorama.ok());
+}
+
+bool ResultPage::saveProject(const QString &path)
+{
+    if (!m_panorama) {
+        return false;
+    }
+    const Result<PtoProject> project = writePtoProject(*m_panorama, path);
+    if (!project) {
+        showSaved(project.error());
+        return false;
+    }
+    m_panorama->project = ProjectReference{path, project.value().yawCentreDegrees};
+    m_projectPath = path;
+    m_openHugin->setEnabled(true);
+    showSaved(path);
+    return true;
+}
+
+bool ResultPage::saveJson(const QString &path)
+{
+    if (!m_panorama) {
+        return false;
+    }
+    const Result<QString> written = writePanoramaJson(*m_panorama, path);
+    showSaved(written);
+    return written.ok();
+}
+
+void ResultPage::showSaved(const Result<QString> &saved)
+{
+    m_saved->setText(saved ? tr("Saved %1").arg(saved.value())
+                           : tr("Not saved: %1").arg(saved.error().text()));
+}
+
+void ResultPage::askForProject()
+{
+    const QString path = askForFile(tr("Save the project"), QStringLiteral("pto"),
+                                    tr("Hugin projects (*.pto)"));
+    if (!path.isEmpty()) {
+        saveProject(path);
+    }
+}
+
+void ResultPage::askForJson()
+{
+    const QString path = askForFile(tr("Save the description"), QStringLiteral("json"),
+                                    tr("Descriptions (*.json)"));
+    if (!path.isEmpty()) {
+        saveJson(path);
+    }
+}
+
+QString ResultPage::askForFile(const QString &caption, const QString &suffix, const QString &filter)
+{
+    const QString photo = m_panorama->positions.first().photos.first().path;
+    const QString name = QStringLiteral("panorama.") + suffix;
+    QFileDialog dialog(this, caption, QFileInfo(photo).absolutePath(), filter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(suffix);
+    dialog.selectFile(name);
+    dialog.setOption(QFileDialog::DontUseNativeDialog,
+                     !m_app.UIInstances()->settings->useSystemFileDialog);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+void ResultPage::openInHugin()
+{
+    if (!QProcess::startDetached(QStringLiteral("hugin"), {m_projectPath})) {
+        m_saved->setText(tr("Hugin could not be started."));
+    }
+}
+
+} // namespace PanoHost
