@@ -144,7 +144,7 @@ ExitCode runCheck(Session &session, const QStringList &arguments)
     applyCommonOptions(session, line);
     const ImportRequest request = importRequest(line);
     if (request.head->readRecord != nullptr) {
-        printRecord(request.record, valueOrThrow(request.head->readRecord(request.record)));
+        printRecord(request.record, readRecord(*request.head, request.record));
     }
     requirePhotoFiles(request.photos);
     const QStringList photos = orderedPhotos(session, request.photos, request.order);

@@ -76,7 +76,12 @@ Environment::Environment(Use use)
     m_configFolder = std::make_unique<QTemporaryDir>(QDir::tempPath()
                                                      + QStringLiteral("/panohost-config-XXXXXX"));
     if (m_configFolder->isValid()) {
-        qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_configFolder->path()));
+        const QByteArray folder = QFile::encodeName(m_configFolder->path());
+        qputenv("XDG_CONFIG_HOME", folder);
+        // Qt would make a folder of its own in the temporary files and leave it there.
+        if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) {
+            qputenv("XDG_RUNTIME_DIR", folder);
+        }
     }
     qInstallMessageHandler(messageHandler);
 }

@@ -3,8 +3,11 @@
 #include "host/cli/heads.h"
 
 #include "host/cli/commanderror.h"
+#include "host/cli/displayname.h"
 #include "host/cli/papywizardrecord.h"
 #include "host/cli/wordsuggestion.h"
+
+#include <QFileInfo>
 
 #include <algorithm>
 
@@ -28,6 +31,15 @@ QStringList headNames()
         names += QString::fromLatin1(row.name);
     }
     return names;
+}
+
+RecordSummary readRecord(const HeadRow &head, const QString &path)
+{
+    if (!QFileInfo::exists(path)) {
+        throw inputRefused(displayName(path), QStringLiteral("no such record"),
+                           QStringLiteral("check the name"));
+    }
+    return valueOrThrow(head.readRecord(path));
 }
 
 const HeadRow &headNamed(const QString &name)

@@ -32,6 +32,9 @@ struct HeadRow {
 [[nodiscard]] const QVector<HeadRow> &heads();
 [[nodiscard]] QStringList headNames();
 
+/** Reads the record at \p path for \p head; throws the reason when it cannot be used. */
+[[nodiscard]] RecordSummary readRecord(const HeadRow &head, const QString &path);
+
 /** The head \p name; throws the usage error for an unknown one. */
 [[nodiscard]] const HeadRow &headNamed(const QString &name);
 

@@ -52,13 +52,14 @@ Outputs outputsFrom(const CommandLine &line)
     }
     outputs.jsonToStdout = json == QLatin1String("-");
     if (!project.isEmpty()) {
-        outputs.project = QDir().absoluteFilePath(project);
+        outputs.project = QDir::cleanPath(QDir().absoluteFilePath(project));
     }
     if (!json.isEmpty() && !outputs.jsonToStdout) {
-        outputs.json = QDir().absoluteFilePath(json);
+        outputs.json = QDir::cleanPath(QDir().absoluteFilePath(json));
     }
     if (!outputs.json.isEmpty() && outputs.json == outputs.project) {
-        throw usageError(QStringLiteral("-o and --json name the same file"));
+        throw usageError(QStringLiteral("-o and --json name the same file"),
+                         QStringLiteral("give each a name of its own"));
     }
     return outputs;
 }

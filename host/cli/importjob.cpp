@@ -40,7 +40,7 @@ void ImportJob::checkInputs()
 {
     const bool hasRecord = m_request.head->readRecord != nullptr;
     if (hasRecord) {
-        m_record = valueOrThrow(m_request.head->readRecord(m_request.record));
+        m_record = readRecord(*m_request.head, m_request.record);
     }
     requirePhotoFiles(m_request.photos);
     if (hasRecord) {

@@ -6,6 +6,7 @@
 #include "host/cli/displayname.h"
 
 #include <QFileInfo>
+#include <QSaveFile>
 #include <QSet>
 
 #include <algorithm>
@@ -66,12 +67,14 @@ void requireWritable(const QString &path, const QStringList &inputs)
         throw inputRefused(displayName(path), QStringLiteral("is a folder"),
                            QStringLiteral("name a file in it"));
     }
-    const bool writable = file.exists() ? file.isWritable() && folder.isWritable()
-                                        : folder.isDir() && folder.isWritable();
-    if (!writable) {
-        throw inputRefused(displayName(path), QStringLiteral("cannot be written there"),
+    // Only trying tells: permissions do not bind everybody and are not all there is.
+    QSaveFile probe(path);
+    if (!probe.open(QIODevice::WriteOnly)) {
+        throw inputRefused(displayName(path),
+                           QStringLiteral("cannot be written there: %1").arg(probe.errorString()),
                            QStringLiteral("choose a folder of your own"));
     }
+    probe.cancelWriting();
     for (const QString &input : inputs) {
         if (isSameFile(file, QFileInfo(input))) {
             throw inputRefused(displayName(path), QStringLiteral("is one of the input files"),

@@ -45,7 +45,7 @@ QString closestWord(const QString &word, const QStringList &known)
         return {};
     }
     QString best;
-    int bestDistance = std::max(1, word.size() / 3) + 1;
+    int bestDistance = (word.size() + 2) / 3 + 1;
     for (const QString &candidate : known) {
         const bool begins = word.size() >= 2 && candidate.startsWith(word, Qt::CaseInsensitive);
         const int distance = begins ? 1 : editDistance(word.toLower(), candidate.toLower());

@@ -9,16 +9,20 @@
 #include <QVBoxLayout>
 #include <QWizard>
 
-namespace PanoHost {
+namespace PanoHost
+{
 
-namespace {
+namespace
+{
 
 constexpr int kIconSide = 48;
 
 QListWidgetItem *itemFor(const XIAbout &about)
 {
-    auto *item = new QListWidgetItem(about.Icon(), about.Name() + QLatin1Char('\n') + about.Comment());
-    item->setToolTip(ChoicePage::tr("%1 %2 by %3").arg(about.Name(), about.Version(), about.Company()));
+    auto *item
+        = new QListWidgetItem(about.Icon(), about.Name() + QLatin1Char('\n') + about.Comment());
+    item->setToolTip(
+        ChoicePage::tr("%1 %2 by %3").arg(about.Name(), about.Version(), about.Company()));
     item->setData(Qt::AccessibleTextRole, about.Name());
     item->setData(Qt::AccessibleDescriptionRole, about.Comment());
     return item;
@@ -48,10 +52,19 @@ ChoicePage::ChoicePage(const QVector<ImportPlugin> &plugins, QWidget *parent)
     connect(m_list, &QListWidget::itemActivated, this, [this] { wizard()->next(); });
 }
 
-int ChoicePage::chosen() const { return m_list->currentRow(); }
+int ChoicePage::chosen() const
+{
+    return m_list->currentRow();
+}
 
-void ChoicePage::choose(int index) { m_list->setCurrentRow(index); }
+void ChoicePage::choose(int index)
+{
+    m_list->setCurrentRow(index);
+}
 
-bool ChoicePage::isComplete() const { return chosen() >= 0; }
+bool ChoicePage::isComplete() const
+{
+    return chosen() >= 0;
+}
 
 } // namespace PanoHost

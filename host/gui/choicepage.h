@@ -8,7 +8,8 @@
 
 class QListWidget;
 
-namespace PanoHost {
+namespace PanoHost
+{
 
 /** The first page: which head took the photos. */
 class ChoicePage : public QWizardPage

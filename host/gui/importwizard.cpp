@@ -14,17 +14,28 @@
 #include <QShortcut>
 #include <QUrl>
 
-namespace PanoHost {
+namespace PanoHost
+{
 
-namespace {
+namespace
+{
 
 constexpr int kChoiceId = 0;
 constexpr int kFirstPluginId = 1;
 constexpr int kResultId = 1000;
 
-QString settingsGroup() { return QStringLiteral("panohost"); }
-QString headKey() { return QStringLiteral("lastHead"); }
-QString geometryKey() { return QStringLiteral("wizardGeometry"); }
+QString settingsGroup()
+{
+    return QStringLiteral("panohost");
+}
+QString headKey()
+{
+    return QStringLiteral("lastHead");
+}
+QString geometryKey()
+{
+    return QStringLiteral("wizardGeometry");
+}
 
 QStringList localFiles(const QMimeData *data)
 {
@@ -138,8 +149,8 @@ void ImportWizard::takeDelivery()
         return;
     }
     m_description = m_deliveries.take(currentPage(), m_app.delivery());
-    m_source = {plugin->about->UID(), plugin->about->Name(), recordPath(currentPage()),
-                plugin->about->Version()};
+    m_source = { plugin->about->UID(), plugin->about->Name(), recordPath(currentPage()),
+                 plugin->about->Version() };
 }
 
 void ImportWizard::openLinksOfSubtitle()

@@ -9,7 +9,8 @@
 
 #include <QWizard>
 
-namespace PanoHost {
+namespace PanoHost
+{
 
 class ChoicePage;
 class ResultPage;

@@ -6,9 +6,11 @@
 
 #include <cmath>
 
-namespace PanoHost {
+namespace PanoHost
+{
 
-namespace {
+namespace
+{
 
 constexpr double kYawSpan = 360.0;
 constexpr double kPitchSpan = 180.0;
@@ -39,7 +41,7 @@ LayoutScene layoutScene(const Panorama &panorama)
         if (from < 0 || to < 0 || from >= scene.places.size() || to >= scene.places.size()) {
             continue;
         }
-        scene.links += {from, to};
+        scene.links += { from, to };
         scene.linked[from] = true;
         scene.linked[to] = true;
     }
@@ -60,7 +62,10 @@ void LayoutPicture::show(const LayoutScene &scene)
     update();
 }
 
-QSize LayoutPicture::sizeHint() const { return {480, 240}; }
+QSize LayoutPicture::sizeHint() const
+{
+    return { 480, 240 };
+}
 
 void LayoutPicture::paintEvent(QPaintEvent *event)
 {
@@ -75,7 +80,7 @@ void LayoutPicture::paintEvent(QPaintEvent *event)
 
 QPointF LayoutPicture::onScreen(const QPointF &place) const
 {
-    return {(place.x() / kYawSpan + 0.5) * width(), (0.5 - place.y() / kPitchSpan) * height()};
+    return { (place.x() / kYawSpan + 0.5) * width(), (0.5 - place.y() / kPitchSpan) * height() };
 }
 
 void LayoutPicture::paintGrid(QPainter &painter) const
@@ -83,10 +88,10 @@ void LayoutPicture::paintGrid(QPainter &painter) const
     constexpr double kStep = 30.0;
     painter.setPen(palette().color(QPalette::AlternateBase));
     for (double yaw = -kYawSpan / 2.0; yaw <= kYawSpan / 2.0; yaw += kStep) {
-        painter.drawLine(onScreen({yaw, -kPitchSpan / 2.0}), onScreen({yaw, kPitchSpan / 2.0}));
+        painter.drawLine(onScreen({ yaw, -kPitchSpan / 2.0 }), onScreen({ yaw, kPitchSpan / 2.0 }));
     }
     for (double pitch = -kPitchSpan / 2.0; pitch <= kPitchSpan / 2.0; pitch += kStep) {
-        painter.drawLine(onScreen({-kYawSpan / 2.0, pitch}), onScreen({kYawSpan / 2.0, pitch}));
+        painter.drawLine(onScreen({ -kYawSpan / 2.0, pitch }), onScreen({ kYawSpan / 2.0, pitch }));
     }
 }
 

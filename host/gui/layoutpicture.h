@@ -8,13 +8,14 @@
 #include <QVector>
 #include <QWidget>
 
-namespace PanoHost {
+namespace PanoHost
+{
 
 /** What the layout picture shows, in degrees: yaw to the right, pitch up. */
 struct LayoutScene {
-    QVector<QPointF> places;            ///< one per position, yaw in [-180, 180)
-    QVector<QPair<int, int>> links;     ///< pairs of places, both in range
-    QVector<bool> linked;               ///< whether a place has a link at all
+    QVector<QPointF> places; ///< one per position, yaw in [-180, 180)
+    QVector<QPair<int, int>> links; ///< pairs of places, both in range
+    QVector<bool> linked; ///< whether a place has a link at all
 };
 
 [[nodiscard]] LayoutScene layoutScene(const Panorama &panorama);

@@ -10,9 +10,11 @@
 #include <QLineEdit>
 #include <QWizardPage>
 
-namespace PanoHost {
+namespace PanoHost
+{
 
-namespace {
+namespace
+{
 
 QLineEdit *recordEdit(const QWizardPage *page)
 {
@@ -38,8 +40,8 @@ FilledFiles sortFiles(const QStringList &files)
 
 int recordHead(const QVector<ImportPlugin> &plugins, const FilledFiles &files)
 {
-    const QString head = files.record.isEmpty() ? QStringLiteral("gigapan")
-                                                : QStringLiteral("papywizard");
+    const QString head
+        = files.record.isEmpty() ? QStringLiteral("gigapan") : QStringLiteral("papywizard");
     for (int i = 0; i < plugins.size(); ++i) {
         if (plugins.at(i).head() == head) {
             return i;

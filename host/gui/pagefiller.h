@@ -9,11 +9,12 @@
 
 class QWizardPage;
 
-namespace PanoHost {
+namespace PanoHost
+{
 
 /** Files dropped onto the wizard or named on the command line. */
 struct FilledFiles {
-    QString record;     ///< the last one that ends in ".xml"; empty: none
+    QString record; ///< the last one that ends in ".xml"; empty: none
     QStringList photos; ///< all others
 };
 

@@ -17,11 +17,16 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
-namespace PanoHost {
+namespace PanoHost
+{
 
-namespace {
+namespace
+{
 
-QString yesOrNo(bool yes) { return yes ? ResultPage::tr("yes") : ResultPage::tr("no"); }
+QString yesOrNo(bool yes)
+{
+    return yes ? ResultPage::tr("yes") : ResultPage::tr("no");
+}
 
 QString countsText(const Panorama &panorama)
 {
@@ -34,24 +39,21 @@ QString lensText(const Panorama &panorama)
 {
     const QString lens = panorama.lens == LensModel::Fisheye ? ResultPage::tr("fisheye")
                                                              : ResultPage::tr("standard");
-    return ResultPage::tr("Lens: %1, %2 mm")
-        .arg(lens, QString::number(panorama.focal35mm, 'g', 5));
+    return ResultPage::tr("Lens: %1, %2 mm").arg(lens, QString::number(panorama.focal35mm, 'g', 5));
 }
 
 QString optionsText(const StructuredPanoramaProperties &description)
 {
-    const QString stack = description.stackLinking == 0 ? ResultPage::tr("hard links")
-                                                        : ResultPage::tr("detected");
+    const QString stack
+        = description.stackLinking == 0 ? ResultPage::tr("hard links") : ResultPage::tr("detected");
     const QString level = description.levelLinking == 0 ? ResultPage::tr("reference level")
                                                         : ResultPage::tr("all levels");
-    const QString points
-        = ResultPage::tr("Control points: automatic %1, %2, stacks %3, cleaned %4")
-              .arg(yesOrNo(description.autoDetection), level, stack,
-                   yesOrNo(description.cleanWrongLinks));
+    const QString points = ResultPage::tr("Control points: automatic %1, %2, stacks %3, cleaned %4")
+                               .arg(yesOrNo(description.autoDetection), level, stack,
+                                    yesOrNo(description.cleanWrongLinks));
     const QString optimisation
         = ResultPage::tr("Optimisation: skipped %1, from the recorded location %2")
-              .arg(yesOrNo(description.skipOptimization),
-                   yesOrNo(description.useRecordedLocation));
+              .arg(yesOrNo(description.skipOptimization), yesOrNo(description.useRecordedLocation));
     return points + QLatin1Char('\n') + optimisation;
 }
 
@@ -127,8 +129,8 @@ void ResultPage::showPanorama(const Result<Panorama> &panorama)
     if (panorama) {
         m_panorama = panorama.value();
     }
-    const QString warnings = panorama ? panorama.value().warnings.join(QLatin1Char('\n'))
-                                      : panorama.error().text();
+    const QString warnings
+        = panorama ? panorama.value().warnings.join(QLatin1Char('\n')) : panorama.error().text();
     const int iconSide = style()->pixelMetric(QStyle::PM_SmallIconSize);
     m_warningIcon->setPixmap(
         style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(iconSide, iconSide));
@@ -154,7 +156,7 @@ bool ResultPage::saveProject(const QString &path)
         showSaved(project.error());
         return false;
     }
-    m_panorama->project = ProjectReference{path, project.value().yawCentreDegrees};
+    m_panorama->project = ProjectReference{ path, project.value().yawCentreDegrees };
     m_projectPath = path;
     m_openHugin->setEnabled(true);
     showSaved(path);
@@ -179,8 +181,8 @@ void ResultPage::showSaved(const Result<QString> &saved)
 
 void ResultPage::askForProject()
 {
-    const QString path = askForFile(tr("Save the project"), QStringLiteral("pto"),
-                                    tr("Hugin projects (*.pto)"));
+    const QString path
+        = askForFile(tr("Save the project"), QStringLiteral("pto"), tr("Hugin projects (*.pto)"));
     if (!path.isEmpty()) {
         saveProject(path);
     }
@@ -210,7 +212,7 @@ QString ResultPage::askForFile(const QString &caption, const QString &suffix, co
 
 void ResultPage::openInHugin()
 {
-    if (!QProcess::startDetached(QStringLiteral("hugin"), {m_projectPath})) {
+    if (!QProcess::startDetached(QStringLiteral("hugin"), { m_projectPath })) {
         m_saved->setText(tr("Hugin could not be started."));
     }
 }

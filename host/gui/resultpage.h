@@ -12,7 +12,8 @@
 class QLabel;
 class QPushButton;
 
-namespace PanoHost {
+namespace PanoHost
+{
 
 class LayoutPicture;
 

@@ -10,7 +10,8 @@
 #include <QStyle>
 #include <QStyleFactory>
 
-namespace PanoHost {
+namespace PanoHost
+{
 
 void prepareWindow()
 {

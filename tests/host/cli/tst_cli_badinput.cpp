@@ -1,0 +1,255 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "tests/host/cli/clibench.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+#include <QtTest>
+
+#include <cmath>
+#include <sys/stat.h>
+
+namespace
+{
+
+QByteArray nested(int depth)
+{
+    return QByteArray("<a>").repeated(depth) + QByteArray("</a>").repeated(depth);
+}
+
+/** Ten entities, each ten times the one before: a billion letters when expanded. */
+QByteArray entityBomb()
+{
+    QByteArray xml = "<?xml version=\"1.0\"?>\n<!DOCTYPE r [\n<!ENTITY e0 \"aaaaaaaaaa\">\n";
+    for (int i = 1; i < 10; ++i) {
+        const QByteArray before = "&e" + QByteArray::number(i - 1) + ";";
+        xml += "<!ENTITY e" + QByteArray::number(i) + " \"" + before.repeated(10) + "\">\n";
+    }
+    return xml + "]>\n<r><shoot>&e9;&e9;&e9;&e9;&e9;&e9;&e9;</shoot></r>\n";
+}
+
+const QByteArray kBracketOfThree = R"(<bracketing nbPicts="3"/>)";
+
+} // namespace
+
+class TestCliBadInput : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void recordIsRefusedWithItsReason_data();
+    void recordIsRefusedWithItsReason();
+    void photosAreRefusedWithTheirReason_data();
+    void photosAreRefusedWithTheirReason();
+    void resultIsRefusedBeforeAnythingIsRead_data();
+    void resultIsRefusedBeforeAnythingIsRead();
+    void oddNumbersInARecordDoNoHarm_data();
+    void oddNumbersInARecordDoNoHarm();
+    void missingLibraryExitsWithFour_data();
+    void missingLibraryExitsWithFour();
+
+private:
+    void compareRefusal(const CliBench::Run &run, int exitCode, const QString &message);
+
+    CliBench m_bench;
+    QStringList m_photos;
+};
+
+void TestCliBadInput::initTestCase()
+{
+    m_photos = m_bench.photos(4);
+    m_bench.record(QStringLiteral("four.xml"), CliBench::row(4));
+    m_bench.record(QStringLiteral("five.xml"), CliBench::row(5));
+    m_bench.record(QStringLiteral("one.xml"), CliBench::row(1));
+    m_bench.record(QStringLiteral("brackets.xml"), CliBench::row(4), kBracketOfThree);
+    m_bench.file(QStringLiteral("text.xml"), "shots: 4\n");
+    m_bench.file(QStringLiteral("open.xml"), "<papywizard>\n<shoot>\n<pict>\n");
+    m_bench.file(QStringLiteral("empty.xml"), "");
+    m_bench.file(QStringLiteral("header.xml"), "<papywizard><header/></papywizard>");
+    m_bench.file(QStringLiteral("noshots.xml"), "<papywizard><shoot/></papywizard>");
+    m_bench.file(QStringLiteral("deep.xml"), nested(30000));
+    m_bench.file(QStringLiteral("bomb.xml"), entityBomb());
+    m_bench.file(QStringLiteral("nophoto.jpg"), "this is no photo");
+    m_bench.file(QStringLiteral("kept.pto"), "kept");
+    QVERIFY(QDir(m_bench.path(QString())).mkdir(QStringLiteral("folder")));
+    QCOMPARE(mkfifo(QFile::encodeName(m_bench.path(QStringLiteral("pipe"))).constData(), 0600), 0);
+}
+
+void TestCliBadInput::compareRefusal(const CliBench::Run &run, int exitCode, const QString &message)
+{
+    QCOMPARE(run.out, QString());
+    QVERIFY2(
+        QRegularExpression(QRegularExpression::anchoredPattern(QStringLiteral("panohost: error: ")
+                                                               + message + QStringLiteral("\n")))
+            .match(run.err)
+            .hasMatch(),
+        qPrintable(run.err));
+    QCOMPARE(run.exitCode, exitCode);
+    QCOMPARE(m_bench.content(QStringLiteral("kept.pto")), QByteArray("kept"));
+    QCOMPARE(m_bench.leftovers(), QStringList());
+}
+
+void TestCliBadInput::recordIsRefusedWithItsReason_data()
+{
+    QTest::addColumn<QString>("record");
+    QTest::addColumn<QString>("message");
+    const auto row = [](const char *name, const char *record, const char *message) {
+        QTest::newRow(name) << QString::fromLatin1(record) << QString::fromLatin1(message);
+    };
+    row("missing", "nosuch.xml", "nosuch.xml: no such record; check the name");
+    row("folder", "folder", "folder: .*not a regular file.*");
+    row("FIFO", "pipe", "pipe: .*not a regular file.*");
+    row("/dev/zero", "/dev/zero", "/dev/zero: .*not a regular file.*");
+    row("plain text", "text.xml", "text.xml: line 1: not well-formed XML .*");
+    row("cut off on line 4", "open.xml", "open.xml: line 4: not well-formed XML .*");
+    row("no byte", "empty.xml", "empty.xml: .*not well-formed XML .*");
+    row("a photo", "IMG_01.jpg", "IMG_01.jpg: .*not well-formed XML .*");
+    row("no shoot element", "header.xml", "header.xml: no <shoot> pictures; .*old-style.*");
+    row("no shots", "noshots.xml", "noshots.xml: .*no shot was recorded.*");
+    row("30,000 nested elements", "deep.xml", "deep.xml: line 1: elements nested more than .*");
+    row("entity bomb", "bomb.xml", "bomb.xml: line \\d+: .*entities.*");
+    row("one shot more", "five.xml", "five.xml: records 5 shots, 4 photos given; .*");
+    row("three shots fewer", "one.xml", "one.xml: records 1 shot, 4 photos given; .*");
+    row("no full brackets", "brackets.xml",
+        "brackets.xml: 4 photos are not a multiple of bracket 3; .*");
+}
+
+void TestCliBadInput::recordIsRefusedWithItsReason()
+{
+    QFETCH(QString, record);
+    QFETCH(QString, message);
+    const QStringList words{ QStringLiteral("import"), QStringLiteral("papywizard"), record };
+    const QStringList output{ QStringLiteral("-o"), QStringLiteral("kept.pto") };
+    compareRefusal(m_bench.run(words + m_photos + output), 3, message);
+}
+
+void TestCliBadInput::photosAreRefusedWithTheirReason_data()
+{
+    QTest::addColumn<QString>("photo");
+    QTest::addColumn<QString>("message");
+    const auto row = [](const char *name, const char *photo, const char *message) {
+        QTest::newRow(name) << QString::fromLatin1(photo) << QString::fromLatin1(message);
+    };
+    row("missing", "nosuch.jpg", "nosuch.jpg: no such photo; .*");
+    row("no photo", "nophoto.jpg", "nophoto.jpg: cannot read .*; .*");
+    row("folder", "folder", "folder: is a folder; .*");
+    row("FIFO", "pipe", "pipe: is not a regular file");
+    row("device", "/dev/zero", "/dev/zero: is not a regular file");
+    row("named twice", "IMG_01.jpg", "IMG_01.jpg: given twice; .*");
+}
+
+void TestCliBadInput::photosAreRefusedWithTheirReason()
+{
+    QFETCH(QString, photo);
+    QFETCH(QString, message);
+    QStringList photos = m_photos;
+    photos[2] = photo;
+    const QStringList words{ QStringLiteral("import"), QStringLiteral("papywizard"),
+                             QStringLiteral("four.xml") };
+    const QStringList output{ QStringLiteral("-o"), QStringLiteral("kept.pto") };
+    compareRefusal(m_bench.run(words + photos + output), 3, message);
+}
+
+void TestCliBadInput::resultIsRefusedBeforeAnythingIsRead_data()
+{
+    QTest::addColumn<QStringList>("output");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QString>("message");
+    const auto row
+        = [](const char *name, const QStringList &output, int exitCode, const char *message) {
+              QTest::newRow(name) << output << exitCode << QString::fromLatin1(message);
+          };
+    const QString o = QStringLiteral("-o");
+    const QString json = QStringLiteral("--json");
+    row("no folder", { o, QStringLiteral("nosuch/a.pto") }, 3,
+        "nosuch/a.pto: the folder .*/nosuch does not exist; .*");
+    row("no folder for the description",
+        { o, QStringLiteral("kept.pto"), json, QStringLiteral("nosuch/a.json") }, 3,
+        "nosuch/a.json: the folder .*/nosuch does not exist; .*");
+    row("folder is a file", { o, QStringLiteral("IMG_01.jpg/a.pto") }, 3,
+        "IMG_01.jpg/a.pto: cannot be written there: .*; .*");
+    row("not writable", { o, QStringLiteral("/proc/a.pto") }, 3,
+        "/proc/a.pto: cannot be written there: .*; .*");
+    row("a folder", { o, QStringLiteral("folder") }, 3, "folder: is a folder; .*");
+    row("a photo", { o, QStringLiteral("IMG_02.jpg") }, 3, "IMG_02.jpg: is one of the input .*");
+    row("the record", { o, QStringLiteral("./four.xml") }, 3, ".*: is one of the input files; .*");
+    row("none", {}, 2, "no result asked for; .*");
+    row("one file for both", { o, QStringLiteral("a.x"), json, QStringLiteral("./a.x") }, 2,
+        "-o and --json name the same file; .*");
+}
+
+void TestCliBadInput::resultIsRefusedBeforeAnythingIsRead()
+{
+    QFETCH(QStringList, output);
+    QFETCH(int, exitCode);
+    QFETCH(QString, message);
+    const QByteArray photo = m_bench.content(QStringLiteral("IMG_02.jpg"));
+    const QStringList words{ QStringLiteral("import"), QStringLiteral("papywizard"),
+                             QStringLiteral("four.xml") };
+    compareRefusal(m_bench.run(words + m_photos + output), exitCode, message);
+    QCOMPARE(m_bench.content(QStringLiteral("IMG_02.jpg")), photo);
+}
+
+void TestCliBadInput::oddNumbersInARecordDoNoHarm_data()
+{
+    QTest::addColumn<QByteArray>("camera");
+    QTest::addColumn<QByteArray>("yaw0");
+    const QByteArray none;
+    const QByteArray zero = "0.0";
+    QTest::newRow("nbPicts 0") << QByteArray(R"(<bracketing nbPicts="0"/>)") << zero;
+    QTest::newRow("nbPicts -3") << QByteArray(R"(<bracketing nbPicts="-3"/>)") << zero;
+    QTest::newRow("nbPicts abc") << QByteArray(R"(<bracketing nbPicts="abc"/>)") << zero;
+    QTest::newRow("yaw nan") << none << QByteArray("nan");
+    QTest::newRow("yaw 1e308") << none << QByteArray("1e308");
+}
+
+void TestCliBadInput::oddNumbersInARecordDoNoHarm()
+{
+    QFETCH(QByteArray, camera);
+    QFETCH(QByteArray, yaw0);
+    const QString name = m_bench.record(QStringLiteral("odd.xml"), CliBench::row(4), camera);
+    QByteArray xml = m_bench.content(name);
+    m_bench.file(name, xml.replace("yaw=\"0.0\"", "yaw=\"" + yaw0 + '"'));
+
+    const QStringList words{ QStringLiteral("import"), QStringLiteral("papywizard"), name };
+    const QStringList output{ QStringLiteral("--json"), QStringLiteral("-") };
+    const CliBench::Run run = m_bench.run(words + m_photos + output);
+    QVERIFY2(run.exitCode == 0, qPrintable(run.err));
+    // A number that cannot be one counts as 0, a bracket below 1 as none: four positions, the
+    // first at yaw 0.
+    const QJsonArray positions = QJsonDocument::fromJson(run.out.toUtf8())
+                                     .object()
+                                     .value(QStringLiteral("positions"))
+                                     .toArray();
+    QCOMPARE(positions.size(), 4);
+    QCOMPARE(positions.at(0).toObject().value(QStringLiteral("yawDeg")).toDouble(-1.0), 0.0);
+    // Angles travel as radians in 32 bits.
+    const double yaw = positions.at(1).toObject().value(QStringLiteral("yawDeg")).toDouble();
+    QVERIFY2(std::abs(yaw - 90.0) < 1e-5, qPrintable(run.out));
+}
+
+void TestCliBadInput::missingLibraryExitsWithFour_data()
+{
+    QTest::addColumn<QString>("library");
+    QTest::newRow("no such file") << QStringLiteral("nosuch.so");
+    QTest::newRow("folder without one") << QStringLiteral("folder");
+    QTest::newRow("not a library") << QStringLiteral("IMG_01.jpg");
+    QTest::newRow("a library of something else") << QStringLiteral(PANOHOST_TEST_OTHER_LIBRARY);
+}
+
+void TestCliBadInput::missingLibraryExitsWithFour()
+{
+    QFETCH(QString, library);
+    const QStringList words{ QStringLiteral("import"), QStringLiteral("papywizard"),
+                             QStringLiteral("four.xml") };
+    const QStringList options{ QStringLiteral("-o"), QStringLiteral("kept.pto"),
+                               QStringLiteral("--plugin"), library };
+    compareRefusal(m_bench.run(words + m_photos + options), 4, QStringLiteral(".*; .*--plugin.*"));
+}
+
+QTEST_GUILESS_MAIN(TestCliBadInput)
+#include "tst_cli_badinput.moc"
