@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/fakeimage.h"
 
+#include <QPainter>
+
 #include <utility>
 
 FakeImage::FakeImage(QString fileName, const FakePhoto &photo)
@@ -20,9 +22,15 @@ QPixmap *FakeImage::Thumbnail()
     }
     if (!m_pixmap) {
         m_pixmap = std::make_unique<QPixmap>();
-        if (m_photo.preview == FakePhoto::Preview::SolidColour) {
+        if (m_photo.preview != FakePhoto::Preview::NullPixmap) {
             *m_pixmap = QPixmap(m_photo.size);
             m_pixmap->fill(m_photo.colour);
+        }
+        if (m_photo.preview == FakePhoto::Preview::TwoHalves) {
+            const int half = m_photo.size.width() / 2;
+            QPainter painter(m_pixmap.get());
+            painter.fillRect(half, 0, m_photo.size.width() - half, m_photo.size.height(),
+                             m_photo.rightColour);
         }
     }
     return m_pixmap.get();

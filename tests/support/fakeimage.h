@@ -22,6 +22,7 @@ struct FakePhoto {
     };
     enum class Preview {
         SolidColour, ///< a pixmap of `size` in `colour`
+        TwoHalves, ///< the left half in `colour`, the right one in `rightColour`
         NullPixmap, ///< a pixmap without pixels
         NullPointer, ///< no pixmap at all
     };
@@ -29,6 +30,7 @@ struct FakePhoto {
     Reading reading = Reading::Succeeds;
     Preview preview = Preview::SolidColour;
     QColor colour = Qt::gray;
+    QColor rightColour = Qt::black;
     QSize size = QSize(96, 64);
     float focalMm = 24.0F;
     int lensType = 0;
