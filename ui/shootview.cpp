@@ -23,7 +23,10 @@ bool isReadAndRecorded(const ShootState &state, ReadingThread &thread)
 
 void showShoot(const ShootView &view, const ShootState &state, const NotAvailable &notAvailable)
 {
-    view.record->setText(state.configPath);
+    // While a user types in the middle of the path, setting the same text would move the cursor.
+    if (view.record->text() != state.configPath) {
+        view.record->setText(state.configPath);
+    }
     view.shotCount->setText(countText(state.shotCount, notAvailable.count));
     view.yawRange->setText(rangeText(state.extents().yaw, notAvailable.range));
     view.pitchRange->setText(rangeText(state.extents().pitch, notAvailable.range));

@@ -170,6 +170,7 @@ private Q_SLOTS:
     void hostLearnsTheFirstPhoto();
     void newPhotosReplaceThoseBeingRead();
     void pathIsTyped();
+    void typingInTheMiddleKeepsTheCursor();
 
     void controlKeyOpensTheFolder_data();
     void controlKeyOpensTheFolder();
@@ -1371,6 +1372,18 @@ void TestUIWPMerlin::pathIsTyped()
     QVERIFY(fakeHost().setLastPaths.isEmpty());
     // It counts as the current file.
     QCOMPARE(shoot.driver.cancelFiles(kSelectRecord).fileName, QStringLiteral("shoot.xml"));
+}
+
+void TestUIWPMerlin::typingInTheMiddleKeepsTheCursor()
+{
+    const Shoot shoot;
+    shoot.driver.type("m_leConfigFile", QStringLiteral("/photos/shoot.xml"));
+    shoot.page.m_leConfigFile->setCursorPosition(7);
+
+    QTest::keyClicks(shoot.page.m_leConfigFile, QStringLiteral("/may"));
+
+    QCOMPARE(shoot.driver.text("m_leConfigFile"), QStringLiteral("/photos/may/shoot.xml"));
+    QCOMPARE(shoot.page.m_leConfigFile->cursorPosition(), 11);
 }
 
 void TestUIWPMerlin::controlKeyOpensTheFolder_data()
