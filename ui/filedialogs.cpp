@@ -21,9 +21,22 @@ namespace
 
 QStringList askForFiles(QWidget *page, const FileQuestion &question, const QString &start)
 {
-    QString selectedFilter = question.selectedFilter;
-    return QFileDialog::getOpenFileNames(page, question.caption, start, question.filters,
-                                         &selectedFilter, XUI::UseSystemFileDialog());
+    // On the heap and guarded, which the ready-made function is not: the dialog goes with its
+    // parent when the host deletes the page.
+    const QPointer<QFileDialog> dialog
+        = new QFileDialog(page, question.caption, start, question.filters);
+    dialog->setFileMode(QFileDialog::ExistingFiles);
+    dialog->setOptions(XUI::UseSystemFileDialog());
+    if (const QFileInfo place(start); !place.isDir()) {
+        // Once more, like the ready-made function: named, but not yet part of the selection.
+        dialog->selectFile(place.fileName());
+    }
+    dialog->setSupportedSchemes({ QStringLiteral("file") });
+    dialog->selectNameFilter(question.selectedFilter);
+    const bool accepted = dialog->exec() == QDialog::Accepted && !dialog.isNull();
+    const QStringList files = accepted ? dialog->selectedFiles() : QStringList();
+    delete dialog.data();
+    return files;
 }
 
 bool controlHeld()

@@ -183,6 +183,8 @@ private Q_SLOTS:
     void trapPipeNoticesAReader();
 
     void pageMayGoWhilePhotosAreRead();
+    void pageMayGoWhileADialogIsOpen_data();
+    void pageMayGoWhileADialogIsOpen();
     void pageMayGoWhileTheBoxIsOpen();
 };
 
@@ -1529,6 +1531,30 @@ void TestUIWPMerlin::pageMayGoWhilePhotosAreRead()
     QVERIFY(begun < 200);
     QCoreApplication::processEvents();
     QCOMPARE(fakeHost().readFiles().size(), begun);
+}
+
+void TestUIWPMerlin::pageMayGoWhileADialogIsOpen_data()
+{
+    QTest::addColumn<QString>("button");
+    for (const char *button : { kSelectRecord, kSelectPhotos }) {
+        QTest::addRow("%s", button) << QString::fromLatin1(button);
+    }
+}
+
+void TestUIWPMerlin::pageMayGoWhileADialogIsOpen()
+{
+    QFETCH(QString, button);
+    const ShootFolder folder;
+    QPointer<UIWPMerlin> page = new UIWPMerlin(nullptr);
+    const PageDriver driver(page);
+    DialogClicker clicker;
+    clicker.beforeNextAnswer([&page] { delete page.data(); });
+
+    driver.click(button.toLatin1().constData());
+
+    QVERIFY(page.isNull());
+    QCOMPARE(clicker.fileDialogs().size(), 1);
+    QVERIFY(fakeHost().setLastPaths.isEmpty());
 }
 
 void TestUIWPMerlin::pageMayGoWhileTheBoxIsOpen()
