@@ -280,7 +280,7 @@ public:
     {
         const QJsonValue value = member(key);
         require(value.isObject() || absent(value), key, "an object");
-        return { value.toObject(), pathOf(key) };
+        return { value.toObject(), pathOf(key) + QLatin1Char('.') };
     }
     [[nodiscard]] QJsonArray array(const char *key) const
     {

@@ -23,6 +23,11 @@ namespace
 constexpr double kAssumedExposureValue = 12.0;
 /** A full turn whose zenith and nadir are open by less stays an uncropped 2:1 picture. */
 constexpr double kOpenCapDegrees = 15.0;
+/** 35 mm equivalents that no lens goes beyond. */
+constexpr double kShortestFocalMm = 1.0;
+constexpr double kLongestFocalMm = 50000.0;
+/** No canvas side is longer, whatever the photos claim; pixels. */
+constexpr double kLongestSide = 1e9;
 /** stackLinking of the description */
 constexpr qint32 kHardLinks = 0;
 
@@ -41,7 +46,8 @@ double wrapped(double degrees)
 {
     double turn = std::remainder(degrees, 360.0);
     turn = std::round(turn * 1e6) / 1e6;
-    return turn >= 180.0 ? turn - 360.0 : turn;
+    // Adding zero makes -0 a plain 0.
+    return (turn >= 180.0 ? turn - 360.0 : turn) + 0.0;
 }
 
 /** Median of the exposure values known; the middle pair's lower one, so that it is a real one. */
@@ -80,6 +86,7 @@ public:
     Result<PtoProject> make();
 
 private:
+    std::optional<Failure> checkFocalLength() const;
     std::optional<Failure> collectImages();
     std::optional<Failure> nameImage(Image &image) const;
     void findExposures();
@@ -110,10 +117,8 @@ private:
 
 Result<PtoProject> ProjectMaker::make()
 {
-    if (!(m_panorama.focal35mm > 0.0) || !std::isfinite(m_panorama.focal35mm)) {
-        return refused(QStringLiteral("focal length"),
-                       QStringLiteral("neither the record nor the photos name it"),
-                       QStringLiteral("give it with --focal"));
+    if (const auto failure = checkFocalLength()) {
+        return *failure;
     }
     if (const auto failure = collectImages()) {
         return *failure;
@@ -126,6 +131,20 @@ Result<PtoProject> ProjectMaker::make()
     }
     appendVariables();
     return m_project;
+}
+
+std::optional<Failure> ProjectMaker::checkFocalLength() const
+{
+    const double focal = m_panorama.focal35mm;
+    const QString what = QStringLiteral("focal length");
+    const QString tryThis = QStringLiteral("give it with --focal");
+    if (!(focal > 0.0) || !std::isfinite(focal)) {
+        return refused(what, QStringLiteral("neither the record nor the photos name it"), tryThis);
+    }
+    if (focal < kShortestFocalMm || focal > kLongestFocalMm) {
+        return refused(what, QStringLiteral("no lens has %1 mm").arg(focal), tryThis);
+    }
+    return {};
 }
 
 std::optional<Failure> ProjectMaker::collectImages()
@@ -236,7 +255,8 @@ void ProjectMaker::layOutCanvas()
     const double fov = m_project.horizontalFovDegrees;
     m_project.yawCentreDegrees = fov < 360.0 ? covered.yawCentreDegrees : 0.0;
 
-    const double width = m_options.width > 0 ? m_options.width : qDegreesToRadians(fov) * focal;
+    const double wanted = m_options.width > 0 ? m_options.width : qDegreesToRadians(fov) * focal;
+    const double width = std::min(wanted, kLongestSide * std::min(1.0, fov / 180.0));
     const int w = 2 * std::max(1, qRound(width / 2.0));
     const int h = std::max(1, qRound(180.0 * w / fov));
     m_project.canvas = QSize(w, h);
