@@ -49,7 +49,8 @@ ChoicePage::ChoicePage(const QVector<ImportPlugin> &plugins, QWidget *parent)
     layout->addWidget(label);
     layout->addWidget(m_list);
     connect(m_list, &QListWidget::currentRowChanged, this, &ChoicePage::completeChanged);
-    connect(m_list, &QListWidget::itemActivated, this, [this] { wizard()->next(); });
+    // Enter needs nothing here: it presses Next, the wizard's default button.
+    connect(m_list, &QListWidget::itemDoubleClicked, this, [this] { wizard()->next(); });
 }
 
 int ChoicePage::chosen() const

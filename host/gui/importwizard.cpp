@@ -70,6 +70,7 @@ ImportWizard::ImportWizard(PanoHostApplication &app, const PluginLibrary &librar
     setPage(kResultId, m_resultPage);
     setStartId(kChoiceId);
 
+    m_choicePage->choose(0);
     const QString last = app.ReadSetting(settingsGroup(), headKey(), QString()).toString();
     for (int i = 0; i < library.plugins().size(); ++i) {
         if (library.plugins().at(i).head() == last) {
@@ -113,9 +114,7 @@ void ImportWizard::fillIn(const QStringList &files)
 {
     const FilledFiles filled = sortFiles(files);
     if (currentId() == kChoiceId) {
-        if (m_choicePage->chosen() < 0) {
-            m_choicePage->choose(recordHead(m_library.plugins(), filled));
-        }
+        m_choicePage->choose(headFor(filled, m_library.plugins(), m_choicePage->chosen()));
         next();
     }
     if (pluginOf(currentId()) != nullptr) {
@@ -162,6 +161,8 @@ void ImportWizard::openLinksOfSubtitle()
     for (QLabel *label : findChildren<QLabel *>()) {
         if (!label->text().isEmpty() && label->text() == currentPage()->subTitle()) {
             label->setOpenExternalLinks(true);
+            label->setTextInteractionFlags(Qt::LinksAccessibleByMouse
+                                           | Qt::LinksAccessibleByKeyboard);
         }
     }
 }

@@ -10,6 +10,8 @@
 #include <QLineEdit>
 #include <QWizardPage>
 
+#include <algorithm>
+
 namespace PanoHost
 {
 
@@ -38,16 +40,17 @@ FilledFiles sortFiles(const QStringList &files)
     return sorted;
 }
 
-int recordHead(const QVector<ImportPlugin> &plugins, const FilledFiles &files)
+int headFor(const FilledFiles &files, const QVector<ImportPlugin> &plugins, int chosen)
 {
-    const QString head
-        = files.record.isEmpty() ? QStringLiteral("gigapan") : QStringLiteral("papywizard");
-    for (int i = 0; i < plugins.size(); ++i) {
-        if (plugins.at(i).head() == head) {
-            return i;
-        }
+    const auto readsXml = [](const ImportPlugin &plugin) {
+        return plugin.head() == QLatin1String("papywizard")
+            || plugin.head() == QLatin1String("vrdrive2");
+    };
+    if (chosen >= 0 && (files.record.isEmpty() || readsXml(plugins.at(chosen)))) {
+        return chosen;
     }
-    return 0;
+    const auto found = std::find_if(plugins.begin(), plugins.end(), readsXml);
+    return found == plugins.end() ? chosen : static_cast<int>(found - plugins.begin());
 }
 
 QString recordPath(const QWizardPage *page)

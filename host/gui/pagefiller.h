@@ -20,8 +20,12 @@ struct FilledFiles {
 
 [[nodiscard]] FilledFiles sortFiles(const QStringList &files);
 
-/** The place of the plug-in that \p files are for, when the user has not chosen one. */
-[[nodiscard]] int recordHead(const QVector<ImportPlugin> &plugins, const FilledFiles &files);
+/**
+ * The place of the plug-in that \p files are for: \p chosen (-1: none) where it can read them, else
+ * the one that most of these records come from; -1 when there is none.
+ */
+[[nodiscard]] int headFor(const FilledFiles &files, const QVector<ImportPlugin> &plugins,
+                          int chosen);
 
 /** The record that \p page shows; empty when it has none. */
 [[nodiscard]] QString recordPath(const QWizardPage *page);

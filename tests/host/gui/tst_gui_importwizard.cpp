@@ -1,0 +1,337 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/gui/choicepage.h"
+#include "host/gui/importwizard.h"
+#include "host/gui/layoutpicture.h"
+#include "host/gui/resultpage.h"
+#include "tests/host/testphotos.h"
+
+#include <QAbstractButton>
+#include <QDesktopServices>
+#include <QDropEvent>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMimeData>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace PanoHost;
+
+class TestImportWizard : public QObject
+{
+    Q_OBJECT
+
+public:
+    Q_SLOT void openUrl(const QUrl &url) { m_opened += url; }
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void headsAreOfferedWithNameAndComment();
+    void lastHeadIsPreselected();
+    void nextBackNextGivesNoPhotoTwice();
+    void startingOverKeepsOldPhotosOut();
+    void closingWhilePhotosLoadEndsAtOnce();
+    void unloadingAfterUseWorks();
+    void resultIsSummedUp();
+    void resultIsSaved();
+    void failedSavingIsSaid();
+    void droppedFilesAreFilledIn();
+    void xmlGoesToAHeadThatReadsIt();
+    void unreadablePhotoKeepsNextDisabled();
+    void subtitleLinksOpenInTheBrowser();
+    void enterMovesOnePageOnly();
+
+private:
+    [[nodiscard]] QString writeRecord(int shots);
+    [[nodiscard]] QStringList writePhotos(int count, const QSize &size = QSize(60, 40));
+    void makeWizard();
+    void fillPapywizard(int count);
+    [[nodiscard]] ResultPage *result() const;
+    [[nodiscard]] QAbstractButton *next() const;
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<PluginLibrary> m_library;
+    std::unique_ptr<ImportWizard> m_wizard;
+    QVector<QUrl> m_opened;
+};
+
+void TestImportWizard::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    PanoHostApplication::instance()->setSettingsFile(m_folder->filePath(QStringLiteral("s.ini")));
+    makeWizard();
+}
+
+void TestImportWizard::cleanup()
+{
+    m_wizard.reset();
+    m_library.reset();
+    m_opened.clear();
+}
+
+void TestImportWizard::makeWizard()
+{
+    m_wizard.reset();
+    m_library.reset();
+    auto library = PluginLibrary::open(QStringLiteral(PANOHOST_TEST_LIBRARY));
+    QVERIFY2(library.ok(), library.ok() ? "" : qPrintable(library.error().text()));
+    m_library = std::move(library).value();
+    m_wizard = std::make_unique<ImportWizard>(*PanoHostApplication::instance(), *m_library);
+    m_wizard->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_wizard.get()));
+}
+
+QString TestImportWizard::writeRecord(int shots)
+{
+    QByteArray xml = "<papywizard><header><lens type=\"rectilinear\"><focal>24</focal></lens>"
+                     "</header><shoot>";
+    for (int i = 0; i < shots; ++i) {
+        xml += "<pict id=\"1\" bracket=\"1\"><position yaw=\"" + QByteArray::number(30 * i)
+            + ".0\" pitch=\"0.0\"/></pict>";
+    }
+    return TestPhotos::writeFile(m_folder->filePath(QStringLiteral("record.xml")),
+                                 xml + "</shoot></papywizard>");
+}
+
+QStringList TestImportWizard::writePhotos(int count, const QSize &size)
+{
+    QStringList photos;
+    const QString first = m_folder->filePath(QStringLiteral("photo.jpg"));
+    TestPhotos::writeOrdinary(first, size);
+    for (int i = 0; i < count; ++i) {
+        photos += m_folder->filePath(QStringLiteral("%1.jpg").arg(i, 4, 10, QLatin1Char('0')));
+        QFile::link(first, photos.last());
+    }
+    return photos;
+}
+
+void TestImportWizard::fillPapywizard(int count)
+{
+    m_wizard->fillIn(QStringList(writeRecord(count)) + writePhotos(count));
+    QTRY_VERIFY(next()->isEnabled());
+    QVERIFY(m_wizard->currentPage()->isComplete());
+}
+
+ResultPage *TestImportWizard::result() const
+{
+    return qobject_cast<ResultPage *>(m_wizard->currentPage());
+}
+
+QAbstractButton *TestImportWizard::next() const
+{
+    return m_wizard->button(QWizard::NextButton);
+}
+
+void TestImportWizard::headsAreOfferedWithNameAndComment()
+{
+    const auto *list = m_wizard->findChild<QListWidget *>(QStringLiteral("m_heads"));
+    QCOMPARE(list->count(), 4);
+    QCOMPARE(list->item(2)->text(), QStringLiteral("Papywizard\nPapywizard XML import plugin"));
+    QVERIFY(!list->item(2)->icon().isNull());
+    QCOMPARE(list->item(2)->data(Qt::AccessibleTextRole).toString(), QStringLiteral("Papywizard"));
+}
+
+void TestImportWizard::lastHeadIsPreselected()
+{
+    auto *list = m_wizard->findChild<QListWidget *>(QStringLiteral("m_heads"));
+    QCOMPARE(list->currentRow(), 0);
+    list->setCurrentRow(1);
+    next()->click();
+    QVERIFY(m_wizard->currentPage()->inherits("UIWPGigapan"));
+    m_wizard->reject();
+    makeWizard();
+    list = m_wizard->findChild<QListWidget *>(QStringLiteral("m_heads"));
+    QCOMPARE(list->currentRow(), 1);
+}
+
+void TestImportWizard::nextBackNextGivesNoPhotoTwice()
+{
+    fillPapywizard(6);
+    for (int round = 1; round <= 3; ++round) {
+        next()->click();
+        QVERIFY(result());
+        // The page hands over what it has collected in all rounds.
+        QCOMPARE(PanoHostApplication::instance()->delivery().imageGroups.size(), 6 * round);
+        const Panorama &panorama = *result()->panorama();
+        QCOMPARE(panorama.positions.size(), 6);
+        QCOMPARE(photoCount(panorama), 6);
+        // Pairs 30 and 60 degrees apart are within reach (64.7 degrees): 5 + 4.
+        QCOMPARE(panorama.description.authorizedLinks.size(), 9);
+        QVERIFY(qAbs(panorama.positions.at(5).yawDegrees - 150.0) < 1e-4);
+        m_wizard->back();
+        QVERIFY(m_wizard->currentPage()->inherits("UIWPMerlin"));
+    }
+}
+
+void TestImportWizard::startingOverKeepsOldPhotosOut()
+{
+    fillPapywizard(6);
+    next()->click();
+    QCOMPARE(photoCount(*result()->panorama()), 6);
+    m_wizard->back();
+    m_wizard->back();
+    QVERIFY(qobject_cast<ChoicePage *>(m_wizard->currentPage()));
+    fillPapywizard(2);
+    next()->click();
+    QCOMPARE(photoCount(*result()->panorama()), 2);
+    QCOMPARE(result()->panorama()->positions.size(), 2);
+    QCOMPARE(result()->panorama()->description.authorizedLinks.size(), 1);
+}
+
+void TestImportWizard::closingWhilePhotosLoadEndsAtOnce()
+{
+    constexpr int kCount = 400;
+    QSignalSpy read(PanoHostApplication::instance(), &PanoHostApplication::photoRead);
+    m_wizard->fillIn(QStringList(writeRecord(kCount)) + writePhotos(kCount, QSize(1200, 800)));
+    QTRY_VERIFY(!read.isEmpty());
+    m_wizard->close();
+    m_wizard.reset();
+    QVERIFY(m_library->unload());
+    QVERIFY(read.size() < kCount);
+}
+
+void TestImportWizard::unloadingAfterUseWorks()
+{
+    fillPapywizard(3);
+    next()->click();
+    QVERIFY(result());
+    m_wizard.reset();
+    QVERIFY(m_library->unload());
+    QFile maps(QStringLiteral("/proc/self/maps"));
+    QVERIFY(maps.open(QIODevice::ReadOnly));
+    QVERIFY(!maps.readAll().contains("libXPanoHead"));
+}
+
+void TestImportWizard::resultIsSummedUp()
+{
+    fillPapywizard(3);
+    auto *page = m_wizard->currentPage();
+    page->findChild<QAbstractButton *>(QStringLiteral("m_noOptim"))->click();
+    next()->click();
+    const QString summary = result()->findChild<QLabel *>(QStringLiteral("m_summary"))->text();
+    QCOMPARE(summary,
+             QStringLiteral("Positions: 3\nPhotos: 3\nLinks: 3\nLens: standard, 24 mm\n"
+                            "Control points: automatic yes, reference level, stacks hard "
+                            "links, cleaned no\n"
+                            "Optimisation: skipped yes, from the recorded location yes"));
+    const LayoutScene scene = layoutScene(*result()->panorama());
+    QCOMPARE(scene.places.size(), 3);
+    QVERIFY(qAbs(scene.places.at(2).x() - 60.0) < 1e-4);
+    QCOMPARE(scene.links.size(), 3);
+    QCOMPARE(scene.linked, QVector<bool>(3, true));
+}
+
+void TestImportWizard::resultIsSaved()
+{
+    fillPapywizard(3);
+    next()->click();
+    const QString project = m_folder->filePath(QStringLiteral("a.pto"));
+    const QString json = m_folder->filePath(QStringLiteral("a.json"));
+    QVERIFY(result()->saveProject(project));
+    QCOMPARE(result()->findChild<QLabel *>(QStringLiteral("m_saved"))->text(),
+             QStringLiteral("Saved %1").arg(project));
+    QVERIFY(result()->saveJson(json));
+    QFile written(project);
+    QVERIFY(written.open(QIODevice::ReadOnly));
+    QCOMPARE(written.readAll().count("\ni "), 3);
+    QVERIFY(QFile::exists(json));
+}
+
+void TestImportWizard::failedSavingIsSaid()
+{
+    fillPapywizard(3);
+    next()->click();
+    QVERIFY(!result()->saveProject(m_folder->filePath(QStringLiteral("nosuch/a.pto"))));
+    QVERIFY(result()
+                ->findChild<QLabel *>(QStringLiteral("m_saved"))
+                ->text()
+                .startsWith(QLatin1String("Not saved: ")));
+}
+
+void TestImportWizard::droppedFilesAreFilledIn()
+{
+    QMimeData data;
+    QList<QUrl> urls{ QUrl::fromLocalFile(writeRecord(2)) };
+    for (const QString &photo : writePhotos(2)) {
+        urls += QUrl::fromLocalFile(photo);
+    }
+    data.setUrls(urls);
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(m_wizard.get(), &enter);
+    QVERIFY(enter.isAccepted());
+    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(m_wizard.get(), &drop);
+    QVERIFY(m_wizard->currentPage()->inherits("UIWPMerlin"));
+    QTRY_VERIFY(m_wizard->currentPage()->isComplete());
+    QCOMPARE(m_wizard->currentPage()->findChild<QLineEdit *>(QStringLiteral("m_leImage"))->text(),
+             QStringLiteral("\"0000.jpg\"; \"0001.jpg\"; "));
+}
+
+void TestImportWizard::xmlGoesToAHeadThatReadsIt()
+{
+    auto *list = m_wizard->findChild<QListWidget *>(QStringLiteral("m_heads"));
+    list->setCurrentRow(0); // Clauss reads scripts
+    m_wizard->fillIn({ writeRecord(2) });
+    QVERIFY(m_wizard->currentPage()->inherits("UIWPMerlin"));
+    m_wizard->back();
+    list->setCurrentRow(3);
+    m_wizard->fillIn({ writeRecord(2) });
+    QVERIFY(m_wizard->currentPage()->inherits("UIWPVRDrive2"));
+}
+
+void TestImportWizard::unreadablePhotoKeepsNextDisabled()
+{
+    QStringList photos = writePhotos(3);
+    QVERIFY(QFile::remove(photos.at(1)));
+    TestPhotos::writeFile(photos.at(1), "no photo");
+    QSignalSpy read(PanoHostApplication::instance(), &PanoHostApplication::photoRead);
+    m_wizard->fillIn(QStringList(writeRecord(3)) + photos);
+    QTRY_COMPARE(read.size(), 3);
+    QVERIFY(!next()->isEnabled());
+}
+
+void TestImportWizard::subtitleLinksOpenInTheBrowser()
+{
+    fillPapywizard(2);
+    const QString subtitle = m_wizard->currentPage()->subTitle();
+    const QRegularExpressionMatch link
+        = QRegularExpression(QStringLiteral("href=[\"']([^\"']+)[\"']")).match(subtitle);
+    QVERIFY2(link.hasMatch(), qPrintable(subtitle));
+    QLabel *label = nullptr;
+    for (QLabel *candidate : m_wizard->findChildren<QLabel *>()) {
+        if (candidate->text() == subtitle && candidate->isVisible()) {
+            label = candidate;
+        }
+    }
+    QVERIFY(label);
+    const QUrl url(link.captured(1));
+    QDesktopServices::setUrlHandler(url.scheme(), this, "openUrl");
+    label->setFocus();
+    QTest::keyClick(label, Qt::Key_Tab);
+    QTest::keyClick(label, Qt::Key_Return);
+    QDesktopServices::unsetUrlHandler(url.scheme());
+    QCOMPARE(m_opened, QVector<QUrl>{ url });
+}
+
+void TestImportWizard::enterMovesOnePageOnly()
+{
+    auto *list = m_wizard->findChild<QListWidget *>(QStringLiteral("m_heads"));
+    list->setCurrentRow(2);
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_Return);
+    QVERIFY(m_wizard->currentPage()->inherits("UIWPMerlin"));
+    QVERIFY(!next()->isEnabled());
+}
+
+int main(int argc, char **argv)
+{
+    initializePhotoReading();
+    PanoHostApplication app(argc, argv);
+    TestImportWizard test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_gui_importwizard.moc"
