@@ -13,8 +13,8 @@ namespace
 {
 
 constexpr double kFocal35mm = 24.0;
-/** How far a head stops from where it was told to; it records where it really stands. */
-constexpr double kPlayDegrees = 0.3;
+/** Heads do not stop where they say: what the record's one decimal cannot tell. */
+constexpr double kPlayDegrees = 0.049;
 
 ShootPlan singleExposures(const QSize &photoSize)
 {

@@ -16,8 +16,10 @@ constexpr double kSensorCoefficient = 1.5;
 
 QString angleText(double degrees, RecordedAngles angles)
 {
-    return angles == RecordedAngles::OneDecimal ? QString::number(degrees, 'f', 1)
-                                                : QString::number(degrees, 'g', 12);
+    if (angles == RecordedAngles::Exact)
+        return QString::number(degrees, 'g', 12);
+    const double tenths = std::round(10.0 * degrees) + 0.0; // no "-0.0"
+    return QString::number(tenths / 10.0, 'f', 1);
 }
 
 QString timeText(const QDateTime &time)

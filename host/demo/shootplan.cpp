@@ -30,7 +30,7 @@ QVector<Pose> positionsOf(const QVector<ShootRow> &rows)
     QVector<Pose> positions;
     for (const ShootRow &row : rows) {
         for (int i = 0; i < row.count; ++i)
-            positions.append({ wrappedYawDegrees(i * 360.0 / row.count), row.pitchDegrees, 0.0 });
+            positions.append({ (i - row.count / 2) * 360.0 / row.count, row.pitchDegrees, 0.0 });
     }
     return positions;
 }
@@ -40,7 +40,7 @@ QVector<Pose> withPlay(QVector<Pose> positions, double degrees)
     for (int i = 0; i < positions.size(); ++i) {
         const auto play
             = [=](int axis) { return degrees * (2.0 * cellValue(i, axis, kPlaySeed) - 1.0); };
-        positions[i].yawDegrees = wrappedYawDegrees(positions[i].yawDegrees + play(0));
+        positions[i].yawDegrees = positions[i].yawDegrees + play(0);
         positions[i].pitchDegrees = std::clamp(positions[i].pitchDegrees + play(1), -90.0, 90.0);
     }
     return positions;

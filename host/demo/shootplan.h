@@ -18,7 +18,7 @@ enum class Mounting {
     PortraitTurned, ///< turned clockwise; pixels as the sensor has them, with an EXIF orientation
 };
 
-/** A row of positions, evenly spread over a full turn from yaw 0. */
+/** A row of positions, evenly spread over a full turn from yaw -180; a single one at yaw 0. */
 struct ShootRow {
     double pitchDegrees = 0.0;
     int count = 1;
