@@ -20,10 +20,11 @@ LightField exposed(const Radiance &radiance, const QSize &size, int side,
         Rgb *const line = light.pixels.data() + static_cast<size_t>(row) * size.width();
         for (int column = 0; column < size.width(); ++column) {
             Rgb sum;
-            for (int sample = 0; sample < side * side; ++sample) {
-                const double x = column + (sample % side + 0.5) / side;
-                const double y = row + (sample / side + 0.5) / side;
-                sum = sum + radiance(rayAt(x, y));
+            for (int down = 0; down < side; ++down) {
+                for (int right = 0; right < side; ++right) {
+                    sum = sum
+                        + radiance(rayAt(column + (right + 0.5) / side, row + (down + 0.5) / side));
+                }
             }
             line[column] = 1.0F / static_cast<float>(side * side) * sum;
         }
@@ -55,8 +56,9 @@ Vec3 View::directionAt(double x, double y) const
 {
     const double right = (x - m_camera.size.width() / 2.0) / m_focalPixels;
     const double up = (m_camera.size.height() / 2.0 - y) / m_focalPixels;
-    if (m_camera.projection == Projection::Rectilinear)
+    if (m_camera.projection == Projection::Rectilinear) {
         return normalized(m_forward + right * m_right + up * m_up);
+    }
     const double angle = std::hypot(right, up);
     const double perAngle = angle > 0.0 ? std::sin(angle) / angle : 1.0;
     return std::cos(angle) * m_forward + perAngle * (right * m_right + up * m_up);
@@ -69,12 +71,13 @@ std::optional<QPointF> View::pixelAt(const Vec3 &direction) const
     const double up = dot(direction, m_up);
     const double sine = std::hypot(right, up);
     double scale = m_focalPixels;
-    if (m_camera.projection == Projection::EquidistantFisheye)
+    if (m_camera.projection == Projection::EquidistantFisheye) {
         scale *= sine > 0.0 ? std::atan2(sine, forward) / sine : 1.0;
-    else if (forward > 0.0)
+    } else if (forward > 0.0) {
         scale /= forward;
-    else
+    } else {
         return std::nullopt;
+    }
     const QPointF pixel(m_camera.size.width() / 2.0 + scale * right,
                         m_camera.size.height() / 2.0 - scale * up);
     const bool inside = pixel.x() >= 0.0 && pixel.x() <= m_camera.size.width() && pixel.y() >= 0.0
@@ -106,8 +109,9 @@ QImage developed(const LightField &light, double stops)
     for (int row = 0; row < light.size.height(); ++row) {
         auto *const line = reinterpret_cast<QRgb *>(picture.scanLine(row));
         const Rgb *const from = light.pixels.data() + static_cast<size_t>(row) * width;
-        for (int column = 0; column < width; ++column)
+        for (int column = 0; column < width; ++column) {
             line[column] = encoded(gain * from[column]);
+        }
     }
     return picture;
 }

@@ -89,7 +89,7 @@ private:
     {
         return QDir(m_options.folder).absoluteFilePath(QLatin1String(name));
     }
-    Outcome write(const QString &file, const QByteArray &content) const;
+    [[nodiscard]] Outcome write(const QString &file, const QByteArray &content) const;
     void finishStep(const char *name);
 
     const DemoOptions &m_options;
@@ -121,8 +121,9 @@ Demo::Outcome Demo::write(const QString &file, const QByteArray &content) const
 
 Demo::Outcome Demo::makeFolder()
 {
-    if (QDir().mkpath(path("photos")))
+    if (QDir().mkpath(path("photos"))) {
         return {};
+    }
     return Failure{ ExitCode::ToolFailed, m_options.folder,
                     QStringLiteral("this folder cannot be made"),
                     QStringLiteral("name another one: panohost demo DIR") };
@@ -131,14 +132,16 @@ Demo::Outcome Demo::makeFolder()
 Demo::Outcome Demo::photograph()
 {
     const Result<QStringList> photos = takePhotos(m_scene, m_plan, path("photos"), m_watch);
-    if (!photos)
+    if (!photos) {
         return photos.error();
+    }
     m_photos = photos.value();
     m_report.photoCount = m_photos.size();
     if (m_options.head->record != nullptr) {
         m_record = path(m_options.head->recordFile);
-        if (const Outcome failure = write(m_record, m_options.head->record(m_plan)))
+        if (Outcome failure = write(m_record, m_options.head->record(m_plan))) {
             return failure;
+        }
     }
     finishStep("taking the photos");
     return {};
@@ -152,8 +155,9 @@ Demo::Outcome Demo::import()
     QBuffer buffer(&picture);
     buffer.open(QIODevice::WriteOnly);
     if (imported.layout.save(&buffer, "PNG")) {
-        if (const Outcome failure = write(path("layout.png"), picture))
+        if (Outcome failure = write(path("layout.png"), picture)) {
             return failure;
+        }
     }
     finishStep("importing them");
     return {};
@@ -165,11 +169,13 @@ Demo::Outcome Demo::writeProject()
     options.width = m_sizes.panoramaWidth;
     m_job.projectPath = path("demo.pto");
     const Result<PtoProject> project = writePtoProject(m_panorama, m_job.projectPath, options);
-    if (!project)
+    if (!project) {
         return project.error();
+    }
     m_job.canvas = project.value().canvas;
     m_job.fullTurn = project.value().horizontalFovDegrees >= 360.0;
     m_job.images = referenceImages(m_panorama);
+    m_panorama.warnings += project.value().warnings;
     m_panorama.project = ProjectReference{ m_job.projectPath, project.value().yawCentreDegrees };
     const Result<QString> json = writePanoramaJson(m_panorama, path("demo.json"));
     return json ? Outcome() : Outcome(json.error());
@@ -189,8 +195,9 @@ Demo::Outcome Demo::makePanorama()
     m_report.size = m_stitched.size();
     const Result<QString> written
         = writePanorama(path("demo.jpg"), m_stitched, m_stitched.size(), m_stitched.rect());
-    if (!written)
+    if (!written) {
         return written.error();
+    }
     m_report.panoramaPath = written.value();
     finishStep("stitching");
     return {};
@@ -214,10 +221,12 @@ Result<DemoReport> Demo::run()
         &Demo::writeProject, &Demo::makePanorama, &Demo::compare
     };
     for (const Step step : kSteps) {
-        if (m_watch.stopWanted())
+        if (m_watch.stopWanted()) {
             return interruption();
-        if (const Outcome failure = (this->*step)())
+        }
+        if (const Outcome failure = (this->*step)()) {
             return *failure;
+        }
     }
     return m_report;
 }

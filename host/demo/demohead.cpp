@@ -56,17 +56,18 @@ constexpr std::array<DemoHead, 3> kHeads{ {
 QStringList demoHeadNames()
 {
     QStringList names;
-    for (const DemoHead &head : kHeads)
+    for (const DemoHead &head : kHeads) {
         names.append(QString::fromLatin1(head.name));
+    }
     return names;
 }
 
 const DemoHead *demoHead(const QString &name)
 {
-    const auto head = std::find_if(kHeads.begin(), kHeads.end(), [&name](const DemoHead &row) {
-        return name == QLatin1String(row.name);
-    });
-    return head == kHeads.end() ? nullptr : &*head;
+    const auto *const head
+        = std::find_if(kHeads.begin(), kHeads.end(),
+                       [&name](const DemoHead &row) { return name == QLatin1String(row.name); });
+    return head == kHeads.end() ? nullptr : head;
 }
 
 } // namespace PanoHost

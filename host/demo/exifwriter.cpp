@@ -90,8 +90,9 @@ template <typename Describe>
 Result<QString> saveJpeg(const QString &path, const QImage &picture, int quality,
                          const Describe &describe)
 {
-    if (!picture.save(path, "JPG", quality))
+    if (!picture.save(path, "JPG", quality)) {
         return cannotWrite(path, QStringLiteral("saving the picture failed"));
+    }
     try {
         const auto file = Exiv2::ImageFactory::open(QFile::encodeName(path).toStdString());
         file->readMetadata();
@@ -118,17 +119,20 @@ Result<QString> writePanorama(const QString &path, const QImage &panorama, const
     // Next to the result, so that the last step is a rename within one file system.
     const QTemporaryDir folder(QFileInfo(path).absolutePath()
                                + QStringLiteral("/.panorama-XXXXXX"));
-    if (!folder.isValid())
+    if (!folder.isValid()) {
         return cannotWrite(path, folder.errorString());
+    }
     const QString unfinished = folder.filePath(QStringLiteral("panorama.jpg"));
-    const Result<QString> saved
+    Result<QString> saved
         = saveJpeg(unfinished, panorama, kPanoramaQuality,
                    [&](Exiv2::Image &file) { file.setXmpData(gpanoOf(sphereSize, covered)); });
-    if (!saved)
+    if (!saved) {
         return saved;
+    }
     if (std::rename(QFile::encodeName(unfinished).constData(), QFile::encodeName(path).constData())
-        != 0)
+        != 0) {
         return cannotWrite(path, QStringLiteral("the finished file could not be put in its place"));
+    }
     return path;
 }
 

@@ -83,8 +83,9 @@ float distanceTo(const Stroke &stroke, float x, float y)
 float distanceToLetter(char letter, float x, float y)
 {
     float nearest = std::numeric_limits<float>::max();
-    for (const Stroke &stroke : strokesOf(letter))
+    for (const Stroke &stroke : strokesOf(letter)) {
         nearest = std::min(nearest, distanceTo(stroke, x, y));
+    }
     return nearest;
 }
 

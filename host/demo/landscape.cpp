@@ -15,8 +15,9 @@ constexpr int kSkylineSteps = 16384;
 template <typename Height> Skyline skylineOf(const Height &height)
 {
     std::vector<float> heights(kSkylineSteps);
-    for (int i = 0; i < kSkylineSteps; ++i)
+    for (int i = 0; i < kSkylineSteps; ++i) {
         heights[static_cast<size_t>(i)] = height(directionTo(i * 360.0 / kSkylineSteps, 0.0));
+    }
     return Skyline(std::move(heights));
 }
 
@@ -183,12 +184,15 @@ Rgb Landscape::land(const Point &point, const Sky &sky) const
     const float hill = trees < 1.0F ? over(m_hills) : 1.0F;
     const float alp = trees < 1.0F && hill < 1.0F ? over(m_alps) : 1.0F;
     Rgb light;
-    if (alp < 1.0F)
+    if (alp < 1.0F) {
         light = sky.radiance(point.direction);
-    if (alp > 0.0F && hill < 1.0F && trees < 1.0F)
+    }
+    if (alp > 0.0F && hill < 1.0F && trees < 1.0F) {
         light = mix(light, alps(point, sky), alp);
-    if (hill > 0.0F && trees < 1.0F)
+    }
+    if (hill > 0.0F && trees < 1.0F) {
         light = mix(light, hills(point, sky), hill);
+    }
     return trees > 0.0F ? mix(light, forest(point, sky), trees) : light;
 }
 
@@ -209,13 +213,15 @@ Rgb Landscape::water(const Point &point, const Sky &sky) const
 Rgb Landscape::radiance(const Vec3 &direction, const Sky &sky) const
 {
     const Point point(direction);
-    if (point.pitchDegrees > kEdgeDegrees)
+    if (point.pitchDegrees > kEdgeDegrees) {
         return land(point, sky);
+    }
     const float shore = m_shore.heightAt(point.yawDegrees);
     const float dry = smoothStep(-kEdgeDegrees, kEdgeDegrees, shore - point.pitchDegrees);
     Rgb ground;
-    if (dry > 0.0F)
+    if (dry > 0.0F) {
         ground = meadow(point);
+    }
     if (dry < 1.0F) {
         const float beach = smoothStep(-0.55F, -0.25F, shore - point.pitchDegrees);
         ground = mix(mix(water(point, sky), rgbFromHex(0xd9c79a), beach), ground, dry);

@@ -39,8 +39,9 @@ QRgb seenIn(const std::vector<Source> &sources, const Vec3 &direction)
     QRgb colour = qRgba(0, 0, 0, 0);
     for (const Source &source : sources) {
         const double closeness = dot(direction, source.view.axis());
-        if (closeness <= nearest)
+        if (closeness <= nearest) {
             continue;
+        }
         if (const auto pixel = source.view.pixelAt(direction)) {
             nearest = closeness;
             colour = interpolated(source.picture, *pixel);
@@ -55,19 +56,21 @@ QImage nearestPhotoPanorama(const QVector<PlacedPhoto> &photos, int width)
 {
     std::vector<Source> sources;
     for (const PlacedPhoto &photo : photos) {
-        if (photo.pixels.width() > 1 && photo.pixels.height() > 1)
+        if (photo.pixels.width() > 1 && photo.pixels.height() > 1) {
             sources.push_back({ photo.pixels.convertToFormat(QImage::Format_RGB32),
                                 View(photo.camera, photo.pose) });
+        }
     }
     QImage panorama(width, width / 2, QImage::Format_ARGB32);
     uchar *const pixels = panorama.bits(); // once: scanLine() is not for several threads
     const qsizetype stride = panorama.bytesPerLine();
     forEachRow(panorama.height(), [&](int row) {
         auto *const line = reinterpret_cast<QRgb *>(pixels + row * stride);
-        for (int column = 0; column < width; ++column)
+        for (int column = 0; column < width; ++column) {
             line[column] = seenIn(sources,
                                   directionTo((column + 0.5) * 360.0 / width - 180.0,
                                               90.0 - (row + 0.5) * 360.0 / width));
+        }
     });
     return panorama;
 }

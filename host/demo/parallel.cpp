@@ -14,15 +14,18 @@ void forEachRow(int rows, const std::function<void(int row)> &work)
 {
     std::atomic<int> next{ 0 };
     const auto run = [&] {
-        for (int row = next++; row < rows; row = next++)
+        for (int row = next++; row < rows; row = next++) {
             work(row);
+        }
     };
     std::vector<std::thread> helpers;
-    for (unsigned int i = 1; i < std::max(1U, std::thread::hardware_concurrency()); ++i)
+    for (unsigned int i = 1; i < std::max(1U, std::thread::hardware_concurrency()); ++i) {
         helpers.emplace_back(run);
+    }
     run();
-    for (std::thread &helper : helpers)
+    for (std::thread &helper : helpers) {
         helper.join();
+    }
 }
 
 } // namespace PanoHost

@@ -30,15 +30,18 @@ Result<QStringList> takePhotos(const Scene &scene, const ShootPlan &plan, const 
     LightField light;
     for (const PlannedShot &shot : shots) {
         watch.report(paths.size(), shots.size(), QStringLiteral("taking %1").arg(shot.fileName));
-        if (watch.stopWanted())
+        if (watch.stopWanted()) {
             return interruption();
-        if (shot.level == 0)
+        }
+        if (shot.level == 0) {
             light = exposePhoto(radianceOf(scene), plan.camera, shot.camera,
                                 kSamplesPerPhotoPixelSide);
+        }
         const Result<QString> written = writePhoto(QDir(folder).absoluteFilePath(shot.fileName),
                                                    developed(light, shot.stops), shot, plan);
-        if (!written)
+        if (!written) {
             return written.error();
+        }
         paths.append(written.value());
     }
     return paths;

@@ -16,8 +16,9 @@ constexpr double kSensorCoefficient = 1.5;
 
 QString angleText(double degrees, RecordedAngles angles)
 {
-    if (angles == RecordedAngles::Exact)
+    if (angles == RecordedAngles::Exact) {
         return QString::number(degrees, 'g', 12);
+    }
     const double tenths = std::round(10.0 * degrees) + 0.0; // no "-0.0"
     return QString::number(tenths / 10.0, 'f', 1);
 }
@@ -83,8 +84,9 @@ QByteArray papywizardRecord(const ShootPlan &plan, const QString &title, Recorde
     QString xml
         = QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<papywizard version=\"c\">\n")
         + header(plan, title, shots) + QStringLiteral("  <shoot>\n");
-    for (int i = 0; i < shots.size(); ++i)
+    for (int i = 0; i < shots.size(); ++i) {
         xml += pict(shots[i], i + 1, angles);
+    }
     return (xml + QStringLiteral("  </shoot>\n</papywizard>\n")).toUtf8();
 }
 
@@ -95,12 +97,15 @@ QByteArray claussScript(const ShootPlan &plan)
     for (const Pose &position : plan.positions) {
         const int yaw = wholeDegrees(position.yawDegrees);
         const int pitch = wholeDegrees(position.pitchDegrees);
-        if (before == nullptr || wholeDegrees(before->pitchDegrees) != pitch)
+        if (before == nullptr || wholeDegrees(before->pitchDegrees) != pitch) {
             script += "op_v-angle=" + QByteArray::number(pitch) + '\n';
-        if (before == nullptr || wholeDegrees(before->yawDegrees) != yaw)
+        }
+        if (before == nullptr || wholeDegrees(before->yawDegrees) != yaw) {
             script += "op_h-angle=" + QByteArray::number(yaw) + '\n';
-        for (int level = 0; level < plan.stops.size(); ++level)
+        }
+        for (int level = 0; level < plan.stops.size(); ++level) {
             script += "op_shoot\n";
+        }
         before = &position;
     }
     return script;

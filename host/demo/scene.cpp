@@ -20,8 +20,9 @@ Rgb Scene::farAway(const Vec3 &direction) const
 Rgb Scene::radiance(const Vec3 &direction) const
 {
     const float terrace = Terrace::coverage(direction);
-    if (terrace <= 0.0F)
+    if (terrace <= 0.0F) {
         return farAway(direction);
+    }
     const Rgb near = m_terrace.radiance(direction);
     return terrace >= 1.0F ? near : mix(farAway(direction), near, terrace);
 }

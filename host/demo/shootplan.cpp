@@ -18,8 +18,9 @@ constexpr quint32 kPlaySeed = 77;
 Pose cameraPose(const Pose &head, Mounting mounting)
 {
     Pose pose = head;
-    if (mounting == Mounting::PortraitTurned)
+    if (mounting == Mounting::PortraitTurned) {
         pose.rollDegrees += 90.0;
+    }
     return pose;
 }
 
@@ -29,8 +30,10 @@ QVector<Pose> positionsOf(const QVector<ShootRow> &rows)
 {
     QVector<Pose> positions;
     for (const ShootRow &row : rows) {
-        for (int i = 0; i < row.count; ++i)
-            positions.append({ (i - row.count / 2) * 360.0 / row.count, row.pitchDegrees, 0.0 });
+        const int before = row.count / 2;
+        for (int i = 0; i < row.count; ++i) {
+            positions.append({ (i - before) * 360.0 / row.count, row.pitchDegrees, 0.0 });
+        }
     }
     return positions;
 }

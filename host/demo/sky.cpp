@@ -29,16 +29,18 @@ constexpr std::array<Balloon, 4> kBalloons{ {
 /** Half the width of a balloon at height \p v above its middle, both in radii. */
 float halfWidth(float v)
 {
-    if (v > 0.0F)
+    if (v > 0.0F) {
         return std::sqrt(std::max(0.0F, 1.0F - v * v));
+    }
     const float taper = -v / 1.55F;
     return std::max(0.0F, 1.0F - 0.80F * taper * taper - 0.04F * taper);
 }
 
 Rgb balloonColour(const Balloon &balloon, float u, float v)
 {
-    if (v < -1.62F)
+    if (v < -1.62F) {
         return rgbFromHex(0x5a3d22);
+    }
     const float across = std::clamp(u / std::max(0.05F, halfWidth(v)), -1.0F, 1.0F);
     const float stripes = std::sin(5.0F * std::asin(across) + 0.6F);
     const float band = smoothStep(0.10F, 0.16F, std::fabs(v + 0.12F));
@@ -52,8 +54,9 @@ Rgb balloonColour(const Balloon &balloon, float u, float v)
 Rgb withBalloon(const Rgb &behind, const Balloon &balloon, const Vec3 &direction)
 {
     const Vec3 middle = directionTo(balloon.yawDegrees, balloon.pitchDegrees);
-    if (dot(direction, middle) < std::cos(radians(3.0 * balloon.radiusDegrees)))
+    if (dot(direction, middle) < std::cos(radians(3.0 * balloon.radiusDegrees))) {
         return behind;
+    }
     const double perRadius = 1.0 / radians(balloon.radiusDegrees);
     const auto u = static_cast<float>(
         perRadius * dot(direction, directionTo(balloon.yawDegrees + 90.0, 0.0)));
@@ -128,8 +131,9 @@ Rgb Sky::radiance(const Vec3 &direction) const
         = static_cast<float>(degrees(std::acos(std::clamp(dot(direction, sun()), -1.0, 1.0))));
     light = light + (0.55F * std::exp(-fromSun / 3.2F)) * rgbFromHex(0xfff0c4);
     light = mix(light, rgbFromHex(0xfffbe6), smoothStep(1.55F, 1.2F, fromSun));
-    for (const Balloon &balloon : kBalloons)
+    for (const Balloon &balloon : kBalloons) {
         light = withBalloon(light, balloon, direction);
+    }
     return light;
 }
 

@@ -24,8 +24,9 @@ Result<QString> warp(const StitchJob &job, const QString &nona, const QString &f
     QStringList arguments{ QStringLiteral("-m"), QStringLiteral("TIFF_m"),
                            QStringLiteral("-z"), QStringLiteral("NONE"),
                            QStringLiteral("-o"), QDir(folder).filePath(QStringLiteral("warped")) };
-    for (const int image : job.images)
+    for (const int image : job.images) {
         arguments << QStringLiteral("-i") << QString::number(image);
+    }
     const QFileInfo project(job.projectPath);
     arguments << project.absoluteFilePath();
     const int total = std::max(1, job.images.size());
@@ -42,17 +43,20 @@ Result<QImage> blend(const StitchJob &job, const QString &verdandi, const QStrin
     watch.report(0, 1, QStringLiteral("blending with verdandi"));
     const QString blended = QStringLiteral("blended.png"); // the offset survives in a PNG
     QStringList arguments{ QStringLiteral("-o"), blended };
-    if (job.fullTurn)
+    if (job.fullTurn) {
         arguments << QStringLiteral("-w");
+    }
     const Result<QString> run = runTool(verdandi, arguments + warpedPhotos(folder), folder, watch);
-    if (!run)
+    if (!run) {
         return run.error();
+    }
     const QImage picture(QDir(folder).filePath(blended));
-    if (picture.isNull())
+    if (picture.isNull()) {
         return Failure{ ExitCode::ToolFailed,
                         QStringLiteral("verdandi"),
                         QStringLiteral("it left no picture"),
                         {} };
+    }
     watch.report(1, 1, QStringLiteral("blending with verdandi"));
     return picture;
 }
@@ -63,19 +67,23 @@ Result<QImage> stitch(const StitchJob &job, const JobWatch &watch)
 {
     const Result<QString> nona = findTool(QStringLiteral("nona"));
     const Result<QString> verdandi = findTool(QStringLiteral("verdandi"));
-    if (!nona || !verdandi)
+    if (!nona || !verdandi) {
         return nona ? verdandi.error() : nona.error();
+    }
     const QTemporaryDir folder;
-    if (!folder.isValid())
+    if (!folder.isValid()) {
         return Failure{
             ExitCode::ToolFailed, QStringLiteral("temporary folder"), folder.errorString(), {}
         };
+    }
     const Result<QString> warped = warp(job, nona.value(), folder.path(), watch);
-    if (!warped)
+    if (!warped) {
         return warped.error();
-    const Result<QImage> blended = blend(job, verdandi.value(), folder.path(), watch);
-    if (!blended)
+    }
+    Result<QImage> blended = blend(job, verdandi.value(), folder.path(), watch);
+    if (!blended) {
         return blended;
+    }
     QImage canvas(job.canvas, QImage::Format_ARGB32_Premultiplied);
     canvas.fill(Qt::transparent);
     QPainter(&canvas).drawImage(blended.value().offset(), blended.value());

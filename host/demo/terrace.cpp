@@ -67,8 +67,9 @@ float labelShare(const Label &label, float along, float up, float soft)
     const float total = pair ? width + gap + letterWidth(label.letters[1]) : width;
     float left = -total / 2.0F;
     for (const char letter : label.letters) {
-        if (letter == ' ')
+        if (letter == ' ') {
             continue;
+        }
         const float middle = left + letterWidth(letter) / 2.0F;
         nearest = std::min(nearest, distanceToLetter(letter, along / height - middle, up / height));
         left += letterWidth(letter) + gap;
@@ -80,7 +81,7 @@ float labelShare(const Label &label, float along, float up, float soft)
 float sunOnFloor(float x, float y)
 {
     const Vec3 sun = Sky::sun();
-    const float flat = static_cast<float>(std::hypot(sun.x, sun.y));
+    const auto flat = static_cast<float>(std::hypot(sun.x, sun.y));
     const float toX = static_cast<float>(sun.x) / flat;
     const float toY = static_cast<float>(sun.y) / flat;
     const float along = x * toX + y * toY;
@@ -137,8 +138,9 @@ Rgb withRose(const Rgb &stone, float x, float y, float soft)
     const float toDot = angle - kDotTurn * (std::floor(angle / kDotTurn) + 0.5F);
     const float dot = std::hypot(radius - 0.73F, 0.73F * toDot);
     colour = mix(colour, rgbFromHex(0x16407a), inside(dot - 0.035F, soft));
-    for (const RosePoint &point : kRosePoints)
+    for (const RosePoint &point : kRosePoints) {
         colour = withRosePoint(colour, point, x, y, soft);
+    }
     return mix(colour, rgbFromHex(0xf0d9a0), inside(radius - 0.045F, soft));
 }
 
@@ -172,8 +174,9 @@ Rgb Terrace::wall(const Vec3 &direction) const
     const double yaw = yawDegreesOf(direction);
     const float soft = softness(kRadius);
     const float overhang = smoothStep(-soft, soft, up - kCopingFoot);
-    if (overhang >= 1.0F)
+    if (overhang >= 1.0F) {
         return coping(direction);
+    }
     const float along = kRadius * static_cast<float>(radians(yaw));
     const float degreesPerBlock = 7.5F;
     const int course = static_cast<int>(std::floor((up + 1.0F) / 0.17F));
@@ -198,8 +201,9 @@ Rgb Terrace::wall(const Vec3 &direction) const
     for (const Label &label : kLabels) {
         const float right
             = kRadius * static_cast<float>(radians(wrappedYawDegrees(yaw - label.yawDegrees)));
-        if (std::fabs(right) > 0.5F)
+        if (std::fabs(right) > 0.5F) {
             continue;
+        }
         const float plaque = std::hypot(std::max(0.0F, std::fabs(right) - 0.17F),
                                         std::max(0.0F, std::fabs(up + 0.755F) - 0.13F))
             - 0.085F;
@@ -240,8 +244,9 @@ Rgb Terrace::floor(const Vec3 &direction) const
     const auto y = static_cast<float>(direction.y / -direction.z);
     const float radius = std::hypot(x, y);
     Rgb stone = paving(x, y, direction);
-    if (radius < kRoseRadius + 0.1F)
+    if (radius < kRoseRadius + 0.1F) {
         stone = withRose(stone, x, y, softness(std::sqrt(1.0F + radius * radius)));
+    }
     const float grain = 1.0F + 0.30F * noise(34.0 * direction, m_seed + 230);
     const float border = inside(std::fabs(radius - 2.72F) - 0.07F, 0.03F);
     stone = mix(stone, grain * rgbFromHex(0x7b5a44), 0.8F * border);
@@ -258,8 +263,9 @@ Rgb Terrace::radiance(const Vec3 &direction) const
     const auto pitch = static_cast<float>(pitchDegreesOf(direction));
     const float top = smoothStep(-kEdgeDegrees, kEdgeDegrees, pitch - kTop);
     const float paved = inside(pitch - kFoot, kEdgeDegrees);
-    if (paved >= 1.0F)
+    if (paved >= 1.0F) {
         return floor(direction);
+    }
     const Rgb face = mix(wall(direction), 1.08F * coping(direction), top);
     return paved > 0.0F ? mix(face, floor(direction), paved) : face;
 }

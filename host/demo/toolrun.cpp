@@ -36,8 +36,9 @@ void stop(QProcess &process)
 
 void JobWatch::report(int done, int total, const QString &text) const
 {
-    if (progress)
+    if (progress) {
         progress(done, total, text);
+    }
 }
 
 Failure interruption()
@@ -48,8 +49,9 @@ Failure interruption()
 Result<QString> findTool(const QString &name)
 {
     const QString path = QStandardPaths::findExecutable(name);
-    if (!path.isEmpty())
+    if (!path.isEmpty()) {
         return path;
+    }
     return Failure{ ExitCode::ToolMissing, name,
                     QStringLiteral("this program is needed for stitching and was not found"),
                     QStringLiteral("apt install hugin-tools enblend") };
@@ -63,23 +65,27 @@ Result<QString> runTool(const QString &path, const QStringList &arguments, const
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.setWorkingDirectory(folder);
     process.start(path, arguments, QIODevice::ReadOnly);
-    if (!process.waitForStarted())
+    if (!process.waitForStarted()) {
         return Failure{ ExitCode::ToolFailed,
                         name,
                         QStringLiteral("cannot be started (%1)").arg(process.errorString()),
                         {} };
+    }
     while (!process.waitForFinished(kTickMilliseconds) && process.state() != QProcess::NotRunning) {
         if (watch.stopWanted()) {
             stop(process);
             return interruption();
         }
-        if (tick)
+        if (tick) {
             tick();
+        }
     }
-    if (watch.stopWanted()) // Ctrl-C reaches the helper program too
+    if (watch.stopWanted()) { // Ctrl-C reaches the helper program too
         return interruption();
-    if (process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0)
+    }
+    if (process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0) {
         return path;
+    }
     const QString said = lastLine(process.readAll());
     return Failure{ ExitCode::ToolFailed, name,
                     said.isEmpty() ? QStringLiteral("it failed without a message")

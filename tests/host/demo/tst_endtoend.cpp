@@ -1,0 +1,283 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/core/panoramajson.h"
+#include "host/core/photofile.h"
+#include "host/demo/photoshoot.h"
+#include "host/demo/psnr.h"
+#include "host/demo/recordwriter.h"
+#include "host/demo/stitcher.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <csignal>
+
+using namespace PanoHost;
+
+namespace
+{
+
+constexpr int kRunMilliseconds = 280000;
+
+/** What a run of panohost left. */
+struct Run {
+    int exitCode = -1;
+    QString output;
+    QString errors;
+};
+
+QStringList withLibrary(const QStringList &arguments)
+{
+    return arguments + QStringList{ QStringLiteral("--plugin"), QStringLiteral(PANOHOST_LIBRARY) };
+}
+
+Run runPanohost(const QStringList &arguments, const QString &folder, const QString &path = {})
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    if (!path.isNull()) {
+        environment.insert(QStringLiteral("PATH"), path);
+    }
+    process.setProcessEnvironment(environment);
+    process.setWorkingDirectory(folder);
+    process.start(QStringLiteral(PANOHOST_PROGRAM), withLibrary(arguments));
+    if (!process.waitForFinished(kRunMilliseconds)) {
+        return {};
+    }
+    return { process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+             QString::fromUtf8(process.readAllStandardError()) };
+}
+
+/** The figure that the demo printed; -1 when it printed none. */
+double printedPsnr(const QString &output)
+{
+    const QRegularExpression line(QStringLiteral("^Panorama: .*, ([0-9.]+) dB\\)$"),
+                                  QRegularExpression::MultilineOption);
+    const QRegularExpressionMatch match = line.match(output);
+    return match.hasMatch() ? match.captured(1).toDouble() : -1.0;
+}
+
+QStringList filesBelow(const QString &folder)
+{
+    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+}
+
+} // namespace
+
+class TestEndToEnd : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase();
+    void exactAnglesNeedNoOptimisation_data();
+    void exactAnglesNeedNoOptimisation();
+    void demoEndsWithAPanorama();
+    void demoWithoutStitchingProgramsStillShowsAPicture();
+    void interruptedDemoLeavesNoPanorama();
+    void demoRefusesAFolderThatCannotBeMade();
+    void demoRefusesWrongWords_data();
+    void demoRefusesWrongWords();
+
+private:
+    const Scene m_scene;
+    QImage m_truth;
+};
+
+void TestEndToEnd::initTestCase()
+{
+    initializePhotoReading();
+    if (!findTool(QStringLiteral("nona")) || !findTool(QStringLiteral("verdandi"))) {
+        QSKIP("hugin-tools are not installed");
+    }
+    m_truth = truthOf(m_scene, 2048);
+}
+
+void TestEndToEnd::exactAnglesNeedNoOptimisation_data()
+{
+    QTest::addColumn<int>("mounting");
+    QTest::addColumn<bool>("fisheye");
+    QTest::addColumn<QVector<double>>("stops");
+    QTest::addColumn<QVector<int>>("references"); ///< images of the project; empty: all
+    const QVector<double> single{ 0.0 };
+    QVector<int> eachThird;
+    for (int i = 0; i < 26; ++i) {
+        eachThird.append(3 * i);
+    }
+    const auto row = [](Mounting mounting) { return static_cast<int>(mounting); };
+    QTest::newRow("landscape") << row(Mounting::Landscape) << false << single << QVector<int>();
+    QTest::newRow("portrait, upright pixels")
+        << row(Mounting::PortraitUpright) << false << single << QVector<int>();
+    QTest::newRow("portrait, turned pixels with an orientation")
+        << row(Mounting::PortraitTurned) << false << single << QVector<int>();
+    QTest::newRow("fisheye") << row(Mounting::Landscape) << true << single << QVector<int>();
+    QTest::newRow("reference exposures of brackets")
+        << row(Mounting::Landscape) << false << QVector<double>{ 0.0, -2.0, 2.0 } << eachThird;
+}
+
+void TestEndToEnd::exactAnglesNeedNoOptimisation()
+{
+    QFETCH(int, mounting);
+    QFETCH(bool, fisheye);
+    QFETCH(QVector<double>, stops);
+    QFETCH(QVector<int>, references);
+
+    ShootPlan plan;
+    plan.mounting = static_cast<Mounting>(mounting);
+    plan.camera = { QSize(900, 600), 24.0, Projection::Rectilinear };
+    QVector<ShootRow> rows = landscapeRows();
+    if (fisheye) {
+        plan.camera = { QSize(1800, 1200), 12.0, Projection::EquidistantFisheye };
+        rows = { { 0.0, 4 }, { 55.0, 2 }, { -55.0, 2 } };
+    } else if (plan.mounting != Mounting::Landscape) {
+        rows = portraitRows();
+    }
+    if (plan.mounting == Mounting::PortraitUpright) {
+        plan.camera.size.transpose();
+    }
+    plan.positions = withPlay(positionsOf(rows), 0.4);
+    plan.stops = stops;
+
+    const QTemporaryDir folder;
+    const Result<QStringList> photos = takePhotos(m_scene, plan, folder.path(), {});
+    QVERIFY(photos);
+    const QString record = folder.filePath(QStringLiteral("record.xml"));
+    QFile file(record);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(papywizardRecord(plan, QStringLiteral("exact"), RecordedAngles::Exact));
+    file.close();
+
+    QStringList arguments{ QStringLiteral("import"), QStringLiteral("papywizard"), record };
+    arguments += photos.value();
+    arguments += QStringList{ QStringLiteral("-o"), QStringLiteral("exact.pto") };
+    if (fisheye) {
+        arguments += QStringList{ QStringLiteral("--lens"), QStringLiteral("fisheye") };
+    }
+    const Run import = runPanohost(arguments, folder.path());
+    QVERIFY2(import.exitCode == 0, qPrintable(import.errors));
+
+    // The project's own canvas is larger; the truth is 2048 pixels wide.
+    QFile project(folder.filePath(QStringLiteral("exact.pto")));
+    QVERIFY(project.open(QIODevice::ReadOnly));
+    QString text = QString::fromUtf8(project.readAll());
+    project.close();
+    text.replace(QRegularExpression(QStringLiteral("^p f2 w\\d+ h\\d+ v360 "),
+                                    QRegularExpression::MultilineOption),
+                 QStringLiteral("p f2 w2048 h1024 v360 "));
+    QVERIFY(text.contains(QStringLiteral("\np f2 w2048 h1024 v360 ")));
+    QVERIFY(project.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    project.write(text.toUtf8());
+    project.close();
+
+    const Result<QImage> panorama
+        = stitch({ project.fileName(), m_truth.size(), true, references }, {});
+    QVERIFY2(panorama, panorama ? "" : qPrintable(panorama.error().text()));
+    const Agreement agreement = agreementOf(panorama.value(), m_truth);
+    qInfo("%.2f dB, %.4f covered", agreement.psnrDecibels, agreement.coveredShare);
+    QCOMPARE(agreement.coveredShare, 1.0);
+    QVERIFY(agreement.psnrDecibels > 38.0);
+}
+
+void TestEndToEnd::demoEndsWithAPanorama()
+{
+    const QTemporaryDir folder;
+    const Run demo = runPanohost({ QStringLiteral("demo"), QStringLiteral("show") }, folder.path());
+    QVERIFY2(demo.exitCode == 0, qPrintable(demo.errors));
+    QVERIFY(
+        demo.output.contains(QStringLiteral("Panorama: show/demo.jpg (2048x1024, 26 photos, ")));
+
+    const QDir show(folder.filePath(QStringLiteral("show")));
+    QCOMPARE(show.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name),
+             (QStringList{ QStringLiteral("demo.jpg"), QStringLiteral("demo.json"),
+                           QStringLiteral("demo.pto"), QStringLiteral("layout.png"),
+                           QStringLiteral("photos"), QStringLiteral("record.xml") }));
+    QCOMPARE(QDir(show.filePath(QStringLiteral("photos"))).entryList(QDir::Files).size(), 26);
+    QVERIFY(!QImage(show.filePath(QStringLiteral("layout.png"))).isNull());
+
+    const Result<Panorama> description
+        = readPanoramaJson(show.filePath(QStringLiteral("demo.json")));
+    QVERIFY(description);
+    QCOMPARE(description.value().positions.size(), 26);
+    QVERIFY(description.value().description.authorizedLinks.size() > 26);
+
+    // The printed figure is that of the file: compared here once more.
+    const double psnr
+        = agreementOf(QImage(show.filePath(QStringLiteral("demo.jpg"))), m_truth).psnrDecibels;
+    QVERIFY(psnr > 30.0);
+    QVERIFY(std::fabs(psnr - printedPsnr(demo.output)) < 0.06);
+}
+
+void TestEndToEnd::demoWithoutStitchingProgramsStillShowsAPicture()
+{
+    const QTemporaryDir folder;
+    const QTemporaryDir noPrograms;
+    const Run demo = runPanohost({ QStringLiteral("demo"), QStringLiteral("show"),
+                                   QStringLiteral("--size"), QStringLiteral("small") },
+                                 folder.path(), noPrograms.path());
+    QCOMPARE(demo.exitCode, 5);
+    QVERIFY2(demo.errors.contains(QStringLiteral("apt install hugin-tools enblend")),
+             qPrintable(demo.errors));
+    QVERIFY(printedPsnr(demo.output) > 30.0);
+    QCOMPARE(QImage(folder.filePath(QStringLiteral("show/demo.jpg"))).size(), QSize(1024, 512));
+    for (const char *file : { "demo.pto", "demo.json", "layout.png", "record.xml" }) {
+        QVERIFY(QFileInfo(folder.filePath(QStringLiteral("show/") + QLatin1String(file))).size()
+                > 0);
+    }
+}
+
+void TestEndToEnd::interruptedDemoLeavesNoPanorama()
+{
+    const QTemporaryDir folder;
+    QProcess process;
+    process.setWorkingDirectory(folder.path());
+    process.start(QStringLiteral(PANOHOST_PROGRAM),
+                  withLibrary({ QStringLiteral("demo"), QStringLiteral("show") }));
+    QVERIFY(process.waitForStarted());
+    QTRY_VERIFY_WITH_TIMEOUT(
+        QFile::exists(folder.filePath(QStringLiteral("show/photos/demo_0002.jpg"))), 60000);
+    QCOMPARE(::kill(static_cast<pid_t>(process.processId()), SIGINT), 0);
+    QVERIFY(process.waitForFinished(kRunMilliseconds));
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 130);
+    QCOMPARE(filesBelow(folder.filePath(QStringLiteral("show"))),
+             QStringList{ QStringLiteral("photos") });
+}
+
+void TestEndToEnd::demoRefusesAFolderThatCannotBeMade()
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("occupied")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.close();
+    const Run demo
+        = runPanohost({ QStringLiteral("demo"), QStringLiteral("occupied") }, folder.path());
+    QCOMPARE(demo.exitCode, 1);
+    QVERIFY2(demo.errors.contains(QStringLiteral("occupied: this folder cannot be made")),
+             qPrintable(demo.errors));
+    QCOMPARE(filesBelow(folder.path()), QStringList{ QStringLiteral("occupied") });
+}
+
+void TestEndToEnd::demoRefusesWrongWords_data()
+{
+    QTest::addColumn<QStringList>("words");
+    QTest::newRow("unknown head") << QStringList{ QStringLiteral("--head"),
+                                                  QStringLiteral("robot") };
+    QTest::newRow("unknown size") << QStringList{ QStringLiteral("--size"),
+                                                  QStringLiteral("huge") };
+    QTest::newRow("two folders") << QStringList{ QStringLiteral("one"), QStringLiteral("two") };
+}
+
+void TestEndToEnd::demoRefusesWrongWords()
+{
+    QFETCH(QStringList, words);
+    const QTemporaryDir folder;
+    const Run demo = runPanohost(QStringList{ QStringLiteral("demo") } + words, folder.path());
+    QCOMPARE(demo.exitCode, 2);
+    QVERIFY(demo.errors.startsWith(QStringLiteral("panohost: error: ")));
+    QCOMPARE(filesBelow(folder.path()), QStringList());
+}
+
+QTEST_GUILESS_MAIN(TestEndToEnd)
+#include "tst_endtoend.moc"
