@@ -86,8 +86,10 @@ QStringList PluginLibrary::searchPath(const QString &fileOrFolder)
     places.append(here);
     places.append(QDir::cleanPath(here + QStringLiteral("/../lib/panohost")));
     places.append(QDir::cleanPath(here + QStringLiteral("/" PANOHOST_INSTALLED_PLUGIN_DIR)));
-    places.append(QDir::cleanPath(here + QStringLiteral("/../../plugin")));
-    places.append(QStringLiteral(PANOHOST_BUILD_PLUGIN_DIR));
+    // An installed program never looks into the folder it was built in: that may be anybody's now.
+    if (here.startsWith(QStringLiteral(PANOHOST_BUILD_DIR "/"))) {
+        places.append(QStringLiteral(PANOHOST_BUILD_DIR "/plugin"));
+    }
     places.removeDuplicates();
     return places;
 }
