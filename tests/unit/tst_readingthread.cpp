@@ -119,6 +119,7 @@ private Q_SLOTS:
     void startAfterClearReadsAll();
     void startFromTheAnswerOfClearReadsAll();
     void startAsTheRunEndsIsNeverLost();
+    void startWhileTheRunWindsDownIsNotLost();
     void destroyingWaitsForThePhotoInHandAndIsSilent();
     void randomOperationsKeepTheirPromises();
 };
@@ -526,6 +527,38 @@ void TestReadingThread::startAsTheRunEndsIsNeverLost()
     QVERIFY(thread.wait());
     QCOMPARE(fakeHost().readFiles(), names);
     QCOMPARE(namesOf(thread.XIImageDefs()), QStringList{ names.last() });
+}
+
+void TestReadingThread::startWhileTheRunWindsDownIsNotLost()
+{
+    const QStringList names = photoNames(3);
+    fakeHost().setPhotos(names, {});
+    ReadingThread thread(nullptr);
+    Gate windingDown;
+    Gate leave;
+    connect(
+        &thread, &ReadingThread::Done, &thread,
+        [&] {
+            windingDown.open();
+            leave.pass();
+        },
+        Qt::DirectConnection);
+    thread.Start({ names.at(0) });
+    windingDown.pass();
+
+    // The run will not look at the queue again, yet its thread still runs, and goes on running
+    // until Start waits for it.
+    std::thread helper([&] {
+        for (int i = 0; i < 1000; ++i) {
+            std::this_thread::yield();
+        }
+        leave.open(2);
+    });
+    thread.Start(names.mid(1));
+    QVERIFY(thread.wait());
+    helper.join();
+    QCOMPARE(fakeHost().readFiles(), names);
+    QCOMPARE(namesOf(thread.XIImageDefs()), names.mid(1));
 }
 
 void TestReadingThread::destroyingWaitsForThePhotoInHandAndIsSilent()
