@@ -2,34 +2,67 @@
 // SPDX-License-Identifier: MIT
 #include "ui/previewlabel.h"
 
+#include <QEvent>
+
 namespace PanoHead
 {
 
-namespace
-{
-
-int zoomed(int side, int percent)
-{
-    return static_cast<int>(qint64{ side } * percent / 100);
-}
-
-} // namespace
-
 void PreviewLabel::showScene(const PreviewScene &scene, int zoomPercent)
 {
-    // The old picture goes first: both together could be half a gigabyte.
-    setPixmap(QPixmap());
-    const QPixmap canvas = paintPreview(scene);
-    const QSize size(zoomed(canvas.width(), zoomPercent), zoomed(canvas.height(), zoomPercent));
-    if (size.isEmpty()) {
+    const PreviewColours wanted = colours(scene.style);
+    const PreviewCanvas::Change change = m_canvas.changeTo(scene, wanted);
+    const bool isOtherZoom = zoomPercent != m_zoomed.percent();
+    m_scene = scene;
+    m_zoomPercent = zoomPercent;
+    if (change.isNone() && !isOtherZoom) {
         return;
     }
-    setPixmap(canvas.scaled(size, Qt::IgnoreAspectRatio, Qt::FastTransformation));
+    // The label's picture shares its pixels with the copies here; drawing on them while it does
+    // would make further copies.
+    setPixmap(QPixmap());
+    if (change.everything || m_zoomed.percent() == 100) {
+        m_zoomed = ZoomedCopy();
+    }
+    m_canvas.update(scene, wanted, change);
+    if (m_zoomed.percent() != zoomPercent) {
+        m_zoomed.make(m_canvas.image(), zoomPercent);
+    } else {
+        m_zoomed.patch(m_canvas.image(), change.region);
+    }
+    setPixmap(QPixmap::fromImage(m_zoomed.image(), Qt::NoOpaqueDetection));
 }
 
-void PreviewLabel::showNothing()
+void PreviewLabel::forgetPhotos()
 {
-    setPixmap(QPixmap());
+    m_scene.images.clear();
+    m_canvas.invalidate();
+}
+
+void PreviewLabel::changeEvent(QEvent *event)
+{
+    QLabel::changeEvent(event);
+    switch (event->type()) {
+    case QEvent::FontChange:
+    case QEvent::ApplicationFontChange:
+    case QEvent::PaletteChange:
+    case QEvent::StyleChange:
+        m_canvas.invalidate();
+        if (!m_scene.layout.isEmpty()) {
+            showScene(PreviewScene(m_scene), m_zoomPercent);
+        }
+        break;
+    default:
+        break;
+    }
+}
+
+PreviewColours PreviewLabel::colours(CellStyle style) const
+{
+    if (style == CellStyle::UnscaledPhoto) {
+        return { QBrush(Qt::lightGray), QPen(Qt::black) };
+    }
+    return { palette().brush(QPalette::Current, QPalette::Window),
+             QPen(palette().color(QPalette::Current, QPalette::WindowText)) };
 }
 
 } // namespace PanoHead

@@ -2,14 +2,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ui/previewpainter.h"
+#include "ui/previewcanvas.h"
+#include "ui/zoomedcopy.h"
 
 #include <QLabel>
 
 namespace PanoHead
 {
 
-/** Shows a shoot's layout picture at the page's zoom. */
+/**
+ * Shows a shoot's layout picture at the page's zoom, on the label's window colour or, for grids, on
+ * light grey. Redraws what has changed since the last call; everything when fonts or colours
+ * change.
+ */
 class PreviewLabel : public QLabel
 {
     Q_OBJECT
@@ -17,10 +22,21 @@ class PreviewLabel : public QLabel
 public:
     using QLabel::QLabel;
 
-    /** Draws \p scene and shows it at \p zoomPercent of its size. */
+    /** Shows \p scene at \p zoomPercent of its size. Its photos must outlive the next call. */
     void showScene(const PreviewScene &scene, int zoomPercent);
-    /** Shows nothing. */
-    void showNothing();
+    /** The photos shown are no longer to be relied on: the next call draws everything. */
+    void forgetPhotos();
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    [[nodiscard]] PreviewColours colours(CellStyle style) const;
+
+    PreviewScene m_scene;
+    int m_zoomPercent = 100;
+    PreviewCanvas m_canvas;
+    ZoomedCopy m_zoomed;
 };
 
 } // namespace PanoHead

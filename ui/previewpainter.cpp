@@ -8,7 +8,6 @@
 #include <QTransform>
 
 #include <cmath>
-#include <new>
 
 namespace PanoHead
 {
@@ -16,11 +15,7 @@ namespace PanoHead
 namespace
 {
 
-/** A thumbnail made ready to be copied pixel by pixel to \c position. */
-struct Tile {
-    QPoint position;
-    QPixmap pixmap;
-};
+constexpr int kBytesPerPixel = 4;
 
 QPixmap turned(const QPixmap &thumbnail, float rollDegrees)
 {
@@ -28,34 +23,6 @@ QPixmap turned(const QPixmap &thumbnail, float rollDegrees)
         return thumbnail;
     }
     return thumbnail.transformed(QTransform().rotate(static_cast<qreal>(rollDegrees)));
-}
-
-/**
- * The thumbnail scaled into \p box. The tile starts on a whole pixel, so that the place within the
- * pixel is kept: copying a tile gives the same pixels under any clip, scaling under a clip does
- * not.
- */
-Tile fittedTile(const QPixmap &thumbnail, const PreviewCell &cell)
-{
-    const QPoint position(static_cast<int>(std::floor(cell.box.left())) - 1,
-                          static_cast<int>(std::floor(cell.box.top())) - 1);
-    const QSize size(static_cast<int>(std::ceil(cell.box.width())) + 3,
-                     static_cast<int>(std::ceil(cell.box.height())) + 3);
-    QPixmap pixmap(size);
-    pixmap.fill(Qt::transparent);
-    const QPixmap photo = turned(thumbnail, cell.roll);
-    QPainter painter(&pixmap);
-    painter.drawPixmap(cell.box.translated(-position), photo, QRectF(photo.rect()));
-    return { position, pixmap };
-}
-
-const QPixmap *thumbnailOf(const PreviewScene &scene, const PreviewCell &cell)
-{
-    if (cell.image < 0 || cell.image >= scene.images.size()) {
-        return nullptr;
-    }
-    const QPixmap *thumbnail = scene.images.at(cell.image)->Thumbnail();
-    return thumbnail == nullptr || thumbnail->isNull() ? nullptr : thumbnail;
 }
 
 void drawCaption(QPainter &painter, const PreviewCell &cell)
@@ -66,44 +33,64 @@ void drawCaption(QPainter &painter, const PreviewCell &cell)
                               QString::number(cell.pitch)));
 }
 
-void drawCell(QPainter &painter, const PreviewScene &scene, const PreviewCell &cell)
+} // namespace
+
+const QPixmap *thumbnailOf(const PreviewScene &scene, const PreviewCell &cell)
 {
-    if (const QPixmap *thumbnail = thumbnailOf(scene, cell)) {
-        if (scene.style == CellStyle::FittedWithCaption) {
-            const Tile tile = fittedTile(*thumbnail, cell);
-            painter.drawPixmap(tile.position, tile.pixmap);
+    if (cell.image < 0 || cell.image >= scene.images.size()) {
+        return nullptr;
+    }
+    const QPixmap *thumbnail = scene.images.at(cell.image)->Thumbnail();
+    return thumbnail == nullptr || thumbnail->isNull() ? nullptr : thumbnail;
+}
+
+void CellPainter::reset(int tileBytes)
+{
+    m_tiles.clear();
+    m_tiles.setMaxCost(tileBytes);
+}
+
+void CellPainter::draw(QPainter &painter, const PreviewScene &scene, int cell)
+{
+    const PreviewCell &drawn = scene.layout.cells.at(cell);
+    const bool isFitted = scene.style == CellStyle::FittedWithCaption;
+    if (const QPixmap *thumbnail = thumbnailOf(scene, drawn)) {
+        if (isFitted) {
+            drawFitted(painter, *thumbnail, drawn, cell);
         } else {
-            painter.drawPixmap(cell.box.topLeft(), *thumbnail);
+            painter.drawPixmap(drawn.box.topLeft(), *thumbnail);
         }
     }
-    painter.drawRect(cell.box);
-    if (scene.style == CellStyle::FittedWithCaption) {
-        drawCaption(painter, cell);
+    painter.drawRect(drawn.box);
+    if (isFitted) {
+        drawCaption(painter, drawn);
     }
 }
 
-} // namespace
-
-QPixmap paintPreview(const PreviewScene &scene)
+void CellPainter::drawFitted(QPainter &painter, const QPixmap &thumbnail, const PreviewCell &cell,
+                             int index)
 {
-    if (scene.layout.isEmpty()) {
-        return {};
+    if (const Tile *kept = m_tiles.object(index)) {
+        painter.drawPixmap(kept->position, kept->pixmap);
+        return;
     }
-    try {
-        QPixmap canvas(scene.layout.canvas);
-        if (canvas.isNull()) {
-            return {};
-        }
-        canvas.fill(Qt::transparent);
-        QPainter painter(&canvas);
-        painter.fillRect(canvas.rect(), scene.background);
-        for (const PreviewCell &cell : scene.layout.cells) {
-            drawCell(painter, scene, cell);
-        }
-        return canvas;
-    } catch (const std::bad_alloc &) {
-        return {};
-    }
+    const Tile tile = fittedTile(thumbnail, cell);
+    painter.drawPixmap(tile.position, tile.pixmap);
+    const int bytes = tile.pixmap.width() * tile.pixmap.height() * kBytesPerPixel;
+    m_tiles.insert(index, new Tile(tile), bytes);
+}
+
+CellPainter::Tile CellPainter::fittedTile(const QPixmap &thumbnail, const PreviewCell &cell)
+{
+    const QPoint position(static_cast<int>(std::floor(cell.box.left())) - 1,
+                          static_cast<int>(std::floor(cell.box.top())) - 1);
+    QPixmap pixmap(static_cast<int>(std::ceil(cell.box.width())) + 3,
+                   static_cast<int>(std::ceil(cell.box.height())) + 3);
+    pixmap.fill(Qt::transparent);
+    const QPixmap photo = turned(thumbnail, cell.roll);
+    QPainter painter(&pixmap);
+    painter.drawPixmap(cell.box.translated(-position), photo, QRectF(photo.rect()));
+    return { position, pixmap };
 }
 
 } // namespace PanoHead

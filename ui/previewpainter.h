@@ -4,10 +4,13 @@
 
 #include "importers/common/previewlayout.h"
 
-#include <QBrush>
+#include <QCache>
 #include <QList>
 #include <QPixmap>
+#include <QPoint>
+#include <QSize>
 
+class QPainter;
 class XIImageDef;
 
 namespace PanoHead
@@ -23,11 +26,44 @@ enum class CellStyle {
 struct PreviewScene {
     PreviewLayout layout;
     QList<XIImageDef *> images; ///< photos by preview index; a cell without its photo is an outline
-    QBrush background;
     CellStyle style = CellStyle::FittedWithCaption;
 };
 
-/** Draws \p scene at 100 percent; null when there is nothing to draw or no memory for it. */
-[[nodiscard]] QPixmap paintPreview(const PreviewScene &scene);
+/** The thumbnail that belongs into \p cell; null when there is none to draw. */
+[[nodiscard]] const QPixmap *thumbnailOf(const PreviewScene &scene, const PreviewCell &cell);
+
+/**
+ * Draws cells with the painter's pen. A thumbnail is first scaled into a tile of its own that
+ * starts on a whole pixel: copying a tile gives the same pixels under any clip, scaling under a
+ * clip does not. Some tiles are kept for the redraw of their neighbours.
+ */
+class CellPainter
+{
+public:
+    /** \p tileBytes bounds what is kept. */
+    explicit CellPainter(int tileBytes = 0)
+        : m_tiles(tileBytes)
+    {
+    }
+
+    void draw(QPainter &painter, const PreviewScene &scene, int cell);
+    /** The photo of \p cell has changed. */
+    void forget(int cell) { m_tiles.remove(cell); }
+    /** Everything has changed. */
+    void reset(int tileBytes);
+
+private:
+    /** A thumbnail made ready to be copied pixel by pixel to \c position. */
+    struct Tile {
+        QPoint position;
+        QPixmap pixmap;
+    };
+
+    static Tile fittedTile(const QPixmap &thumbnail, const PreviewCell &cell);
+    void drawFitted(QPainter &painter, const QPixmap &thumbnail, const PreviewCell &cell,
+                    int index);
+
+    QCache<int, Tile> m_tiles; // by cell, cost in bytes
+};
 
 } // namespace PanoHead

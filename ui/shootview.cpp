@@ -15,6 +15,14 @@
 namespace PanoHead
 {
 
+void PhotoNames::show(QLineEdit *edit, const QStringList &files)
+{
+    if (files != m_shown) {
+        edit->setText(photoNames(files));
+        m_shown = files;
+    }
+}
+
 bool isReadAndRecorded(const ShootState &state, ReadingThread &thread)
 {
     const int photos = state.images.size();
@@ -30,7 +38,7 @@ void showShoot(const ShootView &view, const ShootState &state, const NotAvailabl
     view.shotCount->setText(countText(state.shotCount, notAvailable.count));
     view.yawRange->setText(rangeText(state.extents().yaw, notAvailable.range));
     view.pitchRange->setText(rangeText(state.extents().pitch, notAvailable.range));
-    view.photos->setText(photoNames(state.images));
+    view.photoNames->show(view.photos, state.images);
     view.photoCount->setText(countText(state.images.size(), notAvailable.count));
 }
 

@@ -5,6 +5,7 @@
 #include "importers/common/mismatch.h"
 
 #include <QString>
+#include <QStringList>
 
 class ReadingThread;
 class QComboBox;
@@ -18,6 +19,16 @@ namespace PanoHead
 
 struct ShootState;
 
+/** A line edit that lists photos; it is written again only when the list has changed. */
+class PhotoNames
+{
+public:
+    void show(QLineEdit *edit, const QStringList &files);
+
+private:
+    QStringList m_shown;
+};
+
 /** The widgets that show record and photos side by side, on every page with a record. */
 struct ShootView {
     QLineEdit *record;
@@ -26,6 +37,7 @@ struct ShootView {
     QLabel *pitchRange;
     QLineEdit *photos;
     QLabel *photoCount;
+    PhotoNames *photoNames; ///< what \c photos shows
 };
 
 /** Every chosen photo has been read, and there are as many as recorded shots. */

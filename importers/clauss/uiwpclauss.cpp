@@ -4,7 +4,6 @@
 
 #include "importers/common/angles.h"
 #include "importers/common/previewlayout.h"
-#include "importers/common/shotorder.h"
 #include "plugin/hostapplication.h"
 #include "plugin/readingthread.h"
 #include "plugin/xiapplication.h"
@@ -27,10 +26,15 @@ namespace
 constexpr LayoutRules kClaussLayout{ 0.0 /* no smallest step */, Span::Absolute,
                                      Precision::Single };
 
-ShootView shootView(const Ui::UIWPClaussClass &form)
+ShootView shootView(const Ui::UIWPClaussClass &form, PhotoNames &names)
 {
-    return { form.m_leConfigFile, form.m_lbPapyLog, form.m_lbThetaMinMax,
-             form.m_lbPhiMinMax,  form.m_leImage,   form.m_lbImageLog };
+    return { form.m_leConfigFile,
+             form.m_lbPapyLog,
+             form.m_lbThetaMinMax,
+             form.m_lbPhiMinMax,
+             form.m_leImage,
+             form.m_lbImageLog,
+             &names };
 }
 
 DetectionOptions detectionOptions(const Ui::UIWPClaussClass &form)
@@ -43,6 +47,7 @@ DetectionOptions detectionOptions(const Ui::UIWPClaussClass &form)
 UIWPClauss::UIWPClauss(QWidget *parent)
     : QWizardPage(parent)
     , m_readingThread(nullptr)
+    , m_layout(kClaussLayout)
 {
     setupUi(this);
     setLogo(this, QStringLiteral(":/7A21C94E-5B20-2020-2020-D6D081182F97/Resources/Clauss_wp.png"));
@@ -169,6 +174,8 @@ void UIWPClauss::SelectImages()
 void UIWPClauss::usePhotos(const QStringList &photos)
 {
     m_state.images = photos;
+    m_shotOrder.forget();
+    m_preview->forgetPhotos();
     readPhotos(*m_readingThread, photos);
 }
 
@@ -207,20 +214,18 @@ void UIWPClauss::UpdateUI()
 {
     {
         const BlockSignal blocker(this);
-        showShoot(shootView(*this), m_state, { tr("N/A"), tr("N/A") });
+        showShoot(shootView(*this, m_photoNames), m_state, { tr("N/A"), tr("N/A") });
     }
     UpdatePreview();
 }
 
 void UIWPClauss::UpdatePreview()
 {
-    previewImages = byShotTime(m_readingThread->XIImageDefs(), EqualTimes::GiveUp);
+    previewImages = m_shotOrder.update(m_readingThread->XIImageDefs());
     // After a failed parse positions may be left, without a range to lay them out over.
     const bool hasRecord = m_state.shotCount > 0;
     m_preview->showScene(
-        { hasRecord ? layOutShots(shots, m_state.extents(), kClaussLayout) : PreviewLayout(),
-          previewImages, palette().brush(QPalette::Current, QPalette::Window),
-          CellStyle::FittedWithCaption },
+        { hasRecord ? m_layout.of(shots, m_state.extents()) : PreviewLayout(), previewImages },
         m_hSlider->value());
     Q_EMIT completeChanged();
 }

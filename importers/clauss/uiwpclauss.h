@@ -3,7 +3,10 @@
 #pragma once
 
 #include "importers/clauss/clausstospp.h"
+#include "importers/common/previewlayout.h"
 #include "importers/common/shootstate.h"
+#include "importers/common/shotorder.h"
+#include "ui/shootview.h"
 #include "ui_uiwpclauss.h"
 
 #include <QStringList>
@@ -59,4 +62,7 @@ private:
     QList<XIImageDef *> previewImages; ///< what the preview shows, by capture time; not owned
     ReadingThread *m_readingThread;
     PanoHead::PreviewLabel *m_preview = nullptr;
+    PanoHead::ShotLayout m_layout;
+    PanoHead::ShotOrder m_shotOrder{ PanoHead::EqualTimes::GiveUp };
+    PanoHead::PhotoNames m_photoNames;
 };

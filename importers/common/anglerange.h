@@ -29,12 +29,22 @@ struct AngleRange {
     void widen(float angle);
     /** The range of the negated angles. */
     [[nodiscard]] AngleRange negated() const { return { -maximum, -minimum }; }
+
+    friend bool operator==(const AngleRange &a, const AngleRange &b)
+    {
+        return a.minimum == b.minimum && a.maximum == b.maximum;
+    }
 };
 
 /** Extents of a shoot. */
 struct AngleExtents {
     AngleRange yaw;
     AngleRange pitch;
+
+    friend bool operator==(const AngleExtents &a, const AngleExtents &b)
+    {
+        return a.yaw == b.yaw && a.pitch == b.pitch;
+    }
 };
 
 /** Extents over \p shots; both ranges stay at the scan's start when there are none. */

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "importers/common/photofacts.h"
 
+#include "importers/common/shotorder.h"
 #include "model/lensmodel.h"
 #include "plugin/xiimagedef.h"
 
@@ -11,24 +12,29 @@
 namespace PanoHead
 {
 
-LensFacts lensFactsOf(const QList<XIImageDef *> &images)
+LensFacts LensTally::update(const QList<XIImageDef *> &images)
 {
-    LensFacts facts;
-    double sum = 0.0;
-    int count = 0;
-    for (XIImageDef *image : images) {
-        const float focalMm = image->FocalLength();
-        if (std::isfinite(focalMm)) {
-            sum += static_cast<double>(focalMm);
-            ++count;
-        }
-        const int lensType = image->LensType();
-        if (isLensModel(lensType)) {
-            facts.lensType = lensType;
-        }
+    if (!continues(images, m_seen)) {
+        forget();
     }
-    facts.focalMm = count > 0 ? sum / count : 0.0;
-    return facts;
+    for (int i = m_seen.size(); i < images.size(); ++i) {
+        add(images.at(i));
+    }
+    m_seen = images;
+    return { m_focalCount > 0 ? m_focalSum / m_focalCount : 0.0, m_lensType };
+}
+
+void LensTally::add(XIImageDef *image)
+{
+    const float focalMm = image->FocalLength();
+    if (std::isfinite(focalMm)) {
+        m_focalSum += static_cast<double>(focalMm);
+        ++m_focalCount;
+    }
+    const int lensType = image->LensType();
+    if (isLensModel(lensType)) {
+        m_lensType = lensType;
+    }
 }
 
 LensFacts presetLens(const LensFacts &photos, const LensFacts &record)

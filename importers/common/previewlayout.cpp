@@ -142,4 +142,16 @@ PreviewLayout layOutShots(const QVector<ShootData> &shots, const AngleExtents &e
     return Layout<double>(shots, extents, rules).result();
 }
 
+const PreviewLayout &ShotLayout::of(const QVector<ShootData> &shots, const AngleExtents &extents)
+{
+    const bool isSame = shots.constData() == m_shots.constData() && shots.size() == m_shots.size()
+        && extents == m_extents;
+    if (!isSame) {
+        m_layout = layOutShots(shots, extents, m_rules);
+        m_shots = shots;
+        m_extents = extents;
+    }
+    return m_layout;
+}
+
 } // namespace PanoHead

@@ -33,6 +33,7 @@ struct PreviewLayout {
     QVector<PreviewCell> cells; ///< in drawing order: later cells cover earlier ones
 
     [[nodiscard]] bool isEmpty() const { return canvas.isEmpty(); }
+    /** Quick for layouts that share their cells. */
     friend bool operator==(const PreviewLayout &a, const PreviewLayout &b)
     {
         return a.canvas == b.canvas && a.cells == b.cells;
@@ -68,5 +69,25 @@ constexpr int kCellSide = 96;
  */
 [[nodiscard]] PreviewLayout layOutShots(const QVector<ShootData> &shots,
                                         const AngleExtents &extents, const LayoutRules &rules);
+
+/** The layout of a shoot, worked out again only when something about it has changed. */
+class ShotLayout
+{
+public:
+    explicit ShotLayout(const LayoutRules &rules)
+        : m_rules(rules)
+    {
+    }
+
+    /** As `layOutShots`. Costs nothing while \p shots is the same, unchanged list. */
+    const PreviewLayout &of(const QVector<ShootData> &shots, const AngleExtents &extents);
+
+private:
+    LayoutRules m_rules;
+    // A shared copy: a change to the page's list detaches it and so shows in the address.
+    QVector<ShootData> m_shots;
+    AngleExtents m_extents;
+    PreviewLayout m_layout;
+};
 
 } // namespace PanoHead

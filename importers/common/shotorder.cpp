@@ -4,37 +4,51 @@
 
 #include "plugin/xiimagedef.h"
 
-#include <QVector>
-
 #include <algorithm>
 
 namespace PanoHead
 {
 
-QList<XIImageDef *> byShotTime(const QList<XIImageDef *> &images, EqualTimes equalTimes)
+bool continues(const QList<XIImageDef *> &images, const QList<XIImageDef *> &seen)
 {
-    struct Entry {
-        long time;
-        XIImageDef *image;
-    };
-    QVector<Entry> entries;
-    entries.reserve(images.size());
-    for (XIImageDef *image : images) {
-        entries.append({ image->ShotTime(), image });
+    return images.size() >= seen.size() && std::equal(seen.cbegin(), seen.cend(), images.cbegin());
+}
+
+const QList<XIImageDef *> &ShotOrder::update(const QList<XIImageDef *> &images)
+{
+    if (!continues(images, m_seen)) {
+        forget();
     }
-    std::stable_sort(entries.begin(), entries.end(),
+    bool inOrder = true;
+    for (int i = m_seen.size(); i < images.size(); ++i) {
+        const Entry entry{ images.at(i)->ShotTime(), images.at(i) };
+        inOrder = inOrder && (m_entries.empty() || m_entries.back().time <= entry.time);
+        m_hasEqualTimes
+            = m_hasEqualTimes || (!m_entries.empty() && m_entries.back().time == entry.time);
+        m_entries.push_back(entry);
+        if (inOrder) {
+            m_ordered.append(entry.image);
+        }
+    }
+    m_seen = images;
+    if (!inOrder) {
+        sort();
+    }
+    return m_hasEqualTimes && m_equalTimes == EqualTimes::GiveUp ? m_seen : m_ordered;
+}
+
+void ShotOrder::sort()
+{
+    std::stable_sort(m_entries.begin(), m_entries.end(),
                      [](const Entry &a, const Entry &b) { return a.time < b.time; });
     const auto sameTime = [](const Entry &a, const Entry &b) { return a.time == b.time; };
-    if (equalTimes == EqualTimes::GiveUp
-        && std::adjacent_find(entries.cbegin(), entries.cend(), sameTime) != entries.cend()) {
-        return images;
+    m_hasEqualTimes
+        = std::adjacent_find(m_entries.cbegin(), m_entries.cend(), sameTime) != m_entries.cend();
+    m_ordered.clear();
+    m_ordered.reserve(static_cast<int>(m_entries.size()));
+    for (const Entry &entry : m_entries) {
+        m_ordered.append(entry.image);
     }
-    QList<XIImageDef *> ordered;
-    ordered.reserve(entries.size());
-    for (const Entry &entry : entries) {
-        ordered.append(entry.image);
-    }
-    return ordered;
 }
 
 } // namespace PanoHead

@@ -5,6 +5,7 @@
 #include "importers/gigapan/gridorder.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace PanoHead
 {
@@ -98,6 +99,16 @@ PreviewLayout layOutGrid(const GridView &grid, const QSize &thumbnail)
 {
     const QSize cell = cellSize(grid, thumbnail);
     return cell.isValid() ? Grid(grid, cell).laidOut() : PreviewLayout();
+}
+
+const PreviewLayout &GridLayout::of(const GridView &grid, const QSize &thumbnail)
+{
+    if (!(grid == m_grid) || thumbnail != m_thumbnail) {
+        m_layout = layOutGrid(grid, thumbnail);
+        m_grid = grid;
+        m_thumbnail = thumbnail;
+    }
+    return m_layout;
 }
 
 } // namespace PanoHead

@@ -16,6 +16,12 @@ struct GridView {
     int mode = 0;
     int bracketCount = 1;
     int ignoredCount = 0;
+
+    friend bool operator==(const GridView &a, const GridView &b)
+    {
+        return a.rows == b.rows && a.columns == b.columns && a.mode == b.mode
+            && a.bracketCount == b.bracketCount && a.ignoredCount == b.ignoredCount;
+    }
 };
 
 /** Sides of a thumbnail while no photo has been read, pixels. */
@@ -28,5 +34,18 @@ constexpr QSize kDefaultThumbnail(96, 96);
  * does not count ignored photos: wanted.
  */
 [[nodiscard]] PreviewLayout layOutGrid(const GridView &grid, const QSize &thumbnail);
+
+/** The layout of a grid, worked out again only when something about it has changed. */
+class GridLayout
+{
+public:
+    /** As `layOutGrid`. */
+    const PreviewLayout &of(const GridView &grid, const QSize &thumbnail);
+
+private:
+    GridView m_grid;
+    QSize m_thumbnail; // invalid: nothing has been laid out
+    PreviewLayout m_layout;
+};
 
 } // namespace PanoHead

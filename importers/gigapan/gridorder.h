@@ -12,7 +12,7 @@ constexpr int kColumnsFromLeft = 0; ///< each column top to bottom
 constexpr int kRowsDownward = 1; ///< each row left to right, from the top
 constexpr int kRowsUpward = 2; ///< each row left to right, from the bottom
 constexpr int kColumnsFromRight = 3; ///< each column top to bottom
-constexpr int kSerpentine = 4; ///< rows from the bottom, to and fro; has no button
+constexpr int kSerpentine = 4; ///< rows from the bottom, left to right and back; has no button
 
 [[nodiscard]] constexpr bool isGridOrder(int mode)
 {

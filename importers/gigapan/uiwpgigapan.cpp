@@ -2,10 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "importers/gigapan/uiwpgigapan.h"
 
-#include "importers/common/displaytexts.h"
-#include "importers/common/shotorder.h"
 #include "importers/gigapan/gridguess.h"
-#include "importers/gigapan/gridlayout.h"
 #include "importers/gigapan/gridorder.h"
 #include "plugin/hostapplication.h"
 #include "plugin/readingthread.h"
@@ -145,6 +142,8 @@ void UIWPGigapan::SelectImages()
         return;
     }
     images = photos;
+    m_shotOrder.forget();
+    m_preview->forgetPhotos();
     readPhotos(*m_readingThread, photos);
     ignoredCount = 0;
     bracketCount = 1;
@@ -236,7 +235,7 @@ void UIWPGigapan::Reset()
 void UIWPGigapan::UpdateUI()
 {
     const XNoEvent noEvent(m_isUpdating);
-    m_leImage->setText(photoNames(images));
+    m_photoNames.show(m_leImage, images);
     m_lbImage->setText(QStringLiteral("%1 ").arg(images.size()) + tr("images in "));
     m_sbColumn->setValue(columns);
     m_sbRow->setValue(rows);
@@ -254,9 +253,9 @@ void UIWPGigapan::UpdatePreview()
     const XNoEvent noEvent(m_isUpdating);
     refreshPreviewImages();
     const GridView grid{ m_sbRow->value(), m_sbColumn->value(), mode, bracketCount, ignoredCount };
-    m_preview->showScene({ layOutGrid(grid, thumbnailSize()), previewImages, QBrush(Qt::lightGray),
-                           CellStyle::UnscaledPhoto },
-                         m_hSlider->value());
+    m_preview->showScene(
+        { m_layout.of(grid, thumbnailSize()), previewImages, CellStyle::UnscaledPhoto },
+        m_hSlider->value());
     Q_EMIT completeChanged();
 }
 
@@ -264,7 +263,7 @@ void UIWPGigapan::refreshPreviewImages()
 {
     const QList<XIImageDef *> read = m_readingThread->XIImageDefs();
     if (read.size() != previewImages.size()) {
-        previewImages = byShotTime(read, EqualTimes::GiveUp);
+        previewImages = m_shotOrder.update(read);
     }
 }
 

@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "importers/common/shotorder.h"
 #include "importers/gigapan/gigapantospp.h"
+#include "importers/gigapan/gridlayout.h"
+#include "ui/shootview.h"
 #include "ui_uiwpgigapan.h"
 
 #include <QList>
@@ -66,4 +69,7 @@ private:
     bool m_isUpdating = false; ///< slots that widgets call meanwhile do nothing
     ReadingThread *m_readingThread;
     PanoHead::PreviewLabel *m_preview = nullptr;
+    PanoHead::GridLayout m_layout;
+    PanoHead::ShotOrder m_shotOrder{ PanoHead::EqualTimes::GiveUp };
+    PanoHead::PhotoNames m_photoNames;
 };

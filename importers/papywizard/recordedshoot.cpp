@@ -29,10 +29,8 @@ void forgetShoot(MerlinToSPP &generator, ShootState &state)
     generator.xmlLensType = 0;
 }
 
-LensFacts adoptPhotos(ShootState &state, const MerlinToSPP &generator,
-                      const QList<XIImageDef *> &images)
+LensFacts adoptPhotos(ShootState &state, const MerlinToSPP &generator, const LensFacts &photos)
 {
-    const LensFacts photos = lensFactsOf(images);
     state.imageFocal = photos.focalMm;
     state.imageLensType = photos.lensType;
     return presetLens(photos, { generator.xmlFocal, generator.xmlLensType });

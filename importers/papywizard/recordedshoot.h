@@ -4,11 +4,9 @@
 
 #include "importers/common/mismatch.h"
 
-#include <QList>
 #include <QString>
 
 class MerlinToSPP;
-class XIImageDef;
 
 namespace PanoHead
 {
@@ -28,7 +26,7 @@ void forgetShoot(MerlinToSPP &generator, ShootState &state);
 
 /** Takes focal length and lens type over from the photos and answers what to preset from both. */
 [[nodiscard]] LensFacts adoptPhotos(ShootState &state, const MerlinToSPP &generator,
-                                    const QList<XIImageDef *> &images);
+                                    const LensFacts &photos);
 
 /** Title, location and comment on a line each, for the record's tool tip. Show it as plain text
  * only. */

@@ -5,7 +5,6 @@
 #include "importers/common/angles.h"
 #include "importers/common/displaytexts.h"
 #include "importers/common/previewlayout.h"
-#include "importers/common/shotorder.h"
 #include "importers/papywizard/recordedshoot.h"
 #include "plugin/hostapplication.h"
 #include "plugin/readingthread.h"
@@ -30,10 +29,15 @@ namespace
 constexpr LayoutRules kPapywizardLayout{ 8.0 /* smallest step, degrees */, Span::Absolute,
                                          Precision::Double };
 
-ShootView shootView(const Ui::UIWPMerlinClass &form)
+ShootView shootView(const Ui::UIWPMerlinClass &form, PhotoNames &names)
 {
-    return { form.m_leConfigFile, form.m_lbPapyLog, form.m_lbThetaMinMax,
-             form.m_lbPhiMinMax,  form.m_leImage,   form.m_lbImageLog };
+    return { form.m_leConfigFile,
+             form.m_lbPapyLog,
+             form.m_lbThetaMinMax,
+             form.m_lbPhiMinMax,
+             form.m_leImage,
+             form.m_lbImageLog,
+             &names };
 }
 
 LensView lensView(const Ui::UIWPMerlinClass &form)
@@ -59,6 +63,7 @@ DetectionOptions detectionOptions(const Ui::UIWPMerlinClass &form)
 UIWPMerlin::UIWPMerlin(QWidget *parent)
     : QWizardPage(parent)
     , m_readingThread(new ReadingThread(this))
+    , m_layout(kPapywizardLayout)
 {
     setupUi(this);
     CreateWidgets();
@@ -203,6 +208,9 @@ void UIWPMerlin::usePhotos(const QStringList &photos)
 {
     m_state.images = photos;
     previewImages.clear();
+    m_lens.forget();
+    m_shotOrder.forget();
+    m_preview->forgetPhotos();
     readPhotos(*m_readingThread, photos);
 }
 
@@ -223,7 +231,8 @@ void UIWPMerlin::Reset()
 
 void UIWPMerlin::OnImageLoaded()
 {
-    const LensFacts preset = adoptPhotos(m_state, *this, m_readingThread->XIImageDefs());
+    const LensFacts preset
+        = adoptPhotos(m_state, *this, m_lens.update(m_readingThread->XIImageDefs()));
     if (preset.focalMm > 0.0) {
         setLens(lensView(*this), preset);
     }
@@ -289,7 +298,7 @@ void UIWPMerlin::redrawAll()
 void UIWPMerlin::UpdateUI()
 {
     const BlockSignal blocker(this);
-    showShoot(shootView(*this), m_state, { tr("N/A"), tr("N/A") });
+    showShoot(shootView(*this, m_photoNames), m_state, { tr("N/A"), tr("N/A") });
     showLens(lensView(*this), nbPicts, xmlFocal, m_state.imageFocal, tr("N/A"));
     const MismatchTexts texts{
         tr("Bracketing used in XML, should be multiple of that number"),
@@ -309,9 +318,7 @@ void UIWPMerlin::UpdatePreview()
     if (read.size() == previewImages.size()) {
         return;
     }
-    previewImages = byShotTime(read, EqualTimes::KeepReadingOrder);
-    m_preview->showScene({ layOutShots(shots, m_state.extents(), kPapywizardLayout), previewImages,
-                           palette().brush(QPalette::Current, QPalette::Window),
-                           CellStyle::FittedWithCaption },
+    previewImages = m_shotOrder.update(read);
+    m_preview->showScene({ m_layout.of(shots, m_state.extents()), previewImages },
                          m_hSlider->value());
 }

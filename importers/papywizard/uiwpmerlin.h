@@ -2,8 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "importers/common/previewlayout.h"
 #include "importers/common/shootstate.h"
+#include "importers/common/shotorder.h"
 #include "importers/papywizard/merlintospp.h"
+#include "ui/shootview.h"
 #include "ui_uiwpmerlin.h"
 
 #include <QStringList>
@@ -66,4 +69,8 @@ private:
     QList<XIImageDef *> previewImages; ///< what the preview shows, by capture time; not owned
     ReadingThread *m_readingThread;
     PanoHead::PreviewLabel *m_preview = nullptr;
+    PanoHead::ShotLayout m_layout;
+    PanoHead::ShotOrder m_shotOrder{ PanoHead::EqualTimes::KeepReadingOrder };
+    PanoHead::LensTally m_lens;
+    PanoHead::PhotoNames m_photoNames;
 };

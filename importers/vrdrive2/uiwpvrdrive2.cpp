@@ -32,10 +32,15 @@ constexpr LayoutRules kVRDrive2Layout{ 8.0 /* smallest step, degrees */, Span::N
 constexpr qint32 kTonemapped = 2;
 constexpr qint32 kHdrRadiance = 3;
 
-ShootView shootView(const Ui::UIWPVRDrive2Class &form)
+ShootView shootView(const Ui::UIWPVRDrive2Class &form, PhotoNames &names)
 {
-    return { form.m_leConfigFile, form.m_lbPapyLog, form.m_lbThetaMinMax,
-             form.m_lbPhiMinMax,  form.m_leImage,   form.m_lbImageLog };
+    return { form.m_leConfigFile,
+             form.m_lbPapyLog,
+             form.m_lbThetaMinMax,
+             form.m_lbPhiMinMax,
+             form.m_leImage,
+             form.m_lbImageLog,
+             &names };
 }
 
 LensView lensView(const Ui::UIWPVRDrive2Class &form)
@@ -61,6 +66,7 @@ DetectionOptions detectionOptions(const Ui::UIWPVRDrive2Class &form)
 UIWPVRDrive2::UIWPVRDrive2(QWidget *parent)
     : QWizardPage(parent)
     , m_readingThread(nullptr)
+    , m_layout(kVRDrive2Layout)
 {
     setupUi(this);
     setLogo(this, QStringLiteral(":/7A21C94E-5B20-2020-2020-B662C695C918/Resources/VRDrive2.png"));
@@ -204,6 +210,8 @@ void UIWPVRDrive2::SelectImages()
 void UIWPVRDrive2::usePhotos(const QStringList &photos)
 {
     m_state.images = photos;
+    m_lens.forget();
+    m_preview->forgetPhotos();
     readPhotos(*m_readingThread, photos);
 }
 
@@ -225,7 +233,8 @@ void UIWPVRDrive2::Reset()
 
 void UIWPVRDrive2::OnImageLoaded()
 {
-    const LensFacts preset = adoptPhotos(m_state, *this, m_readingThread->XIImageDefs());
+    const LensFacts preset
+        = adoptPhotos(m_state, *this, m_lens.update(m_readingThread->XIImageDefs()));
     if (preset.focalMm > 0.0) {
         setLens(lensView(*this), preset);
     }
@@ -287,7 +296,7 @@ void UIWPVRDrive2::UpdateUI()
 {
     const BlockSignal blocker(this);
     // The ranges are not translated on this page: wanted.
-    showShoot(shootView(*this), m_state, { tr("N/A"), QStringLiteral("N/A") });
+    showShoot(shootView(*this, m_photoNames), m_state, { tr("N/A"), QStringLiteral("N/A") });
     showLens(lensView(*this), nbPicts, xmlFocal, m_state.imageFocal, tr("N/A"));
     const QString warning
         = textOf(mismatchOf(*this, m_state),
@@ -304,8 +313,6 @@ void UIWPVRDrive2::UpdateUI()
 
 void UIWPVRDrive2::UpdatePreview()
 {
-    m_preview->showScene(
-        { layOutShots(shots, m_state.extents(), kVRDrive2Layout), m_readingThread->XIImageDefs(),
-          palette().brush(QPalette::Current, QPalette::Window), CellStyle::FittedWithCaption },
-        m_hSlider->value());
+    m_preview->showScene({ m_layout.of(shots, m_state.extents()), m_readingThread->XIImageDefs() },
+                         m_hSlider->value());
 }

@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "importers/common/previewlayout.h"
 #include "importers/common/shootstate.h"
 #include "importers/vrdrive2/vrdrive2tospp.h"
+#include "ui/shootview.h"
 #include "ui_uiwpvrdrive2.h"
 
 #include <QStringList>
@@ -63,4 +65,7 @@ private:
     PanoHead::ShootState m_state;
     ReadingThread *m_readingThread;
     PanoHead::PreviewLabel *m_preview = nullptr;
+    PanoHead::ShotLayout m_layout;
+    PanoHead::LensTally m_lens;
+    PanoHead::PhotoNames m_photoNames;
 };
