@@ -35,8 +35,8 @@ void requireUnicodeFileNames()
 /** Qt's remarks about its own platform are no news for whoever runs a command. */
 bool isPlatformNote(const QByteArray &text)
 {
-    return text.contains("propagateSizeHints") || text.startsWith("No such plugin")
-        || text.contains("XDG_RUNTIME_DIR") || text.contains("This plugin does not support");
+    return text.contains("propagateSizeHints") || text.contains("XDG_RUNTIME_DIR")
+        || text.contains("This plugin does not support");
 }
 
 void messageHandler(QtMsgType type, const QMessageLogContext &, const QString &message)
@@ -66,6 +66,7 @@ QStringList Environment::decodeArguments(int argc, char **argv)
 
 Environment::Environment(Use use)
 {
+    qInstallMessageHandler(messageHandler);
     if (use == Use::Window) {
         return;
     }
@@ -83,7 +84,6 @@ Environment::Environment(Use use)
             qputenv("XDG_RUNTIME_DIR", folder);
         }
     }
-    qInstallMessageHandler(messageHandler);
 }
 
 bool Environment::hasDisplay()

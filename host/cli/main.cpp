@@ -70,7 +70,9 @@ int main(int argc, char **argv)
     if (window) {
         prepareWindow();
     }
-    PanoHostApplication app(argc, argv);
+    // Qt takes some options for its own, --plugin among them: it gets the program's name alone.
+    int qtArgumentCount = 1;
+    PanoHostApplication app(qtArgumentCount, argv);
     QCoreApplication::setApplicationVersion(QStringLiteral(PANOHOST_VERSION));
     Interrupt interrupt;
     Session session{ app, console, interrupt, {} };

@@ -23,6 +23,8 @@ namespace
 constexpr int kChoiceId = 0;
 constexpr int kFirstPluginId = 1;
 constexpr int kResultId = 1000;
+// Large enough for the pages' previews, small enough for a netbook.
+constexpr QSize kFirstSize(800, 660);
 
 QString settingsGroup()
 {
@@ -77,6 +79,7 @@ ImportWizard::ImportWizard(PanoHostApplication &app, const PluginLibrary &librar
             m_choicePage->choose(i);
         }
     }
+    resize(kFirstSize);
     restoreGeometry(app.ReadSetting(settingsGroup(), geometryKey(), QByteArray()).toByteArray());
     connect(&app, &PanoHostApplication::delivered, this, &ImportWizard::takeDelivery);
     connect(this, &QWizard::currentIdChanged, this, &ImportWizard::openLinksOfSubtitle);

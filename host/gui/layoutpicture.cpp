@@ -4,6 +4,7 @@
 
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 
 namespace PanoHost
@@ -72,15 +73,25 @@ void LayoutPicture::paintEvent(QPaintEvent *event)
     Q_UNUSED(event)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillRect(rect(), palette().base());
+    painter.fillRect(map(), palette().base());
     paintGrid(painter);
     paintLinks(painter);
     paintPlaces(painter);
 }
 
+QRectF LayoutPicture::map() const
+{
+    constexpr double kMargin = 14.0;
+    const double mapWidth = std::min(width() - 2.0 * kMargin, 2.0 * (height() - 2.0 * kMargin));
+    const QSizeF size(mapWidth, mapWidth / 2.0);
+    return { QPointF((width() - size.width()) / 2.0, (height() - size.height()) / 2.0), size };
+}
+
 QPointF LayoutPicture::onScreen(const QPointF &place) const
 {
-    return { (place.x() / kYawSpan + 0.5) * width(), (0.5 - place.y() / kPitchSpan) * height() };
+    const QRectF area = map();
+    return { area.center().x() + place.x() / kYawSpan * area.width(),
+             area.center().y() - place.y() / kPitchSpan * area.height() };
 }
 
 void LayoutPicture::paintGrid(QPainter &painter) const
@@ -98,6 +109,7 @@ void LayoutPicture::paintGrid(QPainter &painter) const
 void LayoutPicture::paintLinks(QPainter &painter) const
 {
     painter.setPen(palette().color(QPalette::Mid));
+    painter.setClipRect(map());
     const int count = std::min(m_scene.links.size(), kMostLinks);
     for (int i = 0; i < count; ++i) {
         const QPointF from = m_scene.places.at(m_scene.links.at(i).first);
@@ -106,6 +118,7 @@ void LayoutPicture::paintLinks(QPainter &painter) const
         to.setX(from.x() + wrappedYaw(to.x() - from.x()));
         painter.drawLine(onScreen(from), onScreen(to));
     }
+    painter.setClipping(false);
 }
 
 void LayoutPicture::paintPlaces(QPainter &painter) const

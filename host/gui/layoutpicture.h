@@ -35,6 +35,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    /** Where the map lies: twice as wide as high, with room for the numbers at its edges. */
+    [[nodiscard]] QRectF map() const;
     [[nodiscard]] QPointF onScreen(const QPointF &place) const;
     void paintGrid(QPainter &painter) const;
     void paintLinks(QPainter &painter) const;

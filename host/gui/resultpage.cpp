@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
 #include <QStandardPaths>
@@ -116,11 +117,26 @@ void ResultPage::initializePage()
 {
     const auto *import = qobject_cast<const ImportWizard *>(wizard());
     m_projectPath.clear();
+    m_somethingSaved = false;
     m_saved->clear();
     m_openHugin->setVisible(!QStandardPaths::findExecutable(QStringLiteral("hugin")).isEmpty());
     m_openHugin->setEnabled(false);
     showPanorama(joinPanorama(import->description(), import->source(),
                               [this](const QString &path) { return m_app.photoInfo(path); }));
+}
+
+bool ResultPage::validatePage()
+{
+    if (!m_panorama || m_somethingSaved) {
+        return true;
+    }
+    const QMessageBox::StandardButton answer = QMessageBox::question(
+        this, tr("Nothing saved"), tr("The panorama has not been saved. Finish all the same?"),
+        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
+    if (answer == QMessageBox::Save) {
+        askForProject();
+    }
+    return answer == QMessageBox::Discard || m_somethingSaved;
 }
 
 void ResultPage::showPanorama(const Result<Panorama> &panorama)
@@ -175,6 +191,7 @@ bool ResultPage::saveJson(const QString &path)
 
 void ResultPage::showSaved(const Result<QString> &saved)
 {
+    m_somethingSaved = m_somethingSaved || saved.ok();
     m_saved->setText(saved ? tr("Saved %1").arg(saved.value())
                            : tr("Not saved: %1").arg(saved.error().text()));
 }

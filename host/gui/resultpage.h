@@ -26,6 +26,8 @@ public:
 
     /** Takes over the wizard's description. */
     void initializePage() override;
+    /** Finish: asks when nothing has been saved. */
+    bool validatePage() override;
 
     /** What is shown; nothing when the delivery could not be used. */
     [[nodiscard]] const std::optional<Panorama> &panorama() const { return m_panorama; }
@@ -47,6 +49,7 @@ private:
     PanoHostApplication &m_app;
     std::optional<Panorama> m_panorama;
     QString m_projectPath;
+    bool m_somethingSaved = false;
     QLabel *m_summary = nullptr;
     QLabel *m_warnings = nullptr;
     QLabel *m_warningIcon = nullptr;

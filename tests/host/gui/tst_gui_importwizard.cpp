@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/cli/dialogcatcher.h"
 #include "host/gui/choicepage.h"
 #include "host/gui/importwizard.h"
 #include "host/gui/layoutpicture.h"
@@ -38,6 +39,8 @@ private Q_SLOTS:
     void resultIsSummedUp();
     void resultIsSaved();
     void failedSavingIsSaid();
+    void finishWithoutSavingAsks();
+    void finishAfterSavingDoesNotAsk();
     void droppedFilesAreFilledIn();
     void xmlGoesToAHeadThatReadsIt();
     void unreadablePhotoKeepsNextDisabled();
@@ -249,6 +252,29 @@ void TestImportWizard::failedSavingIsSaid()
                 ->findChild<QLabel *>(QStringLiteral("m_saved"))
                 ->text()
                 .startsWith(QLatin1String("Not saved: ")));
+}
+
+void TestImportWizard::finishWithoutSavingAsks()
+{
+    fillPapywizard(3);
+    next()->click();
+    {
+        DialogCatcher cancel;
+        m_wizard->button(QWizard::FinishButton)->click();
+        QCOMPARE(cancel.takeMessages().size(), 1);
+    }
+    QVERIFY(m_wizard->isVisible());
+}
+
+void TestImportWizard::finishAfterSavingDoesNotAsk()
+{
+    fillPapywizard(3);
+    next()->click();
+    QVERIFY(result()->saveJson(m_folder->filePath(QStringLiteral("a.json"))));
+    DialogCatcher dialogs;
+    m_wizard->button(QWizard::FinishButton)->click();
+    QCOMPARE(dialogs.takeMessages(), QStringList());
+    QVERIFY(!m_wizard->isVisible());
 }
 
 void TestImportWizard::droppedFilesAreFilledIn()
