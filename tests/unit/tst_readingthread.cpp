@@ -271,7 +271,7 @@ void TestReadingThread::receiversOnTheGuiThreadSeeTheImages()
     QObject page;
     QList<int> seen;
     connect(&thread, &ReadingThread::Loaded, &page, [&] {
-        QCOMPARE(QThread::currentThread(), qApp->thread());
+        QCOMPARE(QThread::currentThread(), QCoreApplication::instance()->thread());
         seen.append(thread.XIImageDefs().size());
     });
     thread.Start(names);
