@@ -1,0 +1,132 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: MIT
+#include "tests/support/formcheck.h"
+
+#include <QAbstractItemModel>
+#include <QCompleter>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QWizardPage>
+#include <QtTest>
+
+namespace
+{
+
+/** Not a part that Qt gives to its own widgets, like the line edit of a spin box. */
+bool isOfTheForm(const QWidget *widget)
+{
+    return !widget->objectName().isEmpty() && !widget->objectName().startsWith(QLatin1String("qt_"))
+        && !qobject_cast<const QTabBar *>(widget->parentWidget());
+}
+
+QTabWidget *tabsOf(const QWizardPage &page)
+{
+    return page.findChild<QTabWidget *>();
+}
+
+QString shownText(const QWizardPage &page, QWidget *widget)
+{
+    const int tab = tabsOf(page) ? tabsOf(page)->indexOf(widget) : -1;
+    if (tab >= 0) {
+        return tabsOf(page)->tabText(tab);
+    }
+    const QVariant title = widget->property("title");
+    return title.isValid() ? title.toString() : widget->property("text").toString();
+}
+
+} // namespace
+
+void addFormRows(const QVector<FormRow> &rows)
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("kind");
+    QTest::addColumn<QString>("text");
+    for (const FormRow &row : rows) {
+        QTest::newRow(row.name) << QString::fromLatin1(row.name) << QByteArray(row.kind)
+                                << QString::fromUtf8(row.text);
+    }
+}
+
+void checkFormRow(const QWizardPage &page)
+{
+    QFETCH(QString, name);
+    QFETCH(QByteArray, kind);
+    QFETCH(QString, text);
+    const QList<QWidget *> found = page.findChildren<QWidget *>(name);
+    QCOMPARE(found.size(), 1);
+    QCOMPARE(QByteArray(found.first()->metaObject()->className()), kind);
+    QCOMPARE(shownText(page, found.first()), text);
+}
+
+QStringList formNames(const QWizardPage &page)
+{
+    QStringList names;
+    const QList<QWidget *> widgets = page.findChildren<QWidget *>();
+    for (const QWidget *widget : widgets) {
+        if (isOfTheForm(widget)) {
+            names.append(widget->objectName());
+        }
+    }
+    names.sort();
+    return names;
+}
+
+QStringList rowNames(const QVector<FormRow> &rows)
+{
+    QStringList names;
+    for (const FormRow &row : rows) {
+        names.append(QString::fromLatin1(row.name));
+    }
+    names.sort();
+    return names;
+}
+
+QStringList tabOrder(const QWizardPage &page)
+{
+    QStringList names;
+    for (const QWidget *widget = page.nextInFocusChain(); widget != &page;
+         widget = widget->nextInFocusChain()) {
+        if (isOfTheForm(widget) && (widget->focusPolicy() & Qt::TabFocus) != 0) {
+            names.append(widget->objectName());
+        }
+    }
+    return names;
+}
+
+QStringList buddies(const QWizardPage &page)
+{
+    QStringList pairs;
+    const QList<QLabel *> labels = page.findChildren<QLabel *>();
+    for (const QLabel *label : labels) {
+        if (label->buddy()) {
+            pairs.append(label->objectName() + QLatin1String(" > ") + label->buddy()->objectName());
+        }
+    }
+    pairs.sort();
+    return pairs;
+}
+
+QStringList tabTitles(const QWizardPage &page)
+{
+    QStringList titles;
+    const QTabWidget *tabs = tabsOf(page);
+    for (int i = 0; i < tabs->count(); ++i) {
+        titles.append(tabs->tabText(i));
+    }
+    return titles;
+}
+
+QStringList proposals(const QLineEdit &edit, const QString &folder)
+{
+    QCompleter *completer = edit.completer();
+    completer->setCompletionPrefix(folder + QLatin1Char('/'));
+    QStringList names;
+    const QAbstractItemModel *model = completer->completionModel();
+    for (int i = 0; i < model->rowCount(); ++i) {
+        names.append(model->index(i, 0).data().toString());
+    }
+    names.sort();
+    return names;
+}
