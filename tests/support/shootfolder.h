@@ -55,3 +55,4 @@ struct RecordXml {
 };
 
 Q_DECLARE_METATYPE(RecordXml)
+Q_DECLARE_METATYPE(QVector<RecordXml::Shot>)
