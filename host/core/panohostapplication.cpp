@@ -178,6 +178,7 @@ void PanoHostApplication::clearUnreadablePhotos()
 {
     const QMutexLocker locker(&m_photoMutex);
     m_unreadable.clear();
+    m_unreadablePaths.clear();
 }
 
 void PanoHostApplication::releaseLibraryHold()
@@ -207,11 +208,10 @@ std::shared_ptr<const PhotoData> PanoHostApplication::cached(const QString &path
 void PanoHostApplication::rememberUnreadable(const QString &path, const QString &why)
 {
     const QMutexLocker locker(&m_photoMutex);
-    for (const UnreadablePhoto &photo : qAsConst(m_unreadable)) {
-        if (photo.path == path) {
-            return;
-        }
+    if (m_unreadablePaths.contains(path)) {
+        return;
     }
+    m_unreadablePaths.insert(path);
     m_unreadable.append({ path, why });
 }
 

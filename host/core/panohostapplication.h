@@ -14,6 +14,7 @@
 #include <QHash>
 #include <QLocale>
 #include <QMutex>
+#include <QSet>
 #include <QSettings>
 #include <QTranslator>
 
@@ -135,6 +136,7 @@ private:
     QHash<QString, QString> m_aliases;
     QHash<QString, CachedPhoto> m_photos;
     QVector<UnreadablePhoto> m_unreadable;
+    QSet<QString> m_unreadablePaths; ///< those of `m_unreadable`
     std::vector<std::unique_ptr<HostImage>> m_images;
 };
 

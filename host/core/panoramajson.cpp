@@ -366,8 +366,10 @@ AuthorizedLink readLink(const ObjectReader &object)
     link.linkType = object.integer("type");
     const QJsonArray positions = object.array("positions");
     for (const QJsonValue &position : positions) {
-        object.require(position.isDouble(), "positions", "a list of whole numbers");
-        link.indices.append(position.toInt());
+        constexpr qint32 kNone = -2147483647 - 1;
+        const qint32 index = position.toInt(kNone);
+        object.require(index != kNone, "positions", "a list of whole numbers");
+        link.indices.append(index);
     }
     return link;
 }

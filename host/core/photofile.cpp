@@ -38,11 +38,6 @@ QMutex &exivMutex()
     return mutex;
 }
 
-struct Metadata {
-    PhotoInfo info;
-    QByteArray preview; ///< an encoded picture; empty when none is embedded or none was wanted
-};
-
 /** Opens a file for exiv2, which takes names like "-" or "http:" as sources of its own kind. */
 Exiv2::Image::AutoPtr openImage(const QString &path)
 {
@@ -207,22 +202,40 @@ int orientationOf(const Exiv2::ExifData &exif)
     return number >= 1.0 && number <= 8.0 ? int(number) : 1;
 }
 
+struct Metadata {
+    PhotoInfo info;
+    bool raw = false; ///< the photo itself is for RAW converters; decoders find a preview at best
+};
+
+/** RAW files have a type of their own, or are TIFF files that begin with a smaller picture. */
+bool isRaw(const Exiv2::Image &image)
+{
+    const QByteArray type = QByteArray::fromStdString(image.mimeType());
+    if (type == "image/tiff") {
+        const double first = positiveNumber(image.exifData(), "Exif.Image.ImageWidth");
+        return first > 0.0 && first < image.pixelWidth();
+    }
+    return type.startsWith("image/x-") && type != "image/x-ms-bmp" && type != "image/x-exv";
+}
+
 /** What exiv2 knows about the file, when it knows the format. */
-std::optional<PhotoInfo> readMetadata(const QString &path)
+std::optional<Metadata> readMetadata(const QString &path)
 {
     const QMutexLocker locker(&exivMutex());
     try {
         const auto image = openImage(path);
         image->readMetadata();
         const Exiv2::ExifData &exif = image->exifData();
-        PhotoInfo info;
+        Metadata metadata;
+        metadata.raw = isRaw(*image);
+        PhotoInfo &info = metadata.info;
         info.storedSize = QSize(image->pixelWidth(), image->pixelHeight());
         info.orientation = orientationOf(exif);
         info.focal35mm = focal35mm(exif, info.storedSize);
         info.lens = lensOf(exif, info.focal35mm);
         info.exposureValue = exposureOf(exif);
         readTime(exif, info);
-        return info;
+        return metadata;
     } catch (const std::exception &) {
         return {};
     }
@@ -389,15 +402,13 @@ struct Header {
 
 Header readHeader(const QString &path, const QImageReader &reader)
 {
-    const QSize decoded = isPhotoFormat(reader.format()) ? reader.size() : QSize();
-    const std::optional<PhotoInfo> metadata = readMetadata(path);
+    const std::optional<Metadata> metadata = readMetadata(path);
     Header header;
-    header.info = metadata.value_or(PhotoInfo());
+    header.info = metadata ? metadata->info : PhotoInfo();
     header.info.path = path;
-    // RAW files are TIFF files whose first picture is a small preview.
-    const QSize known = header.info.storedSize;
-    const bool preview = reader.format().startsWith("tif") && known.width() > decoded.width();
-    header.pictureIsPhoto = !decoded.isEmpty() && !preview;
+    const bool raw = metadata && metadata->raw;
+    const QSize decoded = !raw && isPhotoFormat(reader.format()) ? reader.size() : QSize();
+    header.pictureIsPhoto = !decoded.isEmpty();
     if (header.pictureIsPhoto) {
         header.info.storedSize = decoded;
     }

@@ -80,8 +80,11 @@ Result<QByteArray> readRegularFile(const QString &path, qint64 maxBytes)
 Result<QString> writeFileAtomically(const QString &path, const QByteArray &content)
 {
     const QFileInfo info(path);
-    if (info.isDir()) {
-        return notWritten(path, QStringLiteral("is a folder"),
+    if (info.exists() && !info.isFile()) {
+        // Replacing a pipe or a device by a file would break whoever uses it.
+        return notWritten(path,
+                          info.isDir() ? QStringLiteral("is a folder")
+                                       : QStringLiteral("is not a regular file"),
                           QStringLiteral("give the name of a file"));
     }
     const QString folder = info.absolutePath();

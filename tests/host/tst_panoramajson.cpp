@@ -240,6 +240,7 @@ private Q_SLOTS:
     void wrongKindIsRefusedByKey();
     void brokenTextIsRefusedByLine_data();
     void brokenTextIsRefusedByLine();
+    void damagedTextIsReadOrRefused();
     void fileRoundTrip();
     void fileErrorsNameTheFile();
 };
@@ -461,6 +462,9 @@ void PanoramaJsonTest::wrongKindIsRefusedByKey_data()
     QTest::newRow("link") << QByteArray(
         "{\"schema\": 1, \"links\": [{\"positions\": [0, 1]}, {\"positions\": [\"x\"]}]}")
                           << "links[1].positions: must be a list of whole numbers";
+    QTest::newRow("half a position")
+        << QByteArray("{\"schema\": 1, \"links\": [{\"positions\": [0.5, 1]}]}")
+        << "links[0].positions: must be a list of whole numbers";
     QTest::newRow("flag") << QByteArray("{\"schema\": 1, \"positionsKnown\": 1}")
                           << "positionsKnown: must be true or false";
 }
@@ -493,6 +497,34 @@ void PanoramaJsonTest::brokenTextIsRefusedByLine()
     const auto read = panoramaFromJson(json, kFolder);
     QVERIFY(!read.ok());
     QVERIFY2(read.error().text().startsWith(start), qPrintable(read.error().text()));
+}
+
+void PanoramaJsonTest::damagedTextIsReadOrRefused()
+{
+    const QByteArray whole = panoramaToJson(sample(), kFolder);
+    std::mt19937 random(7);
+    int readable = 0;
+    for (int i = 0; i < 3000; ++i) {
+        QByteArray text = whole;
+        const int changes = 1 + int(random() % 3);
+        for (int k = 0; k < changes; ++k) {
+            static const QByteArray kLikely = "0123456789-.eE\"{}[],:ntf \n\\";
+            text[int(random() % uint(text.size()))] = kLikely[int(random() % uint(kLikely.size()))];
+        }
+        const auto read = panoramaFromJson(text, kFolder);
+        if (!read) {
+            QVERIFY(!read.error().text().isEmpty());
+            continue;
+        }
+        // What was read can be written, and that comes back as it is.
+        ++readable;
+        const QByteArray written = panoramaToJson(read.value(), kFolder);
+        const auto again = panoramaFromJson(written, kFolder);
+        QVERIFY2(again.ok(), written.constData());
+        QCOMPARE(panoramaToJson(again.value(), kFolder), written);
+    }
+    QVERIFY(readable > 100);
+    QVERIFY(readable < 2900);
 }
 
 void PanoramaJsonTest::fileRoundTrip()

@@ -13,6 +13,7 @@
 
 #include <cmath>
 #include <future>
+#include <random>
 #include <vector>
 
 #include <sys/stat.h>
@@ -147,6 +148,7 @@ private Q_SLOTS:
     void pipesAndDevicesAreNeverRead();
     void hugeClaimsTakeNoMemory_data();
     void hugeClaimsTakeNoMemory();
+    void damagedPhotosAreReadOrRefused();
     void manyThreadsReadAtOnce();
 
 private:
@@ -576,6 +578,43 @@ void PhotoFileTest::hugeClaimsTakeNoMemory()
         QVERIFY(reading.value().thumbnail.width() <= kThumbnailSide);
         QVERIFY(reading.value().thumbnail.height() <= kThumbnailSide);
     }
+}
+
+void PhotoFileTest::damagedPhotosAreReadOrRefused()
+{
+    Exif exif = TestPhotos::ordinaryExif();
+    exif["Exif.Image.Orientation"] = "6";
+    QFile file(TestPhotos::writeJpeg(at(QStringLiteral("whole.jpg")),
+                                     TestPhotos::quarters({ 60, 40 }), exif));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray jpeg = file.readAll();
+    const QByteArray raw = TestPhotos::rawFile({ 6000, 4000 }, 6, jpeg);
+    std::mt19937 random(11);
+    int readable = 0;
+    constexpr int kRounds = 400;
+    for (int i = 0; i < kRounds; ++i) {
+        QByteArray bytes = i % 2 == 0 ? jpeg : raw;
+        // The headers lie in front: damage goes there.
+        const uint front = std::min(uint(bytes.size()), 800U);
+        for (int k = 0; k < 4; ++k) {
+            bytes[int(random() % front)] = static_cast<char>(random());
+        }
+        const auto reading
+            = readPhoto(TestPhotos::writeFile(at(QStringLiteral("damaged.jpg")), bytes));
+        if (reading.ok()) {
+            ++readable;
+            const PhotoInfo &info = reading.value().info;
+            QVERIFY(!info.storedSize.isEmpty());
+            QVERIFY(info.orientation >= 1 && info.orientation <= 8);
+            QVERIFY(std::isfinite(info.focal35mm) && info.focal35mm >= 0.0);
+            QVERIFY(!info.exposureValue || std::isfinite(*info.exposureValue));
+            QVERIFY(!reading.value().thumbnail.isNull());
+            QVERIFY(reading.value().thumbnail.width() <= kThumbnailSide);
+            QVERIFY(reading.value().thumbnail.height() <= kThumbnailSide);
+        }
+    }
+    QVERIFY(readable > kRounds / 10);
+    QVERIFY(readable < kRounds);
 }
 
 void PhotoFileTest::manyThreadsReadAtOnce()

@@ -233,6 +233,12 @@ void PtoToolsTest::oddNamesAreFound_data()
     QTest::newRow("umlaut") << QString::fromUtf8("Höhe 全景.jpg");
     QTest::newRow("apostrophe") << "it's $(id) %1 #x &.jpg";
     QTest::newRow("leading hyphen") << "-x.jpg";
+    QTest::newRow("backslash") << "a\\b.jpg";
+    QTest::newRow("blanks around") << " x .jpg ";
+    QTest::newRow("tilde") << "~root.jpg";
+    QTest::newRow("long") << QString(240, QLatin1Char('x')) + QStringLiteral(".jpg");
+    QTest::newRow("reversed writing")
+        << QStringLiteral("a") + QChar(0x202e) + QStringLiteral("gpj.jpg");
     QTest::newRow("in a folder") << "photos of May/a.jpg";
 }
 

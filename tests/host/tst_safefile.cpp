@@ -108,6 +108,9 @@ void SafeFileTest::failedWriteLeavesTheOldFileAndNoOther_data()
         << at(QStringLiteral("nowhere/x.pto"))
         << QStringLiteral("the folder %1 does not exist").arg(at(QStringLiteral("nowhere")));
     QTest::newRow("a folder") << m_folder.path() << "is a folder";
+    const QString pipe = at(QStringLiteral("output"));
+    QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    QTest::newRow("a pipe") << pipe << "is not a regular file";
     write(QStringLiteral("file"), "x");
     QTest::newRow("below a file")
         << at(QStringLiteral("file/x.pto"))
