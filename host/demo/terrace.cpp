@@ -59,7 +59,7 @@ constexpr std::array<Label, 8> kLabels{ {
 float labelShare(const Label &label, float along, float up, float soft)
 {
     const bool pair = label.letters[1] != ' ';
-    const float height = pair ? 0.20F : 0.33F;
+    const float height = pair ? 0.18F : 0.30F;
     const float thickness = pair ? 0.14F : 0.125F; // of the letter's height, each side of a stroke
     float nearest = 9.0F;
     const float width = letterWidth(label.letters[0]);
@@ -204,7 +204,7 @@ Rgb Terrace::wall(const Vec3 &direction) const
         if (std::fabs(right) > 0.5F) {
             continue;
         }
-        const float plaque = std::hypot(std::max(0.0F, std::fabs(right) - 0.17F),
+        const float plaque = std::hypot(std::max(0.0F, std::fabs(right) - 0.18F),
                                         std::max(0.0F, std::fabs(up + 0.755F) - 0.13F))
             - 0.085F;
         stone = mix(stone, (1.0F + 0.25F * grain) * rgbFromHex(0xf5efe0), inside(plaque, soft));
@@ -238,6 +238,15 @@ Rgb Terrace::paving(float x, float y, const Vec3 &direction) const
     return mix(tile, rgbFromHex(0x5d4f3d), 0.8F * inside(joint, soft * distance));
 }
 
+/** Terrazzo: darker and lighter chips, which give the plain inlays something to be matched by. */
+Rgb Terrace::withChips(const Rgb &stone, float strength, const Vec3 &direction) const
+{
+    const float dark = smoothStep(0.24F, 0.40F, noise(24.0 * direction, m_seed + 240));
+    const float light = smoothStep(0.26F, 0.42F, noise(26.0 * direction, m_seed + 241));
+    const Rgb chipped = mix(stone, 0.55F * stone, strength * dark);
+    return mix(chipped, 1.55F * stone + 0.03F * Rgb{ 1.0F, 1.0F, 1.0F }, strength * light);
+}
+
 Rgb Terrace::floor(const Vec3 &direction) const
 {
     const auto x = static_cast<float>(direction.x / -direction.z);
@@ -247,6 +256,8 @@ Rgb Terrace::floor(const Vec3 &direction) const
     if (radius < kRoseRadius + 0.1F) {
         stone = withRose(stone, x, y, softness(std::sqrt(1.0F + radius * radius)));
     }
+    const float inlaid = smoothStep(kRoseRadius + 0.1F, kRoseRadius - 0.1F, radius);
+    stone = withChips(stone, 0.35F + 0.45F * inlaid, direction);
     const float grain = 1.0F + 0.30F * noise(34.0 * direction, m_seed + 230);
     const float border = inside(std::fabs(radius - 2.72F) - 0.07F, 0.03F);
     stone = mix(stone, grain * rgbFromHex(0x7b5a44), 0.8F * border);

@@ -29,6 +29,7 @@ private:
     [[nodiscard]] Rgb wall(const Vec3 &direction) const;
     [[nodiscard]] Rgb coping(const Vec3 &direction) const;
     [[nodiscard]] Rgb floor(const Vec3 &direction) const;
+    [[nodiscard]] Rgb withChips(const Rgb &stone, float strength, const Vec3 &direction) const;
     [[nodiscard]] Rgb paving(float x, float y, const Vec3 &direction) const;
 
     quint32 m_seed;
