@@ -19,13 +19,13 @@ namespace
 
 CommandLine checkLine()
 {
-    return CommandLine(
-        { "panohost check papywizard RECORD.xml PHOTO...",
+    return importingLine(
+        { "panohost check HEAD [RECORD] PHOTO...",
           "Says what record and photos know: counts, focal length, lens, order, pauses.\n"
           "Writes nothing. Exit status 3 when 'import' would refuse them.",
           "# 33 photos, 36 shots: where did the shoot stop?\n"
           "panohost check papywizard shoot.xml IMG_*.jpg" },
-        importOptions());
+        {});
 }
 
 void printRow(const char *name, const QString &text)

@@ -29,8 +29,7 @@ QStringList namesOf(const OptionRow &row)
 
 QStringList choicesOf(const OptionRow &row)
 {
-    return row.choices == nullptr ? QStringList()
-                                  : QString::fromLatin1(row.choices).split(QLatin1Char('|'));
+    return row.closed ? QString::fromLatin1(row.value).split(QLatin1Char('|')) : QStringList();
 }
 
 /** \p text cut at spaces into lines of at most \p width letters. */
@@ -100,15 +99,15 @@ void printOut(const QString &text)
 const QVector<OptionRow> &CommandLine::commonOptions()
 {
     static const QVector<OptionRow> rows{
-        { "--plugin", "FILE|DIR", "the plug-in library, or the folder to look in", nullptr },
-        { "--settings", "FILE", "keep settings in this file", nullptr },
-        { "--lang", "CODE", "language of the plug-in's texts, e.g. fr", nullptr },
-        { "-q|--quiet", nullptr, "errors and warnings only", nullptr },
-        { "-v|--verbose", nullptr, "say more about each step", nullptr },
-        { "--progress", "HOW", "auto, plain or none", "auto|plain|none" },
-        { "--color", "WHEN", "auto, always or never", "auto|always|never" },
-        { "--version", nullptr, "print the version and stop", nullptr },
-        { "-h|--help", nullptr, "print this help and stop", nullptr },
+        { "--plugin", "FILE|DIR", "the plug-in library, or the folder to look in" },
+        { "--settings", "FILE", "keep settings in this file" },
+        { "--lang", "CODE", "language of the plug-in's texts, e.g. fr" },
+        { "-q|--quiet", nullptr, "errors and warnings only" },
+        { "-v|--verbose", nullptr, "say more about each step" },
+        { "--progress", "auto|plain|none", "a changing line, a line per step, or nothing", true },
+        { "--color", "auto|always|never", "colour in error and warning lines", true },
+        { "--version", nullptr, "print the version and stop" },
+        { "-h|--help", nullptr, "print this help and stop" },
     };
     return rows;
 }

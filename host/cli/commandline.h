@@ -15,7 +15,7 @@ struct OptionRow {
     const char *names; ///< "-o|--output": short and long names, the long one last
     const char *value; ///< what stands for the value in the help; null for a switch
     const char *help; ///< one sentence, no full stop
-    const char *choices; ///< the words allowed as value, "a|b"; null when anything goes
+    bool closed = false; ///< the value is one of the words in `value`, "a|b|c", and nothing else
 };
 
 /** What `--help` says besides the options. */

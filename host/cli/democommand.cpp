@@ -29,9 +29,9 @@ CommandLine demoLine()
           "# quicker, smaller, into another folder, and show the result\n"
           "panohost demo /tmp/try --size small --open" },
         QVector<OptionRow>{
-            { "--size", "SIZE", "size of the photos and the panorama", "small|normal" },
-            { "--head", "HEAD", "the head to play; papywizard when not given", nullptr },
-            { "--open", nullptr, "show the panorama in the desktop's picture viewer", nullptr },
+            { "--size", "small|normal", "size of the photos and the panorama", true },
+            { "--head", "HEAD", "the head to play; papywizard when not given" },
+            { "--open", nullptr, "show the panorama in the desktop's picture viewer" },
         });
 }
 

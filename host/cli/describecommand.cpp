@@ -17,9 +17,9 @@ namespace
 
 CommandLine describeLine()
 {
-    return CommandLine(
+    return importingLine(
         { "panohost describe FILE.json [--text]\n"
-          "panohost describe papywizard RECORD.xml PHOTO... [--text]",
+          "panohost describe HEAD [RECORD] PHOTO... [--text]",
           "Prints the description of a panorama, from a file that 'import --json' wrote or\n"
           "fresh from record and photos: as JSON, or as a table for the eye.",
           "# what does the head say?\n"
@@ -27,8 +27,7 @@ CommandLine describeLine()
           "# the same from a file\n"
           "panohost describe shoot.json --text" },
         QVector<OptionRow>{
-            { "--text", nullptr, "a table: position, yaw, pitch, roll, links, photos", nullptr } }
-            + importOptions());
+            { "--text", nullptr, "a table: position, yaw, pitch, roll, links, photos" } });
 }
 
 /** Whether the words name a JSON file rather than a head. */

@@ -18,8 +18,8 @@ namespace
 
 CommandLine importLine()
 {
-    return CommandLine(
-        { "panohost import papywizard RECORD.xml PHOTO... -o NAME.pto [--json FILE|-]",
+    return importingLine(
+        { "panohost import HEAD [RECORD] PHOTO... -o NAME.pto [--json FILE|-]",
           "Reads the record and the photos through the head's import page and writes a\n"
           "project that Hugin and its tools open. Photos belong to shots by their names\n"
           "in order (IMG_10 comes before IMG_9); --order changes that.",
@@ -30,9 +30,9 @@ CommandLine importLine()
           "# a head that counts downwards; the description goes to another program\n"
           "panohost import papywizard shoot.xml *.jpg --invert-pitch --json - | jq .positions" },
         QVector<OptionRow>{
-            { "-o|--output", "NAME.pto", "the Hugin project to write", nullptr },
-            { "--json", "FILE|-", "the description as JSON; '-' is standard output", nullptr },
-        } + importOptions());
+            { "-o|--output", "NAME.pto", "the Hugin project to write" },
+            { "--json", "FILE|-", "the description as JSON; '-' is standard output" },
+        });
 }
 
 struct Outputs {

@@ -140,29 +140,37 @@ QVector<OptionRow> importOptions()
 {
     return {
         { "--focal", "MM|xml|exif",
-          "focal length, 35 mm equivalent; default: from the photos, else from the record",
-          nullptr },
-        { "--lens", "KIND", "standard, fisheye or xml (what the record says)",
-          "standard|fisheye|xml" },
-        { "--rotate", "DEGREES", "the camera was turned: 90 (clockwise), -90 or 180",
-          "90|-90|180" },
-        { "--invert-pitch", nullptr, "the head counts downwards: swap up and down", nullptr },
-        { "--detect", "LEVEL", "control points in the reference exposures or in all of them",
-          "reference|all" },
-        { "--stack", "HOW", "photos of a bracket: hard links, or detect control points",
-          "hard|detect" },
+          "focal length, 35 mm equivalent; default: from the photos, else from the record" },
+        { "--lens", "standard|fisheye|xml", "default: what the photos say, else the record", true },
+        { "--rotate", "90|-90|180", "the camera was turned; 90 is clockwise", true },
+        { "--invert-pitch", nullptr, "the head counts downwards: swap up and down" },
+        { "--detect", "reference|all",
+          "control points in the reference exposures or in all of them", true },
+        { "--stack", "hard|detect", "photos of a bracket: hard links, or detect control points",
+          true },
         { "--skip-optimization", nullptr,
-          "keep the recorded angles; good for previews and short lenses only", nullptr },
+          "keep the recorded angles; good for previews and short lenses only" },
         { "--recorded-location", "yes|no", "start the optimisation from the recorded angles",
-          "yes|no" },
-        { "--clean-links", nullptr, "remove wrong control points after detection", nullptr },
-        { "--auto-detection", nullptr, "detect control points without asking", nullptr },
-        { "--no-auto-detection", nullptr, "do not", nullptr },
+          true },
+        { "--clean-links", nullptr, "remove wrong control points after detection" },
+        { "--auto-detection", nullptr, "detect control points without asking (default)" },
+        { "--no-auto-detection", nullptr, "do not" },
         { "--ignore-exif-rotation", nullptr,
-          "the photos' EXIF orientation is wrong; use the recorded roll alone", nullptr },
-        { "--order", "HOW", "which photo belongs to which shot: by name, time, or as given",
-          "name|time|given" },
+          "the photos' EXIF orientation is wrong; use the recorded roll alone" },
+        { "--order", "name|time|given", "which photo belongs to which shot; default: by name",
+          true },
     };
+}
+
+CommandLine importingLine(CommandHelp help, const QVector<OptionRow> &ownOptions)
+{
+    help.about += "\n\nHeads:";
+    for (const HeadRow &head : heads()) {
+        const QByteArray record
+            = head.recordName == nullptr ? "" : head.recordName + QByteArray(" ");
+        help.about += "\n  " + QByteArray(head.name).leftJustified(11) + record + "PHOTO...";
+    }
+    return CommandLine(std::move(help), ownOptions + importOptions());
 }
 
 ImportRequest importRequest(const CommandLine &line)

@@ -42,8 +42,14 @@ struct ImportRequest {
     bool ignoreExifRotation = false;
 };
 
-/** The options of all heads' pages, for the commands that import. */
+/** The options of all heads' pages. */
 [[nodiscard]] QVector<OptionRow> importOptions();
+
+/**
+ * The line of a command that imports: its help gets the list of heads, its options, after
+ * \p ownOptions, those of all heads' pages.
+ */
+[[nodiscard]] CommandLine importingLine(CommandHelp help, const QVector<OptionRow> &ownOptions);
 
 /**
  * Makes the request from the words HEAD [RECORD] PHOTO... and the options of \p line. Throws the

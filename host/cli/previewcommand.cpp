@@ -21,14 +21,13 @@ namespace
 
 CommandLine previewLine()
 {
-    return CommandLine(
-        { "panohost preview papywizard RECORD.xml PHOTO... -o LAYOUT.png",
+    return importingLine(
+        { "panohost preview HEAD [RECORD] PHOTO... -o LAYOUT.png",
           "Saves the picture that the import page shows: each photo at its place, with\n"
           "number, yaw and pitch. Works without a display.",
           "# does every photo sit where it belongs?\n"
           "panohost preview papywizard shoot.xml IMG_*.jpg -o layout.png" },
-        QVector<OptionRow>{ { "-o|--output", "LAYOUT.png", "the picture to write", nullptr } }
-            + importOptions());
+        QVector<OptionRow>{ { "-o|--output", "LAYOUT.png", "the picture to write" } });
 }
 
 QByteArray formatOf(const QString &path)

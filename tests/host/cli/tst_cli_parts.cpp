@@ -1,0 +1,202 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/cli/commanderror.h"
+#include "host/cli/invocation.h"
+#include "host/cli/lenschoice.h"
+#include "host/cli/numberedlinks.h"
+#include "host/cli/wordsuggestion.h"
+#include "tests/host/testphotos.h"
+
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace PanoHost;
+
+Q_DECLARE_METATYPE(PanoHost::Invocation::Kind)
+
+class TestCliParts : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void closestWordIsFound_data();
+    void closestWordIsFound();
+    void firstPlainWordDecides_data();
+    void firstPlainWordDecides();
+    void linksAreMadeOnlyWhenNeeded_data();
+    void linksAreMadeOnlyWhenNeeded();
+    void linksSortInTheOrderGivenAndGoAway();
+    void lensFactsOfPhotosLeaveOutTheUnknown();
+    void focalOfTheUnknownSourceIsRefused_data();
+    void focalOfTheUnknownSourceIsRefused();
+    void everyHeadIsReady();
+};
+
+void TestCliParts::closestWordIsFound_data()
+{
+    QTest::addColumn<QString>("word");
+    QTest::addColumn<QString>("closest");
+    const auto row = [](const char *name, const char *word, const char *closest) {
+        QTest::newRow(name) << QString::fromLatin1(word) << QString::fromLatin1(closest);
+    };
+    row("letter missing", "gigpan", "gigapan");
+    row("letter too many", "gigappan", "gigapan");
+    row("swapped and one missing", "calus", "clauss");
+    row("swapped and one too many", "calnuss", "clauss");
+    row("capitals", "GIGAPAN", "gigapan");
+    row("beginning", "vr", "vrdrive2");
+    row("one letter is no beginning", "v", "");
+    row("another word", "tripod", "");
+    row("no word", "", "");
+}
+
+void TestCliParts::closestWordIsFound()
+{
+    QFETCH(QString, word);
+    QFETCH(QString, closest);
+    const QStringList known{ QStringLiteral("clauss"), QStringLiteral("gigapan"),
+                             QStringLiteral("vrdrive2") };
+    QCOMPARE(closestWord(word, known), closest);
+    QCOMPARE(closestWord(QString(100000, QLatin1Char('x')), known), QString());
+}
+
+void TestCliParts::firstPlainWordDecides_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<Invocation::Kind>("kind");
+    QTest::addColumn<QString>("rest");
+    const auto row = [](const char *line, Invocation::Kind kind, const char *rest) {
+        QTest::newRow(line) << QString::fromLatin1(line) << kind << QString::fromLatin1(rest);
+    };
+    using Kind = Invocation::Kind;
+    row("", Kind::Window, "");
+    row("--plugin import", Kind::Window, "--plugin import");
+    row("--plugin=x -q", Kind::Window, "--plugin=x -q");
+    row("--help", Kind::General, "--help");
+    row("-q --version", Kind::General, "-q --version");
+    row("import --help", Kind::Command, "--help");
+    row("import check", Kind::Command, "check");
+    row("--lang fr -v import a b", Kind::Command, "--lang fr -v a b");
+    row("imprt a", Kind::Unknown, "imprt a");
+    row("/dev/null", Kind::Window, "/dev/null");
+}
+
+void TestCliParts::firstPlainWordDecides()
+{
+    QFETCH(QString, line);
+    QFETCH(Invocation::Kind, kind);
+    QFETCH(QString, rest);
+    const Invocation invocation = Invocation::of(line.split(QLatin1Char(' '), Qt::SkipEmptyParts));
+    QCOMPARE(invocation.kind, kind);
+    QCOMPARE(invocation.arguments.join(QLatin1Char(' ')), rest);
+    QCOMPARE(invocation.command != nullptr, kind == Invocation::Kind::Command);
+}
+
+void TestCliParts::linksAreMadeOnlyWhenNeeded_data()
+{
+    QTest::addColumn<QStringList>("photos");
+    QTest::addColumn<bool>("needed");
+    const auto names = [](std::initializer_list<const char *> list) {
+        QStringList out;
+        for (const char *name : list) {
+            out += QString::fromLatin1(name);
+        }
+        return out;
+    };
+    QTest::newRow("in order") << names({ "/p/IMG_10.jpg", "/p/IMG_9.jpg" }) << false;
+    QTest::newRow("capitals first") << names({ "/p/Z.jpg", "/p/a.jpg" }) << false;
+    QTest::newRow("another order") << names({ "/p/a.jpg", "/p/Z.jpg" }) << true;
+    QTest::newRow("blanks and apostrophes") << names({ "/p/it's a b.jpg" }) << false;
+    QTest::newRow("double quote") << names({ "/p/a\"b.jpg" }) << true;
+    QTest::newRow("line end") << names({ "/p/a\nb.jpg" }) << true;
+    QTest::newRow("one") << names({ "/p/a.jpg" }) << false;
+}
+
+void TestCliParts::linksAreMadeOnlyWhenNeeded()
+{
+    QFETCH(QStringList, photos);
+    QFETCH(bool, needed);
+    QCOMPARE(NumberedLinks::areNeeded(photos), needed);
+}
+
+void TestCliParts::linksSortInTheOrderGivenAndGoAway()
+{
+    QTemporaryDir folder;
+    QStringList photos;
+    for (int i = 0; i < 11; ++i) {
+        const QString name = QStringLiteral("%1\".jpg").arg(QChar(QLatin1Char('z').unicode() - i));
+        photos += TestPhotos::writeFile(folder.filePath(name), name.toUtf8());
+    }
+    QStringList links;
+    {
+        NumberedLinks made;
+        QString error;
+        links = made.create(photos, &error);
+        QCOMPARE(error, QString());
+        QCOMPARE(links.size(), photos.size());
+        QVERIFY(!NumberedLinks::areNeeded(links));
+        for (int i = 0; i < links.size(); ++i) {
+            QCOMPARE(made.truePaths().value(links.at(i)), photos.at(i));
+            QCOMPARE(QFileInfo(links.at(i)).canonicalFilePath(),
+                     QFileInfo(photos.at(i)).canonicalFilePath());
+            QCOMPARE(QFileInfo(links.at(i)).suffix(), QStringLiteral("jpg"));
+        }
+    }
+    QVERIFY(!QFileInfo(links.first()).isSymLink());
+    QVERIFY(!QFileInfo::exists(QFileInfo(links.first()).path()));
+}
+
+void TestCliParts::lensFactsOfPhotosLeaveOutTheUnknown()
+{
+    PhotoInfo known;
+    known.focal35mm = 24.0;
+    PhotoInfo longer = known;
+    longer.focal35mm = 26.0;
+    longer.lens = LensModel::Fisheye;
+    const LensFacts facts = lensFactsOf({ known, PhotoInfo(), longer, PhotoInfo() });
+    QCOMPARE(facts.focal35mm, 25.0);
+    QCOMPARE(facts.lens, LensModel::Fisheye);
+    QCOMPARE(facts.withoutFocal, 2);
+    QCOMPARE(lensFactsOf({}).focal35mm, 0.0);
+    QCOMPARE(lensFactsOf({}).lens, LensModel::NotChosen);
+}
+
+void TestCliParts::focalOfTheUnknownSourceIsRefused_data()
+{
+    QTest::addColumn<int>("source");
+    QTest::addColumn<double>("photos");
+    QTest::addColumn<double>("record");
+    QTest::newRow("photos") << static_cast<int>(ValueSource::Photos) << 0.0 << 24.0;
+    QTest::newRow("record") << static_cast<int>(ValueSource::Record) << 24.0 << 0.0;
+    QTest::newRow("neither") << static_cast<int>(ValueSource::Default) << 0.0 << 0.0;
+}
+
+void TestCliParts::focalOfTheUnknownSourceIsRefused()
+{
+    QFETCH(int, source);
+    QFETCH(double, photos);
+    QFETCH(double, record);
+    ImportRequest request;
+    request.focalSource = static_cast<ValueSource>(source);
+    const LensFacts photoFacts{ photos, LensModel::NotChosen, 0 };
+    const LensFacts recordFacts{ record, LensModel::Standard, 0 };
+    QVERIFY_EXCEPTION_THROWN((void)chooseLens(request, photoFacts, recordFacts), CommandError);
+}
+
+void TestCliParts::everyHeadIsReady()
+{
+    QStringList options;
+    for (const OptionRow &row : importOptions()) {
+        options += longName(row);
+    }
+    for (const HeadRow &head : heads()) {
+        QCOMPARE(head.recordName == nullptr, head.readRecord == nullptr);
+        for (const QString &option : QString::fromLatin1(head.options).split(QLatin1Char('|'))) {
+            QVERIFY2(options.contains(option), qPrintable(option));
+        }
+    }
+}
+
+QTEST_GUILESS_MAIN(TestCliParts)
+#include "tst_cli_parts.moc"
