@@ -127,6 +127,12 @@ void readPhotos(ReadingThread &thread, const QStringList &files)
     thread.Start(files);
 }
 
+void endReading(QWidget *page, ReadingThread *thread)
+{
+    thread->disconnect(page);
+    delete thread;
+}
+
 void clearIfRunning(ReadingThread &thread)
 {
     if (thread.isRunning()) {

@@ -57,6 +57,9 @@ struct RecordChoice {
 /** Reads \p files from a clean start; not at all without a host. */
 void readPhotos(ReadingThread &thread, const QStringList &files);
 
+/** Ends the reading for good, without a further signal to \p page, and deletes \p thread. */
+void endReading(QWidget *page, ReadingThread *thread);
+
 /** Stops a run and forgets its images; leaves an idle thread as it is. */
 void clearIfRunning(ReadingThread &thread);
 

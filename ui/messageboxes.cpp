@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/messageboxes.h"
 
+#include "importers/common/mismatch.h"
+
 #include <QPointer>
 
 void PanoHead::showMessage(QWidget *parent, QMessageBox::Icon icon, const QString &title,
@@ -12,4 +14,13 @@ void PanoHead::showMessage(QWidget *parent, QMessageBox::Icon icon, const QStrin
     box->setTextFormat(Qt::PlainText);
     box->exec();
     delete box.data();
+}
+
+bool PanoHead::warnsOfBrackets(QWidget *page, int photos, int bracketCount, const BoxTexts &texts)
+{
+    if (fillsBrackets(photos, bracketCount)) {
+        return false;
+    }
+    showMessage(page, QMessageBox::Warning, texts.title, texts.text);
+    return true;
 }

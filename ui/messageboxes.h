@@ -14,4 +14,14 @@ namespace PanoHead
 void showMessage(QWidget *parent, QMessageBox::Icon icon, const QString &title,
                  const QString &text);
 
+/** Title and text of a box, translated by the page. */
+struct BoxTexts {
+    QString title;
+    QString text;
+};
+
+/** Shows a warning, and answers true, when \p photos do not come in whole brackets. */
+[[nodiscard]] bool warnsOfBrackets(QWidget *page, int photos, int bracketCount,
+                                   const BoxTexts &texts);
+
 } // namespace PanoHead

@@ -5,15 +5,14 @@
 #include "importers/common/angles.h"
 #include "importers/common/previewlayout.h"
 #include "plugin/hostapplication.h"
-#include "plugin/readingthread.h"
 #include "plugin/xiapplication.h"
 #include "ui/blocksignal.h"
-#include "ui/choices.h"
+#include "ui/connectpage.h"
 #include "ui/filedialogs.h"
+#include "ui/formviews.h"
 #include "ui/messageboxes.h"
 #include "ui/pagesetup.h"
 #include "ui/previewlabel.h"
-#include "ui/shootview.h"
 
 #include <QPointer>
 
@@ -25,22 +24,6 @@ namespace
 // Scripts hold whole degrees, and every step counts as it is: wanted.
 constexpr LayoutRules kClaussLayout{ 0.0 /* no smallest step */, Span::Absolute,
                                      Precision::Single };
-
-ShootView shootView(const Ui::UIWPClaussClass &form, PhotoNames &names)
-{
-    return { form.m_leConfigFile,
-             form.m_lbPapyLog,
-             form.m_lbThetaMinMax,
-             form.m_lbPhiMinMax,
-             form.m_leImage,
-             form.m_lbImageLog,
-             &names };
-}
-
-DetectionOptions detectionOptions(const Ui::UIWPClaussClass &form)
-{
-    return { form.m_autoStart, form.m_cleanLink, form.m_noOptim, form.m_GridOptim };
-}
 
 } // namespace
 
@@ -60,8 +43,7 @@ UIWPClauss::UIWPClauss(QWidget *parent)
 
 UIWPClauss::~UIWPClauss()
 {
-    m_readingThread->disconnect(this);
-    delete m_readingThread;
+    endReading(this, m_readingThread);
 }
 
 void UIWPClauss::CreateWidgets()
@@ -73,13 +55,11 @@ void UIWPClauss::CreateWidgets()
 
 void UIWPClauss::CreateConnects()
 {
-    connect(m_pbSelectImages, &QPushButton::clicked, this, &UIWPClauss::SelectImages);
-    connect(m_pbSelectConfigFile, &QPushButton::clicked, this, &UIWPClauss::SelectConfigFile);
-    connect(m_pbReset, &QPushButton::clicked, this, &UIWPClauss::Reset);
+    connectPhotoButtons(this);
+    connectRecord(this);
     connect(m_leConfigFile, &QLineEdit::editingFinished, this, &UIWPClauss::SetConfigFFilename);
     connect(m_hSlider, &QSlider::valueChanged, this, &UIWPClauss::UpdatePreview);
     connect(m_readingThread, &ReadingThread::Loaded, this, &UIWPClauss::UpdatePreview);
-    connect(m_pInverseCoordinates, &QPushButton::clicked, this, &UIWPClauss::OnInverseCoordinates);
 }
 
 void UIWPClauss::initializePage() { }
@@ -102,7 +82,7 @@ bool UIWPClauss::validatePage()
         return true;
     }
     generateSPP(m_state.images, m_readingThread->XIImageDefs());
-    writeOptions(*this, detectionOptions(*this));
+    writeOptions(*this, detectionOptionsOf(*this));
     host->ImportStructuredPanorama(*this);
     return true;
 }
@@ -214,7 +194,7 @@ void UIWPClauss::UpdateUI()
 {
     {
         const BlockSignal blocker(this);
-        showShoot(shootView(*this, m_photoNames), m_state, { tr("N/A"), tr("N/A") });
+        showShoot(shootViewOf(*this, m_photoNames), m_state, { tr("N/A"), tr("N/A") });
     }
     UpdatePreview();
 }

@@ -5,11 +5,11 @@
 #include "importers/gigapan/gridguess.h"
 #include "importers/gigapan/gridorder.h"
 #include "plugin/hostapplication.h"
-#include "plugin/readingthread.h"
 #include "plugin/xiapplication.h"
 #include "plugin/xiimagedef.h"
-#include "ui/choices.h"
+#include "ui/connectpage.h"
 #include "ui/filedialogs.h"
+#include "ui/formviews.h"
 #include "ui/pagesetup.h"
 #include "ui/previewlabel.h"
 #include "ui/xnoevent.h"
@@ -23,12 +23,6 @@ namespace
 
 constexpr int kFreshRows = 4;
 constexpr int kFreshColumns = 5;
-
-LinkingChoices linkingChoices(const Ui::UIWPGigapanClass &form)
-{
-    return { form.m_rbLevelLinking0, form.m_rbLevelLinking1, form.m_rbStackLinking0,
-             form.m_rbStackLinking1 };
-}
 
 DetectionOptions detectionOptions(const Ui::UIWPGigapanClass &form)
 {
@@ -60,8 +54,7 @@ UIWPGigapan::UIWPGigapan(QWidget *parent)
 
 UIWPGigapan::~UIWPGigapan()
 {
-    m_readingThread->disconnect(this);
-    delete m_readingThread;
+    endReading(this, m_readingThread);
 }
 
 void UIWPGigapan::CreateWidgets()
@@ -72,11 +65,11 @@ void UIWPGigapan::CreateWidgets()
 
 void UIWPGigapan::CreateConnects()
 {
+    connectPhotoButtons(this);
+    connectLinkingChoices(this);
     const auto valueChanged = QOverload<int>::of(&QSpinBox::valueChanged);
     connect(m_sbRow, valueChanged, this, &UIWPGigapan::SetRow);
     connect(m_sbIgnore, valueChanged, this, &UIWPGigapan::IgnoreNImages);
-    connect(m_pbSelectImages, &QPushButton::clicked, this, &UIWPGigapan::SelectImages);
-    connect(m_pbReset, &QPushButton::clicked, this, &UIWPGigapan::Reset);
     connect(m_sbBracket, valueChanged, this, &UIWPGigapan::OnChangeBracket);
     connect(m_hSlider, &QSlider::valueChanged, this, &UIWPGigapan::UpdateUI);
     connect(m_readingThread, &ReadingThread::Loaded, this, &UIWPGigapan::UpdatePreview);
@@ -84,8 +77,6 @@ void UIWPGigapan::CreateConnects()
     connect(m_rbMode1, &QRadioButton::toggled, this, &UIWPGigapan::OnMode1Toggled);
     connect(m_rbMode2, &QRadioButton::toggled, this, &UIWPGigapan::OnMode2Toggled);
     connect(m_rbMode3, &QRadioButton::toggled, this, &UIWPGigapan::OnMode3Toggled);
-    connect(m_rbLevelLinking1, &QRadioButton::clicked, this, &UIWPGigapan::OnLevelLinkingClicked);
-    connect(m_rbStackLinking0, &QRadioButton::clicked, this, &UIWPGigapan::OnStackLinkingClicked);
 }
 
 void UIWPGigapan::initializePage()
@@ -111,7 +102,7 @@ bool UIWPGigapan::validatePage()
     }
     generateSPP(images, m_cbIS360->isChecked());
     overlap = m_dsbOverlapping->value();
-    writeLinking(*this, linkingChoices(*this));
+    writeLinking(*this, linkingChoicesOf(*this));
     writeOptions(*this, detectionOptions(*this));
     host->ImportStructuredPanorama(*this);
     return true;
@@ -212,12 +203,12 @@ void UIWPGigapan::setMode(int gridOrder, bool checked)
 
 void UIWPGigapan::OnLevelLinkingClicked(bool checked)
 {
-    onAllLevelsClicked(linkingChoices(*this), checked);
+    onAllLevelsClicked(linkingChoicesOf(*this), checked);
 }
 
 void UIWPGigapan::OnStackLinkingClicked(bool checked)
 {
-    onHardLinksClicked(linkingChoices(*this), checked);
+    onHardLinksClicked(linkingChoicesOf(*this), checked);
 }
 
 void UIWPGigapan::Reset()

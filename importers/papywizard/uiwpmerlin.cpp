@@ -7,16 +7,15 @@
 #include "importers/common/previewlayout.h"
 #include "importers/papywizard/recordedshoot.h"
 #include "plugin/hostapplication.h"
-#include "plugin/readingthread.h"
 #include "plugin/xiapplication.h"
 #include "ui/blocksignal.h"
-#include "ui/choices.h"
+#include "ui/connectpage.h"
 #include "ui/filedialogs.h"
+#include "ui/formviews.h"
 #include "ui/messageboxes.h"
 #include "ui/pagesetup.h"
 #include "ui/plaintooltip.h"
 #include "ui/previewlabel.h"
-#include "ui/shootview.h"
 
 #include <algorithm>
 
@@ -28,35 +27,6 @@ namespace
 // The step is limited, so that close rows do not blow the picture up.
 constexpr LayoutRules kPapywizardLayout{ 8.0 /* smallest step, degrees */, Span::Absolute,
                                          Precision::Double };
-
-ShootView shootView(const Ui::UIWPMerlinClass &form, PhotoNames &names)
-{
-    return { form.m_leConfigFile,
-             form.m_lbPapyLog,
-             form.m_lbThetaMinMax,
-             form.m_lbPhiMinMax,
-             form.m_leImage,
-             form.m_lbImageLog,
-             &names };
-}
-
-LensView lensView(const Ui::UIWPMerlinClass &form)
-{
-    return { form.m_lbBracket,          form.m_lbFocalLength, form.m_pbFLUseXML,
-             form.m_lbFocalLengthImage, form.m_pbFLUseImage,  form.m_spFocal,
-             form.m_cbLensType };
-}
-
-LinkingChoices linkingChoices(const Ui::UIWPMerlinClass &form)
-{
-    return { form.m_rbLevelLinking0, form.m_rbLevelLinking1, form.m_rbStackLinking0,
-             form.m_rbStackLinking1 };
-}
-
-DetectionOptions detectionOptions(const Ui::UIWPMerlinClass &form)
-{
-    return { form.m_autoStart, form.m_cleanLink, form.m_noOptim, form.m_GridOptim };
-}
 
 } // namespace
 
@@ -74,8 +44,7 @@ UIWPMerlin::UIWPMerlin(QWidget *parent)
 
 UIWPMerlin::~UIWPMerlin()
 {
-    m_readingThread->disconnect(this);
-    delete m_readingThread;
+    endReading(this, m_readingThread);
 }
 
 void UIWPMerlin::CreateWidgets()
@@ -89,19 +58,7 @@ void UIWPMerlin::CreateWidgets()
 
 void UIWPMerlin::CreateConnects()
 {
-    connect(m_pbSelectImages, &QPushButton::clicked, this, &UIWPMerlin::SelectImages);
-    connect(m_pbSelectConfigFile, &QPushButton::clicked, this, &UIWPMerlin::SelectConfigFile);
-    connect(m_pbReset, &QPushButton::clicked, this, &UIWPMerlin::Reset);
-    connect(m_leConfigFile, &QLineEdit::textEdited, this, &UIWPMerlin::SetConfigFFilename);
-    connect(m_hSlider, &QSlider::valueChanged, this, &UIWPMerlin::OnZoomChanged);
-    connect(m_readingThread, &ReadingThread::Loaded, this, &UIWPMerlin::OnImageLoaded);
-    connect(m_pInverseCoordinates, &QPushButton::clicked, this, &UIWPMerlin::OnInverseCoordinates);
-    connect(m_pbRot90, &QPushButton::clicked, this, &UIWPMerlin::OnRotate90);
-    connect(m_pbRot270, &QPushButton::clicked, this, &UIWPMerlin::OnRotate270);
-    connect(m_rbLevelLinking1, &QRadioButton::clicked, this, &UIWPMerlin::OnLevelLinkingClicked);
-    connect(m_rbStackLinking0, &QRadioButton::clicked, this, &UIWPMerlin::OnStackLinkingClicked);
-    connect(m_pbFLUseXML, &QPushButton::clicked, this, &UIWPMerlin::OnFLUseXML);
-    connect(m_pbFLUseImage, &QPushButton::clicked, this, &UIWPMerlin::OnFLUseImage);
+    connectSchemaPage(this, m_readingThread);
 }
 
 void UIWPMerlin::initializePage()
@@ -125,17 +82,17 @@ bool UIWPMerlin::validatePage()
     if (host == nullptr) {
         return true;
     }
-    if (!fillsBrackets(m_state.images.size(), nbPicts)) {
-        showMessage(this, QMessageBox::Warning, tr("Warning"),
-                    tr("Papywizard XML has bracketing and the number of images isn't a multiple of "
-                       "this number of brackets."));
+    if (warnsOfBrackets(this, m_state.images.size(), nbPicts,
+                        { tr("Warning"),
+                          tr("Papywizard XML has bracketing and the number of images isn't a "
+                             "multiple of this number of brackets.") })) {
         return false;
     }
     nbPicts = std::max(nbPicts, 1);
     generateSPP(m_state.images, m_spFocal->value(),
                 static_cast<LensModel>(m_cbLensType->currentIndex()));
-    writeLinking(*this, linkingChoices(*this));
-    writeOptions(*this, detectionOptions(*this));
+    writeLinking(*this, linkingChoicesOf(*this));
+    writeOptions(*this, detectionOptionsOf(*this));
     host->ImportStructuredPanorama(*this);
     return true;
 }
@@ -234,7 +191,7 @@ void UIWPMerlin::OnImageLoaded()
     const LensFacts preset
         = adoptPhotos(m_state, *this, m_lens.update(m_readingThread->XIImageDefs()));
     if (preset.focalMm > 0.0) {
-        setLens(lensView(*this), preset);
+        setLens(lensViewOf(*this), preset);
     }
     UpdateUI();
     Q_EMIT completeChanged();
@@ -242,13 +199,13 @@ void UIWPMerlin::OnImageLoaded()
 
 void UIWPMerlin::OnFLUseXML()
 {
-    setLens(lensView(*this), { xmlFocal, xmlLensType });
+    setLens(lensViewOf(*this), { xmlFocal, xmlLensType });
     redrawAll();
 }
 
 void UIWPMerlin::OnFLUseImage()
 {
-    setLens(lensView(*this), { m_state.imageFocal, m_state.imageLensType });
+    setLens(lensViewOf(*this), { m_state.imageFocal, m_state.imageLensType });
     redrawAll();
 }
 
@@ -280,12 +237,12 @@ void UIWPMerlin::OnZoomChanged()
 
 void UIWPMerlin::OnLevelLinkingClicked(bool checked)
 {
-    onAllLevelsClicked(linkingChoices(*this), checked);
+    onAllLevelsClicked(linkingChoicesOf(*this), checked);
 }
 
 void UIWPMerlin::OnStackLinkingClicked(bool checked)
 {
-    onHardLinksClicked(linkingChoices(*this), checked);
+    onHardLinksClicked(linkingChoicesOf(*this), checked);
 }
 
 void UIWPMerlin::redrawAll()
@@ -298,8 +255,8 @@ void UIWPMerlin::redrawAll()
 void UIWPMerlin::UpdateUI()
 {
     const BlockSignal blocker(this);
-    showShoot(shootView(*this, m_photoNames), m_state, { tr("N/A"), tr("N/A") });
-    showLens(lensView(*this), nbPicts, xmlFocal, m_state.imageFocal, tr("N/A"));
+    showShoot(shootViewOf(*this, m_photoNames), m_state, { tr("N/A"), tr("N/A") });
+    showLens(lensViewOf(*this), nbPicts, xmlFocal, m_state.imageFocal, tr("N/A"));
     const MismatchTexts texts{
         tr("Bracketing used in XML, should be multiple of that number"),
         tr("Not the same as in XML fil"), // cut off like this: wanted

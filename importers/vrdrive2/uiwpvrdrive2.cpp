@@ -7,16 +7,15 @@
 #include "importers/common/previewlayout.h"
 #include "importers/papywizard/recordedshoot.h"
 #include "plugin/hostapplication.h"
-#include "plugin/readingthread.h"
 #include "plugin/xiapplication.h"
 #include "ui/blocksignal.h"
-#include "ui/choices.h"
+#include "ui/connectpage.h"
 #include "ui/filedialogs.h"
+#include "ui/formviews.h"
 #include "ui/messageboxes.h"
 #include "ui/pagesetup.h"
 #include "ui/plaintooltip.h"
 #include "ui/previewlabel.h"
-#include "ui/shootview.h"
 
 #include <algorithm>
 
@@ -31,35 +30,6 @@ constexpr LayoutRules kVRDrive2Layout{ 8.0 /* smallest step, degrees */, Span::N
 
 constexpr qint32 kTonemapped = 2;
 constexpr qint32 kHdrRadiance = 3;
-
-ShootView shootView(const Ui::UIWPVRDrive2Class &form, PhotoNames &names)
-{
-    return { form.m_leConfigFile,
-             form.m_lbPapyLog,
-             form.m_lbThetaMinMax,
-             form.m_lbPhiMinMax,
-             form.m_leImage,
-             form.m_lbImageLog,
-             &names };
-}
-
-LensView lensView(const Ui::UIWPVRDrive2Class &form)
-{
-    return { form.m_lbBracket,          form.m_lbFocalLength, form.m_pbFLUseXML,
-             form.m_lbFocalLengthImage, form.m_pbFLUseImage,  form.m_spFocal,
-             form.m_cbLensType };
-}
-
-LinkingChoices linkingChoices(const Ui::UIWPVRDrive2Class &form)
-{
-    return { form.m_rbLevelLinking0, form.m_rbLevelLinking1, form.m_rbStackLinking0,
-             form.m_rbStackLinking1 };
-}
-
-DetectionOptions detectionOptions(const Ui::UIWPVRDrive2Class &form)
-{
-    return { form.m_autoStart, form.m_cleanLink, form.m_noOptim, form.m_GridOptim };
-}
 
 } // namespace
 
@@ -79,8 +49,7 @@ UIWPVRDrive2::UIWPVRDrive2(QWidget *parent)
 
 UIWPVRDrive2::~UIWPVRDrive2()
 {
-    m_readingThread->disconnect(this);
-    delete m_readingThread;
+    endReading(this, m_readingThread);
 }
 
 void UIWPVRDrive2::CreateWidgets()
@@ -99,20 +68,7 @@ void UIWPVRDrive2::CreateWidgets()
 
 void UIWPVRDrive2::CreateConnects()
 {
-    connect(m_pbSelectImages, &QPushButton::clicked, this, &UIWPVRDrive2::SelectImages);
-    connect(m_pbSelectConfigFile, &QPushButton::clicked, this, &UIWPVRDrive2::SelectConfigFile);
-    connect(m_pbReset, &QPushButton::clicked, this, &UIWPVRDrive2::Reset);
-    connect(m_leConfigFile, &QLineEdit::textEdited, this, &UIWPVRDrive2::SetConfigFFilename);
-    connect(m_hSlider, &QSlider::valueChanged, this, &UIWPVRDrive2::OnZoomChanged);
-    connect(m_readingThread, &ReadingThread::Loaded, this, &UIWPVRDrive2::OnImageLoaded);
-    connect(m_pInverseCoordinates, &QPushButton::clicked, this,
-            &UIWPVRDrive2::OnInverseCoordinates);
-    connect(m_pbRot90, &QPushButton::clicked, this, &UIWPVRDrive2::OnRotate90);
-    connect(m_pbRot270, &QPushButton::clicked, this, &UIWPVRDrive2::OnRotate270);
-    connect(m_rbLevelLinking1, &QRadioButton::clicked, this, &UIWPVRDrive2::OnLevelLinkingClicked);
-    connect(m_rbStackLinking0, &QRadioButton::clicked, this, &UIWPVRDrive2::OnStackLinkingClicked);
-    connect(m_pbFLUseXML, &QPushButton::clicked, this, &UIWPVRDrive2::OnFLUseXML);
-    connect(m_pbFLUseImage, &QPushButton::clicked, this, &UIWPVRDrive2::OnFLUseImage);
+    connectSchemaPage(this, m_readingThread);
 }
 
 void UIWPVRDrive2::initializePage() { }
@@ -133,18 +89,17 @@ bool UIWPVRDrive2::validatePage()
     if (host == nullptr) {
         return true;
     }
-    if (!fillsBrackets(m_state.images.size(), nbPicts)) {
-        // The wording of the Papywizard page: wanted.
-        showMessage(this, QMessageBox::Warning, tr("Warning"),
-                    tr("Papywizard XML has bracketing and the number of images isn't a multiple of "
-                       "this number of brackets."));
+    if (warnsOfBrackets(this, m_state.images.size(), nbPicts,
+                        { tr("Warning"),
+                          tr("Papywizard XML has bracketing and the number of images isn't a "
+                             "multiple of this number of brackets.") })) {
         return false;
     }
     nbPicts = std::max(nbPicts, 1);
     generateSPP(m_state.images, m_readingThread->XIImageDefs(), m_spFocal->value(),
                 static_cast<LensModel>(m_cbLensType->currentIndex()));
-    writeLinking(*this, linkingChoices(*this));
-    writeOptions(*this, detectionOptions(*this));
+    writeLinking(*this, linkingChoicesOf(*this));
+    writeOptions(*this, detectionOptionsOf(*this));
     renderMode = m_rbOutputMode1->isChecked() ? kTonemapped : kHdrRadiance;
     host->ImportStructuredPanorama(*this);
     return true;
@@ -236,7 +191,7 @@ void UIWPVRDrive2::OnImageLoaded()
     const LensFacts preset
         = adoptPhotos(m_state, *this, m_lens.update(m_readingThread->XIImageDefs()));
     if (preset.focalMm > 0.0) {
-        setLens(lensView(*this), preset);
+        setLens(lensViewOf(*this), preset);
     }
     UpdateUI();
     UpdatePreview();
@@ -245,14 +200,14 @@ void UIWPVRDrive2::OnImageLoaded()
 
 void UIWPVRDrive2::OnFLUseXML()
 {
-    setLens(lensView(*this), { xmlFocal, xmlLensType });
+    setLens(lensViewOf(*this), { xmlFocal, xmlLensType });
     UpdateUI();
     Q_EMIT completeChanged();
 }
 
 void UIWPVRDrive2::OnFLUseImage()
 {
-    setLens(lensView(*this), { m_state.imageFocal, m_state.imageLensType });
+    setLens(lensViewOf(*this), { m_state.imageFocal, m_state.imageLensType });
     UpdateUI();
     Q_EMIT completeChanged();
 }
@@ -284,20 +239,20 @@ void UIWPVRDrive2::OnZoomChanged()
 
 void UIWPVRDrive2::OnLevelLinkingClicked(bool checked)
 {
-    onAllLevelsClicked(linkingChoices(*this), checked);
+    onAllLevelsClicked(linkingChoicesOf(*this), checked);
 }
 
 void UIWPVRDrive2::OnStackLinkingClicked(bool checked)
 {
-    onHardLinksClicked(linkingChoices(*this), checked);
+    onHardLinksClicked(linkingChoicesOf(*this), checked);
 }
 
 void UIWPVRDrive2::UpdateUI()
 {
     const BlockSignal blocker(this);
     // The ranges are not translated on this page: wanted.
-    showShoot(shootView(*this, m_photoNames), m_state, { tr("N/A"), QStringLiteral("N/A") });
-    showLens(lensView(*this), nbPicts, xmlFocal, m_state.imageFocal, tr("N/A"));
+    showShoot(shootViewOf(*this, m_photoNames), m_state, { tr("N/A"), QStringLiteral("N/A") });
+    showLens(lensViewOf(*this), nbPicts, xmlFocal, m_state.imageFocal, tr("N/A"));
     const QString warning
         = textOf(mismatchOf(*this, m_state),
                  {
