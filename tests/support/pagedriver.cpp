@@ -114,5 +114,9 @@ QLabel *PageDriver::preview() const
 
 QImage PageDriver::picture() const
 {
-    return preview()->pixmap(Qt::ReturnByValue).toImage();
+    // The pixels count, not how they are kept.
+    return preview()
+        ->pixmap(Qt::ReturnByValue)
+        .toImage()
+        .convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
