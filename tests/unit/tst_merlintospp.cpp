@@ -604,11 +604,11 @@ void TestMerlinToSPP::halfFieldOfViewIsHalfTheDiagonal_data()
     QTest::addColumn<double>("expected");
 
     // atan(43.266615 / 2 f)
-    QTest::newRow("24 mm") << 24.0F << 0.7335812;
+    QTest::newRow("24 mm") << 24.0F << 0.7335813;
     QTest::newRow("half the diagonal: 45 degrees") << 21.6333077F << 0.7853982;
     QTest::newRow("0") << 0.0F << 1.5707963;
     QTest::newRow("minus 0") << -0.0F << -1.5707963;
-    QTest::newRow("negative") << -24.0F << -0.7335812;
+    QTest::newRow("negative") << -24.0F << -0.7335813;
     QTest::newRow("infinite") << kInfinity << 0.0;
     QTest::newRow("twice the focal length overflows 32 bits") << 3e38F << 0.0;
 }
