@@ -20,7 +20,7 @@ namespace
 {
 
 constexpr int kSchema = 1;
-/** Record-size shoots (70,000 positions) take about 30 MB. */
+/** 70,000 positions with a million links take about 64 MB. */
 constexpr qint64 kMostBytes = 512LL * 1024 * 1024;
 
 // ---- values as JSON text
