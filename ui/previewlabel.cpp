@@ -3,9 +3,25 @@
 #include "ui/previewlabel.h"
 
 #include <QEvent>
+#include <QResizeEvent>
+#include <QScrollArea>
+#include <QScrollBar>
 
 namespace PanoHead
 {
+
+namespace
+{
+
+/** Moves \p bar so that what was in the middle of \p before pixels is so in \p after pixels. */
+void keepMiddle(QScrollBar *bar, int before, int after)
+{
+    const int page = bar->pageStep();
+    const double middle = before > page ? (bar->value() + page / 2.0) / before : 0.5;
+    bar->setValue(qRound(middle * after - page / 2.0));
+}
+
+} // namespace
 
 void PreviewLabel::showScene(const PreviewScene &scene, int zoomPercent)
 {
@@ -53,6 +69,18 @@ void PreviewLabel::changeEvent(QEvent *event)
         break;
     default:
         break;
+    }
+}
+
+void PreviewLabel::resizeEvent(QResizeEvent *event)
+{
+    QLabel::resizeEvent(event);
+    QWidget *viewport = parentWidget();
+    auto *area
+        = viewport == nullptr ? nullptr : qobject_cast<QScrollArea *>(viewport->parentWidget());
+    if (area != nullptr) {
+        keepMiddle(area->horizontalScrollBar(), event->oldSize().width(), event->size().width());
+        keepMiddle(area->verticalScrollBar(), event->oldSize().height(), event->size().height());
     }
 }
 

@@ -29,6 +29,8 @@ public:
 
 protected:
     void changeEvent(QEvent *event) override;
+    /** The middle of the picture stays in the middle of the scroll area; it starts there. */
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     [[nodiscard]] PreviewColours colours(CellStyle style) const;

@@ -19,6 +19,7 @@ void PhotoNames::show(QLineEdit *edit, const QStringList &files)
 {
     if (files != m_shown) {
         edit->setText(photoNames(files));
+        edit->setCursorPosition(0); // the first photos are the ones to see
         m_shown = files;
     }
 }

@@ -24,7 +24,8 @@ constexpr int kChoiceId = 0;
 constexpr int kFirstPluginId = 1;
 constexpr int kResultId = 1000;
 // Large enough for the pages' previews, small enough for a netbook.
-constexpr QSize kFirstSize(800, 660);
+constexpr QSize kSmallestSize(790, 570); // a window frame around it fits 800 x 600
+constexpr QSize kFirstSize(900, 720);
 
 QString settingsGroup()
 {
@@ -79,6 +80,7 @@ ImportWizard::ImportWizard(PanoHostApplication &app, const PluginLibrary &librar
             m_choicePage->choose(i);
         }
     }
+    setMinimumSize(kSmallestSize);
     resize(kFirstSize);
     restoreGeometry(app.ReadSetting(settingsGroup(), geometryKey(), QByteArray()).toByteArray());
     connect(&app, &PanoHostApplication::delivered, this, &ImportWizard::takeDelivery);
