@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/core/panoramajson.h"
 
+#include "host/core/relativepath.h"
 #include "host/core/safefile.h"
 
 #include <QDir>
@@ -105,11 +106,6 @@ LensModel lensFromName(const QString &name)
     return name == QLatin1String("fisheye") ? LensModel::Fisheye : LensModel::NotChosen;
 }
 
-QString relative(const QString &path, const QString &folder)
-{
-    return path.isEmpty() || folder.isEmpty() ? path : QDir(folder).relativeFilePath(path);
-}
-
 QString absolute(const QString &path, const QString &folder)
 {
     return path.isEmpty() || folder.isEmpty()
@@ -128,7 +124,7 @@ int gridColumns(const Panorama &panorama)
 QByteArray photoJson(const PhotoInfo &photo, const QString &folder)
 {
     ObjectText object;
-    object.add("file", relative(photo.path, folder))
+    object.add("file", relativePath(photo.path, folder))
         .add("width", photo.storedSize.width())
         .add("height", photo.storedSize.height())
         .add("orientation", photo.orientation)
@@ -210,7 +206,7 @@ QByteArray sourceJson(const SourceInfo &source, const QString &folder)
     ObjectText object;
     object.add("plugin", source.pluginUid)
         .add("name", source.name)
-        .add("record", relative(source.record, folder))
+        .add("record", relativePath(source.record, folder))
         .add("version", source.version);
     return object.text();
 }
@@ -490,7 +486,7 @@ QByteArray panoramaToJson(const Panorama &panorama, const QString &folder)
     if (panorama.project) {
         ObjectText project;
         project.add("yawCentreDeg", panorama.project->yawCentreDegrees)
-            .add("file", relative(panorama.project->path, folder));
+            .add("file", relativePath(panorama.project->path, folder));
         members.append("\"pto\": " + project.text());
     }
     members.append("\"warnings\": " + lines(warnings, "  "));
@@ -519,7 +515,7 @@ Result<Panorama> readPanoramaJson(const QString &path)
     if (!content) {
         return content.error();
     }
-    auto panorama = panoramaFromJson(content.value(), QFileInfo(path).absolutePath());
+    auto panorama = panoramaFromJson(content.value(), QFileInfo(path).canonicalPath());
     if (!panorama) {
         Failure failure = panorama.error();
         failure.what = path + QStringLiteral(": ") + failure.what;

@@ -3,9 +3,10 @@
 #include "host/core/ptoproject.h"
 
 #include "host/core/coverage.h"
+#include "host/core/relativepath.h"
 #include "host/core/safefile.h"
 
-#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QHash>
 #include <QtMath>
@@ -195,9 +196,7 @@ std::optional<Failure> ProjectMaker::collectImages()
 std::optional<Failure> ProjectMaker::nameImage(Image &image) const
 {
     const QString &path = image.photo->path;
-    const QString name = m_options.projectFolder.isEmpty()
-        ? path
-        : QDir(m_options.projectFolder).relativeFilePath(path);
+    const QString name = relativePath(path, m_options.projectFolder);
     for (const QChar c : name) {
         if (c == QLatin1Char('"') || c.category() == QChar::Other_Control) {
             return refused(path,

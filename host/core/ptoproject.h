@@ -33,7 +33,7 @@ struct PtoProject {
 };
 
 /**
- * The Hugin project for \p panorama. A pure function: touches no file.
+ * The Hugin project for \p panorama. Opens no file.
  *
  * Refuses: no focal length, photos without a known size, angles that are no numbers, names that
  * the format cannot hold (a quotation mark or a line end).

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/core/panoramajson.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -242,6 +244,7 @@ private Q_SLOTS:
     void brokenTextIsRefusedByLine();
     void damagedTextIsReadOrRefused();
     void fileRoundTrip();
+    void photosAreFoundThroughALinkedFolder();
     void fileErrorsNameTheFile();
 };
 
@@ -544,6 +547,25 @@ void PanoramaJsonTest::fileRoundTrip()
     QFile second(again);
     QVERIFY(first.open(QIODevice::ReadOnly) && second.open(QIODevice::ReadOnly));
     QCOMPARE(second.readAll(), first.readAll());
+}
+
+void PanoramaJsonTest::photosAreFoundThroughALinkedFolder()
+{
+    QTemporaryDir folder;
+    QVERIFY(QDir(folder.path()).mkpath(QStringLiteral("deep/real")));
+    QVERIFY(QFile::link(folder.filePath(QStringLiteral("deep/real")),
+                        folder.filePath(QStringLiteral("linked"))));
+    Panorama panorama = sample();
+    panorama.positions[0].photos[0].path = folder.filePath(QStringLiteral("a.jpg"));
+    const QString path = folder.filePath(QStringLiteral("linked/pano.json"));
+    QVERIFY(writePanoramaJson(panorama, path).ok());
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(file.readAll().contains("\"file\": \"../../a.jpg\""));
+    const auto read = readPanoramaJson(path);
+    QVERIFY(read.ok());
+    QCOMPARE(read.value().positions[0].photos[0].path,
+             QFileInfo(folder.path()).canonicalFilePath() + QStringLiteral("/a.jpg"));
 }
 
 void PanoramaJsonTest::fileErrorsNameTheFile()

@@ -52,6 +52,8 @@ private Q_SLOTS:
     void oddNamesAreFound_data();
     void oddNamesAreFound();
 
+    void photosAreFoundThroughALinkedFolder();
+
 private:
     /** One row of \p count stacks of \p each small photos, on disk, \p step degrees apart. */
     Panorama shoot(int count, int each, double step) const;
@@ -257,6 +259,21 @@ void PtoToolsTest::oddNamesAreFound()
                              at(QStringLiteral("elsewhere")));
     QVERIFY2(nona.exitCode == 0, qPrintable(nona.output));
     QVERIFY(QFileInfo::exists(at(QStringLiteral("elsewhere/mapped.png"))));
+}
+
+void PtoToolsTest::photosAreFoundThroughALinkedFolder()
+{
+    // deep/real/ is also known as linked/: going up from there leads to deep/, not to the top.
+    QVERIFY(QDir().mkpath(at(QStringLiteral("deep/real"))));
+    QVERIFY(QFile::link(at(QStringLiteral("deep/real")), at(QStringLiteral("linked"))));
+    const Panorama panorama = shoot(2, 1, 30.0);
+    const QString project = at(QStringLiteral("linked/pano.pto"));
+    QVERIFY(writePtoProject(panorama, project).ok());
+    const ToolRun nona = run(QStringLiteral("nona"),
+                             { QStringLiteral("-m"), QStringLiteral("PNG"), QStringLiteral("-o"),
+                               QStringLiteral("mapped"), project },
+                             m_folder->path());
+    QVERIFY2(nona.exitCode == 0, qPrintable(nona.output));
 }
 
 QTEST_MAIN(PtoToolsTest)
