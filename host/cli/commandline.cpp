@@ -7,7 +7,9 @@
 
 #include <QCoreApplication>
 
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
 
 namespace PanoHost
 {
@@ -92,8 +94,13 @@ QString longName(const OptionRow &row)
 void printOut(const QString &text)
 {
     const QByteArray bytes = text.toUtf8();
-    std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stdout);
-    std::fflush(stdout);
+    const auto size = static_cast<size_t>(bytes.size());
+    const bool written = std::fwrite(bytes.constData(), 1, size, stdout) == size;
+    if (std::fflush(stdout) != 0 || !written) {
+        throw CommandError({ ExitCode::ToolFailed, QStringLiteral("standard output"),
+                             QString::fromLocal8Bit(std::strerror(errno)),
+                             QStringLiteral("is the disk full?") });
+    }
 }
 
 const QVector<OptionRow> &CommandLine::commonOptions()

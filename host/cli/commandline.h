@@ -63,7 +63,7 @@ private:
 /** The long name of \p row without dashes. */
 [[nodiscard]] QString longName(const OptionRow &row);
 
-/** Writes \p text to stdout, as UTF-8. */
+/** Writes \p text to stdout, as UTF-8; throws when it does not take it (a full disk). */
 void printOut(const QString &text);
 
 } // namespace PanoHost

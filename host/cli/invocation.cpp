@@ -51,6 +51,10 @@ Invocation Invocation::of(const QStringList &words)
         return invocation;
     }
     invocation.word = words.at(place);
+    if (invocation.word == QLatin1String("help")) {
+        invocation.arguments[place] = QStringLiteral("--help");
+        return Invocation::of(invocation.arguments);
+    }
     invocation.command = commandNamed(invocation.word);
     if (invocation.command != nullptr) {
         invocation.kind = Kind::Command;

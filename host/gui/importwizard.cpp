@@ -9,7 +9,6 @@
 
 #include <QDropEvent>
 #include <QLabel>
-#include <QMessageBox>
 #include <QMimeData>
 #include <QShortcut>
 #include <QUrl>
@@ -122,8 +121,12 @@ void ImportWizard::fillIn(const QStringList &files)
         m_choicePage->choose(headFor(filled, m_library.plugins(), m_choicePage->chosen()));
         next();
     }
-    if (pluginOf(currentId()) != nullptr) {
-        fillPage(m_app, currentPage(), filled);
+    if (pluginOf(currentId()) == nullptr) {
+        return;
+    }
+    const QString problem = fillPage(m_app, currentPage(), filled);
+    if (!problem.isEmpty()) {
+        showMessage(QMessageBox::Warning, tr("Files not taken"), problem);
     }
 }
 
@@ -190,7 +193,13 @@ void ImportWizard::showHelp()
              "to the import page; its photos and options are kept.")
         : tr("Choose the head's record and all its photos. Next is enabled when every photo has "
              "been read and their number is that of the record. Red text says what does not fit.");
-    QMessageBox box(QMessageBox::Information, tr("Help"), text, QMessageBox::Ok, this);
+    showMessage(QMessageBox::Information, tr("Help"), text);
+}
+
+void ImportWizard::showMessage(QMessageBox::Icon icon, const QString &title, const QString &text)
+{
+    QMessageBox box(icon, title, text, QMessageBox::Ok, this);
+    // File names may stand in it.
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }

@@ -7,6 +7,7 @@
 #include "host/core/panorama.h"
 #include "host/core/pluginlibrary.h"
 
+#include <QMessageBox>
 #include <QWizard>
 
 namespace PanoHost
@@ -32,7 +33,8 @@ public:
 
     /**
      * Fills \p files into the page of a plug-in, as if the user had chosen them there: the last
-     * one ending in ".xml" is the record, the others are photos. Goes to the page first.
+     * one ending in ".xml" or ".txt" is the record, the others are photos. Goes to the page of a
+     * head that reads it first.
      */
     void fillIn(const QStringList &files);
 
@@ -50,6 +52,7 @@ private:
     void openLinksOfSubtitle();
     void rememberChoice(int id);
     void showHelp();
+    void showMessage(QMessageBox::Icon icon, const QString &title, const QString &text);
     [[nodiscard]] const ImportPlugin *pluginOf(int id) const;
 
     PanoHostApplication &m_app;

@@ -18,6 +18,16 @@ namespace PanoHost
 namespace
 {
 
+bool isXml(const QString &path)
+{
+    return path.endsWith(QLatin1String(".xml"), Qt::CaseInsensitive);
+}
+
+bool isScript(const QString &path)
+{
+    return path.endsWith(QLatin1String(".txt"), Qt::CaseInsensitive);
+}
+
 QLineEdit *recordEdit(const QWizardPage *page)
 {
     return page->findChild<QLineEdit *>(QStringLiteral("m_leConfigFile"));
@@ -30,7 +40,7 @@ FilledFiles sortFiles(const QStringList &files)
     FilledFiles sorted;
     for (const QString &file : files) {
         const QString path = QDir().absoluteFilePath(file);
-        if (path.endsWith(QLatin1String(".xml"), Qt::CaseInsensitive)) {
+        if (isXml(path) || isScript(path)) {
             sorted.record = path;
         } else {
             sorted.photos += path;
@@ -42,14 +52,16 @@ FilledFiles sortFiles(const QStringList &files)
 
 int headFor(const FilledFiles &files, const QVector<ImportPlugin> &plugins, int chosen)
 {
-    const auto readsXml = [](const ImportPlugin &plugin) {
-        return plugin.head() == QLatin1String("papywizard")
-            || plugin.head() == QLatin1String("vrdrive2");
+    const auto reads = [&files](const ImportPlugin &plugin) {
+        const QString head = plugin.head();
+        return isScript(files.record)
+            ? head == QLatin1String("clauss")
+            : head == QLatin1String("papywizard") || head == QLatin1String("vrdrive2");
     };
-    if (chosen >= 0 && (files.record.isEmpty() || readsXml(plugins.at(chosen)))) {
+    if (chosen >= 0 && (files.record.isEmpty() || reads(plugins.at(chosen)))) {
         return chosen;
     }
-    const auto found = std::find_if(plugins.begin(), plugins.end(), readsXml);
+    const auto found = std::find_if(plugins.begin(), plugins.end(), reads);
     return found == plugins.end() ? chosen : static_cast<int>(found - plugins.begin());
 }
 
@@ -59,8 +71,16 @@ QString recordPath(const QWizardPage *page)
     return edit == nullptr ? QString() : edit->text();
 }
 
-void fillPage(PanoHostApplication &app, QWizardPage *page, const FilledFiles &files)
+QString fillPage(PanoHostApplication &app, QWizardPage *page, const FilledFiles &files)
 {
+    // Sorted as they are, only their names can be in the way.
+    if (NumberedLinks::areNeeded(files.photos)) {
+        return QCoreApplication::translate(
+            "PanoHost::ImportWizard",
+            "The name of a photo holds a double quote or a line end, which file dialogs cannot "
+            "take. "
+            "Rename it, or use \"panohost import\" on the command line.");
+    }
     QLineEdit *edit = recordEdit(page);
     if (edit != nullptr && !files.record.isEmpty()) {
         edit->setText(files.record);
@@ -68,8 +88,8 @@ void fillPage(PanoHostApplication &app, QWizardPage *page, const FilledFiles &fi
         Q_EMIT edit->editingFinished();
     }
     auto *button = page->findChild<QAbstractButton *>(QStringLiteral("m_pbSelectImages"));
-    if (button == nullptr || files.photos.isEmpty() || NumberedLinks::areNeeded(files.photos)) {
-        return;
+    if (button == nullptr || files.photos.isEmpty()) {
+        return {};
     }
     XUISettings &settings = *app.UIInstances()->settings;
     const bool systemDialog = settings.useSystemFileDialog;
@@ -78,6 +98,8 @@ void fillPage(PanoHostApplication &app, QWizardPage *page, const FilledFiles &fi
     dialogs.answerNextFileDialog(files.photos);
     button->click();
     settings.useSystemFileDialog = systemDialog;
+    return dialogs.fileDialogAnswered() ? QString()
+                                        : dialogs.takeMessages().join(QLatin1Char('\n'));
 }
 
 } // namespace PanoHost

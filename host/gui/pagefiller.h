@@ -14,7 +14,7 @@ namespace PanoHost
 
 /** Files dropped onto the wizard or named on the command line. */
 struct FilledFiles {
-    QString record; ///< the last one that ends in ".xml"; empty: none
+    QString record; ///< the last one that ends in ".xml" or ".txt"; empty: none
     QStringList photos; ///< all others
 };
 
@@ -30,7 +30,11 @@ struct FilledFiles {
 /** The record that \p page shows; empty when it has none. */
 [[nodiscard]] QString recordPath(const QWizardPage *page);
 
-/** Enters \p files into a plug-in's \p page the way a user would. */
-void fillPage(PanoHostApplication &app, QWizardPage *page, const FilledFiles &files);
+/**
+ * Enters \p files into a plug-in's \p page the way a user would. Answers why it cannot be done, for
+ * the user; empty when it was done.
+ */
+[[nodiscard]] QString fillPage(PanoHostApplication &app, QWizardPage *page,
+                               const FilledFiles &files);
 
 } // namespace PanoHost

@@ -7,11 +7,30 @@
 #include "host/core/pluginlibrary.h"
 #include "host/gui/importwizard.h"
 
+#include <QMessageBox>
 #include <QStyle>
 #include <QStyleFactory>
 
+#include <unistd.h>
+
 namespace PanoHost
 {
+
+namespace
+{
+
+/** Started from a menu, the program has nobody who reads its standard error. */
+void showFailure(const Failure &failure)
+{
+    if (isatty(STDERR_FILENO) == 1) {
+        return;
+    }
+    QMessageBox box(QMessageBox::Critical, QStringLiteral("panohost"), failure.text());
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+} // namespace
 
 void prepareWindow()
 {
@@ -30,7 +49,12 @@ ExitCode runWindow(Session &session, const QStringList &arguments)
     if (QApplication::style()->objectName() == QLatin1String("windows")) {
         QApplication::setStyle(QStyleFactory::create(QStringLiteral("fusion")));
     }
-    const auto library = valueOrThrow(PluginLibrary::open(session.pluginPath));
+    auto opened = PluginLibrary::open(session.pluginPath);
+    if (!opened) {
+        showFailure(opened.error());
+        throw CommandError(opened.error());
+    }
+    const auto library = std::move(opened).value();
     ImportWizard wizard(session.app, *library);
     QObject::connect(&session.interrupt, &Interrupt::interrupted, &wizard, &QDialog::reject);
     wizard.show();

@@ -24,12 +24,15 @@ CliBench::CliBench()
                          QStringLiteral(PANOHOST_TEST_LIBRARY));
 }
 
-CliBench::Run CliBench::run(const QStringList &arguments) const
+CliBench::Run CliBench::run(const QStringList &arguments, const QString &outputFile) const
 {
     QProcess process;
     process.setWorkingDirectory(m_folder.path());
     process.setProcessEnvironment(m_environment);
     process.setStandardInputFile(QProcess::nullDevice());
+    if (!outputFile.isEmpty()) {
+        process.setStandardOutputFile(outputFile);
+    }
     process.start(QStringLiteral(PANOHOST_TEST_BINARY), arguments);
     constexpr int kHangMs = 120000;
     Run run;

@@ -26,8 +26,8 @@ public:
 
     [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }
 
-    /** Runs panohost in the folder until it ends. */
-    [[nodiscard]] Run run(const QStringList &arguments) const;
+    /** Runs panohost in the folder until it ends, its output kept or sent to \p outputFile. */
+    [[nodiscard]] Run run(const QStringList &arguments, const QString &outputFile = {}) const;
     /** The environment that `run` uses: nothing of the caller's but what programs need. */
     [[nodiscard]] QProcessEnvironment &environment() { return m_environment; }
     [[nodiscard]] const QProcessEnvironment &environment() const { return m_environment; }

@@ -76,6 +76,8 @@ void TestCliParts::firstPlainWordDecides_data()
     row("--help", Kind::General, "--help");
     row("-q --version", Kind::General, "-q --version");
     row("import --help", Kind::Command, "--help");
+    row("help", Kind::General, "--help");
+    row("help import", Kind::Command, "--help");
     row("import check", Kind::Command, "check");
     row("--lang fr -v import a b", Kind::Command, "--lang fr -v a b");
     row("imprt a", Kind::Unknown, "imprt a");

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void previewIsAPicture();
     void checkReportsAndRefuses();
     void settingsFileIsUsed();
+    void fullDiskIsSaid();
     void quietSaysNothing();
     void colorIsUsedOnRequestOnly_data();
     void colorIsUsedOnRequestOnly();
@@ -245,6 +246,16 @@ void TestCliUsage::settingsFileIsUsed()
     QVERIFY2(
         m_bench.content(QStringLiteral("s.ini")).contains("[7A21C94E-5B20-2020-2020-483181480AB7]"),
         m_bench.content(QStringLiteral("s.ini")).constData());
+}
+
+void TestCliUsage::fullDiskIsSaid()
+{
+    const CliBench::Run run
+        = m_bench.run({ QStringLiteral("plugins") }, QStringLiteral("/dev/full"));
+    QCOMPARE(run.exitCode, 1);
+    QCOMPARE(run.err,
+             QStringLiteral("panohost: error: standard output: No space left on device; "
+                            "is the disk full?\n"));
 }
 
 void TestCliUsage::quietSaysNothing()

@@ -43,6 +43,8 @@ private Q_SLOTS:
     void finishAfterSavingDoesNotAsk();
     void droppedFilesAreFilledIn();
     void xmlGoesToAHeadThatReadsIt();
+    void scriptGoesToAHeadThatReadsIt();
+    void namesThatTheDialogCannotTakeAreSaid();
     void unreadablePhotoKeepsNextDisabled();
     void subtitleLinksOpenInTheBrowser();
     void enterMovesOnePageOnly();
@@ -306,6 +308,30 @@ void TestImportWizard::xmlGoesToAHeadThatReadsIt()
     list->setCurrentRow(3);
     m_wizard->fillIn({ writeRecord(2) });
     QVERIFY(m_wizard->currentPage()->inherits("UIWPVRDrive2"));
+}
+
+void TestImportWizard::scriptGoesToAHeadThatReadsIt()
+{
+    auto *list = m_wizard->findChild<QListWidget *>(QStringLiteral("m_heads"));
+    list->setCurrentRow(2);
+    const QString script
+        = TestPhotos::writeFile(m_folder->filePath(QStringLiteral("Script.TXT")), "");
+    m_wizard->fillIn({ script });
+    QVERIFY(m_wizard->currentPage()->inherits("UIWPClauss"));
+    QCOMPARE(
+        m_wizard->currentPage()->findChild<QLineEdit *>(QStringLiteral("m_leConfigFile"))->text(),
+        script);
+}
+
+void TestImportWizard::namesThatTheDialogCannotTakeAreSaid()
+{
+    const QString photo = m_folder->filePath(QStringLiteral("a\"b.jpg"));
+    TestPhotos::writeOrdinary(photo);
+    DialogCatcher dialogs;
+    m_wizard->fillIn({ writeRecord(1), photo });
+    const QStringList messages = dialogs.takeMessages();
+    QCOMPARE(messages.size(), 1);
+    QVERIFY(messages.first().contains(QLatin1String("double quote")));
 }
 
 void TestImportWizard::unreadablePhotoKeepsNextDisabled()
