@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace PanoHead
 {
@@ -16,6 +17,8 @@ constexpr double kMargin = 50.0; // pixels around the outermost centres
 constexpr double kBytesPerPixel = 4.0;
 constexpr double kRoundingReserve
     = 1.0 - 1e-6; // a reduced canvas never exceeds the limit by rounding
+// A step so small that its scale is beyond 32-bit floats is no step.
+constexpr double kSmallestUsableStep = kCellSide / double{ std::numeric_limits<float>::max() };
 
 /** Places of a layout in the precision in which the head's page computes them. */
 template <typename Real> class Layout
@@ -32,13 +35,23 @@ public:
     {
     }
 
+    /** Whether the canvas as computed is within the limits. */
+    [[nodiscard]] bool fits() const
+    {
+        const double width = std::floor(static_cast<double>(canvasSide(m_yawSpan, m_scale)));
+        const double height = std::floor(static_cast<double>(canvasSide(m_pitchSpan, m_scale)));
+        return std::max(width, height) <= m_rules.maxSide
+            && width * height <= static_cast<double>(m_rules.maxCanvasBytes) / kBytesPerPixel;
+    }
+
     [[nodiscard]] PreviewLayout result() const
     {
-        const double reduction = reductionToLimits();
+        const double reduction = fits() ? 1.0 : reductionToLimits();
         const Real scale = reduction < 1.0 ? static_cast<Real>(m_scale * reduction) : m_scale;
-        const double side = reduction < 1.0 ? kCellSide * reduction : kCellSide;
+        const double side = kCellSide * reduction;
         PreviewLayout layout;
-        layout.canvas = QSize(canvasSide(m_yawSpan, scale), canvasSide(m_pitchSpan, scale));
+        layout.canvas = QSize(static_cast<int>(canvasSide(m_yawSpan, scale)),
+                              static_cast<int>(canvasSide(m_pitchSpan, scale)));
         layout.cells.reserve(m_shots.size());
         for (int index = 0; index < m_shots.size(); ++index) {
             appendCell(layout, index, scale, side);
@@ -62,9 +75,7 @@ private:
         Real step = static_cast<Real>(kLargestStepDegrees);
         const auto lower = [&step](float from, float to) {
             const Real difference = std::abs(static_cast<Real>(to) - static_cast<Real>(from));
-            // A step so small that its scale is not finite is no step.
-            if (difference > 0 && difference < step
-                && std::isfinite(static_cast<Real>(kCellSide) / difference)) {
+            if (static_cast<double>(difference) > kSmallestUsableStep && difference < step) {
                 step = difference;
             }
         };
@@ -75,32 +86,31 @@ private:
         return std::max(step, static_cast<Real>(m_rules.smallestStepDegrees));
     }
 
-    /** Factor for the scale, 1 when the canvas as computed is within the limits. */
+    /** Factor for the scale of a canvas that does not fit. */
     [[nodiscard]] double reductionToLimits() const
     {
-        const double width = static_cast<double>(m_scale) * static_cast<double>(m_yawSpan);
-        const double height = static_cast<double>(m_scale) * static_cast<double>(m_pitchSpan);
         const double margins = 2.0 * kMargin;
-        const double maxPixels = static_cast<double>(m_rules.maxCanvasBytes) / kBytesPerPixel;
-        const double longest = std::max(width, height);
-        const bool fits = longest + margins < m_rules.maxSide + 1.0
-            && std::floor(width + margins) * std::floor(height + margins) <= maxPixels;
-        if (fits || longest <= 0.0) {
-            return 1.0;
-        }
+        const double fullWidth = static_cast<double>(m_scale) * static_cast<double>(m_yawSpan);
+        const double fullHeight = static_cast<double>(m_scale) * static_cast<double>(m_pitchSpan);
+        const double longest = std::max(fullWidth, fullHeight);
         // (r width + margins) (r height + margins) = maxPixels, solved for the larger root r.
-        // Divided by the longest side, so that no product overflows.
-        const double a = (width / longest) * (height / longest);
-        const double b = margins * (width / longest + height / longest);
+        // Divided by the longest side, so that no product overflows, and in the form in which no
+        // two close numbers are subtracted.
+        const double width = fullWidth / longest;
+        const double height = fullHeight / longest;
+        const double maxPixels = static_cast<double>(m_rules.maxCanvasBytes) / kBytesPerPixel;
+        const double a = width * height;
+        const double b = margins * (width + height);
         const double c = margins * margins - maxPixels;
-        const double bySize = a > 0.0 ? (-b + std::sqrt(b * b - 4.0 * a * c)) / (2.0 * a) : -c / b;
+        const double bySize = -2.0 * c / (b + std::sqrt(b * b - 4.0 * a * c));
         const double bySide = m_rules.maxSide - margins;
         return kRoundingReserve * std::min(bySize, bySide) / longest;
     }
 
-    [[nodiscard]] static int canvasSide(Real span, Real scale)
+    /** In pixels and fractions of one. */
+    [[nodiscard]] static Real canvasSide(Real span, Real scale)
     {
-        return static_cast<int>(scale * span + static_cast<Real>(2.0 * kMargin));
+        return scale * span + static_cast<Real>(2.0 * kMargin);
     }
 
     void appendCell(PreviewLayout &layout, int index, Real scale, double side) const
@@ -137,8 +147,12 @@ PreviewLayout layOutShots(const QVector<ShootData> &shots, const AngleExtents &e
         return {};
     }
     if (rules.precision == Precision::Single) {
-        return Layout<float>(shots, extents, rules).result();
+        const Layout<float> layout(shots, extents, rules);
+        if (layout.fits()) {
+            return layout.result();
+        }
     }
+    // A reduced canvas has no literal places, and spans and scales can be too large for floats.
     return Layout<double>(shots, extents, rules).result();
 }
 
