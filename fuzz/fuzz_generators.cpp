@@ -1,0 +1,108 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: MIT
+#include "fuzz/bytesource.h"
+#include "fuzz/check.h"
+#include "fuzz/shoot.h"
+#include "importers/clauss/clausstospp.h"
+#include "importers/common/anglerange.h"
+#include "importers/gigapan/gigapantospp.h"
+#include "importers/gigapan/gridguess.h"
+#include "importers/gigapan/gridlayout.h"
+#include "importers/vrdrive2/vrdrive2tospp.h"
+
+using namespace PanoHead;
+
+namespace
+{
+
+constexpr int kMaxPhotos = 128; // links of 64 directions and more are searched by an index
+
+const PhotoSet &photos()
+{
+    static const PhotoSet set(kMaxPhotos, false);
+    return set;
+}
+
+QVector<ShootData> takeShots(ByteSource &bytes)
+{
+    QVector<ShootData> shots(bytes.count(kMaxPhotos));
+    for (ShootData &shot : shots) {
+        shot.yaw = bytes.angle();
+        shot.pitch = bytes.angle();
+        shot.roll = bytes.angle();
+    }
+    return shots;
+}
+
+/** Any shots, any number of photos, any answers of a page: also those that no page lets through. */
+void generateFromShots(ByteSource &bytes)
+{
+    const int count = bytes.count(kMaxPhotos);
+    QStringList names = photos().names(count);
+    const QList<XIImageDef *> images = photos().images(bytes.count(kMaxPhotos));
+    VRDrive2ToSPP xml;
+    xml.nbPicts = bytes.take<qint32>() % 64;
+    xml.xmlFocal = bytes.take<double>();
+    xml.xmlLensType = bytes.between(0, 1);
+    const auto focal = bytes.take<double>();
+    const auto lens = static_cast<LensModel>(bytes.between(-1, 1));
+    xml.shots = takeShots(bytes);
+    xml.generateSPP(names, images, focal, lens);
+    checkDescription(xml, count, xml.shots.size());
+
+    ClaussToSPP script;
+    script.shots = xml.shots;
+    script.generateSPP(names, images);
+    checkDescription(script, count, script.shots.size());
+
+    const AngleExtents extents = extentsOf(xml.shots);
+    for (const Span span : { Span::Absolute, Span::NegatedSumToo }) {
+        for (const Precision precision : { Precision::Single, Precision::Double }) {
+            const LayoutRules rules{ static_cast<double>(bytes.between(0, 8)), span, precision,
+                                     32'767, kFuzzCanvasBytes };
+            checkLayout(layOutShots(xml.shots, extents, rules), rules);
+        }
+    }
+}
+
+void generateFromGrid(ByteSource &bytes)
+{
+    const int count = bytes.count(kMaxPhotos);
+    const int rows = bytes.count(32) - 2;
+    const int columns = bytes.count(32) - 2;
+    const int bracket = bytes.take<qint32>();
+    const int ignored = bytes.take<qint32>();
+    const int mode = bytes.between(-1, 6);
+    const bool is360 = bytes.between(0, 1) == 1;
+    GigapanToSPP grid(rows, columns, mode, bracket, ignored);
+    grid.generateSPP(photos().names(count), is360);
+    for (const QStringList &group : grid.imageGroups) {
+        FUZZ_CHECK(!group.isEmpty());
+    }
+    for (const AuthorizedLink &link : grid.authorizedLinks) {
+        FUZZ_CHECK(link.indices[0] >= 0 && link.indices[0] < rows * columns);
+        FUZZ_CHECK(link.indices[1] >= 0 && link.indices[1] < rows * columns);
+    }
+    const GridSize guess = guessGrid(count);
+    FUZZ_CHECK(guess.rows >= 1 && guess.rows * guess.columns == count);
+    (void)columnsFor(count, ignored & 0xffff, bracket, rows);
+    const GridView view{ bytes.count(99) + 1, bytes.count(99) + 1, mode, bracket, ignored };
+    const PreviewLayout layout
+        = layOutGrid(view, QSize(bytes.between(0, 65'535), bytes.between(0, 65'535)));
+    FUZZ_CHECK(layout.canvas.width() <= 10'000 && layout.canvas.height() <= 10'000);
+    FUZZ_CHECK(layout.isEmpty() || layout.cells.size() == view.rows * view.columns);
+}
+
+} // namespace
+
+/** All generators and both layouts on values that come neither from a reader nor from a page. */
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    ByteSource bytes(data, size);
+    if (bytes.between(0, 3) == 0) {
+        generateFromGrid(bytes);
+    } else {
+        generateFromShots(bytes);
+    }
+    return 0;
+}
