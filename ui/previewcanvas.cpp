@@ -93,10 +93,9 @@ void PreviewCanvas::redraw()
         m_painter.reset(static_cast<int>(m_image.sizeInBytes() / kTilePart));
         indexCells();
         QPainter painter(&m_image);
-        prepare(painter);
         painter.fillRect(m_image.rect(), m_colours.background);
         for (int cell = 0; cell < m_scene.layout.cells.size(); ++cell) {
-            m_painter.draw(painter, m_scene, cell);
+            m_painter.draw(painter, m_scene, cell, m_colours.caption);
         }
         m_isValid = true;
     } catch (const std::bad_alloc &) {
@@ -110,22 +109,15 @@ void PreviewCanvas::patch(const QRegion &region)
     try {
         const std::vector<int> cells = cellsTouching(region);
         QPainter painter(&m_image);
-        prepare(painter);
         painter.setClipRegion(region);
         painter.fillRect(m_image.rect(), m_colours.background);
         for (const int cell : cells) {
-            m_painter.draw(painter, m_scene, cell);
+            m_painter.draw(painter, m_scene, cell, m_colours.caption);
         }
         m_isValid = true;
     } catch (const std::bad_alloc &) {
         m_image = QImage();
     }
-}
-
-void PreviewCanvas::prepare(QPainter &painter) const
-{
-    painter.setPen(m_colours.pen);
-    painter.setBrush(Qt::NoBrush);
 }
 
 /** Sorts the cells by their photo and by their place. */

@@ -19,11 +19,11 @@ namespace PanoHead
 /** Colours of a layout picture. */
 struct PreviewColours {
     QBrush background;
-    QPen pen; ///< outlines and captions
+    QPen caption; ///< outlines have the painter's default pen
 
     friend bool operator==(const PreviewColours &a, const PreviewColours &b)
     {
-        return a.background == b.background && a.pen == b.pen;
+        return a.background == b.background && a.caption == b.caption;
     }
 };
 
@@ -59,7 +59,6 @@ private:
     [[nodiscard]] std::vector<int> changedCells(const PreviewScene &scene) const;
     [[nodiscard]] QRect paintedRect(const PreviewScene &scene, int cell) const;
     [[nodiscard]] std::vector<int> cellsTouching(const QRegion &region) const;
-    void prepare(QPainter &painter) const;
 
     bool m_isValid = false;
     PreviewScene m_scene;

@@ -25,12 +25,15 @@ QPixmap turned(const QPixmap &thumbnail, float rollDegrees)
     return thumbnail.transformed(QTransform().rotate(static_cast<qreal>(rollDegrees)));
 }
 
-void drawCaption(QPainter &painter, const PreviewCell &cell)
+void drawCaption(QPainter &painter, const PreviewCell &cell, const QPen &pen)
 {
+    const QPen outline = painter.pen();
+    painter.setPen(pen);
     painter.drawText(cell.box.adjusted(1.0, 1.0, -1.0, -1.0),
                      QStringLiteral("%1 (%2,%3)")
                          .arg(QString::number(cell.image), QString::number(cell.yaw),
                               QString::number(cell.pitch)));
+    painter.setPen(outline);
 }
 
 } // namespace
@@ -50,7 +53,7 @@ void CellPainter::reset(int tileBytes)
     m_tiles.setMaxCost(tileBytes);
 }
 
-void CellPainter::draw(QPainter &painter, const PreviewScene &scene, int cell)
+void CellPainter::draw(QPainter &painter, const PreviewScene &scene, int cell, const QPen &caption)
 {
     const PreviewCell &drawn = scene.layout.cells.at(cell);
     const bool isFitted = scene.style == CellStyle::FittedWithCaption;
@@ -63,7 +66,7 @@ void CellPainter::draw(QPainter &painter, const PreviewScene &scene, int cell)
     }
     painter.drawRect(drawn.box);
     if (isFitted) {
-        drawCaption(painter, drawn);
+        drawCaption(painter, drawn, caption);
     }
 }
 

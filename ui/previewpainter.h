@@ -6,6 +6,7 @@
 
 #include <QCache>
 #include <QList>
+#include <QPen>
 #include <QPixmap>
 #include <QPoint>
 #include <QSize>
@@ -33,9 +34,9 @@ struct PreviewScene {
 [[nodiscard]] const QPixmap *thumbnailOf(const PreviewScene &scene, const PreviewCell &cell);
 
 /**
- * Draws cells with the painter's pen. A thumbnail is first scaled into a tile of its own that
- * starts on a whole pixel: copying a tile gives the same pixels under any clip, scaling under a
- * clip does not. Some tiles are kept for the redraw of their neighbours.
+ * Draws cells, outlined with the painter's pen. A thumbnail is first scaled into a tile of its own
+ * that starts on a whole pixel: copying a tile gives the same pixels under any clip, scaling under
+ * a clip does not. Some tiles are kept for the redraw of their neighbours.
  */
 class CellPainter
 {
@@ -46,7 +47,7 @@ public:
     {
     }
 
-    void draw(QPainter &painter, const PreviewScene &scene, int cell);
+    void draw(QPainter &painter, const PreviewScene &scene, int cell, const QPen &caption);
     /** The photo of \p cell has changed. */
     void forget(int cell) { m_tiles.remove(cell); }
     /** Everything has changed. */
