@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
 #include <QDoubleSpinBox>
 #include <QFileInfo>
 #include <QLibrary>
@@ -138,6 +139,7 @@ public:
     std::atomic<int> photosOnTheGuiThread{ 0 };
     Contract::UiSettings uiSettings{ false };
     Contract::UiInstances ui{ &uiSettings };
+    Contract::UiInstances *offeredUi = &ui;
 
     void slot1() override { qFatal("slot 1 of the host was called"); }
     void slot2() override { qFatal("slot 2 of the host was called"); }
@@ -184,7 +186,7 @@ public:
     Contract::UiInstances *uiInstances() override
     {
         calls.append(QStringLiteral("uiInstances"));
-        return &ui;
+        return offeredUi;
     }
 
 private:
@@ -219,8 +221,9 @@ QStringList importNames(const char *heads)
 /** The plug-in called \p name of a fresh set of all. */
 QObject *pluginCalled(Contract::PluginLibrary *library, const QString &name)
 {
-    for (const QPointer<QObject> &plugin : library->plugins(2)) {
-        if (!plugin.isNull() && plugin->objectName() == name) {
+    const QList<QPointer<QObject>> plugins = library->plugins(2);
+    for (const QPointer<QObject> &plugin : plugins.mid(plugins.size() - 4)) {
+        if (plugin->objectName() == name) {
             return plugin;
         }
     }
@@ -269,6 +272,7 @@ private Q_SLOTS:
     void everyPluginHasOnePage_data();
     void everyPluginHasOnePage();
     void aDeletedPageIsTolerated();
+    void aPageDeletedWhileItReadsStopsItsThread();
     void stateGoesThroughTheHostsSettings_data();
     void stateGoesThroughTheHostsSettings();
     void storedStateOfAnyKindIsAccepted();
@@ -282,6 +286,8 @@ private Q_SLOTS:
     void theModuleUnloadsForGood();
     void theModuleUnloadsWhilePhotosAreRead();
     void theModuleLoadsAndUnloadsAgainAndAgain();
+
+    void aHostWithoutUiSettingsIsServedToo(); // the last one: the module stays loaded
 
 private:
     /** A Papywizard page with a record of two bracketed positions and its four photos read. */
@@ -643,6 +649,25 @@ void TestPlugin::aDeletedPageIsTolerated()
     QCOMPARE(host().written.first().value, QVariant(QByteArray()));
 }
 
+void TestPlugin::aPageDeletedWhileItReadsStopsItsThread()
+{
+    Contract::Module module;
+    for (int round = 0; round < 20; ++round) {
+        prepare(module);
+        host().slowness = 2000;
+        DialogClicker clicker;
+        clicker.chooseFiles(m_photos);
+        widget<QPushButton>("m_pbSelectImages")->click();
+        delete m_page;
+        // Nobody reads any more: the host gives out no further photo.
+        const std::size_t photos = host().photos().size();
+        host().slowness = 0;
+        QCoreApplication::processEvents();
+        QCOMPARE(host().photos().size(), photos);
+    }
+    delete module.root();
+}
+
 void TestPlugin::stateGoesThroughTheHostsSettings_data()
 {
     aboutDataOfThePlugins_data();
@@ -888,6 +913,27 @@ void TestPlugin::theModuleLoadsAndUnloadsAgainAndAgain()
         QVERIFY(!Contract::isMapped());
     }
     QCOMPARE(host().written.size(), 20 * 4);
+}
+
+void TestPlugin::aHostWithoutUiSettingsIsServedToo()
+{
+    // Settings of its own are freed by XUI::exit() alone, which no host calls: the module stays, so
+    // that they are not taken for a leak.
+    QPluginLoader loader(Contract::libraryPath());
+    host().offeredUi = nullptr;
+    Contract::PluginLibrary *library = Contract::asLibrary(loader.instance());
+    QVERIFY(library != nullptr);
+    QWizardPage *page = Contract::asImport(pluginCalled(library, QStringLiteral("XMerlinImport")))
+                            ->pages()
+                            .first();
+    DialogClicker clicker;
+    clicker.cancelFiles();
+    page->findChild<QPushButton *>(QStringLiteral("m_pbSelectImages"))->click();
+    QVERIFY(clicker.isSettled());
+    QVERIFY(!clicker.fileDialogs().first().options.testFlag(QFileDialog::DontUseNativeDialog));
+    QCOMPARE(QDir::searchPaths(QStringLiteral("UI")), QStringList{ QStringLiteral(":/UI") });
+    delete loader.instance();
+    host().offeredUi = &host().ui;
 }
 
 int main(int argc, char *argv[])
