@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "plugin/xiimagedef.h"
+
+#include <QList>
+
+/** A host's photo for tests without a GUI: it has no preview, and counts what it is asked. */
+class PlainImage : public XIImageDef
+{
+public:
+    explicit PlainImage(long shotTime)
+        : m_shotTime(shotTime)
+    {
+    }
+
+    PlainImage(float focalMm, int lensType)
+        : m_focalMm(focalMm)
+        , m_lensType(lensType)
+    {
+    }
+
+    [[nodiscard]] int questions() const { return m_questions; }
+
+    QPixmap *Thumbnail() override { return nullptr; }
+    void Reserved1() override { }
+    void Reserved2() override { }
+    void Reserved3() override { }
+    void Reserved4() override { }
+    void Reserved5() override { }
+    void Reserved6() override { }
+    void Reserved7() override { }
+    void Reserved8() override { }
+    void Reserved9() override { }
+    void Reserved10() override { }
+    float FocalLength() override { return answer(m_focalMm); }
+    int LensType() override { return answer(m_lensType); }
+    long ShotTime() override { return answer(m_shotTime); }
+    float Exposure() override { return answer(0.0F); }
+
+private:
+    template <typename T> T answer(T value)
+    {
+        ++m_questions;
+        return value;
+    }
+
+    float m_focalMm = 0.0F;
+    int m_lensType = 0;
+    long m_shotTime = 0;
+    int m_questions = 0;
+};
