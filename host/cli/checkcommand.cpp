@@ -24,7 +24,9 @@ CommandLine checkLine()
           "Says what record and photos know: counts, focal length, lens, order, pauses.\n"
           "Writes nothing. Exit status 3 when 'import' would refuse them.",
           "# 33 photos, 36 shots: where did the shoot stop?\n"
-          "panohost check papywizard shoot.xml IMG_*.jpg" },
+          "panohost check papywizard shoot.xml IMG_*.jpg\n"
+          "# do 6 rows of brackets of 3 come out even?\n"
+          "panohost check gigapan IMG_*.jpg --rows 6 --bracket 3" },
         {});
 }
 
@@ -59,6 +61,16 @@ void printRecord(const QString &path, const RecordSummary &record)
                  .arg(displayName(path), counted(record.shotCount, "shot"),
                       QString::number(record.bracketCount), millimetres(record.focal35mm),
                       lensName(record.lens)));
+}
+
+void printGrid(const GridChoice &grid, int photoCount)
+{
+    const int used = std::max(photoCount - grid.ignoredCount, 0);
+    printRow("grid",
+             QStringLiteral("%1, %2, bracket %3, %4 ignored")
+                 .arg(counted(grid.rows, "row"),
+                      counted(used / grid.bracketCount / grid.rows, "column"),
+                      QString::number(grid.bracketCount), QString::number(grid.ignoredCount)));
 }
 
 /** The photos that can be read; names the others. */
@@ -145,6 +157,8 @@ ExitCode runCheck(Session &session, const QStringList &arguments)
     const ImportRequest request = importRequest(line);
     if (request.head->readRecord != nullptr) {
         printRecord(request.record, readRecord(*request.head, request.record));
+    } else {
+        printGrid(*request.grid, request.photos.size());
     }
     requirePhotoFiles(request.photos);
     const QStringList photos = orderedPhotos(session, request.photos, request.order);

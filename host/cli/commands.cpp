@@ -55,6 +55,8 @@ CommandLine generalLine()
               + list.toUtf8(),
           "# a record and its photos, to a project for Hugin\n"
           "panohost import papywizard shoot.xml IMG_*.jpg -o shoot.pto\n"
+          "# a head without a record: a grid of 4 rows\n"
+          "panohost import gigapan IMG_*.jpg --rows 4 -o shoot.pto\n"
           "# is anything wrong with them?\n"
           "panohost check papywizard shoot.xml IMG_*.jpg\n"
           "# the options of one command\n"

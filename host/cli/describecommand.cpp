@@ -24,6 +24,8 @@ CommandLine describeLine()
           "fresh from record and photos: as JSON, or as a table for the eye.",
           "# what does the head say?\n"
           "panohost describe papywizard shoot.xml IMG_*.jpg --text\n"
+          "# where does each photo of a grid go?\n"
+          "panohost describe gigapan IMG_*.jpg --rows 4 --mode serpentine --text\n"
           "# the same from a file\n"
           "panohost describe shoot.json --text" },
         QVector<OptionRow>{

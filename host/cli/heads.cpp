@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/cli/heads.h"
 
+#include "host/cli/claussrecord.h"
 #include "host/cli/commanderror.h"
 #include "host/cli/displayname.h"
 #include "host/cli/papywizardrecord.h"
@@ -18,8 +19,23 @@ const QVector<HeadRow> &heads()
 {
     static const QVector<HeadRow> rows{
         { "papywizard", "RECORD.xml", PageDriver::RecordEntry::TextEdited, readPapywizardSummary,
+          true,
           "focal|lens|rotate|invert-pitch|detect|stack|skip-optimization|recorded-location"
-          "|clean-links|auto-detection|no-auto-detection|ignore-exif-rotation|order" },
+          "|clean-links|no-clean-links|auto-detection|no-auto-detection|ignore-exif-rotation"
+          "|order" },
+        { "vrdrive2", "RECORD.xml", PageDriver::RecordEntry::TextEdited, readPapywizardSummary,
+          true,
+          "focal|lens|rotate|invert-pitch|output-mode|detect|stack|skip-optimization"
+          "|recorded-location|clean-links|no-clean-links|auto-detection|no-auto-detection"
+          "|ignore-exif-rotation|order" },
+        { "clauss", "SCRIPT.txt", PageDriver::RecordEntry::EditingFinished, readClaussSummary,
+          false,
+          "focal|lens|invert-pitch|skip-optimization|recorded-location|clean-links"
+          "|no-clean-links|auto-detection|no-auto-detection|ignore-exif-rotation|order" },
+        { "gigapan", nullptr, PageDriver::RecordEntry::TextEdited, nullptr, false,
+          "focal|lens|rows|mode|bracket|ignore|wrap360|overlap|detect|stack|skip-optimization"
+          "|clean-links|no-clean-links|auto-detection|no-auto-detection|ignore-exif-rotation"
+          "|order" },
     };
     return rows;
 }

@@ -18,6 +18,7 @@ struct RecordSummary {
     int bracketCount = 1; ///< photos per position; 1 without brackets
     double focal35mm = 0.0; ///< 0: the record names none
     LensModel lens = LensModel::NotChosen; ///< `NotChosen`: the record names none
+    QStringList remarks; ///< what the importer leaves out of it, for the user
 };
 
 /** A head on the command line: its name, its record, its options. */
@@ -26,7 +27,8 @@ struct HeadRow {
     const char *recordName; ///< stands for the record in messages; null for heads without one
     PageDriver::RecordEntry recordEntry;
     Result<RecordSummary> (*readRecord)(const QString &path); ///< null for heads without a record
-    const char *options; ///< long names of the options that its page has, "focal|lens"
+    bool pageAsksForLens; ///< it has fields for focal length and lens
+    const char *options; ///< long names of its options, "focal|lens"
 };
 
 [[nodiscard]] const QVector<HeadRow> &heads();

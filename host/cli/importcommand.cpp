@@ -28,7 +28,13 @@ CommandLine importLine()
           "# no EXIF data, a lens of 24 mm (35 mm equivalent), camera in portrait position\n"
           "panohost import papywizard shoot.xml *.tif --focal 24 --rotate 90 -o shoot.pto\n"
           "# a head that counts downwards; the description goes to another program\n"
-          "panohost import papywizard shoot.xml *.jpg --invert-pitch --json - | jq .positions" },
+          "panohost import papywizard shoot.xml *.jpg --invert-pitch --json - | jq .positions\n"
+          "# brackets of a VR Drive 2, to HDR radiance\n"
+          "panohost import vrdrive2 shoot.xml *.jpg --output-mode hdr -o shoot.pto\n"
+          "# the script that a Clauss Rodeon ran\n"
+          "panohost import clauss script.txt *.jpg -o shoot.pto\n"
+          "# a Gigapan: 4 rows, swept downwards row by row, a test shot in front\n"
+          "panohost import gigapan *.jpg --rows 4 --mode rows-down --ignore 1 -o shoot.pto" },
         QVector<OptionRow>{
             { "-o|--output", "NAME.pto", "the Hugin project to write" },
             { "--json", "FILE|-", "the description as JSON; '-' is standard output" },

@@ -43,8 +43,14 @@ void ImportJob::checkInputs()
         m_record = readRecord(*m_request.head, m_request.record);
     }
     requirePhotoFiles(m_request.photos);
+    for (const QString &remark : qAsConst(m_record.remarks)) {
+        m_session.console.warning(
+            QStringLiteral("%1: %2").arg(displayName(m_request.record), remark));
+    }
     if (hasRecord) {
         requireMatchingCounts(displayName(m_request.record), m_record, m_request.photos.size());
+    } else {
+        requireFullGrid(*m_request.grid, m_request.photos.size());
     }
     m_photos = orderedPhotos(m_session, m_request.photos, m_request.order);
 }
@@ -57,7 +63,10 @@ void ImportJob::preparePage()
         m_page->enterRecord(m_request.record, m_request.head->recordEntry);
     }
     m_page->choosePhotos(namesForPage());
-    setFocalAndLens();
+    chooseLensFor(photoInfos());
+    if (m_request.grid) {
+        enterGrid(*m_page, *m_request.grid);
+    }
     turnCamera();
     pressButtons();
 }
@@ -98,17 +107,29 @@ QStringList ImportJob::namesForPage()
     return links;
 }
 
-void ImportJob::setFocalAndLens()
+QVector<PhotoInfo> ImportJob::photoInfos() const
 {
     QVector<PhotoInfo> infos;
     infos.reserve(m_photos.size());
     for (const QString &photo : m_photos) {
         infos += valueOrThrow(m_session.app.photoInfo(photo));
     }
-    const LensFacts photoFacts = lensFactsOf(infos);
+    return infos;
+}
+
+void ImportJob::chooseLensFor(const QVector<PhotoInfo> &photos)
+{
     const LensFacts recordFacts{ m_record.focal35mm, m_record.lens };
-    const LensChoice choice = chooseLens(m_request, photoFacts, recordFacts);
+    const LensChoice choice = chooseLens(m_request, lensFactsOf(photos), recordFacts);
     m_warnings += choice.warnings;
+    if (!m_request.head->pageAsksForLens) {
+        m_warnings += focalSpreadWarnings(m_request, photos);
+        m_wishes.ignoreExifRotation = m_request.ignoreExifRotation;
+        m_wishes.focal35mm = m_request.focal35mm;
+        m_wishes.lens
+            = m_request.lensSource == ValueSource::Given ? choice.lens : LensModel::NotChosen;
+        return;
+    }
     m_page->setNumber(QStringLiteral("m_spFocal"), choice.focal35mm);
     m_page->setIndex(QStringLiteral("m_cbLensType"), static_cast<int>(choice.lens));
 }
@@ -142,11 +163,13 @@ Panorama ImportJob::handOver()
     const StructuredPanoramaProperties description = m_page->handOver();
     PanoHostApplication &app = m_session.app;
     Panorama panorama = valueOrThrow(joinPanorama(
-        description, m_source, [&app](const QString &path) { return app.photoInfo(path); }));
+        description, m_source, [&app](const QString &path) { return app.photoInfo(path); },
+        m_wishes));
     panorama.warnings = m_warnings + panorama.warnings;
     for (const QString &warning : qAsConst(panorama.warnings)) {
         m_session.console.warning(warning);
     }
+    panorama.warnings = m_record.remarks + panorama.warnings; // those were said at the start
     return panorama;
 }
 

@@ -44,7 +44,8 @@ public:
 private:
     [[nodiscard]] const ImportPlugin &openPlugin();
     [[nodiscard]] QStringList namesForPage();
-    void setFocalAndLens();
+    void chooseLensFor(const QVector<PhotoInfo> &photos);
+    [[nodiscard]] QVector<PhotoInfo> photoInfos() const;
     void turnCamera();
     void pressButtons();
 
@@ -54,6 +55,7 @@ private:
     QStringList m_photos;
     NumberedLinks m_links;
     QStringList m_warnings;
+    JoinWishes m_wishes;
     std::unique_ptr<PluginLibrary> m_library;
     SourceInfo m_source;
     std::unique_ptr<PageDriver> m_page; ///< before the library: goes first

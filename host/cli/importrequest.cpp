@@ -28,9 +28,12 @@ constexpr ButtonOption kButtonOptions[] = {
     { "auto-detection", nullptr, "m_autoStart", true },
     { "no-auto-detection", nullptr, "m_autoStart", false },
     { "clean-links", nullptr, "m_cleanLink", true },
+    { "no-clean-links", nullptr, "m_cleanLink", false },
     { "skip-optimization", nullptr, "m_noOptim", true },
     { "recorded-location", "yes", "m_GridOptim", true },
     { "recorded-location", "no", "m_GridOptim", false },
+    { "output-mode", "ldr", "m_rbOutputMode1", true },
+    { "output-mode", "hdr", "m_rbOutputMode2", true },
 };
 
 QVector<ButtonState> buttonsFrom(const CommandLine &line)
@@ -55,11 +58,12 @@ void refuseContradictions(const CommandLine &line)
                                         "a stack take their place from its reference photo"),
                          QStringLiteral("drop one of the two"));
     }
-    if (line.isSet(QStringLiteral("auto-detection"))
-        && line.isSet(QStringLiteral("no-auto-detection"))) {
-        throw usageError(QStringLiteral("--auto-detection and --no-auto-detection exclude each "
-                                        "other"),
-                         QStringLiteral("drop one of the two"));
+    for (const QString &name :
+         { QStringLiteral("auto-detection"), QStringLiteral("clean-links") }) {
+        if (line.isSet(name) && line.isSet(QStringLiteral("no-") + name)) {
+            throw usageError(QStringLiteral("--%1 and --no-%1 exclude each other").arg(name),
+                             QStringLiteral("drop one of the two"));
+        }
     }
 }
 
@@ -126,7 +130,9 @@ void setFiles(ImportRequest &request, QStringList words)
     }
     if (words.isEmpty()) {
         throw usageError(QStringLiteral("no photos given"),
-                         QStringLiteral("name them after the record, e.g. DIR/*.jpg"));
+                         request.head->recordName == nullptr
+                             ? QStringLiteral("name them, e.g. DIR/*.jpg")
+                             : QStringLiteral("name them after the record, e.g. DIR/*.jpg"));
     }
     request.photos.reserve(words.size());
     for (const QString &word : words) {
@@ -138,7 +144,7 @@ void setFiles(ImportRequest &request, QStringList words)
 
 QVector<OptionRow> importOptions()
 {
-    return {
+    return QVector<OptionRow>{
         { "--focal", "MM|xml|exif",
           "focal length, 35 mm equivalent; default: from the photos, else from the record" },
         { "--lens", "standard|fisheye|xml", "default: what the photos say, else the record", true },
@@ -148,18 +154,23 @@ QVector<OptionRow> importOptions()
           "control points in the reference exposures or in all of them", true },
         { "--stack", "hard|detect", "photos of a bracket: hard links, or detect control points",
           true },
+        { "--output-mode", "ldr|hdr",
+          "vrdrive2: brackets become an ordinary picture (default) or HDR radiance", true },
         { "--skip-optimization", nullptr,
           "keep the recorded angles; good for previews and short lenses only" },
         { "--recorded-location", "yes|no", "start the optimisation from the recorded angles",
           true },
-        { "--clean-links", nullptr, "remove wrong control points after detection" },
+        { "--clean-links", nullptr,
+          "remove wrong control points after detection (vrdrive2: default)" },
+        { "--no-clean-links", nullptr, "keep them" },
         { "--auto-detection", nullptr, "detect control points without asking (default)" },
         { "--no-auto-detection", nullptr, "do not" },
         { "--ignore-exif-rotation", nullptr,
           "the photos' EXIF orientation is wrong; use the recorded roll alone" },
         { "--order", "name|time|given", "which photo belongs to which shot; default: by name",
           true },
-    };
+    }
+    + gridOptions();
 }
 
 CommandLine importingLine(CommandHelp help, const QVector<OptionRow> &ownOptions)
@@ -196,6 +207,9 @@ ImportRequest importRequest(const CommandLine &line)
     request.buttons = buttonsFrom(line);
     request.ignoreExifRotation = line.isSet(QStringLiteral("ignore-exif-rotation"));
     request.order = orderFrom(line.value(QStringLiteral("order")));
+    if (request.head->readRecord == nullptr) {
+        request.grid = gridChoice(line);
+    }
     setFiles(request, words);
     return request;
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "host/cli/commandline.h"
+#include "host/cli/gridchoice.h"
 #include "host/cli/heads.h"
 
 #include <optional>
@@ -38,6 +39,7 @@ struct ImportRequest {
     LensModel lens = LensModel::Standard; ///< when given
     int clockwiseTurns = 0; ///< quarter turns of the camera; negative: to the left
     bool invertPitch = false;
+    std::optional<GridChoice> grid; ///< of heads without a record
     QVector<ButtonState> buttons; ///< in the order in which they are pressed
     bool ignoreExifRotation = false;
 };

@@ -4,6 +4,7 @@
 
 #include "host/cli/commanderror.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace PanoHost
@@ -37,8 +38,10 @@ double chooseFocal(const ImportRequest &request, const LensFacts &photos, const 
     case ValueSource::Default:
         break;
     }
+    const bool photosAlone = request.head != nullptr && !request.head->pageAsksForLens;
     return givenOrThrow(photos.focal35mm > 0.0 ? photos.focal35mm : record.focal35mm,
-                        "the photos' EXIF data or the record");
+                        photosAlone ? "the photos' EXIF data"
+                                    : "the photos' EXIF data or the record");
 }
 
 LensModel chooseLensModel(const ImportRequest &request, const LensFacts &photos,
@@ -102,7 +105,7 @@ LensChoice chooseLens(const ImportRequest &request, const LensFacts &photos,
                    .arg(millimetres(photos.focal35mm), millimetres(record.focal35mm));
     }
     if (photos.focal35mm > 0.0 && photos.withoutFocal > 0) {
-        choice.warnings += QStringLiteral("%1 of the photos name no focal length; using the mean "
+        choice.warnings += QStringLiteral("%1 of the photos name no focal length; using that "
                                           "of the others; choose with --focal")
                                .arg(photos.withoutFocal);
     }
@@ -113,6 +116,25 @@ LensChoice chooseLens(const ImportRequest &request, const LensFacts &photos,
                                .arg(lensName(photos.lens), lensName(record.lens));
     }
     return choice;
+}
+
+QStringList focalSpreadWarnings(const ImportRequest &request, const QVector<PhotoInfo> &photos)
+{
+    double shortest = 0.0;
+    double longest = 0.0;
+    for (const PhotoInfo &photo : photos) {
+        if (photo.focal35mm > 0.0) {
+            shortest = shortest > 0.0 ? std::min(shortest, photo.focal35mm) : photo.focal35mm;
+            longest = std::max(longest, photo.focal35mm);
+        }
+    }
+    if (request.focalSource == ValueSource::Given
+        || longest - shortest <= kNotableDifference * shortest) {
+        return {};
+    }
+    return { QStringLiteral("the photos name focal lengths from %1 to %2; using their median; "
+                            "choose with --focal")
+                 .arg(millimetres(shortest), millimetres(longest)) };
 }
 
 } // namespace PanoHost

@@ -32,4 +32,11 @@ struct LensChoice {
 [[nodiscard]] LensChoice chooseLens(const ImportRequest &request, const LensFacts &photos,
                                     const LensFacts &record);
 
+/**
+ * For pages that take the focal length from the photos: a warning when the photos differ notably,
+ * as after zooming, and the user has not given one.
+ */
+[[nodiscard]] QStringList focalSpreadWarnings(const ImportRequest &request,
+                                              const QVector<PhotoInfo> &photos);
+
 } // namespace PanoHost

@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QScrollArea>
 #include <QSlider>
+#include <QSpinBox>
 #include <QTextDocumentFragment>
 #include <QThread>
 #include <QWizardPage>
@@ -28,13 +29,33 @@ PageDriver::PageDriver(QWizardPage *page, Session &session)
     m_page->initializePage();
 }
 
+namespace
+{
+
+CommandError missingOnPage(const QString &name)
+{
+    return CommandError({ ExitCode::NoPlugin, QStringLiteral("plug-in page"),
+                          QStringLiteral("has no '%1'").arg(name),
+                          QStringLiteral("is this library of another version? set --plugin") });
+}
+
+template <typename SpinBox, typename Number> void setWithin(SpinBox *box, Number value)
+{
+    if (value < box->minimum() || value > box->maximum()) {
+        throw usageError(QStringLiteral("%1 is not between %2 and %3")
+                             .arg(QString::number(value), QString::number(box->minimum()),
+                                  QString::number(box->maximum())));
+    }
+    box->setValue(value);
+}
+
+} // namespace
+
 template <typename Widget> Widget *PageDriver::widget(const QString &name) const
 {
     auto *found = m_page->findChild<Widget *>(name);
     if (found == nullptr) {
-        throw CommandError({ ExitCode::NoPlugin, QStringLiteral("plug-in page"),
-                             QStringLiteral("has no '%1'").arg(name),
-                             QStringLiteral("is this library of another version? set --plugin") });
+        throw missingOnPage(name);
     }
     return found;
 }
@@ -139,15 +160,22 @@ void PageDriver::setChecked(const QString &button, bool checked)
     }
 }
 
+void PageDriver::toggle(const char *slot)
+{
+    if (!QMetaObject::invokeMethod(m_page, slot, Qt::DirectConnection, Q_ARG(bool, true))) {
+        throw missingOnPage(QString::fromLatin1(slot));
+    }
+    throwOnMessage();
+}
+
+void PageDriver::setWholeNumber(const QString &spinBox, int value)
+{
+    setWithin(widget<QSpinBox>(spinBox), value);
+}
+
 void PageDriver::setNumber(const QString &spinBox, double value)
 {
-    auto *box = widget<QDoubleSpinBox>(spinBox);
-    if (value < box->minimum() || value > box->maximum()) {
-        throw usageError(QStringLiteral("%1 is not between %2 and %3")
-                             .arg(QString::number(value), QString::number(box->minimum()),
-                                  QString::number(box->maximum())));
-    }
-    box->setValue(value);
+    setWithin(widget<QDoubleSpinBox>(spinBox), value);
 }
 
 double PageDriver::number(const QString &spinBox) const

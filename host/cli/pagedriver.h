@@ -44,6 +44,9 @@ public:
     void click(const QString &button);
     /** Clicks the check box or radio button \p button unless it is \p checked already. */
     void setChecked(const QString &button, bool checked);
+    /** Calls the page's slot \p slot, of a choice that has no button, with true. */
+    void toggle(const char *slot);
+    void setWholeNumber(const QString &spinBox, int value);
     void setNumber(const QString &spinBox, double value);
     [[nodiscard]] double number(const QString &spinBox) const;
     void setIndex(const QString &comboBox, int index);

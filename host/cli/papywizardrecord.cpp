@@ -3,6 +3,7 @@
 #include "host/cli/papywizardrecord.h"
 
 #include "host/cli/displayname.h"
+#include "host/cli/recorderror.h"
 #include "importers/papywizard/papywizardreader.h"
 
 #include <algorithm>
@@ -12,15 +13,6 @@ namespace PanoHost
 
 namespace
 {
-
-Failure unusable(const QString &path, const PanoHead::ReadError &error)
-{
-    const QString why = error.line > 0
-        ? QStringLiteral("line %1: %2").arg(QString::number(error.line), error.reason)
-        : error.reason;
-    return { ExitCode::InputRefused, displayName(path), why,
-             QStringLiteral("is it the record that the head wrote?") };
-}
 
 RecordSummary summaryOf(const PanoHead::PapywizardRecord &record)
 {
@@ -39,12 +31,12 @@ Result<RecordSummary> readPapywizardSummary(const QString &path)
     PanoHead::ReadError error;
     const std::optional<QByteArray> bytes = PanoHead::readRecordFile(path, &error);
     if (!bytes) {
-        return unusable(path, error);
+        return unusableRecord(path, error);
     }
     const std::optional<PanoHead::PapywizardRecord> record
         = PanoHead::readPapywizard(*bytes, &error);
     if (!record) {
-        return unusable(path, error);
+        return unusableRecord(path, error);
     }
     if (!record->hasShoot) {
         return Failure{ ExitCode::InputRefused, displayName(path),

@@ -26,7 +26,9 @@ CommandLine previewLine()
           "Saves the picture that the import page shows: each photo at its place, with\n"
           "number, yaw and pitch. Works without a display.",
           "# does every photo sit where it belongs?\n"
-          "panohost preview papywizard shoot.xml IMG_*.jpg -o layout.png" },
+          "panohost preview papywizard shoot.xml IMG_*.jpg -o layout.png\n"
+          "# is this the order in which the head swept the grid?\n"
+          "panohost preview gigapan IMG_*.jpg --rows 4 --mode rows-up -o layout.png" },
         QVector<OptionRow>{ { "-o|--output", "LAYOUT.png", "the picture to write" } });
 }
 

@@ -44,6 +44,16 @@ double medianFocal35mm(const QVector<Position> &positions)
     return median(focals);
 }
 
+double focalOf(const StructuredPanoramaProperties &description, const QVector<Position> &positions,
+               const JoinWishes &wishes)
+{
+    if (wishes.focal35mm > 0.0) {
+        return wishes.focal35mm;
+    }
+    const double described = description.focalLength;
+    return std::isfinite(described) && described > 0.0 ? described : medianFocal35mm(positions);
+}
+
 LensModel lensOf(const StructuredPanoramaProperties &description, const PhotoInfo &firstPhoto)
 {
     if (PanoHead::isLensModel(static_cast<int>(description.lensModel))) {
@@ -98,11 +108,12 @@ QSize uprightSize(const PhotoInfo &photo)
                                                           : photo.storedSize.transposed();
 }
 
-void takeGrid(Panorama &panorama)
+void takeGrid(Panorama &panorama, bool asStored)
 {
     const PhotoInfo &first = panorama.positions.first().photos.first();
     const GridLayout grid
-        = gridLayout(panorama.description, uprightSize(first), panorama.focal35mm, panorama.lens);
+        = gridLayout(panorama.description, asStored ? first.storedSize : uprightSize(first),
+                     panorama.focal35mm, panorama.lens);
     for (int i = 0; i < grid.directions.size() && i < panorama.positions.size(); ++i) {
         panorama.positions[i].yawDegrees = grid.directions[i].yawDegrees;
         panorama.positions[i].pitchDegrees = grid.directions[i].pitchDegrees;
@@ -113,7 +124,8 @@ void takeGrid(Panorama &panorama)
 } // namespace
 
 Result<Panorama> joinPanorama(const StructuredPanoramaProperties &description,
-                              const SourceInfo &source, const PhotoLookup &lookup)
+                              const SourceInfo &source, const PhotoLookup &lookup,
+                              const JoinWishes &wishes)
 {
     Panorama panorama;
     panorama.source = source;
@@ -137,16 +149,16 @@ Result<Panorama> joinPanorama(const StructuredPanoramaProperties &description,
     if (panorama.positions.isEmpty()) {
         return refused(QStringLiteral("the description"), QStringLiteral("holds no photos"));
     }
-    const double described = description.focalLength;
-    const bool usable = std::isfinite(described) && described > 0.0;
-    panorama.focal35mm = usable ? described : medianFocal35mm(panorama.positions);
-    panorama.lens = lensOf(description, panorama.positions.first().photos.first());
+    panorama.focal35mm = focalOf(description, panorama.positions, wishes);
+    panorama.lens = wishes.lens != LensModel::NotChosen
+        ? wishes.lens
+        : lensOf(description, panorama.positions.first().photos.first());
     if (description.positionsKnown) {
         if (const auto failure = takeAngles(description, panorama.positions)) {
             return *failure;
         }
     } else {
-        takeGrid(panorama);
+        takeGrid(panorama, wishes.ignoreExifRotation);
     }
     return panorama;
 }

@@ -47,12 +47,20 @@ struct Panorama {
     /** As delivered, but for `imageGroups` and the angles, which `positions` holds joined. */
     StructuredPanoramaProperties description;
     QVector<Position> positions;
-    /** The focal length to use, 35 mm equivalent: the description's, else the photos' median. */
+    /** The focal length to use, 35 mm equivalent: wished, described, or the photos' median. */
     double focal35mm = 0.0;
     /** The lens to use; never `NotChosen`. */
     LensModel lens = LensModel::Standard;
     QStringList warnings;
     std::optional<ProjectReference> project;
+};
+
+/** What the user knows better than the description and the photos. */
+struct JoinWishes {
+    double focal35mm = 0.0; ///< 0: none
+    LensModel lens = LensModel::NotChosen; ///< `NotChosen`: none
+    /** Frames of a grid are as stored, whatever the photos' orientation. */
+    bool ignoreExifRotation = false;
 };
 
 /** Answers what is known about one photo. */
@@ -67,7 +75,8 @@ using PhotoLookup = std::function<Result<PhotoInfo>(const QString &path)>;
  * Refuses: no photos, unreadable photos, fewer angles than positions, angles that are no numbers.
  */
 [[nodiscard]] Result<Panorama> joinPanorama(const StructuredPanoramaProperties &description,
-                                            const SourceInfo &source, const PhotoLookup &lookup);
+                                            const SourceInfo &source, const PhotoLookup &lookup,
+                                            const JoinWishes &wishes = {});
 
 /**
  * The horizontal field of view in degrees of \p size pixels, for a focal length given as 35 mm

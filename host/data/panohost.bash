@@ -9,7 +9,7 @@ _panohost_words() { # the first words of the indented lines below the heading $1
 }
 
 _panohost_options() {
-  sed -n 's/^  \(-[a-z], \)\{0,1\}\(--[a-z-]*\).*/\2/p'
+  sed -n 's/^  \(-[a-z], \)\{0,1\}\(--[a-z0-9-]*\).*/\2/p'
 }
 
 _panohost_choices() { # the words that may follow option $1

@@ -43,6 +43,10 @@ private Q_SLOTS:
     void initTestCase();
     void recordIsRefusedWithItsReason_data();
     void recordIsRefusedWithItsReason();
+    void scriptIsRefusedWithItsLine_data();
+    void scriptIsRefusedWithItsLine();
+    void gridIsRefusedWithItsNumbers_data();
+    void gridIsRefusedWithItsNumbers();
     void photosAreRefusedWithTheirReason_data();
     void photosAreRefusedWithTheirReason();
     void resultIsRefusedBeforeAnythingIsRead_data();
@@ -97,8 +101,11 @@ void TestCliBadInput::recordIsRefusedWithItsReason_data()
 {
     QTest::addColumn<QString>("record");
     QTest::addColumn<QString>("message");
-    const auto row = [](const char *name, const char *record, const char *message) {
-        QTest::newRow(name) << QString::fromLatin1(record) << QString::fromLatin1(message);
+    QTest::addColumn<QString>("head");
+    const auto row = [](const char *name, const char *record, const char *message,
+                        const char *head = "papywizard") {
+        QTest::newRow(name) << QString::fromLatin1(record) << QString::fromLatin1(message)
+                            << QString::fromLatin1(head);
     };
     row("missing", "nosuch.xml", "nosuch.xml: no such record; check the name");
     row("folder", "folder", "folder: .*not a regular file.*");
@@ -116,15 +123,109 @@ void TestCliBadInput::recordIsRefusedWithItsReason_data()
     row("three shots fewer", "one.xml", "one.xml: records 1 shot, 4 photos given; .*");
     row("no full brackets", "brackets.xml",
         "brackets.xml: 4 photos are not a multiple of bracket 3; .*");
+    row("vrdrive2, no shots", "noshots.xml", "noshots.xml: .*no shot was recorded.*", "vrdrive2");
+    row("vrdrive2, no full brackets", "brackets.xml",
+        "brackets.xml: 4 photos are not a multiple of bracket 3; .*", "vrdrive2");
+    row("vrdrive2, /dev/zero", "/dev/zero", "/dev/zero: .*not a regular file.*", "vrdrive2");
+    row("clauss, missing", "nosuch.txt", "nosuch.txt: no such record; check the name", "clauss");
+    row("clauss, folder", "folder", "folder: .*not a regular file.*", "clauss");
+    row("clauss, FIFO", "pipe", "pipe: .*not a regular file.*", "clauss");
+    row("clauss, /dev/zero", "/dev/zero", "/dev/zero: .*not a regular file.*", "clauss");
+    row("clauss, an XML record", "four.xml", "four.xml: no op_shoot command: .*", "clauss");
 }
 
 void TestCliBadInput::recordIsRefusedWithItsReason()
 {
     QFETCH(QString, record);
     QFETCH(QString, message);
-    const QStringList words{ QStringLiteral("import"), QStringLiteral("papywizard"), record };
+    QFETCH(QString, head);
+    const QStringList words{ QStringLiteral("import"), head, record };
     const QStringList output{ QStringLiteral("-o"), QStringLiteral("kept.pto") };
     compareRefusal(m_bench.run(words + m_photos + output), 3, message);
+}
+
+void TestCliBadInput::scriptIsRefusedWithItsLine_data()
+{
+    QTest::addColumn<QByteArray>("script");
+    QTest::addColumn<QString>("message");
+    const auto row = [](const char *name, const QByteArray &script, const char *message) {
+        QTest::newRow(name) << script << QStringLiteral("script.txt: ") + QLatin1String(message);
+    };
+    const QByteArray shots = QByteArray("op_shoot\n").repeated(4);
+    row("word", shots + "op_h-angle=abc\n", "line 5: op_h-angle=abc is not a number; .*");
+    row("nothing", "op_v-angle=\n" + shots, "line 1: op_v-angle= is not a number; .*");
+    row("no sign", "op_v-angle 30\n" + shots, "line 1: op_v-angle= is not a number; .*");
+    row("nan", "\nop_h-angle=nan\n" + shots, "line 2: op_h-angle=nan is not a number; .*");
+    row("inf", "\nop_v-angle=-inf\n" + shots, "line 2: op_v-angle=-inf is not a number; .*");
+    row("beyond 32 bits", "op_v-angle=1e39\n" + shots, "line 1: op_v-angle=1e39 is not a .*");
+    row("behind a byte order mark", "\xEF\xBB\xBFop_h-angle=x\n" + shots,
+        "line 1: op_h-angle=x is not a number; .*");
+    row("carriage returns alone", "op_h-angle=30\rop_shoot\r",
+        "line 1: op_h-angle=30op_shoot is not a number; its lines end in carriage returns .*");
+    row("carriage returns alone, no angle", QByteArray(shots).replace('\n', '\r'),
+        "no op_shoot command: .*; its lines end in carriage returns .*");
+    row("UTF-16", QByteArray("o\0p\0_\0", 6),
+        "no op_shoot command: .*; a NUL byte in line 1 ends the script; is it UTF-16?.*");
+    row("empty", "", "no op_shoot command: no shot was recorded; .*");
+    row("one long line", QByteArray(100'000'000, 'x'), "larger than 64 MiB; .*");
+    row("a shot too few", "op_shoot\nop_shoot\nop_shoot\n", "records 3 shots, 4 photos given; .*");
+}
+
+void TestCliBadInput::scriptIsRefusedWithItsLine()
+{
+    QFETCH(QByteArray, script);
+    QFETCH(QString, message);
+    const QStringList words{ QStringLiteral("import"), QStringLiteral("clauss"),
+                             m_bench.file(QStringLiteral("script.txt"), script) };
+    const QStringList output{ QStringLiteral("-o"), QStringLiteral("kept.pto") };
+    compareRefusal(m_bench.run(words + m_photos + output), 3, message);
+}
+
+void TestCliBadInput::gridIsRefusedWithItsNumbers_data()
+{
+    QTest::addColumn<QString>("options");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QString>("message");
+    const auto row = [](const char *options, int exitCode, const char *message) {
+        QTest::newRow(options) << QString::fromLatin1(options) << exitCode
+                               << QString::fromLatin1(message);
+    };
+    row("--rows 3", 3, "photos: 3 rows do not divide 4 photos evenly; .*--ignore.*");
+    row("--rows 5", 3, "photos: 5 rows do not divide 4 photos evenly; .*");
+    row("--rows 2 --ignore 1", 3,
+        "photos: 2 rows do not divide 4 photos less 1 ignored evenly; .*");
+    row("--rows 4 --bracket 2", 3,
+        "photos: 4 rows do not divide 2 positions \\(4 photos in brackets of 2\\) evenly; .*");
+    row("--rows 1 --ignore 4", 3, "photos: --ignore 4 leaves none of 4; .*");
+    row("--rows 1 --ignore 9", 3, "photos: --ignore 9 leaves none of 4; .*");
+    row("--rows 1 --bracket 5", 3, "photos: --bracket 5 is more than 4 photos; .*");
+    row("--rows 1 --bracket 3", 3, "photos: 4 photos are not a multiple of bracket 3; .*");
+    row("--rows 1 --bracket 4 --ignore 1", 3,
+        "photos: --bracket 4 is more than 4 photos less 1 ignored; .*");
+    row("", 2, "a grid needs its number of rows; add --rows N");
+    row("--rows 0", 2, "--rows 0: out of range; give a whole number from 1 to 100000");
+    row("--rows -2", 2, "--rows -2: out of range; .*");
+    row("--rows 2.5", 2, "--rows 2.5: out of range; .*");
+    row("--rows many", 2, "--rows many: out of range; .*");
+    row("--rows 99999999999", 2, "--rows 99999999999: out of range; .*");
+    row("--rows 2 --bracket 0", 2, "--bracket 0: out of range; give .* from 1 to 99");
+    row("--rows 2 --ignore 100", 2, "--ignore 100: out of range; give .* from 0 to 99, or .*");
+    row("--rows 2 --overlap 4", 2, "--overlap 4: out of range; give a percentage from 5 to 100");
+    row("--rows 2 --overlap nan", 2, "--overlap nan: out of range; .*");
+    row("--rows 2 --mode rows", 2, "--mode rows: not one of columns, .*");
+    row("--rows 2 --detect all --stack hard", 2, "--detect all needs --stack detect: .*");
+    row("--rows 2 --invert-pitch", 2, "--invert-pitch is not an option of gigapan");
+}
+
+void TestCliBadInput::gridIsRefusedWithItsNumbers()
+{
+    QFETCH(QString, options);
+    QFETCH(int, exitCode);
+    QFETCH(QString, message);
+    const QStringList words{ QStringLiteral("import"), QStringLiteral("gigapan") };
+    const QStringList output{ QStringLiteral("-o"), QStringLiteral("kept.pto") };
+    const QStringList given = options.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    compareRefusal(m_bench.run(words + m_photos + given + output), exitCode, message);
 }
 
 void TestCliBadInput::photosAreRefusedWithTheirReason_data()

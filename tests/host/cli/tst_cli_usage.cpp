@@ -141,6 +141,25 @@ void TestCliUsage::wrongWordsExitWithTwo_data()
         "--detect all needs --stack detect: *");
     row("import papywizard r.xml IMG_01.jpg --auto-detection --no-auto-detection -o a.pto",
         "--auto-detection and --no-auto-detection exclude each other; *");
+    row("import papywizard r.xml IMG_01.jpg --clean-links --no-clean-links -o a.pto",
+        "--clean-links and --no-clean-links exclude each other; *");
+    row("import papywizard r.xml IMG_01.jpg --rows 3 -o a.pto",
+        "--rows is not an option of papywizard");
+    row("import papywizard r.xml IMG_01.jpg --output-mode hdr -o a.pto",
+        "--output-mode is not an option of papywizard");
+    row("import vrdrive2 r.xml IMG_01.jpg --detect all --stack hard -o a.pto",
+        "--detect all needs --stack detect: *");
+    row("import vrdrive2 r.xml IMG_01.jpg --output-mode jpg -o a.pto",
+        "--output-mode jpg: not one of ldr, hdr*");
+    row("import vrdrive2 r.xml -o a.pto", "no photos given; *");
+    row("import vrdrive2 -o a.pto", "vrdrive2 needs its record, RECORD.xml, and the photos; *");
+    row("import clauss -o a.pto", "clauss needs its record, SCRIPT.txt, and the photos; *");
+    row("import clauss s.txt IMG_01.jpg --detect all -o a.pto",
+        "--detect is not an option of clauss");
+    row("import clauss s.txt IMG_01.jpg --rotate 90 -o a.pto",
+        "--rotate is not an option of clauss");
+    row("import gigapan --rows 2 -o a.pto", "no photos given; name them, e.g. DIR/*.jpg");
+    row("import gigpan IMG_01.jpg -o a.pto", "unknown head 'gigpan'; did you mean 'gigapan'?*");
     row("import papywizard r.xml IMG_01.jpg --lang xx -o a.pto", "--lang xx: no such language; *");
     row("preview papywizard r.xml IMG_01.jpg", "no picture named; add -o LAYOUT.png");
     row("preview papywizard r.xml IMG_01.jpg -o a.pto", "-o a.pto: no picture format; *");
