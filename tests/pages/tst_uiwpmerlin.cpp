@@ -69,15 +69,6 @@ QString red(const char *text)
     return QLatin1String("<p style='color:red'>") + QLatin1String(text) + QLatin1String("</p>");
 }
 
-QStringList namesOf(const QStringList &files)
-{
-    QStringList names;
-    for (const QString &file : files) {
-        names.append(QFileInfo(file).fileName());
-    }
-    return names;
-}
-
 QVector<float> pitchesOf(const QVector<ShootData> &shots)
 {
     QVector<float> pitches;

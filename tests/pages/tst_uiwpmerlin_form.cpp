@@ -74,15 +74,6 @@ const QVector<FormRow> kRows{
     { "m_hSlider", "QSlider", "" },
 };
 
-QStringList list(std::initializer_list<const char *> names)
-{
-    QStringList strings;
-    for (const char *name : names) {
-        strings.append(QString::fromLatin1(name));
-    }
-    return strings;
-}
-
 /** The subtitle in \p linkColour, without the address that its link leads to. */
 QString subtitle(const QString &linkColour)
 {
@@ -90,12 +81,6 @@ QString subtitle(const QString &linkColour)
         + QLatin1String("\">Papywizard</font></a> is a free project to drive Merlin/Orion panorama "
                         "heads. The XML file format is open and used by a wide range of motorized "
                         "panorama heads.");
-}
-
-QString withoutAddress(QString text)
-{
-    return text.replace(QRegularExpression(QStringLiteral("href=\"https?://[^\"]+\"")),
-                        QStringLiteral("href=\"ADDRESS\""));
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include <QCompleter>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QWizardPage>
@@ -37,6 +38,15 @@ QString shownText(const QWizardPage &page, QWidget *widget)
 }
 
 } // namespace
+
+QStringList list(std::initializer_list<const char *> names)
+{
+    QStringList strings;
+    for (const char *name : names) {
+        strings.append(QString::fromLatin1(name));
+    }
+    return strings;
+}
 
 void addFormRows(const QVector<FormRow> &rows)
 {
@@ -116,6 +126,12 @@ QStringList tabTitles(const QWizardPage &page)
         titles.append(tabs->tabText(i));
     }
     return titles;
+}
+
+QString withoutAddress(QString text)
+{
+    return text.replace(QRegularExpression(QStringLiteral("href=\"https?://[^\"]+\"")),
+                        QStringLiteral("href=\"ADDRESS\""));
 }
 
 QStringList proposals(const QLineEdit &edit, const QString &folder)

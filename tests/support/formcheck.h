@@ -6,6 +6,8 @@
 #include <QStringList>
 #include <QVector>
 
+#include <initializer_list>
+
 class QLineEdit;
 class QWidget;
 class QWizardPage;
@@ -16,6 +18,9 @@ struct FormRow {
     const char *kind; ///< class name
     const char *text; ///< text, title of a tab or group; "" where there is none
 };
+
+/** The names as strings. */
+[[nodiscard]] QStringList list(std::initializer_list<const char *> names);
 
 /** Adds the rows as test data: "name", "kind" and "text". */
 void addFormRows(const QVector<FormRow> &rows);
@@ -32,5 +37,7 @@ void checkFormRow(const QWizardPage &page);
 [[nodiscard]] QStringList buddies(const QWizardPage &page);
 /** The titles of the tabs of the only tab widget, left to right. */
 [[nodiscard]] QStringList tabTitles(const QWizardPage &page);
+/** \p text with "ADDRESS" for every web address that a link leads to. */
+[[nodiscard]] QString withoutAddress(QString text);
 /** What \p edit proposes below the folder \p folder, by name. */
 [[nodiscard]] QStringList proposals(const QLineEdit &edit, const QString &folder);

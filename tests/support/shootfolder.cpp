@@ -47,6 +47,15 @@ QStringList ShootFolder::addPhotos(int count, const FakePhoto &photo) const
     return names;
 }
 
+QStringList namesOf(const QStringList &files)
+{
+    QStringList names;
+    for (const QString &file : files) {
+        names.append(QFileInfo(file).fileName());
+    }
+    return names;
+}
+
 RecordXml RecordXml::row(int count)
 {
     RecordXml record;

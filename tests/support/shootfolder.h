@@ -33,6 +33,9 @@ private:
     QTemporaryDir m_folder;
 };
 
+/** The files without their folders. */
+[[nodiscard]] QStringList namesOf(const QStringList &files);
+
 /** The text of a Papywizard record, in the form in which the head's controller writes it. */
 struct RecordXml {
     struct Shot {
