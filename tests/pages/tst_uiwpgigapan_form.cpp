@@ -1,0 +1,330 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: MIT
+#include "importers/gigapan/uiwpgigapan.h"
+
+#include "tests/support/fakeapplication.h"
+#include "tests/support/formcheck.h"
+#include "tests/support/pagedriver.h"
+
+#include <QGridLayout>
+#include <QtTest>
+
+namespace
+{
+
+const QVector<FormRow> kRows{
+    { "tabWidget", "QTabWidget", "" },
+    { "General", "QWidget", "General" },
+    { "label_6", "QLabel", "Images :" },
+    { "m_leImage", "QLineEdit", "" },
+    { "m_pbSelectImages", "QPushButton", "..." },
+    { "m_pbReset", "QPushButton", "Reset" },
+    { "m_lbImage", "QLabel", "0 images in " }, // "# Images in" until the page first counts
+    { "m_sbRow", "QSpinBox", "4" },
+    { "label_3", "QLabel", "rows and" },
+    { "m_sbColumn", "QSpinBox", "5" },
+    { "label_2", "QLabel", "columns." },
+    { "label", "QLabel", "Ignore N files " },
+    { "m_sbIgnore", "QSpinBox", "0" },
+    { "label_4", "QLabel", "Nb image per location ( bracketing )" },
+    { "m_sbBracket", "QSpinBox", "1" },
+    { "tab_4", "QWidget", "Shoot layout" },
+    { "m_rbMode0", "QRadioButton", "Columns (default)" },
+    { "m_rbMode3", "QRadioButton", "Columns: to left" },
+    { "m_rbMode1", "QRadioButton", "Rows: downward" },
+    { "m_rbMode2", "QRadioButton", "Rows: upward" },
+    { "label_11", "QLabel", "" },
+    { "label_8", "QLabel", "" },
+    { "label_12", "QLabel", "" },
+    { "label_9", "QLabel", "" },
+    { "label_10", "QLabel", "" },
+    { "tab_5", "QWidget", "Shoot setup" },
+    { "m_cbIS360", "QCheckBox", "Force 360° panorama" },
+    { "label_14", "QLabel", "Overlapping" },
+    { "m_dsbOverlapping", "QDoubleSpinBox", "40.00" },
+    { "tab_3", "QWidget", "Stack" },
+    { "label_13", "QLabel", "Detect links in:" },
+    { "m_rbLevelLinking0", "QRadioButton", "The reference level" },
+    { "m_rbLevelLinking1", "QRadioButton", "All stack levels" },
+    { "label_5", "QLabel", "For a stack:" },
+    { "m_rbStackLinking0", "QRadioButton", "Use hard links" },
+    { "m_rbStackLinking1", "QRadioButton", "Detect control points" },
+    { "tab_2", "QWidget", "Detection options" },
+    { "m_autoStart", "QCheckBox", "Auto detection" },
+    { "m_cleanLink", "QCheckBox", "Clean wrong link" },
+    { "m_noOptim", "QCheckBox", "Skip optimization" },
+    { "groupBox", "QGroupBox", "Preview" },
+    { "m_saPreview", "QScrollArea", "" },
+    { "label_7", "QLabel", "Zoom" },
+    { "m_hSlider", "QSlider", "" },
+};
+
+/** The subtitle in \p linkColour, without the address that its link leads to. */
+QString subtitle(const QString &linkColour)
+{
+    return QLatin1String("<a href=\"ADDRESS\"><font color=\"") + linkColour
+        + QLatin1String("\">Gigapan</font></a> allows users to upload, share, and explore "
+                        "brilliant gigapixel+ panoramas from around the globe.");
+}
+
+} // namespace
+
+/** The form as a user finds it on a fresh page. */
+class TestUIWPGigapanForm : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void widgetHasItsKindAndText_data() { addFormRows(kRows); }
+    void widgetHasItsKindAndText() { checkFormRow(UIWPGigapan(nullptr)); }
+    void formHoldsNothingElse();
+    void tabsStandInTheirOrder();
+    void widgetStandsOnItsTab_data();
+    void widgetStandsOnItsTab();
+    void tabKeyFollowsTheTable();
+    void labelsNameTheirFields();
+    void titlesAndSubtitle();
+    void subtitleFollowsTheTheme();
+    void pageShowsNoLogo();
+    void freshDefaults();
+    void numbersHaveTheirRanges_data();
+    void numbersHaveTheirRanges();
+    void overlapIsAPercentageInStepsOfFive();
+    void columnsAreReadOnly();
+    void stackChoicesAreAGroupOfTheirOwn();
+    void modeButtonsStandAboveTheirPictures_data();
+    void modeButtonsStandAboveTheirPictures();
+    void gridOfModesStartsWithAnEmptyLabel();
+    void photoListIsReadOnly();
+    void previewIsCentred();
+};
+
+void TestUIWPGigapanForm::formHoldsNothingElse()
+{
+    QCOMPARE(formNames(UIWPGigapan(nullptr)), rowNames(kRows));
+}
+
+void TestUIWPGigapanForm::tabsStandInTheirOrder()
+{
+    const UIWPGigapan page(nullptr);
+    QCOMPARE(tabTitles(page),
+             list({ "General", "Shoot layout", "Shoot setup", "Stack", "Detection options" }));
+    QCOMPARE(page.tabWidget->currentIndex(), 0);
+}
+
+void TestUIWPGigapanForm::widgetStandsOnItsTab_data()
+{
+    QTest::addColumn<QString>("title"); // of the tab, or of the group below the tabs
+    const auto rows = [](const char *title, std::initializer_list<const char *> names) {
+        for (const char *name : names) {
+            QTest::newRow(name) << QString::fromLatin1(title);
+        }
+    };
+    rows("General",
+         { "m_leImage", "m_pbSelectImages", "m_pbReset", "m_lbImage", "m_sbRow", "m_sbColumn",
+           "m_sbIgnore", "m_sbBracket" });
+    rows("Shoot layout", { "m_rbMode0", "m_rbMode1", "m_rbMode2", "m_rbMode3" });
+    rows("Shoot setup", { "m_cbIS360", "m_dsbOverlapping" });
+    rows("Stack",
+         { "m_rbLevelLinking0", "m_rbLevelLinking1", "m_rbStackLinking0", "m_rbStackLinking1" });
+    rows("Detection options", { "m_autoStart", "m_cleanLink", "m_noOptim" });
+    rows("Preview", { "m_saPreview", "label_7", "m_hSlider" });
+}
+
+void TestUIWPGigapanForm::widgetStandsOnItsTab()
+{
+    QFETCH(QString, title);
+    const UIWPGigapan page(nullptr);
+    const auto *widget = page.findChild<QWidget *>(QString::fromLatin1(QTest::currentDataTag()));
+    QVERIFY(widget);
+    if (title == page.groupBox->title()) {
+        QVERIFY(page.groupBox->isAncestorOf(widget));
+        return;
+    }
+    const int tab = tabTitles(page).indexOf(title);
+    QVERIFY(tab >= 0);
+    QVERIFY(page.tabWidget->widget(tab)->isAncestorOf(widget));
+}
+
+void TestUIWPGigapanForm::tabKeyFollowsTheTable()
+{
+    QCOMPARE(
+        tabOrder(UIWPGigapan(nullptr)),
+        list({ "tabWidget",         "m_leImage",         "m_pbSelectImages",  "m_pbReset",
+               "m_sbRow",           "m_sbColumn",        "m_sbIgnore",        "m_sbBracket",
+               "m_rbMode0",         "m_rbMode3",         "m_rbMode1",         "m_rbMode2",
+               "m_cbIS360",         "m_dsbOverlapping",  "m_rbLevelLinking0", "m_rbLevelLinking1",
+               "m_rbStackLinking0", "m_rbStackLinking1", "m_autoStart",       "m_cleanLink",
+               "m_noOptim",         "m_saPreview",       "m_hSlider" }));
+}
+
+void TestUIWPGigapanForm::labelsNameTheirFields()
+{
+    QCOMPARE(buddies(UIWPGigapan(nullptr)),
+             list({ "label > m_sbIgnore", "label_14 > m_dsbOverlapping", "label_3 > m_sbColumn",
+                    "label_4 > m_sbBracket", "label_6 > m_leImage", "label_7 > m_hSlider",
+                    "m_lbImage > m_sbRow" }));
+}
+
+void TestUIWPGigapanForm::titlesAndSubtitle()
+{
+    UIWPGigapan page(nullptr);
+    QCOMPARE(page.windowTitle(), QStringLiteral("UIWPGigapan"));
+    QCOMPARE(page.title(), QStringLiteral("Gigapan panorama import"));
+    const QString colour
+        = PageDriver(&page).preview()->palette().color(QPalette::WindowText).name();
+    QCOMPARE(withoutAddress(page.subTitle()), subtitle(colour));
+}
+
+void TestUIWPGigapanForm::subtitleFollowsTheTheme()
+{
+    const QPalette before = QApplication::palette();
+    QPalette dark = before;
+    dark.setColor(QPalette::WindowText, QColor(0x12, 0xab, 0xef));
+    QApplication::setPalette(dark);
+    const UIWPGigapan page(nullptr);
+    QApplication::setPalette(before);
+
+    QCOMPARE(withoutAddress(page.subTitle()), subtitle(QStringLiteral("#12abef")));
+}
+
+void TestUIWPGigapanForm::pageShowsNoLogo()
+{
+    QVERIFY(UIWPGigapan(nullptr).pixmap(QWizard::LogoPixmap).isNull());
+}
+
+void TestUIWPGigapanForm::freshDefaults()
+{
+    const UIWPGigapan page(nullptr);
+    QVERIFY(page.m_rbMode0->isChecked());
+    QVERIFY(!page.m_rbMode1->isChecked());
+    QVERIFY(!page.m_rbMode2->isChecked());
+    QVERIFY(!page.m_rbMode3->isChecked());
+    QCOMPARE(page.m_cbIS360->checkState(), Qt::Unchecked);
+    QVERIFY(page.m_rbLevelLinking0->isChecked());
+    QVERIFY(!page.m_rbLevelLinking1->isChecked());
+    QVERIFY(page.m_rbStackLinking0->isChecked());
+    QVERIFY(!page.m_rbStackLinking1->isChecked());
+    QCOMPARE(page.m_autoStart->checkState(), Qt::Checked);
+    QCOMPARE(page.m_cleanLink->checkState(), Qt::Unchecked);
+    QCOMPARE(page.m_noOptim->checkState(), Qt::Unchecked);
+    QCOMPARE(page.m_hSlider->value(), 50);
+    QCOMPARE(page.m_hSlider->orientation(), Qt::Horizontal);
+}
+
+void TestUIWPGigapanForm::numbersHaveTheirRanges_data()
+{
+    QTest::addColumn<int>("minimum");
+    QTest::addColumn<int>("maximum");
+    QTest::newRow("m_sbRow") << 1 << 100000;
+    QTest::newRow("m_sbColumn") << 1 << 100000;
+    // As a spin box has it without being told.
+    QTest::newRow("m_sbIgnore") << 0 << 99;
+    QTest::newRow("m_sbBracket") << 1 << 99;
+    QTest::newRow("m_hSlider") << 1 << 100;
+}
+
+void TestUIWPGigapanForm::numbersHaveTheirRanges()
+{
+    QFETCH(int, minimum);
+    QFETCH(int, maximum);
+    const UIWPGigapan page(nullptr);
+    const auto *widget = page.findChild<QWidget *>(QString::fromLatin1(QTest::currentDataTag()));
+    QVERIFY(widget);
+    QCOMPARE(widget->property("minimum").toInt(), minimum);
+    QCOMPARE(widget->property("maximum").toInt(), maximum);
+}
+
+void TestUIWPGigapanForm::overlapIsAPercentageInStepsOfFive()
+{
+    const UIWPGigapan page(nullptr);
+    QCOMPARE(page.m_dsbOverlapping->minimum(), 5.0);
+    QCOMPARE(page.m_dsbOverlapping->maximum(), 100.0);
+    QCOMPARE(page.m_dsbOverlapping->singleStep(), 5.0);
+    QCOMPARE(page.m_dsbOverlapping->value(), 40.0);
+}
+
+void TestUIWPGigapanForm::columnsAreReadOnly()
+{
+    const UIWPGigapan page(nullptr);
+    QVERIFY(page.m_sbColumn->isReadOnly());
+    QVERIFY(!page.m_sbRow->isReadOnly());
+    QVERIFY(!page.m_sbIgnore->isReadOnly());
+    QVERIFY(!page.m_sbBracket->isReadOnly());
+}
+
+void TestUIWPGigapanForm::stackChoicesAreAGroupOfTheirOwn()
+{
+    const UIWPGigapan page(nullptr);
+    QCOMPARE(page.buttonGroup->objectName(), QStringLiteral("buttonGroup"));
+    QCOMPARE(page.buttonGroup->buttons().size(), 2);
+    QCOMPARE(page.m_rbStackLinking0->group(), page.buttonGroup);
+    QCOMPARE(page.m_rbStackLinking1->group(), page.buttonGroup);
+    QVERIFY(!page.m_rbLevelLinking0->group());
+    QVERIFY(!page.m_rbLevelLinking1->group());
+}
+
+void TestUIWPGigapanForm::modeButtonsStandAboveTheirPictures_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<QString>("picture");
+    QTest::addColumn<int>("column");
+    const auto row = [](int mode, const char *label, int column) {
+        QTest::addRow("mode %d", mode)
+            << QStringLiteral("m_rbMode%1").arg(mode) << QString::fromLatin1(label)
+            << QStringLiteral("gigapan-mode%1.png").arg(mode) << column;
+    };
+    row(0, "label_8", 1);
+    row(3, "label_12", 2);
+    row(1, "label_9", 3);
+    row(2, "label_10", 4);
+}
+
+void TestUIWPGigapanForm::modeButtonsStandAboveTheirPictures()
+{
+    QFETCH(QString, button);
+    QFETCH(QString, label);
+    QFETCH(QString, picture);
+    QFETCH(int, column);
+    const UIWPGigapan page(nullptr);
+    const auto *grid = qobject_cast<QGridLayout *>(page.tab_4->layout());
+    QVERIFY(grid);
+
+    QCOMPARE(grid->itemAtPosition(0, column)->widget()->objectName(), button);
+    QCOMPARE(grid->itemAtPosition(1, column)->widget()->objectName(), label);
+
+    const QImage resource(QStringLiteral(":/7A21C94E-5B20-2020-2020-6028D47773DF/Resources/")
+                          + picture);
+    QVERIFY(!resource.isNull());
+    const auto *shown = page.findChild<QLabel *>(label);
+    QCOMPARE(shown->pixmap(Qt::ReturnByValue).toImage().convertToFormat(QImage::Format_ARGB32),
+             resource.convertToFormat(QImage::Format_ARGB32));
+}
+
+void TestUIWPGigapanForm::gridOfModesStartsWithAnEmptyLabel()
+{
+    const UIWPGigapan page(nullptr);
+    const auto *grid = qobject_cast<QGridLayout *>(page.tab_4->layout());
+    QVERIFY(!grid->itemAtPosition(0, 0));
+    QCOMPARE(grid->itemAtPosition(1, 0)->widget(), page.label_11);
+    QVERIFY(page.label_11->pixmap(Qt::ReturnByValue).isNull());
+    QCOMPARE(grid->rowCount(), 2);
+    QCOMPARE(grid->columnCount(), 5);
+}
+
+void TestUIWPGigapanForm::photoListIsReadOnly()
+{
+    QVERIFY(UIWPGigapan(nullptr).m_leImage->isReadOnly());
+}
+
+void TestUIWPGigapanForm::previewIsCentred()
+{
+    UIWPGigapan page(nullptr);
+    QCOMPARE(PageDriver(&page).preview()->alignment(),
+             Qt::Alignment(Qt::AlignHCenter | Qt::AlignVCenter));
+    QCOMPARE(page.m_saPreview->alignment(), Qt::Alignment(Qt::AlignCenter));
+}
+
+FAKE_HOST_MAIN(FakeApplication, TestUIWPGigapanForm)
+#include "tst_uiwpgigapan_form.moc"
