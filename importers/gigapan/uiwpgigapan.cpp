@@ -100,7 +100,7 @@ bool UIWPGigapan::validatePage()
     if (host == nullptr) {
         return true;
     }
-    generateSPP(images, m_cbIS360->isChecked());
+    generateSPP(images, m_cbIS360->checkState() == Qt::Checked);
     overlap = m_dsbOverlapping->value();
     writeLinking(*this, linkingChoicesOf(*this));
     writeOptions(*this, detectionOptions(*this));

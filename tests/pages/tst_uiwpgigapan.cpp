@@ -699,8 +699,8 @@ void TestUIWPGigapan::nextHandsOverTheGrid()
 void TestUIWPGigapan::partlyCheckedBoxDoesNotCount()
 {
     Shoot shoot;
-    for (QCheckBox *box :
-         { shoot.page.m_autoStart, shoot.page.m_cleanLink, shoot.page.m_noOptim }) {
+    for (QCheckBox *box : { shoot.page.m_autoStart, shoot.page.m_cleanLink, shoot.page.m_noOptim,
+                            shoot.page.m_cbIS360 }) {
         box->setTristate(true);
         box->setCheckState(Qt::PartiallyChecked);
     }
@@ -711,6 +711,7 @@ void TestUIWPGigapan::partlyCheckedBoxDoesNotCount()
     QVERIFY(!handed.autoDetection);
     QVERIFY(!handed.cleanWrongLinks);
     QVERIFY(!handed.skipOptimization);
+    QVERIFY(!handed.gridWrap360);
 }
 
 void TestUIWPGigapan::pairWithoutACheckedButtonKeepsItsField()
