@@ -64,7 +64,8 @@ Result<QString> runTool(const QString &path, const QStringList &arguments, const
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.setWorkingDirectory(folder);
-    // The tools' threads spin while they wait for each other, which on a busy machine costs minutes.
+    // The tools' threads spin while they wait for each other, which on a busy machine costs
+    // minutes.
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("OMP_WAIT_POLICY"), QStringLiteral("PASSIVE"));
     process.setProcessEnvironment(environment);
