@@ -993,6 +993,8 @@ void TestUIWPGigapan::goingBackOnlyStopsReading()
     QVERIFY(!shoot.page.isComplete());
     QCOMPARE(shoot.driver.text("m_lbImage"), QStringLiteral("200 images in "));
     QCOMPARE(shoot.grid(), QStringLiteral("10 x 20"));
+    // No photo is left: cells of 48 x 48, (20 x 52 + 4) x (10 x 52 + 4) at 50 percent.
+    QCOMPARE(shoot.driver.picture().size(), QSize(522, 262));
 }
 
 void TestUIWPGigapan::goingForthKeepsTheState()
