@@ -40,15 +40,13 @@ Command parseLine(const QByteArray &line)
     return { line.left(keyEnd), line.mid(valueStart, endOfWord(line, valueStart) - valueStart) };
 }
 
-/** The commands as text: no byte order mark, nothing behind a NUL, no carriage returns. */
+/** The commands as text: nothing behind a NUL, no carriage returns, no byte order mark. */
 QByteArray commandsIn(const QByteArray &bytes)
 {
-    QByteArray text = bytes.startsWith("\xEF\xBB\xBF") ? bytes.mid(3) : bytes;
-    const int nul = text.indexOf('\0');
-    if (nul >= 0) {
-        text.truncate(nul);
-    }
-    return text.replace("\r", "");
+    const int nul = bytes.indexOf('\0');
+    QByteArray text = nul < 0 ? bytes : bytes.left(nul);
+    text.replace("\r", "");
+    return text.startsWith("\xEF\xBB\xBF") ? text.mid(3) : text;
 }
 
 class Reader
