@@ -196,7 +196,7 @@ private:
         ++m_pos;
         while (m_pos < m_text.size() && m_text.at(m_pos) != quote) {
             const QChar c = m_text.at(m_pos);
-            if (c == QLatin1Char('<') || c == QLatin1Char('%')
+            if (c == QLatin1Char('<')
                 || (c == QLatin1Char('&') && !isPlainReference(m_text, m_pos))) {
                 m_doctypeIsPlain = false;
             }

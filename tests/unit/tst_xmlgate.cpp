@@ -270,6 +270,10 @@ void TestXmlGate::documentsWithinTheLimitsPass_data()
     row("undeclared entity is empty", "<p>a&nosuch;b</p>", "ab");
     row("parameter entity without any entity", "<!DOCTYPE p [%q;]><p>t</p>", "t");
     row("percent sign in a default value", withDoctype("<!ATTLIST p b CDATA '100%'>", "t"), "t");
+    row("percent sign beside an entity",
+        withDoctype("<!ENTITY e 'x'><!ATTLIST p b CDATA '100%'>", "&e;"), "x");
+    row("undeclared parameter entity in an entity", withDoctype("<!ENTITY e 'x%q;y'>", "&e;"),
+        "xy");
     row("two DOCTYPEs", "<!DOCTYPE p><!DOCTYPE p [<!ENTITY e 'x'>]><p>&e;</p>", "x");
     row("'>' in an attribute", "<p a='>'><b c=\"/>\"/>t</p>", "t");
     row("comment that begins with '>'", "<!-->x--><p>t</p>", "t");
