@@ -13,6 +13,13 @@ namespace PanoHead
 namespace
 {
 
+// What Qt's DOM takes at most, measured. An attribute's value is a node of its own, and the first
+// attribute of an element makes a table.
+constexpr qint64 kBytesPerCharacter = 4;
+constexpr qint64 kBytesPerNode = 230;
+constexpr qint64 kBytesPerAttribute = 500;
+constexpr qint64 kBytesPerAttributeTable = 200;
+
 /** What a reference that stands for plain text is called: these five, or a number. */
 bool isPredefined(const QStringRef &name)
 {
@@ -50,6 +57,7 @@ public:
     Scan(const QString &text, const XmlLimits &limits)
         : m_text(text)
         , m_limits(limits)
+        , m_memory(text.size() * kBytesPerCharacter)
     {
     }
 
@@ -130,11 +138,7 @@ private:
                 return;
             }
             if (c == QLatin1Char('"') || c == QLatin1Char('\'')) {
-                count(1);
-                if (++attributes > m_limits.maxAttributes) {
-                    refuse(QStringLiteral("more than %1 attributes on one element")
-                               .arg(m_limits.maxAttributes));
-                }
+                countAttribute(++attributes);
                 skipAttributeValue(c);
             } else {
                 ++m_pos;
@@ -238,12 +242,26 @@ private:
         }
     }
 
-    void count(int nodes)
+    void count(int nodes, qint64 bytesPerNode = kBytesPerNode)
     {
         m_nodes += nodes;
+        m_memory += nodes * bytesPerNode;
         if (m_nodes > m_limits.maxNodes) {
             refuse(QStringLiteral("more than %1 elements, attributes, texts and other parts")
                        .arg(m_limits.maxNodes));
+        }
+        if (m_memory > m_limits.maxMemory) {
+            refuse(QStringLiteral("too many elements, attributes and texts for their size"));
+        }
+    }
+
+    /** The \p number-th of an element, from 1. */
+    void countAttribute(int number)
+    {
+        count(1, kBytesPerAttribute + (number == 1 ? kBytesPerAttributeTable : 0));
+        if (number > m_limits.maxAttributes) {
+            refuse(QStringLiteral("more than %1 attributes on one element")
+                       .arg(m_limits.maxAttributes));
         }
     }
 
@@ -262,6 +280,7 @@ private:
     int m_pos = 0;
     int m_depth = 0;
     int m_nodes = 0;
+    qint64 m_memory; // bytes
     int m_doctypeLength = 0;
     bool m_doctypeIsPlain = true; // no markup, references or parameter entities in its literals
     int m_longestEntity = 0; // 0: no entity is declared

@@ -27,6 +27,7 @@ struct XmlLimits {
     int maxAttributes = 4'096; ///< of one element
     int maxDoctypeLength = 4'096; ///< characters, of all declarations together
     int maxExpansion = 24'000; ///< references times length of the declarations, characters
+    qint64 maxMemory = 440'000'000; ///< bytes that the parser would take, estimated
 };
 
 /**

@@ -223,6 +223,7 @@ private Q_SLOTS:
     void nothingHidesATagFromTheScan();
     void limitsHoldExactly_data();
     void limitsHoldExactly();
+    void memoryIsEstimated();
     void endOfAnElementGivesItsLevelBack();
     void referencesTimesDeclarationAreLimited();
     void everyEncodingIsDecodedBeforeTheScan_data();
@@ -527,6 +528,22 @@ void TestXmlGate::limitsHoldExactly()
 
     QCOMPARE(reasonFor(document, exact), QString());
     QVERIFY(!reasonFor(document, oneLess).isEmpty());
+}
+
+void TestXmlGate::memoryIsEstimated()
+{
+    // 4 for each character, 230 for p, a and the text, 200 and twice 500 for the attributes
+    const QByteArray document = "<p><a b='12' c=''/>text</p>";
+    XmlLimits limits;
+    limits.maxMemory = 4 * 27 + 3 * 230 + 200 + 2 * 500;
+    QCOMPARE(reasonFor(document, limits), QString());
+    --limits.maxMemory;
+    QVERIFY(!reasonFor(document, limits).isEmpty());
+
+    // Below the limit of nodes, and far too large together: 632 MB when parsed.
+    const QByteArray element = "<a b='" + QByteArray(100, 'x') + "'/>";
+    const QByteArray attributes = "<p>" + element.repeated(500'000) + "</p>";
+    QVERIFY(reasonFor(attributes).contains(QLatin1String("for their size")));
 }
 
 void TestXmlGate::endOfAnElementGivesItsLevelBack()
