@@ -55,12 +55,17 @@ public:
     ClaussScript read(const QByteArray &text)
     {
         int start = 0;
-        while (start < text.size()) {
+        while (start < text.size() && m_script.shots.size() <= kMaxRecordedShots) {
             const int newline = text.indexOf('\n', start);
             const int end = newline < 0 ? text.size() : newline;
             ++m_line;
             run(parseLine(QByteArray::fromRawData(text.constData() + start, end - start)));
             start = end + 1;
+        }
+        if (m_script.shots.size() > kMaxRecordedShots) {
+            return { {},
+                     false,
+                     { QStringLiteral("more than %1 shots").arg(kMaxRecordedShots), m_line } };
         }
         return m_script;
     }

@@ -14,14 +14,15 @@ namespace PanoHead
 /** What a Clauss Rodeon script says. */
 struct ClaussScript {
     QVector<ShootData> shots; ///< one per shooting command; degrees, `id` counts from 0
-    bool isSound = true; ///< every angle was a number
-    ReadError firstError; ///< of the first angle that was none
+    bool isSound = true; ///< every angle was a number, and there were not too many shots
+    ReadError firstError; ///< of the first angle that was none, or of the shot too many
 };
 
 /**
  * Reads a script: one command per line, up to the first NUL byte. An angle that is not a finite
- * number reads as 0 and reading goes on. Unknown commands are skipped. Only letters, digits,
- * underscores and hyphens belong to a value, so that decimals are cut at the point.
+ * number reads as 0 and reading goes on; more than `kMaxRecordedShots` shots leave none at all.
+ * Unknown commands are skipped. Only letters, digits, underscores and hyphens belong to a value, so
+ * that decimals are cut at the point.
  */
 [[nodiscard]] ClaussScript readClaussScript(const QByteArray &bytes);
 

@@ -19,8 +19,8 @@ public:
     ClaussToSPP();
 
     /**
-     * Reads the script at \p fileName. False when the file cannot be opened or an angle is not a
-     * number; in the second case the positions stay in the list.
+     * Reads the script at \p fileName. False when the file cannot be opened, has too many shots or
+     * an angle is not a number; in the last case the positions stay in the list.
      */
     bool parse(const QString &fileName);
 

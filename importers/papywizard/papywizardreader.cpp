@@ -53,7 +53,8 @@ void readShoot(PapywizardRecord &record, const QDomElement &shoot)
 {
     record.hasShoot = !shoot.isNull();
     const QString name = QStringLiteral("pict");
-    for (QDomElement pict = shoot.firstChildElement(name); !pict.isNull();
+    for (QDomElement pict = shoot.firstChildElement(name);
+         !pict.isNull() && record.shots.size() <= kMaxRecordedShots;
          pict = pict.nextSiblingElement(name)) {
         record.shots.append(readShot(pict));
     }
@@ -131,7 +132,12 @@ std::optional<PapywizardRecord> readPapywizard(const QByteArray &bytes, ReadErro
         if (!document.setContent(bytes, false, &reason, &line)) {
             return fail(error, { QStringLiteral("not well-formed XML (%1)").arg(reason), line });
         }
-        return readRoot(document.documentElement());
+        const PapywizardRecord record = readRoot(document.documentElement());
+        if (record.shots.size() > kMaxRecordedShots) {
+            return fail(error,
+                        { QStringLiteral("more than %1 pictures").arg(kMaxRecordedShots), 0 });
+        }
+        return record;
     } catch (const std::bad_alloc &) {
         return fail(error, { QStringLiteral("not enough memory"), 0 });
     }

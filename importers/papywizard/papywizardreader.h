@@ -32,8 +32,8 @@ struct PapywizardRecord {
 /**
  * Reads a record from the bytes of its file. Missing elements and attributes keep the defaults;
  * numbers that do not convert, or are not finite as 32-bit float, become 0 (the crop factor 1.0).
- * Nothing only when the bytes are not well-formed XML or exceed `XmlLimits`; \p error, which may
- * be null, then says why.
+ * Nothing only when the bytes are not well-formed XML, exceed `XmlLimits` or hold more than
+ * `kMaxRecordedShots` pictures; \p error, which may be null, then says why.
  */
 [[nodiscard]] std::optional<PapywizardRecord> readPapywizard(const QByteArray &bytes,
                                                              ReadError *error = nullptr);
