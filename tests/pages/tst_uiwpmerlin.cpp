@@ -5,8 +5,7 @@
 #include "tests/support/desktop.h"
 #include "tests/support/fakeapplication.h"
 #include "tests/support/gate.h"
-#include "tests/support/pagedriver.h"
-#include "tests/support/shootfolder.h"
+#include "tests/support/pageshoot.h"
 #include "ui/xui.h"
 
 #include <QHelpEvent>
@@ -23,69 +22,7 @@
 namespace
 {
 
-constexpr char kSelectRecord[] = "m_pbSelectConfigFile";
-constexpr char kSelectPhotos[] = "m_pbSelectImages";
-
-/** One page with the files of one shoot. */
-struct Shoot {
-    ShootFolder folder;
-    UIWPMerlin page{ nullptr };
-    PageDriver driver{ &page };
-
-    QString writeRecord(const RecordXml &record,
-                        const QString &name = QStringLiteral("shoot.xml")) const
-    {
-        return folder.write(name, record.bytes());
-    }
-    void loadRecord(const RecordXml &record) const
-    {
-        driver.load(kSelectRecord, { writeRecord(record) });
-    }
-    void loadPhotos(int count, const FakePhoto &photo = {}) const
-    {
-        driver.load(kSelectPhotos, folder.addPhotos(count, photo));
-    }
-};
-
-FakePhoto photoWith(float focalMm, int lensType = 0)
-{
-    FakePhoto photo;
-    photo.focalMm = focalMm;
-    photo.lensType = lensType;
-    return photo;
-}
-
-RecordXml rowWithLens(int count, const QString &focal,
-                      const QString &lensType = QStringLiteral("rectilinear"))
-{
-    RecordXml record = RecordXml::row(count);
-    record.focal = focal;
-    record.lensType = lensType;
-    return record;
-}
-
-QString red(const char *text)
-{
-    return QLatin1String("<p style='color:red'>") + QLatin1String(text) + QLatin1String("</p>");
-}
-
-QVector<float> pitchesOf(const QVector<ShootData> &shots)
-{
-    QVector<float> pitches;
-    for (const ShootData &shot : shots) {
-        pitches.append(shot.pitch);
-    }
-    return pitches;
-}
-
-QVector<float> rollsOf(const QVector<ShootData> &shots)
-{
-    QVector<float> rolls;
-    for (const ShootData &shot : shots) {
-        rolls.append(shot.roll);
-    }
-    return rolls;
-}
+using Shoot = PageShoot<UIWPMerlin>;
 
 } // namespace
 

@@ -4,55 +4,15 @@
 
 #include "tests/support/fakeapplication.h"
 #include "tests/support/gate.h"
-#include "tests/support/pagedriver.h"
-#include "tests/support/shootfolder.h"
+#include "tests/support/pictureshoot.h"
 #include "ui/xui.h"
 
-#include <QPainter>
 #include <QtTest>
 
 namespace
 {
 
-constexpr char kSelectRecord[] = "m_pbSelectConfigFile";
-constexpr char kSelectPhotos[] = "m_pbSelectImages";
-
-const QColor kBackground(0x20, 0x40, 0x60);
-const QColor kRed(0xff, 0x00, 0x00);
-const QColor kGreen(0x00, 0xff, 0x00);
-const QColor kBlue(0x00, 0x00, 0xff);
-const QColor kYellow(0xff, 0xff, 0x00);
-const QColor kOutline(Qt::black);
-
-/** A page on a background of its own, at full zoom. */
-struct Shoot {
-    ShootFolder folder;
-    UIWPMerlin page{ nullptr };
-    PageDriver driver{ &page };
-
-    Shoot()
-    {
-        QPalette palette = page.palette();
-        palette.setColor(QPalette::Window, kBackground);
-        page.setPalette(palette);
-        page.m_hSlider->setValue(100);
-    }
-    void load(const QVector<RecordXml::Shot> &shots, const QStringList &photos = {}) const
-    {
-        RecordXml record;
-        record.shots = shots;
-        driver.load(kSelectRecord,
-                    QStringList(photos)
-                        << folder.write(QStringLiteral("shoot.xml"), record.bytes()));
-    }
-    QString addPhoto(const char *name, const QColor &colour, long shotTime = 0) const
-    {
-        FakePhoto photo;
-        photo.colour = colour;
-        photo.shotTime = shotTime;
-        return folder.addPhoto(QString::fromLatin1(name), photo);
-    }
-};
+using Shoot = PictureShoot<UIWPMerlin>;
 
 RecordXml::Shot shot(const char *yaw, const char *pitch)
 {
@@ -66,42 +26,6 @@ RecordXml::Shot shot(const char *yaw, const char *pitch)
 QVector<RecordXml::Shot> twoByTwo()
 {
     return { shot("0.0", "0.0"), shot("30.0", "0.0"), shot("30.0", "-24.0"), shot("0.0", "-24.0") };
-}
-
-QStringList fourPhotos(const Shoot &shoot)
-{
-    return { shoot.addPhoto("a.jpg", kRed, 1), shoot.addPhoto("b.jpg", kGreen, 2),
-             shoot.addPhoto("c.jpg", kBlue, 3), shoot.addPhoto("d.jpg", kYellow, 4) };
-}
-
-/** The colour in the lower right quarter of the cell at \p corner, where no caption reaches. */
-QColor cellColour(const QImage &picture, const QPoint &corner)
-{
-    return picture.pixelColor(corner + QPoint(80, 80));
-}
-
-struct Cell {
-    QPointF corner;
-    QColor colour; ///< invalid: no photo
-    QString caption;
-};
-
-/** The picture as the text of the cells says, painted anew. */
-QImage painted(const QSize &canvas, const QVector<Cell> &cells)
-{
-    QPixmap pixmap(canvas);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.fillRect(pixmap.rect(), kBackground);
-    for (const Cell &cell : cells) {
-        const QRectF box(cell.corner, QSizeF(96, 96));
-        if (cell.colour.isValid()) {
-            painter.fillRect(box, cell.colour);
-        }
-        painter.drawRect(box);
-        painter.drawText(box.adjusted(1, 1, -1, -1), cell.caption);
-    }
-    return pixmap.toImage();
 }
 
 } // namespace
@@ -152,7 +76,7 @@ void TestUIWPMerlinPreview::init()
 void TestUIWPMerlinPreview::cellsStandWhereTheAnglesSay()
 {
     const Shoot shoot;
-    shoot.load(twoByTwo(), fourPhotos(shoot));
+    shoot.load(twoByTwo(), shoot.fourPhotos());
 
     const QImage picture = shoot.driver.picture();
 
@@ -179,7 +103,7 @@ void TestUIWPMerlinPreview::cellsStandWhereTheAnglesSay()
 void TestUIWPMerlinPreview::pictureIsTheOneDescribed()
 {
     const Shoot shoot;
-    QStringList photos = fourPhotos(shoot);
+    QStringList photos = shoot.fourPhotos();
     photos.removeLast();
     shoot.load(twoByTwo(), photos);
 
@@ -255,7 +179,7 @@ void TestUIWPMerlinPreview::pictureIsZoomed()
     const Shoot shoot;
     shoot.page.m_hSlider->setValue(zoom);
 
-    shoot.load(twoByTwo(), fourPhotos(shoot));
+    shoot.load(twoByTwo(), shoot.fourPhotos());
 
     QCOMPARE(shoot.driver.picture().size(), size);
 }
@@ -263,7 +187,7 @@ void TestUIWPMerlinPreview::pictureIsZoomed()
 void TestUIWPMerlinPreview::zoomingRedraws()
 {
     const Shoot shoot;
-    shoot.load(twoByTwo(), fourPhotos(shoot));
+    shoot.load(twoByTwo(), shoot.fourPhotos());
 
     shoot.page.m_hSlider->setValue(50);
 
@@ -284,7 +208,7 @@ void TestUIWPMerlinPreview::backgroundIsTheWindowBrushOfTheCurrentGroup()
     QPalette palette = page.palette();
     palette.setColor(QPalette::Disabled, QPalette::Window, kYellow);
     page.setPalette(palette);
-    shoot.load(twoByTwo(), fourPhotos(shoot));
+    shoot.load(twoByTwo(), shoot.fourPhotos());
     QCOMPARE(shoot.driver.picture().pixelColor(1, 1), kBackground);
 
     page.setEnabled(false);
@@ -397,7 +321,7 @@ void TestUIWPMerlinPreview::thumbnailsTurnWithTheRoll()
 void TestUIWPMerlinPreview::invertingTurnsThePictureOver()
 {
     const Shoot shoot;
-    shoot.load(twoByTwo(), fourPhotos(shoot));
+    shoot.load(twoByTwo(), shoot.fourPhotos());
 
     shoot.driver.click("m_pInverseCoordinates");
 
@@ -448,7 +372,7 @@ void TestUIWPMerlinPreview::photosBeyondTheShotsAreNotDrawn()
 {
     const Shoot shoot;
 
-    shoot.load({ shot("0.0", "0.0") }, fourPhotos(shoot));
+    shoot.load({ shot("0.0", "0.0") }, shoot.fourPhotos());
 
     const QImage picture = shoot.driver.picture();
     QCOMPARE(picture.size(), QSize(100, 100));
@@ -459,7 +383,7 @@ void TestUIWPMerlinPreview::nothingIsShownWithoutShots()
 {
     const Shoot shoot;
 
-    shoot.driver.load(kSelectPhotos, fourPhotos(shoot));
+    shoot.driver.load(kSelectPhotos, shoot.fourPhotos());
     QVERIFY(shoot.driver.picture().isNull());
 
     shoot.page.m_hSlider->setValue(20);
@@ -479,7 +403,7 @@ void TestUIWPMerlinPreview::nothingIsDrawnBeforeTheFirstPhoto()
 void TestUIWPMerlinPreview::sameNumberOfImagesKeepsThePicture()
 {
     const Shoot shoot;
-    shoot.load(twoByTwo(), fourPhotos(shoot));
+    shoot.load(twoByTwo(), shoot.fourPhotos());
     const QImage before = shoot.driver.picture();
     const QString wide = shoot.folder.write(QStringLiteral("wide.xml"), RecordXml::row(4).bytes());
 
@@ -496,7 +420,7 @@ void TestUIWPMerlinPreview::sameNumberOfImagesKeepsThePicture()
 void TestUIWPMerlinPreview::restoringTheStateKeepsThePicture()
 {
     Shoot shoot;
-    shoot.load(twoByTwo(), fourPhotos(shoot));
+    shoot.load(twoByTwo(), shoot.fourPhotos());
     const QImage before = shoot.driver.picture();
 
     shoot.page.RestoreState(QByteArray("anything"));
@@ -507,7 +431,7 @@ void TestUIWPMerlinPreview::restoringTheStateKeepsThePicture()
 void TestUIWPMerlinPreview::enteringThePageAllowsARedraw()
 {
     Shoot shoot;
-    shoot.load(twoByTwo(), fourPhotos(shoot));
+    shoot.load(twoByTwo(), shoot.fourPhotos());
     const QImage before = shoot.driver.picture();
 
     shoot.page.initializePage();
