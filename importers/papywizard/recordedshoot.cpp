@@ -11,7 +11,6 @@ namespace PanoHead
 bool readRecord(MerlinToSPP &generator, ShootState &state, const QString &path)
 {
     state.shotCount = -1;
-    state.setExtents({ AngleRange::scanStart(), AngleRange::scanStart() });
     if (!generator.parse(path)) {
         return false;
     }

@@ -17,7 +17,7 @@ struct ShootState;
 
 /**
  * Parses the record at \p path and measures it. On failure the shot count is -1 and the extents
- * are those of a scan that found nothing; false.
+ * stay as they are; false.
  */
 bool readRecord(MerlinToSPP &generator, ShootState &state, const QString &path);
 

@@ -116,6 +116,8 @@ void UIWPMerlin::BrowserWeb(const QString &url)
 void UIWPMerlin::ParseConfigFile(const QString &path)
 {
     if (!readRecord(*this, m_state, path)) {
+        // The ranges show a scan that found nothing: wanted. Other pages keep theirs.
+        m_state.setExtents({ AngleRange::scanStart(), AngleRange::scanStart() });
         return;
     }
     m_leHeaderTitle->setText(MerlinToSPP::title);

@@ -42,7 +42,7 @@ private Q_SLOTS:
     void refusalsSayWhy_data();
     void refusalsSayWhy();
     void aReadRecordIsMeasured();
-    void anUnreadableRecordLeavesAScanThatFoundNothing();
+    void anUnreadableRecordKeepsTheRanges();
     void aForgottenShootKeepsItsDescription();
     void photosAreAdopted();
     void theHeaderIsOneLinePerFact();
@@ -143,7 +143,7 @@ void TestRecordFile::aReadRecordIsMeasured()
     QVERIFY(state.extents().pitch == AngleRange::scanStart());
 }
 
-void TestRecordFile::anUnreadableRecordLeavesAScanThatFoundNothing()
+void TestRecordFile::anUnreadableRecordKeepsTheRanges()
 {
     MerlinToSPP generator;
     ShootState state;
@@ -151,8 +151,8 @@ void TestRecordFile::anUnreadableRecordLeavesAScanThatFoundNothing()
     state.setExtents({ { 1, 2 }, { 3, 4 } });
     QVERIFY(!PanoHead::readRecord(generator, state, QString()));
     QCOMPARE(state.shotCount, -1);
-    QVERIFY(state.extents().yaw == AngleRange::scanStart());
-    QVERIFY(state.extents().pitch == AngleRange::scanStart());
+    QVERIFY(state.yawMin == 1.0F && state.yawMax == 2.0F);
+    QVERIFY(state.pitchMin == 3.0F && state.pitchMax == 4.0F);
 }
 
 void TestRecordFile::aForgottenShootKeepsItsDescription()
