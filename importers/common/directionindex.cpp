@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace PanoHead
 {
@@ -13,118 +14,197 @@ namespace
 
 constexpr double kPi = 3.141592653589793;
 constexpr double kHalfPi = kPi / 2.0;
+constexpr double kFullTurn = 2.0 * kPi;
 // Far above the rounding of the coordinates, far below any distance between two photos.
 constexpr double kMargin = 1e-6; // radians
-constexpr int kMaxBands = 4'096;
+// More would mostly be empty, and a search passes all that are in its reach.
+constexpr int kCellsPerDirection = 4;
 
 bool isFinite(const UnitVector &v)
 {
     return std::isfinite(v.x) && std::isfinite(v.y) && std::isfinite(v.z);
 }
 
-double latitudeOf(const UnitVector &v)
+/** -pi to pi. */
+double withinHalfATurn(double longitude)
 {
-    return std::atan2(v.z, std::hypot(v.x, v.y));
-}
-
-double longitudeOf(const UnitVector &v)
-{
-    return std::atan2(v.y, v.x);
+    if (longitude > kPi) {
+        return longitude - kFullTurn;
+    }
+    return longitude < -kPi ? longitude + kFullTurn : longitude;
 }
 
 } // namespace
 
 DirectionIndex::DirectionIndex(const QVector<UnitVector> &directions, double typicalRadius)
 {
-    layOutBands(directions.size(), typicalRadius);
-    const int cells = m_bands.back().firstCell + m_bands.back().cells;
-    m_cellStarts.assign(cells + 1, 0);
-    std::vector<int> cellOfDirection(directions.size(), -1);
-    for (int i = 0; i < directions.size(); ++i) {
-        if (isFinite(directions[i])) {
-            cellOfDirection[i] = cellOf(directions[i]);
-            ++m_cellStarts[cellOfDirection[i] + 1];
-        }
-    }
-    for (int cell = 0; cell < cells; ++cell) {
-        m_cellStarts[cell + 1] += m_cellStarts[cell];
-    }
-    m_order.resize(m_cellStarts[cells]);
-    std::vector<int> next = m_cellStarts;
-    for (int i = 0; i < directions.size(); ++i) {
-        if (cellOfDirection[i] >= 0) {
-            m_order[next[cellOfDirection[i]]++] = i;
+    findPlaces(directions);
+    layOutBands(typicalRadius);
+    layOutCells();
+    sortIntoCells();
+}
+
+/** Counted from the first direction, the longitudes of a mosaic run on over half a turn. */
+void DirectionIndex::findPlaces(const QVector<UnitVector> &directions)
+{
+    constexpr double kNowhere = std::numeric_limits<double>::quiet_NaN();
+    const auto first = std::find_if(directions.cbegin(), directions.cend(), isFinite);
+    const double start = first == directions.cend() ? 0.0 : std::atan2(first->y, first->x);
+    m_places.reserve(directions.size());
+    for (const UnitVector &v : directions) {
+        if (isFinite(v)) {
+            m_places.push_back({ std::atan2(v.z, std::sqrt(v.x * v.x + v.y * v.y)),
+                                 withinHalfATurn(std::atan2(v.y, v.x) - start) });
+        } else {
+            m_places.push_back({ kNowhere, kNowhere });
         }
     }
 }
 
-/** About as many cells as directions at most: smaller ones would be empty. */
-void DirectionIndex::layOutBands(int directions, double typicalRadius)
+void DirectionIndex::layOutBands(double typicalRadius)
 {
-    const int useful = static_cast<int>(std::sqrt(static_cast<double>(directions))) + 1;
-    const double wanted = typicalRadius > 0.0 ? kPi / (typicalRadius / 2.0) : useful;
-    const int bands
-        = static_cast<int>(std::max(1.0, std::min<double>(wanted, std::min(useful, kMaxBands))));
-    m_bandHeight = kPi / bands;
+    double first = kHalfPi;
+    double last = -kHalfPi;
+    for (const Place &place : m_places) {
+        first = std::fmin(first, place.latitude);
+        last = std::fmax(last, place.latitude);
+    }
+    const double span = std::max(last - first, 0.0);
+    const double directions = std::max(static_cast<double>(m_places.size()), 1.0);
+    m_firstLatitude = first;
+    m_bandHeight = std::max({ typicalRadius / 2.0, span / directions, kMargin });
+    m_bands.resize(static_cast<std::size_t>(span / m_bandHeight) + 1);
+}
+
+void DirectionIndex::layOutCells()
+{
+    std::vector<int> directions(m_bands.size(), 0);
+    for (const Place &place : m_places) {
+        if (std::isnan(place.latitude)) {
+            continue;
+        }
+        const int number = bandAt(place.latitude);
+        Band &band = m_bands[number];
+        const bool isFirst = directions[number]++ == 0;
+        band.firstLongitude
+            = isFirst ? place.longitude : std::min(band.firstLongitude, place.longitude);
+        band.lastLongitude
+            = isFirst ? place.longitude : std::max(band.lastLongitude, place.longitude);
+    }
     int firstCell = 0;
-    for (int band = 0; band < bands; ++band) {
-        const double latitude = -kHalfPi + (band + 0.5) * m_bandHeight;
-        const int cells = static_cast<int>(2.0 * kPi * std::cos(latitude) / m_bandHeight) + 1;
-        m_bands.push_back({ firstCell, cells });
-        firstCell += cells;
+    for (std::size_t number = 0; number < m_bands.size(); ++number) {
+        Band &band = m_bands[number];
+        band.firstCell = firstCell;
+        if (directions[number] > 0) {
+            const double latitude
+                = m_firstLatitude + (static_cast<double>(number) + 0.5) * m_bandHeight;
+            const double span = band.lastLongitude - band.firstLongitude;
+            const double wanted = span * std::abs(std::cos(latitude)) / m_bandHeight + 1.0;
+            const double most = static_cast<double>(directions[number]) * kCellsPerDirection;
+            band.cells = static_cast<int>(std::min(wanted, most));
+            band.cellsPerRadian = band.cells > 1 ? band.cells / span : 0.0;
+        }
+        firstCell += band.cells;
+    }
+    m_cellStarts.assign(static_cast<std::size_t>(firstCell) + 1, 0);
+}
+
+void DirectionIndex::sortIntoCells()
+{
+    std::vector<int> cells;
+    cells.reserve(m_places.size());
+    for (const Place &place : m_places) {
+        cells.push_back(cellOf(place));
+        if (cells.back() >= 0) {
+            ++m_cellStarts[cells.back() + 1];
+        }
+    }
+    for (std::size_t cell = 1; cell < m_cellStarts.size(); ++cell) {
+        m_cellStarts[cell] += m_cellStarts[cell - 1];
+    }
+    m_order.resize(m_cellStarts.back());
+    std::vector<int> next = m_cellStarts;
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+        if (cells[i] >= 0) {
+            m_order[next[cells[i]]++] = static_cast<int>(i);
+        }
     }
 }
 
-int DirectionIndex::bandOf(double latitude) const
+int DirectionIndex::bandAt(double latitude) const
 {
-    const int band = static_cast<int>(std::floor((latitude + kHalfPi) / m_bandHeight));
-    return std::clamp(band, 0, static_cast<int>(m_bands.size()) - 1);
+    const double band = (latitude - m_firstLatitude) / m_bandHeight;
+    return static_cast<int>(std::clamp(band, 0.0, static_cast<double>(m_bands.size() - 1)));
 }
 
-int DirectionIndex::cellOf(const UnitVector &direction) const
+int DirectionIndex::Band::cellAt(double longitude) const
 {
-    const Band &band = m_bands[bandOf(latitudeOf(direction))];
-    const double turn = (longitudeOf(direction) + kPi) / (2.0 * kPi);
-    return band.firstCell + std::clamp(static_cast<int>(turn * band.cells), 0, band.cells - 1);
+    const double cell = (longitude - firstLongitude) * cellsPerRadian;
+    return static_cast<int>(std::clamp(cell, 0.0, static_cast<double>(cells - 1)));
 }
 
-const std::vector<DirectionIndex::CellRange> &DirectionIndex::cellsNear(const UnitVector &centre,
-                                                                        double radius) const
+/** -1 for nowhere. */
+int DirectionIndex::cellOf(const Place &place) const
 {
-    m_found.clear();
-    if (!isFinite(centre)) {
-        return m_found;
+    if (std::isnan(place.latitude)) {
+        return -1;
+    }
+    const Band &band = m_bands[bandAt(place.latitude)];
+    return band.firstCell + band.cellAt(place.longitude);
+}
+
+DirectionIndex::Cap DirectionIndex::capAround(int centre, double radius) const
+{
+    const Place &place = m_places[centre];
+    if (std::isnan(place.latitude)) {
+        return { 0, -1, 0.0, 0.0 };
     }
     const double reach = radius + kMargin;
-    const double latitude = latitudeOf(centre);
     // A cap that holds a pole meets every longitude.
-    const bool holdsPole = std::abs(latitude) + reach >= kHalfPi;
-    const double halfWidth
-        = holdsPole ? kPi : std::asin(std::sin(reach) / std::cos(latitude)) + kMargin;
-    const double longitude = longitudeOf(centre);
-    const int last = bandOf(latitude + reach);
-    for (int band = bandOf(latitude - reach); band <= last; ++band) {
-        appendCells(m_bands[band], longitude, halfWidth);
-    }
-    return m_found;
+    const bool holdsPole = std::abs(place.latitude) + reach >= kHalfPi;
+    const double sine = std::sin(reach) / std::cos(place.latitude);
+    const double halfWidth = holdsPole ? kPi : std::asin(std::min(sine, 1.0)) + kMargin;
+    return { bandAt(place.latitude - reach), bandAt(place.latitude + reach), place.longitude,
+             halfWidth };
 }
 
-void DirectionIndex::appendCells(const Band &band, double longitude, double halfWidth) const
+std::array<DirectionIndex::Slots, 2> DirectionIndex::slotsIn(const Band &band, const Cap &cap) const
 {
-    const double cellsPerRadian = band.cells / (2.0 * kPi);
-    const int first = static_cast<int>(std::floor((longitude + kPi - halfWidth) * cellsPerRadian));
-    const int last = static_cast<int>(std::floor((longitude + kPi + halfWidth) * cellsPerRadian));
-    if (last - first + 1 >= band.cells) {
-        m_found.push_back({ band.firstCell, band.firstCell + band.cells - 1 });
-    } else if (first < 0) {
-        m_found.push_back({ band.firstCell, band.firstCell + last });
-        m_found.push_back({ band.firstCell + first + band.cells, band.firstCell + band.cells - 1 });
-    } else if (last >= band.cells) {
-        m_found.push_back({ band.firstCell + first, band.firstCell + band.cells - 1 });
-        m_found.push_back({ band.firstCell, band.firstCell + last - band.cells });
-    } else {
-        m_found.push_back({ band.firstCell + first, band.firstCell + last });
+    if (band.cells == 0) {
+        return {};
     }
+    if (cap.halfWidth >= kPi) {
+        return { slotsOf(band, { 0, band.cells - 1 }), {} };
+    }
+    const double first = cap.longitude - cap.halfWidth;
+    const double last = cap.longitude + cap.halfWidth;
+    // What reaches beyond half a turn goes on at the other end.
+    const double turn = cap.longitude < 0.0 ? kFullTurn : -kFullTurn;
+    Cells here = cellsBetween(band, first, last);
+    Cells beyond = cellsBetween(band, first + turn, last + turn);
+    if (!here.isEmpty() && !beyond.isEmpty() && here.first <= beyond.last
+        && beyond.first <= here.last) {
+        here = { std::min(here.first, beyond.first), std::max(here.last, beyond.last) };
+        beyond = {};
+    }
+    return { slotsOf(band, here), slotsOf(band, beyond) };
+}
+
+DirectionIndex::Cells DirectionIndex::cellsBetween(const Band &band, double first, double last)
+{
+    if (last < band.firstLongitude || first > band.lastLongitude) {
+        return {};
+    }
+    return { band.cellAt(first), band.cellAt(last) };
+}
+
+DirectionIndex::Slots DirectionIndex::slotsOf(const Band &band, const Cells &cells) const
+{
+    if (cells.isEmpty()) {
+        return {};
+    }
+    return { m_cellStarts[band.firstCell + cells.first],
+             m_cellStarts[band.firstCell + cells.last + 1] };
 }
 
 } // namespace PanoHead

@@ -267,7 +267,7 @@ private:
             }
             return;
         }
-        index.visitNear(view.direction, view.near.radius(), [this, i](int j) { test(i, j); });
+        index.visitNear(i, view.near.radius(), [this, i](int j) { test(i, j); });
     }
 
     /** A pair that both photos see is kept when the first one searches. */
@@ -341,7 +341,7 @@ void appendNeighbourLinks(QVector<AuthorizedLink> &links, const QVector<Directio
                 test(i, j);
             }
         } else {
-            index.visitNear(vectors[i], near.radius(), [&test, i](int j) { test(i, j); });
+            index.visitNear(i, near.radius(), [&test, i](int j) { test(i, j); });
         }
         found.finishPosition(scansAll);
     }

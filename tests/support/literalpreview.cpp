@@ -1,0 +1,105 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: MIT
+#include "tests/support/literalpreview.h"
+
+#include "plugin/xiimagedef.h"
+
+#include <QPainter>
+#include <QPixmap>
+#include <QTransform>
+
+#include <cmath>
+
+using namespace PanoHead;
+
+namespace
+{
+
+const QPixmap *photoFor(const PreviewScene &scene, const PreviewCell &cell)
+{
+    if (cell.image < 0 || cell.image >= scene.images.size()) {
+        return nullptr;
+    }
+    const QPixmap *thumbnail = scene.images.at(cell.image)->Thumbnail();
+    return thumbnail == nullptr || thumbnail->isNull() ? nullptr : thumbnail;
+}
+
+} // namespace
+
+void drawLiteralCells(QPainter &painter, const PreviewScene &scene)
+{
+    const bool isUnscaled = scene.style == CellStyle::UnscaledPhoto;
+    for (const PreviewCell &cell : scene.layout.cells) {
+        if (const QPixmap *thumbnail = photoFor(scene, cell)) {
+            if (isUnscaled) {
+                painter.drawPixmap(cell.box.topLeft(), *thumbnail);
+            } else if (cell.roll == 0.0F || !std::isfinite(cell.roll)) {
+                painter.drawPixmap(cell.box, *thumbnail, QRectF(thumbnail->rect()));
+            } else {
+                const QPixmap turned
+                    = thumbnail->transformed(QTransform().rotate(static_cast<qreal>(cell.roll)));
+                painter.drawPixmap(cell.box, turned, QRectF(turned.rect()));
+            }
+        }
+        painter.drawRect(cell.box);
+        if (!isUnscaled) {
+            painter.drawText(cell.box.adjusted(1, 1, -1, -1),
+                             QStringLiteral("%1 (%2,%3)")
+                                 .arg(QString::number(cell.image),
+                                      QString::number(static_cast<double>(cell.yaw)),
+                                      QString::number(static_cast<double>(cell.pitch))));
+        }
+    }
+}
+
+QImage literalPicture(const PreviewScene &scene, const PreviewColours &colours)
+{
+    if (scene.layout.canvas.isEmpty()) {
+        return {};
+    }
+    QPixmap pixmap(scene.layout.canvas);
+    if (!colours.background.isOpaque()) {
+        pixmap.fill(Qt::transparent);
+    }
+    QPainter painter(&pixmap);
+    painter.fillRect(pixmap.rect(), colours.background);
+    painter.setPen(colours.pen);
+    drawLiteralCells(painter, scene);
+    painter.end();
+    return pixmap.toImage();
+}
+
+QImage literalZoom(const QImage &picture, int percent)
+{
+    const QSize size(picture.width() * percent / 100, picture.height() * percent / 100);
+    if (size.isEmpty()) {
+        return {};
+    }
+    return picture.scaled(size, Qt::IgnoreAspectRatio, Qt::FastTransformation);
+}
+
+QString pixelDifference(const QImage &picture, const QImage &expected)
+{
+    if (picture.size() != expected.size()) {
+        return QStringLiteral("%1 x %2 pixels, not %3 x %4")
+            .arg(QString::number(picture.width()), QString::number(picture.height()),
+                 QString::number(expected.width()), QString::number(expected.height()));
+    }
+    const QImage a = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    const QImage b = expected.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    if (a == b) {
+        return {};
+    }
+    int count = 0;
+    QPoint first;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            if (a.pixel(x, y) != b.pixel(x, y) && count++ == 0) {
+                first = QPoint(x, y);
+            }
+        }
+    }
+    return QStringLiteral("%1 pixels differ, first at %2,%3: %4, not %5")
+        .arg(QString::number(count), QString::number(first.x()), QString::number(first.y()),
+             QString::number(a.pixel(first), 16), QString::number(b.pixel(first), 16));
+}

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ui/previewcanvas.h"
+
+#include <QImage>
+#include <QString>
+
+/**
+ * The picture of \p scene as its description says it, drawn in one go by plain calls of the
+ * painter: background, then cell by cell the photo into the cell (or unscaled from its corner), the
+ * outline and the caption. Takes nothing from the code under test but the places of the cells.
+ */
+[[nodiscard]] QImage literalPicture(const PanoHead::PreviewScene &scene,
+                                    const PanoHead::PreviewColours &colours);
+
+/** \p picture at \p percent: sides cut to whole pixels, aspect ratio ignored, fast scaling. */
+[[nodiscard]] QImage literalZoom(const QImage &picture, int percent);
+
+/** Draws the cells of \p scene with \p painter, one after the other. */
+void drawLiteralCells(QPainter &painter, const PanoHead::PreviewScene &scene);
+
+/** Empty when both pictures are the same; otherwise how many pixels differ and where the first. */
+[[nodiscard]] QString pixelDifference(const QImage &picture, const QImage &expected);
