@@ -36,7 +36,8 @@ PreviewCanvas::Change PreviewCanvas::changeTo(const PreviewScene &scene,
 {
     const bool isOtherPicture = !m_isValid || !(scene.layout == m_scene.layout)
         || scene.style != m_scene.style || !(colours == m_colours);
-    if (isOtherPicture) {
+    // Gradients have other roundings under a clip.
+    if (isOtherPicture || colours.background.gradient() != nullptr) {
         return { true, {} };
     }
     const std::vector<int> changed = changedCells(scene);
@@ -89,11 +90,10 @@ void PreviewCanvas::redraw()
         if (m_image.isNull()) {
             return;
         }
-        m_image.fill(Qt::transparent);
         m_painter.reset(static_cast<int>(m_image.sizeInBytes() / kTilePart));
         indexCells();
         QPainter painter(&m_image);
-        painter.fillRect(m_image.rect(), m_colours.background);
+        fillBackground(painter);
         for (int cell = 0; cell < m_scene.layout.cells.size(); ++cell) {
             m_painter.draw(painter, m_scene, cell, m_colours.caption);
         }
@@ -110,7 +110,7 @@ void PreviewCanvas::patch(const QRegion &region)
         const std::vector<int> cells = cellsTouching(region);
         QPainter painter(&m_image);
         painter.setClipRegion(region);
-        painter.fillRect(m_image.rect(), m_colours.background);
+        fillBackground(painter);
         for (const int cell : cells) {
             m_painter.draw(painter, m_scene, cell, m_colours.caption);
         }
@@ -118,6 +118,16 @@ void PreviewCanvas::patch(const QRegion &region)
     } catch (const std::bad_alloc &) {
         m_image = QImage();
     }
+}
+
+void PreviewCanvas::fillBackground(QPainter &painter) const
+{
+    if (m_image.hasAlphaChannel()) {
+        painter.setCompositionMode(QPainter::CompositionMode_Source);
+        painter.fillRect(m_image.rect(), Qt::transparent);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    }
+    painter.fillRect(m_image.rect(), m_colours.background);
 }
 
 /** Sorts the cells by their photo and by their place. */
@@ -154,19 +164,18 @@ void PreviewCanvas::indexCells()
 std::vector<int> PreviewCanvas::changedCells(const PreviewScene &scene) const
 {
     std::vector<int> changed;
-    const auto cellsOf = [this](int image) {
-        const auto first = std::lower_bound(m_cellOfImage.cbegin(), m_cellOfImage.cend(),
-                                            std::make_pair(image, 0));
-        return first != m_cellOfImage.cend() && first->first == image ? first->second : -1;
+    const auto addCellsOf = [this, &changed](int image) {
+        auto entry = std::lower_bound(m_cellOfImage.cbegin(), m_cellOfImage.cend(),
+                                      std::make_pair(image, 0));
+        for (; entry != m_cellOfImage.cend() && entry->first == image; ++entry) {
+            changed.push_back(entry->second);
+        }
     };
     const int known = m_scene.images.size();
     const int now = scene.images.size();
     for (int image = 0; image < std::max(known, now); ++image) {
         if (image >= known || image >= now || m_scene.images.at(image) != scene.images.at(image)) {
-            const int cell = cellsOf(image);
-            if (cell >= 0) {
-                changed.push_back(cell);
-            }
+            addCellsOf(image);
         }
     }
     return changed;

@@ -59,6 +59,7 @@ private:
     [[nodiscard]] std::vector<int> changedCells(const PreviewScene &scene) const;
     [[nodiscard]] QRect paintedRect(const PreviewScene &scene, int cell) const;
     [[nodiscard]] std::vector<int> cellsTouching(const QRegion &region) const;
+    void fillBackground(QPainter &painter) const;
 
     bool m_isValid = false;
     PreviewScene m_scene;

@@ -92,7 +92,10 @@ CellPainter::Tile CellPainter::fittedTile(const QPixmap &thumbnail, const Previe
     pixmap.fill(Qt::transparent);
     const QPixmap photo = turned(thumbnail, cell.roll);
     QPainter painter(&pixmap);
-    painter.drawPixmap(cell.box.translated(-position), photo, QRectF(photo.rect()));
+    // Moved by the painter, not beforehand: the scale comes from the box as it is, and a rounding
+    // of its sides can shift every pixel that is picked.
+    painter.translate(-position);
+    painter.drawPixmap(cell.box, photo, QRectF(photo.rect()));
     return { position, pixmap };
 }
 
