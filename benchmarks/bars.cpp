@@ -1,0 +1,119 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: MIT
+#include "benchmarks/bars.h"
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdarg>
+#include <cstdio>
+#include <ctime>
+
+namespace
+{
+
+struct Result {
+    std::string name;
+    bool passed;
+};
+
+std::vector<Result> &results()
+{
+    static std::vector<Result> list;
+    return list;
+}
+
+bool clears(const Bars::Bar &bar, const Bars::Figure &figure)
+{
+    if (!figure.mistake.empty()) {
+        return false;
+    }
+    return bar.need == Bars::Need::AtLeast ? figure.value >= bar.limit : figure.value <= bar.limit;
+}
+
+void runRow(benchmark::State &state, const std::string &name, const Bars::Bar &bar,
+            const std::function<Bars::Figure()> &measure)
+{
+    Bars::Figure figure;
+    for (auto _ : state) {
+        figure = measure();
+    }
+    const bool passed = clears(bar, figure);
+    results().push_back({ name, passed });
+    if (!figure.mistake.empty()) {
+        state.SkipWithError(("FAIL: the results differ: " + figure.mistake).c_str());
+        return;
+    }
+    state.SetLabel(Bars::text("%s %.4g%s (bar: at %s %g%s) %s", passed ? "PASS" : "FAIL",
+                              figure.value, bar.unit,
+                              bar.need == Bars::Need::AtLeast ? "least" : "most", bar.limit,
+                              bar.unit, figure.detail.c_str()));
+}
+
+} // namespace
+
+void Bars::add(const std::string &name, const Bar &bar, const std::function<Figure()> &measure)
+{
+    benchmark::RegisterBenchmark(
+        name.c_str(),
+        [name, bar, measure](benchmark::State &state) { runRow(state, name, bar, measure); })
+        ->Iterations(1)
+        ->Unit(benchmark::kMillisecond);
+}
+
+int Bars::run(int argc, char **argv)
+{
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    const auto failed = std::count_if(results().cbegin(), results().cend(),
+                                      [](const Result &result) { return !result.passed; });
+    for (const Result &result : results()) {
+        if (!result.passed) {
+            std::printf("missed: %s\n", result.name.c_str());
+        }
+    }
+    std::printf("%zu rows: %zu passed, %zu failed\n", results().size(),
+                results().size() - static_cast<std::size_t>(failed),
+                static_cast<std::size_t>(failed));
+    return failed == 0 && !results().empty() ? 0 : 1;
+}
+
+double Bars::threadSeconds()
+{
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+}
+
+double Bars::medianSeconds(int runs, const std::function<void()> &work)
+{
+    std::vector<double> times;
+    for (int run = 0; run < runs; ++run) {
+        const double start = threadSeconds();
+        work();
+        times.push_back(threadSeconds() - start);
+    }
+    return median(times);
+}
+
+double Bars::median(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values.empty() ? 0.0 : values[values.size() / 2];
+}
+
+double Bars::exponent(double smallSize, double smallCost, double largeSize, double largeCost)
+{
+    return std::log(largeCost / smallCost) / std::log(largeSize / smallSize);
+}
+
+std::string Bars::text(const char *format, ...)
+{
+    va_list arguments;
+    va_start(arguments, format);
+    char buffer[512];
+    std::vsnprintf(buffer, sizeof buffer, format, arguments);
+    va_end(arguments);
+    return buffer;
+}

@@ -1,0 +1,339 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: MIT
+
+// What a whole load costs the GUI thread on the real pages, against drawing every cell once.
+#include "benchmarks/bars.h"
+#include "importers/clauss/uiwpclauss.h"
+#include "importers/gigapan/gridguess.h"
+#include "importers/gigapan/gridlayout.h"
+#include "importers/gigapan/uiwpgigapan.h"
+#include "importers/papywizard/uiwpmerlin.h"
+#include "importers/vrdrive2/uiwpvrdrive2.h"
+#include "plugin/readingthread.h"
+#include "tests/support/allocations.h"
+#include "tests/support/literalpreview.h"
+#include "tests/support/recordshoot.h"
+#include "ui/previewlabel.h"
+#include "ui/xui.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+#include <numeric>
+
+using namespace PanoHead;
+
+namespace
+{
+
+constexpr int kMostPhotos = 20'000;
+constexpr int kZoom = 50; // as a fresh page has it
+// The smallest step counts as 8 degrees, so that cells this close overlap 44-fold.
+constexpr double kSweepStepDegrees = 1.2;
+constexpr int kClaussBrackets = 3; // 20,000 photos on a canvas within its limit
+
+enum class Head { Papywizard, VRDrive2, Clauss, Gigapan };
+
+struct HeadInfo {
+    Head head;
+    const char *name;
+    double loadBar;
+};
+
+const HeadInfo kHeads[] = {
+    { Head::Papywizard, "Papywizard", 5.0 },
+    { Head::VRDrive2, "VR Drive 2", 5.0 },
+    { Head::Clauss, "Clauss", 2.0 },
+    { Head::Gigapan, "Gigapan", 3.0 },
+};
+
+std::unique_ptr<QWizardPage> newPage(Head head)
+{
+    switch (head) {
+    case Head::Papywizard:
+        return std::make_unique<UIWPMerlin>(nullptr);
+    case Head::VRDrive2:
+        return std::make_unique<UIWPVRDrive2>(nullptr);
+    case Head::Clauss:
+        return std::make_unique<UIWPClauss>(nullptr);
+    case Head::Gigapan:
+        return std::make_unique<UIWPGigapan>(nullptr);
+    }
+    return {};
+}
+
+/** Columns of a sweep of \p count directions that is about as high as wide. */
+int sweepColumns(int count)
+{
+    return static_cast<int>(std::ceil(std::sqrt(count)));
+}
+
+QVector<ShootData> shotsOf(Head head, int count)
+{
+    const int brackets = head == Head::Clauss ? kClaussBrackets : 1;
+    const double step = head == Head::Clauss ? 1.0 : kSweepStepDegrees;
+    const int columns = sweepColumns(count / brackets);
+    QVector<ShootData> shots;
+    for (int i = 0; i < count; ++i) {
+        const int row = i / brackets / columns;
+        // To and fro, as heads sweep.
+        const int place = i / brackets % columns;
+        const int column = row % 2 == 0 ? place : columns - 1 - place;
+        ShootData shot;
+        shot.yaw = QString::number(column * step).toFloat();
+        shot.pitch = QString::number(-row * step).toFloat();
+        shots.append(shot);
+    }
+    return shots;
+}
+
+QByteArray recordOf(Head head, const QVector<ShootData> &shots)
+{
+    if (head == Head::Clauss) {
+        QByteArray script;
+        for (const ShootData &shot : shots) {
+            script += "op_h-angle=" + QByteArray::number(shot.yaw)
+                + "\nop_v-angle=" + QByteArray::number(shot.pitch) + "\nop_shoot\n";
+        }
+        return script;
+    }
+    RecordXml record;
+    for (const ShootData &shot : shots) {
+        record.shots.append({ QString::number(shot.yaw), QString::number(shot.pitch) });
+    }
+    return record.bytes();
+}
+
+PreviewLayout layoutOf(Head head, int count)
+{
+    if (head == Head::Gigapan) {
+        const GridSize size = guessGrid(count);
+        GridView grid;
+        grid.rows = size.rows;
+        grid.columns = size.columns;
+        return layOutGrid(grid, QSize(160, 120));
+    }
+    LayoutRules rules;
+    rules.smallestStepDegrees = head == Head::Clauss ? 0.0 : 8.0;
+    rules.span = head == Head::VRDrive2 ? Span::NegatedSumToo : Span::Absolute;
+    rules.precision = head == Head::Clauss ? Precision::Single : Precision::Double;
+    const QVector<ShootData> shots = shotsOf(head, count);
+    return layOutShots(shots, extentsOf(shots), rules);
+}
+
+PreviewColours coloursOf(Head head, const QWidget &widget)
+{
+    if (head == Head::Gigapan) {
+        return { QBrush(Qt::lightGray), QPen(Qt::black) };
+    }
+    return { widget.palette().brush(QPalette::Current, QPalette::Window),
+             QPen(widget.palette().color(QPalette::Current, QPalette::WindowText)) };
+}
+
+/** The literal picture's cost: only its cells, and all of it. */
+struct Reference {
+    double cellsSeconds = 0.0;
+    double redrawSeconds = 0.0;
+    QImage shown;
+};
+
+Reference referenceFor(const PreviewScene &scene, const PreviewColours &colours)
+{
+    Reference reference;
+    reference.cellsSeconds = Bars::median([&] {
+        std::vector<double> times;
+        for (int run = 0; run < 3; ++run) {
+            QPixmap canvas(scene.layout.canvas);
+            canvas.fill(colours.background.color());
+            QPainter painter(&canvas);
+            painter.setPen(colours.pen);
+            times.push_back(Bars::medianSeconds(1, [&] { drawLiteralCells(painter, scene); }));
+        }
+        return times;
+    }());
+    reference.redrawSeconds = Bars::medianSeconds(
+        3, [&] { reference.shown = literalZoom(literalPicture(scene, colours), kZoom); });
+    return reference;
+}
+
+struct Load {
+    int photos = 0;
+    double recordSeconds = 0.0; ///< reading the record and what is drawn then
+    double chooseSeconds = 0.0; ///< after the dialog
+    std::vector<double> steps; ///< one per Loaded()
+    Reference reference;
+    std::string mistake;
+
+    [[nodiscard]] double stepsSeconds() const
+    {
+        return std::accumulate(steps.cbegin(), steps.cend(), 0.0);
+    }
+    [[nodiscard]] double allSeconds() const
+    {
+        return recordSeconds + chooseSeconds + stepsSeconds();
+    }
+};
+
+const RecordShoot &recordShoot()
+{
+    static const RecordShoot shoot(kMostPhotos);
+    return shoot;
+}
+
+Load measure(Head head, int count)
+{
+    const std::unique_ptr<QWizardPage> page = newPage(head);
+    PageLoad pageLoad(page.get());
+    Load load;
+    load.photos = count;
+    if (head != Head::Gigapan) {
+        const QString name
+            = head == Head::Clauss ? QStringLiteral("shoot.txt") : QStringLiteral("shoot.xml");
+        load.recordSeconds
+            = pageLoad.enterRecord(recordShoot().write(name, recordOf(head, shotsOf(head, count))));
+    }
+    load.chooseSeconds = pageLoad.choosePhotos(recordShoot().photos(count));
+    while (!pageLoad.isDone()) {
+        load.steps.push_back(pageLoad.readNext());
+    }
+    pageLoad.driver().waitUntilRead();
+
+    PreviewScene scene;
+    scene.layout = layoutOf(head, count);
+    scene.images = page->findChild<ReadingThread *>()->XIImageDefs();
+    scene.style = head == Head::Gigapan ? CellStyle::UnscaledPhoto : CellStyle::FittedWithCaption;
+    load.reference = referenceFor(scene, coloursOf(head, *pageLoad.driver().preview()));
+    load.mistake = pixelDifference(pageLoad.driver().picture(), load.reference.shown).toStdString();
+    if (scene.images.size() != count || !page->isComplete()) {
+        load.mistake = "photos were lost";
+    }
+    return load;
+}
+
+/** Each load is made once and serves several rows. */
+const Load &loadOf(Head head, int count)
+{
+    static std::map<std::pair<Head, int>, Load> loads;
+    const std::pair<Head, int> key(head, count);
+    const auto known = loads.find(key);
+    return known != loads.end() ? known->second
+                                : loads.emplace(key, measure(head, count)).first->second;
+}
+
+Bars::Figure wholeLoad(Head head)
+{
+    const Load &load = loadOf(head, 10'000);
+    return { load.stepsSeconds() / load.reference.cellsSeconds,
+             Bars::text("%.3g s against %.3g s; record %.3g s, choosing %.3g s",
+                        load.stepsSeconds(), load.reference.cellsSeconds, load.recordSeconds,
+                        load.chooseSeconds),
+             load.mistake };
+}
+
+Bars::Figure wholeLoadWithRecord(Head head)
+{
+    const Load &load = loadOf(head, 10'000);
+    return { load.allSeconds() / load.reference.cellsSeconds,
+             Bars::text("%.3g s against %.3g s", load.allSeconds(), load.reference.cellsSeconds),
+             load.mistake };
+}
+
+Bars::Figure longestStep(Head head)
+{
+    const Load &load = loadOf(head, 10'000);
+    const auto longest = std::max_element(load.steps.cbegin(), load.steps.cend());
+    return { *longest / load.reference.redrawSeconds,
+             Bars::text("step %d of %zu: %.3g ms; full redraw %.3g ms",
+                        static_cast<int>(longest - load.steps.cbegin()) + 1, load.steps.size(),
+                        *longest * 1e3, load.reference.redrawSeconds * 1e3),
+             load.mistake };
+}
+
+Bars::Figure averageStep(Head head)
+{
+    const Load &load = loadOf(head, 10'000);
+    const double average = load.stepsSeconds() / static_cast<double>(load.steps.size());
+    return { average / load.reference.redrawSeconds,
+             Bars::text("%.3g ms; full redraw %.3g ms", average * 1e3,
+                        load.reference.redrawSeconds * 1e3),
+             load.mistake };
+}
+
+Bars::Figure growth(Head head)
+{
+    const Load &few = loadOf(head, 1'000);
+    const Load &many = loadOf(head, kMostPhotos);
+    return { Bars::exponent(few.photos, few.allSeconds(), many.photos, many.allSeconds()),
+             Bars::text("%.3g s -> %.3g s", few.allSeconds(), many.allSeconds()),
+             few.mistake + many.mistake };
+}
+
+/** The label alone, so that records and photos do not count. */
+Bars::Figure memory(Head head)
+{
+    constexpr int kPhotos = 10'000;
+    PreviewScene scene;
+    scene.layout = layoutOf(head, kPhotos);
+    scene.style = head == Head::Gigapan ? CellStyle::UnscaledPhoto : CellStyle::FittedWithCaption;
+    QPixmap thumbnail(160, 120);
+    thumbnail.fill(Qt::darkCyan);
+    std::deque<RecordPhoto> photos;
+    QList<XIImageDef *> all;
+    for (int i = 0; i < kPhotos; ++i) {
+        photos.emplace_back(QString(), FakePhoto(), &thumbnail);
+        all.append(&photos.back());
+    }
+    PreviewLabel label;
+    const std::int64_t before = Allocations::held();
+    Allocations::resetPeak();
+    for (int count = 0; count <= kPhotos; count += 10) {
+        scene.images = all.mid(0, count);
+        label.showScene(scene, kZoom);
+    }
+    label.forgetPhotos();
+    label.showScene(scene, kZoom);
+    const auto peak = static_cast<double>(Allocations::peak() - before);
+    const QSize canvas = scene.layout.canvas;
+    const double canvasBytes = 4.0 * canvas.width() * canvas.height();
+    const double pictures = canvasBytes * (1.0 + kZoom * kZoom / 10'000.0);
+    return { peak / pictures,
+             Bars::text("%.1f MB; canvas %d x %d, %.1f MB with its zoomed copy", peak / 1e6,
+                        canvas.width(), canvas.height(), pictures / 1e6),
+             canvasBytes <= 256.0 * 1024 * 1024 || head == Head::Gigapan ? ""
+                                                                         : "canvas too large" };
+}
+
+void addRows(const HeadInfo &info)
+{
+    const Head head = info.head;
+    const std::string name = std::string(info.name) + " preview/";
+    const auto atMost = [](double limit, const char *unit = "x") {
+        return Bars::Bar{ Bars::Need::AtMost, limit, unit };
+    };
+    Bars::add(name + "all steps of 10,000 photos/time of drawing each cell once",
+              atMost(info.loadBar), [head] { return wholeLoad(head); });
+    Bars::add(name + "10,000 photos with reading the record/time of drawing each cell once",
+              atMost(info.loadBar), [head] { return wholeLoadWithRecord(head); });
+    Bars::add(name + "longest step of 10,000 photos/time of a full redraw", atMost(0.1),
+              [head] { return longestStep(head); });
+    Bars::add(name + "average step of 10,000 photos/time of a full redraw", atMost(0.01),
+              [head] { return averageStep(head); });
+    Bars::add(name + "from 1,000 to 20,000 photos/cost exponent", atMost(1.15, ""),
+              [head] { return growth(head); });
+    Bars::add(name + "peak memory/of canvas and zoomed copy", atMost(1.35),
+              [head] { return memory(head); });
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    RecordShootApplication application(argc, argv);
+    XUI::init(fakeHost().UIInstances());
+    for (const HeadInfo &info : kHeads) {
+        addRows(info);
+    }
+    return Bars::run(argc, argv);
+}
