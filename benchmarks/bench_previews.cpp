@@ -148,8 +148,8 @@ Reference referenceFor(const PreviewScene &scene, const PreviewColours &colours)
             QPixmap canvas(scene.layout.canvas);
             canvas.fill(colours.background.color());
             QPainter painter(&canvas);
-            painter.setPen(colours.pen);
-            times.push_back(Bars::medianSeconds(1, [&] { drawLiteralCells(painter, scene); }));
+            times.push_back(
+                Bars::medianSeconds(1, [&] { drawLiteralCells(painter, scene, colours.caption); }));
         }
         return times;
     }());

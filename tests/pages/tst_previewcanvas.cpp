@@ -285,14 +285,14 @@ void TestPreviewCanvas::pictureIsTheLiteralOneAtEveryStep_data()
     QTest::newRow("one photo in two cells") << shared << plain << false;
     QTest::newRow("thumbnails with alpha") << grid(9, 7, 96, 40.6) << plain << true;
     QTest::newRow("background that lets through")
-        << grid(9, 7, 96, 60.5) << PreviewColours{ QBrush(QColor(200, 30, 90, 120)), plain.pen }
+        << grid(9, 7, 96, 60.5) << PreviewColours{ QBrush(QColor(200, 30, 90, 120)), plain.caption }
         << false;
     QTest::newRow("background with a pattern")
         << grid(9, 7, 96, 60.5)
-        << PreviewColours{ QBrush(Qt::red, Qt::DiagCrossPattern), plain.pen } << false;
+        << PreviewColours{ QBrush(Qt::red, Qt::DiagCrossPattern), plain.caption } << false;
     QTest::newRow("background with a gradient")
-        << grid(9, 7, 96, 60.5) << PreviewColours{ QBrush(gradient), plain.pen } << false;
-    QTest::newRow("pen that lets through")
+        << grid(9, 7, 96, 60.5) << PreviewColours{ QBrush(gradient), plain.caption } << false;
+    QTest::newRow("captions that let through")
         << grid(9, 7, 96, 60.5) << PreviewColours{ plain.background, QPen(QColor(9, 9, 9, 99)) }
         << false;
 }

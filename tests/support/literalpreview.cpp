@@ -26,8 +26,9 @@ const QPixmap *photoFor(const PreviewScene &scene, const PreviewCell &cell)
 
 } // namespace
 
-void drawLiteralCells(QPainter &painter, const PreviewScene &scene)
+void drawLiteralCells(QPainter &painter, const PreviewScene &scene, const QPen &caption)
 {
+    const QPen outline = painter.pen();
     const bool isUnscaled = scene.style == CellStyle::UnscaledPhoto;
     for (const PreviewCell &cell : scene.layout.cells) {
         if (const QPixmap *thumbnail = photoFor(scene, cell)) {
@@ -43,11 +44,13 @@ void drawLiteralCells(QPainter &painter, const PreviewScene &scene)
         }
         painter.drawRect(cell.box);
         if (!isUnscaled) {
+            painter.setPen(caption);
             painter.drawText(cell.box.adjusted(1, 1, -1, -1),
                              QStringLiteral("%1 (%2,%3)")
                                  .arg(QString::number(cell.image),
                                       QString::number(static_cast<double>(cell.yaw)),
                                       QString::number(static_cast<double>(cell.pitch))));
+            painter.setPen(outline);
         }
     }
 }
@@ -63,8 +66,7 @@ QImage literalPicture(const PreviewScene &scene, const PreviewColours &colours)
     }
     QPainter painter(&pixmap);
     painter.fillRect(pixmap.rect(), colours.background);
-    painter.setPen(colours.pen);
-    drawLiteralCells(painter, scene);
+    drawLiteralCells(painter, scene, colours.caption);
     painter.end();
     return pixmap.toImage();
 }

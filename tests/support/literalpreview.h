@@ -18,8 +18,8 @@
 /** \p picture at \p percent: sides cut to whole pixels, aspect ratio ignored, fast scaling. */
 [[nodiscard]] QImage literalZoom(const QImage &picture, int percent);
 
-/** Draws the cells of \p scene with \p painter, one after the other. */
-void drawLiteralCells(QPainter &painter, const PanoHead::PreviewScene &scene);
+/** Draws the cells of \p scene one after the other, outlined with the painter's pen. */
+void drawLiteralCells(QPainter &painter, const PanoHead::PreviewScene &scene, const QPen &caption);
 
 /** Empty when both pictures are the same; otherwise how many pixels differ and where the first. */
 [[nodiscard]] QString pixelDifference(const QImage &picture, const QImage &expected);
