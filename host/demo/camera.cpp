@@ -95,9 +95,17 @@ LightField exposePhoto(const Radiance &radiance, const Camera &camera, const Pos
 
 LightField exposeSphere(const Radiance &radiance, int width, int samplesPerSide)
 {
-    const int height = width / 2;
-    return exposed(radiance, QSize(width, height), samplesPerSide, [=](double x, double y) {
-        return directionTo((x / width - 0.5) * 360.0, (0.5 - y / height) * 180.0);
+    const QSize size(width, width / 2);
+    return exposePart(radiance, { size, 360.0, 0.0, QRect(QPoint(0, 0), size) }, samplesPerSide);
+}
+
+LightField exposePart(const Radiance &radiance, const SpherePart &part, int samplesPerSide)
+{
+    const double perPixel = part.horizontalFovDegrees / part.canvas.width();
+    const double right = part.crop.left() - part.canvas.width() / 2.0;
+    const double up = part.canvas.height() / 2.0 - part.crop.top();
+    return exposed(radiance, part.crop.size(), samplesPerSide, [=](double x, double y) {
+        return directionTo(part.yawCentreDegrees + (right + x) * perPixel, (up - y) * perPixel);
     });
 }
 

@@ -7,6 +7,7 @@
 
 #include <QImage>
 #include <QPointF>
+#include <QRect>
 #include <QSize>
 
 #include <functional>
@@ -83,6 +84,18 @@ struct LightField {
  * top, averaged over each pixel: what a faultless panorama of the scene receives.
  */
 [[nodiscard]] LightField exposeSphere(const Radiance &radiance, int width, int samplesPerSide = 2);
+
+/** A part of an equirectangular picture. */
+struct SpherePart {
+    QSize canvas; ///< the whole picture, pixels; its middle row lies at pitch 0
+    double horizontalFovDegrees = 360.0; ///< of the whole picture
+    double yawCentreDegrees = 0.0; ///< of the whole picture
+    QRect crop; ///< the part, pixels of the picture
+};
+
+/** What a faultless panorama of \p part receives, averaged over each pixel. */
+[[nodiscard]] LightField exposePart(const Radiance &radiance, const SpherePart &part,
+                                    int samplesPerSide = 2);
 
 /** 32-bit RGB with the sRGB curve, \p stops brighter than the reference exposure. */
 [[nodiscard]] QImage developed(const LightField &light, double stops = 0.0);

@@ -8,6 +8,7 @@
 #include "host/demo/exifwriter.h"
 #include "host/demo/nearestphoto.h"
 #include "host/demo/photoshoot.h"
+#include "host/demo/projectcheck.h"
 #include "host/demo/stitcher.h"
 
 #include <QBuffer>
@@ -28,6 +29,16 @@ Sizes sizesOf(DemoSize size)
 {
     return size == DemoSize::Small ? Sizes{ QSize(600, 400), 1024 }
                                    : Sizes{ QSize(900, 600), 2048 };
+}
+
+/** The scene has finer detail than small pictures can carry. */
+constexpr double kLeastPsnrOfSmallPictures = 30.0;
+
+/** Longer lenses see more: the panorama of a part of the sphere is drawn larger. */
+int sphereWidth(const Sizes &sizes, const Camera &camera)
+{
+    constexpr double kUsualFocal35mm = 24.0;
+    return sizes.panoramaWidth * qRound(camera.focal35mm / kUsualFocal35mm);
 }
 
 /** The images of the project that show the reference exposures: each position's first. */
@@ -69,6 +80,7 @@ public:
         , m_watch(watch)
         , m_sizes(sizesOf(options.size))
         , m_plan(options.head->plan(m_sizes.photo))
+        , m_sphereWidth(sphereWidth(m_sizes, m_plan.camera))
     {
         m_timer.start();
     }
@@ -82,6 +94,7 @@ private:
     Outcome photograph();
     Outcome import();
     Outcome writeProject();
+    Outcome checkLayout();
     Outcome makePanorama();
     Outcome compare();
 
@@ -89,6 +102,8 @@ private:
     {
         return QDir(m_options.folder).absoluteFilePath(QLatin1String(name));
     }
+    Outcome note(const Result<QString> &check);
+    [[nodiscard]] SpherePart wholeSphere() const;
     [[nodiscard]] Outcome write(const QString &file, const QByteArray &content) const;
     void finishStep(const char *name);
 
@@ -97,12 +112,14 @@ private:
     const JobWatch &m_watch;
     const Sizes m_sizes;
     const ShootPlan m_plan;
+    const int m_sphereWidth; ///< of the whole sphere, pixels
     const Scene m_scene;
     QElapsedTimer m_timer;
     QString m_record;
     QStringList m_photos;
     Panorama m_panorama;
     StitchJob m_job;
+    SpherePart m_part; ///< what the panorama shows
     QImage m_stitched;
     DemoReport m_report;
 };
@@ -149,7 +166,7 @@ Demo::Outcome Demo::photograph()
 
 Demo::Outcome Demo::import()
 {
-    DemoImport imported = m_importer(QString::fromLatin1(m_options.head->name), m_record, m_photos);
+    DemoImport imported = m_importer(*m_options.head, m_record, m_photos);
     m_panorama = std::move(imported.panorama);
     QByteArray picture;
     QBuffer buffer(&picture);
@@ -165,8 +182,13 @@ Demo::Outcome Demo::import()
 
 Demo::Outcome Demo::writeProject()
 {
+    // A part of the sphere is drawn to the scale of the whole one.
+    const Result<PtoProject> draft = makePtoProject(m_panorama);
+    if (!draft) {
+        return draft.error();
+    }
     PtoOptions options;
-    options.width = m_sizes.panoramaWidth;
+    options.width = 2 * qRound(m_sphereWidth * draft.value().horizontalFovDegrees / (2.0 * 360.0));
     m_job.projectPath = path("demo.pto");
     const Result<PtoProject> project = writePtoProject(m_panorama, m_job.projectPath, options);
     if (!project) {
@@ -175,26 +197,61 @@ Demo::Outcome Demo::writeProject()
     m_job.canvas = project.value().canvas;
     m_job.fullTurn = project.value().horizontalFovDegrees >= 360.0;
     m_job.images = referenceImages(m_panorama);
+    const QRect crop = project.value().crop;
+    m_part = { m_job.canvas, project.value().horizontalFovDegrees, project.value().yawCentreDegrees,
+               crop.isNull() ? QRect(QPoint(0, 0), m_job.canvas) : crop };
     m_panorama.warnings += project.value().warnings;
     m_panorama.project = ProjectReference{ m_job.projectPath, project.value().yawCentreDegrees };
     const Result<QString> json = writePanoramaJson(m_panorama, path("demo.json"));
     return json ? Outcome() : Outcome(json.error());
 }
 
+SpherePart Demo::wholeSphere() const
+{
+    const QSize size(m_sphereWidth, m_sphereWidth / 2);
+    return { size, 360.0, 0.0, QRect(QPoint(0, 0), size) };
+}
+
+Demo::Outcome Demo::note(const Result<QString> &check)
+{
+    if (check) {
+        m_report.checks.append(check.value());
+        return {};
+    }
+    // Stitching says so too, and goes on without.
+    return check.error().code == ExitCode::ToolMissing ? Outcome() : Outcome(check.error());
+}
+
+Demo::Outcome Demo::checkLayout()
+{
+    // What a record says is rounded; a grid's cells are computed.
+    if (m_options.head->grid != nullptr) {
+        if (Outcome failure = note(checkOrder(m_panorama, m_plan))) {
+            return failure;
+        }
+    }
+    return note(checkProject(m_job.projectPath, m_photos.size()));
+}
+
 Demo::Outcome Demo::makePanorama()
 {
     const Result<QImage> stitched = stitch(m_job, m_watch);
     if (stitched) {
-        m_stitched = stitched.value();
+        m_stitched = stitched.value().copy(m_part.crop);
     } else if (stitched.error().code == ExitCode::ToolMissing) {
         m_report.missingTool = stitched.error();
-        m_stitched = withoutStitching(m_panorama, m_sizes.panoramaWidth);
+        m_part = wholeSphere();
+        m_stitched = withoutStitching(m_panorama, m_sphereWidth);
     } else {
         return stitched.error();
     }
     m_report.size = m_stitched.size();
+    const QRect onSphere
+        = m_part.crop.translated(qRound((m_sphereWidth - m_part.canvas.width()) / 2.0
+                                        + m_part.yawCentreDegrees * m_sphereWidth / 360.0),
+                                 0);
     const Result<QString> written
-        = writePanorama(path("demo.jpg"), m_stitched, m_stitched.size(), m_stitched.rect());
+        = writePanorama(path("demo.jpg"), m_stitched, wholeSphere().canvas, onSphere);
     if (!written) {
         return written.error();
     }
@@ -208,7 +265,7 @@ Demo::Outcome Demo::compare()
     m_watch.report(0, 1, QStringLiteral("comparing with the scene"));
     QImage written(m_report.panoramaPath);
     written.setAlphaChannel(m_stitched.convertToFormat(QImage::Format_Alpha8));
-    m_report.agreement = agreementOf(written, truthOf(m_scene, m_sizes.panoramaWidth));
+    m_report.agreement = agreementOf(written, truthOf(m_scene, m_part));
     finishStep("comparing with the scene");
     return {};
 }
@@ -216,10 +273,10 @@ Demo::Outcome Demo::compare()
 Result<DemoReport> Demo::run()
 {
     using Step = Outcome (Demo::*)();
-    constexpr std::array<Step, 6> kSteps{
-        &Demo::makeFolder,   &Demo::photograph,   &Demo::import,
-        &Demo::writeProject, &Demo::makePanorama, &Demo::compare
-    };
+    constexpr std::array<Step, 7> kSteps{ &Demo::makeFolder,  &Demo::photograph,
+                                          &Demo::import,      &Demo::writeProject,
+                                          &Demo::checkLayout, &Demo::makePanorama,
+                                          &Demo::compare };
     for (const Step step : kSteps) {
         if (m_watch.stopWanted()) {
             return interruption();
@@ -228,6 +285,9 @@ Result<DemoReport> Demo::run()
             return *failure;
         }
     }
+    m_report.leastPsnrDecibels = m_options.size == DemoSize::Normal
+        ? m_options.head->leastPsnrDecibels
+        : kLeastPsnrOfSmallPictures;
     return m_report;
 }
 

@@ -36,7 +36,7 @@ struct DemoImport {
  * Imports \p photos with \p record (empty for heads without one) through the page of \p head.
  * What it throws passes through `runDemo`.
  */
-using DemoImporter = std::function<DemoImport(const QString &head, const QString &record,
+using DemoImporter = std::function<DemoImport(const DemoHead &head, const QString &record,
                                               const QStringList &photos)>;
 
 /** One part of the work and how long it took. */
@@ -50,14 +50,13 @@ struct DemoReport {
     QString panoramaPath;
     QSize size;
     int photoCount = 0;
-    Agreement agreement; ///< of the written file with the scene
+    Agreement agreement; ///< of the written file with the same part of the scene
+    double leastPsnrDecibels = 0.0; ///< less agreement: something has gone wrong
+    QStringList checks; ///< what else was found to be right, in words
     QVector<DemoStep> steps;
     /** The stitching programs are missing: the panorama is made without them and not blended. */
     std::optional<Failure> missingTool;
 };
-
-/** A panorama that agrees less than this with its scene has gone wrong somewhere. */
-constexpr double kLeastPsnrDecibels = 30.0;
 
 /**
  * Photographs the made-up scene, imports the photos and stitches the panorama. Leaves in the

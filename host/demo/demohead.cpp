@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace PanoHost
 {
@@ -32,10 +33,13 @@ ShootPlan wholeDegrees(const QSize &photoSize)
     return plan;
 }
 
-/** The darkest first: the importer is to find the median exposure by itself. */
+/**
+ * The darkest first: the importer is to find the median exposure by itself. Goes exactly where the
+ * record says.
+ */
 ShootPlan brackets(const QSize &photoSize)
 {
-    ShootPlan plan = singleExposures(photoSize);
+    ShootPlan plan = wholeDegrees(photoSize);
     plan.stops = { -2.0, 0.0, 2.0 };
     return plan;
 }
@@ -45,10 +49,36 @@ QByteArray papywizard(const ShootPlan &plan)
     return papywizardRecord(plan, QStringLiteral("Lake terrace"));
 }
 
-constexpr std::array<DemoHead, 3> kHeads{ {
-    { "papywizard", "record.xml", singleExposures, papywizard },
-    { "vrdrive2", "record.xml", brackets, papywizard },
-    { "clauss", "script.txt", wholeDegrees, claussScript },
+constexpr DemoGrid kGrid{ 3, 40.0 };
+constexpr int kGridColumns = 5;
+constexpr double kGridFocal35mm = 50.0;
+
+/** Column by column from the left, each downwards; neighbours overlap as the user says. */
+ShootPlan grid(const QSize &photoSize)
+{
+    ShootPlan plan;
+    plan.camera = { photoSize, kGridFocal35mm, Projection::Rectilinear };
+    const double step = 1.0 - kGrid.overlapPercent / 100.0;
+    const auto stepDegrees = [step](int pixels, double focalPixels) {
+        return step * 2.0 * std::atan(pixels / (2.0 * focalPixels)) * 180.0 / M_PI;
+    };
+    const double focal = plan.camera.focalPixels();
+    for (int column = 0; column < kGridColumns; ++column) {
+        for (int row = 0; row < kGrid.rows; ++row) {
+            plan.positions.append(
+                { (column - (kGridColumns - 1) / 2.0) * stepDegrees(photoSize.width(), focal),
+                  ((kGrid.rows - 1) / 2.0 - row) * stepDegrees(photoSize.height(), focal), 0.0 });
+        }
+    }
+    return plan;
+}
+
+// Rounding and play of the Papywizard head cost some decibels.
+constexpr std::array<DemoHead, 4> kHeads{ {
+    { "papywizard", "record.xml", singleExposures, papywizard, nullptr, 30.0 },
+    { "vrdrive2", "record.xml", brackets, papywizard, nullptr, 36.0 },
+    { "clauss", "script.txt", wholeDegrees, claussScript, nullptr, 36.0 },
+    { "gigapan", nullptr, grid, nullptr, &kGrid, 36.0 },
 } };
 
 } // namespace

@@ -52,4 +52,9 @@ QImage truthOf(const Scene &scene, int width)
     return developed(exposeSphere(radianceOf(scene), width, kSamplesPerTruthPixelSide));
 }
 
+QImage truthOf(const Scene &scene, const SpherePart &part)
+{
+    return developed(exposePart(radianceOf(scene), part, kSamplesPerTruthPixelSide));
+}
+
 } // namespace PanoHost

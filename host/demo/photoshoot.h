@@ -22,4 +22,7 @@ namespace PanoHost
 /** What a faultless panorama of \p scene looks like: \p width x \p width / 2 pixels. */
 [[nodiscard]] QImage truthOf(const Scene &scene, int width);
 
+/** The same for \p part of it. */
+[[nodiscard]] QImage truthOf(const Scene &scene, const SpherePart &part);
+
 } // namespace PanoHost
