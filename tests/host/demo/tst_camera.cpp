@@ -56,6 +56,7 @@ class TestCamera : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
+    void partOfTheSphereIsThatPartOfTheWholePicture();
     void markerLandsOnItsPixel_data();
     void markerLandsOnItsPixel();
     void uprightPortraitKeepsTheFocalLengthInPixels();
@@ -218,6 +219,18 @@ void TestCamera::stopsDoubleTheLightBeforeTheCurve()
     QFETCH(int, level);
     const LightField grey{ QSize(1, 1), { Rgb{ 0.2F, 0.2F, 0.2F } } };
     QCOMPARE(developed(grey, stops).pixel(0, 0), qRgb(level, level, level));
+}
+
+void TestCamera::partOfTheSphereIsThatPartOfTheWholePicture()
+{
+    // 90 degrees about yaw 90 of a picture of 360 degrees: columns 640 to 895 of 1024.
+    const Radiance light = spotAt(100.0, 10.0, 1.0);
+    const QImage whole = developed(exposeSphere(light, 1024, 1));
+    const QRect crop(20, 200, 200, 90);
+    const QImage part = developed(exposePart(light, { QSize(256, 512), 90.0, 90.0, crop }, 1));
+    QCOMPARE(part.size(), crop.size());
+    QCOMPARE(part, whole.copy(crop.translated(640, 0)));
+    QVERIFY(part != developed(exposePart(light, { QSize(256, 512), 90.0, 91.0, crop }, 1)));
 }
 
 QTEST_GUILESS_MAIN(TestCamera)

@@ -75,6 +75,8 @@ private Q_SLOTS:
     void exactAnglesNeedNoOptimisation_data();
     void exactAnglesNeedNoOptimisation();
     void demoEndsWithAPanorama();
+    void everyHeadReachesItsPanorama_data();
+    void everyHeadReachesItsPanorama();
     void demoWithoutStitchingProgramsStillShowsAPicture();
     void interruptedDemoLeavesNoPanorama();
     void demoRefusesAFolderThatCannotBeMade();
@@ -207,6 +209,52 @@ void TestEndToEnd::demoEndsWithAPanorama()
         = agreementOf(QImage(show.filePath(QStringLiteral("demo.jpg"))), m_truth).psnrDecibels;
     QVERIFY(psnr > 30.0);
     QVERIFY(std::fabs(psnr - printedPsnr(demo.output)) < 0.06);
+}
+
+void TestEndToEnd::everyHeadReachesItsPanorama_data()
+{
+    QTest::addColumn<QString>("head");
+    QTest::addColumn<QString>("size");
+    QTest::addColumn<double>("leastPsnr");
+    QTest::addColumn<int>("photos");
+    QTest::addColumn<QString>("record");
+    QTest::newRow("clauss, whole degrees") << QStringLiteral("clauss") << QStringLiteral("normal")
+                                           << 36.0 << 26 << QStringLiteral("script.txt");
+    QTest::newRow("vrdrive2, reference exposures of brackets")
+        << QStringLiteral("vrdrive2") << QStringLiteral("normal") << 36.0 << 78
+        << QStringLiteral("record.xml");
+    QTest::newRow("gigapan, a part of the sphere")
+        << QStringLiteral("gigapan") << QStringLiteral("small") << 36.0 << 15 << QString();
+}
+
+void TestEndToEnd::everyHeadReachesItsPanorama()
+{
+    QFETCH(QString, head);
+    QFETCH(QString, size);
+    QFETCH(double, leastPsnr);
+    QFETCH(int, photos);
+    QFETCH(QString, record);
+    const QTemporaryDir folder;
+    const Run demo = runPanohost({ QStringLiteral("demo"), QStringLiteral("show"),
+                                   QStringLiteral("--head"), head, QStringLiteral("--size"), size },
+                                 folder.path());
+    QVERIFY2(demo.exitCode == 0, qPrintable(demo.errors));
+    qInfo("%.1f dB", printedPsnr(demo.output));
+    QVERIFY(printedPsnr(demo.output) > leastPsnr);
+    QVERIFY2(demo.errors.contains(
+                 QStringLiteral("checkpto accepts the project and finds %1 photos").arg(photos)),
+             qPrintable(demo.errors));
+    QCOMPARE(demo.errors.contains(QStringLiteral("positions lie in the order")), record.isEmpty());
+    const QDir show(folder.filePath(QStringLiteral("show")));
+    QVERIFY(!QImage(show.filePath(QStringLiteral("layout.png"))).isNull());
+    QStringList files{ QStringLiteral("demo.jpg"), QStringLiteral("demo.json"),
+                       QStringLiteral("demo.pto"), QStringLiteral("layout.png"),
+                       QStringLiteral("photos") };
+    if (!record.isEmpty()) {
+        files += record;
+    }
+    QCOMPARE(show.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name),
+             files);
 }
 
 void TestEndToEnd::demoWithoutStitchingProgramsStillShowsAPicture()
