@@ -138,7 +138,7 @@ void checkLayout(const PreviewLayout &layout, const LayoutRules &rules)
 void paint(const PreviewLayout &layout, const QList<XIImageDef *> &images, CellStyle style,
            int zoomPercent)
 {
-    const PreviewColours colours{ QBrush(Qt::lightGray), QPen(Qt::black) };
+    const PreviewColours colours{ QBrush(Qt::lightGray), { QPen(Qt::black), QBrush() } };
     const PreviewScene first{ layout, images.mid(0, images.size() / 2), style };
     const PreviewScene second{ layout, images, style };
     PreviewCanvas canvas;

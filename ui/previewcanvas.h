@@ -6,7 +6,6 @@
 
 #include <QBrush>
 #include <QImage>
-#include <QPen>
 #include <QRect>
 #include <QRegion>
 
@@ -19,7 +18,7 @@ namespace PanoHead
 /** Colours of a layout picture. */
 struct PreviewColours {
     QBrush background;
-    QPen caption; ///< outlines have the painter's default pen
+    CaptionColours caption; ///< outlines have the painter's default pen
 
     friend bool operator==(const PreviewColours &a, const PreviewColours &b)
     {

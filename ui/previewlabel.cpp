@@ -21,6 +21,17 @@ void keepMiddle(QScrollBar *bar, int before, int after)
     bar->setValue(qRound(middle * after - page / 2.0));
 }
 
+/** Dark text can be read on most photos; the bright text of dark themes drowns in bright skies. */
+QBrush captionGround(const QColor &text, QColor window)
+{
+    constexpr qreal kOpacity = 0.6;
+    if (text.lightness() <= window.lightness()) {
+        return {};
+    }
+    window.setAlphaF(kOpacity);
+    return window;
+}
+
 } // namespace
 
 void PreviewLabel::showScene(const PreviewScene &scene, int zoomPercent)
@@ -87,10 +98,11 @@ void PreviewLabel::resizeEvent(QResizeEvent *event)
 PreviewColours PreviewLabel::colours(CellStyle style) const
 {
     if (style == CellStyle::UnscaledPhoto) {
-        return { QBrush(Qt::lightGray), QPen(Qt::black) };
+        return { QBrush(Qt::lightGray), { QPen(Qt::black), QBrush() } };
     }
-    return { palette().brush(QPalette::Current, QPalette::Window),
-             QPen(palette().color(QPalette::Current, QPalette::WindowText)) };
+    const QBrush window = palette().brush(QPalette::Current, QPalette::Window);
+    const QColor text = palette().color(QPalette::Current, QPalette::WindowText);
+    return { window, { QPen(text), captionGround(text, window.color()) } };
 }
 
 } // namespace PanoHead

@@ -5,6 +5,7 @@
 #include "plugin/xiimagedef.h"
 
 #include <QPainter>
+#include <QTextOption>
 #include <QTransform>
 
 #include <cmath>
@@ -25,14 +26,19 @@ QPixmap turned(const QPixmap &thumbnail, float rollDegrees)
     return thumbnail.transformed(QTransform().rotate(static_cast<qreal>(rollDegrees)));
 }
 
-void drawCaption(QPainter &painter, const PreviewCell &cell, const QPen &pen)
+void drawCaption(QPainter &painter, const PreviewCell &cell, const CaptionColours &colours)
 {
+    const QRectF room = cell.box.adjusted(1.0, 1.0, -1.0, -1.0);
+    const QString text = QStringLiteral("%1 (%2,%3)")
+                             .arg(QString::number(cell.image), QString::number(cell.yaw),
+                                  QString::number(cell.pitch));
+    if (colours.ground.style() != Qt::NoBrush) {
+        const QRectF ground = painter.boundingRect(room, text, QTextOption());
+        painter.fillRect(ground & room, colours.ground);
+    }
     const QPen outline = painter.pen();
-    painter.setPen(pen);
-    painter.drawText(cell.box.adjusted(1.0, 1.0, -1.0, -1.0),
-                     QStringLiteral("%1 (%2,%3)")
-                         .arg(QString::number(cell.image), QString::number(cell.yaw),
-                              QString::number(cell.pitch)));
+    painter.setPen(colours.text);
+    painter.drawText(room, text);
     painter.setPen(outline);
 }
 
@@ -53,7 +59,8 @@ void CellPainter::reset(int tileBytes)
     m_tiles.setMaxCost(tileBytes);
 }
 
-void CellPainter::draw(QPainter &painter, const PreviewScene &scene, int cell, const QPen &caption)
+void CellPainter::draw(QPainter &painter, const PreviewScene &scene, int cell,
+                       const CaptionColours &caption)
 {
     const PreviewCell &drawn = scene.layout.cells.at(cell);
     const bool isFitted = scene.style == CellStyle::FittedWithCaption;

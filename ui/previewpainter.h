@@ -4,6 +4,7 @@
 
 #include "importers/common/previewlayout.h"
 
+#include <QBrush>
 #include <QCache>
 #include <QList>
 #include <QPen>
@@ -21,6 +22,17 @@ namespace PanoHead
 enum class CellStyle {
     FittedWithCaption, ///< scaled to the cell, aspect ratio ignored; number and angles on top
     UnscaledPhoto, ///< at its own size from the cell's corner; no caption
+};
+
+/** How captions stand out from the photos under them. */
+struct CaptionColours {
+    QPen text;
+    QBrush ground; ///< behind the text; no brush: nothing
+
+    friend bool operator==(const CaptionColours &a, const CaptionColours &b)
+    {
+        return a.text == b.text && a.ground == b.ground;
+    }
 };
 
 /** A layout picture to draw. */
@@ -47,7 +59,8 @@ public:
     {
     }
 
-    void draw(QPainter &painter, const PreviewScene &scene, int cell, const QPen &caption);
+    void draw(QPainter &painter, const PreviewScene &scene, int cell,
+              const CaptionColours &caption);
     /** The photo of \p cell has changed. */
     void forget(int cell) { m_tiles.remove(cell); }
     /** Everything has changed. */

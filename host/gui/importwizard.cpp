@@ -7,8 +7,10 @@
 #include "host/gui/resultpage.h"
 #include "plugin/xiabout.h"
 
+#include <QAbstractButton>
 #include <QDropEvent>
 #include <QLabel>
+#include <QLayout>
 #include <QMimeData>
 #include <QShortcut>
 #include <QUrl>
@@ -22,8 +24,6 @@ namespace
 constexpr int kChoiceId = 0;
 constexpr int kFirstPluginId = 1;
 constexpr int kResultId = 1000;
-// Large enough for the pages' previews, small enough for a netbook.
-constexpr QSize kSmallestSize(790, 570); // a window frame around it fits 800 x 600
 constexpr QSize kFirstSize(900, 720);
 
 QString settingsGroup()
@@ -79,11 +79,17 @@ ImportWizard::ImportWizard(PanoHostApplication &app, const PluginLibrary &librar
             m_choicePage->choose(i);
         }
     }
-    setMinimumSize(kSmallestSize);
     resize(kFirstSize);
     restoreGeometry(app.ReadSetting(settingsGroup(), geometryKey(), QByteArray()).toByteArray());
     connect(&app, &PanoHostApplication::delivered, this, &ImportWizard::takeDelivery);
     connect(this, &QWizard::currentIdChanged, this, &ImportWizard::openLinksOfSubtitle);
+    connect(this, &QWizard::currentIdChanged, this, [this] {
+        // Its size was asked for before it was shown, when fonts and styles had not settled.
+        if (currentPage() != nullptr) {
+            currentPage()->updateGeometry();
+        }
+        fitPages();
+    });
     connect(this, &QWizard::currentIdChanged, this, &ImportWizard::rememberChoice);
     connect(this, &QWizard::helpRequested, this, &ImportWizard::showHelp);
     connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
@@ -127,6 +133,26 @@ void ImportWizard::fillIn(const QStringList &files)
     const QString problem = fillPage(m_app, currentPage(), filled);
     if (!problem.isEmpty()) {
         showMessage(QMessageBox::Warning, tr("Files not taken"), problem);
+    }
+}
+
+bool ImportWizard::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::LayoutRequest) {
+        fitPages();
+    }
+    return QWizard::eventFilter(watched, event);
+}
+
+/** Keeps the window large enough for what the page shows. */
+void ImportWizard::fitPages()
+{
+    // The base class asks a page for its size only when it comes to the front, but texts grow when
+    // a record is read. All of the wizard's parts lie in one widget, its buttons too.
+    QWidget *content = button(QWizard::CancelButton)->parentWidget();
+    content->installEventFilter(this);
+    if (content->layout() != nullptr) {
+        setMinimumSize(content->layout()->totalMinimumSize());
     }
 }
 

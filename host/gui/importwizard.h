@@ -43,6 +43,7 @@ public:
     [[nodiscard]] const SourceInfo &source() const { return m_source; }
 
 protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
     void done(int result) override;
@@ -50,6 +51,7 @@ protected:
 private:
     void takeDelivery();
     void openLinksOfSubtitle();
+    void fitPages();
     void rememberChoice(int id);
     void showHelp();
     void showMessage(QMessageBox::Icon icon, const QString &title, const QString &text);

@@ -25,13 +25,28 @@ double wrappedYaw(double yaw)
     return (turned < 0.0 ? turned + kYawSpan : turned) - kYawSpan / 2.0;
 }
 
+/** Angles arrive as radians in single precision, where a half turn can fall on either side. */
+double withoutRoundingNoise(double degrees)
+{
+    constexpr double kFinest = 1e-4;
+    return std::round(degrees / kFinest) * kFinest;
+}
+
+/** \p colour made fainter; it stays visible on any theme's ground. */
+QColor faint(QColor colour, double opacity)
+{
+    colour.setAlphaF(opacity);
+    return colour;
+}
+
 } // namespace
 
 LayoutScene layoutScene(const Panorama &panorama)
 {
     LayoutScene scene;
     for (const Position &position : panorama.positions) {
-        scene.places += QPointF(wrappedYaw(position.yawDegrees), position.pitchDegrees);
+        scene.places += QPointF(wrappedYaw(withoutRoundingNoise(position.yawDegrees)),
+                                position.pitchDegrees);
     }
     scene.linked.fill(false, scene.places.size());
     for (const AuthorizedLink &link : panorama.description.authorizedLinks) {
@@ -81,8 +96,11 @@ void LayoutPicture::paintEvent(QPaintEvent *event)
 
 QRectF LayoutPicture::map() const
 {
-    constexpr double kMargin = 14.0;
-    const double mapWidth = std::min(width() - 2.0 * kMargin, 2.0 * (height() - 2.0 * kMargin));
+    // Numbers stand to the upper right of their marks, at the edges too.
+    const double margin = fontMetrics().height() + 2.0;
+    const double numberWidth = fontMetrics().horizontalAdvance(QStringLiteral("000"));
+    const double mapWidth
+        = std::min(width() - 2.0 * (margin + numberWidth), 2.0 * (height() - 2.0 * margin));
     const QSizeF size(mapWidth, mapWidth / 2.0);
     return { QPointF((width() - size.width()) / 2.0, (height() - size.height()) / 2.0), size };
 }
@@ -97,7 +115,7 @@ QPointF LayoutPicture::onScreen(const QPointF &place) const
 void LayoutPicture::paintGrid(QPainter &painter) const
 {
     constexpr double kStep = 30.0;
-    painter.setPen(palette().color(QPalette::AlternateBase));
+    painter.setPen(faint(palette().color(QPalette::Text), 0.12));
     for (double yaw = -kYawSpan / 2.0; yaw <= kYawSpan / 2.0; yaw += kStep) {
         painter.drawLine(onScreen({ yaw, -kPitchSpan / 2.0 }), onScreen({ yaw, kPitchSpan / 2.0 }));
     }
@@ -108,7 +126,7 @@ void LayoutPicture::paintGrid(QPainter &painter) const
 
 void LayoutPicture::paintLinks(QPainter &painter) const
 {
-    painter.setPen(palette().color(QPalette::Mid));
+    painter.setPen(faint(palette().color(QPalette::Text), 0.45));
     painter.setClipRect(map());
     const int count = std::min(m_scene.links.size(), kMostLinks);
     for (int i = 0; i < count; ++i) {

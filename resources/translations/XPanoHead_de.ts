@@ -305,7 +305,7 @@
     </message>
     <message>
         <source>Bracketing used in XML, should be multiple of that number</source>
-        <translation>Belichtungsreihe in der XML-Datei: Die Anzahl der Bilder muss ein Vielfaches dieser Zahl sein</translation>
+        <translation>Belichtungsreihe in der XML-Datei: Bildanzahl muss ein Vielfaches sein</translation>
     </message>
     <message>
         <source>Not the same as in XML fil</source>
@@ -527,7 +527,7 @@
     </message>
     <message>
         <source>Bracketing used in XML, should be multiple of that number</source>
-        <translation>Belichtungsreihe in der XML-Datei: Die Anzahl der Bilder muss ein Vielfaches dieser Zahl sein</translation>
+        <translation>Belichtungsreihe in der XML-Datei: Bildanzahl muss ein Vielfaches sein</translation>
     </message>
     <message>
         <source>Not the same as in XML fil</source>

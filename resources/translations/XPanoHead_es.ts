@@ -186,11 +186,11 @@
     </message>
     <message>
         <source>Columns (default)</source>
-        <translation>Columnas (predeterminado)</translation>
+        <translation>Columnas (por defecto)</translation>
     </message>
     <message>
         <source>Columns: to left</source>
-        <translation>Columnas: hacia la izquierda</translation>
+        <translation>Columnas: a la izquierda</translation>
     </message>
     <message>
         <source>Rows: downward</source>

@@ -190,7 +190,7 @@
     </message>
     <message>
         <source>Columns: to left</source>
-        <translation>Colonnes : vers la gauche</translation>
+        <translation>Colonnes : à gauche</translation>
     </message>
     <message>
         <source>Rows: downward</source>

@@ -305,7 +305,7 @@
     </message>
     <message>
         <source>Bracketing used in XML, should be multiple of that number</source>
-        <translation>В XML используется брекетинг: число снимков должно быть кратно этому числу</translation>
+        <translation>В XML указан брекетинг: число снимков должно быть кратно ему</translation>
     </message>
     <message>
         <source>Not the same as in XML fil</source>
@@ -527,7 +527,7 @@
     </message>
     <message>
         <source>Bracketing used in XML, should be multiple of that number</source>
-        <translation>В XML используется брекетинг: число снимков должно быть кратно этому числу</translation>
+        <translation>В XML указан брекетинг: число снимков должно быть кратно ему</translation>
     </message>
     <message>
         <source>Not the same as in XML fil</source>
