@@ -1,6 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
+#include "importers/clauss/uiwpclauss.h"
+#include "importers/gigapan/uiwpgigapan.h"
 #include "importers/papywizard/uiwpmerlin.h"
+#include "importers/vrdrive2/uiwpvrdrive2.h"
 #include "plugin/importplugins.h"
 #include "plugin/library.h"
 #include "plugin/xiapplication.h"
@@ -81,12 +84,30 @@ template <typename Page> constexpr bool hasPageOperations()
     return true;
 }
 
-static_assert(hasPageOperations<UIWPMerlin>());
-static_assert(std::is_convertible_v<UIWPMerlin *, QWizardPage *>);
-static_assert(std::is_convertible_v<UIWPMerlin *, MerlinToSPP *>);
-static_assert(std::is_convertible_v<UIWPMerlin *, Ui::UIWPMerlinClass *>);
-static_assert(std::is_convertible_v<MerlinToSPP *, StructuredPanoramaProperties *>);
-static_assert(!std::is_polymorphic_v<MerlinToSPP>);
+/** The wizard page, the generator with the record as its first part, the form. */
+template <typename Page, typename Generator, typename Form>
+constexpr bool kHasPageShape
+    = hasPageOperations<Page>()
+    && std::is_convertible_v<Page *, QWizardPage *> &&std::is_convertible_v<Page *, Generator *>
+        &&std::is_convertible_v<Page *, Form *> &&std::is_convertible_v<
+            Generator *, StructuredPanoramaProperties *> && !std::is_polymorphic_v<Generator>;
+
+static_assert(kHasPageShape<UIWPClauss, ClaussToSPP, Ui::UIWPClaussClass>);
+static_assert(kHasPageShape<UIWPGigapan, GigapanToSPP, Ui::UIWPGigapanClass>);
+static_assert(kHasPageShape<UIWPMerlin, MerlinToSPP, Ui::UIWPMerlinClass>);
+static_assert(kHasPageShape<UIWPVRDrive2, VRDrive2ToSPP, Ui::UIWPVRDrive2Class>);
+
+/** Whether the bases of a page stand in that order. */
+template <typename Page, typename Generator, typename Form> bool basesStandInOrder()
+{
+    Page page(nullptr);
+    const auto address = [](const auto *part) { return reinterpret_cast<quintptr>(part); };
+    const quintptr generator = address(static_cast<Generator *>(&page));
+    return address(static_cast<QWizardPage *>(&page)) == address(&page)
+        && address(&page) < generator
+        && address(static_cast<StructuredPanoramaProperties *>(&page)) == generator
+        && generator < address(static_cast<Form *>(&page));
+}
 
 } // namespace
 
@@ -102,16 +123,10 @@ private Q_SLOTS:
 
 void TestFrameShape::pageBasesStandInTheirOrder()
 {
-    UIWPMerlin page(nullptr);
-    const auto address = [](const auto *part) { return reinterpret_cast<quintptr>(part); };
-    const quintptr wizardPage = address(static_cast<QWizardPage *>(&page));
-    const quintptr description = address(static_cast<StructuredPanoramaProperties *>(&page));
-    const quintptr generator = address(static_cast<MerlinToSPP *>(&page));
-    const quintptr form = address(static_cast<Ui::UIWPMerlinClass *>(&page));
-    QCOMPARE(wizardPage, address(&page));
-    QVERIFY(wizardPage < generator);
-    QCOMPARE(description, generator); // the record is the generator's first part
-    QVERIFY(generator < form);
+    QVERIFY((basesStandInOrder<UIWPClauss, ClaussToSPP, Ui::UIWPClaussClass>()));
+    QVERIFY((basesStandInOrder<UIWPGigapan, GigapanToSPP, Ui::UIWPGigapanClass>()));
+    QVERIFY((basesStandInOrder<UIWPMerlin, MerlinToSPP, Ui::UIWPMerlinClass>()));
+    QVERIFY((basesStandInOrder<UIWPVRDrive2, VRDrive2ToSPP, Ui::UIWPVRDrive2Class>()));
 }
 
 void TestFrameShape::papywizardPageHasItsSlotsAndNoSignals()
