@@ -27,7 +27,7 @@ enum class CellStyle {
 /** How captions stand out from the photos under them. */
 struct CaptionColours {
     QPen text;
-    QBrush ground; ///< behind the text; no brush: nothing
+    QBrush ground = {}; ///< behind the text; no brush: nothing
 
     friend bool operator==(const CaptionColours &a, const CaptionColours &b)
     {

@@ -86,9 +86,9 @@ QVector<DemoHead> heads()
 {
     const DemoHead papywizard = *demoHead(QStringLiteral("papywizard"));
     return { papywizard,
-             { "vrdrive2", papywizard.recordFile, bracketPlan, papywizard.record },
+             { "vrdrive2", papywizard.recordFile, bracketPlan, papywizard.record, nullptr, 0.0 },
              *demoHead(QStringLiteral("clauss")),
-             { "gigapan", nullptr, gridPlan, nullptr } };
+             { "gigapan", nullptr, gridPlan, nullptr, nullptr, 0.0 } };
 }
 
 /** Takes the photos of \p head and writes its record, unless an earlier run has done so. */

@@ -6,6 +6,7 @@
 
 #include <QPainter>
 #include <QPixmap>
+#include <QTextOption>
 #include <QTransform>
 
 #include <cmath>
@@ -26,7 +27,7 @@ const QPixmap *photoFor(const PreviewScene &scene, const PreviewCell &cell)
 
 } // namespace
 
-void drawLiteralCells(QPainter &painter, const PreviewScene &scene, const QPen &caption)
+void drawLiteralCells(QPainter &painter, const PreviewScene &scene, const CaptionColours &caption)
 {
     const QPen outline = painter.pen();
     const bool isUnscaled = scene.style == CellStyle::UnscaledPhoto;
@@ -44,12 +45,17 @@ void drawLiteralCells(QPainter &painter, const PreviewScene &scene, const QPen &
         }
         painter.drawRect(cell.box);
         if (!isUnscaled) {
-            painter.setPen(caption);
-            painter.drawText(cell.box.adjusted(1, 1, -1, -1),
-                             QStringLiteral("%1 (%2,%3)")
-                                 .arg(QString::number(cell.image),
-                                      QString::number(static_cast<double>(cell.yaw)),
-                                      QString::number(static_cast<double>(cell.pitch))));
+            const QRectF room = cell.box.adjusted(1, 1, -1, -1);
+            const QString text = QStringLiteral("%1 (%2,%3)")
+                                     .arg(QString::number(cell.image),
+                                          QString::number(static_cast<double>(cell.yaw)),
+                                          QString::number(static_cast<double>(cell.pitch)));
+            if (caption.ground.style() != Qt::NoBrush) {
+                painter.fillRect(painter.boundingRect(room, text, QTextOption()) & room,
+                                 caption.ground);
+            }
+            painter.setPen(caption.text);
+            painter.drawText(room, text);
             painter.setPen(outline);
         }
     }

@@ -19,7 +19,8 @@
 [[nodiscard]] QImage literalZoom(const QImage &picture, int percent);
 
 /** Draws the cells of \p scene one after the other, outlined with the painter's pen. */
-void drawLiteralCells(QPainter &painter, const PanoHead::PreviewScene &scene, const QPen &caption);
+void drawLiteralCells(QPainter &painter, const PanoHead::PreviewScene &scene,
+                      const PanoHead::CaptionColours &caption);
 
 /** Empty when both pictures are the same; otherwise how many pixels differ and where the first. */
 [[nodiscard]] QString pixelDifference(const QImage &picture, const QImage &expected);
