@@ -72,8 +72,13 @@ struct Shoot {
 
 PreviewColours coloursOf(const QWidget &widget)
 {
-    return { widget.palette().brush(QPalette::Current, QPalette::Window),
-             QPen(widget.palette().color(QPalette::Current, QPalette::WindowText)) };
+    const QColor window = widget.palette().color(QPalette::Current, QPalette::Window);
+    const QColor text = widget.palette().color(QPalette::Current, QPalette::WindowText);
+    // Bright captions stand on the window's colour, covering three fifths of the photo.
+    QColor ground = window;
+    ground.setAlphaF(0.6);
+    const bool isBright = text.lightness() > window.lightness();
+    return { QBrush(window), { QPen(text), isBright ? QBrush(ground) : QBrush() } };
 }
 
 QImage shownBy(const QLabel &label)
