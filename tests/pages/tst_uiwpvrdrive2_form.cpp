@@ -1,0 +1,364 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: MIT
+#include "importers/vrdrive2/uiwpvrdrive2.h"
+
+#include "tests/support/fakeapplication.h"
+#include "tests/support/formcheck.h"
+#include "tests/support/pagedriver.h"
+#include "tests/support/shootfolder.h"
+#include "ui/xuipixmaphelper.h"
+
+#include <QTranslator>
+#include <QtTest>
+
+namespace
+{
+
+const QVector<FormRow> kRows{
+    { "m_renderMode", "QTabWidget", "" },
+    { "General", "QWidget", "General" },
+    { "m_lbImage", "QLabel", "Images:" },
+    { "m_leImage", "QLineEdit", "" },
+    { "m_pbSelectImages", "QPushButton", "..." },
+    { "label_5", "QLabel", "Number of images:" },
+    { "m_lbImageLog", "QLabel", "N/A" },
+    { "label_14", "QLabel", "Image focal:" },
+    { "m_lbFocalLengthImage", "QLabel", "N/A" },
+    { "label_4", "QLabel", "Number of images:" },
+    { "m_lbPapyLog", "QLabel", "N/A" },
+    { "label_2", "QLabel", "Yaw:" },
+    { "m_lbThetaMinMax", "QLabel", "N/A" },
+    { "label_9", "QLabel", "Pitch:" },
+    { "m_lbPhiMinMax", "QLabel", "N/A" },
+    { "label_10", "QLabel", "Bracketing:" },
+    { "m_lbBracket", "QLabel", "N/A" },
+    { "label_12", "QLabel", "XML focal:" },
+    { "m_lbFocalLength", "QLabel", "N/A" },
+    { "label", "QLabel", "XML:" },
+    { "m_leConfigFile", "QLineEdit", "" },
+    { "m_pbSelectConfigFile", "QPushButton", "..." },
+    { "m_pbReset", "QPushButton", "Reset" },
+    { "label_6", "QLabel", "Output:" },
+    { "m_rbOutputMode1", "QRadioButton", "8-bits / 16-bits tonemapped" },
+    { "m_rbOutputMode2", "QRadioButton", "32-bits HDR radiance" },
+    { "tab_4", "QWidget", "Shoot setup" },
+    { "m_pInverseCoordinates", "QPushButton", "Inverse Y coordinates" },
+    { "m_pbRot270", "QPushButton", "" },
+    { "m_pbRot90", "QPushButton", "" },
+    { "label_15", "QLabel", "Focal length:" },
+    { "m_spFocal", "QDoubleSpinBox", "1.000" },
+    { "label_7", "QLabel", "Lens Type:" },
+    { "m_cbLensType", "QComboBox", "" },
+    { "m_pbFLUseXML", "QPushButton", "Use XML information" },
+    { "m_pbFLUseImage", "QPushButton", "Use image information" },
+    { "tab_3", "QWidget", "Stack" },
+    { "label_13", "QLabel", "Detect links in:" },
+    { "m_rbLevelLinking0", "QRadioButton", "The reference level" },
+    { "m_rbLevelLinking1", "QRadioButton", "All stack levels" },
+    { "label_11", "QLabel", "For a stack:" },
+    { "m_rbStackLinking0", "QRadioButton", "Use hard links" },
+    { "m_rbStackLinking1", "QRadioButton", "Detect control points" },
+    { "tab_2", "QWidget", "Detection options" },
+    { "m_autoStart", "QCheckBox", "Auto detection" },
+    { "m_cleanLink", "QCheckBox", "Clean wrong link" },
+    { "m_noOptim", "QCheckBox", "Skip optimization" },
+    { "m_GridOptim", "QCheckBox", "Use recorded location" },
+    { "groupBox", "QGroupBox", "Preview" },
+    { "m_saPreview", "QScrollArea", "" },
+    { "label_3", "QLabel", "Zoom" },
+    { "m_hSlider", "QSlider", "" },
+};
+
+/** The subtitle in \p linkColour, without the address that its link leads to. */
+QString subtitle(const QString &linkColour)
+{
+    return QLatin1String("<a href=\"ADDRESS\"><font color=\"") + linkColour
+        + QLatin1String("\">VR Drive 2</font></a> plug-in enables an automated HDR workflow with "
+                        "all parameters set for true light rendering and easy use of Weavix "
+                        "software.");
+}
+
+/** Translates every text of the page's own code to "<text>". */
+class Bracketing : public QTranslator
+{
+public:
+    [[nodiscard]] QString translate(const char *context, const char *text, const char * /*comment*/,
+                                    int /*n*/) const override
+    {
+        return qstrcmp(context, "UIWPVRDrive2") == 0
+            ? QLatin1Char('<') + QString::fromUtf8(text) + QLatin1Char('>')
+            : QString();
+    }
+    [[nodiscard]] bool isEmpty() const override { return false; }
+};
+
+} // namespace
+
+/** The form as a user finds it on a fresh page. */
+class TestUIWPVRDrive2Form : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void widgetHasItsKindAndText_data() { addFormRows(kRows); }
+    void widgetHasItsKindAndText() { checkFormRow(UIWPVRDrive2(nullptr)); }
+    void formHoldsTheWarningAndNothingElse();
+    void tabWidgetIsCalledRenderModeWanted();
+    void tabsStandInTheirOrder();
+    void tabKeyFollowsTheTable();
+    void labelsNameTheirFields();
+    void titlesAndSubtitle();
+    void subtitleFollowsTheTheme();
+    void pageShowsItsLogo();
+    void freshDefaults();
+    void warningIsHidden();
+    void numbersHaveTheirRanges();
+    void lensTypesStartWithTheFisheye();
+    void stackChoicesAreAGroupOfTheirOwn();
+    void outputAndLevelChoicesExcludeEachOtherAlone();
+    void rotateButtonsShowTheirPictures();
+    void photoListIsReadOnly();
+    void pathIsCompletedFromFoldersAndFiles();
+    void previewIsCentred();
+    void labelsWithNumbersArePlain_data();
+    void labelsWithNumbersArePlain();
+    void rangesAreTheOnlyTextsNotTranslated();
+};
+
+void TestUIWPVRDrive2Form::formHoldsTheWarningAndNothingElse()
+{
+    QStringList names = formNames(UIWPVRDrive2(nullptr));
+    QVERIFY(names.removeOne(QStringLiteral("m_lbWarning")));
+    QCOMPARE(names, rowNames(kRows));
+}
+
+void TestUIWPVRDrive2Form::tabWidgetIsCalledRenderModeWanted()
+{
+    const UIWPVRDrive2 page(nullptr);
+    // It holds the tabs, not the choice of the output.
+    QCOMPARE(page.m_renderMode->metaObject()->className(), "QTabWidget");
+    QCOMPARE(page.m_renderMode->objectName(), QStringLiteral("m_renderMode"));
+    QCOMPARE(page.m_renderMode->count(), 4);
+}
+
+void TestUIWPVRDrive2Form::tabsStandInTheirOrder()
+{
+    const UIWPVRDrive2 page(nullptr);
+    QCOMPARE(tabTitles(page), list({ "General", "Shoot setup", "Stack", "Detection options" }));
+    QCOMPARE(page.m_renderMode->currentIndex(), 0);
+}
+
+void TestUIWPVRDrive2Form::tabKeyFollowsTheTable()
+{
+    QCOMPARE(tabOrder(UIWPVRDrive2(nullptr)),
+             list({ "m_renderMode",
+                    "m_leImage",
+                    "m_pbSelectImages",
+                    "m_leConfigFile",
+                    "m_pbSelectConfigFile",
+                    "m_pbReset",
+                    "m_rbOutputMode1",
+                    "m_rbOutputMode2",
+                    "m_pInverseCoordinates",
+                    "m_pbRot270",
+                    "m_pbRot90",
+                    "m_spFocal",
+                    "m_cbLensType",
+                    "m_pbFLUseXML",
+                    "m_pbFLUseImage",
+                    "m_rbLevelLinking0",
+                    "m_rbLevelLinking1",
+                    "m_rbStackLinking0",
+                    "m_rbStackLinking1",
+                    "m_autoStart",
+                    "m_cleanLink",
+                    "m_noOptim",
+                    "m_GridOptim",
+                    "m_saPreview",
+                    "m_hSlider" }));
+}
+
+void TestUIWPVRDrive2Form::labelsNameTheirFields()
+{
+    QCOMPARE(buddies(UIWPVRDrive2(nullptr)),
+             list({ "label > m_leConfigFile", "label_15 > m_spFocal", "label_3 > m_hSlider",
+                    "label_7 > m_cbLensType", "m_lbImage > m_leImage" }));
+}
+
+void TestUIWPVRDrive2Form::titlesAndSubtitle()
+{
+    UIWPVRDrive2 page(nullptr);
+    QCOMPARE(page.windowTitle(), QStringLiteral("VR Drive II import plugin"));
+    QCOMPARE(page.QWizardPage::title(), QStringLiteral("VR Drive 2"));
+    const QColor colour = PageDriver(&page).preview()->palette().color(QPalette::WindowText);
+    QCOMPARE(withoutAddress(page.subTitle()), subtitle(colour.name()));
+}
+
+void TestUIWPVRDrive2Form::subtitleFollowsTheTheme()
+{
+    const QPalette before = QApplication::palette();
+    QPalette dark = before;
+    dark.setColor(QPalette::WindowText, QColor(0x12, 0xab, 0xef));
+    QApplication::setPalette(dark);
+    const UIWPVRDrive2 page(nullptr);
+    QApplication::setPalette(before);
+
+    QCOMPARE(withoutAddress(page.subTitle()), subtitle(QStringLiteral("#12abef")));
+}
+
+void TestUIWPVRDrive2Form::pageShowsItsLogo()
+{
+    const QPixmap logo = XuiPixmapHelper::CreateHighDpiPixmap(
+        QStringLiteral(":/7A21C94E-5B20-2020-2020-B662C695C918/Resources/VRDrive2.png"), 255,
+        QSize(-1, -1));
+    QVERIFY(!logo.isNull());
+    QCOMPARE(UIWPVRDrive2(nullptr).pixmap(QWizard::LogoPixmap).toImage(), logo.toImage());
+}
+
+void TestUIWPVRDrive2Form::freshDefaults()
+{
+    const UIWPVRDrive2 page(nullptr);
+    QVERIFY(page.m_rbOutputMode1->isChecked());
+    QVERIFY(!page.m_rbOutputMode2->isChecked());
+    QVERIFY(page.m_rbLevelLinking0->isChecked());
+    QVERIFY(!page.m_rbLevelLinking1->isChecked());
+    QVERIFY(page.m_rbStackLinking0->isChecked());
+    QVERIFY(!page.m_rbStackLinking1->isChecked());
+    QCOMPARE(page.m_autoStart->checkState(), Qt::Checked);
+    QCOMPARE(page.m_cleanLink->checkState(), Qt::Checked); // unlike on the Papywizard page: wanted
+    QCOMPARE(page.m_noOptim->checkState(), Qt::Unchecked);
+    QCOMPARE(page.m_GridOptim->checkState(), Qt::Checked);
+}
+
+void TestUIWPVRDrive2Form::warningIsHidden()
+{
+    UIWPVRDrive2 page(nullptr);
+    const PageDriver driver(&page);
+    QCOMPARE(driver.find<QLabel>("m_lbWarning")->metaObject()->className(), "QLabel");
+    QVERIFY(!page.m_lbWarning->isVisible());
+}
+
+void TestUIWPVRDrive2Form::numbersHaveTheirRanges()
+{
+    const UIWPVRDrive2 page(nullptr);
+    QCOMPARE(page.m_spFocal->decimals(), 3);
+    QCOMPARE(page.m_spFocal->minimum(), 1.0);
+    QCOMPARE(page.m_spFocal->maximum(), 10000.0);
+    QCOMPARE(page.m_hSlider->minimum(), 1);
+    QCOMPARE(page.m_hSlider->maximum(), 100);
+    QCOMPARE(page.m_hSlider->value(), 50);
+    QCOMPARE(page.m_hSlider->orientation(), Qt::Horizontal);
+}
+
+void TestUIWPVRDrive2Form::lensTypesStartWithTheFisheye()
+{
+    const UIWPVRDrive2 page(nullptr);
+    QCOMPARE(page.m_cbLensType->count(), 2);
+    QCOMPARE(page.m_cbLensType->itemText(0), QStringLiteral("Standard"));
+    QCOMPARE(page.m_cbLensType->itemText(1), QStringLiteral("Fisheye"));
+    QCOMPARE(page.m_cbLensType->currentIndex(), 1);
+}
+
+void TestUIWPVRDrive2Form::stackChoicesAreAGroupOfTheirOwn()
+{
+    const UIWPVRDrive2 page(nullptr);
+    QVERIFY(page.m_rbStackLinking0->group());
+    QCOMPARE(page.m_rbStackLinking0->group()->buttons().size(), 2);
+    QCOMPARE(page.m_rbStackLinking1->group(), page.m_rbStackLinking0->group());
+    QVERIFY(!page.m_rbLevelLinking0->group());
+    QVERIFY(!page.m_rbLevelLinking1->group());
+}
+
+void TestUIWPVRDrive2Form::outputAndLevelChoicesExcludeEachOtherAlone()
+{
+    UIWPVRDrive2 page(nullptr);
+    const PageDriver driver(&page);
+
+    driver.click("m_rbOutputMode2");
+
+    QVERIFY(page.m_rbOutputMode2->isChecked());
+    QVERIFY(!page.m_rbOutputMode1->isChecked());
+    QVERIFY(page.m_rbLevelLinking0->isChecked());
+    QVERIFY(page.m_rbStackLinking0->isChecked());
+    driver.click("m_rbOutputMode1");
+    QVERIFY(page.m_rbOutputMode1->isChecked());
+    QVERIFY(!page.m_rbOutputMode2->isChecked());
+}
+
+void TestUIWPVRDrive2Form::rotateButtonsShowTheirPictures()
+{
+    const UIWPVRDrive2 page(nullptr);
+    const QString folder = QStringLiteral(":/7A21C94E-5B20-2020-2020-483181480AB7/Resources/");
+    const auto picture = [](const QIcon &icon) { return icon.pixmap(QSize(32, 32)).toImage(); };
+    const QImage left = picture(QIcon(folder + QLatin1String("rot90left.png")));
+    const QImage right = picture(QIcon(folder + QLatin1String("rot90right.png")));
+    QVERIFY(!left.isNull());
+    QVERIFY(left != right);
+    QCOMPARE(picture(page.m_pbRot270->icon()), left);
+    QCOMPARE(picture(page.m_pbRot90->icon()), right);
+}
+
+void TestUIWPVRDrive2Form::photoListIsReadOnly()
+{
+    const UIWPVRDrive2 page(nullptr);
+    QVERIFY(page.m_leImage->isReadOnly());
+    QVERIFY(!page.m_leConfigFile->isReadOnly());
+}
+
+void TestUIWPVRDrive2Form::pathIsCompletedFromFoldersAndFiles()
+{
+    const ShootFolder folder;
+    folder.write(QStringLiteral("shoot.xml"), {});
+    folder.write(QStringLiteral("photo.jpg"), {});
+    folder.write(QStringLiteral("sub/other.xml"), {});
+    const UIWPVRDrive2 page(nullptr);
+
+    QCOMPARE(proposals(*page.m_leConfigFile, folder.path()),
+             list({ "photo.jpg", "shoot.xml", "sub" }));
+}
+
+void TestUIWPVRDrive2Form::previewIsCentred()
+{
+    UIWPVRDrive2 page(nullptr);
+    QVERIFY(page.m_saPreview->widgetResizable());
+    QCOMPARE(page.m_saPreview->alignment(), Qt::Alignment(Qt::AlignCenter));
+    QCOMPARE(PageDriver(&page).preview()->alignment(),
+             Qt::Alignment(Qt::AlignHCenter | Qt::AlignVCenter));
+    QVERIFY(page.groupBox->isAncestorOf(page.m_saPreview));
+    QVERIFY(page.groupBox->isAncestorOf(page.m_hSlider));
+}
+
+void TestUIWPVRDrive2Form::labelsWithNumbersArePlain_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name : { "m_lbPapyLog", "m_lbThetaMinMax", "m_lbPhiMinMax", "m_lbBracket",
+                              "m_lbFocalLength", "m_lbImageLog", "m_lbFocalLengthImage" }) {
+        QTest::newRow(name) << QString::fromLatin1(name);
+    }
+}
+
+void TestUIWPVRDrive2Form::labelsWithNumbersArePlain()
+{
+    QFETCH(QString, name);
+    const UIWPVRDrive2 page(nullptr);
+    QCOMPARE(page.findChild<QLabel *>(name)->textFormat(), Qt::PlainText);
+}
+
+void TestUIWPVRDrive2Form::rangesAreTheOnlyTextsNotTranslated()
+{
+    Bracketing translator;
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    UIWPVRDrive2 page(nullptr);
+    const PageDriver driver(&page);
+    for (const char *name : { "m_lbPapyLog", "m_lbBracket", "m_lbFocalLength", "m_lbImageLog",
+                              "m_lbFocalLengthImage" }) {
+        QCOMPARE(driver.text(name), QStringLiteral("<N/A>"));
+    }
+    QCOMPARE(driver.text("m_lbThetaMinMax"), QStringLiteral("N/A"));
+    QCOMPARE(driver.text("m_lbPhiMinMax"), QStringLiteral("N/A"));
+    QCOMPARE(page.m_cbLensType->itemText(0), QStringLiteral("<Standard>"));
+    QCOMPARE(page.m_cbLensType->itemText(1), QStringLiteral("<Fisheye>"));
+}
+
+FAKE_HOST_MAIN(FakeApplication, TestUIWPVRDrive2Form)
+#include "tst_uiwpvrdrive2_form.moc"
