@@ -123,15 +123,6 @@ PreviewLayout layoutOf(Head head, int count)
     return layOutShots(shots, extentsOf(shots), rules);
 }
 
-PreviewColours coloursOf(Head head, const QWidget &widget)
-{
-    if (head == Head::Gigapan) {
-        return { QBrush(Qt::lightGray), QPen(Qt::black) };
-    }
-    return { widget.palette().brush(QPalette::Current, QPalette::Window),
-             QPen(widget.palette().color(QPalette::Current, QPalette::WindowText)) };
-}
-
 /** The literal picture's cost: only its cells, and all of it. */
 struct Reference {
     double cellsSeconds = 0.0;
@@ -204,7 +195,7 @@ Load measure(Head head, int count)
     scene.layout = layoutOf(head, count);
     scene.images = page->findChild<ReadingThread *>()->XIImageDefs();
     scene.style = head == Head::Gigapan ? CellStyle::UnscaledPhoto : CellStyle::FittedWithCaption;
-    load.reference = referenceFor(scene, coloursOf(head, *pageLoad.driver().preview()));
+    load.reference = referenceFor(scene, literalColours(scene.style, *pageLoad.driver().preview()));
     load.mistake = pixelDifference(pageLoad.driver().picture(), load.reference.shown).toStdString();
     if (scene.images.size() != count || !page->isComplete()) {
         load.mistake = "photos were lost";

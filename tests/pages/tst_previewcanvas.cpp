@@ -108,7 +108,7 @@ PreviewLayout grid(int columns, int rows, double side, double step, double margi
 
 PreviewColours plainColours()
 {
-    return { QBrush(QColor(0xef, 0xf0, 0xf1)), QPen(QColor(0x23, 0x26, 0x29)) };
+    return { QBrush(QColor(0xef, 0xf0, 0xf1)), { QPen(QColor(0x23, 0x26, 0x29)), {} } };
 }
 
 /** One way in which photos come and go: the lists that a page shows one after the other. */
@@ -292,9 +292,13 @@ void TestPreviewCanvas::pictureIsTheLiteralOneAtEveryStep_data()
         << PreviewColours{ QBrush(Qt::red, Qt::DiagCrossPattern), plain.caption } << false;
     QTest::newRow("background with a gradient")
         << grid(9, 7, 96, 60.5) << PreviewColours{ QBrush(gradient), plain.caption } << false;
-    QTest::newRow("captions that let through")
-        << grid(9, 7, 96, 60.5) << PreviewColours{ plain.background, QPen(QColor(9, 9, 9, 99)) }
+    QTest::newRow("captions on a ground")
+        << grid(9, 7, 96, 60.5)
+        << PreviewColours{ plain.background, { QPen(Qt::white), QBrush(QColor(20, 20, 20, 153)) } }
         << false;
+    QTest::newRow("captions that let through")
+        << grid(9, 7, 96, 60.5)
+        << PreviewColours{ plain.background, { QPen(QColor(9, 9, 9, 99)), {} } } << false;
 }
 
 void TestPreviewCanvas::pictureIsTheLiteralOneAtEveryStep()
@@ -360,7 +364,7 @@ void TestPreviewCanvas::pictureOfAGridIsTheLiteralOneAtEveryStep()
             photos.add(noise(sizes[i % sizes.size()], static_cast<unsigned>(i), i % 5 == 0));
         }
     }
-    const PreviewColours colours{ QBrush(Qt::lightGray), QPen(Qt::black) };
+    const PreviewColours colours{ QBrush(Qt::lightGray), { QPen(Qt::black), {} } };
     const QList<XIImageDef *> all = photos.all();
     const QVector<Course> courses{ inOrder(all, 10), outOfOrder(all, 1), restless(all, 2),
                                    restless(all, 3) };
@@ -481,8 +485,9 @@ void TestPreviewCanvas::otherColoursRedrawEverything()
     scene.layout = grid(9, 7, 96, 60);
     PreviewCanvas canvas;
     canvas.update(scene, plainColours(), canvas.changeTo(scene, plainColours()));
-    for (const PreviewColours &colours : { PreviewColours{ QBrush(Qt::white), QPen(Qt::black) },
-                                           PreviewColours{ QBrush(Qt::white), QPen(Qt::red) } }) {
+    for (const PreviewColours &colours :
+         { PreviewColours{ QBrush(Qt::white), { QPen(Qt::black), {} } },
+           PreviewColours{ QBrush(Qt::white), { QPen(Qt::red), {} } } }) {
         const PreviewCanvas::Change change = canvas.changeTo(scene, colours);
         QVERIFY(change.everything);
         canvas.update(scene, colours, change);

@@ -70,17 +70,6 @@ struct Shoot {
     std::vector<std::unique_ptr<Photo>> photos;
 };
 
-PreviewColours coloursOf(const QWidget &widget)
-{
-    const QColor window = widget.palette().color(QPalette::Current, QPalette::Window);
-    const QColor text = widget.palette().color(QPalette::Current, QPalette::WindowText);
-    // Bright captions stand on the window's colour, covering three fifths of the photo.
-    QColor ground = window;
-    ground.setAlphaF(0.6);
-    const bool isBright = text.lightness() > window.lightness();
-    return { QBrush(window), { QPen(text), isBright ? QBrush(ground) : QBrush() } };
-}
-
 QImage shownBy(const QLabel &label)
 {
     return label.pixmap(Qt::ReturnByValue).toImage();
@@ -88,8 +77,9 @@ QImage shownBy(const QLabel &label)
 
 QString differenceFrom(const QLabel &label, const PreviewScene &scene, int zoom)
 {
-    return pixelDifference(shownBy(label),
-                           literalZoom(literalPicture(scene, coloursOf(label)), zoom));
+    return pixelDifference(
+        shownBy(label),
+        literalZoom(literalPicture(scene, literalColours(scene.style, label)), zoom));
 }
 
 } // namespace
@@ -165,7 +155,7 @@ void TestPreviewLabel::gridsAreLightGreyWhateverThePalette()
     palette.setColor(QPalette::Window, Qt::darkBlue);
     palette.setColor(QPalette::WindowText, Qt::white);
     label.setPalette(palette);
-    const PreviewColours colours{ QBrush(Qt::lightGray), QPen(Qt::black) };
+    const PreviewColours colours{ QBrush(Qt::lightGray), { QPen(Qt::black), {} } };
     for (int count = 0; count <= 36; count += 4) {
         label.showScene(shoot.with(count), 50);
         QCOMPARE(pixelDifference(shownBy(label),

@@ -100,13 +100,8 @@ QImage drawnFromScratch(Head head, const QWizardPage &page, const QWidget &previ
     PreviewScene scene;
     scene.layout = layoutOf(head);
     scene.images = page.findChild<ReadingThread *>()->XIImageDefs();
-    PreviewColours colours{ preview.palette().brush(QPalette::Current, QPalette::Window),
-                            QPen(
-                                preview.palette().color(QPalette::Current, QPalette::WindowText)) };
-    if (head == Head::Gigapan) {
-        scene.style = CellStyle::UnscaledPhoto;
-        colours = { QBrush(Qt::lightGray), QPen(Qt::black) };
-    }
+    scene.style = head == Head::Gigapan ? CellStyle::UnscaledPhoto : CellStyle::FittedWithCaption;
+    const PreviewColours colours = literalColours(scene.style, preview);
     return literalZoom(literalPicture(scene, colours), kZoom);
 }
 

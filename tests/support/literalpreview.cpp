@@ -8,6 +8,7 @@
 #include <QPixmap>
 #include <QTextOption>
 #include <QTransform>
+#include <QWidget>
 
 #include <cmath>
 
@@ -23,6 +24,21 @@ const QPixmap *photoFor(const PreviewScene &scene, const PreviewCell &cell)
     }
     const QPixmap *thumbnail = scene.images.at(cell.image)->Thumbnail();
     return thumbnail == nullptr || thumbnail->isNull() ? nullptr : thumbnail;
+}
+
+void drawCaption(QPainter &painter, const PreviewCell &cell, const CaptionColours &colours)
+{
+    const QRectF room = cell.box.adjusted(1, 1, -1, -1);
+    const QString text
+        = QStringLiteral("%1 (%2,%3)")
+              .arg(QString::number(cell.image), QString::number(static_cast<double>(cell.yaw)),
+                   QString::number(static_cast<double>(cell.pitch)));
+    if (colours.ground.style() != Qt::NoBrush) {
+        const QRectF lines = painter.boundingRect(room, text, QTextOption());
+        painter.fillRect(lines.intersected(room), colours.ground);
+    }
+    painter.setPen(colours.text);
+    painter.drawText(room, text);
 }
 
 } // namespace
@@ -45,17 +61,7 @@ void drawLiteralCells(QPainter &painter, const PreviewScene &scene, const Captio
         }
         painter.drawRect(cell.box);
         if (!isUnscaled) {
-            const QRectF room = cell.box.adjusted(1, 1, -1, -1);
-            const QString text = QStringLiteral("%1 (%2,%3)")
-                                     .arg(QString::number(cell.image),
-                                          QString::number(static_cast<double>(cell.yaw)),
-                                          QString::number(static_cast<double>(cell.pitch)));
-            if (caption.ground.style() != Qt::NoBrush) {
-                painter.fillRect(painter.boundingRect(room, text, QTextOption()) & room,
-                                 caption.ground);
-            }
-            painter.setPen(caption.text);
-            painter.drawText(room, text);
+            drawCaption(painter, cell, caption);
             painter.setPen(outline);
         }
     }
@@ -75,6 +81,19 @@ QImage literalPicture(const PreviewScene &scene, const PreviewColours &colours)
     drawLiteralCells(painter, scene, colours.caption);
     painter.end();
     return pixmap.toImage();
+}
+
+PreviewColours literalColours(CellStyle style, const QWidget &label)
+{
+    if (style == CellStyle::UnscaledPhoto) {
+        return { QBrush(Qt::lightGray), { QPen(Qt::black), {} } };
+    }
+    const QBrush window = label.palette().brush(QPalette::Current, QPalette::Window);
+    const QColor text = label.palette().color(QPalette::Current, QPalette::WindowText);
+    QColor ground = window.color();
+    ground.setAlphaF(0.6);
+    const bool isDarkTheme = text.lightness() > window.color().lightness();
+    return { window, { QPen(text), isDarkTheme ? QBrush(ground) : QBrush() } };
 }
 
 QImage literalZoom(const QImage &picture, int percent)

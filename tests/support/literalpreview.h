@@ -15,6 +15,10 @@
 [[nodiscard]] QImage literalPicture(const PanoHead::PreviewScene &scene,
                                     const PanoHead::PreviewColours &colours);
 
+/** The colours in which \p label shows pictures of \p style: those of its theme, or of grids. */
+[[nodiscard]] PanoHead::PreviewColours literalColours(PanoHead::CellStyle style,
+                                                      const QWidget &label);
+
 /** \p picture at \p percent: sides cut to whole pixels, aspect ratio ignored, fast scaling. */
 [[nodiscard]] QImage literalZoom(const QImage &picture, int percent);
 
