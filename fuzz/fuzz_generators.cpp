@@ -23,13 +23,16 @@ const PhotoSet &photos()
     return set;
 }
 
+/** Shots until the bytes are used up: a run spent on linking equal directions finds little. */
 QVector<ShootData> takeShots(ByteSource &bytes)
 {
-    QVector<ShootData> shots(bytes.count(kMaxPhotos));
-    for (ShootData &shot : shots) {
+    QVector<ShootData> shots;
+    for (int left = bytes.count(kMaxPhotos); left > 0 && bytes.size() > 0; --left) {
+        ShootData shot;
         shot.yaw = bytes.angle();
         shot.pitch = bytes.angle();
         shot.roll = bytes.angle();
+        shots.append(shot);
     }
     return shots;
 }
