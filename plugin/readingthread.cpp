@@ -5,8 +5,10 @@
 #include "plugin/hostapplication.h"
 #include "plugin/xiapplication.h"
 
+#include <QHash>
 #include <QMutexLocker>
-#include <QSet>
+
+#include <vector>
 
 namespace
 {
@@ -14,16 +16,33 @@ namespace
 constexpr int kPhotosPerSignal = 10;
 constexpr unsigned long kWaitMs = 100;
 
+/**
+ * \p files, each once, in their order. A flat table of their numbers finds the known ones: sets of
+ * strings keep a node for each, which a shoot of record size scatters all over the memory.
+ */
 QQueue<QString> withoutDuplicates(const QStringList &files)
 {
+    struct Place {
+        uint hash = 0;
+        int file = -1; // free
+    };
+    std::size_t places = 16;
+    while (places < 2 * static_cast<std::size_t>(files.size())) {
+        places *= 2;
+    }
+    std::vector<Place> table(places);
     QQueue<QString> queue;
     queue.reserve(files.size());
-    QSet<QString> seen;
-    seen.reserve(files.size());
-    for (const QString &file : files) {
-        const int known = seen.size();
-        seen.insert(file);
-        if (seen.size() > known) {
+    for (int number = 0; number < files.size(); ++number) {
+        const QString &file = files.at(number);
+        const uint hash = qHash(file, static_cast<uint>(qGlobalQHashSeed()));
+        std::size_t place = hash % places;
+        while (table[place].file >= 0
+               && (table[place].hash != hash || files.at(table[place].file) != file)) {
+            place = (place + 1) % places;
+        }
+        if (table[place].file < 0) {
+            table[place] = { hash, number };
             queue.enqueue(file);
         }
     }
