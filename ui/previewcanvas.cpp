@@ -17,12 +17,9 @@ constexpr int kBucketSide = 128; // pixels
 constexpr int kSpill = 2; // outlines and rounding around a cell, pixels
 // When more than this part of the cells changes, one redraw is cheaper than many patches.
 constexpr int kWorthPatching = 4;
-constexpr int kTilePart = 8; // tiles may take this part of the picture's memory
-
-QRect grown(const QRectF &box)
-{
-    return box.toAlignedRect().adjusted(-kSpill, -kSpill, kSpill, kSpill);
-}
+constexpr int kKeptPart = 4; // what the painter keeps may take this part of the picture's memory
+// Beyond this many rectangles, keeping account of what is hidden costs more than it saves.
+constexpr int kMostOpenRects = 32;
 
 int bucketOf(int position, int buckets)
 {
@@ -38,15 +35,16 @@ PreviewCanvas::Change PreviewCanvas::changeTo(const PreviewScene &scene,
         || scene.style != m_scene.style || !(colours == m_colours);
     // Gradients have other roundings under a clip.
     if (isOtherPicture || colours.background.gradient() != nullptr) {
-        return { true, {} };
+        return { true, {}, {} };
     }
     const std::vector<int> changed = changedCells(scene);
     if (changed.size() * kWorthPatching > static_cast<size_t>(scene.layout.cells.size())) {
-        return { true, {} };
+        return { true, {}, {} };
     }
     Change change;
+    change.cells = changed;
     for (const int cell : changed) {
-        change.region += paintedRect(scene, cell);
+        change.region += changedPixels(scene, cell);
     }
     change.region &= m_image.rect();
     return change;
@@ -55,22 +53,24 @@ PreviewCanvas::Change PreviewCanvas::changeTo(const PreviewScene &scene,
 void PreviewCanvas::update(const PreviewScene &scene, const PreviewColours &colours,
                            const Change &change)
 {
-    if (change.isNone()) {
-        m_scene.images = scene.images;
-        return;
-    }
-    const std::vector<int> changed = change.everything ? std::vector<int>() : changedCells(scene);
     m_scene = scene;
     m_colours = colours;
     if (change.everything) {
         redraw();
         return;
     }
-    for (const int cell : changed) {
-        m_painter.forget(cell);
-        m_largestPainted = m_largestPainted.expandedTo(paintedRect(m_scene, cell).size());
+    for (const int cell : change.cells) {
+        m_painter.forgetPhoto(cell);
+        notePhoto(cell);
     }
-    patch(change.region);
+    if (!change.region.isEmpty()) {
+        patch(change.region);
+    }
+}
+
+void PreviewCanvas::forgetPhotos()
+{
+    std::fill(m_scene.images.begin(), m_scene.images.end(), nullptr);
 }
 
 void PreviewCanvas::redraw()
@@ -90,12 +90,12 @@ void PreviewCanvas::redraw()
         if (m_image.isNull()) {
             return;
         }
-        m_painter.reset(static_cast<int>(m_image.sizeInBytes() / kTilePart));
+        m_painter.reset(m_image.sizeInBytes() / kKeptPart);
         indexCells();
         QPainter painter(&m_image);
         fillBackground(painter);
-        for (int cell = 0; cell < m_scene.layout.cells.size(); ++cell) {
-            m_painter.draw(painter, m_scene, cell, m_colours.caption);
+        for (const PreviewCell &cell : qAsConst(m_scene.layout.cells)) {
+            CellPainter::draw(painter, m_scene, cell, m_colours.caption);
         }
         m_isValid = true;
     } catch (const std::bad_alloc &) {
@@ -107,16 +107,37 @@ void PreviewCanvas::patch(const QRegion &region)
 {
     m_isValid = false;
     try {
-        const std::vector<int> cells = cellsTouching(region);
         QPainter painter(&m_image);
-        painter.setClipRegion(region);
-        fillBackground(painter);
-        for (const int cell : cells) {
-            m_painter.draw(painter, m_scene, cell, m_colours.caption);
+        for (const QRect &rect : region) {
+            patchRect(painter, rect);
         }
         m_isValid = true;
     } catch (const std::bad_alloc &) {
         m_image = QImage();
+    }
+}
+
+/** Looks from the last cell down for what is not hidden, then draws it from the first one up. */
+void PreviewCanvas::patchRect(QPainter &painter, const QRect &rect)
+{
+    painter.setClipRect(rect);
+    QRegion open(rect);
+    std::vector<std::pair<int, CellParts>> seen;
+    const std::vector<int> cells = cellsTouching(rect);
+    for (auto cell = cells.crbegin(); cell != cells.crend() && !open.isEmpty(); ++cell) {
+        const CellParts parts = m_painter.partsIn(open.boundingRect(), m_scene, *cell, painter);
+        if (!parts.isNone()) {
+            seen.emplace_back(*cell, parts);
+        }
+        if (parts.photo && open.rectCount() < kMostOpenRects) {
+            open -= m_painter.hiddenBehind(m_scene, *cell);
+        }
+    }
+    if (!open.isEmpty()) {
+        fillBackground(painter);
+    }
+    for (auto cell = seen.crbegin(); cell != seen.crend(); ++cell) {
+        m_painter.drawParts(painter, m_scene, cell->first, cell->second, m_colours.caption);
     }
 }
 
@@ -138,11 +159,13 @@ void PreviewCanvas::indexCells()
     m_bucketColumns = m_image.width() / kBucketSide + 1;
     m_bucketRows = m_image.height() / kBucketSide + 1;
     m_bucketStarts.assign(static_cast<size_t>(m_bucketColumns) * m_bucketRows + 1, 0);
-    m_largestPainted = QSize();
+    m_largestBox = QSize();
+    m_largestPhoto = QSize();
     std::vector<int> bucketOfCell;
     for (int cell = 0; cell < cells.size(); ++cell) {
-        const QRect painted = paintedRect(m_scene, cell);
-        m_largestPainted = m_largestPainted.expandedTo(painted.size());
+        const QRect painted = paintedRect(cell);
+        m_largestBox = m_largestBox.expandedTo(painted.size());
+        notePhoto(cell);
         const int bucket = bucketOf(painted.top(), m_bucketRows) * m_bucketColumns
             + bucketOf(painted.left(), m_bucketColumns);
         bucketOfCell.push_back(bucket);
@@ -181,41 +204,54 @@ std::vector<int> PreviewCanvas::changedCells(const PreviewScene &scene) const
     return changed;
 }
 
-/** All pixels that the cell may touch, whichever photo it shows or showed. */
-QRect PreviewCanvas::paintedRect(const PreviewScene &scene, int cell) const
+/** Pixels that change with the photo of \p cell: those of the old and of the new one. */
+QRect PreviewCanvas::changedPixels(const PreviewScene &scene, int cell) const
 {
-    const PreviewCell &drawn = scene.layout.cells.at(cell);
-    QRect painted = grown(drawn.box);
-    if (scene.style == CellStyle::UnscaledPhoto) {
-        if (const QPixmap *thumbnail = thumbnailOf(scene, drawn)) {
-            painted |= grown(QRectF(drawn.box.topLeft(), QSizeF(thumbnail->size())));
-        }
-        painted.setSize(painted.size().expandedTo(m_largestPainted));
+    const PreviewCell &changed = scene.layout.cells.at(cell);
+    const QPixmap *thumbnail = thumbnailOf(scene, changed);
+    const QRect now
+        = thumbnail == nullptr ? QRect() : photoRect(scene.style, changed, thumbnail->size());
+    // The old photo itself may be gone.
+    const bool hadPhoto = changed.image < m_scene.images.size();
+    return hadPhoto ? now | photoRect(scene.style, changed, m_largestPhoto) : now;
+}
+
+/** Remembers how far the photo of \p cell reaches. */
+void PreviewCanvas::notePhoto(int cell)
+{
+    const QPixmap *thumbnail = thumbnailOf(m_scene, m_scene.layout.cells.at(cell));
+    if (thumbnail != nullptr && m_scene.style == CellStyle::UnscaledPhoto) {
+        m_largestPhoto = m_largestPhoto.expandedTo(thumbnail->size());
     }
-    return painted;
+}
+
+/** All pixels that \p cell may touch, whichever photo it shows. */
+QRect PreviewCanvas::paintedRect(int cell) const
+{
+    const QRectF &box = m_scene.layout.cells.at(cell).box;
+    const QRect own = box.toAlignedRect().adjusted(-kSpill, -kSpill, kSpill, kSpill);
+    return own | QRect(box.topLeft().toPoint(), m_largestPhoto);
 }
 
 /** In drawing order. */
-std::vector<int> PreviewCanvas::cellsTouching(const QRegion &region) const
+std::vector<int> PreviewCanvas::cellsTouching(const QRect &rect) const
 {
     std::vector<int> touching;
-    for (const QRect &rect : region) {
-        const int firstColumn = bucketOf(rect.left() - m_largestPainted.width(), m_bucketColumns);
-        const int lastColumn = bucketOf(rect.right(), m_bucketColumns);
-        const int firstRow = bucketOf(rect.top() - m_largestPainted.height(), m_bucketRows);
-        const int lastRow = bucketOf(rect.bottom(), m_bucketRows);
-        for (int row = firstRow; row <= lastRow; ++row) {
-            const int bucket = row * m_bucketColumns;
-            for (int slot = m_bucketStarts[bucket + firstColumn];
-                 slot < m_bucketStarts[bucket + lastColumn + 1]; ++slot) {
-                if (paintedRect(m_scene, m_bucketCells[slot]).intersects(rect)) {
-                    touching.push_back(m_bucketCells[slot]);
-                }
+    const QSize reach = m_largestBox.expandedTo(m_largestPhoto + QSize(kSpill, kSpill));
+    const int firstColumn = bucketOf(rect.left() - reach.width(), m_bucketColumns);
+    const int lastColumn = bucketOf(rect.right(), m_bucketColumns);
+    const int firstRow = bucketOf(rect.top() - reach.height(), m_bucketRows);
+    const int lastRow = bucketOf(rect.bottom(), m_bucketRows);
+    for (int row = firstRow; row <= lastRow; ++row) {
+        const int bucket = row * m_bucketColumns;
+        for (int slot = m_bucketStarts[bucket + firstColumn];
+             slot < m_bucketStarts[bucket + lastColumn + 1]; ++slot) {
+            if (paintedRect(m_bucketCells[slot]).intersects(rect)) {
+                touching.push_back(m_bucketCells[slot]);
             }
         }
     }
     std::sort(touching.begin(), touching.end());
-    touching.erase(std::unique(touching.begin(), touching.end()), touching.end());
     return touching;
 }
 

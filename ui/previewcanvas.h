@@ -37,6 +37,7 @@ public:
     struct Change {
         bool everything = false;
         QRegion region; ///< changed pixels; empty for no change and for everything
+        std::vector<int> cells; ///< whose photo is another one; empty for everything
 
         [[nodiscard]] bool isNone() const { return !everything && region.isEmpty(); }
     };
@@ -45,8 +46,10 @@ public:
     [[nodiscard]] Change changeTo(const PreviewScene &scene, const PreviewColours &colours) const;
     /** Draws \p change, the answer of \c changeTo. Without memory for it the picture is null. */
     void update(const PreviewScene &scene, const PreviewColours &colours, const Change &change);
-    /** The next update redraws everything: fonts have changed, or photos may be gone. */
+    /** The next update redraws everything: fonts have changed. */
     void invalidate() { m_isValid = false; }
+    /** The photos drawn so far may be gone; another one may even have the same address. */
+    void forgetPhotos();
 
     /** Null when there is nothing to show. */
     [[nodiscard]] const QImage &image() const { return m_image; }
@@ -54,10 +57,13 @@ public:
 private:
     void redraw();
     void patch(const QRegion &region);
+    void patchRect(QPainter &painter, const QRect &rect);
     void indexCells();
+    void notePhoto(int cell);
     [[nodiscard]] std::vector<int> changedCells(const PreviewScene &scene) const;
-    [[nodiscard]] QRect paintedRect(const PreviewScene &scene, int cell) const;
-    [[nodiscard]] std::vector<int> cellsTouching(const QRegion &region) const;
+    [[nodiscard]] QRect changedPixels(const PreviewScene &scene, int cell) const;
+    [[nodiscard]] QRect paintedRect(int cell) const;
+    [[nodiscard]] std::vector<int> cellsTouching(const QRect &rect) const;
     void fillBackground(QPainter &painter) const;
 
     bool m_isValid = false;
@@ -65,7 +71,8 @@ private:
     PreviewColours m_colours;
     QImage m_image;
     CellPainter m_painter;
-    QSize m_largestPainted; // of all cells drawn so far
+    QSize m_largestBox; // of all cells, with their outlines
+    QSize m_largestPhoto; // of all unscaled ones drawn so far
     std::vector<std::pair<int, int>> m_cellOfImage; // image and cell, by image
     int m_bucketColumns = 0;
     int m_bucketRows = 0;

@@ -4,10 +4,13 @@
 
 #include "plugin/xiimagedef.h"
 
+#include <QFontMetricsF>
 #include <QPainter>
+#include <QPixmap>
 #include <QTextOption>
 #include <QTransform>
 
+#include <algorithm>
 #include <cmath>
 
 namespace PanoHead
@@ -16,22 +19,41 @@ namespace PanoHead
 namespace
 {
 
-constexpr int kBytesPerPixel = 4;
+constexpr int kSpill = 2; // outlines and rounding around a cell, pixels
+constexpr int kOverhang = 4; // letters that reach out of their line, pixels
+constexpr qint64 kCaptionBytes = 2'048; // with its laid out line, about
+// Kept in any case, in bytes: a handful of tiles and the captions around them.
+constexpr qint64 kLeastTiles = 512 * 1024;
+constexpr qint64 kLeastCaptions = 256 * 1024;
 
-QPixmap turned(const QPixmap &thumbnail, float rollDegrees)
+bool isUnturned(const PreviewCell &cell)
 {
-    if (rollDegrees == 0.0F || !std::isfinite(rollDegrees)) {
+    return cell.roll == 0.0F || !std::isfinite(cell.roll);
+}
+
+QPixmap turned(const QPixmap &thumbnail, const PreviewCell &cell)
+{
+    if (isUnturned(cell)) {
         return thumbnail;
     }
-    return thumbnail.transformed(QTransform().rotate(static_cast<qreal>(rollDegrees)));
+    return thumbnail.transformed(QTransform().rotate(static_cast<qreal>(cell.roll)));
+}
+
+QString captionText(const PreviewCell &cell)
+{
+    return QStringLiteral("%1 (%2,%3)")
+        .arg(QString::number(cell.image), QString::number(cell.yaw), QString::number(cell.pitch));
+}
+
+QRectF captionRoom(const PreviewCell &cell)
+{
+    return cell.box.adjusted(1.0, 1.0, -1.0, -1.0);
 }
 
 void drawCaption(QPainter &painter, const PreviewCell &cell, const CaptionColours &colours)
 {
-    const QRectF room = cell.box.adjusted(1.0, 1.0, -1.0, -1.0);
-    const QString text = QStringLiteral("%1 (%2,%3)")
-                             .arg(QString::number(cell.image), QString::number(cell.yaw),
-                                  QString::number(cell.pitch));
+    const QRectF room = captionRoom(cell);
+    const QString text = captionText(cell);
     if (colours.ground.style() != Qt::NoBrush) {
         const QRectF ground = painter.boundingRect(room, text, QTextOption());
         painter.fillRect(ground & room, colours.ground);
@@ -40,6 +62,19 @@ void drawCaption(QPainter &painter, const PreviewCell &cell, const CaptionColour
     painter.setPen(colours.text);
     painter.drawText(room, text);
     painter.setPen(outline);
+}
+
+template <typename Kept>
+const Kept &keep(QCache<int, Kept> &cache, std::unique_ptr<Kept> &loose, int number,
+                 std::unique_ptr<Kept> made, qint64 bytes)
+{
+    if (bytes > cache.maxCost()) {
+        loose = std::move(made);
+        return *loose;
+    }
+    const Kept &kept = *made;
+    cache.insert(number, made.release(), static_cast<int>(bytes));
+    return kept;
 }
 
 } // namespace
@@ -53,57 +88,196 @@ const QPixmap *thumbnailOf(const PreviewScene &scene, const PreviewCell &cell)
     return thumbnail == nullptr || thumbnail->isNull() ? nullptr : thumbnail;
 }
 
-void CellPainter::reset(int tileBytes)
+QRect photoRect(CellStyle style, const PreviewCell &cell, const QSize &size)
 {
-    m_tiles.clear();
-    m_tiles.setMaxCost(tileBytes);
+    return style == CellStyle::UnscaledPhoto ? QRect(cell.box.topLeft().toPoint(), size)
+                                             : cell.box.toRect();
 }
 
-void CellPainter::draw(QPainter &painter, const PreviewScene &scene, int cell,
+void CellPainter::reset(qint64 bytes)
+{
+    m_tiles.clear();
+    m_captions.clear();
+    m_looseTile.reset();
+    m_looseCaption.reset();
+    m_tiles.setMaxCost(static_cast<int>(std::max(kLeastTiles, bytes / 2)));
+    m_captions.setMaxCost(static_cast<int>(std::max(kLeastCaptions, bytes / 2)));
+}
+
+void CellPainter::draw(QPainter &painter, const PreviewScene &scene, const PreviewCell &cell,
                        const CaptionColours &caption)
 {
-    const PreviewCell &drawn = scene.layout.cells.at(cell);
     const bool isFitted = scene.style == CellStyle::FittedWithCaption;
-    if (const QPixmap *thumbnail = thumbnailOf(scene, drawn)) {
+    if (const QPixmap *thumbnail = thumbnailOf(scene, cell)) {
         if (isFitted) {
-            drawFitted(painter, *thumbnail, drawn, cell);
+            const QPixmap photo = turned(*thumbnail, cell);
+            painter.drawPixmap(cell.box, photo, QRectF(photo.rect()));
         } else {
-            painter.drawPixmap(drawn.box.topLeft(), *thumbnail);
+            painter.drawPixmap(cell.box.topLeft(), *thumbnail);
         }
     }
-    painter.drawRect(drawn.box);
+    painter.drawRect(cell.box);
     if (isFitted) {
+        drawCaption(painter, cell, caption);
+    }
+}
+
+void CellPainter::drawParts(QPainter &painter, const PreviewScene &scene, int cell,
+                            const CellParts &parts, const CaptionColours &caption)
+{
+    const PreviewCell &drawn = scene.layout.cells.at(cell);
+    const QPixmap *thumbnail = parts.photo ? thumbnailOf(scene, drawn) : nullptr;
+    if (thumbnail != nullptr && scene.style == CellStyle::UnscaledPhoto) {
+        painter.drawPixmap(drawn.box.topLeft(), *thumbnail);
+    } else if (thumbnail != nullptr) {
+        const Tile &tile = tileFor(*thumbnail, drawn, cell);
+        painter.drawImage(tile.position, tile.image);
+    }
+    if (parts.outline) {
+        painter.drawRect(drawn.box);
+    }
+    if (parts.caption && painter.layoutDirection() == Qt::LeftToRight) {
+        captionFor(drawn, cell, painter.font()).draw(painter, caption);
+    } else if (parts.caption) {
         drawCaption(painter, drawn, caption);
     }
 }
 
-void CellPainter::drawFitted(QPainter &painter, const QPixmap &thumbnail, const PreviewCell &cell,
-                             int index)
+CellParts CellPainter::partsIn(const QRect &rect, const PreviewScene &scene, int cell,
+                               const QPainter &painter)
 {
-    if (const Tile *kept = m_tiles.object(index)) {
-        painter.drawPixmap(kept->position, kept->pixmap);
-        return;
+    const PreviewCell &asked = scene.layout.cells.at(cell);
+    const QRect around = asked.box.toAlignedRect().adjusted(-kSpill, -kSpill, kSpill, kSpill);
+    const bool isFitted = scene.style == CellStyle::FittedWithCaption;
+    CellParts parts;
+    if (around.intersects(rect)) {
+        // Tiny cells have no inside; turned inside out, it would hold pixels all the same.
+        const QRectF inside = asked.box.adjusted(kSpill, kSpill, -kSpill, -kSpill);
+        parts.outline = !inside.isValid() || !inside.contains(QRectF(rect));
+        // Right to left, captions stand elsewhere.
+        parts.caption = isFitted
+            && (painter.layoutDirection() != Qt::LeftToRight
+                || captionFor(asked, cell, painter.font()).rect().intersects(rect));
+    } else if (isFitted) {
+        return parts;
     }
-    const Tile tile = fittedTile(thumbnail, cell);
-    painter.drawPixmap(tile.position, tile.pixmap);
-    const int bytes = tile.pixmap.width() * tile.pixmap.height() * kBytesPerPixel;
-    m_tiles.insert(index, new Tile(tile), bytes);
+    const QPixmap *thumbnail = thumbnailOf(scene, asked);
+    parts.photo
+        = thumbnail != nullptr && photoRect(scene.style, asked, thumbnail->size()).intersects(rect);
+    return parts;
+}
+
+QRect CellPainter::hiddenBehind(const PreviewScene &scene, int cell)
+{
+    const PreviewCell &asked = scene.layout.cells.at(cell);
+    const QPixmap *thumbnail = thumbnailOf(scene, asked);
+    if (thumbnail == nullptr || thumbnail->hasAlphaChannel()) {
+        return {};
+    }
+    if (scene.style == CellStyle::FittedWithCaption && !tileFor(*thumbnail, asked, cell).isOpaque) {
+        return {};
+    }
+    return photoRect(scene.style, asked, thumbnail->size());
+}
+
+const CellPainter::Tile &CellPainter::tileFor(const QPixmap &thumbnail, const PreviewCell &cell,
+                                              int number)
+{
+    if (const Tile *kept = m_tiles.object(number)) {
+        return *kept;
+    }
+    auto tile = std::make_unique<Tile>(fittedTile(thumbnail, cell));
+    const qint64 bytes = tile->image.sizeInBytes();
+    return keep(m_tiles, m_looseTile, number, std::move(tile), bytes);
 }
 
 CellPainter::Tile CellPainter::fittedTile(const QPixmap &thumbnail, const PreviewCell &cell)
 {
-    const QPoint position(static_cast<int>(std::floor(cell.box.left())) - 1,
-                          static_cast<int>(std::floor(cell.box.top())) - 1);
-    QPixmap pixmap(static_cast<int>(std::ceil(cell.box.width())) + 3,
-                   static_cast<int>(std::ceil(cell.box.height())) + 3);
-    pixmap.fill(Qt::transparent);
-    const QPixmap photo = turned(thumbnail, cell.roll);
-    QPainter painter(&pixmap);
-    // Moved by the painter, not beforehand: the scale comes from the box as it is, and a rounding
-    // of its sides can shift every pixel that is picked.
-    painter.translate(-position);
-    painter.drawPixmap(cell.box, photo, QRectF(photo.rect()));
-    return { position, pixmap };
+    Tile tile;
+    tile.position = QPoint(static_cast<int>(std::floor(cell.box.left())) - 1,
+                           static_cast<int>(std::floor(cell.box.top())) - 1);
+    tile.image = QImage(static_cast<int>(std::ceil(cell.box.width())) + 3,
+                        static_cast<int>(std::ceil(cell.box.height())) + 3,
+                        QImage::Format_ARGB32_Premultiplied);
+    tile.image.fill(Qt::transparent);
+    const QPixmap photo = turned(thumbnail, cell);
+    {
+        QPainter painter(&tile.image);
+        // Moved by the painter, not beforehand: the scale comes from the box as it is, and a
+        // rounding of its sides can shift every pixel that is picked.
+        painter.translate(-tile.position);
+        painter.drawPixmap(cell.box, photo, QRectF(photo.rect()));
+    }
+    // Scaling may leave out the last row or column, which then lacks in the corner too.
+    const QRect filled
+        = photoRect(CellStyle::FittedWithCaption, cell, photo.size()).translated(-tile.position);
+    tile.isOpaque = !photo.hasAlphaChannel() && !filled.isEmpty()
+        && qAlpha(tile.image.pixel(filled.bottomRight())) == 255;
+    if (tile.isOpaque) {
+        tile.image = tile.image.copy(filled);
+        tile.image.reinterpretAsFormat(QImage::Format_RGB32);
+        tile.position += filled.topLeft();
+    }
+    return tile;
+}
+
+const CellPainter::Caption &CellPainter::captionFor(const PreviewCell &cell, int number,
+                                                    const QFont &font)
+{
+    if (const Caption *kept = m_captions.object(number)) {
+        return *kept;
+    }
+    return keep(m_captions, m_looseCaption, number, std::make_unique<Caption>(cell, font),
+                kCaptionBytes);
+}
+
+CellPainter::Caption::Caption(const PreviewCell &cell, const QFont &font)
+    : text(captionText(cell), font)
+    , room(captionRoom(cell))
+{
+    QTextOption option;
+    option.setTextDirection(Qt::LeftToRight);
+    text.setTextOption(option);
+    text.setCacheEnabled(true);
+    const qreal leading = QFontMetricsF(font).leading();
+    qreal width = 0.0;
+    qreal height = -leading;
+    text.beginLayout();
+    for (QTextLine line = text.createLine(); line.isValid(); line = text.createLine()) {
+        line.setLineWidth(std::max(0.0, room.width()));
+        height = std::ceil(height + leading);
+        line.setPosition(QPointF(0.0, height));
+        height += line.height();
+        width = std::max(width, line.naturalTextWidth());
+    }
+    text.endLayout();
+    lines = QRectF(room.topLeft(), QSizeF(width, height));
+}
+
+void CellPainter::Caption::draw(QPainter &painter, const CaptionColours &colours) const
+{
+    if (colours.ground.style() != Qt::NoBrush) {
+        painter.fillRect(lines & room, colours.ground);
+    }
+    const QPen outline = painter.pen();
+    const bool isCut = !room.contains(lines);
+    painter.setPen(colours.text);
+    if (isCut) {
+        painter.save();
+        painter.setClipRect(room, Qt::IntersectClip);
+    }
+    for (int line = 0; line < text.lineCount(); ++line) {
+        text.lineAt(line).draw(&painter, room.topLeft());
+    }
+    if (isCut) {
+        painter.restore();
+    }
+    painter.setPen(outline);
+}
+
+QRect CellPainter::Caption::rect() const
+{
+    return lines.toAlignedRect().adjusted(-kOverhang, -kOverhang, kOverhang, kOverhang);
 }
 
 } // namespace PanoHead

@@ -6,13 +6,17 @@
 
 #include <QBrush>
 #include <QCache>
+#include <QImage>
 #include <QList>
 #include <QPen>
-#include <QPixmap>
-#include <QPoint>
+#include <QRect>
 #include <QSize>
+#include <QTextLayout>
+
+#include <memory>
 
 class QPainter;
+class QPixmap;
 class XIImageDef;
 
 namespace PanoHead
@@ -45,39 +49,73 @@ struct PreviewScene {
 /** The thumbnail that belongs into \p cell; null when there is none to draw. */
 [[nodiscard]] const QPixmap *thumbnailOf(const PreviewScene &scene, const PreviewCell &cell);
 
-/**
- * Draws cells, outlined with the painter's pen. A thumbnail is first scaled into a tile of its own
- * that starts on a whole pixel: copying a tile gives the same pixels under any clip, scaling under
- * a clip does not. Some tiles are kept for the redraw of their neighbours.
- */
+/** The pixels in which \p cell shows a thumbnail of \p size. */
+[[nodiscard]] QRect photoRect(CellStyle style, const PreviewCell &cell, const QSize &size);
+
+/** What of a cell is to be drawn. */
+struct CellParts {
+    bool photo = false;
+    bool outline = false;
+    bool caption = false;
+
+    [[nodiscard]] bool isNone() const { return !photo && !outline && !caption; }
+};
+
+/** Draws the cells of a scene, outlined with the painter's pen. */
 class CellPainter
 {
 public:
-    /** \p tileBytes bounds what is kept. */
-    explicit CellPainter(int tileBytes = 0)
-        : m_tiles(tileBytes)
-    {
-    }
+    /** Draws all of \p cell. Without a clip: a thumbnail scaled under one has other pixels. */
+    static void draw(QPainter &painter, const PreviewScene &scene, const PreviewCell &cell,
+                     const CaptionColours &caption);
 
-    void draw(QPainter &painter, const PreviewScene &scene, int cell,
-              const CaptionColours &caption);
-    /** The photo of \p cell has changed. */
-    void forget(int cell) { m_tiles.remove(cell); }
-    /** Everything has changed. */
-    void reset(int tileBytes);
+    /**
+     * Draws \p parts of cell number \p cell with the pixels of `draw`, under any clip. A thumbnail
+     * is first scaled into a tile of its own: copying that gives the same pixels under any clip.
+     * Tiles and captions with their lines broken are kept for the neighbours' next redraw.
+     */
+    void drawParts(QPainter &painter, const PreviewScene &scene, int cell, const CellParts &parts,
+                   const CaptionColours &caption);
+    /** The parts of cell number \p cell that may reach into \p rect, in the painter's font. */
+    [[nodiscard]] CellParts partsIn(const QRect &rect, const PreviewScene &scene, int cell,
+                                    const QPainter &painter);
+    /** Pixels in which the photo of cell number \p cell hides all that is below; may be none. */
+    [[nodiscard]] QRect hiddenBehind(const PreviewScene &scene, int cell);
+
+    /** The photo of cell number \p cell has changed. */
+    void forgetPhoto(int cell) { m_tiles.remove(cell); }
+    /** Everything has changed. At most about \p bytes are kept from now on. */
+    void reset(qint64 bytes);
 
 private:
-    /** A thumbnail made ready to be copied pixel by pixel to \c position. */
+    /** A thumbnail made ready to be copied pixel by pixel. */
     struct Tile {
         QPoint position;
-        QPixmap pixmap;
+        QImage image;
+        bool isOpaque = false;
+    };
+    /** A caption with its lines broken, as the painter's own function for texts breaks them. */
+    struct Caption {
+        Caption(const PreviewCell &cell, const QFont &font);
+
+        void draw(QPainter &painter, const CaptionColours &colours) const;
+        /** Pixels that are drawn, and perhaps some around them. */
+        [[nodiscard]] QRect rect() const;
+
+        QTextLayout text;
+        QRectF room; ///< in the cell
+        QRectF lines; ///< what the lines take up; what reaches out of the room is cut off
     };
 
-    static Tile fittedTile(const QPixmap &thumbnail, const PreviewCell &cell);
-    void drawFitted(QPainter &painter, const QPixmap &thumbnail, const PreviewCell &cell,
-                    int index);
+    [[nodiscard]] static Tile fittedTile(const QPixmap &thumbnail, const PreviewCell &cell);
+    const Tile &tileFor(const QPixmap &thumbnail, const PreviewCell &cell, int number);
+    const Caption &captionFor(const PreviewCell &cell, int number, const QFont &font);
 
-    QCache<int, Tile> m_tiles; // by cell, cost in bytes
+    QCache<int, Tile> m_tiles{ 0 }; // by cell, cost in bytes
+    QCache<int, Caption> m_captions{ 0 }; // by cell, cost in bytes
+    // The last ones made, when they are too large to be kept.
+    std::unique_ptr<Tile> m_looseTile;
+    std::unique_ptr<Caption> m_looseCaption;
 };
 
 } // namespace PanoHead
