@@ -6,6 +6,7 @@
 #include <QResizeEvent>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QStyle>
 
 namespace PanoHead
 {
@@ -42,27 +43,65 @@ void PreviewLabel::showScene(const PreviewScene &scene, int zoomPercent)
     m_scene = scene;
     m_zoomPercent = zoomPercent;
     if (change.isNone() && !isOtherZoom) {
+        m_canvas.update(scene, wanted, change);
         return;
     }
-    // The label's picture shares its pixels with the copies here; drawing on them while it does
-    // would make further copies.
-    setPixmap(QPixmap());
-    if (change.everything || m_zoomed.percent() == 100) {
-        m_zoomed = ZoomedCopy();
+    // At full zoom the label's picture shares its pixels with the canvas; drawing on that while it
+    // does would make a copy. And old pictures go before new ones come.
+    const bool showsAll = change.everything || isOtherZoom || zoomPercent == 100;
+    if (showsAll) {
+        setPixmap(QPixmap());
     }
     m_canvas.update(scene, wanted, change);
-    if (m_zoomed.percent() != zoomPercent) {
-        m_zoomed.make(m_canvas.image(), zoomPercent);
+    if (showsAll || m_canvas.image().isNull()) {
+        showAll();
     } else {
-        m_zoomed.patch(m_canvas.image(), change.region);
+        showPart(change.region);
     }
-    setPixmap(QPixmap::fromImage(m_zoomed.image(), Qt::NoOpaqueDetection));
+}
+
+void PreviewLabel::prepareScene(const PreviewScene &scene)
+{
+    const PreviewColours wanted = colours(scene.style);
+    const PreviewCanvas::Change change = m_canvas.changeTo(scene, wanted);
+    if (!change.isNone()) {
+        m_canvas.update(scene, wanted, change);
+        m_zoomed.forget();
+    }
 }
 
 void PreviewLabel::forgetPhotos()
 {
     m_scene.images.clear();
-    m_canvas.invalidate();
+    m_canvas.forgetPhotos();
+}
+
+void PreviewLabel::showAll()
+{
+    setPixmap(
+        QPixmap::fromImage(m_zoomed.make(m_canvas.image(), m_zoomPercent), Qt::NoOpaqueDetection));
+}
+
+/** Without a new layout of the page, and without a repaint when nobody can see \p region. */
+void PreviewLabel::showPart(const QRegion &region)
+{
+    QPixmap *shown = ownPixmap();
+    if (shown == nullptr || shown->isNull()) {
+        return;
+    }
+    const QRegion patched = m_zoomed.patch(shown, m_canvas.image(), region);
+    const QRect place
+        = QStyle::alignedRect(layoutDirection(), alignment(), shown->size(), contentsRect());
+    update(patched.translated(place.topLeft()));
+}
+
+/** The label keeps the only reference to it, so that drawing on it copies nothing. */
+QPixmap *PreviewLabel::ownPixmap() const
+{
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    return const_cast<QPixmap *>(pixmap());
+    QT_WARNING_POP
 }
 
 void PreviewLabel::changeEvent(QEvent *event)

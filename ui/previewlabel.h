@@ -24,7 +24,9 @@ public:
 
     /** Shows \p scene at \p zoomPercent of its size. Its photos must outlive the next call. */
     void showScene(const PreviewScene &scene, int zoomPercent);
-    /** The photos shown are no longer to be relied on: the next call draws everything. */
+    /** Draws \p scene already, as far as nobody sees it: the next call shows it sooner. */
+    void prepareScene(const PreviewScene &scene);
+    /** The photos shown may be gone before the next call. */
     void forgetPhotos();
 
 protected:
@@ -34,6 +36,9 @@ protected:
 
 private:
     [[nodiscard]] PreviewColours colours(CellStyle style) const;
+    void showAll();
+    void showPart(const QRegion &region);
+    [[nodiscard]] QPixmap *ownPixmap() const;
 
     PreviewScene m_scene;
     int m_zoomPercent = 100;

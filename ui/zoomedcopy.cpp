@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "ui/zoomedcopy.h"
 
+#include <QPainter>
+#include <QPixmap>
+
 #include <algorithm>
 
 namespace PanoHead
@@ -44,44 +47,46 @@ std::pair<int, int> placesFrom(const std::vector<int> &table, int first, int las
 
 } // namespace
 
-void ZoomedCopy::make(const QImage &original, int percent)
+QImage ZoomedCopy::make(const QImage &original, int percent)
 {
+    forget();
     m_percent = percent;
-    m_image = QImage();
-    m_sourceColumns.clear();
-    m_sourceRows.clear();
     const QSize size(zoomed(original.width(), percent), zoomed(original.height(), percent));
     if (size.isEmpty()) {
-        return;
+        return {};
     }
-    m_image = original.scaled(size, Qt::IgnoreAspectRatio, Qt::FastTransformation);
-    if (!sharesOriginal()) {
-        m_sourceColumns = sourceTable(original.width(), size.width(), Qt::Horizontal);
-        m_sourceRows = sourceTable(original.height(), size.height(), Qt::Vertical);
-    }
+    m_sourceColumns = sourceTable(original.width(), size.width(), Qt::Horizontal);
+    m_sourceRows = sourceTable(original.height(), size.height(), Qt::Vertical);
+    return original.scaled(size, Qt::IgnoreAspectRatio, Qt::FastTransformation);
 }
 
-void ZoomedCopy::patch(const QImage &original, const QRegion &region)
+QRegion ZoomedCopy::patch(QPixmap *copy, const QImage &original, const QRegion &region) const
 {
-    if (m_image.isNull()) {
-        return;
+    QRegion patched;
+    if (copy->isNull()) {
+        return patched;
     }
-    if (sharesOriginal()) {
-        m_image = original;
-        return;
-    }
+    QPainter painter(copy);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
     for (const QRect &rect : region) {
         const auto [left, right] = placesFrom(m_sourceColumns, rect.left(), rect.right());
         const auto [top, bottom] = placesFrom(m_sourceRows, rect.top(), rect.bottom());
+        if (left >= right || top >= bottom) {
+            continue;
+        }
+        QImage part(right - left, bottom - top, original.format());
         for (int y = top; y < bottom; ++y) {
             const auto *source
                 = reinterpret_cast<const QRgb *>(original.constScanLine(m_sourceRows[y]));
-            auto *target = reinterpret_cast<QRgb *>(m_image.scanLine(y));
+            auto *target = reinterpret_cast<QRgb *>(part.scanLine(y - top));
             for (int x = left; x < right; ++x) {
-                target[x] = source[m_sourceColumns[x]];
+                target[x - left] = source[m_sourceColumns[x]];
             }
         }
+        painter.drawImage(left, top, part);
+        patched += QRect(left, top, part.width(), part.height());
     }
+    return patched;
 }
 
 } // namespace PanoHead

@@ -7,29 +7,33 @@
 
 #include <vector>
 
+class QPixmap;
+
 namespace PanoHead
 {
 
 /**
- * A picture scaled to some percent of its size, as Qt's fast transformation scales it, of which
- * parts can be brought up to date.
+ * Scales a picture to some percent of its size, as Qt's fast transformation does, and brings parts
+ * of the copy up to date. The copy is the caller's.
  */
 class ZoomedCopy
 {
 public:
-    /** Scales all of \p original; null when a side would have less than one pixel. */
-    void make(const QImage &original, int percent);
-    /** Copies the pixels that come from \p region of \p original again. */
-    void patch(const QImage &original, const QRegion &region);
+    /** A copy of \p original; null when a side would have less than one pixel. */
+    [[nodiscard]] QImage make(const QImage &original, int percent);
+    /**
+     * Copies the pixels that come from \p region of \p original again, onto \p copy, which `make`
+     * made of a picture of the same size. Answers the pixels copied.
+     */
+    QRegion patch(QPixmap *copy, const QImage &original, const QRegion &region) const;
+    /** No copy is known any more. */
+    void forget() { *this = ZoomedCopy(); }
 
-    [[nodiscard]] const QImage &image() const { return m_image; }
+    /** Of the last copy made; 0 for none. */
     [[nodiscard]] int percent() const { return m_percent; }
 
 private:
-    [[nodiscard]] bool sharesOriginal() const { return m_percent == 100; }
-
     int m_percent = 0;
-    QImage m_image;
     // Fast scaling picks one column and one row of the original per pixel.
     std::vector<int> m_sourceColumns;
     std::vector<int> m_sourceRows;

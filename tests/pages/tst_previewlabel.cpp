@@ -7,6 +7,8 @@
 #include "tests/support/literalpreview.h"
 
 #include <QApplication>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QtTest>
 
 #include <memory>
@@ -22,6 +24,12 @@ class Photo : public FakeImage
 public:
     explicit Photo(unsigned seed)
         : FakeImage({}, {})
+    {
+        repaint(seed);
+    }
+
+    /** Another picture in the same object. */
+    void repaint(unsigned seed)
     {
         std::mt19937 random(seed);
         QImage image(160, 120, QImage::Format_RGB32);
@@ -97,7 +105,12 @@ private Q_SLOTS:
     void applicationFontChangeRedrawsEverything();
     void paletteChangeRedrawsEverything();
     void forgottenPhotosAreNotTouchedAgain();
+    void newPhotosAtOldAddressesAreDrawn();
     void emptySceneShowsNothing();
+    void preparedSceneIsNotShown();
+    void preparedSceneIsShownLater();
+    void takenPixmapKeepsItsPicture();
+    void changeOutOfSightIsNotPainted();
     void sameSceneKeepsThePixmap();
     void updatesAllocateNoFurtherPicture_data();
     void updatesAllocateNoFurtherPicture();
@@ -223,6 +236,113 @@ void TestPreviewLabel::forgottenPhotosAreNotTouchedAgain()
     label.setPalette(palette);
     label.showScene(shoot.with(0), 50);
     QCOMPARE(differenceFrom(label, shoot.with(0), 50), QString());
+}
+
+void TestPreviewLabel::newPhotosAtOldAddressesAreDrawn()
+{
+    Shoot shoot(6, 6, 60, 36);
+    PreviewLabel label;
+    label.showScene(shoot.with(36), 50);
+    label.forgetPhotos();
+    // The same objects with other thumbnails, as a host's memory may have it.
+    for (unsigned i = 0; i < 36; ++i) {
+        shoot.photos[i]->repaint(100 + i);
+    }
+    for (const int count : { 0, 3, 36 }) {
+        label.showScene(shoot.with(count), 50);
+        QCOMPARE(differenceFrom(label, shoot.with(count), 50), QString());
+    }
+    label.forgetPhotos();
+    shoot.photos[0]->repaint(200);
+    label.showScene(shoot.with(36), 50);
+    QCOMPARE(differenceFrom(label, shoot.with(36), 50), QString());
+}
+
+void TestPreviewLabel::preparedSceneIsNotShown()
+{
+    const Shoot shoot(6, 6, 60, 36);
+    PreviewLabel label;
+    label.prepareScene(shoot.with(0));
+    QVERIFY(shownBy(label).isNull());
+    label.showScene(shoot.with(20), 50);
+    const QImage before = shownBy(label).copy();
+    label.prepareScene(Shoot(3, 3, 96, 0).with(0));
+    QCOMPARE(shownBy(label), before);
+}
+
+void TestPreviewLabel::preparedSceneIsShownLater()
+{
+    const Shoot shoot(11, 7, 60, 77);
+    const Shoot other(12, 7, 50, 77);
+    PreviewLabel label;
+    label.prepareScene(shoot.with(0));
+    label.showScene(shoot.with(5), 50);
+    QCOMPARE(differenceFrom(label, shoot.with(5), 50), QString());
+    label.prepareScene(other.with(0));
+    label.showScene(other.with(3), 50);
+    QCOMPARE(differenceFrom(label, other.with(3), 50), QString());
+    // Prepared for another one than comes.
+    label.prepareScene(shoot.with(0));
+    label.showScene(other.with(3), 50);
+    QCOMPARE(differenceFrom(label, other.with(3), 50), QString());
+    label.prepareScene(PreviewScene());
+    label.showScene(other.with(4), 50);
+    QCOMPARE(differenceFrom(label, other.with(4), 50), QString());
+}
+
+void TestPreviewLabel::takenPixmapKeepsItsPicture()
+{
+    const Shoot shoot(11, 7, 60, 77);
+    PreviewLabel label;
+    label.showScene(shoot.with(10), 50);
+    const QPixmap taken = label.pixmap(Qt::ReturnByValue);
+    const QImage before = taken.toImage().copy();
+    label.showScene(shoot.with(20), 50);
+    QCOMPARE(taken.toImage(), before);
+    QVERIFY(taken.cacheKey() != label.pixmap(Qt::ReturnByValue).cacheKey());
+}
+
+/** Counts the paint events of a widget. */
+class PaintCounter : public QObject
+{
+public:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return QObject::eventFilter(watched, event);
+    }
+    int count = 0;
+};
+
+void TestPreviewLabel::changeOutOfSightIsNotPainted()
+{
+    const Shoot shoot(11, 40, 96, 440);
+    QScrollArea area;
+    auto *label = new PreviewLabel;
+    area.setWidget(label);
+    area.setWidgetResizable(true);
+    area.resize(300, 300);
+    area.show();
+    label->showScene(shoot.with(10), 99);
+    QCoreApplication::processEvents();
+    area.verticalScrollBar()->setValue(area.verticalScrollBar()->maximum());
+    QCoreApplication::processEvents();
+    PaintCounter counter;
+    label->installEventFilter(&counter);
+    label->showScene(shoot.with(20), 99);
+    QCoreApplication::processEvents();
+    QCOMPARE(counter.count, 0);
+    // What is in sight is painted.
+    area.verticalScrollBar()->setValue(0);
+    area.horizontalScrollBar()->setValue(0);
+    QCoreApplication::processEvents();
+    counter.count = 0;
+    label->showScene(shoot.with(12), 99);
+    QCoreApplication::processEvents();
+    QVERIFY(counter.count > 0);
+    QCOMPARE(pixelDifference(area.viewport()->grab().toImage().copy(0, 0, 200, 200),
+                             shownBy(*label).copy(0, 0, 200, 200)),
+             QString());
 }
 
 void TestPreviewLabel::emptySceneShowsNothing()
