@@ -275,6 +275,9 @@ void UIWPMerlin::UpdatePreview()
     // The same number of photos counts as the same picture, none included: wanted. Whoever changes
     // the picture otherwise empties the list first.
     if (read.size() == previewImages.size()) {
+        if (read.isEmpty()) {
+            m_preview->prepareScene({ m_layout.of(shots, m_state.extents()), {} });
+        }
         return;
     }
     previewImages = m_shotOrder.update(read);
