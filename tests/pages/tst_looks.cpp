@@ -6,7 +6,9 @@
 #include "importers/vrdrive2/uiwpvrdrive2.h"
 
 #include "tests/support/fakeapplication.h"
+#include "tests/support/fakeimage.h"
 #include "tests/support/formcheck.h"
+#include "ui/previewlabel.h"
 
 #include <QLayout>
 #include <QRadioButton>
@@ -16,6 +18,8 @@
 #include <QtTest>
 
 #include <memory>
+
+using namespace PanoHead;
 
 namespace
 {
@@ -291,6 +295,8 @@ private Q_SLOTS:
     void everyFieldHasALabelOrAName();
     void previewKeepsItsPlaceFromTabToTab_data() { addHeads(); }
     void previewKeepsItsPlaceFromTabToTab();
+    void captionStandsOutFromABrightPhoto_data();
+    void captionStandsOutFromABrightPhoto();
 };
 
 void TestLooks::pageFitsTheSmallestWindow()
@@ -492,6 +498,44 @@ void TestLooks::previewKeepsItsPlaceFromTabToTab()
         shown.showTab(tab);
         QCOMPARE(placeOnPage(area, shown.page()), before);
     }
+}
+
+void TestLooks::captionStandsOutFromABrightPhoto_data()
+{
+    QTest::addColumn<QColor>("window");
+    QTest::addColumn<QColor>("text");
+    QTest::addColumn<bool>("ground");
+    QTest::newRow("light theme: dark text on the photo itself")
+        << QColor(Qt::lightGray) << QColor(Qt::black) << false;
+    QTest::newRow("dark theme: bright text on a darkened photo")
+        << QColor(Qt::black) << QColor(Qt::white) << true;
+}
+
+void TestLooks::captionStandsOutFromABrightPhoto()
+{
+    QFETCH(QColor, window);
+    QFETCH(QColor, text);
+    QFETCH(bool, ground);
+    FakePhoto white;
+    white.colour = Qt::white;
+    FakeImage photo(QStringLiteral("a.jpg"), white);
+    PreviewCell cell;
+    cell.box = QRectF(2.0, 2.0, 96.0, 96.0);
+    cell.image = 0;
+    PreviewLabel label;
+    QPalette palette = label.palette();
+    palette.setColor(QPalette::Window, window);
+    palette.setColor(QPalette::WindowText, text);
+    label.setPalette(palette);
+
+    label.showScene({ { QSize(100, 100), { cell } }, { &photo }, CellStyle::FittedWithCaption },
+                    100);
+
+    const QImage picture = label.pixmap(Qt::ReturnByValue).toImage();
+    // The text's box starts at (3, 3), where no letter has a pixel; none reaches the lower half.
+    QCOMPARE(picture.pixelColor(3, 3) == QColor(Qt::white), !ground);
+    QVERIFY(ground == (picture.pixelColor(3, 3).lightness() < 128));
+    QCOMPARE(picture.pixelColor(50, 90), QColor(Qt::white));
 }
 
 FAKE_HOST_MAIN(FakeApplication, TestLooks)
