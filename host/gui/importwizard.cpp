@@ -197,6 +197,8 @@ void ImportWizard::openLinksOfSubtitle()
             label->setOpenExternalLinks(true);
             label->setTextInteractionFlags(Qt::LinksAccessibleByMouse
                                            | Qt::LinksAccessibleByKeyboard);
+            // The wizard leaves room for two lines of Latin letters; others stand taller.
+            label->parentWidget()->setMaximumHeight(QWIDGETSIZE_MAX);
         }
     }
 }

@@ -15,10 +15,13 @@
 #include <QFont>
 #include <QLabel>
 #include <QListWidget>
+#include <QScrollArea>
+#include <QSlider>
 #include <QStyleFactory>
 #include <QTabWidget>
 #include <QTextStream>
 
+#include <algorithm>
 #include <array>
 #include <functional>
 
@@ -138,6 +141,18 @@ QPalette darkPalette()
     return palette;
 }
 
+/** Zooms the preview until it fills its place. */
+void fitPreview(const QWizardPage *page)
+{
+    const auto *area = page->findChild<QScrollArea *>(QStringLiteral("m_saPreview"));
+    const auto *preview = qobject_cast<const QLabel *>(area->widget());
+    auto *zoom = page->findChild<QSlider *>(QStringLiteral("m_hSlider"));
+    const QSizeF shown = preview->pixmap(Qt::ReturnByValue).size();
+    const QSizeF room = area->viewport()->size();
+    const double growth = std::min(room.width() / shown.width(), room.height() / shown.height());
+    zoom->setValue(static_cast<int>(zoom->value() * growth));
+}
+
 /** Takes the pictures of one run, all under one folder. */
 class Photographer
 {
@@ -232,7 +247,11 @@ void Photographer::everything(const DemoHead &head, const QStringList &files)
     wizard.next();
     bothSizes(wizard, name + QStringLiteral("-result"));
     wizard.back();
-    misfit(wizard, name, files);
+    fitPreview(wizard.currentPage());
+    picture(wizard, name + QStringLiteral("-fitted"), kSizes.back());
+    if (head.record != nullptr) {
+        misfit(wizard, name, files);
+    }
     wizard.reject();
 }
 
