@@ -62,20 +62,6 @@ void waitFor(const std::function<bool()> &condition, const QString &what)
     }
 }
 
-/** Four rows of six photos, one column after the other, as the grid page guesses them. */
-ShootPlan gridPlan(const QSize &photoSize)
-{
-    constexpr double kGridFocal35mm = 50.0;
-    ShootPlan plan;
-    plan.camera = { photoSize, kGridFocal35mm, Projection::Rectilinear };
-    for (const double yaw : { -60.0, -36.0, -12.0, 12.0, 36.0, 60.0 }) {
-        for (const double pitch : { 24.0, 8.0, -8.0, -24.0 }) {
-            plan.positions.append({ yaw, pitch, 0.0 });
-        }
-    }
-    return plan;
-}
-
 /** Brackets that end with the reference exposure: the last photo of a position is seen on top. */
 ShootPlan bracketPlan(const QSize &photoSize)
 {
@@ -84,14 +70,17 @@ ShootPlan bracketPlan(const QSize &photoSize)
     return plan;
 }
 
-/** A shoot for every page. */
+/** The demo's heads, one for every page. */
 QVector<DemoHead> heads()
 {
-    const DemoHead papywizard = *demoHead(QStringLiteral("papywizard"));
-    return { papywizard,
-             { "vrdrive2", papywizard.recordFile, bracketPlan, papywizard.record, nullptr, 0.0 },
-             *demoHead(QStringLiteral("clauss")),
-             { "gigapan", nullptr, gridPlan, nullptr, nullptr, 0.0 } };
+    QVector<DemoHead> heads;
+    for (const QString &name : demoHeadNames()) {
+        heads.append(*demoHead(name));
+        if (name == QLatin1String("vrdrive2")) {
+            heads.last().plan = bracketPlan;
+        }
+    }
+    return heads;
 }
 
 /** Takes the photos of \p head and writes its record, unless an earlier run has done so. */
