@@ -360,15 +360,15 @@
     </message>
     <message>
         <source>Yaw:</source>
-        <translation>Gieren:</translation>
+        <translation>Gierwinkel:</translation>
     </message>
     <message>
         <source>Pitch:</source>
-        <translation>Nicken:</translation>
+        <translation>Nickwinkel:</translation>
     </message>
     <message>
         <source>Bracketing:</source>
-        <translation>Bracketing:</translation>
+        <translation>Belichtungsreihe:</translation>
     </message>
     <message>
         <source>XML focal:</source>
@@ -546,7 +546,7 @@
     <name>UIWPVRDrive2Class</name>
     <message>
         <source>VR Drive II import plugin</source>
-        <translation>VR Drive II-Import-Plug-in</translation>
+        <translation>Import-Plug-in für VR Drive II</translation>
     </message>
     <message>
         <source>VR Drive 2</source>
@@ -554,7 +554,7 @@
     </message>
     <message>
         <source>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; plug-in enables an automated HDR workflow with all parameters set for true light rendering and easy use of Weavix software.</source>
-        <translation>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt;: automatisierter HDR-Ablauf, alle Parameter auf lichtgetreue Wiedergabe und einfache Nutzung der Weavix-Software eingestellt.</translation>
+        <translation>Das Plug-in &lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; bietet einen automatisierten HDR-Ablauf, bei dem alle Parameter auf lichtgetreue Wiedergabe und einfache Nutzung der Weavix-Software eingestellt sind.</translation>
     </message>
     <message>
         <source>General</source>
@@ -590,15 +590,15 @@
     </message>
     <message>
         <source>Yaw:</source>
-        <translation>Gieren:</translation>
+        <translation>Gierwinkel:</translation>
     </message>
     <message>
         <source>Pitch:</source>
-        <translation>Nicken:</translation>
+        <translation>Nickwinkel:</translation>
     </message>
     <message>
         <source>Bracketing:</source>
-        <translation>Bracketing:</translation>
+        <translation>Belichtungsreihe:</translation>
     </message>
     <message>
         <source>XML focal:</source>
@@ -610,7 +610,7 @@
     </message>
     <message>
         <source>8-bits / 16-bits tonemapped</source>
-        <translation>8 Bit / 16 Bit mit Tonwertabbildung</translation>
+        <translation>8 Bit / 16 Bit mit Tone-Mapping</translation>
     </message>
     <message>
         <source>32-bits HDR radiance</source>

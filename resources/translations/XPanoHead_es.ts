@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>Select the preset file and/or images</source>
-        <translation>Seleccione el archivo de registro y/o las imágenes</translation>
+        <translation>Seleccionar el archivo de registro y/o las imágenes</translation>
     </message>
     <message>
         <source>All Files (*.*)</source>
@@ -36,7 +36,7 @@
     </message>
     <message>
         <source>Clauss panohead import</source>
-        <translation>Importación de cabezal panorámico Clauss</translation>
+        <translation>Importación desde cabezal panorámico Clauss</translation>
     </message>
     <message>
         <source>&lt;a href=&quot;https://dr-clauss.de&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;Clauss&lt;/font&gt;&lt;/a&gt; provides special equipment for panoramic photography and VR applications.</source>
@@ -230,7 +230,7 @@
     </message>
     <message>
         <source>For a stack:</source>
-        <translation>Para una pila:</translation>
+        <translation>Dentro de una pila:</translation>
     </message>
     <message>
         <source>Use hard links</source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Select the preset file and/or images</source>
-        <translation>Seleccione el archivo de registro y/o las imágenes</translation>
+        <translation>Seleccionar el archivo de registro y/o las imágenes</translation>
     </message>
     <message>
         <source>All Files (*.*);;XML files (*.xml)</source>
@@ -432,7 +432,7 @@
     </message>
     <message>
         <source>For a stack:</source>
-        <translation>Para una pila:</translation>
+        <translation>Dentro de una pila:</translation>
     </message>
     <message>
         <source>Use hard links</source>
@@ -460,7 +460,7 @@
     </message>
     <message>
         <source>Use recorded location</source>
-        <translation>Usar la posición registrada</translation>
+        <translation>Usar las posiciones registradas</translation>
     </message>
     <message>
         <source>Header details</source>
@@ -507,7 +507,7 @@
     </message>
     <message>
         <source>Select the preset file and/or images</source>
-        <translation>Seleccione el archivo de registro y/o las imágenes</translation>
+        <translation>Seleccionar el archivo de registro y/o las imágenes</translation>
     </message>
     <message>
         <source>All Files (*.*);;XML files (*.xml)</source>
@@ -554,7 +554,7 @@
     </message>
     <message>
         <source>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; plug-in enables an automated HDR workflow with all parameters set for true light rendering and easy use of Weavix software.</source>
-        <translation>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt;: flujo HDR automatizado con todos los parámetros ajustados para una luz fiel y un uso sencillo del software Weavix.</translation>
+        <translation>El complemento &lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; ofrece un flujo de trabajo HDR automatizado, con todos los parámetros ajustados para una luz fiel y un uso sencillo del software Weavix.</translation>
     </message>
     <message>
         <source>General</source>
@@ -670,7 +670,7 @@
     </message>
     <message>
         <source>For a stack:</source>
-        <translation>Para una pila:</translation>
+        <translation>Dentro de una pila:</translation>
     </message>
     <message>
         <source>Use hard links</source>
@@ -698,7 +698,7 @@
     </message>
     <message>
         <source>Use recorded location</source>
-        <translation>Usar la posición registrada</translation>
+        <translation>Usar las posiciones registradas</translation>
     </message>
     <message>
         <source>Preview</source>

@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>Error parse file:%1</source>
-        <translation>Erreur de lecture du fichier : %1</translation>
+        <translation>Erreur de lecture du fichier&#xa0;: %1</translation>
     </message>
     <message>
         <source>Select the preset file and/or images</source>
@@ -36,7 +36,7 @@
     </message>
     <message>
         <source>Clauss panohead import</source>
-        <translation>Importation de tête panoramique Clauss</translation>
+        <translation>Importation depuis une tête panoramique Clauss</translation>
     </message>
     <message>
         <source>&lt;a href=&quot;https://dr-clauss.de&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;Clauss&lt;/font&gt;&lt;/a&gt; provides special equipment for panoramic photography and VR applications.</source>
@@ -162,7 +162,7 @@
     </message>
     <message>
         <source># Images in</source>
-        <translation>Nombre d&apos;images dans</translation>
+        <translation>Nombre d&apos;images sur</translation>
     </message>
     <message>
         <source>rows and</source>
@@ -190,15 +190,15 @@
     </message>
     <message>
         <source>Columns: to left</source>
-        <translation>Colonnes : à gauche</translation>
+        <translation>Colonnes&#xa0;: à gauche</translation>
     </message>
     <message>
         <source>Rows: downward</source>
-        <translation>Lignes : vers le bas</translation>
+        <translation>Lignes&#xa0;: vers le bas</translation>
     </message>
     <message>
         <source>Rows: upward</source>
-        <translation>Lignes : vers le haut</translation>
+        <translation>Lignes&#xa0;: vers le haut</translation>
     </message>
     <message>
         <source>Shoot setup</source>
@@ -230,7 +230,7 @@
     </message>
     <message>
         <source>For a stack:</source>
-        <translation>Pour une pile&#xa0;:</translation>
+        <translation>Dans une pile&#xa0;:</translation>
     </message>
     <message>
         <source>Use hard links</source>
@@ -305,7 +305,7 @@
     </message>
     <message>
         <source>Bracketing used in XML, should be multiple of that number</source>
-        <translation>Bracketing utilisé dans le XML : le nombre d&apos;images devrait en être un multiple</translation>
+        <translation>Bracketing utilisé dans le XML&#xa0;: le nombre d&apos;images devrait en être un multiple</translation>
     </message>
     <message>
         <source>Not the same as in XML fil</source>
@@ -432,7 +432,7 @@
     </message>
     <message>
         <source>For a stack:</source>
-        <translation>Pour une pile&#xa0;:</translation>
+        <translation>Dans une pile&#xa0;:</translation>
     </message>
     <message>
         <source>Use hard links</source>
@@ -527,7 +527,7 @@
     </message>
     <message>
         <source>Bracketing used in XML, should be multiple of that number</source>
-        <translation>Bracketing utilisé dans le XML : le nombre d&apos;images devrait en être un multiple</translation>
+        <translation>Bracketing utilisé dans le XML&#xa0;: le nombre d&apos;images devrait en être un multiple</translation>
     </message>
     <message>
         <source>Not the same as in XML fil</source>
@@ -554,7 +554,7 @@
     </message>
     <message>
         <source>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; plug-in enables an automated HDR workflow with all parameters set for true light rendering and easy use of Weavix software.</source>
-        <translation>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt;&#xa0;: flux HDR automatisé, tous les paramètres étant réglés pour un rendu fidèle de la lumière et un usage facile de Weavix.</translation>
+        <translation>Le module &lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; offre un flux de travail HDR automatisé, tous les paramètres étant réglés pour un rendu fidèle de la lumière et un usage facile de Weavix.</translation>
     </message>
     <message>
         <source>General</source>
@@ -670,7 +670,7 @@
     </message>
     <message>
         <source>For a stack:</source>
-        <translation>Pour une pile&#xa0;:</translation>
+        <translation>Dans une pile&#xa0;:</translation>
     </message>
     <message>
         <source>Use hard links</source>

@@ -554,7 +554,7 @@
     </message>
     <message>
         <source>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; plug-in enables an automated HDR workflow with all parameters set for true light rendering and easy use of Weavix software.</source>
-        <translation>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt;: flusso HDR automatizzato con tutti i parametri impostati per una luce fedele e un uso semplice del software Weavix.</translation>
+        <translation>Il plug-in &lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; offre un flusso di lavoro HDR automatizzato, con tutti i parametri impostati per una resa fedele della luce e un uso semplice del software Weavix.</translation>
     </message>
     <message>
         <source>General</source>
@@ -606,7 +606,7 @@
     </message>
     <message>
         <source>Output:</source>
-        <translation>Uscita:</translation>
+        <translation>Output:</translation>
     </message>
     <message>
         <source>8-bits / 16-bits tonemapped</source>

@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>Select the preset file and/or images</source>
-        <translation>プリセットファイルと画像（またはその一方）の選択</translation>
+        <translation>撮影記録ファイルと画像（またはその一方）の選択</translation>
     </message>
     <message>
         <source>All Files (*.*)</source>
@@ -36,7 +36,7 @@
     </message>
     <message>
         <source>Clauss panohead import</source>
-        <translation>Clauss パノラマ雲台の読み込み</translation>
+        <translation>Clauss パノラマ雲台からの読み込み</translation>
     </message>
     <message>
         <source>&lt;a href=&quot;https://dr-clauss.de&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;Clauss&lt;/font&gt;&lt;/a&gt; provides special equipment for panoramic photography and VR applications.</source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Select the preset file and/or images</source>
-        <translation>プリセットファイルと画像（またはその一方）の選択</translation>
+        <translation>撮影記録ファイルと画像（またはその一方）の選択</translation>
     </message>
     <message>
         <source>All Files (*.*);;XML files (*.xml)</source>
@@ -328,7 +328,7 @@
     </message>
     <message>
         <source>Papywizard import</source>
-        <translation>Papywizard の読み込み</translation>
+        <translation>Papywizard からの読み込み</translation>
     </message>
     <message>
         <source>&lt;a href=&quot;https://www.papywizard.org&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;Papywizard&lt;/font&gt;&lt;/a&gt; is a free project to drive Merlin/Orion panorama heads. The XML file format is open and used by a wide range of motorized panorama heads.</source>
@@ -507,7 +507,7 @@
     </message>
     <message>
         <source>Select the preset file and/or images</source>
-        <translation>プリセットファイルと画像（またはその一方）の選択</translation>
+        <translation>撮影記録ファイルと画像（またはその一方）の選択</translation>
     </message>
     <message>
         <source>All Files (*.*);;XML files (*.xml)</source>

@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>Select the preset file and/or images</source>
-        <translation>Wybierz plik zapisu i/lub zdjęcia</translation>
+        <translation>Wybierz plik sesji i/lub zdjęcia</translation>
     </message>
     <message>
         <source>All Files (*.*)</source>
@@ -84,7 +84,7 @@
     </message>
     <message>
         <source>Number of image:</source>
-        <translation>Zdjęć:</translation>
+        <translation>Liczba zdjęć:</translation>
     </message>
     <message>
         <source>Options</source>
@@ -127,7 +127,7 @@
     </message>
     <message>
         <source>images in </source>
-        <translation>zdj. w układzie </translation>
+        <translation>zdj. w </translation>
     </message>
 </context>
 <context>
@@ -166,11 +166,11 @@
     </message>
     <message>
         <source>rows and</source>
-        <translation>w. ×</translation>
+        <translation>wierszach i</translation>
     </message>
     <message>
         <source>columns.</source>
-        <translation>kol.</translation>
+        <translation>kolumnach.</translation>
     </message>
     <message>
         <source>Ignore N files </source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Select the preset file and/or images</source>
-        <translation>Wybierz plik zapisu i/lub zdjęcia</translation>
+        <translation>Wybierz plik sesji i/lub zdjęcia</translation>
     </message>
     <message>
         <source>All Files (*.*);;XML files (*.xml)</source>
@@ -352,7 +352,7 @@
     </message>
     <message>
         <source>Number of images:</source>
-        <translation>Zdjęć:</translation>
+        <translation>Liczba zdjęć:</translation>
     </message>
     <message>
         <source>N/A</source>
@@ -372,7 +372,7 @@
     </message>
     <message>
         <source>XML focal:</source>
-        <translation>Ogn. XML:</translation>
+        <translation>Ogniskowa XML:</translation>
     </message>
     <message>
         <source>Images:</source>
@@ -507,7 +507,7 @@
     </message>
     <message>
         <source>Select the preset file and/or images</source>
-        <translation>Wybierz plik zapisu i/lub zdjęcia</translation>
+        <translation>Wybierz plik sesji i/lub zdjęcia</translation>
     </message>
     <message>
         <source>All Files (*.*);;XML files (*.xml)</source>
@@ -554,7 +554,7 @@
     </message>
     <message>
         <source>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; plug-in enables an automated HDR workflow with all parameters set for true light rendering and easy use of Weavix software.</source>
-        <translation>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt;: zautomatyzowana praca z HDR, wszystkie parametry dobrane dla wiernego światła i łatwej obsługi programu Weavix.</translation>
+        <translation>Wtyczka &lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; automatyzuje pracę z HDR: wszystkie parametry są dobrane tak, by wiernie oddać światło i ułatwić korzystanie z programu Weavix.</translation>
     </message>
     <message>
         <source>General</source>
@@ -570,7 +570,7 @@
     </message>
     <message>
         <source>Number of images:</source>
-        <translation>Zdjęć:</translation>
+        <translation>Liczba zdjęć:</translation>
     </message>
     <message>
         <source>N/A</source>
@@ -602,7 +602,7 @@
     </message>
     <message>
         <source>XML focal:</source>
-        <translation>Ogn. XML:</translation>
+        <translation>Ogniskowa XML:</translation>
     </message>
     <message>
         <source>Output:</source>

@@ -76,7 +76,7 @@
     </message>
     <message>
         <source>Inverse Y coordinates</source>
-        <translation>Обратить координаты Y</translation>
+        <translation>Инвертировать координаты Y</translation>
     </message>
     <message>
         <source>Images:</source>
@@ -127,7 +127,7 @@
     </message>
     <message>
         <source>images in </source>
-        <translation>сн. в сетке: </translation>
+        <translation>фото в сетке: </translation>
     </message>
 </context>
 <context>
@@ -214,7 +214,7 @@
     </message>
     <message>
         <source>Stack</source>
-        <translation>Стопка</translation>
+        <translation>Стек</translation>
     </message>
     <message>
         <source>Detect links in:</source>
@@ -226,11 +226,11 @@
     </message>
     <message>
         <source>All stack levels</source>
-        <translation>на всех уровнях стопки</translation>
+        <translation>на всех уровнях стека</translation>
     </message>
     <message>
         <source>For a stack:</source>
-        <translation>Внутри стопки:</translation>
+        <translation>Внутри стека:</translation>
     </message>
     <message>
         <source>Use hard links</source>
@@ -372,7 +372,7 @@
     </message>
     <message>
         <source>XML focal:</source>
-        <translation>Фокус XML:</translation>
+        <translation>Фокусное в XML:</translation>
     </message>
     <message>
         <source>Images:</source>
@@ -380,7 +380,7 @@
     </message>
     <message>
         <source>Image focal:</source>
-        <translation>Фокус снимков:</translation>
+        <translation>Фокусное снимков:</translation>
     </message>
     <message>
         <source>Shoot setup</source>
@@ -388,7 +388,7 @@
     </message>
     <message>
         <source>Inverse Y coordinates</source>
-        <translation>Обратить координаты Y</translation>
+        <translation>Инвертировать координаты Y</translation>
     </message>
     <message>
         <source>Rotate left</source>
@@ -416,7 +416,7 @@
     </message>
     <message>
         <source>Stack</source>
-        <translation>Стопка</translation>
+        <translation>Стек</translation>
     </message>
     <message>
         <source>Detect links in:</source>
@@ -428,11 +428,11 @@
     </message>
     <message>
         <source>All stack levels</source>
-        <translation>на всех уровнях стопки</translation>
+        <translation>на всех уровнях стека</translation>
     </message>
     <message>
         <source>For a stack:</source>
-        <translation>Внутри стопки:</translation>
+        <translation>Внутри стека:</translation>
     </message>
     <message>
         <source>Use hard links</source>
@@ -460,7 +460,7 @@
     </message>
     <message>
         <source>Use recorded location</source>
-        <translation>Использовать записанные положения</translation>
+        <translation>Использовать записанные позиции</translation>
     </message>
     <message>
         <source>Header details</source>
@@ -554,7 +554,7 @@
     </message>
     <message>
         <source>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; plug-in enables an automated HDR workflow with all parameters set for true light rendering and easy use of Weavix software.</source>
-        <translation>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt;: автоматизированный HDR, все параметры настроены на верную передачу света и простую работу с Weavix.</translation>
+        <translation>Модуль &lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; автоматизирует работу с HDR: все параметры настроены на верную передачу света и удобную работу с программой Weavix.</translation>
     </message>
     <message>
         <source>General</source>
@@ -578,7 +578,7 @@
     </message>
     <message>
         <source>Image focal:</source>
-        <translation>Фокус снимков:</translation>
+        <translation>Фокусное снимков:</translation>
     </message>
     <message>
         <source>XML:</source>
@@ -602,7 +602,7 @@
     </message>
     <message>
         <source>XML focal:</source>
-        <translation>Фокус XML:</translation>
+        <translation>Фокусное в XML:</translation>
     </message>
     <message>
         <source>Output:</source>
@@ -626,7 +626,7 @@
     </message>
     <message>
         <source>Inverse Y coordinates</source>
-        <translation>Обратить координаты Y</translation>
+        <translation>Инвертировать координаты Y</translation>
     </message>
     <message>
         <source>Rotate left</source>
@@ -654,7 +654,7 @@
     </message>
     <message>
         <source>Stack</source>
-        <translation>Стопка</translation>
+        <translation>Стек</translation>
     </message>
     <message>
         <source>Detect links in:</source>
@@ -666,11 +666,11 @@
     </message>
     <message>
         <source>All stack levels</source>
-        <translation>на всех уровнях стопки</translation>
+        <translation>на всех уровнях стека</translation>
     </message>
     <message>
         <source>For a stack:</source>
-        <translation>Внутри стопки:</translation>
+        <translation>Внутри стека:</translation>
     </message>
     <message>
         <source>Use hard links</source>
@@ -698,7 +698,7 @@
     </message>
     <message>
         <source>Use recorded location</source>
-        <translation>Использовать записанные положения</translation>
+        <translation>Использовать записанные позиции</translation>
     </message>
     <message>
         <source>Preview</source>

@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>Select the preset file and/or images</source>
-        <translation>選擇預設檔案和/或影像</translation>
+        <translation>選擇拍攝記錄檔和/或影像</translation>
     </message>
     <message>
         <source>All Files (*.*)</source>
@@ -166,11 +166,11 @@
     </message>
     <message>
         <source>rows and</source>
-        <translation>列和</translation>
+        <translation>列 ×</translation>
     </message>
     <message>
         <source>columns.</source>
-        <translation>欄。</translation>
+        <translation>欄</translation>
     </message>
     <message>
         <source>Ignore N files </source>
@@ -230,7 +230,7 @@
     </message>
     <message>
         <source>For a stack:</source>
-        <translation>對於堆疊：</translation>
+        <translation>堆疊內：</translation>
     </message>
     <message>
         <source>Use hard links</source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Select the preset file and/or images</source>
-        <translation>選擇預設檔案和/或影像</translation>
+        <translation>選擇拍攝記錄檔和/或影像</translation>
     </message>
     <message>
         <source>All Files (*.*);;XML files (*.xml)</source>
@@ -432,7 +432,7 @@
     </message>
     <message>
         <source>For a stack:</source>
-        <translation>對於堆疊：</translation>
+        <translation>堆疊內：</translation>
     </message>
     <message>
         <source>Use hard links</source>
@@ -507,7 +507,7 @@
     </message>
     <message>
         <source>Select the preset file and/or images</source>
-        <translation>選擇預設檔案和/或影像</translation>
+        <translation>選擇拍攝記錄檔和/或影像</translation>
     </message>
     <message>
         <source>All Files (*.*);;XML files (*.xml)</source>
@@ -670,7 +670,7 @@
     </message>
     <message>
         <source>For a stack:</source>
-        <translation>對於堆疊：</translation>
+        <translation>堆疊內：</translation>
     </message>
     <message>
         <source>Use hard links</source>

@@ -5,7 +5,7 @@
     <name>preview</name>
     <message>
         <source>There is no panorama to show yet.</source>
-        <translation>Noch gibt es kein Panorama zu zeigen.</translation>
+        <translation>Noch ist kein Panorama vorhanden.</translation>
     </message>
 </context>
 <context>

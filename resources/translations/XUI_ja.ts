@@ -20,7 +20,7 @@
     </message>
     <message>
         <source>Turn right</source>
-        <translation>右へ回る</translation>
+        <translation>右を向く</translation>
     </message>
     <message>
         <source>Look down</source>
@@ -28,7 +28,7 @@
     </message>
     <message>
         <source>Turn left</source>
-        <translation>左へ回る</translation>
+        <translation>左を向く</translation>
     </message>
 </context>
 </TS>

@@ -5,7 +5,7 @@
     <name>preview</name>
     <message>
         <source>There is no panorama to show yet.</source>
-        <translation>Пока нет панорамы для показа.</translation>
+        <translation>Пока нет панорамы для просмотра.</translation>
     </message>
 </context>
 <context>
