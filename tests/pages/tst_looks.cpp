@@ -106,6 +106,11 @@ private:
                 shown->setText(QString::fromLatin1(text));
             }
         }
+        if (m_page->inherits("UIWPGigapan")) {
+            label("m_lbImage")
+                ->setText(QStringLiteral("10080 ")
+                          + QCoreApplication::translate("UIWPGigapan", "images in "));
+        }
     }
 
     QTranslator m_translator;
