@@ -19,6 +19,10 @@ if(XPANOHEAD_SANITIZE)
   target_compile_options(PanoHeadOptions INTERFACE
     -fsanitize=${_sanitizers} -fno-omit-frame-pointer -fno-sanitize-recover=all)
   target_link_options(PanoHeadOptions INTERFACE -fsanitize=${_sanitizers})
+  if("address" IN_LIST XPANOHEAD_SANITIZE)
+    # Qt's checks of indices, and our own.
+    target_compile_definitions(PanoHeadOptions INTERFACE QT_FORCE_ASSERTS)
+  endif()
   if("undefined" IN_LIST XPANOHEAD_SANITIZE)
     target_compile_options(PanoHeadOptions INTERFACE -fsanitize=float-cast-overflow)
   endif()

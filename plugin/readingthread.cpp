@@ -80,17 +80,17 @@ void ReadingThread::Start(const QStringList &files)
     const bool hasHost = PanoHead::findHost() != nullptr;
     {
         const QMutexLocker lock(&m_mutex);
-        m_images.clear();
-        m_queue.clear();
+        m_images->clear();
+        m_queue->clear();
         if (!hasHost) {
             return;
         }
-        m_queue.swap(queue);
-        m_stop = false;
-        if (m_takesWork) {
+        m_queue->swap(queue);
+        *m_stop = false;
+        if (*m_takesWork) {
             return;
         }
-        m_takesWork = true;
+        *m_takesWork = true;
     }
     // An earlier run that will not look at the queue again may still be winding down;
     // QThread::start() would do nothing until it has ended.
@@ -101,7 +101,7 @@ void ReadingThread::Start(const QStringList &files)
 QList<XIImageDef *> ReadingThread::XIImageDefs()
 {
     const QMutexLocker lock(&m_mutex);
-    return m_images;
+    return *m_images;
 }
 
 void ReadingThread::Clear()
@@ -114,9 +114,9 @@ void ReadingThread::stop()
 {
     {
         const QMutexLocker lock(&m_mutex);
-        m_images.clear();
-        m_queue.clear();
-        m_stop = true;
+        m_images->clear();
+        m_queue->clear();
+        *m_stop = true;
     }
     waitForEnd();
 }
@@ -142,22 +142,22 @@ void ReadingThread::run()
 bool ReadingThread::takeNext(QString *file)
 {
     const QMutexLocker lock(&m_mutex);
-    if (m_stop || m_queue.isEmpty()) {
-        m_takesWork = false;
+    if (*m_stop || m_queue->isEmpty()) {
+        *m_takesWork = false;
         return false;
     }
-    *file = m_queue.dequeue();
+    *file = m_queue->dequeue();
     return true;
 }
 
 void ReadingThread::keep(XIImageDef *image)
 {
     const QMutexLocker lock(&m_mutex);
-    if (image == nullptr || m_stop) {
+    if (image == nullptr || *m_stop) {
         return;
     }
-    m_images.append(image);
-    if (m_images.size() % kPhotosPerSignal == 0 || m_queue.isEmpty()) {
+    m_images->append(image);
+    if (m_images->size() % kPhotosPerSignal == 0 || m_queue->isEmpty()) {
         Q_EMIT Loaded();
     }
 }

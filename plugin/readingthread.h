@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "plugin/guarded.h"
+
 #include <QList>
 #include <QMutex>
 #include <QQueue>
@@ -61,8 +63,10 @@ private:
     void keep(XIImageDef *image);
 
     QMutex m_mutex; ///< guards everything below
-    bool m_stop = true; ///< the run ends after the photo in hand, which is dropped
-    QQueue<QString> m_queue;
-    QList<XIImageDef *> m_images;
-    bool m_takesWork = false; ///< the worker will look at the queue again
+    /** The run ends after the photo in hand, which is dropped. */
+    PanoHead::Guarded<bool> m_stop{ m_mutex, true };
+    PanoHead::Guarded<QQueue<QString>> m_queue{ m_mutex };
+    PanoHead::Guarded<QList<XIImageDef *>> m_images{ m_mutex };
+    /** The worker will look at the queue again. */
+    PanoHead::Guarded<bool> m_takesWork{ m_mutex, false };
 };

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialogclicker.h"
 #include "hostcontract.h"
+#include "longruns.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -537,7 +538,8 @@ void TestPlugin::anyOrderOfDeletionIsTolerated()
 {
     QRandomGenerator random(20260502);
     Contract::Module module;
-    for (int round = 0; round < 100; ++round) {
+    const int orders = rounds(100, 1'000);
+    for (int round = 0; round < orders; ++round) {
         const QList<QPointer<QObject>> plugins = module.library()->plugins(2);
         QList<QPointer<QObject>> objects = plugins;
         for (const QPointer<QObject> &plugin : plugins) {
@@ -905,14 +907,15 @@ void TestPlugin::theModuleUnloadsWhilePhotosAreRead()
 
 void TestPlugin::theModuleLoadsAndUnloadsAgainAndAgain()
 {
-    for (int round = 0; round < 20; ++round) {
+    const int loads = rounds(20, 200);
+    for (int round = 0; round < loads; ++round) {
         {
             Contract::Module module;
             QCOMPARE(module.library()->plugins(2).size(), 4);
         }
         QVERIFY(!Contract::isMapped());
     }
-    QCOMPARE(host().written.size(), 20 * 4);
+    QCOMPARE(host().written.size(), loads * 4);
 }
 
 void TestPlugin::aHostWithoutUiSettingsIsServedToo()

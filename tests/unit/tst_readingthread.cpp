@@ -4,6 +4,7 @@
 
 #include "tests/support/fakeapplication.h"
 #include "tests/support/gate.h"
+#include "tests/support/longruns.h"
 
 #include <QEventLoop>
 #include <QMetaMethod>
@@ -503,15 +504,15 @@ void TestReadingThread::startFromTheAnswerOfClearReadsAll()
 
 void TestReadingThread::startAsTheRunEndsIsNeverLost()
 {
-    constexpr int kStarts = 5000;
-    const QStringList names = photoNames(kStarts);
+    const int starts = rounds(5'000, 100'000);
+    const QStringList names = photoNames(starts);
     fakeHost().setPhotos(names, {});
     ReadingThread thread(nullptr);
     QObject page;
     int started = 0;
     QEventLoop loop;
     const auto startNext = [&] {
-        if (started == kStarts) {
+        if (started == starts) {
             loop.quit();
             return;
         }
@@ -522,7 +523,7 @@ void TestReadingThread::startAsTheRunEndsIsNeverLost()
     connect(&thread, &ReadingThread::Loaded, &page, startNext);
     startNext();
     // A lost start is never followed by a signal: then only this guard ends the loop.
-    QTimer::singleShot(std::chrono::minutes(2), &loop, [&loop] { loop.exit(1); });
+    QTimer::singleShot(std::chrono::minutes(rounds(2, 20)), &loop, [&loop] { loop.exit(1); });
     QCOMPARE(loop.exec(), 0);
     QVERIFY(thread.wait());
     QCOMPARE(fakeHost().readFiles(), names);
@@ -599,7 +600,7 @@ void TestReadingThread::destroyingWaitsForThePhotoInHandAndIsSilent()
 
 void TestReadingThread::randomOperationsKeepTheirPromises()
 {
-    constexpr int kOperations = 2000;
+    const int operations = rounds(2'000, 100'000);
     constexpr quint32 kSeed = 20260501;
     QRandomGenerator random(kSeed);
     const QStringList names = photoNames(40);
@@ -635,9 +636,11 @@ void TestReadingThread::randomOperationsKeepTheirPromises()
     listen();
     QStringList files;
     bool startedDuringARun = false;
-    for (int i = 0; i < kOperations; ++i) {
+    // Waiting and answering the signals are no operations.
+    for (int operation = 0; operation < operations;) {
         switch (random.bounded(10)) {
         case 0:
+            ++operation;
             thread.reset();
             thread = std::make_unique<ReadingThread>(nullptr);
             listen();
@@ -646,6 +649,7 @@ void TestReadingThread::randomOperationsKeepTheirPromises()
             break;
         case 1:
         case 2:
+            ++operation;
             thread->Clear();
             QVERIFY(!thread->isRunning());
             QVERIFY(thread->XIImageDefs().isEmpty());
@@ -665,6 +669,7 @@ void TestReadingThread::randomOperationsKeepTheirPromises()
             QCoreApplication::processEvents();
             break;
         default:
+            ++operation;
             startedDuringARun = thread->isRunning();
             files = names.mid(random.bounded(names.size() - 5), 1 + random.bounded(5));
             thread->Start(files);
