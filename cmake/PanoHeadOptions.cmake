@@ -27,3 +27,8 @@ if(XPANOHEAD_SANITIZE)
     target_compile_options(PanoHeadOptions INTERFACE -fsanitize=float-cast-overflow)
   endif()
 endif()
+
+if(XPANOHEAD_COVERAGE)
+  target_compile_options(PanoHeadOptions INTERFACE --coverage -fprofile-abs-path -O0)
+  target_link_options(PanoHeadOptions INTERFACE --coverage)
+endif()
