@@ -77,9 +77,8 @@ std::optional<QByteArray> readBytes(int fd, qint64 size)
     return bytes;
 }
 
-} // namespace
-
-std::optional<QByteArray> readRecordFile(const QString &path, ReadError *error)
+/** Throws std::bad_alloc. */
+std::optional<QByteArray> readWholeFile(const QString &path, ReadError *error)
 {
     // A file name ends at a NUL for the system: never open something else than what is shown.
     if (path.isEmpty() || path.contains(QChar::Null)) {
@@ -96,9 +95,16 @@ std::optional<QByteArray> readRecordFile(const QString &path, ReadError *error)
     if (status.st_size > kMaxRecordBytes) {
         return fail(error, QStringLiteral("larger than %1 MiB").arg(kMaxRecordBytes >> 20));
     }
+    std::optional<QByteArray> bytes = readBytes(file.get(), status.st_size);
+    return bytes ? bytes : fail(error, systemReason());
+}
+
+} // namespace
+
+std::optional<QByteArray> readRecordFile(const QString &path, ReadError *error)
+{
     try {
-        std::optional<QByteArray> bytes = readBytes(file.get(), status.st_size);
-        return bytes ? bytes : fail(error, systemReason());
+        return readWholeFile(path, error);
     } catch (const std::bad_alloc &) {
         return fail(error, QStringLiteral("not enough memory"));
     }

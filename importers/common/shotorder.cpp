@@ -16,9 +16,20 @@ bool continues(const QList<XIImageDef *> &images, const QList<XIImageDef *> &see
 
 const QList<XIImageDef *> &ShotOrder::update(const QList<XIImageDef *> &images)
 {
-    if (!continues(images, m_seen)) {
+    try {
+        if (!continues(images, m_seen)) {
+            forget();
+        }
+        take(images);
+    } catch (...) {
         forget();
+        throw;
     }
+    return m_hasEqualTimes && m_equalTimes == EqualTimes::GiveUp ? m_seen : m_ordered;
+}
+
+void ShotOrder::take(const QList<XIImageDef *> &images)
+{
     bool inOrder = true;
     for (int i = m_seen.size(); i < images.size(); ++i) {
         const Entry entry{ images.at(i)->ShotTime(), images.at(i) };
@@ -34,7 +45,6 @@ const QList<XIImageDef *> &ShotOrder::update(const QList<XIImageDef *> &images)
     if (!inOrder) {
         sort();
     }
-    return m_hasEqualTimes && m_equalTimes == EqualTimes::GiveUp ? m_seen : m_ordered;
 }
 
 void ShotOrder::sort()

@@ -32,7 +32,8 @@ public:
     {
     }
 
-    /** \p images, which stand in reading order, in chronological order. */
+    /** \p images, which stand in reading order, in chronological order. Without memory for the
+     * answer it throws std::bad_alloc and knows no photos. */
     const QList<XIImageDef *> &update(const QList<XIImageDef *> &images);
     /** The photos known so far may be gone. */
     void forget() { *this = ShotOrder(m_equalTimes); }
@@ -43,6 +44,7 @@ private:
         XIImageDef *image;
     };
 
+    void take(const QList<XIImageDef *> &images);
     void sort();
 
     EqualTimes m_equalTimes;
