@@ -17,8 +17,8 @@ struct ReadError {
 };
 
 constexpr qint64 kMaxRecordBytes = 64 * 1024 * 1024;
-/** Shots of one record. The largest shoots have 70,000; a picture of 100,000 takes a second. */
-constexpr int kMaxRecordedShots = 100'000;
+/** Shots of one record. The largest shoots have 70,000; a page with 80,000 takes two seconds. */
+constexpr int kMaxRecordedShots = 80'000;
 
 /**
  * The bytes of a record file. Regular files only, opened without blocking and bounded in size, so

@@ -165,12 +165,12 @@ void addSizes(Files &files)
     const QByteArray full = "<pict id=\"1\" bracket=\"1\"><time>Fri May 1 10:00:00 2026</time>"
                             "<position yaw=\"1\" pitch=\"2\"/></pict>";
     files.addLarge("70,000 shots", [=] { return picts(70'000, full); });
-    files.addLarge("100,000 shots, as many as may be", [=] { return picts(99'998, full); });
+    files.addLarge("80,000 shots, as many as may be", [=] { return picts(79'998, full); });
     files.addLarge("120,000 shots", [=] { return picts(120'000, full); });
     files.addLarge("300,000 shots", [=] { return picts(300'000, full); });
-    files.addLarge("100,000 empty shots, as many as may be",
-                   [=] { return picts(99'998, "<pict/>"); });
-    files.addLarge("100,001 empty shots", [=] { return picts(99'999, "<pict/>"); });
+    files.addLarge("80,000 empty shots, as many as may be",
+                   [=] { return picts(79'998, "<pict/>"); });
+    files.addLarge("80,001 empty shots", [=] { return picts(79'999, "<pict/>"); });
     files.addLarge("1,000,000 empty shots", [=] { return picts(1'000'000, "<pict/>"); });
     files.addLarge("9,000,000 empty shots", [=] { return picts(9'000'000, "<pict/>"); });
     files.addLarge("1,000,000 attributes on one element", [] {
@@ -517,12 +517,12 @@ void addScriptSizes(Files &files)
     files.addLarge("script of NUL", [] { return filledUp("op_shoot\n", '\0', ""); });
     files.addLarge("script one byte too long",
                    [] { return filledUp("", '\n', "", kMostBytes + 1); });
-    for (const int shots : { 70'000, 100'000, 100'001, 7'000'000 }) {
+    for (const int shots : { 70'000, 80'000, 80'001, 7'000'000 }) {
         files.addLarge("script of " + QByteArray::number(shots) + " shots on one spot",
                        [shots] { return QByteArray("op_shoot\n").repeated(shots); });
     }
-    files.addLarge("script of 100,000 shots on a circle", [] {
-        return numbered(100'000, [](int i) {
+    files.addLarge("script of 80,000 shots on a circle", [] {
+        return numbered(80'000, [](int i) {
             return "op_h-angle=" + QByteArray::number(i % 360) + "\nop_shoot\n";
         });
     });

@@ -42,25 +42,25 @@ QByteArray pictures(int count)
 
 void TestRecordLimits::aScriptMayHaveSoManyShots()
 {
-    const ClaussScript script = readClaussScript(shots(100'000));
+    const ClaussScript script = readClaussScript(shots(80'000));
     QVERIFY(script.isSound);
-    QCOMPARE(script.shots.size(), 100'000);
-    QCOMPARE(script.shots.last().id, 99'999);
+    QCOMPARE(script.shots.size(), 80'000);
+    QCOMPARE(script.shots.last().id, 79'999);
 }
 
 void TestRecordLimits::oneShotMoreLeavesNone()
 {
-    const ClaussScript script = readClaussScript("# a long one\n" + shots(100'001));
+    const ClaussScript script = readClaussScript("# a long one\n" + shots(80'001));
     QVERIFY(!script.isSound);
     QVERIFY(script.shots.isEmpty());
-    QCOMPARE(script.firstError.reason, QStringLiteral("more than 100000 shots"));
-    QCOMPARE(script.firstError.line, 100'002);
+    QCOMPARE(script.firstError.reason, QStringLiteral("more than 80000 shots"));
+    QCOMPARE(script.firstError.line, 80'002);
 }
 
 void TestRecordLimits::aBadAngleBehindTheLimitIsNotTheReason()
 {
-    const ClaussScript script = readClaussScript(shots(100'001) + "op_h-angle=x\n");
-    QCOMPARE(script.firstError.reason, QStringLiteral("more than 100000 shots"));
+    const ClaussScript script = readClaussScript(shots(80'001) + "op_h-angle=x\n");
+    QCOMPARE(script.firstError.reason, QStringLiteral("more than 80000 shots"));
 }
 
 void TestRecordLimits::theGeneratorKeepsNothingOfATooLongScript()
@@ -72,7 +72,7 @@ void TestRecordLimits::theGeneratorKeepsNothingOfATooLongScript()
     ClaussToSPP generator;
     QVERIFY(generator.parse(file.fileName()));
     QCOMPARE(generator.shots.size(), 3);
-    file.write(shots(100'000));
+    file.write(shots(80'000));
     file.flush();
     QVERIFY(!generator.parse(file.fileName()));
     QVERIFY(generator.shots.isEmpty());
@@ -80,20 +80,20 @@ void TestRecordLimits::theGeneratorKeepsNothingOfATooLongScript()
 
 void TestRecordLimits::anXmlRecordMayHaveSoManyShots()
 {
-    const auto record = readPapywizard(pictures(100'000));
+    const auto record = readPapywizard(pictures(80'000));
     QVERIFY(record.has_value());
-    QCOMPARE(record->shots.size(), 100'000);
+    QCOMPARE(record->shots.size(), 80'000);
 }
 
 void TestRecordLimits::onePictureMoreIsRefused()
 {
     ReadError error;
-    QVERIFY(!readPapywizard(pictures(100'001), &error));
-    QCOMPARE(error.reason, QStringLiteral("more than 100000 pictures"));
+    QVERIFY(!readPapywizard(pictures(80'001), &error));
+    QCOMPARE(error.reason, QStringLiteral("more than 80000 pictures"));
 
     QTemporaryFile file;
     QVERIFY(file.open());
-    file.write(pictures(100'001));
+    file.write(pictures(80'001));
     file.flush();
     MerlinToSPP generator;
     QVERIFY(!generator.parse(file.fileName()));
