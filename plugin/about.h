@@ -7,7 +7,10 @@
 namespace PanoHead
 {
 
-/** What the library or one of its plug-ins says about itself: one row of literals. */
+/**
+ * What the library or one of its plug-ins says about itself: one row of literals. The texts are
+ * copies: string literals lie in the library, and a host may keep the texts longer than that.
+ */
 struct About {
     const char *name;
     const char *comment;
@@ -19,9 +22,9 @@ struct About {
     [[nodiscard]] QString uidText() const { return QString::fromLatin1(uid); }
     [[nodiscard]] QString iconPath() const { return QString::fromLatin1(icon).arg(uidText()); }
 
-    [[nodiscard]] static QString authorText() { return QStringLiteral("Orvane"); }
-    [[nodiscard]] static QString companyText() { return QStringLiteral("Orvane"); }
-    [[nodiscard]] static QString versionText() { return QStringLiteral("3.0.0.400"); }
+    [[nodiscard]] static QString authorText() { return QString::fromLatin1("Orvane"); }
+    [[nodiscard]] static QString companyText() { return QString::fromLatin1("Orvane"); }
+    [[nodiscard]] static QString versionText() { return QString::fromLatin1("3.0.0.400"); }
 };
 
 } // namespace PanoHead

@@ -12,6 +12,8 @@
 
 #include <QIcon>
 
+#include <memory>
+
 using PanoHead::About;
 
 namespace
@@ -46,12 +48,12 @@ constexpr About kVRDrive2{
 template <typename Page> Page *createPage(QObject *plugin, const About &about)
 {
     plugin->setObjectName(QString::fromLatin1(plugin->metaObject()->className()));
-    Page *page = new Page(nullptr);
+    auto page = std::make_unique<Page>(nullptr); // no host's exception is to leak it
     if (XIApplication *host = PanoHead::findHost()) {
         page->RestoreState(
             host->ReadSetting(about.uidText(), plugin->objectName(), QVariant()).toByteArray());
     }
-    return page;
+    return page.release();
 }
 
 /** Lets the host keep the page's state, an empty one when the host has deleted the page. */

@@ -47,7 +47,7 @@ constexpr PanoHead::About kAbout{
 Library::Library(QObject *parent)
     : QObject(parent)
 {
-    setObjectName(QStringLiteral("XPanoHead"));
+    setObjectName(QString::fromLatin1("XPanoHead")); // a copy, which outlives the library
     XIApplication *host = PanoHead::findHost();
     if (host == nullptr) {
         return;

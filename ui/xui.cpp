@@ -7,12 +7,17 @@
 #include <QFile>
 #include <QResource>
 
+#include <memory>
+
 XUIInstances XUI::ms_instances;
 bool XUI::s_initialised = false;
 bool XUI::s_rccLoaded = false;
 
 namespace
 {
+
+// Freed as the library is unloaded, when no exit() has done so.
+std::unique_ptr<XUISettings> g_ownSettings;
 
 QString scriptLibraryPath()
 {
@@ -38,8 +43,10 @@ void XUI::init(XUIInstances *instances)
         return;
     }
     registerResources();
-    ms_instances.settings = new XUISettings;
-    QDir::setSearchPaths(QStringLiteral("UI"), { QStringLiteral(":/UI") });
+    g_ownSettings = std::make_unique<XUISettings>();
+    ms_instances.settings = g_ownSettings.get();
+    // Copies: Qt keeps them after the library, and with it its literals, has been unloaded.
+    QDir::setSearchPaths(QString::fromLatin1("UI"), { QString::fromLatin1(":/UI") });
     s_initialised = true;
 }
 
@@ -48,7 +55,7 @@ void XUI::exit()
     if (!s_initialised) {
         return;
     }
-    delete ms_instances.settings;
+    g_ownSettings.reset();
     ms_instances.settings = nullptr;
     s_initialised = false;
     if (s_rccLoaded) {

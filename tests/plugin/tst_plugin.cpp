@@ -26,6 +26,7 @@
 #include <atomic>
 #include <memory>
 #include <mutex>
+#include <stdexcept>
 #include <thread>
 #include <vector>
 
@@ -108,6 +109,7 @@ public:
         userLocale = QLocale(QLocale::French, QLocale::France);
         calls.clear();
         stored.clear();
+        readsSettings = true;
         read.clear();
         written.clear();
         descriptions.clear();
@@ -130,6 +132,7 @@ public:
 
     QLocale userLocale;
     QStringList calls; ///< "locale", "loadTranslation NAME", "uiInstances"
+    bool readsSettings = true; ///< else it throws
     QVariant stored; ///< what every setting reads as; invalid: nothing is stored
     QList<Setting> read;
     QList<Setting> written;
@@ -149,6 +152,9 @@ public:
     QVariant readSetting(const QString &group, const QString &key,
                          const QVariant &defaultValue) override
     {
+        if (!readsSettings) {
+            throw std::runtime_error("the settings cannot be read");
+        }
         read.append({ group, key, defaultValue });
         return stored.isValid() ? stored : defaultValue;
     }
@@ -285,10 +291,12 @@ private Q_SLOTS:
     void fileDialogsFollowTheHostsChoice();
 
     void theModuleUnloadsForGood();
+    void textsOfTheModuleOutliveIt();
     void theModuleUnloadsWhilePhotosAreRead();
     void theModuleLoadsAndUnloadsAgainAndAgain();
 
-    void aHostWithoutUiSettingsIsServedToo(); // the last one: the module stays loaded
+    void aHostWithoutUiSettingsIsServedToo();
+    void aPageWhoseStateTheHostCannotReadIsNotLeftBehind();
 
 private:
     /** A Papywizard page with a record of two bracketed positions and its four photos read. */
@@ -887,6 +895,35 @@ void TestPlugin::theModuleUnloadsForGood()
     QCoreApplication::processEvents();
 }
 
+void TestPlugin::textsOfTheModuleOutliveIt()
+{
+    QStringList names;
+    QStringList texts;
+    {
+        Contract::Module module;
+        QList<QObject *> objects{ module.root() };
+        for (const QPointer<QObject> &plugin : module.library()->plugins(2)) {
+            objects.append(plugin);
+        }
+        for (const QObject *object : qAsConst(objects)) {
+            names.append(object->objectName());
+        }
+        for (QObject *object : qAsConst(objects)) {
+            const Contract::About *about = Contract::asAbout(object);
+            texts += { about->name(),    about->author(),  about->company(),
+                       about->comment(), about->version(), about->uid() };
+        }
+    }
+    QVERIFY(!Contract::isMapped());
+    QCOMPARE(names,
+             QStringList(QStringLiteral("XPanoHead"))
+                 + importNames("Clauss Gigapan Merlin VRDrive2"));
+    QCOMPARE(texts.size(), 5 * 6);
+    QCOMPARE(texts.count(QStringLiteral("3.0.0.400")), 5);
+    QCOMPARE(texts.count(QStringLiteral("Orvane")), 2 * 5);
+    QVERIFY(texts.contains(kLibraryUid));
+}
+
 void TestPlugin::theModuleUnloadsWhilePhotosAreRead()
 {
     for (int round = 0; round < 20; ++round) {
@@ -920,23 +957,36 @@ void TestPlugin::theModuleLoadsAndUnloadsAgainAndAgain()
 
 void TestPlugin::aHostWithoutUiSettingsIsServedToo()
 {
-    // Settings of its own are freed by XUI::exit() alone, which no host calls: the module stays, so
-    // that they are not taken for a leak.
-    QPluginLoader loader(Contract::libraryPath());
     host().offeredUi = nullptr;
-    Contract::PluginLibrary *library = Contract::asLibrary(loader.instance());
-    QVERIFY(library != nullptr);
-    QWizardPage *page = Contract::asImport(pluginCalled(library, QStringLiteral("XMerlinImport")))
-                            ->pages()
-                            .first();
-    DialogClicker clicker;
-    clicker.cancelFiles();
-    page->findChild<QPushButton *>(QStringLiteral("m_pbSelectImages"))->click();
-    QVERIFY(clicker.isSettled());
-    QVERIFY(!clicker.fileDialogs().first().options.testFlag(QFileDialog::DontUseNativeDialog));
-    QCOMPARE(QDir::searchPaths(QStringLiteral("UI")), QStringList{ QStringLiteral(":/UI") });
-    delete loader.instance();
+    {
+        Contract::Module module;
+        QWizardPage *page
+            = Contract::asImport(pluginCalled(module.library(), QStringLiteral("XMerlinImport")))
+                  ->pages()
+                  .first();
+        DialogClicker clicker;
+        clicker.cancelFiles();
+        page->findChild<QPushButton *>(QStringLiteral("m_pbSelectImages"))->click();
+        QVERIFY(clicker.isSettled());
+        const QFileDialog::Options options = clicker.fileDialogs().first().options;
+        QVERIFY(!options.testFlag(QFileDialog::DontUseNativeDialog));
+        QCOMPARE(QDir::searchPaths(QStringLiteral("UI")), QStringList{ QStringLiteral(":/UI") });
+    }
+    // The settings that it made go with it: leak checkers watch.
+    QVERIFY(!Contract::isMapped());
     host().offeredUi = &host().ui;
+}
+
+void TestPlugin::aPageWhoseStateTheHostCannotReadIsNotLeftBehind()
+{
+    Contract::Module module;
+    Contract::PluginLibrary *library = module.library();
+    const int widgets = QApplication::allWidgets().size();
+    host().readsSettings = false;
+    QVERIFY_EXCEPTION_THROWN(library->plugins(2), std::runtime_error);
+    QCOMPARE(QApplication::allWidgets().size(), widgets);
+    host().readsSettings = true;
+    QCOMPARE(library->plugins(2).size(), 4);
 }
 
 int main(int argc, char *argv[])
