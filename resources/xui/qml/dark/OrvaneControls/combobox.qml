@@ -6,6 +6,12 @@ import QtQuick.Controls.Styles 1.1
 
 Controls.ComboBox {
     style: ComboBoxStyle {
+        padding {
+            top: 0
+            bottom: 0
+            left: 8
+            right: 20
+        }
         textColor: control.enabled ? "#e6e6e6" : "#808080"
         selectionColor: "#4b97d6"
         selectedTextColor: "#ffffff"

@@ -25,7 +25,7 @@ Controls.Slider {
             implicitHeight: 14
             radius: 7
             border.color: control.activeFocus ? "#4b97d6" : "#1a1a1a"
-            color: control.pressed ? "#a6a6a6" : control.hovered ? "#d0d0d0" : "#bdbdbd"
+            color: !control.enabled ? "#808080" : control.pressed ? "#a6a6a6" : control.hovered ? "#d0d0d0" : "#bdbdbd"
         }
     }
 }
