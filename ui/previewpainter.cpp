@@ -7,6 +7,7 @@
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPixmap>
+#include <QTextLayout>
 #include <QTextOption>
 #include <QTransform>
 
@@ -21,7 +22,7 @@ namespace
 
 constexpr int kSpill = 2; // outlines and rounding around a cell, pixels
 constexpr int kOverhang = 4; // letters that reach out of their line, pixels
-constexpr qint64 kCaptionBytes = 2'048; // with its laid out line, about
+constexpr qint64 kCaptionBytes = 768; // with its glyphs, about
 // Kept in any case, in bytes: a handful of tiles and the captions around them.
 constexpr qint64 kLeastTiles = 512 * 1024;
 constexpr qint64 kLeastCaptions = 256 * 1024;
@@ -136,10 +137,8 @@ void CellPainter::drawParts(QPainter &painter, const PreviewScene &scene, int ce
     if (parts.outline) {
         painter.drawRect(drawn.box);
     }
-    if (parts.caption && painter.layoutDirection() == Qt::LeftToRight) {
+    if (parts.caption) {
         captionFor(drawn, cell, painter.font()).draw(painter, caption);
-    } else if (parts.caption) {
-        drawCaption(painter, drawn, caption);
     }
 }
 
@@ -154,10 +153,7 @@ CellParts CellPainter::partsIn(const QRect &rect, const PreviewScene &scene, int
         // Tiny cells have no inside; turned inside out, it would hold pixels all the same.
         const QRectF inside = asked.box.adjusted(kSpill, kSpill, -kSpill, -kSpill);
         parts.outline = !inside.isValid() || !inside.contains(QRectF(rect));
-        // Right to left, captions stand elsewhere.
-        parts.caption = isFitted
-            && (painter.layoutDirection() != Qt::LeftToRight
-                || captionFor(asked, cell, painter.font()).rect().intersects(rect));
+        parts.caption = isFitted && captionFor(asked, cell, painter.font()).rect().intersects(rect);
     } else if (isFitted) {
         return parts;
     }
@@ -193,31 +189,39 @@ const CellPainter::Tile &CellPainter::tileFor(const QPixmap &thumbnail, const Pr
 
 CellPainter::Tile CellPainter::fittedTile(const QPixmap &thumbnail, const PreviewCell &cell)
 {
-    Tile tile;
-    tile.position = QPoint(static_cast<int>(std::floor(cell.box.left())) - 1,
-                           static_cast<int>(std::floor(cell.box.top())) - 1);
-    tile.image = QImage(static_cast<int>(std::ceil(cell.box.width())) + 3,
-                        static_cast<int>(std::ceil(cell.box.height())) + 3,
-                        QImage::Format_ARGB32_Premultiplied);
-    tile.image.fill(Qt::transparent);
     const QPixmap photo = turned(thumbnail, cell);
-    {
-        QPainter painter(&tile.image);
-        // Moved by the painter, not beforehand: the scale comes from the box as it is, and a
-        // rounding of its sides can shift every pixel that is picked.
-        painter.translate(-tile.position);
-        painter.drawPixmap(cell.box, photo, QRectF(photo.rect()));
+    if (!photo.hasAlphaChannel()) {
+        Tile tile
+            = drawnTile(photo, cell, photoRect(CellStyle::FittedWithCaption, cell, photo.size()));
+        // Scaling may leave out the last row or column, which then lacks in the corner too.
+        if (!tile.image.isNull()
+            && qAlpha(tile.image.pixel(tile.image.rect().bottomRight())) == 255) {
+            tile.isOpaque = tile.image.reinterpretAsFormat(QImage::Format_RGB32);
+            return tile;
+        }
     }
-    // Scaling may leave out the last row or column, which then lacks in the corner too.
-    const QRect filled
-        = photoRect(CellStyle::FittedWithCaption, cell, photo.size()).translated(-tile.position);
-    tile.isOpaque = !photo.hasAlphaChannel() && !filled.isEmpty()
-        && qAlpha(tile.image.pixel(filled.bottomRight())) == 255;
-    if (tile.isOpaque) {
-        tile.image = tile.image.copy(filled);
-        tile.image.reinterpretAsFormat(QImage::Format_RGB32);
-        tile.position += filled.topLeft();
+    const QRect room(static_cast<int>(std::floor(cell.box.left())) - 1,
+                     static_cast<int>(std::floor(cell.box.top())) - 1,
+                     static_cast<int>(std::ceil(cell.box.width())) + 3,
+                     static_cast<int>(std::ceil(cell.box.height())) + 3);
+    return drawnTile(photo, cell, room);
+}
+
+CellPainter::Tile CellPainter::drawnTile(const QPixmap &photo, const PreviewCell &cell,
+                                         const QRect &room)
+{
+    Tile tile;
+    tile.position = room.topLeft();
+    tile.image = QImage(room.size(), QImage::Format_ARGB32_Premultiplied);
+    if (tile.image.isNull()) {
+        return tile;
     }
+    tile.image.fill(Qt::transparent);
+    QPainter painter(&tile.image);
+    // Moved by the painter, not beforehand: the scale comes from the box as it is, and a rounding
+    // of its sides can shift every pixel that is picked.
+    painter.translate(-tile.position);
+    painter.drawPixmap(cell.box, photo, QRectF(photo.rect()));
     return tile;
 }
 
@@ -232,13 +236,9 @@ const CellPainter::Caption &CellPainter::captionFor(const PreviewCell &cell, int
 }
 
 CellPainter::Caption::Caption(const PreviewCell &cell, const QFont &font)
-    : text(captionText(cell), font)
-    , room(captionRoom(cell))
+    : room(captionRoom(cell))
 {
-    QTextOption option;
-    option.setTextDirection(Qt::LeftToRight);
-    text.setTextOption(option);
-    text.setCacheEnabled(true);
+    QTextLayout text(captionText(cell), font);
     const qreal leading = QFontMetricsF(font).leading();
     qreal width = 0.0;
     qreal height = -leading;
@@ -252,6 +252,7 @@ CellPainter::Caption::Caption(const PreviewCell &cell, const QFont &font)
     }
     text.endLayout();
     lines = QRectF(room.topLeft(), QSizeF(width, height));
+    glyphs = text.glyphRuns();
 }
 
 void CellPainter::Caption::draw(QPainter &painter, const CaptionColours &colours) const
@@ -266,8 +267,8 @@ void CellPainter::Caption::draw(QPainter &painter, const CaptionColours &colours
         painter.save();
         painter.setClipRect(room, Qt::IntersectClip);
     }
-    for (int line = 0; line < text.lineCount(); ++line) {
-        text.lineAt(line).draw(&painter, room.topLeft());
+    for (const QGlyphRun &run : glyphs) {
+        painter.drawGlyphRun(room.topLeft(), run);
     }
     if (isCut) {
         painter.restore();

@@ -6,12 +6,12 @@
 
 #include <QBrush>
 #include <QCache>
+#include <QGlyphRun>
 #include <QImage>
 #include <QList>
 #include <QPen>
 #include <QRect>
 #include <QSize>
-#include <QTextLayout>
 
 #include <memory>
 
@@ -102,12 +102,14 @@ private:
         /** Pixels that are drawn, and perhaps some around them. */
         [[nodiscard]] QRect rect() const;
 
-        QTextLayout text;
+        QList<QGlyphRun> glyphs;
         QRectF room; ///< in the cell
         QRectF lines; ///< what the lines take up; what reaches out of the room is cut off
     };
 
     [[nodiscard]] static Tile fittedTile(const QPixmap &thumbnail, const PreviewCell &cell);
+    [[nodiscard]] static Tile drawnTile(const QPixmap &photo, const PreviewCell &cell,
+                                        const QRect &room);
     const Tile &tileFor(const QPixmap &thumbnail, const PreviewCell &cell, int number);
     const Caption &captionFor(const PreviewCell &cell, int number, const QFont &font);
 
