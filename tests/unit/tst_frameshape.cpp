@@ -16,6 +16,7 @@
 #include <QMetaMethod>
 #include <QTest>
 
+#include <cstring>
 #include <type_traits>
 
 namespace
@@ -97,6 +98,61 @@ static_assert(kHasPageShape<UIWPGigapan, GigapanToSPP, Ui::UIWPGigapanClass>);
 static_assert(kHasPageShape<UIWPMerlin, MerlinToSPP, Ui::UIWPMerlinClass>);
 static_assert(kHasPageShape<UIWPVRDrive2, VRDrive2ToSPP, Ui::UIWPVRDrive2Class>);
 
+/** The wizard's operations that a page answers itself, and the one that it leaves alone. */
+template <typename Page>
+constexpr bool kOverridesTheFour
+    = std::conjunction_v<std::is_same<decltype(&Page::initializePage), void (Page::*)()>,
+                         std::is_same<decltype(&Page::cleanupPage), void (Page::*)()>,
+                         std::is_same<decltype(&Page::validatePage), bool (Page::*)()>,
+                         std::is_same<decltype(&Page::isComplete), bool (Page::*)() const>,
+                         std::is_same<decltype(&Page::nextId), int (QWizardPage::*)() const>>;
+
+static_assert(kOverridesTheFour<UIWPClauss>);
+static_assert(kOverridesTheFour<UIWPGigapan>);
+static_assert(kOverridesTheFour<UIWPMerlin>);
+static_assert(kOverridesTheFour<UIWPVRDrive2>);
+
+/** Adds one virtual operation to those of \p Page. */
+template <typename Page> class OneMore : public Page
+{
+public:
+    using Page::Page;
+    virtual void oneMore() { }
+};
+
+/** What the test is there to notice. */
+class PageWithAddedOperation : public UIWPMerlin
+{
+public:
+    using UIWPMerlin::UIWPMerlin;
+    virtual void added() { }
+};
+
+/** The place among the virtual operations that the next one would get. */
+template <typename Page> quintptr nextVirtualPlace()
+{
+    // A pointer to a virtual member begins with its place in the table, whatever the object.
+    const auto operation = &OneMore<Page>::oneMore;
+    quintptr place = 0;
+    std::memcpy(&place, &operation, sizeof(place));
+    return place;
+}
+
+/** The signatures of the slots that \p meta declares itself, sorted; anything else as "?". */
+QStringList ownSlots(const QMetaObject &meta)
+{
+    QStringList signatures;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        const QMetaMethod method = meta.method(i);
+        const bool isPublicSlot = method.methodType() == QMetaMethod::Slot
+            && method.access() == QMetaMethod::Public && method.returnType() == QMetaType::Void;
+        signatures.append(isPublicSlot ? QString::fromLatin1(method.methodSignature())
+                                       : QStringLiteral("?"));
+    }
+    signatures.sort();
+    return signatures;
+}
+
 /** Whether the bases of a page stand in that order. */
 template <typename Page, typename Generator, typename Form> bool basesStandInOrder()
 {
@@ -111,6 +167,8 @@ template <typename Page, typename Generator, typename Form> bool basesStandInOrd
 
 } // namespace
 
+Q_DECLARE_METATYPE(const QMetaObject *)
+
 /** What the compiler cannot say of the frame's classes: the order of bases and slots. */
 class TestFrameShape : public QObject
 {
@@ -118,7 +176,9 @@ class TestFrameShape : public QObject
 
 private Q_SLOTS:
     void pageBasesStandInTheirOrder();
-    void papywizardPageHasItsSlotsAndNoSignals();
+    void pageHasItsSlotsAndNoSignals_data();
+    void pageHasItsSlotsAndNoSignals();
+    void pagesAddNoVirtualOperations();
 };
 
 void TestFrameShape::pageBasesStandInTheirOrder()
@@ -129,35 +189,51 @@ void TestFrameShape::pageBasesStandInTheirOrder()
     QVERIFY((basesStandInOrder<UIWPVRDrive2, VRDrive2ToSPP, Ui::UIWPVRDrive2Class>()));
 }
 
-void TestFrameShape::papywizardPageHasItsSlotsAndNoSignals()
+void TestFrameShape::pageHasItsSlotsAndNoSignals_data()
 {
-    const QMetaObject &meta = UIWPMerlin::staticMetaObject;
-    QStringList slotNames;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
-        QCOMPARE(meta.method(i).methodType(), QMetaMethod::Slot);
-        QCOMPARE(meta.method(i).access(), QMetaMethod::Public);
-        slotNames.append(QString::fromLatin1(meta.method(i).methodSignature()));
-    }
-    slotNames.sort();
-    QStringList expected{ QStringLiteral("SelectImages()"),
-                          QStringLiteral("SelectConfigFile()"),
-                          QStringLiteral("SetConfigFFilename(QString)"),
-                          QStringLiteral("Reset()"),
-                          QStringLiteral("UpdateUI()"),
-                          QStringLiteral("UpdatePreview()"),
-                          QStringLiteral("BrowserWeb(QString)"),
-                          QStringLiteral("OnZoomChanged()"),
-                          QStringLiteral("OnImageLoaded()"),
-                          QStringLiteral("OnInverseCoordinates()"),
-                          QStringLiteral("OnRotate90()"),
-                          QStringLiteral("OnRotate270()"),
-                          QStringLiteral("OnLevelLinkingClicked(bool)"),
-                          QStringLiteral("OnStackLinkingClicked(bool)"),
-                          QStringLiteral("OnFLUseXML()"),
-                          QStringLiteral("OnFLUseImage()") };
+    QTest::addColumn<const QMetaObject *>("meta");
+    QTest::addColumn<QString>("slotNames");
+    QTest::newRow("Clauss") << &UIWPClauss::staticMetaObject
+                            << QStringLiteral(
+                                   "SelectImages() SelectConfigFile() SetConfigFFilename() Reset() "
+                                   "UpdateUI() UpdatePreview() BrowserWeb(QString) "
+                                   "OnInverseCoordinates()");
+    QTest::newRow("Gigapan") << &UIWPGigapan::staticMetaObject
+                             << QStringLiteral(
+                                    "SelectImages() Reset() UpdateUI() UpdatePreview() "
+                                    "BrowserWeb(QString) SetRow(int) IgnoreNImages(int) "
+                                    "OnChangeBracket(int) OnMode0Toggled(bool) "
+                                    "OnMode1Toggled(bool) OnMode2Toggled(bool) "
+                                    "OnMode3Toggled(bool) OnMode4Toggled(bool) "
+                                    "OnLevelLinkingClicked(bool) OnStackLinkingClicked(bool)");
+    const QString schemaSlots = QStringLiteral(
+        "SelectImages() SelectConfigFile() SetConfigFFilename(QString) Reset() UpdateUI() "
+        "UpdatePreview() BrowserWeb(QString) OnZoomChanged() OnImageLoaded() "
+        "OnInverseCoordinates() OnRotate90() OnRotate270() OnLevelLinkingClicked(bool) "
+        "OnStackLinkingClicked(bool) OnFLUseXML() OnFLUseImage()");
+    QTest::newRow("Papywizard") << &UIWPMerlin::staticMetaObject << schemaSlots;
+    QTest::newRow("VR Drive 2") << &UIWPVRDrive2::staticMetaObject << schemaSlots;
+}
+
+void TestFrameShape::pageHasItsSlotsAndNoSignals()
+{
+    QFETCH(const QMetaObject *, meta);
+    QFETCH(QString, slotNames);
+    QStringList expected = slotNames.split(QLatin1Char(' '));
     expected.sort();
-    QCOMPARE(slotNames, expected);
-    QCOMPARE(meta.propertyCount(), meta.propertyOffset());
+    QCOMPARE(ownSlots(*meta), expected);
+    QCOMPARE(meta->propertyCount(), meta->propertyOffset());
+    QCOMPARE(meta->superClass(), &QWizardPage::staticMetaObject);
+}
+
+void TestFrameShape::pagesAddNoVirtualOperations()
+{
+    const quintptr wizardPages = nextVirtualPlace<QWizardPage>();
+    QCOMPARE(nextVirtualPlace<UIWPClauss>(), wizardPages);
+    QCOMPARE(nextVirtualPlace<UIWPGigapan>(), wizardPages);
+    QCOMPARE(nextVirtualPlace<UIWPMerlin>(), wizardPages);
+    QCOMPARE(nextVirtualPlace<UIWPVRDrive2>(), wizardPages);
+    QVERIFY(nextVirtualPlace<PageWithAddedOperation>() != wizardPages);
 }
 
 QTEST_MAIN(TestFrameShape)
