@@ -6,6 +6,7 @@
 #include "tests/support/fakeapplication.h"
 #include "tests/support/formcheck.h"
 #include "tests/support/gate.h"
+#include "tests/support/literalgrid.h"
 #include "tests/support/pagedriver.h"
 #include "tests/support/shootfolder.h"
 #include "ui/xui.h"
@@ -17,6 +18,7 @@
 
 #include <chrono>
 #include <memory>
+#include <random>
 #include <thread>
 
 namespace
@@ -57,6 +59,14 @@ struct Shoot {
             }
         }
         return modes;
+    }
+    void choose(int mode)
+    {
+        if (mode == 4) { // has no button
+            page.OnMode4Toggled(true);
+        } else {
+            driver.click(modeButton(mode).constData());
+        }
     }
     static QByteArray modeButton(int mode) { return "m_rbMode" + QByteArray::number(mode); }
 };
@@ -151,6 +161,8 @@ private Q_SLOTS:
     void nextHandsOverACopyWithEveryOption_data();
     void nextHandsOverACopyWithEveryOption();
     void nextHandsOverTheGrid();
+    void randomGridsAreHandedOverAsTheHeadSweepsThem();
+    void moreCellsThanPhotosKeepTheirLinks();
     void partlyCheckedBoxDoesNotCount();
     void pairWithoutACheckedButtonKeepsItsField();
     void gridThatDoesNotFitGivesWhatItCan_data();
@@ -165,7 +177,7 @@ private Q_SLOTS:
     void resetLeavesTheUsersChoicesAlone();
     void resetStopsReading();
     void enteringThePageResets();
-    void goingBackOnlyStopsReading();
+    void goingBackOnlyStopsReadingWanted();
     void goingForthKeepsTheState();
     void savedStateIsEmpty();
 
@@ -696,6 +708,63 @@ void TestUIWPGigapan::nextHandsOverTheGrid()
     QCOMPARE(handed.authorizedLinks.first().indices, (QVector<qint32>{ 2, 0 }));
 }
 
+void TestUIWPGigapan::randomGridsAreHandedOverAsTheHeadSweepsThem()
+{
+    std::mt19937 random(42); // seeded: a failure can be repeated
+    const auto upTo
+        = [&random](int most) { return std::uniform_int_distribution<int>(0, most)(random); };
+    for (int run = 0; run < 60; ++run) {
+        const int photoCount = 1 + upTo(60);
+        const int rows = 1 + upTo(5);
+        const int bracket = 1 + upTo(3);
+        const int ignored = upTo(5);
+        const int mode = upTo(4);
+        const bool is360 = upTo(1) == 1;
+        Shoot shoot;
+        const QStringList photos = shoot.folder.addPhotos(photoCount);
+        shoot.driver.load(kSelectPhotos, photos);
+        shoot.page.m_sbRow->setValue(rows);
+        shoot.page.m_sbBracket->setValue(bracket);
+        shoot.page.m_sbIgnore->setValue(ignored);
+        shoot.choose(mode);
+        shoot.page.m_cbIS360->setChecked(is360);
+
+        QVERIFY(shoot.page.validatePage());
+
+        const StructuredPanoramaProperties &handed = fakeHost().descriptions.last();
+        const int columns = qMax(photoCount - ignored, 0) / bracket / rows;
+        QVector<QStringList> stacks;
+        for (int cell = 0; cell < rows * columns; ++cell) {
+            stacks.append(photos.mid(ignored + cell * bracket, bracket));
+        }
+        QCOMPARE(handed.imageGroups, stacks);
+        QCOMPARE(LiteralGrid::linksOf(handed), LiteralGrid::neighbours(mode, rows, columns, is360));
+        QCOMPARE(handed.gridMode, mode);
+        QCOMPARE(handed.gridRows, rows);
+        QCOMPARE(handed.gridBracketCount, bracket);
+        QCOMPARE(handed.gridWrap360, is360);
+    }
+}
+
+void TestUIWPGigapan::moreCellsThanPhotosKeepTheirLinks()
+{
+    for (int mode = 0; mode <= 4; ++mode) {
+        Shoot shoot;
+        shoot.loadPhotos(7);
+        shoot.enter(kBracket, 2);
+        shoot.enter(kRows, 3);
+        shoot.choose(mode);
+        shoot.page.columns = 4; // no entry leads to more cells than photos
+
+        QVERIFY(shoot.page.validatePage());
+
+        const StructuredPanoramaProperties &handed = fakeHost().descriptions.last();
+        QCOMPARE(handed.imageGroups.size(), 4); // the last one of what is there
+        QCOMPARE(namesOf(handed.imageGroups.last()), list({ "IMG_0007.jpg" }));
+        QCOMPARE(LiteralGrid::linksOf(handed), LiteralGrid::neighbours(mode, 3, 4, false));
+    }
+}
+
 void TestUIWPGigapan::partlyCheckedBoxDoesNotCount()
 {
     Shoot shoot;
@@ -977,7 +1046,7 @@ void TestUIWPGigapan::enteringThePageResets()
     QCOMPARE(page->mode, 0);
 }
 
-void TestUIWPGigapan::goingBackOnlyStopsReading()
+void TestUIWPGigapan::goingBackOnlyStopsReadingWanted()
 {
     SlowHost host;
     Shoot shoot;

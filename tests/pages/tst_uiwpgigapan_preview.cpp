@@ -4,6 +4,7 @@
 
 #include "tests/support/fakeapplication.h"
 #include "tests/support/gate.h"
+#include "tests/support/literalgrid.h"
 #include "tests/support/pagedriver.h"
 #include "tests/support/shootfolder.h"
 #include "ui/xui.h"
@@ -11,6 +12,7 @@
 #include <QPainter>
 #include <QtTest>
 
+#include <random>
 #include <thread>
 
 namespace
@@ -58,6 +60,14 @@ struct Shoot {
                                    colourOf(i % 16), i));
         }
         driver.load(kSelectPhotos, photos);
+    }
+    void choose(int mode)
+    {
+        if (mode == 4) { // has no button
+            page.OnMode4Toggled(true);
+        } else {
+            driver.click(QStringLiteral("m_rbMode%1").arg(mode).toLatin1().constData());
+        }
     }
     void setNumbers(int rows, int bracket, int ignored) const
     {
@@ -142,6 +152,7 @@ private Q_SLOTS:
     void cellShowsTheFirstPhotoOfItsStack_data();
     void cellShowsTheFirstPhotoOfItsStack();
     void modeFourDoesNotCountIgnoredPhotosWanted();
+    void randomGridsAreDrawnAsTheHeadSweepsThem();
     void thumbnailsKeepTheirSize();
     void coloursAreThoseOfNoTheme();
 
@@ -231,11 +242,7 @@ void TestUIWPGigapanPreview::modeDecidesPlacesAndDrawingOrder()
     Shoot shoot;
     shoot.loadPhotos(6);
 
-    if (mode == 4) {
-        shoot.page.OnMode4Toggled(true);
-    } else {
-        shoot.driver.click(QStringLiteral("m_rbMode%1").arg(mode).toLatin1().constData());
-    }
+    shoot.choose(mode);
 
     QCOMPARE(shoot.driver.picture(), paintedWalk(walk));
 }
@@ -293,6 +300,40 @@ void TestUIWPGigapanPreview::modeFourDoesNotCountIgnoredPhotosWanted()
     shoot.page.OnMode4Toggled(true);
 
     QCOMPARE(shoot.driver.picture(), paintedWalk(kMode4, 0, 2));
+}
+
+void TestUIWPGigapanPreview::randomGridsAreDrawnAsTheHeadSweepsThem()
+{
+    std::mt19937 random(7); // seeded: a failure can be repeated
+    const auto upTo
+        = [&random](int most) { return std::uniform_int_distribution<int>(0, most)(random); };
+    for (int run = 0; run < 40; ++run) {
+        const int photos = 1 + upTo(40);
+        const int rows = 1 + upTo(4);
+        const int bracket = 1 + upTo(2);
+        const int ignored = upTo(4);
+        const int mode = run % 5;
+        Shoot shoot;
+        shoot.loadPhotos(photos);
+        shoot.setNumbers(rows, bracket, ignored);
+
+        shoot.choose(mode);
+
+        const int columns = shoot.page.m_sbColumn->value();
+        QMap<LiteralGrid::Cell, QColor> colours;
+        int photo = mode == 4 ? 0 : ignored;
+        for (const LiteralGrid::Cell &cell : LiteralGrid::walk(mode, rows, columns)) {
+            colours.insert(cell, photo < photos ? colourOf(photo % 16) : QColor());
+            photo += bracket;
+        }
+        QVector<Cell> cells;
+        for (const LiteralGrid::Cell &cell :
+             LiteralGrid::walk(mode == 4 ? 0 : mode, rows, columns)) {
+            cells.append({ cell.first, cell.second, colours.value(cell) });
+        }
+        QCOMPARE(shoot.driver.picture(),
+                 painted(QSize(columns * 84 + 4, rows * 64 + 4), kCell, cells));
+    }
 }
 
 void TestUIWPGigapanPreview::thumbnailsKeepTheirSize()
