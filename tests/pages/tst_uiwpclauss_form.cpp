@@ -43,6 +43,15 @@ const QVector<FormRow> kRows{
     { "m_hSlider", "QSlider", "" },
 };
 
+const std::vector<FormPlace> kPlaces{
+    { "General",
+      { "label", "m_leConfigFile", "m_pbSelectConfigFile", "m_pbReset", "label_5", "m_lbPapyLog",
+        "label_6", "m_lbThetaMinMax", "label_9", "m_lbPhiMinMax", "m_pInverseCoordinates",
+        "m_lbImage_2", "m_leImage", "m_pbSelectImages", "label_10", "m_lbImageLog" } },
+    { "Options", { "m_autoStart", "m_cleanLink", "m_noOptim", "m_GridOptim" } },
+    { "Preview", { "m_saPreview", "label_2", "m_hSlider" } },
+};
+
 /** The subtitle in \p linkColour, without the address that its link leads to. */
 QString subtitle(const QString &linkColour)
 {
@@ -63,6 +72,8 @@ private Q_SLOTS:
     void widgetHasItsKindAndText() { checkFormRow(UIWPClauss(nullptr)); }
     void formHoldsNothingElse();
     void tabsStandInTheirOrder();
+    void widgetStandsOnItsTab_data() { addFormPlaces(kPlaces); }
+    void widgetStandsOnItsTab() { checkFormPlace(UIWPClauss(nullptr)); }
     void tabKeyFollowsTheTable();
     void labelsNameTheirFields();
     void titlesAndSubtitle();
@@ -75,6 +86,7 @@ private Q_SLOTS:
     void previewIsCentred();
     void labelsWithNumbersArePlain_data();
     void labelsWithNumbersArePlain();
+    void textsAreTranslatedInTheirContexts();
 };
 
 void TestUIWPClaussForm::formHoldsNothingElse()
@@ -192,6 +204,35 @@ void TestUIWPClaussForm::labelsWithNumbersArePlain()
     QFETCH(QString, name);
     const UIWPClauss page(nullptr);
     QCOMPARE(page.findChild<QLabel *>(name)->textFormat(), Qt::PlainText);
+}
+
+void TestUIWPClaussForm::textsAreTranslatedInTheirContexts()
+{
+    MarkingTranslator ofThePage("UIWPClauss");
+    QVERIFY(QCoreApplication::installTranslator(&ofThePage));
+    UIWPClauss page(nullptr);
+    const PageDriver driver(&page);
+    for (const char *name : { "m_lbPapyLog", "m_lbThetaMinMax", "m_lbPhiMinMax", "m_lbImageLog" }) {
+        QCOMPARE(driver.text(name), QStringLiteral("<N/A>"));
+    }
+    QCOMPARE(driver.text("label"), QStringLiteral("Script file:"));
+    QCOMPARE(driver.cancelFiles("m_pbSelectConfigFile").caption,
+             QStringLiteral("<Select the preset file and/or images>"));
+    QCOMPARE(driver.cancelFiles("m_pbSelectImages").caption, QStringLiteral("<Select images>"));
+    DialogClicker clicker;
+    clicker.pressButton();
+    page.ParseConfigFile(QStringLiteral("/missing"));
+    QCOMPARE(clicker.messageBoxes().size(), 1);
+    QCOMPARE(clicker.messageBoxes().first().title, QStringLiteral("<Error>"));
+    QCOMPARE(clicker.messageBoxes().first().text, QStringLiteral("<Error parse file:/missing>"));
+
+    MarkingTranslator ofTheForm("UIWPClaussClass");
+    QVERIFY(QCoreApplication::installTranslator(&ofTheForm));
+    UIWPClauss other(nullptr);
+    QCOMPARE(PageDriver(&other).text("label"), QStringLiteral("<Script file:>"));
+    QCOMPARE(other.title(), QStringLiteral("<Clauss panohead import>"));
+    QCOMPARE(tabTitles(other), list({ "<General>", "<Options>" }));
+    QVERIFY(other.subTitle().startsWith(QLatin1String("<<a href=")));
 }
 
 FAKE_HOST_MAIN(FakeApplication, TestUIWPClaussForm)

@@ -59,6 +59,21 @@ const QVector<FormRow> kRows{
     { "m_hSlider", "QSlider", "" },
 };
 
+const std::vector<FormPlace> kPlaces{
+    { "General",
+      { "label_6", "m_leImage", "m_pbSelectImages", "m_pbReset", "m_lbImage", "m_sbRow", "label_3",
+        "m_sbColumn", "label_2", "label", "m_sbIgnore", "label_4", "m_sbBracket" } },
+    { "Shoot layout",
+      { "m_rbMode0", "m_rbMode1", "m_rbMode2", "m_rbMode3", "label_8", "label_9", "label_10",
+        "label_11", "label_12" } },
+    { "Shoot setup", { "m_cbIS360", "label_14", "m_dsbOverlapping" } },
+    { "Stack",
+      { "label_13", "m_rbLevelLinking0", "m_rbLevelLinking1", "label_5", "m_rbStackLinking0",
+        "m_rbStackLinking1" } },
+    { "Detection options", { "m_autoStart", "m_cleanLink", "m_noOptim" } },
+    { "Preview", { "m_saPreview", "label_7", "m_hSlider" } },
+};
+
 /** The subtitle in \p linkColour, without the address that its link leads to. */
 QString subtitle(const QString &linkColour)
 {
@@ -79,8 +94,8 @@ private Q_SLOTS:
     void widgetHasItsKindAndText() { checkFormRow(UIWPGigapan(nullptr)); }
     void formHoldsNothingElse();
     void tabsStandInTheirOrder();
-    void widgetStandsOnItsTab_data();
-    void widgetStandsOnItsTab();
+    void widgetStandsOnItsTab_data() { addFormPlaces(kPlaces); }
+    void widgetStandsOnItsTab() { checkFormPlace(UIWPGigapan(nullptr)); }
     void tabKeyFollowsTheTable();
     void labelsNameTheirFields();
     void titlesAndSubtitle();
@@ -97,6 +112,7 @@ private Q_SLOTS:
     void gridOfModesStartsWithAnEmptyLabel();
     void photoListIsReadOnly();
     void previewIsCentred();
+    void textsAreTranslatedInTheirContexts();
 };
 
 void TestUIWPGigapanForm::formHoldsNothingElse()
@@ -110,40 +126,6 @@ void TestUIWPGigapanForm::tabsStandInTheirOrder()
     QCOMPARE(tabTitles(page),
              list({ "General", "Shoot layout", "Shoot setup", "Stack", "Detection options" }));
     QCOMPARE(page.tabWidget->currentIndex(), 0);
-}
-
-void TestUIWPGigapanForm::widgetStandsOnItsTab_data()
-{
-    QTest::addColumn<QString>("title"); // of the tab, or of the group below the tabs
-    const auto rows = [](const char *title, std::initializer_list<const char *> names) {
-        for (const char *name : names) {
-            QTest::newRow(name) << QString::fromLatin1(title);
-        }
-    };
-    rows("General",
-         { "m_leImage", "m_pbSelectImages", "m_pbReset", "m_lbImage", "m_sbRow", "m_sbColumn",
-           "m_sbIgnore", "m_sbBracket" });
-    rows("Shoot layout", { "m_rbMode0", "m_rbMode1", "m_rbMode2", "m_rbMode3" });
-    rows("Shoot setup", { "m_cbIS360", "m_dsbOverlapping" });
-    rows("Stack",
-         { "m_rbLevelLinking0", "m_rbLevelLinking1", "m_rbStackLinking0", "m_rbStackLinking1" });
-    rows("Detection options", { "m_autoStart", "m_cleanLink", "m_noOptim" });
-    rows("Preview", { "m_saPreview", "label_7", "m_hSlider" });
-}
-
-void TestUIWPGigapanForm::widgetStandsOnItsTab()
-{
-    QFETCH(QString, title);
-    const UIWPGigapan page(nullptr);
-    const auto *widget = page.findChild<QWidget *>(QString::fromLatin1(QTest::currentDataTag()));
-    QVERIFY(widget);
-    if (title == page.groupBox->title()) {
-        QVERIFY(page.groupBox->isAncestorOf(widget));
-        return;
-    }
-    const int tab = tabTitles(page).indexOf(title);
-    QVERIFY(tab >= 0);
-    QVERIFY(page.tabWidget->widget(tab)->isAncestorOf(widget));
 }
 
 void TestUIWPGigapanForm::tabKeyFollowsTheTable()
@@ -324,6 +306,27 @@ void TestUIWPGigapanForm::previewIsCentred()
     QCOMPARE(PageDriver(&page).preview()->alignment(),
              Qt::Alignment(Qt::AlignHCenter | Qt::AlignVCenter));
     QCOMPARE(page.m_saPreview->alignment(), Qt::Alignment(Qt::AlignCenter));
+}
+
+void TestUIWPGigapanForm::textsAreTranslatedInTheirContexts()
+{
+    MarkingTranslator ofThePage("UIWPGigapan");
+    QVERIFY(QCoreApplication::installTranslator(&ofThePage));
+    UIWPGigapan page(nullptr);
+    const PageDriver driver(&page);
+    QCOMPARE(driver.text("m_lbImage"), QStringLiteral("0 <images in >"));
+    QCOMPARE(driver.text("label_6"), QStringLiteral("Images :"));
+    const DialogClicker::SeenFileDialog dialog = driver.cancelFiles("m_pbSelectImages");
+    QCOMPARE(dialog.caption, QStringLiteral("<Select images>"));
+    QCOMPARE(dialog.selectedNameFilter, QStringLiteral("<All Files (*.*)>"));
+
+    MarkingTranslator ofTheForm("UIWPGigapanClass");
+    QVERIFY(QCoreApplication::installTranslator(&ofTheForm));
+    UIWPGigapan other(nullptr);
+    QCOMPARE(PageDriver(&other).text("label_6"), QStringLiteral("<Images :>"));
+    QCOMPARE(other.title(), QStringLiteral("<Gigapan panorama import>"));
+    QCOMPARE(tabTitles(other).first(), QStringLiteral("<General>"));
+    QVERIFY(other.subTitle().startsWith(QLatin1String("<<a href=")));
 }
 
 FAKE_HOST_MAIN(FakeApplication, TestUIWPGigapanForm)

@@ -8,7 +8,6 @@
 #include "tests/support/shootfolder.h"
 #include "ui/xuipixmaphelper.h"
 
-#include <QTranslator>
 #include <QtTest>
 
 namespace
@@ -69,6 +68,24 @@ const QVector<FormRow> kRows{
     { "m_hSlider", "QSlider", "" },
 };
 
+const std::vector<FormPlace> kPlaces{
+    { "General", { "m_lbImage",       "m_leImage", "m_pbSelectImages",     "label_5",
+                   "m_lbImageLog",    "label_14",  "m_lbFocalLengthImage", "label_4",
+                   "m_lbPapyLog",     "label_2",   "m_lbThetaMinMax",      "label_9",
+                   "m_lbPhiMinMax",   "label_10",  "m_lbBracket",          "label_12",
+                   "m_lbFocalLength", "label",     "m_leConfigFile",       "m_pbSelectConfigFile",
+                   "m_pbReset",       "label_6",   "m_rbOutputMode1",      "m_rbOutputMode2",
+                   "m_lbWarning" } },
+    { "Shoot setup",
+      { "m_pInverseCoordinates", "m_pbRot270", "m_pbRot90", "label_15", "m_spFocal", "label_7",
+        "m_cbLensType", "m_pbFLUseXML", "m_pbFLUseImage" } },
+    { "Stack",
+      { "label_13", "m_rbLevelLinking0", "m_rbLevelLinking1", "label_11", "m_rbStackLinking0",
+        "m_rbStackLinking1" } },
+    { "Detection options", { "m_autoStart", "m_cleanLink", "m_noOptim", "m_GridOptim" } },
+    { "Preview", { "m_saPreview", "label_3", "m_hSlider" } },
+};
+
 /** The subtitle in \p linkColour, without the address that its link leads to. */
 QString subtitle(const QString &linkColour)
 {
@@ -77,20 +94,6 @@ QString subtitle(const QString &linkColour)
                         "all parameters set for true light rendering and easy use of Weavix "
                         "software.");
 }
-
-/** Translates every text of the page's own code to "<text>". */
-class Bracketing : public QTranslator
-{
-public:
-    [[nodiscard]] QString translate(const char *context, const char *text, const char * /*comment*/,
-                                    int /*n*/) const override
-    {
-        return qstrcmp(context, "UIWPVRDrive2") == 0
-            ? QLatin1Char('<') + QString::fromUtf8(text) + QLatin1Char('>')
-            : QString();
-    }
-    [[nodiscard]] bool isEmpty() const override { return false; }
-};
 
 } // namespace
 
@@ -105,6 +108,8 @@ private Q_SLOTS:
     void formHoldsTheWarningAndNothingElse();
     void tabWidgetIsCalledRenderModeWanted();
     void tabsStandInTheirOrder();
+    void widgetStandsOnItsTab_data() { addFormPlaces(kPlaces); }
+    void widgetStandsOnItsTab() { checkFormPlace(UIWPVRDrive2(nullptr)); }
     void tabKeyFollowsTheTable();
     void labelsNameTheirFields();
     void titlesAndSubtitle();
@@ -123,6 +128,7 @@ private Q_SLOTS:
     void labelsWithNumbersArePlain_data();
     void labelsWithNumbersArePlain();
     void rangesAreTheOnlyTextsNotTranslated();
+    void formHasAContextOfItsOwn();
 };
 
 void TestUIWPVRDrive2Form::formHoldsTheWarningAndNothingElse()
@@ -346,7 +352,7 @@ void TestUIWPVRDrive2Form::labelsWithNumbersArePlain()
 
 void TestUIWPVRDrive2Form::rangesAreTheOnlyTextsNotTranslated()
 {
-    Bracketing translator;
+    MarkingTranslator translator("UIWPVRDrive2");
     QVERIFY(QCoreApplication::installTranslator(&translator));
     UIWPVRDrive2 page(nullptr);
     const PageDriver driver(&page);
@@ -358,6 +364,23 @@ void TestUIWPVRDrive2Form::rangesAreTheOnlyTextsNotTranslated()
     QCOMPARE(driver.text("m_lbPhiMinMax"), QStringLiteral("N/A"));
     QCOMPARE(page.m_cbLensType->itemText(0), QStringLiteral("<Standard>"));
     QCOMPARE(page.m_cbLensType->itemText(1), QStringLiteral("<Fisheye>"));
+    const DialogClicker::SeenFileDialog dialog = driver.cancelFiles("m_pbSelectConfigFile");
+    QCOMPARE(dialog.caption, QStringLiteral("<Select the preset file and/or images>"));
+    QCOMPARE(driver.cancelFiles("m_pbSelectImages").caption, QStringLiteral("<Select images>"));
+    QCOMPARE(driver.text("label"), QStringLiteral("XML:")); // of the form
+}
+
+void TestUIWPVRDrive2Form::formHasAContextOfItsOwn()
+{
+    MarkingTranslator translator("UIWPVRDrive2Class");
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    UIWPVRDrive2 page(nullptr);
+    const PageDriver driver(&page);
+    QCOMPARE(driver.text("label"), QStringLiteral("<XML:>"));
+    QCOMPARE(driver.text("m_lbPapyLog"), QStringLiteral("N/A")); // of the page
+    QCOMPARE(page.QWizardPage::title(), QStringLiteral("<VR Drive 2>"));
+    QCOMPARE(tabTitles(page).first(), QStringLiteral("<General>"));
+    QVERIFY(page.subTitle().startsWith(QLatin1String("<<a href=")));
 }
 
 FAKE_HOST_MAIN(FakeApplication, TestUIWPVRDrive2Form)

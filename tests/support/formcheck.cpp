@@ -4,6 +4,7 @@
 
 #include <QAbstractItemModel>
 #include <QCompleter>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRegularExpression>
@@ -11,6 +12,8 @@
 #include <QTabWidget>
 #include <QWizardPage>
 #include <QtTest>
+
+#include <utility>
 
 namespace
 {
@@ -38,6 +41,18 @@ QString shownText(const QWizardPage &page, QWidget *widget)
 }
 
 } // namespace
+
+MarkingTranslator::MarkingTranslator(QByteArray context)
+    : m_context(std::move(context))
+{
+}
+
+QString MarkingTranslator::translate(const char *context, const char *text,
+                                     const char * /*comment*/, int /*number*/) const
+{
+    return m_context == context ? QLatin1Char('<') + QString::fromUtf8(text) + QLatin1Char('>')
+                                : QString();
+}
 
 QStringList list(std::initializer_list<const char *> names)
 {
@@ -68,6 +83,32 @@ void checkFormRow(const QWizardPage &page)
     QCOMPARE(found.size(), 1);
     QCOMPARE(QByteArray(found.first()->metaObject()->className()), kind);
     QCOMPARE(shownText(page, found.first()), text);
+}
+
+void addFormPlaces(const std::vector<FormPlace> &places)
+{
+    QTest::addColumn<QString>("title");
+    for (const FormPlace &place : places) {
+        for (const char *name : place.names) {
+            QTest::newRow(name) << QString::fromLatin1(place.title);
+        }
+    }
+}
+
+void checkFormPlace(const QWizardPage &page)
+{
+    QFETCH(QString, title);
+    const auto *widget = page.findChild<QWidget *>(QString::fromLatin1(QTest::currentDataTag()));
+    QVERIFY(widget);
+    const int tab = tabTitles(page).indexOf(title);
+    if (tab >= 0) {
+        QVERIFY(tabsOf(page)->widget(tab)->isAncestorOf(widget));
+        return;
+    }
+    const auto *group = page.findChild<QGroupBox *>();
+    QVERIFY(group);
+    QCOMPARE(group->title(), title);
+    QVERIFY(group->isAncestorOf(widget));
 }
 
 QStringList formNames(const QWizardPage &page)

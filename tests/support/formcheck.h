@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
+#include <QTranslator>
 #include <QVector>
 
 #include <initializer_list>
+#include <vector>
 
 class QLineEdit;
 class QWidget;
@@ -19,6 +22,26 @@ struct FormRow {
     const char *text; ///< text, title of a tab or group; "" where there is none
 };
 
+/** Widgets that stand on one tab, or in the group below the tabs. */
+struct FormPlace {
+    const char *title; ///< of the tab or group
+    std::vector<const char *> names;
+};
+
+/** Marks every text of one context: "text" becomes "<text>". */
+class MarkingTranslator : public QTranslator
+{
+public:
+    explicit MarkingTranslator(QByteArray context);
+
+    [[nodiscard]] QString translate(const char *context, const char *text, const char *comment,
+                                    int number) const override;
+    [[nodiscard]] bool isEmpty() const override { return false; }
+
+private:
+    QByteArray m_context;
+};
+
 /** The names as strings. */
 [[nodiscard]] QStringList list(std::initializer_list<const char *> names);
 
@@ -26,6 +49,11 @@ struct FormRow {
 void addFormRows(const QVector<FormRow> &rows);
 /** Compares the widget of the current data row with the one of \p page. */
 void checkFormRow(const QWizardPage &page);
+
+/** Adds the widgets of all places as test data: row name and "title". */
+void addFormPlaces(const std::vector<FormPlace> &places);
+/** Finds the widget of the current data row of \p page in its place. */
+void checkFormPlace(const QWizardPage &page);
 
 /** The names of the form's widgets, sorted; Qt's own parts of widgets left out. */
 [[nodiscard]] QStringList formNames(const QWizardPage &page);
