@@ -511,6 +511,8 @@ void addScriptLines(Files &files)
 void addScriptSizes(Files &files)
 {
     files.addLarge("script of one line", [] { return filledUp("op_h-angle=1", '0', ""); });
+    files.addLarge("script of one line of 100 MB",
+                   [] { return filledUp("op_h-angle=1", '0', "", 100'000'000); });
     files.addLarge("script of one key", [] { return filledUp("op_shoot", 'x', "\n"); });
     files.addLarge("script of blank lines", [] { return filledUp("", '\n', "op_shoot\n"); });
     files.addLarge("script of carriage returns", [] { return filledUp("", '\r', "op_shoot\n"); });

@@ -111,6 +111,8 @@ private Q_SLOTS:
     void bracketCountBelowTwoBecomesOne_data();
     void bracketCountBelowTwoBecomesOne();
     void tenPhotosInThreesAreCompleteButRefused();
+    void bracketBeyondThePhotosIsRefused_data();
+    void bracketBeyondThePhotosIsRefused();
     void nextWithoutShotsAndPhotosIsHarmless_data();
     void nextWithoutShotsAndPhotosIsHarmless();
     void nextOnAFreshPageIsHarmless();
@@ -122,7 +124,7 @@ private Q_SLOTS:
     void wizardHearsOfCompleteness();
     void actionSignalsCompleteness_data();
     void actionSignalsCompleteness();
-    void goingBackResets();
+    void goingBackResetsWanted();
     void goingForthKeepsTheState();
     void savedStateIsEmpty();
 
@@ -200,6 +202,12 @@ void TestUIWPVRDrive2::recordIsShownInTheLabels_data()
     record.shots = { { QStringLiteral("0.0"), QStringLiteral("5.0") },
                      { QStringLiteral("0.0"), QStringLiteral("5.0") } };
     row("one column", record, { QStringLiteral("2"), zero, QStringLiteral("5,5"), none, none });
+    for (const char *number : { "nan", "inf", "-inf", "1e39", "1e999", "north" }) {
+        record.shots = { { QString::fromLatin1(number), QStringLiteral("20.0") },
+                         { QStringLiteral("10.0"), QString::fromLatin1(number) } };
+        row(QByteArray("no angle, so 0: ") + number, record,
+            { QStringLiteral("2"), QStringLiteral("0,10"), QStringLiteral("0,20"), none, none });
+    }
     row("no shots: the scan's start as numbers", RecordXml::row(0),
         { none, QLatin1String(kScanStart), QLatin1String(kScanStart), none, none });
     for (const char *nbPicts : { "3", "1", "0", "-3" }) {
@@ -690,6 +698,12 @@ void TestUIWPVRDrive2::referenceComesFirstInEveryStack_data()
     row("pairs", "2", { 1, -1, 1, -1 }, "ba dc");
     row("threes, the first is the reference", "3", { 0, -2, 2, 0, -2, 2 }, "abc def");
     row("fives", "5", { -2, -1, 0, 1, 2, -2, -1, 0, 1, 2 }, "cbade hgfij");
+    row("fours: the lower of the two in the middle", "4", { 3, 1, 4, 2, 3, 1, 4, 2 }, "dbca hfge");
+    row("sixes: the third lowest", "6", { 6, 5, 4, 3, 2, 1 }, "dbcaef");
+    row("repeated median: the later one", "3", { 0, -1, 0, 0, -1, 0 }, "cba fed");
+    row("repeated median at both ends", "4", { 7, 1, 9, 7 }, "dbca");
+    row("all equal: the last one", "3", { 2, 2, 2 }, "cba");
+    row("ones", "1", { 3, 1, 2 }, "a b c");
     row("the first bracket decides for all: wanted", "3", { -2, 0, 2, 0, -2, 2 }, "bac edf");
     row("not a number", "2",
         { std::numeric_limits<float>::quiet_NaN(), std::numeric_limits<float>::quiet_NaN() }, "ab");
@@ -797,6 +811,32 @@ void TestUIWPVRDrive2::tenPhotosInThreesAreCompleteButRefused()
     QVERIFY(fakeHost().descriptions.isEmpty());
     QVERIFY(shoot.page.imageGroups.isEmpty());
     QCOMPARE(shoot.page.nbPicts, 3);
+}
+
+void TestUIWPVRDrive2::bracketBeyondThePhotosIsRefused_data()
+{
+    QTest::addColumn<QString>("nbPicts");
+    QTest::newRow("one more") << QStringLiteral("5");
+    QTest::newRow("many more") << QStringLiteral("400");
+    QTest::newRow("as many as can be") << QStringLiteral("2147483647");
+}
+
+void TestUIWPVRDrive2::bracketBeyondThePhotosIsRefused()
+{
+    QFETCH(QString, nbPicts);
+    Shoot shoot;
+    shoot.loadRecord(bracketedRow(4, nbPicts));
+    shoot.loadPhotos(4);
+    QVERIFY(shoot.page.isComplete());
+    DialogClicker clicker;
+    clicker.pressButton(QMessageBox::Ok);
+
+    QVERIFY(!shoot.page.validatePage());
+
+    QVERIFY(clicker.isSettled());
+    QCOMPARE(clicker.messageBoxes().size(), 1);
+    QVERIFY(fakeHost().descriptions.isEmpty());
+    QVERIFY(shoot.page.imageGroups.isEmpty());
 }
 
 void TestUIWPVRDrive2::nextWithoutShotsAndPhotosIsHarmless_data()
@@ -964,7 +1004,7 @@ void TestUIWPVRDrive2::actionSignalsCompleteness()
     QVERIFY(!shoot.page.m_hSlider->signalsBlocked());
 }
 
-void TestUIWPVRDrive2::goingBackResets()
+void TestUIWPVRDrive2::goingBackResetsWanted()
 {
     const ShootFolder folder;
     QWizard wizard;

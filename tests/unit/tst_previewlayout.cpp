@@ -92,8 +92,8 @@ private Q_SLOTS:
     void shotsStandWhereTheirAnglesSay_data();
     void shotsStandWhereTheirAnglesSay();
     void cellsCarryWhatIsDrawnIntoThem();
-    void invertedRangesDifferBetweenThePages_data();
-    void invertedRangesDifferBetweenThePages();
+    void invertedRangesDifferBetweenThePagesWanted_data();
+    void invertedRangesDifferBetweenThePagesWanted();
     void canvasWithinTheLimitsIsLeftAlone_data();
     void canvasWithinTheLimitsIsLeftAlone();
     void canvasBeyondTheLimitsIsReducedAsAWhole_data();
@@ -207,7 +207,7 @@ void TestPreviewLayout::cellsCarryWhatIsDrawnIntoThem()
 }
 
 /** Only a range that nothing has been put into is inverted; the pages differ there by design. */
-void TestPreviewLayout::invertedRangesDifferBetweenThePages_data()
+void TestPreviewLayout::invertedRangesDifferBetweenThePagesWanted_data()
 {
     QTest::addColumn<LayoutRules>("rules");
     QTest::addColumn<int>("width");
@@ -217,7 +217,7 @@ void TestPreviewLayout::invertedRangesDifferBetweenThePages_data()
     QTest::newRow("negated sum") << kVRDrive2 << 164;
 }
 
-void TestPreviewLayout::invertedRangesDifferBetweenThePages()
+void TestPreviewLayout::invertedRangesDifferBetweenThePagesWanted()
 {
     QFETCH(LayoutRules, rules);
     const AngleExtents inverted{ { 10, -30 }, { 0, 0 } };
