@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
 #include "dialogclicker.h"
-#include "hostcontract.h"
+#include "foreignhost.h"
 #include "longruns.h"
 
 #include <QApplication>
@@ -20,15 +20,9 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QThread>
 
 #include <algorithm>
-#include <atomic>
 #include <memory>
-#include <mutex>
-#include <stdexcept>
-#include <thread>
-#include <vector>
 
 namespace
 {
@@ -38,173 +32,6 @@ const QString kClaussUid = QStringLiteral("7A21C94E-5B20-2020-2020-D6D081182F97"
 const QString kGigapanUid = QStringLiteral("7A21C94E-5B20-2020-2020-6028D47773DF");
 const QString kPapywizardUid = QStringLiteral("7A21C94E-5B20-2020-2020-483181480AB7");
 const QString kVRDrive2Uid = QStringLiteral("7A21C94E-5B20-2020-2020-B662C695C918");
-
-/** Photo object of the double; every operation that no page may call ends the test. */
-class Photo : public Contract::Image
-{
-public:
-    float focal = 35.0F;
-    int lens = 0;
-    int thumbnails = 0;
-    int shotTimes = 0;
-
-    QPixmap *thumbnail() override
-    {
-        ++thumbnails;
-        if (m_pixmap.isNull()) {
-            m_pixmap = QPixmap(60, 40);
-            m_pixmap.fill(Qt::darkGreen);
-        }
-        return &m_pixmap;
-    }
-    void slot2() override { qFatal("slot 2 of a photo was called"); }
-    void slot3() override { qFatal("slot 3 of a photo was called"); }
-    void slot4() override { qFatal("slot 4 of a photo was called"); }
-    void slot5() override { qFatal("slot 5 of a photo was called"); }
-    void slot6() override { qFatal("slot 6 of a photo was called"); }
-    void slot7() override { qFatal("slot 7 of a photo was called"); }
-    void slot8() override { qFatal("slot 8 of a photo was called"); }
-    void slot9() override { qFatal("slot 9 of a photo was called"); }
-    void slot10() override { qFatal("slot 10 of a photo was called"); }
-    void slot11() override { qFatal("slot 11 of a photo was called"); }
-    float focalLength() override { return focal; }
-    int lensType() override { return lens; }
-    long shotTime() override
-    {
-        ++shotTimes;
-        return 1;
-    }
-    float exposure() override { return 1.0F; }
-    void slot16() override { qFatal("slot 16 of a photo was called"); }
-
-private:
-    QPixmap m_pixmap;
-};
-
-struct Setting {
-    QString group;
-    QString key;
-    QVariant value;
-};
-
-/** The host double: answers the interface's plain name, whatever its own class is called. */
-class Host : public QApplication, public Contract::Application
-{
-public:
-    Host(int &argc, char **argv)
-        : QApplication(argc, argv)
-    {
-    }
-
-    void *qt_metacast(const char *name) override
-    {
-        if (qstrcmp(name, "XIApplication") == 0) {
-            return static_cast<Contract::Application *>(this);
-        }
-        return QApplication::qt_metacast(name);
-    }
-
-    void forget()
-    {
-        userLocale = QLocale(QLocale::French, QLocale::France);
-        calls.clear();
-        stored.clear();
-        readsSettings = true;
-        read.clear();
-        written.clear();
-        descriptions.clear();
-        setPaths.clear();
-        lens = 0;
-        const std::lock_guard lock(m_mutex);
-        m_photos.clear();
-        photosOnTheGuiThread = 0;
-    }
-
-    [[nodiscard]] std::vector<Photo *> photos() const
-    {
-        const std::lock_guard lock(m_mutex);
-        std::vector<Photo *> answer;
-        for (const auto &photo : m_photos) {
-            answer.push_back(photo.get());
-        }
-        return answer;
-    }
-
-    QLocale userLocale;
-    QStringList calls; ///< "locale", "loadTranslation NAME", "uiInstances"
-    bool readsSettings = true; ///< else it throws
-    QVariant stored; ///< what every setting reads as; invalid: nothing is stored
-    QList<Setting> read;
-    QList<Setting> written;
-    QVector<Contract::Description> descriptions;
-    QStringList setPaths;
-    int lens = 0; ///< of every photo
-    std::atomic<int> slowness{ 0 }; ///< how often the processor is yielded for each photo
-    std::atomic<int> photosOnTheGuiThread{ 0 };
-    Contract::UiSettings uiSettings{ false };
-    Contract::UiInstances ui{ &uiSettings };
-    Contract::UiInstances *offeredUi = &ui;
-
-    void slot1() override { qFatal("slot 1 of the host was called"); }
-    void slot2() override { qFatal("slot 2 of the host was called"); }
-    QString lastPath() override { return QStringLiteral("/"); }
-    void setLastPath(const QString &path) override { setPaths.append(path); }
-    QVariant readSetting(const QString &group, const QString &key,
-                         const QVariant &defaultValue) override
-    {
-        if (!readsSettings) {
-            throw std::runtime_error("the settings cannot be read");
-        }
-        read.append({ group, key, defaultValue });
-        return stored.isValid() ? stored : defaultValue;
-    }
-    void writeSetting(const QString &group, const QString &key, const QVariant &value) override
-    {
-        written.append({ group, key, value });
-    }
-    void slot7() override { qFatal("slot 7 of the host was called"); }
-    QLocale locale() override
-    {
-        calls.append(QStringLiteral("locale"));
-        return userLocale;
-    }
-    void slot9() override { qFatal("slot 9 of the host was called"); }
-    void slot10() override { qFatal("slot 10 of the host was called"); }
-    void loadTranslation(const QString &fileName) override
-    {
-        calls.append(QStringLiteral("loadTranslation ") + fileName);
-    }
-    Contract::Image *createImage(const QString &) override
-    {
-        if (QThread::currentThread() == thread()) {
-            ++photosOnTheGuiThread;
-        }
-        for (int i = 0; i < slowness; ++i) {
-            std::this_thread::yield();
-        }
-        const std::lock_guard lock(m_mutex);
-        m_photos.push_back(std::make_unique<Photo>());
-        m_photos.back()->lens = lens;
-        return m_photos.back().get();
-    }
-    void import(Contract::Description description) override { descriptions.append(description); }
-    void slot14() override { qFatal("slot 14 of the host was called"); }
-    void slot15() override { qFatal("slot 15 of the host was called"); }
-    Contract::UiInstances *uiInstances() override
-    {
-        calls.append(QStringLiteral("uiInstances"));
-        return offeredUi;
-    }
-
-private:
-    mutable std::mutex m_mutex; ///< guards the photos
-    std::vector<std::unique_ptr<Photo>> m_photos;
-};
-
-Host &host()
-{
-    return *static_cast<Host *>(QCoreApplication::instance());
-}
 
 QStringList objectNames(const QList<QPointer<QObject>> &plugins)
 {
@@ -223,18 +50,6 @@ QStringList importNames(const char *heads)
         names.append(QStringLiteral("X%1Import").arg(head));
     }
     return names;
-}
-
-/** The plug-in called \p name of a fresh set of all. */
-QObject *pluginCalled(Contract::PluginLibrary *library, const QString &name)
-{
-    const QList<QPointer<QObject>> plugins = library->plugins(2);
-    for (const QPointer<QObject> &plugin : plugins.mid(plugins.size() - 4)) {
-        if (plugin->objectName() == name) {
-            return plugin;
-        }
-    }
-    return nullptr;
 }
 
 QString runTool(const QString &program, const QStringList &arguments)
