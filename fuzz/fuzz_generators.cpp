@@ -15,7 +15,7 @@ using namespace PanoHead;
 namespace
 {
 
-constexpr int kMaxPhotos = 128; // links of 64 directions and more are searched by an index
+constexpr int kMaxPhotos = 72; // links of 64 directions and more are searched by an index
 
 const PhotoSet &photos()
 {
