@@ -49,9 +49,12 @@ QQueue<QString> withoutDuplicates(const QStringList &files)
     return queue;
 }
 
-/** Null for a photo that the host cannot read; an exception of the host counts as that. */
+/** Null for a photo that the host cannot read; an exception or no host at all counts as that. */
 XIImageDef *readPhoto(XIApplication *host, const QString &file)
 {
+    if (host == nullptr) {
+        return nullptr; // it was there when the thread was started
+    }
     try {
         return host->CreateImageDef(file);
     } catch (...) {

@@ -119,9 +119,6 @@ QStringList sortedPhotos(QStringList files)
 
 void readPhotos(ReadingThread &thread, const QStringList &files)
 {
-    if (findHost() == nullptr) {
-        return;
-    }
     // The photo in hand would join the new list.
     clearIfRunning(thread);
     thread.Start(files);

@@ -1,0 +1,399 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: MIT
+#include "importers/clauss/uiwpclauss.h"
+#include "importers/gigapan/uiwpgigapan.h"
+#include "importers/papywizard/uiwpmerlin.h"
+#include "importers/vrdrive2/uiwpvrdrive2.h"
+#include "plugin/readingthread.h"
+#include "tests/support/dialogclicker.h"
+#include "tests/support/fakeapplication.h"
+#include "tests/support/longruns.h"
+#include "tests/support/pagedriver.h"
+#include "tests/support/shootfolder.h"
+
+#include <QLabel>
+#include <QRandomGenerator>
+#include <QtTest>
+
+#include <atomic>
+#include <functional>
+#include <limits>
+#include <memory>
+
+using Make = std::function<QWizardPage *()>;
+Q_DECLARE_METATYPE(Make)
+
+namespace
+{
+
+constexpr int kFiles = 24;
+constexpr int kSteps = 10;
+
+/** A host that may take its interface away. */
+class MisbehavingApplication : public FakeApplication
+{
+public:
+    using FakeApplication::FakeApplication;
+
+    void *qt_metacast(const char *name) override
+    {
+        if (qstrcmp(name, "XIApplication") != 0) {
+            return FakeApplication::qt_metacast(name);
+        }
+        const int left = answersLeft;
+        if (left > 0) {
+            --answersLeft;
+        }
+        return hidesInterface || left == 0 ? nullptr : FakeApplication::qt_metacast(name);
+    }
+
+    // The reading threads ask too.
+    std::atomic_bool hidesInterface{ false };
+    std::atomic_int answersLeft{ -1 }; ///< after so many the interface is gone; negative: never
+};
+
+MisbehavingApplication &application()
+{
+    return *static_cast<MisbehavingApplication *>(QCoreApplication::instance());
+}
+
+template <typename T> T anyOf(QRandomGenerator &random, std::initializer_list<T> values)
+{
+    return *(values.begin() + random.bounded(static_cast<int>(values.size())));
+}
+
+QSet<QString> toSet(const QStringList &names)
+{
+    return { names.begin(), names.end() };
+}
+
+FakePhoto anyPhoto(QRandomGenerator &random, int percentUnreadable)
+{
+    constexpr float kNan = std::numeric_limits<float>::quiet_NaN();
+    constexpr float kInf = std::numeric_limits<float>::infinity();
+    FakePhoto photo;
+    if (random.bounded(100) < percentUnreadable) {
+        photo.reading = anyOf(random, { FakePhoto::Reading::Fails, FakePhoto::Reading::Throws });
+    }
+    photo.preview = anyOf(random,
+                          { FakePhoto::Preview::SolidColour, FakePhoto::Preview::NullPixmap,
+                            FakePhoto::Preview::NullPointer });
+    photo.size = anyOf(random, { QSize(96, 64), QSize(1, 1), QSize(1, 900), QSize(900, 1) });
+    photo.focalMm = anyOf(random, { 24.0F, 24.0F, 0.0F, -5.0F, kNan, kInf, 1e30F });
+    photo.lensType = anyOf(random, { 0, 0, 1, 7, -1, std::numeric_limits<int>::max() });
+    photo.shotTime = anyOf(random, { 0L, 1L, 2L, std::numeric_limits<long>::min() });
+    photo.exposure = anyOf(random, { 0.0F, -1.0F, 1.0F, kNan, kInf });
+    photo.spins = anyOf(random, { 0, 0, 100, 2000 });
+    return photo;
+}
+
+/** What happened in all runs of one page: the promises below mean nothing if nothing happens. */
+struct Tally {
+    int completePages = 0; ///< with photos; a page without any photo or shot is complete too
+    int delivered = 0;
+    int deletedWhileReading = 0;
+    int deletedInADialog = 0;
+    int interfaceMissing = 0;
+};
+
+/** One page in the hands of a host and a user who both do what they like. */
+class Run
+{
+public:
+    Run(const Make &make, const QStringList &files, const QStringList &records, quint32 seed,
+        Tally *tally)
+        : m_page(make())
+        , m_driver(m_page.get())
+        , m_files(files)
+        , m_records(records)
+        , m_random(seed)
+        , m_tally(tally)
+    {
+        const int unreadable = anyOf(m_random, { 0, 0, 0, 5, 50, 100 });
+        for (const QString &file : files) {
+            fakeHost().setPhoto(file, anyPhoto(m_random, unreadable));
+        }
+    }
+    ~Run() { application().hidesInterface = false; }
+    Q_DISABLE_COPY(Run)
+
+    /** Empty, or the promise that was broken. */
+    QString play()
+    {
+        for (int step = 0; step < kSteps && m_page; ++step) {
+            application().hidesInterface = m_random.bounded(15) == 0;
+            m_tally->interfaceMissing += application().hidesInterface ? 1 : 0;
+            act();
+            if (m_page && m_broken.isEmpty()) {
+                checkPromises();
+            }
+            if (!m_broken.isEmpty()) {
+                return m_broken;
+            }
+        }
+        return {};
+    }
+
+private:
+    void act()
+    {
+        switch (m_random.bounded(10)) {
+        case 0:
+        case 1:
+            choosePhotos();
+            break;
+        case 2:
+        case 3:
+        case 4:
+            readRecord();
+            break;
+        case 5:
+        case 6:
+            m_driver.waitUntilRead();
+            break;
+        case 7:
+            pressNext();
+            break;
+        case 8:
+            m_driver.find<QSlider>("m_hSlider")->setValue(1 + m_random.bounded(100));
+            QCoreApplication::processEvents();
+            break;
+        default:
+            resetOrDelete();
+        }
+    }
+
+    /** More often the former: what follows a deletion is not played. */
+    void resetOrDelete()
+    {
+        if (m_random.bounded(3) != 0) {
+            m_driver.click("m_pbReset");
+            m_chosen.clear();
+            return;
+        }
+        m_tally->deletedWhileReading += m_page->findChild<QThread *>()->isRunning() ? 1 : 0;
+        m_page.reset();
+    }
+
+    /** Now and then the page goes while it waits for an answer. */
+    void perhapsDeleteIn(DialogClicker &clicker)
+    {
+        if (m_random.bounded(20) == 0) {
+            clicker.beforeNextAnswer([this] {
+                ++m_tally->deletedInADialog;
+                m_page.reset();
+            });
+        }
+    }
+
+    void choosePhotos()
+    {
+        const int first = m_random.bounded(kFiles - 8);
+        const QStringList files = m_files.mid(first, 1 + m_random.bounded(8));
+        DialogClicker clicker;
+        clicker.chooseFiles(files);
+        perhapsDeleteIn(clicker);
+        m_driver.click("m_pbSelectImages");
+        m_chosen = files;
+    }
+
+    void readRecord()
+    {
+        auto *edit = m_page->findChild<QLineEdit *>(QStringLiteral("m_leConfigFile"));
+        if (edit == nullptr) {
+            return; // a page without records
+        }
+        // Mostly one that fits the photos: otherwise hardly any page would ever be complete.
+        const int shots = m_random.bounded(4) == 0 ? m_random.bounded(9) : m_chosen.size();
+        const QString path = m_random.bounded(20) == 0
+            ? m_records.last()
+            : m_records.at(2 * shots + m_random.bounded(2));
+        DialogClicker boxes;
+        boxes.pressButton();
+        perhapsDeleteIn(boxes);
+        edit->setText(path);
+        if (auto *clauss = qobject_cast<UIWPClauss *>(m_page.get())) {
+            clauss->SetConfigFFilename();
+        } else {
+            QMetaObject::invokeMethod(m_page.get(), "SetConfigFFilename", Q_ARG(QString, path));
+        }
+    }
+
+    void pressNext()
+    {
+        if (!m_page->isComplete()) {
+            return;
+        }
+        DialogClicker boxes;
+        boxes.pressButton();
+        perhapsDeleteIn(boxes);
+        const int delivered = fakeHost().descriptions.size();
+        const auto *ownGroups = dynamic_cast<const StructuredPanoramaProperties *>(m_page.get());
+        const int before = ownGroups->imageGroups.size();
+        const bool isGrid = qobject_cast<UIWPGigapan *>(m_page.get()) != nullptr;
+        const bool isAccepted = m_page->validatePage();
+        if (!m_page || application().hidesInterface) {
+            return;
+        }
+        if (fakeHost().descriptions.size() != delivered + (isAccepted ? 1 : 0)) {
+            m_broken = QStringLiteral("Next did not hand over one description");
+        }
+        if (!isAccepted) {
+            return;
+        }
+        m_tally->delivered += m_chosen.isEmpty() ? 0 : 1;
+        QStringList names;
+        const auto groups = fakeHost().descriptions.last().imageGroups;
+        // A page appends to what it handed over before.
+        for (int i = before; i < groups.size(); ++i) {
+            names += groups.at(i);
+        }
+        names.sort();
+        // A grid takes only as many photos as it has cells.
+        const bool fits = isGrid ? toSet(m_chosen).contains(toSet(names)) : names == m_chosen;
+        if (!fits) {
+            m_broken = QStringLiteral("Chosen was %1, handed over %2")
+                           .arg(m_chosen.join(QLatin1Char(' ')), names.join(QLatin1Char(' ')));
+        }
+    }
+
+    void checkPromises()
+    {
+        if (!m_page->isComplete()) {
+            return;
+        }
+        m_tally->completePages += m_chosen.isEmpty() ? 0 : 1;
+        auto *thread = static_cast<ReadingThread *>(m_page->findChild<QThread *>());
+        QStringList read;
+        for (XIImageDef *image : thread->XIImageDefs()) {
+            read += static_cast<FakeImage *>(image)->fileName();
+        }
+        read.sort();
+        if (read != m_chosen) {
+            m_broken = QStringLiteral("Next is enabled; chosen was %1, read was %2")
+                           .arg(m_chosen.join(QLatin1Char(' ')), read.join(QLatin1Char(' ')));
+        }
+        const auto *count = m_page->findChild<QLabel *>(QStringLiteral("m_lbPapyLog"));
+        const QString expected
+            = m_chosen.isEmpty() ? QStringLiteral("N/A") : QString::number(m_chosen.size());
+        if (count != nullptr && count->text() != expected) {
+            m_broken = QStringLiteral("Next is enabled with %1 shots for %2 photos")
+                           .arg(count->text())
+                           .arg(m_chosen.size());
+        }
+    }
+
+    std::unique_ptr<QWizardPage> m_page;
+    PageDriver m_driver;
+    QStringList m_files;
+    QStringList m_records; ///< two for each number of shots from 0, and one that is not there
+    QStringList m_chosen;
+    QRandomGenerator m_random;
+    Tally *m_tally;
+    QString m_broken;
+};
+
+} // namespace
+
+/** Hosts that answer null, nonsense or late, throw, or are not there. */
+class TestMisbehavingHost : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void nextIsEnabledOnlyWhenEverythingFits_data();
+    void nextIsEnabledOnlyWhenEverythingFits();
+    void aHostThatLeavesAsReadingBeginsReadsNothing();
+
+private:
+    ShootFolder m_folder;
+    QStringList m_files;
+    QStringList m_records;
+    QStringList m_scripts;
+};
+
+void TestMisbehavingHost::initTestCase()
+{
+    m_files = m_folder.addPhotos(kFiles);
+    for (int shots = 0; shots <= 8; ++shots) {
+        RecordXml record = RecordXml::row(shots);
+        record.focal = QStringLiteral("24");
+        // The second record has brackets, the second script one direction only.
+        const QString name = QStringLiteral("shoot%1").arg(shots);
+        m_records.append(m_folder.write(name + QStringLiteral(".xml"), record.bytes()));
+        record.nbPicts = QString::number(shots % 4);
+        m_records.append(m_folder.write(name + QStringLiteral("b.xml"), record.bytes()));
+        m_scripts.append(m_folder.write(name + QStringLiteral(".txt"),
+                                        QByteArray("op_h-angle=5\nop_shoot\n").repeated(shots)));
+        m_scripts.append(m_folder.write(name + QStringLiteral("b.txt"),
+                                        QByteArray("op_shoot\n").repeated(shots)));
+    }
+    m_records.append(m_folder.path(QStringLiteral("nowhere")));
+    m_scripts.append(m_folder.path(QStringLiteral("nowhere")));
+}
+
+void TestMisbehavingHost::init()
+{
+    application().answersLeft = -1;
+    fakeHost().forget();
+}
+
+void TestMisbehavingHost::nextIsEnabledOnlyWhenEverythingFits_data()
+{
+    QTest::addColumn<Make>("make");
+    QTest::addColumn<QStringList>("records");
+    QTest::newRow("Papywizard") << Make([] { return new UIWPMerlin(nullptr); }) << m_records;
+    QTest::newRow("VR Drive 2") << Make([] { return new UIWPVRDrive2(nullptr); }) << m_records;
+    QTest::newRow("Clauss") << Make([] { return new UIWPClauss(nullptr); }) << m_scripts;
+    QTest::newRow("Gigapan") << Make([] { return new UIWPGigapan(nullptr); }) << QStringList();
+}
+
+void TestMisbehavingHost::nextIsEnabledOnlyWhenEverythingFits()
+{
+    QFETCH(const Make, make);
+    QFETCH(const QStringList, records);
+    const int runs = rounds(100, 1'000);
+    Tally tally;
+    for (int seed = 1; seed <= runs; ++seed) {
+        fakeHost().forget();
+        const QString broken
+            = Run(make, m_files, records, static_cast<quint32>(seed), &tally).play();
+        QVERIFY2(broken.isEmpty(), qPrintable(QStringLiteral("Seed %1: %2").arg(seed).arg(broken)));
+    }
+    qInfo("%d runs: %d times complete, %d descriptions, %d pages deleted while reading, %d in a "
+          "dialog, %d steps without the interface",
+          runs, tally.completePages, tally.delivered, tally.deletedWhileReading,
+          tally.deletedInADialog, tally.interfaceMissing);
+    QVERIFY(tally.completePages > runs / 10);
+    QVERIFY(tally.delivered > 0);
+    QVERIFY(tally.deletedInADialog > 0);
+    QVERIFY(tally.interfaceMissing > 0);
+}
+
+void TestMisbehavingHost::aHostThatLeavesAsReadingBeginsReadsNothing()
+{
+    const QStringList photos = m_files.mid(0, 3);
+    fakeHost().setPhotos(photos, {});
+    ReadingThread thread(nullptr);
+    application().answersLeft = 1; // for Start(), which begins only with a host
+    thread.Start(photos);
+    QVERIFY(thread.wait());
+    QCOMPARE(thread.XIImageDefs().size(), 0);
+    QCOMPARE(fakeHost().readFiles(), QStringList());
+
+    application().answersLeft = -1;
+    thread.Start(photos);
+    QVERIFY(thread.wait());
+    QCOMPARE(thread.XIImageDefs().size(), 3);
+}
+
+int main(int argc, char *argv[])
+{
+    MisbehavingApplication host(argc, argv);
+    TestMisbehavingHost test;
+    QTEST_SET_MAIN_SOURCE_PATH
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_misbehavinghost.moc"
