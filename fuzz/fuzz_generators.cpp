@@ -38,7 +38,7 @@ QVector<ShootData> takeShots(ByteSource &bytes)
 }
 
 /** Any shots, any number of photos, any answers of a page: also those that no page lets through. */
-void generateFromShots(ByteSource &bytes)
+void generateFromRecord(ByteSource &bytes)
 {
     const int count = bytes.count(kMaxPhotos);
     QStringList names = photos().names(count);
@@ -52,18 +52,29 @@ void generateFromShots(ByteSource &bytes)
     xml.shots = takeShots(bytes);
     xml.generateSPP(names, images, focal, lens);
     checkDescription(xml, count, xml.shots.size());
+}
 
+void generateFromScript(ByteSource &bytes)
+{
+    const int count = bytes.count(kMaxPhotos);
+    QStringList names = photos().names(count);
+    const QList<XIImageDef *> images = photos().images(bytes.count(kMaxPhotos));
     ClaussToSPP script;
-    script.shots = xml.shots;
+    script.shots = takeShots(bytes);
     script.generateSPP(names, images);
     checkDescription(script, count, script.shots.size());
+}
 
-    const AngleExtents extents = extentsOf(xml.shots);
+void layOut(ByteSource &bytes)
+{
+    const int smallestStep = bytes.between(0, 8);
+    const QVector<ShootData> shots = takeShots(bytes);
+    const AngleExtents extents = extentsOf(shots);
     for (const Span span : { Span::Absolute, Span::NegatedSumToo }) {
         for (const Precision precision : { Precision::Single, Precision::Double }) {
-            const LayoutRules rules{ static_cast<double>(bytes.between(0, 8)), span, precision,
-                                     32'767, kFuzzCanvasBytes };
-            checkLayout(layOutShots(xml.shots, extents, rules), rules);
+            const LayoutRules rules{ static_cast<double>(smallestStep), span, precision, 32'767,
+                                     kFuzzCanvasBytes };
+            checkLayout(layOutShots(shots, extents, rules), rules);
         }
     }
 }
@@ -98,14 +109,22 @@ void generateFromGrid(ByteSource &bytes)
 
 } // namespace
 
-/** All generators and both layouts on values that come neither from a reader nor from a page. */
+/** One of the generators or layouts on values that come neither from a reader nor from a page. */
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     ByteSource bytes(data, size);
-    if (bytes.between(0, 3) == 0) {
+    switch (bytes.between(0, 3)) {
+    case 0:
         generateFromGrid(bytes);
-    } else {
-        generateFromShots(bytes);
+        break;
+    case 1:
+        generateFromRecord(bytes);
+        break;
+    case 2:
+        generateFromScript(bytes);
+        break;
+    default:
+        layOut(bytes);
     }
     return 0;
 }
