@@ -137,7 +137,7 @@ void PreviewCanvas::patchRect(QPainter &painter, const QRect &rect)
         fillBackground(painter);
     }
     for (auto cell = seen.crbegin(); cell != seen.crend(); ++cell) {
-        m_painter.drawParts(painter, m_scene, cell->first, cell->second, m_colours.caption);
+        m_painter.drawParts(painter, rect, m_scene, cell->first, cell->second, m_colours.caption);
     }
 }
 

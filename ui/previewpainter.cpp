@@ -20,6 +20,7 @@ namespace PanoHead
 namespace
 {
 
+constexpr Qt::GlobalColor kOutline = Qt::black; // of the painter's default pen
 constexpr int kSpill = 2; // outlines and rounding around a cell, pixels
 constexpr int kOverhang = 4; // letters that reach out of their line, pixels
 constexpr qint64 kCaptionBytes = 768; // with its glyphs, about
@@ -63,6 +64,30 @@ void drawCaption(QPainter &painter, const PreviewCell &cell, const CaptionColour
     painter.setPen(colours.text);
     painter.drawText(room, text);
     painter.setPen(outline);
+}
+
+/**
+ * The lines that the painter strokes around \p box with its default pen, filled: they cover the
+ * pixels that hold the box's sides. Strokes of tiny boxes have other ends, and places left of or
+ * above the picture are rounded the other way.
+ */
+void drawOutline(QPainter &painter, const QRectF &box)
+{
+    constexpr qreal kLeastSide = 2.0;
+    if (box.width() < kLeastSide || box.height() < kLeastSide || box.left() < 0.0
+        || box.top() < 0.0) {
+        painter.setPen(QPen());
+        painter.drawRect(box);
+        return;
+    }
+    const QRect frame(
+        QPoint(static_cast<int>(std::floor(box.left())), static_cast<int>(std::floor(box.top()))),
+        QPoint(static_cast<int>(std::floor(box.right())),
+               static_cast<int>(std::floor(box.bottom()))));
+    painter.fillRect(QRect(frame.left(), frame.top(), frame.width(), 1), kOutline);
+    painter.fillRect(QRect(frame.left(), frame.bottom(), frame.width(), 1), kOutline);
+    painter.fillRect(QRect(frame.left(), frame.top(), 1, frame.height()), kOutline);
+    painter.fillRect(QRect(frame.right(), frame.top(), 1, frame.height()), kOutline);
 }
 
 template <typename Kept>
@@ -123,8 +148,8 @@ void CellPainter::draw(QPainter &painter, const PreviewScene &scene, const Previ
     }
 }
 
-void CellPainter::drawParts(QPainter &painter, const PreviewScene &scene, int cell,
-                            const CellParts &parts, const CaptionColours &caption)
+void CellPainter::drawParts(QPainter &painter, const QRect &clip, const PreviewScene &scene,
+                            int cell, const CellParts &parts, const CaptionColours &caption)
 {
     const PreviewCell &drawn = scene.layout.cells.at(cell);
     const QPixmap *thumbnail = parts.photo ? thumbnailOf(scene, drawn) : nullptr;
@@ -135,10 +160,10 @@ void CellPainter::drawParts(QPainter &painter, const PreviewScene &scene, int ce
         painter.drawImage(tile.position, tile.image);
     }
     if (parts.outline) {
-        painter.drawRect(drawn.box);
+        drawOutline(painter, drawn.box);
     }
     if (parts.caption) {
-        captionFor(drawn, cell, painter.font()).draw(painter, caption);
+        captionFor(drawn, cell, painter.font()).draw(painter, clip, caption);
     }
 }
 
@@ -255,25 +280,23 @@ CellPainter::Caption::Caption(const PreviewCell &cell, const QFont &font)
     glyphs = text.glyphRuns();
 }
 
-void CellPainter::Caption::draw(QPainter &painter, const CaptionColours &colours) const
+void CellPainter::Caption::draw(QPainter &painter, const QRect &clip,
+                                const CaptionColours &colours) const
 {
     if (colours.ground.style() != Qt::NoBrush) {
         painter.fillRect(lines & room, colours.ground);
     }
-    const QPen outline = painter.pen();
-    const bool isCut = !room.contains(lines);
     painter.setPen(colours.text);
+    const bool isCut = !room.contains(lines);
     if (isCut) {
-        painter.save();
         painter.setClipRect(room, Qt::IntersectClip);
     }
     for (const QGlyphRun &run : glyphs) {
         painter.drawGlyphRun(room.topLeft(), run);
     }
     if (isCut) {
-        painter.restore();
+        painter.setClipRect(clip);
     }
-    painter.setPen(outline);
 }
 
 QRect CellPainter::Caption::rect() const

@@ -61,7 +61,7 @@ struct CellParts {
     [[nodiscard]] bool isNone() const { return !photo && !outline && !caption; }
 };
 
-/** Draws the cells of a scene, outlined with the painter's pen. */
+/** Draws the cells of a scene, outlined by a painter that has its default pen at first. */
 class CellPainter
 {
 public:
@@ -70,12 +70,13 @@ public:
                      const CaptionColours &caption);
 
     /**
-     * Draws \p parts of cell number \p cell with the pixels of `draw`, under any clip. A thumbnail
+     * Draws \p parts of cell number \p cell with the pixels of `draw`, cut to \p clip, which the
+     * painter has been given already. A thumbnail
      * is first scaled into a tile of its own: copying that gives the same pixels under any clip.
      * Tiles and captions with their lines broken are kept for the neighbours' next redraw.
      */
-    void drawParts(QPainter &painter, const PreviewScene &scene, int cell, const CellParts &parts,
-                   const CaptionColours &caption);
+    void drawParts(QPainter &painter, const QRect &clip, const PreviewScene &scene, int cell,
+                   const CellParts &parts, const CaptionColours &caption);
     /** The parts of cell number \p cell that may reach into \p rect, in the painter's font. */
     [[nodiscard]] CellParts partsIn(const QRect &rect, const PreviewScene &scene, int cell,
                                     const QPainter &painter);
@@ -98,7 +99,7 @@ private:
     struct Caption {
         Caption(const PreviewCell &cell, const QFont &font);
 
-        void draw(QPainter &painter, const CaptionColours &colours) const;
+        void draw(QPainter &painter, const QRect &clip, const CaptionColours &colours) const;
         /** Pixels that are drawn, and perhaps some around them. */
         [[nodiscard]] QRect rect() const;
 
