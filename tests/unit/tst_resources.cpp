@@ -1,10 +1,14 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QImage>
+#include <QLineF>
 #include <QRegularExpression>
+#include <QSet>
 #include <QTranslator>
+#include <QtMath>
 #include <QtTest>
 
 // Made by the resource compiler, named after the two collection files.
@@ -24,6 +28,7 @@ private Q_SLOTS:
     void uiIconHasItsSize_data();
     void uiIconHasItsSize();
     void busyAnimationTurnsWithEveryFrame();
+    void everyPictureIsDrawnFromItsSource();
     void controlModuleDeclaresItsTypes_data();
     void controlModuleDeclaresItsTypes();
     void uiPackHoldsItsScriptsAndPages();
@@ -164,24 +169,88 @@ void ResourcesTest::uiIconHasItsSize()
     QCOMPARE(QImage(path).size(), QSize(side, side));
 }
 
+/** How much colour a frame of the busy animation has around one of its dots, in opaque pixels. */
+static double inkOfDot(const QImage &frame, int hour)
+{
+    constexpr double kCentre = 16.0;
+    constexpr double kRing = 12.0; // pixels from the centre to the dots
+    constexpr double kReach = 3.1; // half the way to the next dot
+    const double angle = qDegreesToRadians(30.0 * hour);
+    const QPointF dot(kCentre + kRing * qSin(angle), kCentre - kRing * qCos(angle));
+    double ink = 0.0;
+    for (int y = 0; y < frame.height(); ++y) {
+        for (int x = 0; x < frame.width(); ++x) {
+            if (QLineF(dot, QPointF(x + 0.5, y + 0.5)).length() <= kReach)
+                ink += qAlpha(frame.pixel(x, y)) / 255.0;
+        }
+    }
+    return ink;
+}
+
 void ResourcesTest::busyAnimationTurnsWithEveryFrame()
 {
-    const auto frame = [](int number) {
-        return QImage(QStringLiteral(":/UI/iconwait_%1.png").arg(number, 2, 10, QLatin1Char('0')));
+    const auto inkOf = [](int number, int hour) {
+        const QImage frame(
+            QStringLiteral(":/UI/iconwait_%1.png").arg(number, 2, 10, QLatin1Char('0')));
+        return inkOfDot(frame, hour % 12);
     };
-    // The brightest dot sits at twelve o'clock first and moves on by a twelfth of a turn, so three
-    // frames are a quarter turn clockwise.
-    for (int number = 1; number <= 12; ++number) {
-        for (int other = number + 1; other <= 12; ++other)
-            QVERIFY2(frame(number) != frame(other), qPrintable(QString::number(number)));
+    // Of a dot with a radius of 3.1.
+    QVERIFY(inkOf(1, 0) > 24.0);
+    for (int hour = 1; hour < 12; ++hour) {
+        const QByteArray dot = QByteArray::number(hour);
+        // The brightest one has just been reached: the others fade counter-clockwise.
+        QVERIFY2(inkOf(1, hour) < inkOf(1, hour + 1), dot);
     }
-    const auto opacityAt
-        = [&frame](int number, int x, int y) { return qAlpha(frame(number).pixel(x, y)); };
-    QVERIFY(opacityAt(1, 16, 4) > 240);
-    QVERIFY(opacityAt(4, 28, 16) > 240);
-    QVERIFY(opacityAt(7, 16, 28) > 240);
-    QVERIFY(opacityAt(10, 4, 16) > 240);
-    QVERIFY(opacityAt(4, 16, 4) < 220);
+    // Every frame is the one before it, turned clockwise by a twelfth: the same ink one dot on. A
+    // dot that falls between pixels is smoothed differently.
+    for (int number = 2; number <= 12; ++number) {
+        for (int hour = 0; hour < 12; ++hour) {
+            const double before = inkOf(number - 1, hour);
+            const double after = inkOf(number, hour + 1);
+            QVERIFY2(qAbs(after - before) < 0.1 * before + 0.15,
+                     qPrintable(QStringLiteral("frame %1, dot %2: %3, before %4")
+                                    .arg(number)
+                                    .arg(hour + 1)
+                                    .arg(after)
+                                    .arg(before)));
+        }
+    }
+}
+
+void ResourcesTest::everyPictureIsDrawnFromItsSource()
+{
+    const QDir resources(QStringLiteral(RESOURCE_FOLDER));
+    QFile list(resources.filePath(QStringLiteral("svg/pictures.list")));
+    QVERIFY(list.open(QIODevice::ReadOnly));
+    QSet<QString> pictures;
+    QSet<QString> sources;
+    const QStringList lines = QString::fromUtf8(list.readAll()).split(QLatin1Char('\n'));
+    for (const QString &line : lines) {
+        const QStringList words = line.simplified().split(QLatin1Char(' '));
+        if (words.size() < 4 || line.startsWith(QLatin1Char('#')))
+            continue;
+        const QImage picture(resources.filePath(words.at(0)));
+        QVERIFY2(picture.size() == QSize(words.at(2).toInt(), words.at(3).toInt()),
+                 qPrintable(line));
+        pictures.insert(words.at(0));
+        sources.insert(words.at(1));
+    }
+    // None is drawn from nothing, and no drawing is left over.
+    const auto filesBelow
+        = [&resources](const QString &folder, const QString &pattern, const QDir &start) {
+              QSet<QString> found;
+              QDirIterator files(resources.filePath(folder), { pattern }, QDir::Files,
+                                 QDirIterator::Subdirectories);
+              while (files.hasNext())
+                  found.insert(start.relativeFilePath(files.next()));
+              return found;
+          };
+    QCOMPARE(pictures,
+             filesBelow(QStringLiteral("pictures"), QStringLiteral("*.png"), resources)
+                 + filesBelow(QStringLiteral("ui"), QStringLiteral("*.png"), resources));
+    QCOMPARE(sources,
+             filesBelow(QStringLiteral("svg"), QStringLiteral("*.svg"),
+                        QDir(resources.filePath(QStringLiteral("svg")))));
 }
 
 void ResourcesTest::controlModuleDeclaresItsTypes_data()
