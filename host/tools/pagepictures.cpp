@@ -143,7 +143,7 @@ public:
     }
 
     void everything(const DemoHead &head, const QStringList &files);
-    void generalTab(const DemoHead &head, const QStringList &files);
+    void smallTabs(const DemoHead &head, const QStringList &files);
     void choicePage();
 
 private:
@@ -233,13 +233,17 @@ void Photographer::everything(const DemoHead &head, const QStringList &files)
     wizard.reject();
 }
 
-void Photographer::generalTab(const DemoHead &head, const QStringList &files)
+void Photographer::smallTabs(const DemoHead &head, const QStringList &files)
 {
     const QString name = QString::fromLatin1(head.name);
     ImportWizard wizard(m_app, m_library);
     open(wizard, name);
     fill(wizard, files);
-    picture(wizard, name, kSizes.front());
+    auto *tabs = wizard.currentPage()->findChild<QTabWidget *>();
+    for (int tab = 0; tab < tabs->count(); ++tab) {
+        tabs->setCurrentIndex(tab);
+        picture(wizard, QStringLiteral("%1-tab%2").arg(name).arg(tab + 1), kSizes.front());
+    }
     wizard.reject();
 }
 
@@ -261,7 +265,7 @@ void addOptions(QCommandLineParser &line)
         { QStringLiteral("shoots"), QStringLiteral("for the photos; those there are used again"),
           QStringLiteral("FOLDER"), QStringLiteral("shoots") },
         { QStringLiteral("dark"), QStringLiteral("dark theme") },
-        { QStringLiteral("lang"), QStringLiteral("only the first tabs, in this language"),
+        { QStringLiteral("lang"), QStringLiteral("only the small tabs, in this language"),
           QStringLiteral("CODE") },
     });
 }
@@ -305,7 +309,7 @@ int main(int argc, char **argv)
             head,
             QDir(line.value(QStringLiteral("shoots"))).filePath(QString::fromLatin1(head.name)));
         if (line.isSet(QStringLiteral("lang"))) {
-            photographer.generalTab(head, files);
+            photographer.smallTabs(head, files);
         } else {
             photographer.everything(head, files);
         }
