@@ -110,6 +110,7 @@ private Q_SLOTS:
     void secondNextReordersItsOwnStacksOnly();
     void bracketCountBelowTwoBecomesOne_data();
     void bracketCountBelowTwoBecomesOne();
+    void twelvePhotosInThreesAreAccepted();
     void tenPhotosInThreesAreCompleteButRefused();
     void bracketBeyondThePhotosIsRefused_data();
     void bracketBeyondThePhotosIsRefused();
@@ -147,6 +148,7 @@ private Q_SLOTS:
     void controlKeyOpensNothingWithoutAPlace();
     void browserOpensWhatItIsGiven();
     void toolTipKeepsTheRecordsText();
+    void toolTipHasALineForWhatTheRecordLeavesOut();
     void toolTipIsShownAsPlainText();
 
     void pageMayGoWhilePhotosAreRead();
@@ -786,6 +788,22 @@ void TestUIWPVRDrive2::bracketCountBelowTwoBecomesOne()
     QCOMPARE(fakeHost().descriptions.first().imageGroups.size(), 2);
 }
 
+void TestUIWPVRDrive2::twelvePhotosInThreesAreAccepted()
+{
+    Shoot shoot;
+    shoot.loadRecord(bracketedRow(12, QStringLiteral("3")));
+    shoot.loadPhotos(12);
+    QVERIFY(shoot.page.isComplete());
+    QVERIFY(!shoot.page.m_lbWarning->isVisible());
+    const DialogClicker clicker;
+
+    QVERIFY(shoot.page.validatePage());
+
+    QVERIFY(clicker.messageBoxes().isEmpty());
+    QCOMPARE(fakeHost().descriptions.first().imageGroups.size(), 4);
+    QCOMPARE(fakeHost().descriptions.first().imageGroups.last().size(), 3);
+}
+
 void TestUIWPVRDrive2::tenPhotosInThreesAreCompleteButRefused()
 {
     Shoot shoot;
@@ -1357,6 +1375,22 @@ void TestUIWPVRDrive2::toolTipKeepsTheRecordsText()
     shoot.loadRecord(record);
 
     QCOMPARE(shoot.page.m_leConfigFile->toolTip(), QStringLiteral("a %2 %1 %3\n%1<b>%3</b>\nc"));
+}
+
+void TestUIWPVRDrive2::toolTipHasALineForWhatTheRecordLeavesOut()
+{
+    const Shoot shoot;
+
+    shoot.driver.load(kSelectRecord,
+                      { shoot.folder.write(QStringLiteral("bare.xml"),
+                                           "<papywizard><header><general><gps> 1,2 </gps></general>"
+                                           "</header><shoot/></papywizard>") });
+    QCOMPARE(shoot.page.m_leConfigFile->toolTip(), QStringLiteral("\n1,2\n"));
+
+    shoot.driver.load(
+        kSelectRecord,
+        { shoot.folder.write(QStringLiteral("barer.xml"), "<papywizard><shoot/></papywizard>") });
+    QCOMPARE(shoot.page.m_leConfigFile->toolTip(), QStringLiteral("\n\n"));
 }
 
 void TestUIWPVRDrive2::toolTipIsShownAsPlainText()
