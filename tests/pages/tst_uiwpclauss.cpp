@@ -216,7 +216,7 @@ void TestUIWPClauss::scriptIsShownInTheLabels_data()
     add("CR LF", row(2).replace("\n", "\r\n"), "2", "0,30", "0,0");
     add("NUL between the lines", row(2) + '\0' + row(5), "2", "0,30", "0,0");
     add("NUL first", '\0' + row(2), "N/A", "3.40282e+38,-3.40282e+38", "3.40282e+38,-3.40282e+38");
-    add("bad number behind a NUL", row(2) + '\0' + "op_h-angle=x\n", "2", "0,30", "0,0");
+    add("bad number behind a NUL", row(2) + '\0' + "\nop_h-angle=x\n", "2", "0,30", "0,0");
     add("invalid UTF-8", "\xC3(\xFF\n" + row(2), "2", "0,30", "0,0");
     add("commands of another head", "op_speed=fast\n" + row(2) + "OP_SHOOT\n op_shoot\n", "2",
         "0,30", "0,0");
