@@ -223,6 +223,15 @@ void TestUIWPVRDrive2::recordIsShownInTheLabels_data()
     lens.coef = QStringLiteral("1.6126");
     row("focal length times coefficient, two decimals", lens,
         { QStringLiteral("1"), zero, zero, none, QStringLiteral("16.13mm") });
+    for (const char *coef : { "nan", "inf", "1e39", "wide" }) {
+        lens.coef = QString::fromLatin1(coef);
+        row(QByteArray("no coefficient, so 1: ") + coef, lens,
+            { QStringLiteral("1"), zero, zero, none, QStringLiteral("10.00mm") });
+    }
+    for (const char *focal : { "nan", "inf", "1e999" }) {
+        row(QByteArray("no focal length, so 0: ") + focal, rowWithLens(1, QLatin1String(focal)),
+            { QStringLiteral("1"), zero, zero, none, QStringLiteral("0.00mm") });
+    }
     row("focal length is no number", rowWithLens(1, QStringLiteral("wide")),
         { QStringLiteral("1"), zero, zero, none, QStringLiteral("0.00mm") });
 }
