@@ -73,6 +73,14 @@ void PreviewCanvas::forgetPhotos()
     std::fill(m_scene.images.begin(), m_scene.images.end(), nullptr);
 }
 
+void PreviewCanvas::clear()
+{
+    m_isValid = false;
+    m_image = QImage();
+    m_scene = PreviewScene();
+    m_painter.reset(0);
+}
+
 void PreviewCanvas::redraw()
 {
     m_isValid = false;

@@ -48,6 +48,8 @@ public:
     void update(const PreviewScene &scene, const PreviewColours &colours, const Change &change);
     /** The next update redraws everything: fonts have changed. */
     void invalidate() { m_isValid = false; }
+    /** Forgets picture and scene. */
+    void clear();
     /** The photos drawn so far may be gone; another one may even have the same address. */
     void forgetPhotos();
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/previewlabel.h"
 
+#include "ui/pixels.h"
+
 #include <QEvent>
 #include <QResizeEvent>
 #include <QScrollArea>
@@ -70,6 +72,14 @@ void PreviewLabel::prepareScene(const PreviewScene &scene)
     }
 }
 
+void PreviewLabel::showNothing()
+{
+    clear();
+    m_scene = PreviewScene();
+    m_canvas.clear();
+    m_zoomed.forget();
+}
+
 void PreviewLabel::forgetPhotos()
 {
     m_scene.images.clear();
@@ -78,8 +88,9 @@ void PreviewLabel::forgetPhotos()
 
 void PreviewLabel::showAll()
 {
-    setPixmap(
-        QPixmap::fromImage(m_zoomed.make(m_canvas.image(), m_zoomPercent), Qt::NoOpaqueDetection));
+    const QImage copy = m_zoomed.make(m_canvas.image(), m_zoomPercent);
+    setPixmap(copy.isNull() ? QPixmap()
+                            : withPixels(QPixmap::fromImage(copy, Qt::NoOpaqueDetection)));
 }
 
 /** Without a new layout of the page, and without a repaint when nobody can see \p region. */
@@ -114,7 +125,7 @@ void PreviewLabel::changeEvent(QEvent *event)
     case QEvent::StyleChange:
         m_canvas.invalidate();
         if (!m_scene.layout.isEmpty()) {
-            showScene(PreviewScene(m_scene), m_zoomPercent);
+            withinMemory([this] { showScene(PreviewScene(m_scene), m_zoomPercent); });
         }
         break;
     default:

@@ -7,6 +7,8 @@
 
 #include <QLabel>
 
+#include <new>
+
 namespace PanoHead
 {
 
@@ -22,10 +24,20 @@ class PreviewLabel : public QLabel
 public:
     using QLabel::QLabel;
 
-    /** Shows \p scene at \p zoomPercent of its size. Its photos must outlive the next call. */
+    /** Shows \p scene at \p zoomPercent of its size. Its photos must outlive the next call. Throws
+     * std::bad_alloc; the picture may be half drawn then. */
     void showScene(const PreviewScene &scene, int zoomPercent);
     /** Draws \p scene already, as far as nobody sees it: the next call shows it sooner. */
     void prepareScene(const PreviewScene &scene);
+    /** Calls \p draw, which works out and shows a scene; without memory for it nothing is shown. */
+    template <typename Draw> void withinMemory(const Draw &draw)
+    {
+        try {
+            draw();
+        } catch (const std::bad_alloc &) {
+            showNothing();
+        }
+    }
     /** The photos shown may be gone before the next call. */
     void forgetPhotos();
 
@@ -35,6 +47,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void showNothing();
     [[nodiscard]] PreviewColours colours(CellStyle style) const;
     void showAll();
     void showPart(const QRegion &region);

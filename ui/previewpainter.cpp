@@ -3,6 +3,7 @@
 #include "ui/previewpainter.h"
 
 #include "plugin/xiimagedef.h"
+#include "ui/pixels.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -38,7 +39,7 @@ QPixmap turned(const QPixmap &thumbnail, const PreviewCell &cell)
     if (isUnturned(cell)) {
         return thumbnail;
     }
-    return thumbnail.transformed(QTransform().rotate(static_cast<qreal>(cell.roll)));
+    return withPixels(thumbnail.transformed(QTransform().rotate(static_cast<qreal>(cell.roll))));
 }
 
 QString captionText(const PreviewCell &cell)
@@ -237,10 +238,10 @@ CellPainter::Tile CellPainter::drawnTile(const QPixmap &photo, const PreviewCell
 {
     Tile tile;
     tile.position = room.topLeft();
-    tile.image = QImage(room.size(), QImage::Format_ARGB32_Premultiplied);
-    if (tile.image.isNull()) {
+    if (room.isEmpty()) {
         return tile;
     }
+    tile.image = withPixels(QImage(room.size(), QImage::Format_ARGB32_Premultiplied));
     tile.image.fill(Qt::transparent);
     QPainter painter(&tile.image);
     // Moved by the painter, not beforehand: the scale comes from the box as it is, and a rounding

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/zoomedcopy.h"
 
+#include "ui/pixels.h"
+
 #include <QPainter>
 #include <QPixmap>
 
@@ -23,12 +25,13 @@ int zoomed(int side, int percent)
 std::vector<int> sourceTable(int sourceSide, int side, Qt::Orientation orientation)
 {
     const bool isRow = orientation == Qt::Horizontal;
-    QImage numbers(isRow ? sourceSide : 1, isRow ? 1 : sourceSide, QImage::Format_RGB32);
+    QImage numbers
+        = withPixels(QImage(isRow ? sourceSide : 1, isRow ? 1 : sourceSide, QImage::Format_RGB32));
     for (int i = 0; i < sourceSide; ++i) {
         numbers.setPixel(isRow ? i : 0, isRow ? 0 : i, static_cast<uint>(i));
     }
-    const QImage picked = numbers.scaled(isRow ? side : 1, isRow ? 1 : side, Qt::IgnoreAspectRatio,
-                                         Qt::FastTransformation);
+    const QImage picked = withPixels(numbers.scaled(isRow ? side : 1, isRow ? 1 : side,
+                                                    Qt::IgnoreAspectRatio, Qt::FastTransformation));
     std::vector<int> table;
     table.reserve(side);
     for (int i = 0; i < side; ++i) {
@@ -57,7 +60,7 @@ QImage ZoomedCopy::make(const QImage &original, int percent)
     }
     m_sourceColumns = sourceTable(original.width(), size.width(), Qt::Horizontal);
     m_sourceRows = sourceTable(original.height(), size.height(), Qt::Vertical);
-    return original.scaled(size, Qt::IgnoreAspectRatio, Qt::FastTransformation);
+    return withPixels(original.scaled(size, Qt::IgnoreAspectRatio, Qt::FastTransformation));
 }
 
 QRegion ZoomedCopy::patch(QPixmap *copy, const QImage &original, const QRegion &region) const
@@ -74,7 +77,7 @@ QRegion ZoomedCopy::patch(QPixmap *copy, const QImage &original, const QRegion &
         if (left >= right || top >= bottom) {
             continue;
         }
-        QImage part(right - left, bottom - top, original.format());
+        QImage part = withPixels(QImage(right - left, bottom - top, original.format()));
         for (int y = top; y < bottom; ++y) {
             const auto *source
                 = reinterpret_cast<const QRgb *>(original.constScanLine(m_sourceRows[y]));

@@ -19,11 +19,12 @@ namespace PanoHead
 class ZoomedCopy
 {
 public:
-    /** A copy of \p original; null when a side would have less than one pixel. */
+    /** A copy of \p original; null when a side would have less than one pixel. Throws
+     * std::bad_alloc. */
     [[nodiscard]] QImage make(const QImage &original, int percent);
     /**
      * Copies the pixels that come from \p region of \p original again, onto \p copy, which `make`
-     * made of a picture of the same size. Answers the pixels copied.
+     * made of a picture of the same size. Answers the pixels copied. Throws std::bad_alloc.
      */
     QRegion patch(QPixmap *copy, const QImage &original, const QRegion &region) const;
     /** No copy is known any more. */

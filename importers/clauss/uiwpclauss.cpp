@@ -10,6 +10,7 @@
 #include "ui/connectpage.h"
 #include "ui/filedialogs.h"
 #include "ui/formviews.h"
+#include "ui/lowmemory.h"
 #include "ui/messageboxes.h"
 #include "ui/pagesetup.h"
 #include "ui/previewlabel.h"
@@ -81,9 +82,24 @@ bool UIWPClauss::validatePage()
     if (host == nullptr) {
         return true;
     }
+    const bool isDescribed = describeWithinMemory(
+        this, *this, [this] { return describe(); },
+        [this] {
+            return BoxTexts{ tr("Warning"),
+                             tr("There is not enough memory for so many images. Close other "
+                                "programs and try again.") };
+        });
+    if (!isDescribed) {
+        return false;
+    }
+    host->ImportStructuredPanorama(*this);
+    return true;
+}
+
+bool UIWPClauss::describe()
+{
     generateSPP(m_state.images, m_readingThread->XIImageDefs());
     writeOptions(*this, detectionOptionsOf(*this));
-    host->ImportStructuredPanorama(*this);
     return true;
 }
 
@@ -201,11 +217,16 @@ void UIWPClauss::UpdateUI()
 
 void UIWPClauss::UpdatePreview()
 {
+    m_preview->withinMemory([this] { showPreview(); });
+    Q_EMIT completeChanged();
+}
+
+void UIWPClauss::showPreview()
+{
     previewImages = m_shotOrder.update(m_readingThread->XIImageDefs());
     // After a failed parse positions may be left, without a range to lay them out over.
     const bool hasRecord = m_state.shotCount > 0;
     m_preview->showScene(
         { hasRecord ? m_layout.of(shots, m_state.extents()) : PreviewLayout(), previewImages },
         m_hSlider->value());
-    Q_EMIT completeChanged();
 }

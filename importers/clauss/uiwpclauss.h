@@ -56,6 +56,9 @@ public Q_SLOTS:
 private:
     void CreateWidgets();
     void CreateConnects();
+    /** Fills the description; false when the user must change something first. */
+    [[nodiscard]] bool describe();
+    void showPreview();
     void usePhotos(const QStringList &photos);
 
     PanoHead::ShootState m_state;

@@ -10,6 +10,7 @@
 #include "ui/connectpage.h"
 #include "ui/filedialogs.h"
 #include "ui/formviews.h"
+#include "ui/lowmemory.h"
 #include "ui/pagesetup.h"
 #include "ui/previewlabel.h"
 #include "ui/xnoevent.h"
@@ -100,11 +101,26 @@ bool UIWPGigapan::validatePage()
     if (host == nullptr) {
         return true;
     }
+    const bool isDescribed = describeWithinMemory(
+        this, *this, [this] { return describe(); },
+        [this] {
+            return BoxTexts{ tr("Warning"),
+                             tr("There is not enough memory for so many images. Close other "
+                                "programs and try again.") };
+        });
+    if (!isDescribed) {
+        return false;
+    }
+    host->ImportStructuredPanorama(*this);
+    return true;
+}
+
+bool UIWPGigapan::describe()
+{
     generateSPP(images, m_cbIS360->checkState() == Qt::Checked);
     overlap = m_dsbOverlapping->value();
     writeLinking(*this, linkingChoicesOf(*this));
     writeOptions(*this, detectionOptions(*this));
-    host->ImportStructuredPanorama(*this);
     return true;
 }
 
@@ -242,12 +258,17 @@ void UIWPGigapan::UpdateUI()
 void UIWPGigapan::UpdatePreview()
 {
     const XNoEvent noEvent(m_isUpdating);
+    m_preview->withinMemory([this] { showPreview(); });
+    Q_EMIT completeChanged();
+}
+
+void UIWPGigapan::showPreview()
+{
     refreshPreviewImages();
     const GridView grid{ m_sbRow->value(), m_sbColumn->value(), mode, bracketCount, ignoredCount };
     m_preview->showScene(
         { m_layout.of(grid, thumbnailSize()), previewImages, CellStyle::UnscaledPhoto },
         m_hSlider->value());
-    Q_EMIT completeChanged();
 }
 
 void UIWPGigapan::refreshPreviewImages()

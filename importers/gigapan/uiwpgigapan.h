@@ -59,6 +59,9 @@ public Q_SLOTS:
 private:
     void CreateWidgets();
     void CreateConnects();
+    /** Fills the description; false when the user must change something first. */
+    [[nodiscard]] bool describe();
+    void showPreview();
     void setGrid(qint32 &setting, int value);
     void setMode(int gridOrder, bool checked);
     void refreshPreviewImages();

@@ -12,6 +12,7 @@
 #include "ui/connectpage.h"
 #include "ui/filedialogs.h"
 #include "ui/formviews.h"
+#include "ui/lowmemory.h"
 #include "ui/messageboxes.h"
 #include "ui/pagesetup.h"
 #include "ui/plaintooltip.h"
@@ -82,6 +83,22 @@ bool UIWPMerlin::validatePage()
     if (host == nullptr) {
         return true;
     }
+    const bool isDescribed = describeWithinMemory(
+        this, *this, [this] { return describe(); },
+        [this] {
+            return BoxTexts{ tr("Warning"),
+                             tr("There is not enough memory for so many images. Close other "
+                                "programs and try again.") };
+        });
+    if (!isDescribed) {
+        return false;
+    }
+    host->ImportStructuredPanorama(*this);
+    return true;
+}
+
+bool UIWPMerlin::describe()
+{
     if (warnsOfBrackets(this, m_state.images.size(), nbPicts,
                         { tr("Warning"),
                           tr("Papywizard XML has bracketing and the number of images isn't a "
@@ -93,7 +110,6 @@ bool UIWPMerlin::validatePage()
                 static_cast<LensModel>(m_cbLensType->currentIndex()));
     writeLinking(*this, linkingChoicesOf(*this));
     writeOptions(*this, detectionOptionsOf(*this));
-    host->ImportStructuredPanorama(*this);
     return true;
 }
 
@@ -270,6 +286,11 @@ void UIWPMerlin::UpdateUI()
 }
 
 void UIWPMerlin::UpdatePreview()
+{
+    m_preview->withinMemory([this] { showPreview(); });
+}
+
+void UIWPMerlin::showPreview()
 {
     const QList<XIImageDef *> read = m_readingThread->XIImageDefs();
     // The same number of photos counts as the same picture, none included: wanted. Whoever changes

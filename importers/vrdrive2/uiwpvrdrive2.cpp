@@ -12,6 +12,7 @@
 #include "ui/connectpage.h"
 #include "ui/filedialogs.h"
 #include "ui/formviews.h"
+#include "ui/lowmemory.h"
 #include "ui/messageboxes.h"
 #include "ui/pagesetup.h"
 #include "ui/plaintooltip.h"
@@ -89,6 +90,22 @@ bool UIWPVRDrive2::validatePage()
     if (host == nullptr) {
         return true;
     }
+    const bool isDescribed = describeWithinMemory(
+        this, *this, [this] { return describe(); },
+        [this] {
+            return BoxTexts{ tr("Warning"),
+                             tr("There is not enough memory for so many images. Close other "
+                                "programs and try again.") };
+        });
+    if (!isDescribed) {
+        return false;
+    }
+    host->ImportStructuredPanorama(*this);
+    return true;
+}
+
+bool UIWPVRDrive2::describe()
+{
     if (warnsOfBrackets(this, m_state.images.size(), nbPicts,
                         { tr("Warning"),
                           tr("Papywizard XML has bracketing and the number of images isn't a "
@@ -101,7 +118,6 @@ bool UIWPVRDrive2::validatePage()
     writeLinking(*this, linkingChoicesOf(*this));
     writeOptions(*this, detectionOptionsOf(*this));
     renderMode = m_rbOutputMode1->isChecked() ? kTonemapped : kHdrRadiance;
-    host->ImportStructuredPanorama(*this);
     return true;
 }
 
@@ -268,6 +284,9 @@ void UIWPVRDrive2::UpdateUI()
 
 void UIWPVRDrive2::UpdatePreview()
 {
-    m_preview->showScene({ m_layout.of(shots, m_state.extents()), m_readingThread->XIImageDefs() },
-                         m_hSlider->value());
+    m_preview->withinMemory([this] {
+        m_preview->showScene(
+            { m_layout.of(shots, m_state.extents()), m_readingThread->XIImageDefs() },
+            m_hSlider->value());
+    });
 }

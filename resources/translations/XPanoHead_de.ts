@@ -27,6 +27,14 @@
         <source>N/A</source>
         <translation>k. A.</translation>
     </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for so many images. Close other programs and try again.</source>
+        <translation>Für so viele Bilder ist nicht genügend Speicher frei. Schließen Sie andere Programme und versuchen Sie es erneut.</translation>
+    </message>
 </context>
 <context>
     <name>UIWPClaussClass</name>
@@ -128,6 +136,14 @@
     <message>
         <source>images in </source>
         <translation>Bilder in </translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for so many images. Close other programs and try again.</source>
+        <translation>Für so viele Bilder ist nicht genügend Speicher frei. Schließen Sie andere Programme und versuchen Sie es erneut.</translation>
     </message>
 </context>
 <context>
@@ -318,6 +334,10 @@
     <message>
         <source>Lens type difference between EXIF and XML</source>
         <translation>Objektivtyp in EXIF und XML verschieden</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for so many images. Close other programs and try again.</source>
+        <translation>Für so viele Bilder ist nicht genügend Speicher frei. Schließen Sie andere Programme und versuchen Sie es erneut.</translation>
     </message>
 </context>
 <context>
@@ -540,6 +560,10 @@
     <message>
         <source>Lens type difference between EXIF and XML</source>
         <translation>Objektivtyp in EXIF und XML verschieden</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for so many images. Close other programs and try again.</source>
+        <translation>Für so viele Bilder ist nicht genügend Speicher frei. Schließen Sie andere Programme und versuchen Sie es erneut.</translation>
     </message>
 </context>
 <context>

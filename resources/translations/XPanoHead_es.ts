@@ -27,6 +27,14 @@
         <source>N/A</source>
         <translation>N/D</translation>
     </message>
+    <message>
+        <source>Warning</source>
+        <translation>Advertencia</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for so many images. Close other programs and try again.</source>
+        <translation>No hay memoria suficiente para tantas imágenes. Cierre otros programas e inténtelo de nuevo.</translation>
+    </message>
 </context>
 <context>
     <name>UIWPClaussClass</name>
@@ -128,6 +136,14 @@
     <message>
         <source>images in </source>
         <translation>imágenes en </translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Advertencia</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for so many images. Close other programs and try again.</source>
+        <translation>No hay memoria suficiente para tantas imágenes. Cierre otros programas e inténtelo de nuevo.</translation>
     </message>
 </context>
 <context>
@@ -318,6 +334,10 @@
     <message>
         <source>Lens type difference between EXIF and XML</source>
         <translation>El tipo de objetivo difiere entre EXIF y XML</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for so many images. Close other programs and try again.</source>
+        <translation>No hay memoria suficiente para tantas imágenes. Cierre otros programas e inténtelo de nuevo.</translation>
     </message>
 </context>
 <context>
@@ -540,6 +560,10 @@
     <message>
         <source>Lens type difference between EXIF and XML</source>
         <translation>El tipo de objetivo difiere entre EXIF y XML</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for so many images. Close other programs and try again.</source>
+        <translation>No hay memoria suficiente para tantas imágenes. Cierre otros programas e inténtelo de nuevo.</translation>
     </message>
 </context>
 <context>

@@ -27,6 +27,14 @@
         <source>N/A</source>
         <translation>N/D</translation>
     </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for so many images. Close other programs and try again.</source>
+        <translation>La mémoire ne suffit pas pour autant d&apos;images. Fermez d&apos;autres programmes et réessayez.</translation>
+    </message>
 </context>
 <context>
     <name>UIWPClaussClass</name>
@@ -128,6 +136,14 @@
     <message>
         <source>images in </source>
         <translation>images sur </translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for so many images. Close other programs and try again.</source>
+        <translation>La mémoire ne suffit pas pour autant d&apos;images. Fermez d&apos;autres programmes et réessayez.</translation>
     </message>
 </context>
 <context>
@@ -318,6 +334,10 @@
     <message>
         <source>Lens type difference between EXIF and XML</source>
         <translation>Le type d&apos;objectif diffère entre EXIF et XML</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for so many images. Close other programs and try again.</source>
+        <translation>La mémoire ne suffit pas pour autant d&apos;images. Fermez d&apos;autres programmes et réessayez.</translation>
     </message>
 </context>
 <context>
@@ -540,6 +560,10 @@
     <message>
         <source>Lens type difference between EXIF and XML</source>
         <translation>Le type d&apos;objectif diffère entre EXIF et XML</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for so many images. Close other programs and try again.</source>
+        <translation>La mémoire ne suffit pas pour autant d&apos;images. Fermez d&apos;autres programmes et réessayez.</translation>
     </message>
 </context>
 <context>

@@ -27,6 +27,14 @@
         <source>N/A</source>
         <translation>N/D</translation>
     </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avviso</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for so many images. Close other programs and try again.</source>
+        <translation>La memoria non è sufficiente per così tante immagini. Chiudere altri programmi e riprovare.</translation>
+    </message>
 </context>
 <context>
     <name>UIWPClaussClass</name>
@@ -128,6 +136,14 @@
     <message>
         <source>images in </source>
         <translation>immagini in </translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avviso</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for so many images. Close other programs and try again.</source>
+        <translation>La memoria non è sufficiente per così tante immagini. Chiudere altri programmi e riprovare.</translation>
     </message>
 </context>
 <context>
@@ -318,6 +334,10 @@
     <message>
         <source>Lens type difference between EXIF and XML</source>
         <translation>Il tipo di obiettivo differisce tra EXIF e XML</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for so many images. Close other programs and try again.</source>
+        <translation>La memoria non è sufficiente per così tante immagini. Chiudere altri programmi e riprovare.</translation>
     </message>
 </context>
 <context>
@@ -540,6 +560,10 @@
     <message>
         <source>Lens type difference between EXIF and XML</source>
         <translation>Il tipo di obiettivo differisce tra EXIF e XML</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for so many images. Close other programs and try again.</source>
+        <translation>La memoria non è sufficiente per così tante immagini. Chiudere altri programmi e riprovare.</translation>
     </message>
 </context>
 <context>

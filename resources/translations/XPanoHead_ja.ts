@@ -27,6 +27,14 @@
         <source>N/A</source>
         <translation>なし</translation>
     </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for so many images. Close other programs and try again.</source>
+        <translation>これだけ多くの画像を処理するメモリが足りません。他のプログラムを閉じてから、もう一度お試しください。</translation>
+    </message>
 </context>
 <context>
     <name>UIWPClaussClass</name>
@@ -128,6 +136,14 @@
     <message>
         <source>images in </source>
         <translation>枚の画像: </translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for so many images. Close other programs and try again.</source>
+        <translation>これだけ多くの画像を処理するメモリが足りません。他のプログラムを閉じてから、もう一度お試しください。</translation>
     </message>
 </context>
 <context>
@@ -318,6 +334,10 @@
     <message>
         <source>Lens type difference between EXIF and XML</source>
         <translation>EXIF と XML でレンズの種類が異なります</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for so many images. Close other programs and try again.</source>
+        <translation>これだけ多くの画像を処理するメモリが足りません。他のプログラムを閉じてから、もう一度お試しください。</translation>
     </message>
 </context>
 <context>
@@ -540,6 +560,10 @@
     <message>
         <source>Lens type difference between EXIF and XML</source>
         <translation>EXIF と XML でレンズの種類が異なります</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for so many images. Close other programs and try again.</source>
+        <translation>これだけ多くの画像を処理するメモリが足りません。他のプログラムを閉じてから、もう一度お試しください。</translation>
     </message>
 </context>
 <context>

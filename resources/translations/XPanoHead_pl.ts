@@ -27,6 +27,14 @@
         <source>N/A</source>
         <translation>brak</translation>
     </message>
+    <message>
+        <source>Warning</source>
+        <translation>Ostrzeżenie</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for so many images. Close other programs and try again.</source>
+        <translation>Za mało pamięci na tak wiele zdjęć. Zamknij inne programy i spróbuj ponownie.</translation>
+    </message>
 </context>
 <context>
     <name>UIWPClaussClass</name>
@@ -128,6 +136,14 @@
     <message>
         <source>images in </source>
         <translation>zdj. w </translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Ostrzeżenie</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for so many images. Close other programs and try again.</source>
+        <translation>Za mało pamięci na tak wiele zdjęć. Zamknij inne programy i spróbuj ponownie.</translation>
     </message>
 </context>
 <context>
@@ -318,6 +334,10 @@
     <message>
         <source>Lens type difference between EXIF and XML</source>
         <translation>Typ obiektywu w EXIF i XML jest różny</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for so many images. Close other programs and try again.</source>
+        <translation>Za mało pamięci na tak wiele zdjęć. Zamknij inne programy i spróbuj ponownie.</translation>
     </message>
 </context>
 <context>
@@ -540,6 +560,10 @@
     <message>
         <source>Lens type difference between EXIF and XML</source>
         <translation>Typ obiektywu w EXIF i XML jest różny</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for so many images. Close other programs and try again.</source>
+        <translation>Za mało pamięci na tak wiele zdjęć. Zamknij inne programy i spróbuj ponownie.</translation>
     </message>
 </context>
 <context>

@@ -27,6 +27,14 @@
         <source>N/A</source>
         <translation>Н/Д</translation>
     </message>
+    <message>
+        <source>Warning</source>
+        <translation>Предупреждение</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for so many images. Close other programs and try again.</source>
+        <translation>Недостаточно памяти для такого количества изображений. Закройте другие программы и повторите попытку.</translation>
+    </message>
 </context>
 <context>
     <name>UIWPClaussClass</name>
@@ -128,6 +136,14 @@
     <message>
         <source>images in </source>
         <translation>фото в сетке: </translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Предупреждение</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for so many images. Close other programs and try again.</source>
+        <translation>Недостаточно памяти для такого количества изображений. Закройте другие программы и повторите попытку.</translation>
     </message>
 </context>
 <context>
@@ -318,6 +334,10 @@
     <message>
         <source>Lens type difference between EXIF and XML</source>
         <translation>Тип объектива в EXIF и XML различается</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for so many images. Close other programs and try again.</source>
+        <translation>Недостаточно памяти для такого количества изображений. Закройте другие программы и повторите попытку.</translation>
     </message>
 </context>
 <context>
@@ -540,6 +560,10 @@
     <message>
         <source>Lens type difference between EXIF and XML</source>
         <translation>Тип объектива в EXIF и XML различается</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for so many images. Close other programs and try again.</source>
+        <translation>Недостаточно памяти для такого количества изображений. Закройте другие программы и повторите попытку.</translation>
     </message>
 </context>
 <context>

@@ -27,6 +27,14 @@
         <source>N/A</source>
         <translation>無</translation>
     </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for so many images. Close other programs and try again.</source>
+        <translation>記憶體不足，無法處理這麼多影像。請關閉其他程式後再試一次。</translation>
+    </message>
 </context>
 <context>
     <name>UIWPClaussClass</name>
@@ -128,6 +136,14 @@
     <message>
         <source>images in </source>
         <translation>張影像，共 </translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for so many images. Close other programs and try again.</source>
+        <translation>記憶體不足，無法處理這麼多影像。請關閉其他程式後再試一次。</translation>
     </message>
 </context>
 <context>
@@ -318,6 +334,10 @@
     <message>
         <source>Lens type difference between EXIF and XML</source>
         <translation>EXIF 與 XML 的鏡頭類型不同</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for so many images. Close other programs and try again.</source>
+        <translation>記憶體不足，無法處理這麼多影像。請關閉其他程式後再試一次。</translation>
     </message>
 </context>
 <context>
@@ -540,6 +560,10 @@
     <message>
         <source>Lens type difference between EXIF and XML</source>
         <translation>EXIF 與 XML 的鏡頭類型不同</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for so many images. Close other programs and try again.</source>
+        <translation>記憶體不足，無法處理這麼多影像。請關閉其他程式後再試一次。</translation>
     </message>
 </context>
 <context>
