@@ -24,11 +24,6 @@ namespace PanoHost
 namespace
 {
 
-QString yesOrNo(bool yes)
-{
-    return yes ? ResultPage::tr("yes") : ResultPage::tr("no");
-}
-
 QString countsText(const Panorama &panorama)
 {
     return ResultPage::tr("Positions: %1\nPhotos: %2\nLinks: %3")
@@ -43,19 +38,38 @@ QString lensText(const Panorama &panorama)
     return ResultPage::tr("Lens: %1, %2 mm").arg(lens, QString::number(panorama.focal35mm, 'g', 5));
 }
 
-QString optionsText(const StructuredPanoramaProperties &description)
+QString pointsText(const StructuredPanoramaProperties &description)
 {
-    const QString stack
-        = description.stackLinking == 0 ? ResultPage::tr("hard links") : ResultPage::tr("detected");
-    const QString level = description.levelLinking == 0 ? ResultPage::tr("reference level")
-                                                        : ResultPage::tr("all levels");
-    const QString points = ResultPage::tr("Control points: automatic %1, %2, stacks %3, cleaned %4")
-                               .arg(yesOrNo(description.autoDetection), level, stack,
-                                    yesOrNo(description.cleanWrongLinks));
-    const QString optimisation
-        = ResultPage::tr("Optimisation: skipped %1, from the recorded location %2")
-              .arg(yesOrNo(description.skipOptimization), yesOrNo(description.useRecordedLocation));
-    return points + QLatin1Char('\n') + optimisation;
+    const QString detection
+        = description.autoDetection ? ResultPage::tr("automatic") : ResultPage::tr("not automatic");
+    const QString level = description.levelLinking == 0 ? ResultPage::tr("the reference level")
+                                                        : ResultPage::tr("all stack levels");
+    const QString stack = description.stackLinking == 0 ? ResultPage::tr("hard links")
+                                                        : ResultPage::tr("detected links");
+    const QString wrong
+        = description.cleanWrongLinks ? ResultPage::tr("removed") : ResultPage::tr("kept");
+    return ResultPage::tr("Control points: %1 on %2, %3 within stacks, wrong links %4")
+        .arg(detection, level, stack, wrong);
+}
+
+QString optimizationText(const StructuredPanoramaProperties &description)
+{
+    if (description.skipOptimization) {
+        return description.useRecordedLocation
+            ? ResultPage::tr("Optimization: skipped, the recorded location is kept")
+            : ResultPage::tr("Optimization: skipped");
+    }
+    return description.useRecordedLocation
+        ? ResultPage::tr("Optimization: starts from the recorded location")
+        : ResultPage::tr("Optimization: starts without the recorded location");
+}
+
+QString summary(const Panorama &panorama)
+{
+    const QStringList lines{ countsText(panorama), lensText(panorama),
+                             pointsText(panorama.description),
+                             optimizationText(panorama.description) };
+    return lines.join(QLatin1Char('\n'));
 }
 
 } // namespace
@@ -153,10 +167,7 @@ void ResultPage::showPanorama(const Result<Panorama> &panorama)
     m_warningIcon->setVisible(!warnings.isEmpty());
     m_warnings->setVisible(!warnings.isEmpty());
     m_warnings->setText(warnings);
-    m_summary->setText(panorama ? countsText(panorama.value()) + QLatin1Char('\n')
-                               + lensText(panorama.value()) + QLatin1Char('\n')
-                               + optionsText(panorama.value().description)
-                                : tr("Nothing that can be saved."));
+    m_summary->setText(panorama ? summary(panorama.value()) : tr("Nothing that can be saved."));
     m_layout->show(panorama ? layoutScene(panorama.value()) : LayoutScene{});
     m_saveProject->setEnabled(panorama.ok());
     m_saveJson->setEnabled(panorama.ok());

@@ -222,9 +222,9 @@ void TestImportWizard::resultIsSummedUp()
     const QString summary = result()->findChild<QLabel *>(QStringLiteral("m_summary"))->text();
     QCOMPARE(summary,
              QStringLiteral("Positions: 3\nPhotos: 3\nLinks: 3\nLens: standard, 24 mm\n"
-                            "Control points: automatic yes, reference level, stacks hard "
-                            "links, cleaned no\n"
-                            "Optimisation: skipped yes, from the recorded location yes"));
+                            "Control points: automatic on the reference level, "
+                            "hard links within stacks, wrong links kept\n"
+                            "Optimization: skipped, the recorded location is kept"));
     const LayoutScene scene = layoutScene(*result()->panorama());
     QCOMPARE(scene.places.size(), 3);
     QVERIFY(qAbs(scene.places.at(2).x() - 60.0) < 1e-4);
