@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>There is not enough memory for so many images. Close other programs and try again.</source>
-        <translation>Für so viele Bilder ist nicht genügend Speicher frei. Schließen Sie andere Programme und versuchen Sie es erneut.</translation>
+        <translation>Für so viele Bilder ist nicht genügend Arbeitsspeicher frei. Schließen Sie andere Programme und versuchen Sie es erneut.</translation>
     </message>
 </context>
 <context>
@@ -143,7 +143,7 @@
     </message>
     <message>
         <source>There is not enough memory for so many images. Close other programs and try again.</source>
-        <translation>Für so viele Bilder ist nicht genügend Speicher frei. Schließen Sie andere Programme und versuchen Sie es erneut.</translation>
+        <translation>Für so viele Bilder ist nicht genügend Arbeitsspeicher frei. Schließen Sie andere Programme und versuchen Sie es erneut.</translation>
     </message>
 </context>
 <context>
@@ -337,7 +337,7 @@
     </message>
     <message>
         <source>There is not enough memory for so many images. Close other programs and try again.</source>
-        <translation>Für so viele Bilder ist nicht genügend Speicher frei. Schließen Sie andere Programme und versuchen Sie es erneut.</translation>
+        <translation>Für so viele Bilder ist nicht genügend Arbeitsspeicher frei. Schließen Sie andere Programme und versuchen Sie es erneut.</translation>
     </message>
 </context>
 <context>
@@ -563,7 +563,7 @@
     </message>
     <message>
         <source>There is not enough memory for so many images. Close other programs and try again.</source>
-        <translation>Für so viele Bilder ist nicht genügend Speicher frei. Schließen Sie andere Programme und versuchen Sie es erneut.</translation>
+        <translation>Für so viele Bilder ist nicht genügend Arbeitsspeicher frei. Schließen Sie andere Programme und versuchen Sie es erneut.</translation>
     </message>
 </context>
 <context>

@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>There is not enough memory for so many images. Close other programs and try again.</source>
-        <translation>La memoria non è sufficiente per così tante immagini. Chiudere altri programmi e riprovare.</translation>
+        <translation>La memoria non è sufficiente per così tante immagini. Chiudi altri programmi e riprova.</translation>
     </message>
 </context>
 <context>
@@ -143,7 +143,7 @@
     </message>
     <message>
         <source>There is not enough memory for so many images. Close other programs and try again.</source>
-        <translation>La memoria non è sufficiente per così tante immagini. Chiudere altri programmi e riprovare.</translation>
+        <translation>La memoria non è sufficiente per così tante immagini. Chiudi altri programmi e riprova.</translation>
     </message>
 </context>
 <context>
@@ -337,7 +337,7 @@
     </message>
     <message>
         <source>There is not enough memory for so many images. Close other programs and try again.</source>
-        <translation>La memoria non è sufficiente per così tante immagini. Chiudere altri programmi e riprovare.</translation>
+        <translation>La memoria non è sufficiente per così tante immagini. Chiudi altri programmi e riprova.</translation>
     </message>
 </context>
 <context>
@@ -563,7 +563,7 @@
     </message>
     <message>
         <source>There is not enough memory for so many images. Close other programs and try again.</source>
-        <translation>La memoria non è sufficiente per così tante immagini. Chiudere altri programmi e riprovare.</translation>
+        <translation>La memoria non è sufficiente per così tante immagini. Chiudi altri programmi e riprova.</translation>
     </message>
 </context>
 <context>

@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>There is not enough memory for so many images. Close other programs and try again.</source>
-        <translation>Недостаточно памяти для такого количества изображений. Закройте другие программы и повторите попытку.</translation>
+        <translation>Недостаточно памяти для такого числа снимков. Закройте другие программы и повторите попытку.</translation>
     </message>
 </context>
 <context>
@@ -143,7 +143,7 @@
     </message>
     <message>
         <source>There is not enough memory for so many images. Close other programs and try again.</source>
-        <translation>Недостаточно памяти для такого количества изображений. Закройте другие программы и повторите попытку.</translation>
+        <translation>Недостаточно памяти для такого числа снимков. Закройте другие программы и повторите попытку.</translation>
     </message>
 </context>
 <context>
@@ -337,7 +337,7 @@
     </message>
     <message>
         <source>There is not enough memory for so many images. Close other programs and try again.</source>
-        <translation>Недостаточно памяти для такого количества изображений. Закройте другие программы и повторите попытку.</translation>
+        <translation>Недостаточно памяти для такого числа снимков. Закройте другие программы и повторите попытку.</translation>
     </message>
 </context>
 <context>
@@ -563,7 +563,7 @@
     </message>
     <message>
         <source>There is not enough memory for so many images. Close other programs and try again.</source>
-        <translation>Недостаточно памяти для такого количества изображений. Закройте другие программы и повторите попытку.</translation>
+        <translation>Недостаточно памяти для такого числа снимков. Закройте другие программы и повторите попытку.</translation>
     </message>
 </context>
 <context>
