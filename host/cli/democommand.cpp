@@ -118,12 +118,12 @@ ExitCode report(Session &session, const DemoReport &made)
         return ExitCode::Done;
     }
     throw CommandError(
-        { ExitCode::ToolFailed,
-          displayName(made.panoramaPath),
+        { ExitCode::ToolFailed, displayName(made.panoramaPath),
           QStringLiteral("it does not look like the scene (%1 dB, at least %2 needed)")
               .arg(psnr, 0, 'f', 1)
               .arg(made.leastPsnrDecibels, 0, 'f', 0),
-          {} });
+          QStringLiteral("open it and look; other versions of the stitching programs may be the "
+                         "reason") });
 }
 
 } // namespace

@@ -67,6 +67,10 @@ void requireWritable(const QString &path, const QStringList &inputs)
         throw inputRefused(displayName(path), QStringLiteral("is a folder"),
                            QStringLiteral("name a file in it"));
     }
+    if (file.exists() && !file.isFile()) {
+        throw inputRefused(displayName(path), QStringLiteral("is not a regular file"),
+                           QStringLiteral("name a file of your own"));
+    }
     // Only trying tells: permissions do not bind everybody and are not all there is.
     QSaveFile probe(path);
     if (!probe.open(QIODevice::WriteOnly)) {
@@ -103,11 +107,13 @@ void requirePhotoFiles(const QStringList &photos)
                                QStringLiteral("name the photos in it, e.g. %1/*.jpg").arg(photo));
         }
         if (!file.isFile()) {
-            throw inputRefused(displayName(photo), QStringLiteral("is not a regular file"));
+            throw inputRefused(displayName(photo), QStringLiteral("is not a regular file"),
+                               QStringLiteral("name photos only"));
         }
         if (!file.isReadable()) {
             throw inputRefused(displayName(photo),
-                               QStringLiteral("cannot be read: permission denied"));
+                               QStringLiteral("cannot be read: permission denied"),
+                               QStringLiteral("copy it to a folder of your own"));
         }
     }
 }

@@ -55,6 +55,8 @@ Interrupt::Interrupt(QObject *parent)
         Q_EMIT interrupted();
     });
     setHandler(onSignal);
+    // A file that may not grow further is then an error like a full disk, not the end of us.
+    std::signal(SIGXFSZ, SIG_IGN);
 }
 
 Interrupt::~Interrupt()

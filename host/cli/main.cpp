@@ -38,14 +38,18 @@ ExitCode run(Session &session, const Invocation &invocation)
         return dispatch(session, invocation);
     } catch (const CommandError &error) {
         session.console.endProgress();
-        if (error.failure().code != ExitCode::Interrupted) {
+        if (error.failure().code == ExitCode::Interrupted) {
+            session.console.info(QStringLiteral("stopped; your files are as they were, and no "
+                                                "unfinished result is left"));
+        } else {
             session.console.error(error.failure());
         }
         return error.failure().code;
     } catch (const std::bad_alloc &) {
-        const Failure failure{
-            ExitCode::InputRefused, QStringLiteral("not enough memory"), {}, {}
-        };
+        const Failure failure{ ExitCode::InputRefused,
+                               QStringLiteral("not enough memory"),
+                               {},
+                               QStringLiteral("close other programs, or import fewer photos") };
         session.console.error(failure);
         return failure.code;
     }

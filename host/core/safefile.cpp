@@ -34,6 +34,20 @@ Failure notWritten(const QString &path, const QString &why, const QString &tryTh
     return { ExitCode::ToolFailed, path, why, tryThis };
 }
 
+/** A disk that fills up takes a part first; only the next attempt says why it takes no more. */
+bool writeAll(QSaveFile &file, const QByteArray &content)
+{
+    int done = 0;
+    while (done < content.size()) {
+        const qint64 written = file.write(content.constData() + done, content.size() - done);
+        if (written <= 0) {
+            return false;
+        }
+        done += static_cast<int>(written);
+    }
+    return true;
+}
+
 } // namespace
 
 Result<std::unique_ptr<QFile>> openRegularFile(const QString &path)
@@ -95,11 +109,11 @@ Result<QString> writeFileAtomically(const QString &path, const QByteArray &conte
     QSaveFile file(path);
     // Without this the file would be written in place where the folder takes no temporary file.
     file.setDirectWriteFallback(false);
-    const bool written
-        = file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit();
-    if (!written) {
+    // Unbuffered, so that a full disk is named as the reason.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !writeAll(file, content)
+        || !file.commit()) {
         return notWritten(path, QStringLiteral("cannot be written (%1)").arg(file.errorString()),
-                          QStringLiteral("choose another place"));
+                          QStringLiteral("make room there or choose another place"));
     }
     return path;
 }

@@ -230,7 +230,7 @@ Demo::Outcome Demo::checkLayout()
             return failure;
         }
     }
-    return note(checkProject(m_job.projectPath, m_photos.size()));
+    return note(checkProject(m_job.projectPath, m_photos.size(), m_watch));
 }
 
 Demo::Outcome Demo::makePanorama()

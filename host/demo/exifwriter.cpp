@@ -2,14 +2,13 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/demo/exifwriter.h"
 
-#include <QFile>
-#include <QFileInfo>
-#include <QTemporaryDir>
+#include "host/core/safefile.h"
+
+#include <QBuffer>
 
 #include <exiv2/exiv2.hpp>
 
 #include <cmath>
-#include <cstdio>
 
 namespace PanoHost
 {
@@ -26,7 +25,7 @@ constexpr const char *kGPanoNamespace = "http://ns.google.com/photos/1.0/panoram
 Failure cannotWrite(const QString &path, const QString &why)
 {
     return { ExitCode::ToolFailed, path, QStringLiteral("cannot be written (%1)").arg(why),
-             QStringLiteral("is there space left, and may you write into this folder?") };
+             QStringLiteral("is the machine short of memory? close other programs") };
 }
 
 Exiv2::Rational rational(double value, int denominator)
@@ -85,23 +84,45 @@ Exiv2::XmpData gpanoOf(const QSize &sphereSize, const QRect &covered)
     return xmp;
 }
 
-/** Saves \p picture and adds the data that \p describe sets. */
+/** \p picture as a JPEG file with the data that \p describe sets; empty when that failed. */
+template <typename Describe>
+QByteArray jpegOf(const QImage &picture, int quality, const Describe &describe)
+{
+    QByteArray plain;
+    QBuffer buffer(&plain);
+    buffer.open(QIODevice::WriteOnly);
+    if (!picture.save(&buffer, "JPG", quality)) {
+        return {};
+    }
+    const auto file = Exiv2::ImageFactory::open(
+        reinterpret_cast<const Exiv2::byte *>(plain.constData()), plain.size());
+    file->readMetadata();
+    describe(*file);
+    file->writeMetadata();
+    Exiv2::BasicIo &io = file->io();
+    if (io.open() != 0) {
+        return {};
+    }
+    QByteArray described(static_cast<int>(io.size()), Qt::Uninitialized);
+    const auto read = io.read(reinterpret_cast<Exiv2::byte *>(described.data()), described.size());
+    return read == described.size() ? described : QByteArray();
+}
+
+/** Writes \p picture with the data that \p describe sets, all or nothing. */
 template <typename Describe>
 Result<QString> saveJpeg(const QString &path, const QImage &picture, int quality,
                          const Describe &describe)
 {
-    if (!picture.save(path, "JPG", quality)) {
-        return cannotWrite(path, QStringLiteral("saving the picture failed"));
-    }
+    QByteArray jpeg;
     try {
-        const auto file = Exiv2::ImageFactory::open(QFile::encodeName(path).toStdString());
-        file->readMetadata();
-        describe(*file);
-        file->writeMetadata();
+        jpeg = jpegOf(picture, quality, describe);
     } catch (const std::exception &problem) {
         return cannotWrite(path, QString::fromLocal8Bit(problem.what()));
     }
-    return path;
+    if (jpeg.isEmpty()) {
+        return cannotWrite(path, QStringLiteral("making the JPEG file failed"));
+    }
+    return writeFileAtomically(path, jpeg);
 }
 
 } // namespace
@@ -116,24 +137,8 @@ Result<QString> writePhoto(const QString &path, const QImage &photo, const Plann
 Result<QString> writePanorama(const QString &path, const QImage &panorama, const QSize &sphereSize,
                               const QRect &covered)
 {
-    // Next to the result, so that the last step is a rename within one file system.
-    const QTemporaryDir folder(QFileInfo(path).absolutePath()
-                               + QStringLiteral("/.panorama-XXXXXX"));
-    if (!folder.isValid()) {
-        return cannotWrite(path, folder.errorString());
-    }
-    const QString unfinished = folder.filePath(QStringLiteral("panorama.jpg"));
-    Result<QString> saved
-        = saveJpeg(unfinished, panorama, kPanoramaQuality,
-                   [&](Exiv2::Image &file) { file.setXmpData(gpanoOf(sphereSize, covered)); });
-    if (!saved) {
-        return saved;
-    }
-    if (std::rename(QFile::encodeName(unfinished).constData(), QFile::encodeName(path).constData())
-        != 0) {
-        return cannotWrite(path, QStringLiteral("the finished file could not be put in its place"));
-    }
-    return path;
+    return saveJpeg(path, panorama, kPanoramaQuality,
+                    [&](Exiv2::Image &file) { file.setXmpData(gpanoOf(sphereSize, covered)); });
 }
 
 } // namespace PanoHost

@@ -3,7 +3,6 @@
 #include "host/demo/projectcheck.h"
 
 #include <QFileInfo>
-#include <QProcess>
 
 #include <cmath>
 
@@ -11,8 +10,6 @@ namespace PanoHost
 {
 namespace
 {
-
-constexpr int kPatienceMilliseconds = 60000;
 
 /** -1, 0 or 1; what rounding leaves of a difference is none. */
 int signOf(double differenceDegrees)
@@ -39,23 +36,23 @@ bool agree(const Panorama &panorama, const ShootPlan &plan, int a, int b)
 
 } // namespace
 
-Result<QString> checkProject(const QString &path, int photos)
+Result<QString> checkProject(const QString &path, int photos, const JobWatch &watch)
 {
     const Result<QString> checkpto = findTool(QStringLiteral("checkpto"));
     if (!checkpto) {
         return checkpto.error();
     }
-    QProcess process;
-    process.start(checkpto.value(), { path }, QIODevice::ReadOnly);
-    const bool finished = process.waitForFinished(kPatienceMilliseconds);
+    const QFileInfo project(path);
+    const Result<ToolEnd> end
+        = runToEnd(checkpto.value(), { project.absoluteFilePath() }, project.absolutePath(), watch);
+    if (!end) {
+        return end.error();
+    }
     // Its exit status counts the groups of photos that no control point connects.
-    const QString said = QString::fromLocal8Bit(process.readAllStandardOutput());
-    if (!finished || process.exitStatus() != QProcess::NormalExit
-        || !said.contains(QStringLiteral("contains\n%1 images").arg(photos))) {
-        return Failure{ ExitCode::ToolFailed,
-                        QFileInfo(path).fileName(),
+    if (!end.value().said.contains(QStringLiteral("contains\n%1 images").arg(photos))) {
+        return Failure{ ExitCode::ToolFailed, project.fileName(),
                         QStringLiteral("checkpto does not find its %1 photos").arg(photos),
-                        {} };
+                        QStringLiteral("were photos moved or removed meanwhile? try again") };
     }
     return QStringLiteral("checkpto accepts the project and finds %1 photos").arg(photos);
 }

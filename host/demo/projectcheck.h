@@ -13,7 +13,8 @@ namespace PanoHost
  * Has checkpto read the project \p path. Answers what it found, for the user; fails where it does
  * not find \p photos photos, or is missing.
  */
-[[nodiscard]] Result<QString> checkProject(const QString &path, int photos);
+[[nodiscard]] Result<QString> checkProject(const QString &path, int photos,
+                                           const JobWatch &watch = {});
 
 /**
  * Whether the positions of \p panorama lie to each other as those of \p plan do: of any two, the

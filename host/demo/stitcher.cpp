@@ -52,10 +52,9 @@ Result<QImage> blend(const StitchJob &job, const QString &verdandi, const QStrin
     }
     const QImage picture(QDir(folder).filePath(blended));
     if (picture.isNull()) {
-        return Failure{ ExitCode::ToolFailed,
-                        QStringLiteral("verdandi"),
-                        QStringLiteral("it left no picture"),
-                        {} };
+        return Failure{ ExitCode::ToolFailed, QStringLiteral("verdandi"),
+                        QStringLiteral("it left no picture that can be read"),
+                        QStringLiteral("is there enough room in %1?").arg(QDir::tempPath()) };
     }
     watch.report(1, 1, QStringLiteral("blending with verdandi"));
     return picture;
@@ -72,9 +71,8 @@ Result<QImage> stitch(const StitchJob &job, const JobWatch &watch)
     }
     const QTemporaryDir folder;
     if (!folder.isValid()) {
-        return Failure{
-            ExitCode::ToolFailed, QStringLiteral("temporary folder"), folder.errorString(), {}
-        };
+        return Failure{ ExitCode::ToolFailed, QStringLiteral("temporary folder"),
+                        folder.errorString(), QStringLiteral("set TMPDIR to a folder with room") };
     }
     const Result<QString> warped = warp(job, nona.value(), folder.path(), watch);
     if (!warped) {

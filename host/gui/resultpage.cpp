@@ -241,7 +241,8 @@ QString ResultPage::askForFile(const QString &caption, const QString &suffix, co
 void ResultPage::openInHugin()
 {
     if (!QProcess::startDetached(QStringLiteral("hugin"), { m_projectPath })) {
-        m_saved->setText(tr("Hugin could not be started."));
+        m_saved->setText(tr("Hugin could not be started. Is it installed? Try to open the "
+                            "saved project from Hugin itself."));
     }
 }
 

@@ -26,6 +26,22 @@ CliBench::CliBench()
 
 CliBench::Run CliBench::run(const QStringList &arguments, const QString &outputFile) const
 {
+    return run(QStringLiteral(PANOHOST_TEST_BINARY), arguments, outputFile);
+}
+
+CliBench::Run CliBench::runOnFullDisk(const QStringList &arguments, int kilobytes) const
+{
+    // The shell counts in blocks of 512 bytes. The output goes to a pipe, which has no limit.
+    const QString script = QStringLiteral("ulimit -f %1; exec \"$0\" \"$@\"").arg(2 * kilobytes);
+    return run(QStringLiteral("/bin/sh"),
+               QStringList{ QStringLiteral("-c"), script, QStringLiteral(PANOHOST_TEST_BINARY) }
+                   + arguments,
+               {});
+}
+
+CliBench::Run CliBench::run(const QString &program, const QStringList &arguments,
+                            const QString &outputFile) const
+{
     QProcess process;
     process.setWorkingDirectory(m_folder.path());
     process.setProcessEnvironment(m_environment);
@@ -33,7 +49,7 @@ CliBench::Run CliBench::run(const QStringList &arguments, const QString &outputF
     if (!outputFile.isEmpty()) {
         process.setStandardOutputFile(outputFile);
     }
-    process.start(QStringLiteral(PANOHOST_TEST_BINARY), arguments);
+    process.start(program, arguments);
     constexpr int kHangMs = 120000;
     Run run;
     if (!process.waitForFinished(kHangMs)) {

@@ -28,6 +28,8 @@ public:
 
     /** Runs panohost in the folder until it ends, its output kept or sent to \p outputFile. */
     [[nodiscard]] Run run(const QStringList &arguments, const QString &outputFile = {}) const;
+    /** The same, where no file can grow beyond \p kilobytes: as on a disk that is full. */
+    [[nodiscard]] Run runOnFullDisk(const QStringList &arguments, int kilobytes) const;
     /** The environment that `run` uses: nothing of the caller's but what programs need. */
     [[nodiscard]] QProcessEnvironment &environment() { return m_environment; }
     [[nodiscard]] const QProcessEnvironment &environment() const { return m_environment; }
@@ -49,6 +51,9 @@ public:
     [[nodiscard]] static QVector<Shot> row(int count);
 
 private:
+    [[nodiscard]] Run run(const QString &program, const QStringList &arguments,
+                          const QString &outputFile) const;
+
     QTemporaryDir m_folder;
     QTemporaryDir m_temporaryFiles;
     QProcessEnvironment m_environment;

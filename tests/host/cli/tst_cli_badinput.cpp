@@ -238,8 +238,8 @@ void TestCliBadInput::photosAreRefusedWithTheirReason_data()
     row("missing", "nosuch.jpg", "nosuch.jpg: no such photo; .*");
     row("no photo", "nophoto.jpg", "nophoto.jpg: cannot read .*; .*");
     row("folder", "folder", "folder: is a folder; .*");
-    row("FIFO", "pipe", "pipe: is not a regular file");
-    row("device", "/dev/zero", "/dev/zero: is not a regular file");
+    row("FIFO", "pipe", "pipe: is not a regular file; name photos only");
+    row("device", "/dev/zero", "/dev/zero: is not a regular file; name photos only");
     row("named twice", "IMG_01.jpg", "IMG_01.jpg: given twice; .*");
 }
 
@@ -276,6 +276,10 @@ void TestCliBadInput::resultIsRefusedBeforeAnythingIsRead_data()
     row("not writable", { o, QStringLiteral("/proc/a.pto") }, 3,
         "/proc/a.pto: cannot be written there: .*; .*");
     row("a folder", { o, QStringLiteral("folder") }, 3, "folder: is a folder; .*");
+    row("a folder for the description",
+        { o, QStringLiteral("kept.pto"), json, QStringLiteral("folder") }, 3,
+        "folder: is a folder; .*");
+    row("a device", { o, QStringLiteral("/dev/full") }, 3, "/dev/full: is not a regular file; .*");
     row("a photo", { o, QStringLiteral("IMG_02.jpg") }, 3, "IMG_02.jpg: is one of the input .*");
     row("the record", { o, QStringLiteral("./four.xml") }, 3, ".*: is one of the input files; .*");
     row("none", {}, 2, "no result asked for; .*");

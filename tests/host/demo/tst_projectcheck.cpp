@@ -106,6 +106,10 @@ void TestProjectCheck::photosThatCheckptoFindsAreCounted_data()
     QTest::newRow("fewer") << QByteArray("printf 'Project contains\\n1 images\\n'; exit 0\n")
                            << false;
     QTest::newRow("cannot read it") << QByteArray("echo 'no project' >&2; exit 1\n") << false;
+    QTest::newRow("killed after its answer")
+        << QByteArray("printf 'Project contains\n12 images\n'; kill -KILL $$\n") << false;
+    QTest::newRow("stuck after its answer")
+        << QByteArray("printf 'Project contains\n12 images\n'; exec sleep 600\n") << false;
 }
 
 void TestProjectCheck::photosThatCheckptoFindsAreCounted()
@@ -120,9 +124,16 @@ void TestProjectCheck::photosThatCheckptoFindsAreCounted()
     QVERIFY(tool.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     const QByteArray before = qgetenv("PATH");
     qputenv("PATH", QFile::encodeName(folder.path()) + ":/usr/bin:/bin");
-    const Result<QString> check = checkProject(QStringLiteral("demo.pto"), 12);
+    JobWatch watch;
+    watch.patience = std::chrono::seconds(accepted ? 60 : 1);
+    const Result<QString> check = checkProject(QStringLiteral("demo.pto"), 12, watch);
     qputenv("PATH", before);
     QCOMPARE(bool(check), accepted);
+    if (!accepted) {
+        QCOMPARE(check.error().code, ExitCode::ToolFailed);
+        QVERIFY(!check.error().why.isEmpty());
+        QVERIFY(!check.error().tryThis.isEmpty());
+    }
 }
 
 void TestProjectCheck::missingCheckptoIsNamed()

@@ -7,6 +7,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <unistd.h>
+
 using namespace PanoHost;
 
 namespace
@@ -18,6 +20,26 @@ bool makeTool(const QTemporaryDir &folder, const char *name, const QByteArray &s
     QFile file(folder.filePath(QString::fromLatin1(name)));
     return file.open(QIODevice::WriteOnly) && file.write("#!/bin/sh\n" + script) > 0
         && file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+/** Their names; nothing may be left running. */
+QStringList childrenOfThisProcess()
+{
+    QStringList names;
+    const QStringList processes
+        = QDir(QStringLiteral("/proc")).entryList({ QStringLiteral("[0-9]*") }, QDir::Dirs);
+    for (const QString &process : processes) {
+        QFile file(QStringLiteral("/proc/%1/stat").arg(process));
+        if (file.open(QIODevice::ReadOnly)) {
+            // PID (NAME) STATE PARENT ...; the name may hold anything.
+            const QByteArray line = file.readAll();
+            const int end = line.lastIndexOf(')');
+            if (line.mid(end + 2).split(' ').value(1).toInt() == ::getpid()) {
+                names.append(QString::fromLocal8Bit(line.left(end + 1)));
+            }
+        }
+    }
+    return names;
 }
 
 StitchJob jobFor(const QTemporaryDir &folder)
@@ -40,6 +62,8 @@ private Q_SLOTS:
     void pictureStandsAtItsOffsetOnTheCanvas();
     void programsGetTheProjectTheImagesAndTheWrap();
     void interruptionStopsTheProgram();
+    void badEndsAreExplained_data();
+    void badEndsAreExplained();
 
 private:
     QByteArray m_path;
@@ -171,6 +195,66 @@ void TestStitcher::interruptionStopsTheProgram()
     QVERIFY(file.open(QIODevice::ReadOnly));
     QVERIFY(!QFile::exists(
         QStringLiteral("/proc/%1").arg(QString::fromLatin1(file.readAll().trimmed()))));
+}
+
+void TestStitcher::badEndsAreExplained_data()
+{
+    QTest::addColumn<QByteArray>("script");
+    QTest::addColumn<QString>("why");
+    QTest::addColumn<QString>("tryThis");
+    QTest::newRow("killed") << QByteArray("#!/bin/sh\nkill -KILL $$\n")
+                            << QStringLiteral("it was killed, perhaps because memory ran out")
+                            << QStringLiteral("close other programs and try again");
+    QTest::newRow("crashed")
+        << QByteArray("#!/bin/sh\nkill -SEGV $$\n") << QStringLiteral("it crashed (signal 11)")
+        << QStringLiteral("try again; if it crashes again: apt install --reinstall hugin-tools");
+    QTest::newRow("stuck") << QByteArray("#!/bin/sh\nexec sleep 600\n")
+                           << QStringLiteral("it was stopped since it did not end within 1 s")
+                           << QStringLiteral(
+                                  "is the machine very busy, or a network drive away? try again");
+    QTest::newRow("stuck and deaf")
+        << QByteArray("#!/bin/sh\ntrap '' TERM INT\nwhile :; do sleep 0.05; done\n")
+        << QStringLiteral("it was stopped since it did not end within 1 s")
+        << QStringLiteral("is the machine very busy, or a network drive away? try again");
+    QTest::newRow("chatty without end")
+        << QByteArray("#!/bin/sh\nexec yes\n")
+        << QStringLiteral("it was stopped since it did not end within 1 s")
+        << QStringLiteral("is the machine very busy, or a network drive away? try again");
+    QTest::newRow("not a program")
+        << QByteArray("#!/no/such/interpreter\n")
+        << QStringLiteral("cannot be started (execve: No such file or directory)")
+        << QStringLiteral("apt install --reinstall hugin-tools");
+    QTest::newRow("silent failure")
+        << QByteArray("#!/bin/sh\nexit 3\n") << QStringLiteral("it failed without a message")
+        << QStringLiteral("is there enough room in %1?");
+    QTest::newRow("full disk") << QByteArray("#!/bin/sh\necho No space left >&2\nexit 1\n")
+                               << QStringLiteral("it failed and said: No space left")
+                               << QStringLiteral("is there enough room in %1?");
+}
+
+void TestStitcher::badEndsAreExplained()
+{
+    QFETCH(QByteArray, script);
+    QFETCH(QString, why);
+    QFETCH(QString, tryThis);
+    JobWatch watch;
+    watch.patience = std::chrono::seconds(why.endsWith(QLatin1String("within 1 s")) ? 1 : 600);
+    for (const char *bad : { "nona", "verdandi" }) {
+        QVERIFY(makeTool(*m_tools, "nona", "exit 0\n"));
+        QVERIFY(makeTool(*m_tools, "verdandi", "exit 0\n"));
+        QFile tool(m_tools->filePath(QLatin1String(bad)));
+        QVERIFY(tool.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        QVERIFY(tool.write(script) > 0);
+        tool.close();
+        const Result<QImage> result = stitch(jobFor(*m_tools), watch);
+        QVERIFY(!result);
+        QCOMPARE(result.error().code, ExitCode::ToolFailed);
+        QCOMPARE(result.error().what, QString::fromLatin1(bad));
+        QCOMPARE(result.error().why, why);
+        QCOMPARE(result.error().tryThis,
+                 tryThis.contains(QLatin1String("%1")) ? tryThis.arg(m_temp->path()) : tryThis);
+        QCOMPARE(childrenOfThisProcess(), QStringList());
+    }
 }
 
 QTEST_MAIN(TestStitcher)
