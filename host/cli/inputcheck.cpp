@@ -99,8 +99,12 @@ void requirePhotoFiles(const QStringList &photos)
         }
         seen += photo;
         if (!file.exists()) {
+            // What could not be decoded became replacement characters.
+            const bool isText = !photo.contains(QChar::ReplacementCharacter);
             throw inputRefused(displayName(photo), QStringLiteral("no such photo"),
-                               QStringLiteral("check the name"));
+                               isText
+                                   ? QStringLiteral("check the name")
+                                   : QStringLiteral("rename the file: its name is not in UTF-8"));
         }
         if (file.isDir()) {
             throw inputRefused(displayName(photo), QStringLiteral("is a folder"),

@@ -26,21 +26,21 @@ CliBench::CliBench()
 
 CliBench::Run CliBench::run(const QStringList &arguments, const QString &outputFile) const
 {
-    return run(QStringLiteral(PANOHOST_TEST_BINARY), arguments, outputFile);
+    return runProgram(QStringLiteral(PANOHOST_TEST_BINARY), arguments, outputFile);
 }
 
 CliBench::Run CliBench::runOnFullDisk(const QStringList &arguments, int kilobytes) const
 {
     // The shell counts in blocks of 512 bytes. The output goes to a pipe, which has no limit.
     const QString script = QStringLiteral("ulimit -f %1; exec \"$0\" \"$@\"").arg(2 * kilobytes);
-    return run(QStringLiteral("/bin/sh"),
-               QStringList{ QStringLiteral("-c"), script, QStringLiteral(PANOHOST_TEST_BINARY) }
-                   + arguments,
-               {});
+    return runProgram(
+        QStringLiteral("/bin/sh"),
+        QStringList{ QStringLiteral("-c"), script, QStringLiteral(PANOHOST_TEST_BINARY) }
+            + arguments);
 }
 
-CliBench::Run CliBench::run(const QString &program, const QStringList &arguments,
-                            const QString &outputFile) const
+CliBench::Run CliBench::runProgram(const QString &program, const QStringList &arguments,
+                                   const QString &outputFile) const
 {
     QProcess process;
     process.setWorkingDirectory(m_folder.path());

@@ -28,7 +28,10 @@ public:
 
     /** Runs panohost in the folder until it ends, its output kept or sent to \p outputFile. */
     [[nodiscard]] Run run(const QStringList &arguments, const QString &outputFile = {}) const;
-    /** The same, where no file can grow beyond \p kilobytes: as on a disk that is full. */
+    /** The same with another program, a shell for instance that starts panohost. */
+    [[nodiscard]] Run runProgram(const QString &program, const QStringList &arguments,
+                                 const QString &outputFile = {}) const;
+    /** As run(), where no file can grow beyond \p kilobytes: as on a disk that is full. */
     [[nodiscard]] Run runOnFullDisk(const QStringList &arguments, int kilobytes) const;
     /** The environment that `run` uses: nothing of the caller's but what programs need. */
     [[nodiscard]] QProcessEnvironment &environment() { return m_environment; }
@@ -51,9 +54,6 @@ public:
     [[nodiscard]] static QVector<Shot> row(int count);
 
 private:
-    [[nodiscard]] Run run(const QString &program, const QStringList &arguments,
-                          const QString &outputFile) const;
-
     QTemporaryDir m_folder;
     QTemporaryDir m_temporaryFiles;
     QProcessEnvironment m_environment;

@@ -11,6 +11,7 @@
 
 #include <cmath>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace
 {
@@ -49,6 +50,7 @@ private Q_SLOTS:
     void gridIsRefusedWithItsNumbers();
     void photosAreRefusedWithTheirReason_data();
     void photosAreRefusedWithTheirReason();
+    void nameThatIsNoTextIsExplained();
     void resultIsRefusedBeforeAnythingIsRead_data();
     void resultIsRefusedBeforeAnythingIsRead();
     void oddNumbersInARecordDoNoHarm_data();
@@ -253,6 +255,24 @@ void TestCliBadInput::photosAreRefusedWithTheirReason()
                              QStringLiteral("four.xml") };
     const QStringList output{ QStringLiteral("-o"), QStringLiteral("kept.pto") };
     compareRefusal(m_bench.run(words + photos + output), 3, message);
+}
+
+/** File names are bytes, and these bytes are no letters in UTF-8. */
+void TestCliBadInput::nameThatIsNoTextIsExplained()
+{
+    const QByteArray name = QFile::encodeName(m_bench.path(QStringLiteral("bad"))) + "\xff.jpg";
+    QCOMPARE(::mknod(name.constData(), S_IFREG | 0600, 0), 0);
+    const CliBench::Run run = m_bench.runProgram(
+        QStringLiteral("/bin/sh"),
+        { QStringLiteral("-c"),
+          QStringLiteral("exec \"$0\" import papywizard one.xml bad?.jpg -o bad.pto"),
+          QStringLiteral(PANOHOST_TEST_BINARY) });
+    QCOMPARE(::unlink(name.constData()), 0);
+    QCOMPARE(run.exitCode, 3);
+    QCOMPARE(run.err,
+             QStringLiteral("panohost: error: bad\ufffd.jpg: no such photo; rename the file: its "
+                            "name is not in UTF-8\n"));
+    QVERIFY(!QFile::exists(m_bench.path(QStringLiteral("bad.pto"))));
 }
 
 void TestCliBadInput::resultIsRefusedBeforeAnythingIsRead_data()
