@@ -4,13 +4,11 @@
 
 #include "importers/common/angles.h"
 #include "importers/common/previewlayout.h"
-#include "plugin/hostapplication.h"
-#include "plugin/xiapplication.h"
 #include "ui/blocksignal.h"
 #include "ui/connectpage.h"
 #include "ui/filedialogs.h"
 #include "ui/formviews.h"
-#include "ui/lowmemory.h"
+#include "ui/handover.h"
 #include "ui/messageboxes.h"
 #include "ui/pagesetup.h"
 #include "ui/previewlabel.h"
@@ -78,22 +76,13 @@ bool UIWPClauss::isComplete() const
 
 bool UIWPClauss::validatePage()
 {
-    XIApplication *host = findHost();
-    if (host == nullptr) {
-        return true;
-    }
-    const bool isDescribed = describeWithinMemory(
+    return handOver(
         this, *this, [this] { return describe(); },
-        [this] {
+        [] {
             return BoxTexts{ tr("Warning"),
                              tr("There is not enough memory for so many images. Close other "
                                 "programs and try again.") };
         });
-    if (!isDescribed) {
-        return false;
-    }
-    host->ImportStructuredPanorama(*this);
-    return true;
 }
 
 bool UIWPClauss::describe()

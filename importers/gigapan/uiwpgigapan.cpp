@@ -4,13 +4,11 @@
 
 #include "importers/gigapan/gridguess.h"
 #include "importers/gigapan/gridorder.h"
-#include "plugin/hostapplication.h"
-#include "plugin/xiapplication.h"
 #include "plugin/xiimagedef.h"
 #include "ui/connectpage.h"
 #include "ui/filedialogs.h"
 #include "ui/formviews.h"
-#include "ui/lowmemory.h"
+#include "ui/handover.h"
 #include "ui/pagesetup.h"
 #include "ui/previewlabel.h"
 #include "ui/xnoevent.h"
@@ -97,22 +95,13 @@ bool UIWPGigapan::isComplete() const
 
 bool UIWPGigapan::validatePage()
 {
-    XIApplication *host = findHost();
-    if (host == nullptr) {
-        return true;
-    }
-    const bool isDescribed = describeWithinMemory(
+    return handOver(
         this, *this, [this] { return describe(); },
-        [this] {
+        [] {
             return BoxTexts{ tr("Warning"),
                              tr("There is not enough memory for so many images. Close other "
                                 "programs and try again.") };
         });
-    if (!isDescribed) {
-        return false;
-    }
-    host->ImportStructuredPanorama(*this);
-    return true;
 }
 
 bool UIWPGigapan::describe()

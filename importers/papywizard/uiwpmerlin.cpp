@@ -6,13 +6,11 @@
 #include "importers/common/displaytexts.h"
 #include "importers/common/previewlayout.h"
 #include "importers/papywizard/recordedshoot.h"
-#include "plugin/hostapplication.h"
-#include "plugin/xiapplication.h"
 #include "ui/blocksignal.h"
 #include "ui/connectpage.h"
 #include "ui/filedialogs.h"
 #include "ui/formviews.h"
-#include "ui/lowmemory.h"
+#include "ui/handover.h"
 #include "ui/messageboxes.h"
 #include "ui/pagesetup.h"
 #include "ui/plaintooltip.h"
@@ -79,22 +77,13 @@ bool UIWPMerlin::isComplete() const
 
 bool UIWPMerlin::validatePage()
 {
-    XIApplication *host = findHost();
-    if (host == nullptr) {
-        return true;
-    }
-    const bool isDescribed = describeWithinMemory(
+    return handOver(
         this, *this, [this] { return describe(); },
-        [this] {
+        [] {
             return BoxTexts{ tr("Warning"),
                              tr("There is not enough memory for so many images. Close other "
                                 "programs and try again.") };
         });
-    if (!isDescribed) {
-        return false;
-    }
-    host->ImportStructuredPanorama(*this);
-    return true;
 }
 
 bool UIWPMerlin::describe()
