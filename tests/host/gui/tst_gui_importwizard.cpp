@@ -39,6 +39,7 @@ private Q_SLOTS:
     void resultIsSummedUp();
     void resultIsSaved();
     void failedSavingIsSaid();
+    void fileNamesAreNotReadAsMarkup();
     void finishWithoutSavingAsks();
     void finishAfterSavingDoesNotAsk();
     void droppedFilesAreFilledIn();
@@ -257,6 +258,22 @@ void TestImportWizard::failedSavingIsSaid()
                 ->findChild<QLabel *>(QStringLiteral("m_saved"))
                 ->text()
                 .startsWith(QLatin1String("Not saved: ")));
+}
+
+void TestImportWizard::fileNamesAreNotReadAsMarkup()
+{
+    fillPapywizard(3);
+    next()->click();
+    const QString name = QStringLiteral("<h1>Your licence has expired<img src='x'>.pto");
+    QVERIFY(result()->saveProject(m_folder->filePath(name)));
+    int shown = 0;
+    for (const QLabel *label : m_wizard->findChildren<QLabel *>()) {
+        if (label->text().contains(name)) {
+            ++shown;
+            QCOMPARE(label->textFormat(), Qt::PlainText);
+        }
+    }
+    QCOMPARE(shown, 1);
 }
 
 void TestImportWizard::finishWithoutSavingAsks()
