@@ -28,8 +28,8 @@ PhotoInfo takePhoto(ByteSource &bytes, const QString &path)
 StructuredPanoramaProperties takeDescription(ByteSource &bytes)
 {
     StructuredPanoramaProperties description;
-    const int positions = bytes.count(40);
-    const int bracket = bytes.between(1, 4);
+    const int positions = bytes.count(16);
+    const int bracket = bytes.between(1, 3);
     for (int i = 0; i < positions; ++i) {
         QStringList group;
         for (int k = 0; k < bracket; ++k) {
@@ -37,7 +37,7 @@ StructuredPanoramaProperties takeDescription(ByteSource &bytes)
         }
         description.imageGroups.append(group);
     }
-    const int angles = bytes.count(80);
+    const int angles = bytes.count(32);
     for (int i = 0; i < angles; ++i) {
         description.yaw.append(bytes.angle());
         description.pitch.append(bytes.angle());
