@@ -511,14 +511,18 @@ Result<Panorama> panoramaFromJson(const QByteArray &json, const QString &folder)
 
 Result<Panorama> readPanoramaJson(const QString &path)
 {
+    const QString tryThis = QStringLiteral("name a file that 'panohost import --json' has written");
     const auto content = readRegularFile(path, kMostBytes);
     if (!content) {
-        return content.error();
+        Failure failure = content.error();
+        failure.tryThis = tryThis;
+        return failure;
     }
     auto panorama = panoramaFromJson(content.value(), QFileInfo(path).canonicalPath());
     if (!panorama) {
         Failure failure = panorama.error();
         failure.what = path + QStringLiteral(": ") + failure.what;
+        failure.tryThis = tryThis;
         return failure;
     }
     return panorama;

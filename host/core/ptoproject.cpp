@@ -156,7 +156,8 @@ std::optional<Failure> ProjectMaker::collectImages()
         m_hasStacks = m_hasStacks || position.photos.size() > 1;
         for (const PhotoInfo &photo : position.photos) {
             if (photo.storedSize.isEmpty()) {
-                return refused(photo.path, QStringLiteral("its size in pixels is not known"));
+                return refused(photo.path, QStringLiteral("its size in pixels is not known"),
+                               QStringLiteral("can another program open it? leave it out if not"));
             }
             Image image;
             image.photo = &photo;

@@ -579,7 +579,8 @@ void PanoramaJsonTest::fileErrorsNameTheFile()
     QVERIFY(readPanoramaJson(path).error().text().startsWith(
         path + QStringLiteral(": line 2: not well-formed JSON (")));
     QCOMPARE(readPanoramaJson(QStringLiteral("/dev/zero")).error().text(),
-             QStringLiteral("/dev/zero: is not a regular file"));
+             QStringLiteral("/dev/zero: is not a regular file; name a file that "
+                            "'panohost import --json' has written"));
     QVERIFY(!writePanoramaJson(sample(), folder.filePath(QStringLiteral("no/x.json"))).ok());
 }
 

@@ -529,7 +529,8 @@ void PtoProjectTest::missingNumbersAreRefused()
     panorama = row(2);
     panorama.positions[1].photos[0].storedSize = QSize();
     QCOMPARE(makePtoProject(panorama).error().text(),
-             QStringLiteral("/photos/2.jpg: its size in pixels is not known"));
+             QStringLiteral("/photos/2.jpg: its size in pixels is not known; can another program "
+                            "open it? leave it out if not"));
     panorama = row(0);
     QVERIFY(!makePtoProject(panorama).ok());
 }
