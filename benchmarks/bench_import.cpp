@@ -137,7 +137,8 @@ public:
             }
         }
         QFile project(dir.filePath(QStringLiteral("project.pto")));
-        if (!project.open(QIODevice::ReadOnly) || project.readAll().count("\ni ") != kPhotos) {
+        if (m_mistake.empty()
+            && (!project.open(QIODevice::ReadOnly) || project.readAll().count("\ni ") != kPhotos)) {
             m_mistake = "the project does not hold every photo";
         }
         return m_best;

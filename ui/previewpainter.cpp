@@ -5,11 +5,8 @@
 #include "plugin/xiimagedef.h"
 #include "ui/pixels.h"
 
-#include <QFontMetricsF>
 #include <QPainter>
 #include <QPixmap>
-#include <QTextLayout>
-#include <QTextOption>
 #include <QTransform>
 
 #include <algorithm>
@@ -23,10 +20,9 @@ namespace
 
 constexpr Qt::GlobalColor kOutline = Qt::black; // of the painter's default pen
 constexpr int kSpill = 2; // outlines and rounding around a cell, pixels
-constexpr int kOverhang = 4; // letters that reach out of their line, pixels
-constexpr qint64 kCaptionBytes = 768; // with its glyphs, about
+constexpr qint64 kCaptionBytes = 768; // about
 // Kept in any case, in bytes: a handful of tiles and the captions around them.
-constexpr qint64 kLeastTiles = 512 * 1024;
+constexpr int kTileBytes = 512 * 1024;
 constexpr qint64 kLeastCaptions = 256 * 1024;
 
 bool isUnturned(const PreviewCell &cell)
@@ -40,31 +36,6 @@ QPixmap turned(const QPixmap &thumbnail, const PreviewCell &cell)
         return thumbnail;
     }
     return withPixels(thumbnail.transformed(QTransform().rotate(static_cast<qreal>(cell.roll))));
-}
-
-QString captionText(const PreviewCell &cell)
-{
-    return QStringLiteral("%1 (%2,%3)")
-        .arg(QString::number(cell.image), QString::number(cell.yaw), QString::number(cell.pitch));
-}
-
-QRectF captionRoom(const PreviewCell &cell)
-{
-    return cell.box.adjusted(1.0, 1.0, -1.0, -1.0);
-}
-
-void drawCaption(QPainter &painter, const PreviewCell &cell, const CaptionColours &colours)
-{
-    const QRectF room = captionRoom(cell);
-    const QString text = captionText(cell);
-    if (colours.ground.style() != Qt::NoBrush) {
-        const QRectF ground = painter.boundingRect(room, text, QTextOption());
-        painter.fillRect(ground & room, colours.ground);
-    }
-    const QPen outline = painter.pen();
-    painter.setPen(colours.text);
-    painter.drawText(room, text);
-    painter.setPen(outline);
 }
 
 /**
@@ -92,14 +63,14 @@ void drawOutline(QPainter &painter, const QRectF &box)
 }
 
 template <typename Kept>
-const Kept &keep(QCache<int, Kept> &cache, std::unique_ptr<Kept> &loose, int number,
-                 std::unique_ptr<Kept> made, qint64 bytes)
+Kept &keep(QCache<int, Kept> &cache, std::unique_ptr<Kept> &loose, int number,
+           std::unique_ptr<Kept> made, qint64 bytes)
 {
     if (bytes > cache.maxCost()) {
         loose = std::move(made);
         return *loose;
     }
-    const Kept &kept = *made;
+    Kept &kept = *made;
     cache.insert(number, made.release(), static_cast<int>(bytes));
     return kept;
 }
@@ -127,7 +98,7 @@ void CellPainter::reset(qint64 bytes)
     m_captions.clear();
     m_looseTile.reset();
     m_looseCaption.reset();
-    m_tiles.setMaxCost(static_cast<int>(std::max(kLeastTiles, bytes / 2)));
+    m_tiles.setMaxCost(kTileBytes);
     m_captions.setMaxCost(static_cast<int>(std::max(kLeastCaptions, bytes / 2)));
 }
 
@@ -145,7 +116,7 @@ void CellPainter::draw(QPainter &painter, const PreviewScene &scene, const Previ
     }
     painter.drawRect(cell.box);
     if (isFitted) {
-        drawCaption(painter, cell, caption);
+        Caption::drawOnce(painter, cell, caption);
     }
 }
 
@@ -202,10 +173,10 @@ QRect CellPainter::hiddenBehind(const PreviewScene &scene, int cell)
     return photoRect(scene.style, asked, thumbnail->size());
 }
 
-const CellPainter::Tile &CellPainter::tileFor(const QPixmap &thumbnail, const PreviewCell &cell,
-                                              int number)
+CellPainter::Tile &CellPainter::tileFor(const QPixmap &thumbnail, const PreviewCell &cell,
+                                        int number)
 {
-    if (const Tile *kept = m_tiles.object(number)) {
+    if (Tile *kept = m_tiles.object(number)) {
         return *kept;
     }
     auto tile = std::make_unique<Tile>(fittedTile(thumbnail, cell));
@@ -216,93 +187,46 @@ const CellPainter::Tile &CellPainter::tileFor(const QPixmap &thumbnail, const Pr
 CellPainter::Tile CellPainter::fittedTile(const QPixmap &thumbnail, const PreviewCell &cell)
 {
     const QPixmap photo = turned(thumbnail, cell);
-    if (!photo.hasAlphaChannel()) {
-        Tile tile
-            = drawnTile(photo, cell, photoRect(CellStyle::FittedWithCaption, cell, photo.size()));
+    const QRect room = photoRect(CellStyle::FittedWithCaption, cell, photo.size());
+    Tile tile;
+    if (!photo.hasAlphaChannel() && !room.isEmpty()) {
+        tile.position = room.topLeft();
+        tile.image = withPixels(QImage(room.size(), QImage::Format_ARGB32_Premultiplied));
         // Scaling may leave out the last row or column, which then lacks in the corner too.
-        if (!tile.image.isNull()
-            && qAlpha(tile.image.pixel(tile.image.rect().bottomRight())) == 255) {
+        const QPoint corner = tile.image.rect().bottomRight();
+        tile.image.setPixel(corner, 0);
+        drawInto(tile, photo, cell);
+        if (qAlpha(tile.image.pixel(corner)) == 255) {
             tile.isOpaque = tile.image.reinterpretAsFormat(QImage::Format_RGB32);
             return tile;
         }
     }
-    const QRect room(static_cast<int>(std::floor(cell.box.left())) - 1,
-                     static_cast<int>(std::floor(cell.box.top())) - 1,
-                     static_cast<int>(std::ceil(cell.box.width())) + 3,
-                     static_cast<int>(std::ceil(cell.box.height())) + 3);
-    return drawnTile(photo, cell, room);
+    tile.position = QPoint(static_cast<int>(std::floor(cell.box.left())) - 1,
+                           static_cast<int>(std::floor(cell.box.top())) - 1);
+    tile.image = withPixels(QImage(static_cast<int>(std::ceil(cell.box.width())) + 3,
+                                   static_cast<int>(std::ceil(cell.box.height())) + 3,
+                                   QImage::Format_ARGB32_Premultiplied));
+    tile.image.fill(Qt::transparent);
+    drawInto(tile, photo, cell);
+    return tile;
 }
 
-CellPainter::Tile CellPainter::drawnTile(const QPixmap &photo, const PreviewCell &cell,
-                                         const QRect &room)
+void CellPainter::drawInto(Tile &tile, const QPixmap &photo, const PreviewCell &cell)
 {
-    Tile tile;
-    tile.position = room.topLeft();
-    if (room.isEmpty()) {
-        return tile;
-    }
-    tile.image = withPixels(QImage(room.size(), QImage::Format_ARGB32_Premultiplied));
-    tile.image.fill(Qt::transparent);
     QPainter painter(&tile.image);
     // Moved by the painter, not beforehand: the scale comes from the box as it is, and a rounding
     // of its sides can shift every pixel that is picked.
     painter.translate(-tile.position);
     painter.drawPixmap(cell.box, photo, QRectF(photo.rect()));
-    return tile;
 }
 
-const CellPainter::Caption &CellPainter::captionFor(const PreviewCell &cell, int number,
-                                                    const QFont &font)
+Caption &CellPainter::captionFor(const PreviewCell &cell, int number, const QFont &font)
 {
-    if (const Caption *kept = m_captions.object(number)) {
+    if (Caption *kept = m_captions.object(number)) {
         return *kept;
     }
     return keep(m_captions, m_looseCaption, number, std::make_unique<Caption>(cell, font),
                 kCaptionBytes);
-}
-
-CellPainter::Caption::Caption(const PreviewCell &cell, const QFont &font)
-    : room(captionRoom(cell))
-{
-    QTextLayout text(captionText(cell), font);
-    const qreal leading = QFontMetricsF(font).leading();
-    qreal width = 0.0;
-    qreal height = -leading;
-    text.beginLayout();
-    for (QTextLine line = text.createLine(); line.isValid(); line = text.createLine()) {
-        line.setLineWidth(std::max(0.0, room.width()));
-        height = std::ceil(height + leading);
-        line.setPosition(QPointF(0.0, height));
-        height += line.height();
-        width = std::max(width, line.naturalTextWidth());
-    }
-    text.endLayout();
-    lines = QRectF(room.topLeft(), QSizeF(width, height));
-    glyphs = text.glyphRuns();
-}
-
-void CellPainter::Caption::draw(QPainter &painter, const QRect &clip,
-                                const CaptionColours &colours) const
-{
-    if (colours.ground.style() != Qt::NoBrush) {
-        painter.fillRect(lines & room, colours.ground);
-    }
-    painter.setPen(colours.text);
-    const bool isCut = !room.contains(lines);
-    if (isCut) {
-        painter.setClipRect(room, Qt::IntersectClip);
-    }
-    for (const QGlyphRun &run : glyphs) {
-        painter.drawGlyphRun(room.topLeft(), run);
-    }
-    if (isCut) {
-        painter.setClipRect(clip);
-    }
-}
-
-QRect CellPainter::Caption::rect() const
-{
-    return lines.toAlignedRect().adjusted(-kOverhang, -kOverhang, kOverhang, kOverhang);
 }
 
 } // namespace PanoHead

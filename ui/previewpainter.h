@@ -3,13 +3,11 @@
 #pragma once
 
 #include "importers/common/previewlayout.h"
+#include "ui/caption.h"
 
-#include <QBrush>
 #include <QCache>
-#include <QGlyphRun>
 #include <QImage>
 #include <QList>
-#include <QPen>
 #include <QRect>
 #include <QSize>
 
@@ -26,17 +24,6 @@ namespace PanoHead
 enum class CellStyle {
     FittedWithCaption, ///< scaled to the cell, aspect ratio ignored; number and angles on top
     UnscaledPhoto, ///< at its own size from the cell's corner; no caption
-};
-
-/** How captions stand out from the photos under them. */
-struct CaptionColours {
-    QPen text;
-    QBrush ground = {}; ///< behind the text; no brush: nothing
-
-    friend bool operator==(const CaptionColours &a, const CaptionColours &b)
-    {
-        return a.text == b.text && a.ground == b.ground;
-    }
 };
 
 /** A layout picture to draw. */
@@ -95,24 +82,11 @@ private:
         QImage image;
         bool isOpaque = false;
     };
-    /** A caption with its lines broken, as the painter's own function for texts breaks them. */
-    struct Caption {
-        Caption(const PreviewCell &cell, const QFont &font);
-
-        void draw(QPainter &painter, const QRect &clip, const CaptionColours &colours) const;
-        /** Pixels that are drawn, and perhaps some around them. */
-        [[nodiscard]] QRect rect() const;
-
-        QList<QGlyphRun> glyphs;
-        QRectF room; ///< in the cell
-        QRectF lines; ///< what the lines take up; what reaches out of the room is cut off
-    };
 
     [[nodiscard]] static Tile fittedTile(const QPixmap &thumbnail, const PreviewCell &cell);
-    [[nodiscard]] static Tile drawnTile(const QPixmap &photo, const PreviewCell &cell,
-                                        const QRect &room);
-    const Tile &tileFor(const QPixmap &thumbnail, const PreviewCell &cell, int number);
-    const Caption &captionFor(const PreviewCell &cell, int number, const QFont &font);
+    static void drawInto(Tile &tile, const QPixmap &photo, const PreviewCell &cell);
+    Tile &tileFor(const QPixmap &thumbnail, const PreviewCell &cell, int number);
+    Caption &captionFor(const PreviewCell &cell, int number, const QFont &font);
 
     QCache<int, Tile> m_tiles{ 0 }; // by cell, cost in bytes
     QCache<int, Caption> m_captions{ 0 }; // by cell, cost in bytes

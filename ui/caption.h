@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QBrush>
+#include <QGlyphRun>
+#include <QPen>
+#include <QRectF>
+#include <QVector>
+
+#include <vector>
+
+class QFont;
+class QPainter;
+
+namespace PanoHead
+{
+
+struct PreviewCell;
+
+/** How captions stand out from the photos under them. */
+struct CaptionColours {
+    QPen text;
+    QBrush ground = {}; ///< behind the text; no brush: nothing
+
+    friend bool operator==(const CaptionColours &a, const CaptionColours &b)
+    {
+        return a.text == b.text && a.ground == b.ground;
+    }
+};
+
+/**
+ * The number and the angles in a cell, laid out once and drawn many times, with the pixels of the
+ * painter's own function for texts.
+ */
+class Caption
+{
+public:
+    Caption(const PreviewCell &cell, const QFont &font);
+
+    /** Draws what lies in \p clip, to which \p painter is cut already. */
+    void draw(QPainter &painter, const QRect &clip, const CaptionColours &colours);
+    /** Pixels that are drawn, and perhaps some around them. */
+    [[nodiscard]] QRect rect() const;
+
+    /** Lays the caption of \p cell out and draws all of it, in the painter's font. */
+    static void drawOnce(QPainter &painter, const PreviewCell &cell, const CaptionColours &colours);
+
+private:
+    /** Glyphs of one font, line by line. */
+    struct Run {
+        QGlyphRun drawn; ///< shows a part of the glyphs, by their address
+        QVector<quint32> glyphs;
+        QVector<QPointF> places; ///< on their line's base, from the room's corner
+        qreal ascent;
+        qreal descent;
+        qreal size;
+
+        void draw(QPainter &painter, const QPointF &origin, const QRectF &seen);
+    };
+
+    std::vector<Run> m_runs;
+    QRectF m_room; // in the cell
+    QRectF m_lines; // what the lines take up; what reaches out of the room is cut off
+};
+
+} // namespace PanoHead
