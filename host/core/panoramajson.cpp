@@ -215,10 +215,12 @@ QByteArray lensJson(const Panorama &panorama)
 {
     const bool empty = panorama.positions.isEmpty();
     const QSize size = empty ? QSize() : panorama.positions.first().photos.first().storedSize;
+    // A field of view that belongs to the digits written: who reads and writes them gets it again.
+    const QByteArray focal = json(panorama.focal35mm);
     ObjectText object;
     object.add("model", lensName(panorama.lens))
-        .add("focal35mm", panorama.focal35mm)
-        .add("hfovDeg", horizontalFovDegrees(size, panorama.focal35mm, panorama.lens));
+        .addText("focal35mm", focal)
+        .add("hfovDeg", horizontalFovDegrees(size, focal.toDouble(), panorama.lens));
     return object.text();
 }
 

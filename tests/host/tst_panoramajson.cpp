@@ -231,6 +231,7 @@ private Q_SLOTS:
     void sampleIsWrittenWordForWord();
     void sampleReadsBack();
     void everyPanoramaComesBackByteForByte();
+    void fieldOfViewBelongsToTheFocalLengthWritten();
     void everyAngleKeepsItsBits();
     void outputFitsTheSchema();
     void schemaCheckFindsWhatIsWrong_data();
@@ -324,6 +325,20 @@ void PanoramaJsonTest::everyPanoramaComesBackByteForByte()
         const QByteArray written = panoramaToJson(randomPanorama(seed), kFolder);
         const auto read = panoramaFromJson(written, kFolder);
         QVERIFY2(read.ok(), qPrintable(QString::number(seed)));
+        QCOMPARE(panoramaToJson(read.value(), kFolder), written);
+    }
+}
+
+/** Nine digits of a focal length are written; a field of view of all of them differs in the last.
+ */
+void PanoramaJsonTest::fieldOfViewBelongsToTheFocalLengthWritten()
+{
+    Panorama panorama = sample();
+    for (int i = 0; i < 1000; ++i) {
+        panorama.focal35mm = 8.0 + i / 7.0;
+        const QByteArray written = panoramaToJson(panorama, kFolder);
+        const auto read = panoramaFromJson(written, kFolder);
+        QVERIFY(read.ok());
         QCOMPARE(panoramaToJson(read.value(), kFolder), written);
     }
 }
