@@ -52,6 +52,8 @@ Caption::Caption(const PreviewCell &cell, const QFont &font)
     }
     text.endLayout();
     m_lines = QRectF(m_room.topLeft(), QSizeF(width, height));
+    m_reach = m_lines.toAlignedRect().adjusted(-kOverhang, -kOverhang, kOverhang, kOverhang);
+    m_seen = m_room.contains(m_lines) ? m_reach : m_reach & m_room.toAlignedRect();
     for (const QGlyphRun &run : text.glyphRuns()) {
         const QRawFont raw = run.rawFont();
         m_runs.push_back({ run, run.glyphIndexes(), run.positions(), raw.ascent(), raw.descent(),
@@ -85,9 +87,8 @@ void Caption::draw(QPainter &painter, const QRect &clip, const CaptionColours &c
         painter.fillRect(m_lines & m_room, colours.ground);
     }
     painter.setPen(colours.text);
-    const bool fits = m_room.contains(m_lines);
-    const QRect seen = fits ? clip : clip & m_room.toAlignedRect();
-    const bool isCut = (seen & rect()) != (clip & rect());
+    const QRect seen = clip & m_seen;
+    const bool isCut = seen != (clip & m_reach);
     if (isCut) {
         painter.setClipRect(seen);
     }
@@ -97,11 +98,6 @@ void Caption::draw(QPainter &painter, const QRect &clip, const CaptionColours &c
     if (isCut) {
         painter.setClipRect(clip);
     }
-}
-
-QRect Caption::rect() const
-{
-    return m_lines.toAlignedRect().adjusted(-kOverhang, -kOverhang, kOverhang, kOverhang);
 }
 
 void Caption::drawOnce(QPainter &painter, const PreviewCell &cell, const CaptionColours &colours)

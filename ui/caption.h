@@ -5,6 +5,7 @@
 #include <QBrush>
 #include <QGlyphRun>
 #include <QPen>
+#include <QRect>
 #include <QRectF>
 #include <QVector>
 
@@ -41,7 +42,7 @@ public:
     /** Draws what lies in \p clip, to which \p painter is cut already. */
     void draw(QPainter &painter, const QRect &clip, const CaptionColours &colours);
     /** Pixels that are drawn, and perhaps some around them. */
-    [[nodiscard]] QRect rect() const;
+    [[nodiscard]] QRect rect() const { return m_reach; }
 
     /** Lays the caption of \p cell out and draws all of it, in the painter's font. */
     static void drawOnce(QPainter &painter, const PreviewCell &cell, const CaptionColours &colours);
@@ -61,7 +62,9 @@ private:
 
     std::vector<Run> m_runs;
     QRectF m_room; // in the cell
-    QRectF m_lines; // what the lines take up; what reaches out of the room is cut off
+    QRectF m_lines; // what the lines take up
+    QRect m_reach; // the lines and some pixels around them
+    QRect m_seen; // what of it is drawn: text that does not fit is cut off at the room's sides
 };
 
 } // namespace PanoHead
