@@ -20,6 +20,7 @@ template <typename Work> int endsBySignal(const Work &work)
     const pid_t child = fork();
     if (child == 0) {
         std::signal(SIGABRT, SIG_DFL);
+        qInstallMessageHandler(nullptr); // QtTest's would count a failure of its own
         work();
         _exit(0);
     }
