@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "gate.h"
 #include "hostcontract.h"
 
 #include <QApplication>
@@ -119,6 +120,9 @@ public:
     int lens = 0; ///< of every photo
     QVector<float> exposures; ///< of the photos in the order of reading; 1 for those behind them
     std::atomic<int> slowness{ 0 }; ///< how often the processor is yielded for each photo
+    std::atomic<bool> holdsPhotos{ false }; ///< each photo says that it is asked for, then waits
+    Gate photoAsked; ///< opened by each photo that is held
+    Gate photoGiven; ///< passed by each photo that is held
     std::atomic<int> photosOnTheGuiThread{ 0 };
     Contract::UiSettings uiSettings{ false };
     Contract::UiInstances ui{ &uiSettings };
@@ -157,6 +161,10 @@ public:
     {
         if (QThread::currentThread() == thread()) {
             ++photosOnTheGuiThread;
+        }
+        if (holdsPhotos) {
+            photoAsked.open();
+            photoGiven.pass();
         }
         for (int i = 0; i < slowness; ++i) {
             std::this_thread::yield();

@@ -116,6 +116,8 @@ private Q_SLOTS:
 private:
     /** A Papywizard page with a record of two bracketed positions and its four photos read. */
     void prepare(Contract::Module &module);
+    /** Chooses the photos; the thread waits in the host for the first, the others will be slow. */
+    void startReadingSlowly();
     template <typename Widget> Widget *widget(const char *name) const
     {
         auto *found = m_page->findChild<Widget *>(QString::fromLatin1(name));
@@ -474,15 +476,24 @@ void TestPlugin::aDeletedPageIsTolerated()
     QCOMPARE(host().written.first().value, QVariant(QByteArray()));
 }
 
+void TestPlugin::startReadingSlowly()
+{
+    host().slowness = 2000;
+    host().holdsPhotos = true;
+    DialogClicker clicker;
+    clicker.chooseFiles(m_photos);
+    widget<QPushButton>("m_pbSelectImages")->click();
+    host().photoAsked.pass();
+    host().holdsPhotos = false;
+}
+
 void TestPlugin::aPageDeletedWhileItReadsStopsItsThread()
 {
     Contract::Module module;
     for (int round = 0; round < 20; ++round) {
         prepare(module);
-        host().slowness = 2000;
-        DialogClicker clicker;
-        clicker.chooseFiles(m_photos);
-        widget<QPushButton>("m_pbSelectImages")->click();
+        startReadingSlowly();
+        host().photoGiven.open();
         delete m_page;
         // Nobody reads any more: the host gives out no further photo.
         const std::size_t photos = host().photos().size();
@@ -745,11 +756,10 @@ void TestPlugin::theModuleUnloadsWhilePhotosAreRead()
         {
             Contract::Module module;
             prepare(module);
-            host().slowness = 2000;
-            DialogClicker clicker;
-            clicker.chooseFiles(m_photos);
-            widget<QPushButton>("m_pbSelectImages")->click();
-            QVERIFY(!m_page->isComplete());
+            startReadingSlowly();
+            const bool complete = m_page->isComplete();
+            host().photoGiven.open();
+            QVERIFY(!complete);
         }
         QVERIFY(!Contract::isMapped());
         host().slowness = 0;
