@@ -4,20 +4,17 @@
 
 #include "tests/support/desktop.h"
 #include "tests/support/fakeapplication.h"
-#include "tests/support/gate.h"
 #include "tests/support/literallinks.h"
 #include "tests/support/pageshoot.h"
 #include "ui/xui.h"
 
 #include <QAbstractItemView>
 #include <QCompleter>
-#include <QSignalSpy>
 #include <QWizard>
 #include <QtTest>
 
 #include <algorithm>
 #include <limits>
-#include <memory>
 #include <random>
 
 namespace
@@ -99,14 +96,9 @@ class TestUIWPClauss : public QObject
 private Q_SLOTS:
     void init();
 
-    void newPageIsEmpty();
     void scriptIsShownInTheLabels_data();
     void scriptIsShownInTheLabels();
-    void resetShowsNotAvailableAgain();
-    void resetForgetsThePathAndThePhotos();
-    void resetLeavesTheUsersChoicesAlone();
-    void resetStopsTheReading();
-    void photosAreListedByNameAndCounted();
+    void pathOfBeforeTheResetIsReadAgain();
     void invertingTwiceRestoresEverything();
     void invertingAnEmptyPageIsHarmless();
 
@@ -125,47 +117,21 @@ private Q_SLOTS:
     void leavingTheFieldReadsThePath();
     void boxForATypedPathAppearsOnce();
 
-    void nextHandsOverACopyWithEveryOption_data();
-    void nextHandsOverACopyWithEveryOption();
-    void partlyCheckedBoxDoesNotCount();
     void nextHandsOverGroupsAnglesAndLinks();
     void linksAreThoseOfThePlainLoop();
     void identicalDirectionsAlwaysLink();
     void linksFollowTheOrderOfReading();
-    void secondNextAppends();
-    void nextWithoutShotsAndPhotosIsHarmless();
 
-    void pageIsCompleteWhenEverythingFits_data();
-    void pageIsCompleteWhenEverythingFits();
-    void wizardHearsOfCompleteness();
-    void actionSignalsCompleteness_data();
-    void actionSignalsCompleteness();
-    void goingBackResetsWanted();
-    void goingBackStopsTheReading();
-    void goingForthKeepsTheState();
-    void savedStateIsEmpty();
+    void wizardHearsOfATypedPath();
 
-    void dialogsAskAsDescribed_data();
-    void dialogsAskAsDescribed();
-    void dialogsStartAtTheCurrentFile();
-    void scriptAndPhotosMayComeTogether();
     void lastScriptOfASelectionWins();
     void scriptDialogKeepsThePhotosOrderWanted();
-    void photoDialogSortsCaseSensitively();
     void photosAloneKeepTheScript();
-    void cancelledDialogsChangeNothing();
     void samePhotosFromTheScriptDialogAreNotReadAgain();
-    void newPhotosReplaceThoseBeingRead();
 
-    void controlKeyOpensPhotoOrFolder_data();
-    void controlKeyOpensPhotoOrFolder();
-    void controlKeyOpensTheLastPathItself();
-    void controlKeyOpensNothingWithoutAPlace();
-    void browserOpensWhatItIsGiven();
+    void controlKeyOpensTheScriptsFolder_data();
+    void controlKeyOpensTheScriptsFolder();
 
-    void pageMayGoWhilePhotosAreRead();
-    void pageMayGoWhileADialogIsOpen_data();
-    void pageMayGoWhileADialogIsOpen();
     void pageMayGoWhileTheBoxIsOpen_data();
     void pageMayGoWhileTheBoxIsOpen();
 };
@@ -175,21 +141,6 @@ void TestUIWPClauss::init()
     fakeHost().forget();
     fakeHost().uiSettings.useSystemFileDialog = false;
     XUI::init(fakeHost().UIInstances());
-}
-
-void TestUIWPClauss::newPageIsEmpty()
-{
-    const Shoot shoot;
-
-    QCOMPARE(shoot.driver.text("m_leConfigFile"), QString());
-    QCOMPARE(shoot.driver.text("m_leImage"), QString());
-    for (const char *name : { "m_lbPapyLog", "m_lbThetaMinMax", "m_lbPhiMinMax", "m_lbImageLog" }) {
-        QCOMPARE(shoot.driver.text(name), notAvailable());
-    }
-    QVERIFY(shoot.driver.picture().isNull());
-    QVERIFY(!shoot.page.isComplete());
-    QVERIFY(fakeHost().setLastPaths.isEmpty());
-    QVERIFY(fakeHost().descriptions.isEmpty());
 }
 
 void TestUIWPClauss::scriptIsShownInTheLabels_data()
@@ -238,94 +189,17 @@ void TestUIWPClauss::scriptIsShownInTheLabels()
              QStringList{ shoot.folder.path(QStringLiteral("script.txt")) });
 }
 
-void TestUIWPClauss::resetShowsNotAvailableAgain()
-{
-    const Shoot shoot;
-    shoot.loadScript(row(3));
-    shoot.loadPhotos(3);
-    QVERIFY(!shoot.driver.picture().isNull());
-
-    shoot.driver.click("m_pbReset");
-
-    for (const char *name : { "m_lbPapyLog", "m_lbThetaMinMax", "m_lbPhiMinMax", "m_lbImageLog" }) {
-        QCOMPARE(shoot.driver.text(name), notAvailable());
-    }
-    QCOMPARE(shoot.driver.text("m_leImage"), QString());
-    QVERIFY(shoot.driver.picture().isNull());
-    QVERIFY(!shoot.page.isComplete());
-}
-
-void TestUIWPClauss::resetForgetsThePathAndThePhotos()
+void TestUIWPClauss::pathOfBeforeTheResetIsReadAgain()
 {
     const Shoot shoot;
     const QString script = shoot.writeScript(row(2));
     shoot.driver.load(kSelectRecord, shoot.folder.addPhotos(2) << script);
-    fakeHost().lastPath = shoot.folder.path(QStringLiteral("elsewhere"));
-    QDir().mkpath(fakeHost().lastPath);
-
     shoot.driver.click("m_pbReset");
 
-    QCOMPARE(shoot.driver.text(kScript), QString());
-    QVERIFY(shoot.page.shots.isEmpty());
-    QCOMPARE(shoot.driver.cancelFiles(kSelectRecord).directory, fakeHost().lastPath);
-    QCOMPARE(shoot.driver.cancelFiles(kSelectPhotos).directory, fakeHost().lastPath);
-    // The same path is read again, and no old photo counts.
     shoot.enter(script);
+
     QCOMPARE(shoot.driver.text("m_lbPapyLog"), QStringLiteral("2"));
-    QVERIFY(!shoot.page.isComplete());
-}
-
-void TestUIWPClauss::resetLeavesTheUsersChoicesAlone()
-{
-    const Shoot shoot;
-    for (const char *box : { "m_autoStart", "m_cleanLink", "m_noOptim", "m_GridOptim" }) {
-        shoot.driver.click(box);
-    }
-    shoot.page.m_hSlider->setValue(33);
-
-    shoot.driver.click("m_pbReset");
-
-    QVERIFY(!shoot.page.m_autoStart->isChecked());
-    QVERIFY(shoot.page.m_cleanLink->isChecked());
-    QVERIFY(shoot.page.m_noOptim->isChecked());
-    QVERIFY(!shoot.page.m_GridOptim->isChecked());
-    QCOMPARE(shoot.page.m_hSlider->value(), 33);
-}
-
-void TestUIWPClauss::resetStopsTheReading()
-{
-    const Shoot shoot;
-    Gate enter;
-    FakePhoto slow;
-    slow.enter = &enter;
-    slow.spins = 200;
-    shoot.driver.chooseFiles(kSelectPhotos, shoot.folder.addPhotos(200, slow));
-    enter.pass();
-
-    shoot.driver.click("m_pbReset");
-
-    const int begun = fakeHost().readFiles().size();
-    QVERIFY(begun < 200);
-    shoot.driver.waitUntilRead();
-    QCOMPARE(fakeHost().readFiles().size(), begun);
-    // Nothing of them is left to count.
-    shoot.loadScript(QByteArray());
-    QVERIFY(shoot.page.isComplete());
-}
-
-void TestUIWPClauss::photosAreListedByNameAndCounted()
-{
-    const Shoot shoot;
-
-    shoot.driver.load(kSelectPhotos,
-                      { shoot.folder.addPhoto(QStringLiteral("a.jpg")),
-                        shoot.folder.addPhoto(QStringLiteral("b <i>c; d.jpg")),
-                        shoot.folder.addPhoto(QStringLiteral("sub/e.tif")) });
-
-    QCOMPARE(shoot.driver.text("m_leImage"),
-             QStringLiteral("\"a.jpg\"; \"b <i>c; d.jpg\"; \"e.tif\"; "));
-    QCOMPARE(shoot.driver.text("m_lbImageLog"), QStringLiteral("3"));
-    QVERIFY(shoot.page.m_leImage->maxLength() > 1'000'000); // every photo of the largest shoots
+    QVERIFY(!shoot.page.isComplete()); // no old photo counts
 }
 
 void TestUIWPClauss::invertingTwiceRestoresEverything()
@@ -566,68 +440,6 @@ void TestUIWPClauss::boxForATypedPathAppearsOnce()
     checkErrorBox(clicker, missing);
 }
 
-void TestUIWPClauss::nextHandsOverACopyWithEveryOption_data()
-{
-    QTest::addColumn<QString>("clicked");
-    QTest::addColumn<QVector<bool>>("flags"); // auto detection, clean, skip, recorded location
-    const auto add = [](const char *clicked, const QVector<bool> &flags) {
-        QTest::newRow(*clicked ? clicked : "defaults") << QString::fromLatin1(clicked) << flags;
-    };
-    add("", { true, false, false, true });
-    add("m_autoStart", { false, false, false, true });
-    add("m_cleanLink", { true, true, false, true });
-    add("m_noOptim", { true, false, true, true });
-    add("m_GridOptim", { true, false, false, false });
-}
-
-void TestUIWPClauss::nextHandsOverACopyWithEveryOption()
-{
-    QFETCH(QString, clicked);
-    QFETCH(QVector<bool>, flags);
-    Shoot shoot;
-    shoot.loadScript(row(2));
-    shoot.loadPhotos(2);
-    if (!clicked.isEmpty()) {
-        shoot.driver.click(clicked.toLatin1().constData());
-    }
-
-    QVERIFY(shoot.page.validatePage());
-
-    QCOMPARE(fakeHost().descriptions.size(), 1);
-    const StructuredPanoramaProperties &handed = fakeHost().descriptions.first();
-    QCOMPARE((QVector<bool>{ handed.autoDetection, handed.cleanWrongLinks, handed.skipOptimization,
-                             handed.useRecordedLocation }),
-             flags);
-    QVERIFY(handed.positionsKnown);
-    QVERIFY(!handed.rollKnown);
-    QCOMPARE(handed.overlap, 25.0);
-    QCOMPARE(handed.lensModel, LensModel::NotChosen);
-    QCOMPARE(handed.focalLength, 0.0F);
-    QCOMPARE(handed.levelLinking, 0);
-    QCOMPARE(handed.stackLinking, 0);
-    // A copy: what the page does later does not reach it.
-    shoot.page.imageGroups.clear();
-    QCOMPARE(handed.imageGroups.size(), 2);
-}
-
-void TestUIWPClauss::partlyCheckedBoxDoesNotCount()
-{
-    Shoot shoot;
-    for (QCheckBox *box : { shoot.page.m_autoStart, shoot.page.m_cleanLink, shoot.page.m_noOptim,
-                            shoot.page.m_GridOptim }) {
-        box->setTristate(true);
-        box->setCheckState(Qt::PartiallyChecked);
-    }
-
-    QVERIFY(shoot.page.validatePage());
-
-    const StructuredPanoramaProperties &handed = fakeHost().descriptions.first();
-    QVERIFY(!handed.autoDetection);
-    QVERIFY(!handed.cleanWrongLinks);
-    QVERIFY(!handed.skipOptimization);
-    QVERIFY(!handed.useRecordedLocation);
-}
-
 void TestUIWPClauss::nextHandsOverGroupsAnglesAndLinks()
 {
     Shoot shoot;
@@ -644,6 +456,8 @@ void TestUIWPClauss::nextHandsOverGroupsAnglesAndLinks()
     // 180 degrees = 3.14159265, 150 degrees = 2.61799388, 90 degrees = 1.57079633
     QCOMPARE(handed.yaw, (QVector<float>{ 3.14159265F, 3.14159265F, 2.61799388F }));
     QCOMPARE(handed.pitch, (QVector<float>{ 1.57079633F, 0.0F, 0.0F }));
+    QCOMPARE(handed.lensModel, LensModel::NotChosen); // left to the photos
+    QCOMPARE(handed.focalLength, 0.0F);
     QVERIFY(handed.roll.isEmpty());
     QCOMPARE(linksOf(handed), QStringLiteral("0:1-2")); // 30 degrees at 24 mm; 90 are too many
 }
@@ -723,76 +537,7 @@ void TestUIWPClauss::linksFollowTheOrderOfReading()
     QCOMPARE(linksOf(fakeHost().descriptions.first()), QStringLiteral("0:0-1 0:0-2"));
 }
 
-void TestUIWPClauss::secondNextAppends()
-{
-    Shoot shoot;
-    shoot.loadScript(row(2));
-    shoot.loadPhotos(2);
-
-    QVERIFY(shoot.page.validatePage());
-    QVERIFY(shoot.page.validatePage());
-
-    QCOMPARE(fakeHost().descriptions.size(), 2);
-    const StructuredPanoramaProperties &second = fakeHost().descriptions.last();
-    QCOMPARE(fakeHost().descriptions.first().imageGroups.size(), 2);
-    QCOMPARE(second.imageGroups.size(), 4);
-    QCOMPARE(second.yaw.size(), 4);
-    QCOMPARE(linksOf(second), QStringLiteral("0:0-1 0:0-1"));
-}
-
-void TestUIWPClauss::nextWithoutShotsAndPhotosIsHarmless()
-{
-    Shoot shoot;
-    QVERIFY(shoot.page.validatePage());
-    shoot.loadScript(QByteArray());
-    QVERIFY(shoot.page.isComplete());
-    QVERIFY(shoot.page.validatePage());
-    QCOMPARE(fakeHost().descriptions.size(), 2);
-    QVERIFY(fakeHost().descriptions.last().imageGroups.isEmpty());
-}
-
-void TestUIWPClauss::pageIsCompleteWhenEverythingFits_data()
-{
-    QTest::addColumn<int>("shots"); // -1: no script
-    QTest::addColumn<int>("photos");
-    QTest::addColumn<bool>("oneUnreadable");
-    QTest::addColumn<bool>("complete");
-    QTest::newRow("12 shots, 12 photos") << 12 << 12 << false << true;
-    QTest::newRow("12 shots, 11 photos") << 12 << 11 << false << false;
-    QTest::newRow("11 shots, 12 photos") << 11 << 12 << false << false;
-    QTest::newRow("12 shots, 12 photos, one unreadable") << 12 << 12 << true << false;
-    QTest::newRow("11 shots, 12 photos, one unreadable") << 11 << 12 << true << false;
-    QTest::newRow("no script, 12 photos") << -1 << 12 << false << false;
-    QTest::newRow("12 shots, no photos") << 12 << 0 << false << false;
-    QTest::newRow("no script, no photos") << -1 << 0 << false << false;
-    QTest::newRow("no shots, no photos") << 0 << 0 << false << true;
-}
-
-void TestUIWPClauss::pageIsCompleteWhenEverythingFits()
-{
-    QFETCH(int, shots);
-    QFETCH(int, photos);
-    QFETCH(bool, oneUnreadable);
-    QFETCH(bool, complete);
-    const Shoot shoot;
-    const QStringList files = shoot.folder.addPhotos(photos);
-    if (oneUnreadable) {
-        FakePhoto photo;
-        photo.reading = FakePhoto::Reading::Fails;
-        fakeHost().setPhoto(files.at(3), photo);
-    }
-
-    if (shots >= 0) {
-        shoot.loadScript(row(shots));
-    }
-    if (photos > 0) {
-        shoot.driver.load(kSelectPhotos, files);
-    }
-
-    QCOMPARE(shoot.page.isComplete(), complete);
-}
-
-void TestUIWPClauss::wizardHearsOfCompleteness()
+void TestUIWPClauss::wizardHearsOfATypedPath()
 {
     const ShootFolder folder;
     QWizard wizard;
@@ -802,210 +547,14 @@ void TestUIWPClauss::wizardHearsOfCompleteness()
     wizard.show();
     const PageDriver driver(page);
     const QAbstractButton *next = wizard.button(QWizard::NextButton);
-    QVERIFY(!next->isEnabled());
-
     driver.load(kSelectPhotos, folder.addPhotos(2));
-    QVERIFY(!next->isEnabled());
-    const QString fitting = folder.write(QStringLiteral("fitting.txt"), row(2));
-    driver.load(kSelectRecord, { fitting });
-    QVERIFY(next->isEnabled());
     driver.load(kSelectRecord, { folder.write(QStringLiteral("more.txt"), row(3)) });
     QVERIFY(!next->isEnabled());
-    driver.type(kScript, fitting);
+
+    driver.type(kScript, folder.write(QStringLiteral("fitting.txt"), row(2)));
     leave(page->m_leConfigFile);
+
     QVERIFY(next->isEnabled());
-    driver.click("m_pbReset");
-    QVERIFY(!next->isEnabled());
-    driver.load(kSelectRecord, { fitting });
-    QVERIFY(!next->isEnabled());
-    driver.load(kSelectPhotos, folder.addPhotos(2));
-    QVERIFY(next->isEnabled()); // heard when the last photo arrived
-}
-
-void TestUIWPClauss::actionSignalsCompleteness_data()
-{
-    QTest::addColumn<QString>("name");
-    for (const char *name : { "m_pbReset", "m_pInverseCoordinates", "m_hSlider", kScript,
-                              kSelectRecord, kSelectPhotos }) {
-        QTest::newRow(name) << QString::fromLatin1(name);
-    }
-}
-
-void TestUIWPClauss::actionSignalsCompleteness()
-{
-    QFETCH(QString, name);
-    const QByteArray widget = name.toLatin1();
-    const Shoot shoot;
-    shoot.loadScript(row(2));
-    shoot.loadPhotos(2);
-    const QSignalSpy spy(&shoot.page, &QWizardPage::completeChanged);
-
-    if (widget == kSelectRecord) {
-        shoot.driver.chooseFiles(kSelectRecord, { shoot.writeScript(row(3)) });
-    } else if (widget == kSelectPhotos) {
-        shoot.driver.chooseFiles(kSelectPhotos, shoot.folder.addPhotos(1));
-    } else if (widget == "m_hSlider") {
-        shoot.page.m_hSlider->setValue(20);
-    } else if (widget == kScript) {
-        shoot.enter(shoot.writeScript(row(3), QStringLiteral("other.txt")));
-    } else {
-        shoot.driver.click(widget.constData());
-    }
-
-    QVERIFY(spy.count() >= 1);
-    QVERIFY(!shoot.page.signalsBlocked());
-    QVERIFY(!shoot.page.m_hSlider->signalsBlocked());
-}
-
-void TestUIWPClauss::goingBackResetsWanted()
-{
-    const ShootFolder folder;
-    QWizard wizard;
-    wizard.addPage(new QWizardPage);
-    auto *page = new UIWPClauss(nullptr);
-    wizard.addPage(page);
-    wizard.addPage(new QWizardPage);
-    wizard.show();
-    wizard.next();
-    QCOMPARE(wizard.currentPage(), page);
-    const PageDriver driver(page);
-    driver.load(kSelectRecord,
-                folder.addPhotos(2) << folder.write(QStringLiteral("a.txt"), row(2)));
-    QVERIFY(page->isComplete());
-
-    wizard.back();
-
-    QVERIFY(!page->isComplete());
-    QVERIFY(page->shots.isEmpty());
-    QCOMPARE(driver.text(kScript), QString());
-    QCOMPARE(driver.text("m_lbImageLog"), notAvailable());
-    QVERIFY(driver.picture().isNull());
-    QVERIFY(fakeHost().descriptions.isEmpty());
-}
-
-void TestUIWPClauss::goingBackStopsTheReading()
-{
-    Shoot shoot;
-    Gate enter;
-    FakePhoto slow;
-    slow.enter = &enter;
-    slow.spins = 200;
-    shoot.driver.chooseFiles(kSelectPhotos, shoot.folder.addPhotos(200, slow));
-    enter.pass();
-
-    shoot.page.cleanupPage();
-
-    const int begun = fakeHost().readFiles().size();
-    QVERIFY(begun < 200);
-    shoot.driver.waitUntilRead();
-    QCOMPARE(fakeHost().readFiles().size(), begun);
-    QCOMPARE(shoot.driver.text("m_lbImageLog"), notAvailable());
-}
-
-void TestUIWPClauss::goingForthKeepsTheState()
-{
-    const ShootFolder folder;
-    QWizard wizard;
-    auto *page = new UIWPClauss(nullptr);
-    wizard.addPage(page);
-    wizard.addPage(new QWizardPage);
-    wizard.show();
-    const PageDriver driver(page);
-    driver.load(kSelectRecord,
-                folder.addPhotos(2) << folder.write(QStringLiteral("a.txt"), row(2)));
-    const QImage picture = driver.picture();
-
-    QTest::mouseClick(wizard.button(QWizard::NextButton), Qt::LeftButton);
-    QVERIFY(wizard.currentPage() != page);
-    QCOMPARE(fakeHost().descriptions.size(), 1);
-    wizard.back();
-
-    QCOMPARE(wizard.currentPage(), page);
-    QVERIFY(page->isComplete());
-    QCOMPARE(driver.picture(), picture);
-}
-
-void TestUIWPClauss::savedStateIsEmpty()
-{
-    Shoot shoot;
-    shoot.loadScript(row(2));
-    shoot.loadPhotos(2);
-    const QImage picture = shoot.driver.picture();
-
-    QCOMPARE(shoot.page.SaveState(), QByteArray());
-    shoot.page.RestoreState(QByteArray("\0\xff any bytes", 12));
-    shoot.page.initializePage();
-
-    QVERIFY(shoot.page.isComplete());
-    QCOMPARE(shoot.driver.text("m_lbPapyLog"), QStringLiteral("2"));
-    QCOMPARE(shoot.driver.text("m_lbImageLog"), QStringLiteral("2"));
-    QCOMPARE(shoot.driver.picture(), picture);
-}
-
-void TestUIWPClauss::dialogsAskAsDescribed_data()
-{
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<QString>("caption");
-    QTest::newRow("script") << QString::fromLatin1(kSelectRecord)
-                            << QStringLiteral("Select the preset file and/or images");
-    QTest::newRow("photos") << QString::fromLatin1(kSelectPhotos)
-                            << QStringLiteral("Select images");
-}
-
-void TestUIWPClauss::dialogsAskAsDescribed()
-{
-    QFETCH(QString, button);
-    QFETCH(QString, caption);
-    const Shoot shoot;
-    fakeHost().lastPath = shoot.folder.path();
-    const QByteArray name = button.toLatin1();
-
-    const DialogClicker::SeenFileDialog dialog = shoot.driver.cancelFiles(name.constData());
-
-    QCOMPARE(dialog.caption, caption);
-    QCOMPARE(dialog.nameFilters, QStringList{ QStringLiteral("All Files (*.*)") });
-    QCOMPARE(dialog.selectedNameFilter, QStringLiteral("All Files (*.*)"));
-    QCOMPARE(dialog.fileMode, QFileDialog::ExistingFiles);
-    QCOMPARE(dialog.directory, shoot.folder.path()); // the host's place while there is no script
-    QCOMPARE(dialog.fileName, QString());
-    QVERIFY(dialog.options.testFlag(QFileDialog::DontUseNativeDialog));
-
-    fakeHost().uiSettings.useSystemFileDialog = true;
-    QVERIFY(!shoot.driver.cancelFiles(name.constData())
-                 .options.testFlag(QFileDialog::DontUseNativeDialog));
-}
-
-void TestUIWPClauss::dialogsStartAtTheCurrentFile()
-{
-    const Shoot shoot;
-    fakeHost().lastPath = QDir::tempPath();
-    shoot.driver.load(kSelectRecord, { shoot.writeScript(row(2), QStringLiteral("head/a.txt")) });
-    shoot.driver.load(kSelectPhotos,
-                      { shoot.folder.addPhoto(QStringLiteral("card/b.jpg")),
-                        shoot.folder.addPhoto(QStringLiteral("card/a.jpg")) });
-
-    const DialogClicker::SeenFileDialog scriptDialog = shoot.driver.cancelFiles(kSelectRecord);
-    QCOMPARE(scriptDialog.directory, shoot.folder.path(QStringLiteral("head")));
-    QCOMPARE(scriptDialog.fileName, QStringLiteral("a.txt"));
-    const DialogClicker::SeenFileDialog photoDialog = shoot.driver.cancelFiles(kSelectPhotos);
-    QCOMPARE(photoDialog.directory, shoot.folder.path(QStringLiteral("card")));
-    QCOMPARE(photoDialog.fileName, QStringLiteral("a.jpg"));
-}
-
-void TestUIWPClauss::scriptAndPhotosMayComeTogether()
-{
-    const Shoot shoot;
-    const QString script = shoot.writeScript(row(3), QStringLiteral("SCRIPT.TXT"));
-    QStringList files = shoot.folder.addPhotos(3);
-    files.insert(1, script);
-
-    shoot.driver.load(kSelectRecord, files);
-
-    QVERIFY(shoot.page.isComplete());
-    QCOMPARE(shoot.driver.text(kScript), script);
-    QCOMPARE(shoot.driver.text("m_leImage"),
-             QStringLiteral("\"IMG_0001.jpg\"; \"IMG_0002.jpg\"; \"IMG_0003.jpg\"; "));
-    QCOMPARE(fakeHost().setLastPaths, QStringList{ script });
 }
 
 void TestUIWPClauss::lastScriptOfASelectionWins()
@@ -1036,22 +585,6 @@ void TestUIWPClauss::scriptDialogKeepsThePhotosOrderWanted()
     QCOMPARE(shoot.driver.text("m_leImage"), QStringLiteral("\"c.jpg\"; \"a.jpg\"; \"B.jpg\"; "));
 }
 
-void TestUIWPClauss::photoDialogSortsCaseSensitively()
-{
-    const Shoot shoot;
-    QStringList files;
-    for (const char *name : { "a.jpg", "IMG_9.jpg", "Z.jpg", "IMG_10.jpg" }) {
-        files.append(shoot.folder.addPhoto(QString::fromLatin1(name)));
-    }
-
-    shoot.driver.load(kSelectPhotos, files);
-
-    QCOMPARE(namesOf(fakeHost().readFiles()),
-             (QStringList{ QStringLiteral("IMG_10.jpg"), QStringLiteral("IMG_9.jpg"),
-                           QStringLiteral("Z.jpg"), QStringLiteral("a.jpg") }));
-    QCOMPARE(fakeHost().setLastPaths, QStringList{ files.at(3) });
-}
-
 void TestUIWPClauss::photosAloneKeepTheScript()
 {
     const Shoot shoot;
@@ -1065,25 +598,6 @@ void TestUIWPClauss::photosAloneKeepTheScript()
     QCOMPARE(shoot.driver.text("m_lbPapyLog"), QStringLiteral("2")); // not read again
     QCOMPARE(fakeHost().setLastPaths, (QStringList{ script, script }));
     QVERIFY(shoot.page.isComplete());
-}
-
-void TestUIWPClauss::cancelledDialogsChangeNothing()
-{
-    const Shoot shoot;
-    shoot.loadScript(row(2));
-    shoot.loadPhotos(2);
-    shoot.driver.click("m_pInverseCoordinates");
-    const QStringList told = fakeHost().setLastPaths;
-    shoot.writeScript(row(4));
-
-    shoot.driver.cancelFiles(kSelectRecord);
-    shoot.driver.cancelFiles(kSelectPhotos);
-    shoot.driver.waitUntilRead();
-
-    QCOMPARE(shoot.driver.text("m_lbPapyLog"), QStringLiteral("2"));
-    QVERIFY(shoot.page.isComplete());
-    QCOMPARE(fakeHost().setLastPaths, told);
-    QCOMPARE(fakeHost().readFiles().size(), 2);
 }
 
 void TestUIWPClauss::samePhotosFromTheScriptDialogAreNotReadAgain()
@@ -1103,27 +617,7 @@ void TestUIWPClauss::samePhotosFromTheScriptDialogAreNotReadAgain()
     QCOMPARE(fakeHost().readFiles().size(), 9);
 }
 
-void TestUIWPClauss::newPhotosReplaceThoseBeingRead()
-{
-    const Shoot shoot;
-    shoot.loadScript(row(2));
-    Gate enter;
-    FakePhoto slow;
-    slow.spins = 200;
-    slow.enter = &enter;
-    QStringList old;
-    for (int i = 0; i < 50; ++i) {
-        old.append(shoot.folder.addPhoto(QStringLiteral("old_%1.jpg").arg(i), slow));
-    }
-    shoot.driver.chooseFiles(kSelectPhotos, old);
-    enter.pass(); // one is in the host's hands
-
-    shoot.loadPhotos(2);
-
-    QVERIFY(shoot.page.isComplete());
-}
-
-void TestUIWPClauss::controlKeyOpensPhotoOrFolder_data()
+void TestUIWPClauss::controlKeyOpensTheScriptsFolder_data()
 {
     QTest::addColumn<QString>("folder");
     QTest::newRow("plain") << QStringLiteral("shoot");
@@ -1131,97 +625,20 @@ void TestUIWPClauss::controlKeyOpensPhotoOrFolder_data()
     QTest::newRow("umlauts") << QString::fromUtf8("Höhe über Zürich");
 }
 
-void TestUIWPClauss::controlKeyOpensPhotoOrFolder()
+void TestUIWPClauss::controlKeyOpensTheScriptsFolder()
 {
     QFETCH(QString, folder);
     const Shoot shoot;
     const QString script = shoot.writeScript(row(1), folder + QLatin1String("/a.txt"));
-    const QString photo = shoot.folder.addPhoto(folder + QLatin1String("-photos/a.jpg"));
-    shoot.driver.load(kSelectRecord, { script, photo });
+    shoot.driver.load(kSelectRecord, { script });
     const DesktopCatcher desktop;
 
     shoot.driver.click(kSelectRecord, Qt::ControlModifier);
-    shoot.driver.click(kSelectPhotos, Qt::ControlModifier);
-
-    QCOMPARE(desktop.urls().size(), 2);
-    QCOMPARE(desktop.urls()[0].toLocalFile(), shoot.folder.path(folder));
-    QCOMPARE(desktop.urls()[1].toLocalFile(), photo); // the first photo itself: wanted
-    QCOMPARE(shoot.driver.text("m_leImage"), QStringLiteral("\"a.jpg\"; "));
-    QCOMPARE(fakeHost().setLastPaths, QStringList{ script });
-}
-
-void TestUIWPClauss::controlKeyOpensTheLastPathItself()
-{
-    const Shoot shoot;
-    fakeHost().lastPath = shoot.folder.path(QStringLiteral("last/place"));
-    const DesktopCatcher desktop;
-
-    shoot.driver.click(kSelectPhotos, Qt::ControlModifier);
 
     QCOMPARE(desktop.urls().size(), 1);
-    QCOMPARE(desktop.urls()[0].toLocalFile(), fakeHost().lastPath);
-}
-
-void TestUIWPClauss::controlKeyOpensNothingWithoutAPlace()
-{
-    const Shoot shoot;
-    const DesktopCatcher desktop;
-    const DialogClicker clicker;
-
-    shoot.driver.click(kSelectRecord, Qt::ControlModifier);
-    shoot.driver.click(kSelectPhotos, Qt::ControlModifier);
-
-    QVERIFY(desktop.urls().isEmpty());
-    QVERIFY(clicker.fileDialogs().isEmpty());
-}
-
-void TestUIWPClauss::browserOpensWhatItIsGiven()
-{
-    Shoot shoot;
-    const DesktopCatcher desktop;
-    shoot.page.BrowserWeb(QStringLiteral("https://example.org/a?b=c#d"));
-    QCOMPARE(desktop.urls(), QVector<QUrl>{ QUrl(QStringLiteral("https://example.org/a?b=c#d")) });
-}
-
-void TestUIWPClauss::pageMayGoWhilePhotosAreRead()
-{
-    auto shoot = std::make_unique<Shoot>();
-    Gate enter;
-    FakePhoto slow;
-    slow.enter = &enter;
-    slow.spins = 200;
-    shoot->driver.chooseFiles(kSelectPhotos, shoot->folder.addPhotos(200, slow));
-    enter.pass();
-
-    shoot.reset();
-
-    const int begun = fakeHost().readFiles().size();
-    QVERIFY(begun >= 1);
-    QVERIFY(begun < 200);
-    QCoreApplication::processEvents();
-    QCOMPARE(fakeHost().readFiles().size(), begun);
-}
-
-void TestUIWPClauss::pageMayGoWhileADialogIsOpen_data()
-{
-    QTest::addColumn<QString>("button");
-    QTest::newRow("script") << QString::fromLatin1(kSelectRecord);
-    QTest::newRow("photos") << QString::fromLatin1(kSelectPhotos);
-}
-
-void TestUIWPClauss::pageMayGoWhileADialogIsOpen()
-{
-    QFETCH(QString, button);
-    QPointer<UIWPClauss> page = new UIWPClauss(nullptr);
-    const PageDriver driver(page);
-    DialogClicker clicker;
-    clicker.beforeNextAnswer([&page] { delete page.data(); });
-
-    driver.click(button.toLatin1().constData());
-
-    QVERIFY(page.isNull());
-    QCOMPARE(clicker.fileDialogs().size(), 1);
-    QVERIFY(fakeHost().setLastPaths.isEmpty());
+    QCOMPARE(desktop.urls().first().toLocalFile(), shoot.folder.path(folder));
+    QCOMPARE(shoot.driver.text(kScript), script);
+    QCOMPARE(fakeHost().setLastPaths, QStringList{ script });
 }
 
 void TestUIWPClauss::pageMayGoWhileTheBoxIsOpen_data()

@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "importers/gigapan/uiwpgigapan.h"
 
-#include "tests/support/desktop.h"
 #include "tests/support/fakeapplication.h"
 #include "tests/support/formcheck.h"
-#include "tests/support/gate.h"
+#include "tests/support/heldphotos.h"
 #include "tests/support/literalgrid.h"
 #include "tests/support/pagedriver.h"
 #include "tests/support/shootfolder.h"
@@ -16,15 +15,11 @@
 #include <QWizard>
 #include <QtTest>
 
-#include <chrono>
-#include <memory>
 #include <random>
-#include <thread>
 
 namespace
 {
 
-constexpr char kSelectPhotos[] = "m_pbSelectImages";
 constexpr char kRows[] = "m_sbRow";
 constexpr char kIgnored[] = "m_sbIgnore";
 constexpr char kBracket[] = "m_sbBracket";
@@ -71,43 +66,6 @@ struct Shoot {
     static QByteArray modeButton(int mode) { return "m_rbMode" + QByteArray::number(mode); }
 };
 
-/** While it lives, a host that needs 10 ms for each photo that \c slow() describes. */
-class SlowHost
-{
-public:
-    SlowHost()
-        : m_dripping([this] {
-            while (!m_ends.passWithin(std::chrono::milliseconds(10))) {
-                m_leave.open();
-            }
-        })
-    {
-    }
-    ~SlowHost()
-    {
-        m_ends.open();
-        m_dripping.join();
-    }
-    SlowHost(const SlowHost &) = delete;
-    SlowHost &operator=(const SlowHost &) = delete;
-
-    [[nodiscard]] FakePhoto slow()
-    {
-        FakePhoto photo;
-        photo.enter = &m_enter;
-        photo.leave = &m_leave;
-        return photo;
-    }
-    /** Waits until such a photo is in the host's hands. */
-    void waitForThePhoto() { m_enter.pass(); }
-
-private:
-    Gate m_enter;
-    Gate m_leave;
-    Gate m_ends;
-    std::thread m_dripping;
-};
-
 /** Something that a user does on a page. */
 using Act = void (*)(Shoot &);
 
@@ -129,12 +87,12 @@ class TestUIWPGigapan : public QObject
 private Q_SLOTS:
     void init();
 
-    void newPageIsEmpty();
-    void photosAreListedByNameAndCounted();
-    void twoThousandPhotosAreListedWhole();
+    void newPageShowsTheFreshGrid();
 
     void choosingPhotosGuessesTheGrid_data();
     void choosingPhotosGuessesTheGrid();
+    void gridIsGuessedBeforeThePhotosAreRead();
+    void newPhotosWhileOthersAreReadGiveANewGrid();
     void choosingPhotosForgetsBracketsAndIgnoredOnes();
     void columnsFollowTheNumbers_data();
     void columnsFollowTheNumbers();
@@ -154,16 +112,10 @@ private Q_SLOTS:
     void slotsDoNothingWhileThePageWritesItsWidgets();
     void nestedUpdateKeepsTheSlotsSilent();
 
-    void allLevelsBringDetectedPoints();
-    void hardLinksBringTheReferenceLevel();
-    void otherRadioButtonsChangeNothingElse();
-
-    void nextHandsOverACopyWithEveryOption_data();
-    void nextHandsOverACopyWithEveryOption();
     void nextHandsOverTheGrid();
+    void fullTurnLinksTheEnds();
     void randomGridsAreHandedOverAsTheHeadSweepsThem();
     void moreCellsThanPhotosKeepTheirLinks();
-    void partlyCheckedBoxDoesNotCount();
     void pairWithoutACheckedButtonKeepsItsField();
     void gridThatDoesNotFitGivesWhatItCan_data();
     void gridThatDoesNotFitGivesWhatItCan();
@@ -171,32 +123,11 @@ private Q_SLOTS:
 
     void pageIsCompleteWhenEveryPhotoIsRead_data();
     void pageIsCompleteWhenEveryPhotoIsRead();
-    void pageIsIncompleteWhilePhotosAreRead();
-    void wizardHearsOfCompleteness();
-    void resetShowsAFreshPage();
-    void resetLeavesTheUsersChoicesAlone();
-    void resetStopsReading();
+    void resetShowsTheFreshGrid();
     void enteringThePageResets();
     void goingBackOnlyStopsReadingWanted();
-    void goingForthKeepsTheState();
-    void savedStateIsEmpty();
 
-    void dialogAsksAsDescribed();
-    void dialogStartsAtTheFirstPhoto();
-    void dialogFollowsTheHostsSetting();
-    void cancelledDialogChangesNothing();
-    void photosAreSortedCaseSensitively();
-    void hostLearnsTheFirstPhoto();
-    void newPhotosReplaceThoseBeingRead();
-
-    void controlKeyOpensTheFirstPhotoItself_data();
-    void controlKeyOpensTheFirstPhotoItself();
-    void controlKeyOpensTheLastPathItself();
-    void controlKeyOpensNothingWithoutAPlace();
-    void browserOpensWhatItIsGiven();
-
-    void pageMayGoWhilePhotosAreRead();
-    void pageMayGoWhileTheDialogIsOpen();
+    void cancelledDialogKeepsTheGrid();
 };
 
 void TestUIWPGigapan::init()
@@ -206,57 +137,16 @@ void TestUIWPGigapan::init()
     XUI::init(fakeHost().UIInstances());
 }
 
-void TestUIWPGigapan::newPageIsEmpty()
+void TestUIWPGigapan::newPageShowsTheFreshGrid()
 {
     const Shoot shoot;
 
-    QCOMPARE(shoot.driver.text("m_leImage"), QString());
-    QCOMPARE(shoot.driver.text("m_lbImage"), QStringLiteral("0 images in "));
     QCOMPARE(shoot.grid(), QStringLiteral("4 x 5"));
     QCOMPARE(shoot.page.rows, 4);
     QCOMPARE(shoot.page.columns, 5);
     QCOMPARE(shoot.page.ignoredCount, 0);
     QCOMPARE(shoot.page.bracketCount, 1);
     QCOMPARE(shoot.page.mode, 0);
-    // Cells of 48 x 48: (5 x 52 + 4) x (4 x 52 + 4) = 264 x 212, at 50 percent.
-    QCOMPARE(shoot.driver.picture().size(), QSize(132, 106));
-    QVERIFY(!shoot.page.isComplete());
-    QVERIFY(fakeHost().setLastPaths.isEmpty());
-    QVERIFY(fakeHost().descriptions.isEmpty());
-}
-
-void TestUIWPGigapan::photosAreListedByNameAndCounted()
-{
-    const Shoot shoot;
-    const QStringList photos{ shoot.folder.addPhoto(QStringLiteral("a.jpg")),
-                              shoot.folder.addPhoto(QStringLiteral("b <i>c; d.jpg")),
-                              shoot.folder.addPhoto(QStringLiteral("sub/e.tif")) };
-
-    shoot.driver.load(kSelectPhotos, photos);
-
-    QCOMPARE(shoot.driver.text("m_leImage"),
-             QStringLiteral("\"a.jpg\"; \"b <i>c; d.jpg\"; \"e.tif\"; "));
-    QCOMPARE(shoot.driver.text("m_lbImage"), QStringLiteral("3 images in "));
-}
-
-void TestUIWPGigapan::twoThousandPhotosAreListedWhole()
-{
-    const Shoot shoot;
-    QStringList photos;
-    QString expected;
-    for (int i = 0; i < 2000; ++i) {
-        const QString name
-            = QStringLiteral("panorama_photo_%1.jpg").arg(i, 4, 10, QLatin1Char('0'));
-        photos.append(shoot.folder.addPhoto(name));
-        expected += QLatin1Char('"') + name + QLatin1String("\"; ");
-    }
-
-    shoot.driver.load(kSelectPhotos, photos);
-
-    QCOMPARE(shoot.driver.text("m_lbImage"), QStringLiteral("2000 images in "));
-    QCOMPARE(shoot.grid(), QStringLiteral("40 x 50"));
-    QCOMPARE(expected.size(), 2000 * 27);
-    QVERIFY(shoot.driver.text("m_leImage") == expected);
 }
 
 void TestUIWPGigapan::choosingPhotosGuessesTheGrid_data()
@@ -270,6 +160,7 @@ void TestUIWPGigapan::choosingPhotosGuessesTheGrid_data()
     QTest::newRow("2") << 2 << QStringLiteral("1 x 2");
     QTest::newRow("15: 4, 3") << 15 << QStringLiteral("3 x 5");
     QTest::newRow("22: 5, 4, 3, 2") << 22 << QStringLiteral("2 x 11");
+    QTest::newRow("2000: 45, 44, 43, 42, 41, 40") << 2000 << QStringLiteral("40 x 50");
 }
 
 void TestUIWPGigapan::choosingPhotosGuessesTheGrid()
@@ -282,6 +173,27 @@ void TestUIWPGigapan::choosingPhotosGuessesTheGrid()
 
     QCOMPARE(shoot.grid(), grid);
     QCOMPARE(QStringLiteral("%1 x %2").arg(shoot.page.rows).arg(shoot.page.columns), grid);
+}
+
+void TestUIWPGigapan::gridIsGuessedBeforeThePhotosAreRead()
+{
+    const Shoot shoot;
+
+    const HeldPhotos held(shoot.driver, shoot.folder, 15);
+
+    QCOMPARE(shoot.grid(), QStringLiteral("3 x 5"));
+}
+
+void TestUIWPGigapan::newPhotosWhileOthersAreReadGiveANewGrid()
+{
+    const Shoot shoot;
+    const QStringList photos{ shoot.folder.addPhoto(QStringLiteral("new_1.jpg")),
+                              shoot.folder.addPhoto(QStringLiteral("new_2.jpg")) };
+    const HeldPhotos held(shoot.driver, shoot.folder);
+
+    shoot.driver.load(kSelectPhotos, photos);
+
+    QCOMPARE(shoot.grid(), QStringLiteral("1 x 2"));
 }
 
 void TestUIWPGigapan::choosingPhotosForgetsBracketsAndIgnoredOnes()
@@ -590,96 +502,6 @@ void TestUIWPGigapan::nestedUpdateKeepsTheSlotsSilent()
     QCOMPARE(shoot.page.rows, 2);
 }
 
-void TestUIWPGigapan::allLevelsBringDetectedPoints()
-{
-    const Shoot shoot;
-
-    shoot.driver.click("m_rbLevelLinking1");
-
-    QVERIFY(shoot.page.m_rbLevelLinking1->isChecked());
-    QVERIFY(!shoot.page.m_rbLevelLinking0->isChecked());
-    QVERIFY(shoot.page.m_rbStackLinking1->isChecked());
-    QVERIFY(!shoot.page.m_rbStackLinking0->isChecked());
-}
-
-void TestUIWPGigapan::hardLinksBringTheReferenceLevel()
-{
-    const Shoot shoot;
-    shoot.driver.click("m_rbLevelLinking1");
-
-    shoot.driver.click("m_rbStackLinking0");
-
-    QVERIFY(shoot.page.m_rbStackLinking0->isChecked());
-    QVERIFY(!shoot.page.m_rbStackLinking1->isChecked());
-    QVERIFY(shoot.page.m_rbLevelLinking0->isChecked());
-    QVERIFY(!shoot.page.m_rbLevelLinking1->isChecked());
-}
-
-void TestUIWPGigapan::otherRadioButtonsChangeNothingElse()
-{
-    const Shoot shoot;
-
-    shoot.driver.click("m_rbStackLinking1");
-    QVERIFY(shoot.page.m_rbLevelLinking0->isChecked());
-    shoot.driver.click("m_rbLevelLinking1");
-    shoot.driver.click("m_rbLevelLinking0");
-    QVERIFY(shoot.page.m_rbLevelLinking0->isChecked());
-    QVERIFY(shoot.page.m_rbStackLinking1->isChecked());
-    QVERIFY(!shoot.page.m_rbStackLinking0->isChecked());
-}
-
-void TestUIWPGigapan::nextHandsOverACopyWithEveryOption_data()
-{
-    QTest::addColumn<QString>("clicked");
-    QTest::addColumn<QVector<bool>>("flags"); // auto detection, clean, skip, full turn
-    QTest::addColumn<int>("levelLinking");
-    QTest::addColumn<int>("stackLinking");
-    const auto row = [](const char *clicked, const QVector<bool> &flags, int level, int stack) {
-        QTest::newRow(*clicked ? clicked : "defaults")
-            << QString::fromLatin1(clicked) << flags << level << stack;
-    };
-    row("", { true, false, false, false }, 0, 0);
-    row("m_autoStart", { false, false, false, false }, 0, 0);
-    row("m_cleanLink", { true, true, false, false }, 0, 0);
-    row("m_noOptim", { true, false, true, false }, 0, 0);
-    row("m_cbIS360", { true, false, false, true }, 0, 0);
-    row("m_rbStackLinking1", { true, false, false, false }, 0, 1);
-    row("m_rbLevelLinking1", { true, false, false, false }, 1, 1);
-}
-
-void TestUIWPGigapan::nextHandsOverACopyWithEveryOption()
-{
-    QFETCH(QString, clicked);
-    QFETCH(QVector<bool>, flags);
-    QFETCH(int, levelLinking);
-    QFETCH(int, stackLinking);
-    Shoot shoot;
-    shoot.loadPhotos(4);
-    if (!clicked.isEmpty()) {
-        shoot.driver.click(clicked.toLatin1().constData());
-    }
-
-    QVERIFY(shoot.page.validatePage());
-
-    QCOMPARE(fakeHost().descriptions.size(), 1);
-    const StructuredPanoramaProperties &handed = fakeHost().descriptions.first();
-    QCOMPARE((QVector<bool>{ handed.autoDetection, handed.cleanWrongLinks, handed.skipOptimization,
-                             handed.gridWrap360 }),
-             flags);
-    QCOMPARE(handed.levelLinking, levelLinking);
-    QCOMPARE(handed.stackLinking, stackLinking);
-    QVERIFY(!handed.positionsKnown);
-    QVERIFY(!handed.rollKnown);
-    QVERIFY(handed.useRecordedLocation); // there is no box for it
-    QCOMPARE(handed.overlap, 40.0);
-    // In 2 x 2 cells two links down, two across and two diagonally; a full turn adds one across and
-    // one of each diagonal per row or pair of rows: 2 + 2.
-    QCOMPARE(handed.authorizedLinks.size(), handed.gridWrap360 ? 10 : 6);
-    // A copy: what the page does later does not reach it.
-    shoot.page.imageGroups.clear();
-    QCOMPARE(handed.imageGroups.size(), 4);
-}
-
 void TestUIWPGigapan::nextHandsOverTheGrid()
 {
     Shoot shoot;
@@ -697,6 +519,7 @@ void TestUIWPGigapan::nextHandsOverTheGrid()
     QCOMPARE(handed.gridRows, 2);
     QCOMPARE(handed.gridBracketCount, 3);
     QCOMPARE(handed.overlap, 25.0);
+    QVERIFY(handed.useRecordedLocation); // there is no box for it
     QCOMPARE(handed.imageGroups.size(), 4);
     QCOMPARE(namesOf(handed.imageGroups[0]),
              list({ "IMG_0003.jpg", "IMG_0004.jpg", "IMG_0005.jpg" }));
@@ -706,6 +529,22 @@ void TestUIWPGigapan::nextHandsOverTheGrid()
     // From the bottom upwards, left to right: the upper left cell is the third one.
     QCOMPARE(handed.authorizedLinks.first().linkType, 1);
     QCOMPARE(handed.authorizedLinks.first().indices, (QVector<qint32>{ 2, 0 }));
+}
+
+void TestUIWPGigapan::fullTurnLinksTheEnds()
+{
+    Shoot shoot;
+    shoot.loadPhotos(4);
+    QVERIFY(shoot.page.validatePage());
+    shoot.page.authorizedLinks.clear();
+
+    shoot.driver.click("m_cbIS360");
+    QVERIFY(shoot.page.validatePage());
+
+    // In 2 x 2 cells two links down, two across and two diagonally; a full turn adds one across and
+    // one of each diagonal per row or pair of rows: 2 + 2.
+    QCOMPARE(fakeHost().descriptions.first().authorizedLinks.size(), 6);
+    QCOMPARE(fakeHost().descriptions.last().authorizedLinks.size(), 10);
 }
 
 void TestUIWPGigapan::randomGridsAreHandedOverAsTheHeadSweepsThem()
@@ -763,24 +602,6 @@ void TestUIWPGigapan::moreCellsThanPhotosKeepTheirLinks()
         QCOMPARE(namesOf(handed.imageGroups.last()), list({ "IMG_0007.jpg" }));
         QCOMPARE(LiteralGrid::linksOf(handed), LiteralGrid::neighbours(mode, 3, 4, false));
     }
-}
-
-void TestUIWPGigapan::partlyCheckedBoxDoesNotCount()
-{
-    Shoot shoot;
-    for (QCheckBox *box : { shoot.page.m_autoStart, shoot.page.m_cleanLink, shoot.page.m_noOptim,
-                            shoot.page.m_cbIS360 }) {
-        box->setTristate(true);
-        box->setCheckState(Qt::PartiallyChecked);
-    }
-
-    QVERIFY(shoot.page.validatePage());
-
-    const StructuredPanoramaProperties &handed = fakeHost().descriptions.first();
-    QVERIFY(!handed.autoDetection);
-    QVERIFY(!handed.cleanWrongLinks);
-    QVERIFY(!handed.skipOptimization);
-    QVERIFY(!handed.gridWrap360);
 }
 
 void TestUIWPGigapan::pairWithoutACheckedButtonKeepsItsField()
@@ -892,59 +713,7 @@ void TestUIWPGigapan::pageIsCompleteWhenEveryPhotoIsRead()
     QCOMPARE(shoot.page.isComplete(), complete);
 }
 
-void TestUIWPGigapan::pageIsIncompleteWhilePhotosAreRead()
-{
-    const Shoot shoot;
-    Gate enter;
-    Gate leave;
-    FakePhoto held;
-    held.enter = &enter;
-    held.leave = &leave;
-    const QStringList photos{ shoot.folder.addPhoto(QStringLiteral("a.jpg")),
-                              shoot.folder.addPhoto(QStringLiteral("b.jpg"), held) };
-
-    shoot.driver.chooseFiles(kSelectPhotos, photos);
-    enter.pass();
-    QVERIFY(!shoot.page.isComplete());
-    QCOMPARE(shoot.driver.text("m_lbImage"), QStringLiteral("2 images in "));
-    QCOMPARE(shoot.grid(), QStringLiteral("1 x 2"));
-    leave.open();
-    shoot.driver.waitUntilRead();
-
-    QVERIFY(shoot.page.isComplete());
-}
-
-void TestUIWPGigapan::wizardHearsOfCompleteness()
-{
-    const ShootFolder folder;
-    QWizard wizard;
-    auto *page = new UIWPGigapan(nullptr);
-    wizard.addPage(page);
-    wizard.addPage(new QWizardPage);
-    wizard.show();
-    const PageDriver driver(page);
-    const QAbstractButton *next = wizard.button(QWizard::NextButton);
-    QVERIFY(!next->isEnabled());
-
-    driver.load(kSelectPhotos, folder.addPhotos(12));
-    QVERIFY(next->isEnabled());
-    driver.click("m_pbReset");
-    QVERIFY(!next->isEnabled());
-    Gate leave;
-    FakePhoto held;
-    held.leave = &leave;
-    driver.chooseFiles(kSelectPhotos, { folder.addPhoto(QStringLiteral("held.jpg"), held) });
-    QVERIFY(!next->isEnabled());
-    leave.open();
-    driver.waitUntilRead();
-    QVERIFY(next->isEnabled());
-    FakePhoto broken;
-    broken.reading = FakePhoto::Reading::Fails;
-    driver.load(kSelectPhotos, { folder.addPhoto(QStringLiteral("broken.jpg"), broken) });
-    QVERIFY(!next->isEnabled());
-}
-
-void TestUIWPGigapan::resetShowsAFreshPage()
+void TestUIWPGigapan::resetShowsTheFreshGrid()
 {
     const Shoot shoot;
     shoot.loadPhotos(14);
@@ -964,56 +733,7 @@ void TestUIWPGigapan::resetShowsAFreshPage()
     QCOMPARE(shoot.page.bracketCount, 1);
     QCOMPARE(shoot.checkedModes(), QVector<int>{ 0 });
     QCOMPARE(shoot.page.mode, 0);
-    QCOMPARE(shoot.driver.text("m_leImage"), QString());
-    QCOMPARE(shoot.driver.text("m_lbImage"), QStringLiteral("0 images in "));
     QCOMPARE(shoot.driver.picture(), Shoot().driver.picture());
-    QVERIFY(!shoot.page.isComplete());
-    // The dialog knows no photo of the page's own any more.
-    fakeHost().lastPath = QDir::tempPath();
-    QCOMPARE(shoot.driver.cancelFiles(kSelectPhotos).directory, QDir::tempPath());
-}
-
-void TestUIWPGigapan::resetLeavesTheUsersChoicesAlone()
-{
-    const Shoot shoot;
-    const UIWPGigapan &page = shoot.page;
-    shoot.loadPhotos(4);
-    for (const char *box : { "m_autoStart", "m_cleanLink", "m_noOptim", "m_cbIS360" }) {
-        shoot.driver.click(box);
-    }
-    shoot.driver.click("m_rbLevelLinking1");
-    page.m_dsbOverlapping->setValue(65.5);
-    page.m_hSlider->setValue(33);
-
-    shoot.driver.click("m_pbReset");
-
-    QVERIFY(!page.m_autoStart->isChecked());
-    QVERIFY(page.m_cleanLink->isChecked());
-    QVERIFY(page.m_noOptim->isChecked());
-    QVERIFY(page.m_cbIS360->isChecked());
-    QVERIFY(page.m_rbLevelLinking1->isChecked());
-    QVERIFY(!page.m_rbLevelLinking0->isChecked());
-    QVERIFY(page.m_rbStackLinking1->isChecked());
-    QVERIFY(!page.m_rbStackLinking0->isChecked());
-    QCOMPARE(page.m_dsbOverlapping->value(), 65.5);
-    QCOMPARE(page.m_hSlider->value(), 33);
-}
-
-void TestUIWPGigapan::resetStopsReading()
-{
-    SlowHost host;
-    const Shoot shoot;
-    shoot.driver.chooseFiles(kSelectPhotos, shoot.folder.addPhotos(200, host.slow()));
-    host.waitForThePhoto();
-
-    shoot.driver.click("m_pbReset");
-
-    const int begun = fakeHost().readFiles().size();
-    QVERIFY(begun < 200);
-    shoot.driver.waitUntilRead();
-    QCOMPARE(fakeHost().readFiles().size(), begun);
-    QCOMPARE(shoot.grid(), QStringLiteral("4 x 5"));
-    QCOMPARE(shoot.driver.text("m_lbImage"), QStringLiteral("0 images in "));
 }
 
 void TestUIWPGigapan::enteringThePageResets()
@@ -1048,281 +768,34 @@ void TestUIWPGigapan::enteringThePageResets()
 
 void TestUIWPGigapan::goingBackOnlyStopsReadingWanted()
 {
-    SlowHost host;
     Shoot shoot;
-    shoot.driver.chooseFiles(kSelectPhotos, shoot.folder.addPhotos(200, host.slow()));
-    host.waitForThePhoto();
+    const HeldPhotos held(shoot.driver, shoot.folder, 200);
 
     shoot.page.cleanupPage();
 
-    const int begun = fakeHost().readFiles().size();
-    QVERIFY(begun < 200);
-    shoot.driver.waitUntilRead();
-    QCOMPARE(fakeHost().readFiles().size(), begun);
-    QVERIFY(!shoot.page.isComplete());
     QCOMPARE(shoot.driver.text("m_lbImage"), QStringLiteral("200 images in "));
     QCOMPARE(shoot.grid(), QStringLiteral("10 x 20"));
     // No photo is left: cells of 48 x 48, (20 x 52 + 4) x (10 x 52 + 4) at 50 percent.
     QCOMPARE(shoot.driver.picture().size(), QSize(522, 262));
 }
 
-void TestUIWPGigapan::goingForthKeepsTheState()
-{
-    const ShootFolder folder;
-    QWizard wizard;
-    auto *page = new UIWPGigapan(nullptr);
-    wizard.addPage(page);
-    wizard.addPage(new QWizardPage);
-    wizard.show();
-    const PageDriver driver(page);
-    driver.load(kSelectPhotos, folder.addPhotos(12));
-    const QImage picture = driver.picture();
-
-    QTest::mouseClick(wizard.button(QWizard::NextButton), Qt::LeftButton);
-    QVERIFY(wizard.currentPage() != page);
-    QCOMPARE(fakeHost().descriptions.size(), 1);
-    wizard.back();
-
-    QCOMPARE(wizard.currentPage(), page);
-    QVERIFY(page->isComplete());
-    QCOMPARE(driver.text("m_lbImage"), QStringLiteral("12 images in "));
-    QCOMPARE(driver.picture(), picture);
-    // The stacks of the first time are still there.
-    QTest::mouseClick(wizard.button(QWizard::NextButton), Qt::LeftButton);
-    QCOMPARE(fakeHost().descriptions.last().imageGroups.size(), 24);
-}
-
-void TestUIWPGigapan::savedStateIsEmpty()
-{
-    Shoot shoot;
-    shoot.loadPhotos(4);
-    const QImage picture = shoot.driver.picture();
-
-    QCOMPARE(shoot.page.SaveState(), QByteArray());
-    const QSignalSpy spy(&shoot.page, &QWizardPage::completeChanged);
-    shoot.page.RestoreState(QByteArray("\0\xff any bytes", 12));
-
-    QCOMPARE(spy.count(), 1); // the preview was updated, and nothing else
-    QVERIFY(shoot.page.isComplete());
-    QCOMPARE(shoot.grid(), QStringLiteral("2 x 2"));
-    QCOMPARE(shoot.driver.picture(), picture);
-}
-
-void TestUIWPGigapan::dialogAsksAsDescribed()
-{
-    const Shoot shoot;
-    fakeHost().lastPath = shoot.folder.path();
-
-    const DialogClicker::SeenFileDialog dialog = shoot.driver.cancelFiles(kSelectPhotos);
-
-    QCOMPARE(dialog.caption, QStringLiteral("Select images"));
-    QCOMPARE(dialog.nameFilters, QStringList{ QStringLiteral("All Files (*.*)") });
-    QCOMPARE(dialog.selectedNameFilter, QStringLiteral("All Files (*.*)"));
-    QCOMPARE(dialog.fileMode, QFileDialog::ExistingFiles);
-    QCOMPARE(dialog.directory, shoot.folder.path());
-    QCOMPARE(dialog.fileName, QString());
-}
-
-void TestUIWPGigapan::dialogStartsAtTheFirstPhoto()
-{
-    const Shoot shoot;
-    fakeHost().lastPath = QDir::tempPath();
-    const QStringList photos{ shoot.folder.addPhoto(QStringLiteral("card/b.jpg")),
-                              shoot.folder.addPhoto(QStringLiteral("card/a.jpg")) };
-    QCOMPARE(shoot.driver.chooseFiles(kSelectPhotos, photos).directory, QDir::tempPath());
-    shoot.driver.waitUntilRead();
-
-    const DialogClicker::SeenFileDialog dialog = shoot.driver.cancelFiles(kSelectPhotos);
-
-    QCOMPARE(dialog.directory, shoot.folder.path(QStringLiteral("card")));
-    QCOMPARE(dialog.fileName, QStringLiteral("a.jpg")); // the first of the sorted photos
-}
-
-void TestUIWPGigapan::dialogFollowsTheHostsSetting()
-{
-    const Shoot shoot;
-    QVERIFY(
-        shoot.driver.cancelFiles(kSelectPhotos).options.testFlag(QFileDialog::DontUseNativeDialog));
-
-    // This platform has no dialogs of its own, so Qt's come all the same.
-    fakeHost().uiSettings.useSystemFileDialog = true;
-    QVERIFY(!shoot.driver.cancelFiles(kSelectPhotos)
-                 .options.testFlag(QFileDialog::DontUseNativeDialog));
-}
-
-void TestUIWPGigapan::cancelledDialogChangesNothing()
+void TestUIWPGigapan::cancelledDialogKeepsTheGrid()
 {
     const Shoot shoot;
     shoot.loadPhotos(13);
     shoot.enter(kIgnored, 1);
     shoot.enter(kBracket, 2);
     shoot.enter(kRows, 2);
-    const QStringList told = fakeHost().setLastPaths;
-    const QStringList read = fakeHost().readFiles();
-    const QString names = shoot.driver.text("m_leImage");
     const QImage picture = shoot.driver.picture();
 
     shoot.driver.cancelFiles(kSelectPhotos);
     shoot.driver.waitUntilRead();
 
     QVERIFY(shoot.page.isComplete());
-    QCOMPARE(shoot.driver.text("m_lbImage"), QStringLiteral("13 images in "));
-    QCOMPARE(shoot.driver.text("m_leImage"), names);
     QCOMPARE(shoot.grid(), QStringLiteral("2 x 3"));
     QCOMPARE(shoot.page.m_sbIgnore->value(), 1);
     QCOMPARE(shoot.page.m_sbBracket->value(), 2);
     QCOMPARE(shoot.driver.picture(), picture);
-    QCOMPARE(fakeHost().setLastPaths, told);
-    QCOMPARE(fakeHost().readFiles(), read);
-}
-
-void TestUIWPGigapan::photosAreSortedCaseSensitively()
-{
-    const Shoot shoot;
-    QStringList files;
-    for (const char *name : { "a.jpg", "IMG_9.jpg", "Z.jpg", "IMG_10.jpg" }) {
-        files.append(shoot.folder.addPhoto(QString::fromLatin1(name)));
-    }
-
-    shoot.driver.load(kSelectPhotos, files);
-
-    QCOMPARE(namesOf(fakeHost().readFiles()),
-             list({ "IMG_10.jpg", "IMG_9.jpg", "Z.jpg", "a.jpg" }));
-    QCOMPARE(shoot.driver.text("m_leImage"),
-             QStringLiteral("\"IMG_10.jpg\"; \"IMG_9.jpg\"; \"Z.jpg\"; \"a.jpg\"; "));
-}
-
-void TestUIWPGigapan::hostLearnsTheFirstPhoto()
-{
-    const Shoot shoot;
-    const QStringList files{ shoot.folder.addPhoto(QStringLiteral("b.jpg")),
-                             shoot.folder.addPhoto(QStringLiteral("a.jpg")) };
-
-    shoot.driver.load(kSelectPhotos, files);
-
-    QCOMPARE(fakeHost().setLastPaths, QStringList{ shoot.folder.path(QStringLiteral("a.jpg")) });
-}
-
-void TestUIWPGigapan::newPhotosReplaceThoseBeingRead()
-{
-    SlowHost host;
-    const Shoot shoot;
-    QStringList old;
-    for (int i = 0; i < 200; ++i) {
-        old.append(shoot.folder.addPhoto(QStringLiteral("old_%1.jpg").arg(i), host.slow()));
-    }
-    shoot.driver.chooseFiles(kSelectPhotos, old);
-    host.waitForThePhoto();
-
-    shoot.loadPhotos(2);
-
-    QVERIFY(shoot.page.isComplete());
-    QCOMPARE(shoot.driver.text("m_lbImage"), QStringLiteral("2 images in "));
-    QCOMPARE(shoot.grid(), QStringLiteral("1 x 2"));
-    QVERIFY(fakeHost().readFiles().size() < 202);
-}
-
-void TestUIWPGigapan::controlKeyOpensTheFirstPhotoItself_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::newRow("plain") << QStringLiteral("shoot/a.jpg");
-    QTest::newRow("number sign") << QStringLiteral("shoot #1/a#2.jpg");
-    QTest::newRow("question mark") << QStringLiteral("which?/a?.jpg");
-    QTest::newRow("percent") << QStringLiteral("50%41/a%20.jpg");
-    QTest::newRow("umlauts") << QString::fromUtf8("Höhe über Zürich/ä.jpg");
-}
-
-void TestUIWPGigapan::controlKeyOpensTheFirstPhotoItself()
-{
-    QFETCH(QString, name);
-    const Shoot shoot;
-    const QString second = shoot.folder.addPhoto(
-        QString(name).replace(QLatin1String(".jpg"), QLatin1String("_z.jpg")));
-    const QString first = shoot.folder.addPhoto(name);
-    shoot.driver.load(kSelectPhotos, { second, first });
-    QVERIFY(first < second);
-    const QStringList told = fakeHost().setLastPaths;
-    const QString before = shoot.driver.text("m_leImage");
-    const DesktopCatcher desktop;
-    const DialogClicker clicker;
-
-    shoot.driver.click(kSelectPhotos, Qt::ControlModifier);
-
-    QCOMPARE(desktop.urls(), QVector<QUrl>{ QUrl::fromLocalFile(first) });
-    QCOMPARE(desktop.urls().first().toLocalFile(), first);
-    QVERIFY(clicker.fileDialogs().isEmpty());
-    QCOMPARE(shoot.driver.text("m_leImage"), before);
-    QVERIFY(shoot.page.isComplete());
-    QCOMPARE(fakeHost().setLastPaths, told);
-}
-
-void TestUIWPGigapan::controlKeyOpensTheLastPathItself()
-{
-    const Shoot shoot;
-    fakeHost().lastPath = shoot.folder.addPhoto(QStringLiteral("before #1/a.jpg"));
-    const DesktopCatcher desktop;
-
-    shoot.driver.click(kSelectPhotos, Qt::ControlModifier);
-
-    QCOMPARE(desktop.urls().size(), 1);
-    QCOMPARE(desktop.urls().first().toLocalFile(), fakeHost().lastPath);
-    QCOMPARE(shoot.grid(), QStringLiteral("4 x 5"));
-    QVERIFY(fakeHost().setLastPaths.isEmpty());
-    QVERIFY(fakeHost().readFiles().isEmpty());
-}
-
-void TestUIWPGigapan::controlKeyOpensNothingWithoutAPlace()
-{
-    const Shoot shoot;
-    const DesktopCatcher desktop;
-    const DialogClicker clicker;
-
-    shoot.driver.click(kSelectPhotos, Qt::ControlModifier);
-
-    QVERIFY(desktop.urls().isEmpty());
-    QVERIFY(clicker.fileDialogs().isEmpty());
-}
-
-void TestUIWPGigapan::browserOpensWhatItIsGiven()
-{
-    Shoot shoot;
-    const DesktopCatcher desktop;
-
-    shoot.page.BrowserWeb(QStringLiteral("https://example.org/a?b=c#d"));
-
-    QCOMPARE(desktop.urls(), QVector<QUrl>{ QUrl(QStringLiteral("https://example.org/a?b=c#d")) });
-}
-
-void TestUIWPGigapan::pageMayGoWhilePhotosAreRead()
-{
-    SlowHost host;
-    auto shoot = std::make_unique<Shoot>();
-    const QStringList photos = shoot->folder.addPhotos(200, host.slow());
-    shoot->driver.chooseFiles(kSelectPhotos, photos);
-    host.waitForThePhoto();
-
-    shoot.reset();
-
-    const int begun = fakeHost().readFiles().size();
-    QVERIFY(begun >= 1);
-    QVERIFY(begun < 200);
-    QCoreApplication::processEvents();
-    QCOMPARE(fakeHost().readFiles().size(), begun);
-}
-
-void TestUIWPGigapan::pageMayGoWhileTheDialogIsOpen()
-{
-    QPointer<UIWPGigapan> page = new UIWPGigapan(nullptr);
-    const PageDriver driver(page);
-    DialogClicker clicker;
-    clicker.beforeNextAnswer([&page] { delete page.data(); });
-
-    driver.click(kSelectPhotos);
-
-    QVERIFY(page.isNull());
-    QCOMPARE(clicker.fileDialogs().size(), 1);
-    QVERIFY(fakeHost().setLastPaths.isEmpty());
-    QVERIFY(fakeHost().readFiles().isEmpty());
 }
 
 FAKE_HOST_MAIN(FakeApplication, TestUIWPGigapan)

@@ -18,7 +18,6 @@
 namespace
 {
 
-constexpr char kSelectPhotos[] = "m_pbSelectImages";
 constexpr QSize kThumbnail(160, 120);
 constexpr QSize kCell(80, 60); // half of it
 

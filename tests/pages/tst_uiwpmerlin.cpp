@@ -9,13 +9,11 @@
 #include "ui/xui.h"
 
 #include <QHelpEvent>
-#include <QSignalSpy>
 #include <QTextDocument>
 #include <QToolTip>
 #include <QWizard>
 #include <QtTest>
 
-#include <cmath>
 #include <limits>
 #include <memory>
 
@@ -33,17 +31,13 @@ class TestUIWPMerlin : public QObject
 private Q_SLOTS:
     void init();
 
-    void newPageIsEmpty();
     void recordIsShownInTheLabels_data();
     void recordIsShownInTheLabels();
     void unreadableRecordShowsTheScanStart_data();
     void unreadableRecordShowsTheScanStart();
     void headerTextsGoToTheirFields();
-    void resetShowsNotAvailableAgain();
-    void resetLeavesTheUsersChoicesAlone();
     void resetForgetsPathPhotosAndShots();
     void photosAreListedByNameAndCounted();
-    void twoThousandPhotosAreListedWhole();
 
     void lastFailingTestGivesTheWarning_data();
     void lastFailingTestGivesTheWarning();
@@ -59,60 +53,32 @@ private Q_SLOTS:
     void invertingNegatesPitchesAndExtents();
     void invertingTwiceRestoresEverything();
     void rotatingAddsQuarterTurnsWithoutWrapping();
-    void allLevelsBringDetectedPoints();
-    void hardLinksBringTheReferenceLevel();
-    void otherRadioButtonsChangeNothingElse();
 
-    void nextHandsOverACopyWithEveryOption_data();
-    void nextHandsOverACopyWithEveryOption();
-    void partlyCheckedBoxDoesNotCount();
     void twelvePhotosInThreesGiveFourStacks();
     void bracketCountBelowTwoBecomesOne_data();
     void bracketCountBelowTwoBecomesOne();
     void photosThatDoNotFillTheBracketsAreRefused();
-    void secondNextAppends();
     void focalLengthAndLensComeFromTheControls();
 
-    void pageIsCompleteWhenEverythingFits_data();
-    void pageIsCompleteWhenEverythingFits();
-    void pageIsIncompleteWhilePhotosAreRead();
     void wizardHearsOfCompleteness();
-    void everyActionSignalsCompleteness_data();
-    void everyActionSignalsCompleteness();
-    void goingBackResets();
-    void goingForthKeepsTheState();
-    void savedStateIsEmpty();
 
-    void recordDialogAsksAsDescribed();
-    void photoDialogAsksAsDescribed();
-    void dialogsStartAtTheCurrentFile();
-    void dialogsFollowTheHostsSetting();
     void lastRecordOfASelectionWins_data();
     void lastRecordOfASelectionWins();
-    void recordAndPhotosMayComeTogether();
     void photosAloneMakeTheStartLocationThePath();
     void cancelledRecordDialogReadsTheFileAgain();
     void cancelledRecordDialogOnAnEmptyPageChangesNothing();
-    void cancelledPhotoDialogChangesNothing();
-    void photosAreSortedCaseSensitively();
-    void hostLearnsTheFirstPhoto();
     void newPhotosReplaceThoseBeingRead();
     void pathIsTyped();
     void typingInTheMiddleKeepsTheCursor();
 
     void controlKeyOpensTheFolder_data();
     void controlKeyOpensTheFolder();
-    void controlKeyOpensNothingWithoutAPlace();
-    void browserOpensWhatItIsGiven();
 
     void toolTipKeepsTheRecordsText();
     void toolTipIsShownAsPlainText_data();
     void toolTipIsShownAsPlainText();
     void trapPipeNoticesAReader();
 
-    void pageMayGoWhilePhotosAreRead();
-    void pageMayGoWhileADialogIsOpen_data();
-    void pageMayGoWhileADialogIsOpen();
     void pageMayGoWhileTheBoxIsOpen();
 };
 
@@ -121,27 +87,6 @@ void TestUIWPMerlin::init()
     fakeHost().forget();
     fakeHost().uiSettings.useSystemFileDialog = false;
     XUI::init(fakeHost().UIInstances());
-}
-
-void TestUIWPMerlin::newPageIsEmpty()
-{
-    const Shoot shoot;
-
-    for (const char *name : { "m_leConfigFile", "m_leImage", "m_leHeaderTitle", "m_leHeaderGps",
-                              "m_leHeaderComment" }) {
-        QCOMPARE(shoot.driver.text(name), QString());
-    }
-    for (const char *name : { "m_lbPapyLog", "m_lbThetaMinMax", "m_lbPhiMinMax", "m_lbBracket",
-                              "m_lbFocalLength", "m_lbImageLog", "m_lbFocalLengthImage" }) {
-        QCOMPARE(shoot.driver.text(name), QStringLiteral("N/A"));
-    }
-    QCOMPARE(shoot.driver.text("m_lbWarning"), red(""));
-    QVERIFY(!shoot.page.m_pbFLUseXML->isEnabled());
-    QVERIFY(!shoot.page.m_pbFLUseImage->isEnabled());
-    QVERIFY(shoot.driver.picture().isNull());
-    QVERIFY(!shoot.page.isComplete());
-    QVERIFY(fakeHost().setLastPaths.isEmpty());
-    QVERIFY(fakeHost().descriptions.isEmpty());
 }
 
 void TestUIWPMerlin::recordIsShownInTheLabels_data()
@@ -247,6 +192,9 @@ void TestUIWPMerlin::unreadableRecordShowsTheScanStart()
 void TestUIWPMerlin::headerTextsGoToTheirFields()
 {
     const Shoot shoot;
+    for (const char *name : { "m_leHeaderTitle", "m_leHeaderGps", "m_leHeaderComment" }) {
+        QCOMPARE(shoot.driver.text(name), QString());
+    }
     RecordXml record = RecordXml::row(2);
     record.title = QStringLiteral("Mont <b>Blanc</b> & more");
     record.gps = QStringLiteral("45.83,6.86");
@@ -258,59 +206,6 @@ void TestUIWPMerlin::headerTextsGoToTheirFields()
     QCOMPARE(shoot.driver.text("m_leHeaderGps"), record.gps);
     QCOMPARE(shoot.page.m_leHeaderComment->displayText().size(), record.comment.size());
     QCOMPARE(shoot.page.comment, record.comment);
-}
-
-void TestUIWPMerlin::resetShowsNotAvailableAgain()
-{
-    const Shoot shoot;
-    RecordXml record = rowWithLens(3, QStringLiteral("50"));
-    record.nbPicts = QStringLiteral("3");
-    shoot.loadRecord(record);
-    shoot.loadPhotos(3);
-    QVERIFY(shoot.driver.text("m_lbWarning") != red(""));
-    QVERIFY(!shoot.driver.picture().isNull());
-
-    shoot.driver.click("m_pbReset");
-
-    for (const char *name : { "m_lbPapyLog", "m_lbThetaMinMax", "m_lbPhiMinMax", "m_lbBracket",
-                              "m_lbFocalLength", "m_lbImageLog", "m_lbFocalLengthImage" }) {
-        QCOMPARE(shoot.driver.text(name), QStringLiteral("N/A"));
-    }
-    QCOMPARE(shoot.driver.text("m_leConfigFile"), QString());
-    QCOMPARE(shoot.driver.text("m_leImage"), QString());
-    QCOMPARE(shoot.driver.text("m_lbWarning"), red(""));
-    QVERIFY(!shoot.page.m_pbFLUseXML->isEnabled());
-    QVERIFY(!shoot.page.m_pbFLUseImage->isEnabled());
-    QVERIFY(shoot.driver.picture().isNull());
-}
-
-void TestUIWPMerlin::resetLeavesTheUsersChoicesAlone()
-{
-    const Shoot shoot;
-    const UIWPMerlin &page = shoot.page;
-    shoot.loadRecord(rowWithLens(3, QStringLiteral("50")));
-    shoot.loadPhotos(3, photoWith(24.0F));
-    for (const char *box : { "m_autoStart", "m_cleanLink", "m_noOptim", "m_GridOptim" }) {
-        shoot.driver.click(box);
-    }
-    shoot.driver.click("m_rbLevelLinking1");
-    page.m_spFocal->setValue(77.125);
-    page.m_cbLensType->setCurrentIndex(1);
-    page.m_hSlider->setValue(33);
-
-    shoot.driver.click("m_pbReset");
-
-    QVERIFY(!page.m_autoStart->isChecked());
-    QVERIFY(page.m_cleanLink->isChecked());
-    QVERIFY(page.m_noOptim->isChecked());
-    QVERIFY(!page.m_GridOptim->isChecked());
-    QVERIFY(page.m_rbLevelLinking1->isChecked());
-    QVERIFY(!page.m_rbLevelLinking0->isChecked());
-    QVERIFY(page.m_rbStackLinking1->isChecked());
-    QVERIFY(!page.m_rbStackLinking0->isChecked());
-    QCOMPARE(page.m_spFocal->value(), 77.125);
-    QCOMPARE(page.m_cbLensType->currentIndex(), 1);
-    QCOMPARE(page.m_hSlider->value(), 33);
 }
 
 void TestUIWPMerlin::resetForgetsPathPhotosAndShots()
@@ -350,25 +245,6 @@ void TestUIWPMerlin::photosAreListedByNameAndCounted()
     QCOMPARE(shoot.driver.text("m_lbImageLog"), QStringLiteral("3"));
     QCOMPARE(shoot.driver.text("m_lbFocalLengthImage"), QStringLiteral("24.00mm"));
     QVERIFY(shoot.page.m_pbFLUseImage->isEnabled());
-}
-
-void TestUIWPMerlin::twoThousandPhotosAreListedWhole()
-{
-    const Shoot shoot;
-    QStringList photos;
-    QString expected;
-    for (int i = 0; i < 2000; ++i) {
-        const QString name
-            = QStringLiteral("panorama_photo_%1.jpg").arg(i, 4, 10, QLatin1Char('0'));
-        photos.append(shoot.folder.addPhoto(name));
-        expected += QLatin1Char('"') + name + QLatin1String("\"; ");
-    }
-
-    shoot.driver.load(kSelectPhotos, photos);
-
-    QCOMPARE(shoot.driver.text("m_lbImageLog"), QStringLiteral("2000"));
-    QCOMPARE(expected.size(), 2000 * 27);
-    QVERIFY(shoot.driver.text("m_leImage") == expected);
 }
 
 // The four tests in their order; each is made to fail by itself, and every combination of them.
@@ -625,113 +501,6 @@ void TestUIWPMerlin::rotatingAddsQuarterTurnsWithoutWrapping()
     QCOMPARE(fakeHost().descriptions.last().roll, (QVector<float>{ radians, radians }));
 }
 
-void TestUIWPMerlin::allLevelsBringDetectedPoints()
-{
-    const Shoot shoot;
-
-    shoot.driver.click("m_rbLevelLinking1");
-
-    QVERIFY(shoot.page.m_rbLevelLinking1->isChecked());
-    QVERIFY(!shoot.page.m_rbLevelLinking0->isChecked());
-    QVERIFY(shoot.page.m_rbStackLinking1->isChecked());
-    QVERIFY(!shoot.page.m_rbStackLinking0->isChecked());
-}
-
-void TestUIWPMerlin::hardLinksBringTheReferenceLevel()
-{
-    const Shoot shoot;
-    shoot.driver.click("m_rbLevelLinking1");
-
-    shoot.driver.click("m_rbStackLinking0");
-
-    QVERIFY(shoot.page.m_rbStackLinking0->isChecked());
-    QVERIFY(!shoot.page.m_rbStackLinking1->isChecked());
-    QVERIFY(shoot.page.m_rbLevelLinking0->isChecked());
-    QVERIFY(!shoot.page.m_rbLevelLinking1->isChecked());
-}
-
-void TestUIWPMerlin::otherRadioButtonsChangeNothingElse()
-{
-    const Shoot shoot;
-
-    shoot.driver.click("m_rbStackLinking1");
-    QVERIFY(shoot.page.m_rbLevelLinking0->isChecked());
-    shoot.driver.click("m_rbLevelLinking1");
-    shoot.driver.click("m_rbLevelLinking0");
-    QVERIFY(shoot.page.m_rbLevelLinking0->isChecked());
-    QVERIFY(shoot.page.m_rbStackLinking1->isChecked());
-    QVERIFY(!shoot.page.m_rbStackLinking0->isChecked());
-}
-
-void TestUIWPMerlin::nextHandsOverACopyWithEveryOption_data()
-{
-    QTest::addColumn<QString>("clicked");
-    QTest::addColumn<QVector<bool>>("flags"); // auto detection, clean, skip, recorded location
-    QTest::addColumn<int>("levelLinking");
-    QTest::addColumn<int>("stackLinking");
-    const auto row = [](const char *clicked, const QVector<bool> &flags, int level, int stack) {
-        QTest::newRow(*clicked ? clicked : "defaults")
-            << QString::fromLatin1(clicked) << flags << level << stack;
-    };
-    row("", { true, false, false, true }, 0, 0);
-    row("m_autoStart", { false, false, false, true }, 0, 0);
-    row("m_cleanLink", { true, true, false, true }, 0, 0);
-    row("m_noOptim", { true, false, true, true }, 0, 0);
-    row("m_GridOptim", { true, false, false, false }, 0, 0);
-    row("m_rbStackLinking1", { true, false, false, true }, 0, 1);
-    row("m_rbLevelLinking1", { true, false, false, true }, 1, 1);
-}
-
-void TestUIWPMerlin::nextHandsOverACopyWithEveryOption()
-{
-    QFETCH(QString, clicked);
-    QFETCH(QVector<bool>, flags);
-    QFETCH(int, levelLinking);
-    QFETCH(int, stackLinking);
-    Shoot shoot;
-    shoot.loadRecord(RecordXml::row(2));
-    shoot.loadPhotos(2);
-    if (!clicked.isEmpty()) {
-        shoot.driver.click(clicked.toLatin1().constData());
-    }
-
-    QVERIFY(shoot.page.validatePage());
-
-    QCOMPARE(fakeHost().descriptions.size(), 1);
-    const StructuredPanoramaProperties &handed = fakeHost().descriptions.first();
-    QCOMPARE((QVector<bool>{ handed.autoDetection, handed.cleanWrongLinks, handed.skipOptimization,
-                             handed.useRecordedLocation }),
-             flags);
-    QCOMPARE(handed.levelLinking, levelLinking);
-    QCOMPARE(handed.stackLinking, stackLinking);
-    QVERIFY(handed.positionsKnown);
-    QVERIFY(handed.rollKnown);
-    QCOMPARE(handed.overlap, 80.0);
-    QCOMPARE(handed.renderMode, -1);
-    QCOMPARE(handed.gridBracketCount, 1);
-    // A copy: what the page does later does not reach it.
-    shoot.page.imageGroups.clear();
-    QCOMPARE(handed.imageGroups.size(), 2);
-}
-
-void TestUIWPMerlin::partlyCheckedBoxDoesNotCount()
-{
-    Shoot shoot;
-    for (QCheckBox *box : { shoot.page.m_autoStart, shoot.page.m_cleanLink, shoot.page.m_noOptim,
-                            shoot.page.m_GridOptim }) {
-        box->setTristate(true);
-        box->setCheckState(Qt::PartiallyChecked);
-    }
-
-    QVERIFY(shoot.page.validatePage());
-
-    const StructuredPanoramaProperties &handed = fakeHost().descriptions.first();
-    QVERIFY(!handed.autoDetection);
-    QVERIFY(!handed.cleanWrongLinks);
-    QVERIFY(!handed.skipOptimization);
-    QVERIFY(!handed.useRecordedLocation);
-}
-
 void TestUIWPMerlin::twelvePhotosInThreesGiveFourStacks()
 {
     Shoot shoot;
@@ -804,28 +573,6 @@ void TestUIWPMerlin::photosThatDoNotFillTheBracketsAreRefused()
     QCOMPARE(shoot.page.nbPicts, 3);
 }
 
-void TestUIWPMerlin::secondNextAppends()
-{
-    Shoot shoot;
-    shoot.loadRecord(RecordXml::row(2));
-    shoot.loadPhotos(2);
-    shoot.page.m_cbLensType->setCurrentIndex(0);
-
-    QVERIFY(shoot.page.validatePage());
-    QVERIFY(shoot.page.validatePage());
-
-    QCOMPARE(fakeHost().descriptions.size(), 2);
-    const StructuredPanoramaProperties &first = fakeHost().descriptions.first();
-    const StructuredPanoramaProperties &second = fakeHost().descriptions.last();
-    QCOMPARE(first.imageGroups.size(), 2);
-    QCOMPARE(first.authorizedLinks.size(), 1);
-    QCOMPARE(second.imageGroups, first.imageGroups + first.imageGroups);
-    QCOMPARE(second.yaw, first.yaw + first.yaw);
-    QCOMPARE(second.pitch, first.pitch + first.pitch);
-    QCOMPARE(second.roll, first.roll + first.roll);
-    QCOMPARE(second.authorizedLinks.size(), 2);
-}
-
 void TestUIWPMerlin::focalLengthAndLensComeFromTheControls()
 {
     Shoot shoot;
@@ -839,69 +586,6 @@ void TestUIWPMerlin::focalLengthAndLensComeFromTheControls()
     QCOMPARE(fakeHost().descriptions.first().focalLength, 31.25F);
     QCOMPARE(fakeHost().descriptions.first().lensModel, LensModel::Fisheye);
     QVERIFY(fakeHost().descriptions.first().authorizedLinks.isEmpty());
-}
-
-void TestUIWPMerlin::pageIsCompleteWhenEverythingFits_data()
-{
-    QTest::addColumn<int>("shots"); // -1: no record
-    QTest::addColumn<int>("photos");
-    QTest::addColumn<int>("unreadable");
-    QTest::addColumn<bool>("complete");
-    QTest::newRow("12 shots, 12 photos") << 12 << 12 << 0 << true;
-    QTest::newRow("12 shots, 12 photos, one of them unreadable") << 12 << 12 << 1 << false;
-    QTest::newRow("11 shots, 12 photos, one of them unreadable") << 11 << 12 << 1 << false;
-    QTest::newRow("11 shots, 12 photos") << 11 << 12 << 0 << false;
-    QTest::newRow("13 shots, 12 photos") << 13 << 12 << 0 << false;
-    QTest::newRow("no record, 12 photos") << -1 << 12 << 0 << false;
-    QTest::newRow("12 shots, no photos") << 12 << 0 << 0 << false;
-    QTest::newRow("no record, no photos") << -1 << 0 << 0 << false;
-    QTest::newRow("no shots, no photos") << 0 << 0 << 0 << true;
-}
-
-void TestUIWPMerlin::pageIsCompleteWhenEverythingFits()
-{
-    QFETCH(int, shots);
-    QFETCH(int, photos);
-    QFETCH(int, unreadable);
-    QFETCH(bool, complete);
-    const Shoot shoot;
-    const QStringList files = shoot.folder.addPhotos(photos);
-    for (int i = 0; i < unreadable; ++i) {
-        FakePhoto photo;
-        photo.reading = FakePhoto::Reading::Fails;
-        fakeHost().setPhoto(files.at(i), photo);
-    }
-
-    if (shots >= 0) {
-        shoot.loadRecord(RecordXml::row(shots));
-    }
-    if (photos > 0) {
-        shoot.driver.load(kSelectPhotos, files);
-    }
-
-    QCOMPARE(shoot.page.isComplete(), complete);
-}
-
-void TestUIWPMerlin::pageIsIncompleteWhilePhotosAreRead()
-{
-    const Shoot shoot;
-    shoot.loadRecord(RecordXml::row(2));
-    Gate enter;
-    Gate leave;
-    FakePhoto held;
-    held.enter = &enter;
-    held.leave = &leave;
-    const QStringList photos{ shoot.folder.addPhoto(QStringLiteral("a.jpg")),
-                              shoot.folder.addPhoto(QStringLiteral("b.jpg"), held) };
-
-    shoot.driver.chooseFiles(kSelectPhotos, photos);
-    enter.pass();
-    QVERIFY(!shoot.page.isComplete());
-    QCOMPARE(shoot.driver.text("m_lbImageLog"), QStringLiteral("2"));
-    leave.open();
-    shoot.driver.waitUntilRead();
-
-    QVERIFY(shoot.page.isComplete());
 }
 
 void TestUIWPMerlin::wizardHearsOfCompleteness()
@@ -931,178 +615,6 @@ void TestUIWPMerlin::wizardHearsOfCompleteness()
     QVERIFY(!next->isEnabled());
     driver.load(kSelectPhotos, folder.addPhotos(2));
     QVERIFY(next->isEnabled()); // heard when the last photo arrived
-}
-
-void TestUIWPMerlin::everyActionSignalsCompleteness_data()
-{
-    QTest::addColumn<QString>("button");
-    for (const char *button : { "m_pbReset", "m_pInverseCoordinates", "m_pbRot90", "m_pbRot270",
-                                "m_pbFLUseXML", "m_pbFLUseImage" }) {
-        QTest::newRow(button) << QString::fromLatin1(button);
-    }
-    QTest::newRow("cancelled record dialog") << QString::fromLatin1(kSelectRecord);
-    QTest::newRow("zoom") << QStringLiteral("m_hSlider");
-    QTest::newRow("typed path") << QStringLiteral("m_leConfigFile");
-}
-
-void TestUIWPMerlin::everyActionSignalsCompleteness()
-{
-    QFETCH(QString, button);
-    const QByteArray name = button.toLatin1();
-    const Shoot shoot;
-    shoot.loadRecord(rowWithLens(2, QStringLiteral("50")));
-    shoot.loadPhotos(2);
-    const QSignalSpy spy(&shoot.page, &QWizardPage::completeChanged);
-
-    if (name == kSelectRecord) {
-        shoot.driver.cancelFiles(name.constData());
-    } else if (name == "m_hSlider") {
-        shoot.page.m_hSlider->setValue(20);
-    } else if (name == "m_leConfigFile") {
-        shoot.driver.type(name.constData(), QStringLiteral("x"));
-    } else {
-        shoot.driver.click(name.constData());
-    }
-
-    QVERIFY(spy.count() >= 1);
-    // The silencing of the widgets ended with the update.
-    QVERIFY(!shoot.page.signalsBlocked());
-    QVERIFY(!shoot.page.m_hSlider->signalsBlocked());
-}
-
-void TestUIWPMerlin::goingBackResets()
-{
-    const ShootFolder folder;
-    QWizard wizard;
-    wizard.addPage(new QWizardPage);
-    auto *page = new UIWPMerlin(nullptr);
-    wizard.addPage(page);
-    wizard.addPage(new QWizardPage);
-    wizard.show();
-    wizard.next();
-    QCOMPARE(wizard.currentPage(), page);
-    const PageDriver driver(page);
-    driver.load(kSelectRecord,
-                { folder.write(QStringLiteral("a.xml"), RecordXml::row(2).bytes()) });
-    driver.load(kSelectPhotos, folder.addPhotos(2));
-    QVERIFY(page->isComplete());
-
-    wizard.back();
-
-    QVERIFY(!page->isComplete());
-    QVERIFY(page->shots.isEmpty());
-    QCOMPARE(driver.text("m_lbPapyLog"), QStringLiteral("N/A"));
-    QCOMPARE(driver.text("m_lbImageLog"), QStringLiteral("N/A"));
-    QVERIFY(driver.picture().isNull());
-    QVERIFY(fakeHost().descriptions.isEmpty());
-}
-
-void TestUIWPMerlin::goingForthKeepsTheState()
-{
-    const ShootFolder folder;
-    QWizard wizard;
-    auto *page = new UIWPMerlin(nullptr);
-    wizard.addPage(page);
-    wizard.addPage(new QWizardPage);
-    wizard.show();
-    const PageDriver driver(page);
-    driver.load(kSelectRecord,
-                { folder.write(QStringLiteral("a.xml"), RecordXml::row(2).bytes()) });
-    driver.load(kSelectPhotos, folder.addPhotos(2));
-    const QImage picture = driver.picture();
-
-    QTest::mouseClick(wizard.button(QWizard::NextButton), Qt::LeftButton);
-    QVERIFY(wizard.currentPage() != page);
-    QCOMPARE(fakeHost().descriptions.size(), 1);
-    wizard.back();
-
-    QCOMPARE(wizard.currentPage(), page);
-    QVERIFY(page->isComplete());
-    QCOMPARE(driver.text("m_lbImageLog"), QStringLiteral("2"));
-    QCOMPARE(driver.picture(), picture);
-}
-
-void TestUIWPMerlin::savedStateIsEmpty()
-{
-    Shoot shoot;
-    shoot.loadRecord(RecordXml::row(2));
-    shoot.loadPhotos(2);
-
-    QCOMPARE(shoot.page.SaveState(), QByteArray());
-    const QSignalSpy spy(&shoot.page, &QWizardPage::completeChanged);
-    shoot.page.RestoreState(QByteArray("\0\xff any bytes", 12));
-
-    QCOMPARE(spy.count(), 0);
-    QVERIFY(shoot.page.isComplete());
-    QCOMPARE(shoot.driver.text("m_lbPapyLog"), QStringLiteral("2"));
-    QCOMPARE(shoot.driver.text("m_lbImageLog"), QStringLiteral("2"));
-}
-
-void TestUIWPMerlin::recordDialogAsksAsDescribed()
-{
-    const Shoot shoot;
-    fakeHost().lastPath = shoot.folder.path();
-
-    const DialogClicker::SeenFileDialog dialog = shoot.driver.cancelFiles(kSelectRecord);
-
-    QCOMPARE(dialog.caption, QStringLiteral("Select the preset file and/or images"));
-    QCOMPARE(
-        dialog.nameFilters,
-        (QStringList{ QStringLiteral("All Files (*.*)"), QStringLiteral("XML files (*.xml)") }));
-    QCOMPARE(dialog.selectedNameFilter, QStringLiteral("All Files (*.*)"));
-    QCOMPARE(dialog.fileMode, QFileDialog::ExistingFiles);
-    QCOMPARE(dialog.directory, shoot.folder.path());
-    QCOMPARE(dialog.fileName, QString());
-}
-
-void TestUIWPMerlin::photoDialogAsksAsDescribed()
-{
-    const Shoot shoot;
-    fakeHost().lastPath = shoot.folder.path();
-
-    const DialogClicker::SeenFileDialog dialog = shoot.driver.cancelFiles(kSelectPhotos);
-
-    QCOMPARE(dialog.caption, QStringLiteral("Select images"));
-    QCOMPARE(dialog.nameFilters, QStringList{ QStringLiteral("All Files (*.*)") });
-    QCOMPARE(dialog.selectedNameFilter, QStringLiteral("All Files (*.*)"));
-    QCOMPARE(dialog.fileMode, QFileDialog::ExistingFiles);
-    QCOMPARE(dialog.directory, shoot.folder.path());
-    QCOMPARE(dialog.fileName, QString());
-}
-
-void TestUIWPMerlin::dialogsStartAtTheCurrentFile()
-{
-    const Shoot shoot;
-    fakeHost().lastPath = QDir::tempPath();
-    const QString record = shoot.writeRecord(RecordXml::row(2), QStringLiteral("head/shoot.xml"));
-    const QStringList photos{ shoot.folder.addPhoto(QStringLiteral("card/b.jpg")),
-                              shoot.folder.addPhoto(QStringLiteral("card/a.jpg")) };
-    QCOMPARE(shoot.driver.chooseFiles(kSelectRecord, { record }).directory, QDir::tempPath());
-    QCOMPARE(shoot.driver.chooseFiles(kSelectPhotos, photos).directory, QDir::tempPath());
-    shoot.driver.waitUntilRead();
-
-    const DialogClicker::SeenFileDialog recordDialog = shoot.driver.cancelFiles(kSelectRecord);
-    QCOMPARE(recordDialog.directory, shoot.folder.path(QStringLiteral("head")));
-    QCOMPARE(recordDialog.fileName, QStringLiteral("shoot.xml"));
-    const DialogClicker::SeenFileDialog photoDialog = shoot.driver.cancelFiles(kSelectPhotos);
-    QCOMPARE(photoDialog.directory, shoot.folder.path(QStringLiteral("card")));
-    QCOMPARE(photoDialog.fileName, QStringLiteral("a.jpg")); // the first of the sorted photos
-}
-
-void TestUIWPMerlin::dialogsFollowTheHostsSetting()
-{
-    const Shoot shoot;
-    QVERIFY(
-        shoot.driver.cancelFiles(kSelectRecord).options.testFlag(QFileDialog::DontUseNativeDialog));
-    QVERIFY(
-        shoot.driver.cancelFiles(kSelectPhotos).options.testFlag(QFileDialog::DontUseNativeDialog));
-
-    // This platform has no dialogs of its own, so Qt's come all the same.
-    fakeHost().uiSettings.useSystemFileDialog = true;
-    QVERIFY(!shoot.driver.cancelFiles(kSelectRecord)
-                 .options.testFlag(QFileDialog::DontUseNativeDialog));
-    QVERIFY(!shoot.driver.cancelFiles(kSelectPhotos)
-                 .options.testFlag(QFileDialog::DontUseNativeDialog));
 }
 
 void TestUIWPMerlin::lastRecordOfASelectionWins_data()
@@ -1142,22 +654,6 @@ void TestUIWPMerlin::lastRecordOfASelectionWins()
     QCOMPARE(fakeHost().setLastPaths, QStringList{ shoot.folder.path(record) });
     QCOMPARE(namesOf(fakeHost().readFiles()), photos);
     QCOMPARE(shoot.driver.text("m_lbPapyLog"), QStringLiteral("2"));
-}
-
-void TestUIWPMerlin::recordAndPhotosMayComeTogether()
-{
-    const Shoot shoot;
-    QStringList files = shoot.folder.addPhotos(3);
-    std::reverse(files.begin(), files.end());
-    files.insert(1, shoot.writeRecord(RecordXml::row(3)));
-
-    shoot.driver.load(kSelectRecord, files);
-
-    QVERIFY(shoot.page.isComplete());
-    QCOMPARE(shoot.driver.text("m_leImage"),
-             QStringLiteral("\"IMG_0001.jpg\"; \"IMG_0002.jpg\"; \"IMG_0003.jpg\"; "));
-    QCOMPARE(fakeHost().setLastPaths,
-             QStringList{ shoot.folder.path(QStringLiteral("shoot.xml")) });
 }
 
 void TestUIWPMerlin::photosAloneMakeTheStartLocationThePath()
@@ -1213,56 +709,6 @@ void TestUIWPMerlin::cancelledRecordDialogOnAnEmptyPageChangesNothing()
     QCOMPARE(shoot.driver.text("m_lbThetaMinMax"), QStringLiteral("N/A"));
     QCOMPARE(shoot.driver.text("m_lbPhiMinMax"), QStringLiteral("N/A"));
     QVERIFY(fakeHost().setLastPaths.isEmpty());
-}
-
-void TestUIWPMerlin::cancelledPhotoDialogChangesNothing()
-{
-    const Shoot shoot;
-    shoot.loadRecord(RecordXml::row(2));
-    shoot.loadPhotos(2);
-    const QStringList told = fakeHost().setLastPaths;
-    const QStringList read = fakeHost().readFiles();
-
-    shoot.driver.cancelFiles(kSelectPhotos);
-    shoot.driver.waitUntilRead();
-
-    QVERIFY(shoot.page.isComplete());
-    QCOMPARE(shoot.driver.text("m_lbImageLog"), QStringLiteral("2"));
-    QCOMPARE(fakeHost().setLastPaths, told);
-    QCOMPARE(fakeHost().readFiles(), read);
-}
-
-void TestUIWPMerlin::photosAreSortedCaseSensitively()
-{
-    const QStringList chosen{ QStringLiteral("a.jpg"), QStringLiteral("IMG_9.jpg"),
-                              QStringLiteral("Z.jpg"), QStringLiteral("IMG_10.jpg") };
-    const QStringList sorted{ QStringLiteral("IMG_10.jpg"), QStringLiteral("IMG_9.jpg"),
-                              QStringLiteral("Z.jpg"), QStringLiteral("a.jpg") };
-    for (const char *button : { kSelectPhotos, kSelectRecord }) {
-        fakeHost().forget();
-        const Shoot shoot;
-        QStringList files;
-        for (const QString &name : chosen) {
-            files.append(shoot.folder.addPhoto(name));
-        }
-
-        shoot.driver.load(button, files);
-
-        QCOMPARE(namesOf(fakeHost().readFiles()), sorted);
-        QCOMPARE(shoot.driver.text("m_leImage"),
-                 QStringLiteral("\"IMG_10.jpg\"; \"IMG_9.jpg\"; \"Z.jpg\"; \"a.jpg\"; "));
-    }
-}
-
-void TestUIWPMerlin::hostLearnsTheFirstPhoto()
-{
-    const Shoot shoot;
-    const QStringList files{ shoot.folder.addPhoto(QStringLiteral("b.jpg")),
-                             shoot.folder.addPhoto(QStringLiteral("a.jpg")) };
-
-    shoot.driver.load(kSelectPhotos, files);
-
-    QCOMPARE(fakeHost().setLastPaths, QStringList{ shoot.folder.path(QStringLiteral("a.jpg")) });
 }
 
 void TestUIWPMerlin::newPhotosReplaceThoseBeingRead()
@@ -1355,29 +801,6 @@ void TestUIWPMerlin::controlKeyOpensTheFolder()
     QCOMPARE(fakeHost().setLastPaths, QStringList{ record });
 }
 
-void TestUIWPMerlin::controlKeyOpensNothingWithoutAPlace()
-{
-    const Shoot shoot;
-    const DesktopCatcher desktop;
-    const DialogClicker clicker;
-
-    shoot.driver.click(kSelectRecord, Qt::ControlModifier);
-    shoot.driver.click(kSelectPhotos, Qt::ControlModifier);
-
-    QVERIFY(desktop.urls().isEmpty());
-    QVERIFY(clicker.fileDialogs().isEmpty());
-}
-
-void TestUIWPMerlin::browserOpensWhatItIsGiven()
-{
-    Shoot shoot;
-    const DesktopCatcher desktop;
-
-    shoot.page.BrowserWeb(QStringLiteral("https://example.org/a?b=c#d"));
-
-    QCOMPARE(desktop.urls(), QVector<QUrl>{ QUrl(QStringLiteral("https://example.org/a?b=c#d")) });
-}
-
 void TestUIWPMerlin::toolTipKeepsTheRecordsText()
 {
     const Shoot shoot;
@@ -1439,50 +862,6 @@ void TestUIWPMerlin::trapPipeNoticesAReader()
 
     QTRY_VERIFY(pipe.wasOpened());
     QCOMPARE(file.readAll(), QByteArray());
-}
-
-void TestUIWPMerlin::pageMayGoWhilePhotosAreRead()
-{
-    auto shoot = std::make_unique<Shoot>();
-    Gate enter;
-    FakePhoto slow;
-    slow.enter = &enter;
-    slow.spins = 200;
-    const QStringList photos = shoot->folder.addPhotos(200, slow);
-    shoot->driver.chooseFiles(kSelectPhotos, photos);
-    enter.pass();
-
-    shoot.reset();
-
-    const int begun = fakeHost().readFiles().size();
-    QVERIFY(begun >= 1);
-    QVERIFY(begun < 200);
-    QCoreApplication::processEvents();
-    QCOMPARE(fakeHost().readFiles().size(), begun);
-}
-
-void TestUIWPMerlin::pageMayGoWhileADialogIsOpen_data()
-{
-    QTest::addColumn<QString>("button");
-    for (const char *button : { kSelectRecord, kSelectPhotos }) {
-        QTest::addRow("%s", button) << QString::fromLatin1(button);
-    }
-}
-
-void TestUIWPMerlin::pageMayGoWhileADialogIsOpen()
-{
-    QFETCH(QString, button);
-    const ShootFolder folder;
-    QPointer<UIWPMerlin> page = new UIWPMerlin(nullptr);
-    const PageDriver driver(page);
-    DialogClicker clicker;
-    clicker.beforeNextAnswer([&page] { delete page.data(); });
-
-    driver.click(button.toLatin1().constData());
-
-    QVERIFY(page.isNull());
-    QCOMPARE(clicker.fileDialogs().size(), 1);
-    QVERIFY(fakeHost().setLastPaths.isEmpty());
 }
 
 void TestUIWPMerlin::pageMayGoWhileTheBoxIsOpen()

@@ -9,7 +9,6 @@
 #include "ui/xui.h"
 
 #include <QHelpEvent>
-#include <QSignalSpy>
 #include <QTextDocument>
 #include <QToolTip>
 #include <QWizard>
@@ -75,14 +74,12 @@ class TestUIWPVRDrive2 : public QObject
 private Q_SLOTS:
     void init();
 
-    void newPageIsEmpty();
     void recordIsShownInTheLabels_data();
     void recordIsShownInTheLabels();
     void failedParseKeepsRangesAndToolTip_data();
     void failedParseKeepsRangesAndToolTip();
     void failedParseOnAFreshPageShowsNotAvailable();
     void resetShowsNotAvailableAgain();
-    void resetLeavesTheUsersChoicesAlone();
     void resetForgetsPathPhotosAndShots();
     void photosAreListedByNameAndCounted();
 
@@ -99,11 +96,7 @@ private Q_SLOTS:
     void useButtonsTakeTheirSource();
     void invertingTwiceRestoresEverything();
     void rotatingFourTimesAddsAFullTurn();
-    void linkingChoicesConstrainEachOther();
 
-    void nextHandsOverACopyWithEveryOption_data();
-    void nextHandsOverACopyWithEveryOption();
-    void partlyCheckedBoxDoesNotCount();
     void referenceComesFirstInEveryStack_data();
     void referenceComesFirstInEveryStack();
     void referenceFollowsTheOrderOfReading();
@@ -116,44 +109,25 @@ private Q_SLOTS:
     void bracketBeyondThePhotosIsRefused();
     void nextWithoutShotsAndPhotosIsHarmless_data();
     void nextWithoutShotsAndPhotosIsHarmless();
-    void nextOnAFreshPageIsHarmless();
     void nextWithUnreadPhotosReordersNothing();
     void focalLengthAndLensComeFromTheControls();
 
-    void pageIsCompleteWhenEverythingFits_data();
-    void pageIsCompleteWhenEverythingFits();
     void wizardHearsOfCompleteness();
-    void actionSignalsCompleteness_data();
-    void actionSignalsCompleteness();
-    void goingBackResetsWanted();
-    void goingForthKeepsTheState();
-    void savedStateIsEmpty();
 
-    void dialogsAskAsDescribed_data();
-    void dialogsAskAsDescribed();
-    void dialogsStartAtTheCurrentFile();
     void lastRecordOfASelectionWins();
     void photosAloneKeepTheRecord();
-    void cancelledRecordDialogChangesNothing();
-    void cancelledPhotoDialogChangesNothing();
+    void cancelledRecordDialogKeepsTheRolls();
     void samePhotosFromTheRecordDialogAreNotReadAgain();
     void samePhotosFromThePhotoDialogAreReadAgain();
-    void photosAreSortedCaseSensitively_data();
-    void photosAreSortedCaseSensitively();
     void newPhotosReplaceThoseBeingRead();
     void pathIsTyped();
 
     void controlKeyOpensTheFolder_data();
     void controlKeyOpensTheFolder();
-    void controlKeyOpensNothingWithoutAPlace();
-    void browserOpensWhatItIsGiven();
     void toolTipKeepsTheRecordsText();
     void toolTipHasALineForWhatTheRecordLeavesOut();
     void toolTipIsShownAsPlainText();
 
-    void pageMayGoWhilePhotosAreRead();
-    void pageMayGoWhileADialogIsOpen_data();
-    void pageMayGoWhileADialogIsOpen();
     void pageMayGoWhileTheBoxIsOpen();
 };
 
@@ -162,26 +136,6 @@ void TestUIWPVRDrive2::init()
     fakeHost().forget();
     fakeHost().uiSettings.useSystemFileDialog = false;
     XUI::init(fakeHost().UIInstances());
-}
-
-void TestUIWPVRDrive2::newPageIsEmpty()
-{
-    const Shoot shoot;
-
-    for (const char *name : { "m_leConfigFile", "m_leImage" }) {
-        QCOMPARE(shoot.driver.text(name), QString());
-    }
-    for (const char *name : { "m_lbPapyLog", "m_lbThetaMinMax", "m_lbPhiMinMax", "m_lbBracket",
-                              "m_lbFocalLength", "m_lbImageLog", "m_lbFocalLengthImage" }) {
-        QCOMPARE(shoot.driver.text(name), notAvailable());
-    }
-    QVERIFY(!shoot.page.m_lbWarning->isVisible());
-    QVERIFY(!shoot.page.m_pbFLUseXML->isEnabled());
-    QVERIFY(!shoot.page.m_pbFLUseImage->isEnabled());
-    QVERIFY(shoot.driver.picture().isNull());
-    QVERIFY(!shoot.page.isComplete());
-    QVERIFY(fakeHost().setLastPaths.isEmpty());
-    QVERIFY(fakeHost().descriptions.isEmpty());
 }
 
 void TestUIWPVRDrive2::recordIsShownInTheLabels_data()
@@ -317,34 +271,6 @@ void TestUIWPVRDrive2::resetShowsNotAvailableAgain()
     QVERIFY(!shoot.page.m_pbFLUseXML->isEnabled());
     QVERIFY(!shoot.page.m_pbFLUseImage->isEnabled());
     QVERIFY(shoot.driver.picture().isNull());
-}
-
-void TestUIWPVRDrive2::resetLeavesTheUsersChoicesAlone()
-{
-    const Shoot shoot;
-    const UIWPVRDrive2 &page = shoot.page;
-    shoot.loadRecord(rowWithLens(3, QStringLiteral("50")));
-    shoot.loadPhotos(3, photoWith(24.0F));
-    for (const char *box : { "m_autoStart", "m_cleanLink", "m_noOptim", "m_GridOptim",
-                             "m_rbOutputMode2", "m_rbLevelLinking1" }) {
-        shoot.driver.click(box);
-    }
-    page.m_spFocal->setValue(77.125);
-    page.m_cbLensType->setCurrentIndex(1);
-    page.m_hSlider->setValue(33);
-
-    shoot.driver.click("m_pbReset");
-
-    QVERIFY(!page.m_autoStart->isChecked());
-    QVERIFY(!page.m_cleanLink->isChecked());
-    QVERIFY(page.m_noOptim->isChecked());
-    QVERIFY(!page.m_GridOptim->isChecked());
-    QVERIFY(page.m_rbOutputMode2->isChecked());
-    QVERIFY(page.m_rbLevelLinking1->isChecked());
-    QVERIFY(page.m_rbStackLinking1->isChecked());
-    QCOMPARE(page.m_spFocal->value(), 77.125);
-    QCOMPARE(page.m_cbLensType->currentIndex(), 1);
-    QCOMPARE(page.m_hSlider->value(), 33);
 }
 
 void TestUIWPVRDrive2::resetForgetsPathPhotosAndShots()
@@ -605,96 +531,6 @@ void TestUIWPVRDrive2::rotatingFourTimesAddsAFullTurn()
     QCOMPARE(fakeHost().descriptions.last().roll, (QVector<float>{ radians, radians }));
 }
 
-void TestUIWPVRDrive2::linkingChoicesConstrainEachOther()
-{
-    const Shoot shoot;
-    const UIWPVRDrive2 &page = shoot.page;
-
-    shoot.driver.click("m_rbLevelLinking1");
-    QVERIFY(page.m_rbLevelLinking1->isChecked());
-    QVERIFY(page.m_rbStackLinking1->isChecked());
-    QVERIFY(!page.m_rbStackLinking0->isChecked());
-
-    shoot.driver.click("m_rbStackLinking0");
-    QVERIFY(page.m_rbStackLinking0->isChecked());
-    QVERIFY(page.m_rbLevelLinking0->isChecked());
-    QVERIFY(!page.m_rbLevelLinking1->isChecked());
-
-    // The other two constrain nothing.
-    shoot.driver.click("m_rbStackLinking1");
-    QVERIFY(page.m_rbLevelLinking0->isChecked());
-    shoot.driver.click("m_rbLevelLinking1");
-    shoot.driver.click("m_rbLevelLinking0");
-    QVERIFY(page.m_rbStackLinking1->isChecked());
-}
-
-void TestUIWPVRDrive2::nextHandsOverACopyWithEveryOption_data()
-{
-    QTest::addColumn<QString>("clicked");
-    QTest::addColumn<QVector<bool>>("flags"); // auto detection, clean, skip, recorded location
-    QTest::addColumn<QVector<int>>("choices"); // level linking, stack linking, render mode
-    const auto row
-        = [](const char *clicked, const QVector<bool> &flags, const QVector<int> &choices) {
-              QTest::newRow(*clicked ? clicked : "defaults")
-                  << QString::fromLatin1(clicked) << flags << choices;
-          };
-    row("", { true, true, false, true }, { 0, 0, 2 });
-    row("m_autoStart", { false, true, false, true }, { 0, 0, 2 });
-    row("m_cleanLink", { true, false, false, true }, { 0, 0, 2 });
-    row("m_noOptim", { true, true, true, true }, { 0, 0, 2 });
-    row("m_GridOptim", { true, true, false, false }, { 0, 0, 2 });
-    row("m_rbStackLinking1", { true, true, false, true }, { 0, 1, 2 });
-    row("m_rbLevelLinking1", { true, true, false, true }, { 1, 1, 2 });
-    row("m_rbOutputMode2", { true, true, false, true }, { 0, 0, 3 });
-}
-
-void TestUIWPVRDrive2::nextHandsOverACopyWithEveryOption()
-{
-    QFETCH(QString, clicked);
-    QFETCH(QVector<bool>, flags);
-    QFETCH(QVector<int>, choices);
-    Shoot shoot;
-    shoot.loadRecord(RecordXml::row(2));
-    shoot.loadPhotos(2);
-    if (!clicked.isEmpty()) {
-        shoot.driver.click(clicked.toLatin1().constData());
-    }
-
-    QVERIFY(shoot.page.validatePage());
-
-    QCOMPARE(fakeHost().descriptions.size(), 1);
-    const StructuredPanoramaProperties &handed = fakeHost().descriptions.first();
-    QCOMPARE((QVector<bool>{ handed.autoDetection, handed.cleanWrongLinks, handed.skipOptimization,
-                             handed.useRecordedLocation }),
-             flags);
-    QCOMPARE((QVector<int>{ handed.levelLinking, handed.stackLinking, handed.renderMode }),
-             choices);
-    QVERIFY(handed.positionsKnown);
-    QVERIFY(handed.rollKnown);
-    QCOMPARE(handed.overlap, 80.0);
-    // A copy: what the page does later does not reach it.
-    shoot.page.imageGroups.clear();
-    QCOMPARE(handed.imageGroups.size(), 2);
-}
-
-void TestUIWPVRDrive2::partlyCheckedBoxDoesNotCount()
-{
-    Shoot shoot;
-    for (QCheckBox *box : { shoot.page.m_autoStart, shoot.page.m_cleanLink, shoot.page.m_noOptim,
-                            shoot.page.m_GridOptim }) {
-        box->setTristate(true);
-        box->setCheckState(Qt::PartiallyChecked);
-    }
-
-    QVERIFY(shoot.page.validatePage());
-
-    const StructuredPanoramaProperties &handed = fakeHost().descriptions.first();
-    QVERIFY(!handed.autoDetection);
-    QVERIFY(!handed.cleanWrongLinks);
-    QVERIFY(!handed.skipOptimization);
-    QVERIFY(!handed.useRecordedLocation);
-}
-
 void TestUIWPVRDrive2::referenceComesFirstInEveryStack_data()
 {
     QTest::addColumn<QString>("nbPicts");
@@ -889,13 +725,6 @@ void TestUIWPVRDrive2::nextWithoutShotsAndPhotosIsHarmless()
     QVERIFY(fakeHost().descriptions.first().yaw.isEmpty());
 }
 
-void TestUIWPVRDrive2::nextOnAFreshPageIsHarmless()
-{
-    Shoot shoot;
-    QVERIFY(shoot.page.validatePage());
-    QVERIFY(fakeHost().descriptions.first().imageGroups.isEmpty());
-}
-
 void TestUIWPVRDrive2::nextWithUnreadPhotosReordersNothing()
 {
     Shoot shoot;
@@ -926,47 +755,6 @@ void TestUIWPVRDrive2::focalLengthAndLensComeFromTheControls()
     QCOMPARE(fakeHost().descriptions.first().lensModel, LensModel::Fisheye);
 }
 
-void TestUIWPVRDrive2::pageIsCompleteWhenEverythingFits_data()
-{
-    QTest::addColumn<int>("shots"); // -1: no record
-    QTest::addColumn<int>("photos");
-    QTest::addColumn<bool>("oneUnreadable");
-    QTest::addColumn<bool>("complete");
-    QTest::newRow("12 shots, 12 photos") << 12 << 12 << false << true;
-    QTest::newRow("12 shots, 12 photos, one unreadable") << 12 << 12 << true << false;
-    QTest::newRow("11 shots, 12 photos, one unreadable") << 11 << 12 << true << false;
-    QTest::newRow("11 shots, 12 photos") << 11 << 12 << false << false;
-    QTest::newRow("12 shots, 11 photos") << 12 << 11 << false << false;
-    QTest::newRow("no record, 12 photos") << -1 << 12 << false << false;
-    QTest::newRow("12 shots, no photos") << 12 << 0 << false << false;
-    QTest::newRow("no record, no photos") << -1 << 0 << false << false;
-    QTest::newRow("no shots, no photos") << 0 << 0 << false << true;
-}
-
-void TestUIWPVRDrive2::pageIsCompleteWhenEverythingFits()
-{
-    QFETCH(int, shots);
-    QFETCH(int, photos);
-    QFETCH(bool, oneUnreadable);
-    QFETCH(bool, complete);
-    const Shoot shoot;
-    const QStringList files = shoot.folder.addPhotos(photos);
-    if (oneUnreadable) {
-        FakePhoto photo;
-        photo.reading = FakePhoto::Reading::Fails;
-        fakeHost().setPhoto(files.at(3), photo);
-    }
-
-    if (shots >= 0) {
-        shoot.loadRecord(bracketedRow(shots, QStringLiteral("3")));
-    }
-    if (photos > 0) {
-        shoot.driver.load(kSelectPhotos, files);
-    }
-
-    QCOMPARE(shoot.page.isComplete(), complete);
-}
-
 void TestUIWPVRDrive2::wizardHearsOfCompleteness()
 {
     const ShootFolder folder;
@@ -994,164 +782,6 @@ void TestUIWPVRDrive2::wizardHearsOfCompleteness()
     QVERIFY(!next->isEnabled());
     driver.load(kSelectPhotos, folder.addPhotos(2));
     QVERIFY(next->isEnabled()); // heard when the last photo arrived
-}
-
-void TestUIWPVRDrive2::actionSignalsCompleteness_data()
-{
-    QTest::addColumn<QString>("name");
-    for (const char *name : { "m_pbReset", "m_pbFLUseXML", "m_pbFLUseImage", "m_hSlider",
-                              "m_leConfigFile", kSelectRecord, kSelectPhotos }) {
-        QTest::newRow(name) << QString::fromLatin1(name);
-    }
-}
-
-void TestUIWPVRDrive2::actionSignalsCompleteness()
-{
-    QFETCH(QString, name);
-    const QByteArray widget = name.toLatin1();
-    const Shoot shoot;
-    shoot.loadRecord(rowWithLens(2, QStringLiteral("50")));
-    shoot.loadPhotos(2);
-    const QSignalSpy spy(&shoot.page, &QWizardPage::completeChanged);
-
-    if (widget == kSelectRecord) {
-        shoot.driver.chooseFiles(kSelectRecord, { shoot.writeRecord(RecordXml::row(3)) });
-    } else if (widget == kSelectPhotos) {
-        shoot.driver.chooseFiles(kSelectPhotos, shoot.folder.addPhotos(1));
-    } else if (widget == "m_hSlider") {
-        shoot.page.m_hSlider->setValue(20);
-    } else if (widget == "m_leConfigFile") {
-        shoot.driver.type(widget.constData(), QStringLiteral("x"));
-    } else {
-        shoot.driver.click(widget.constData());
-    }
-
-    QVERIFY(spy.count() >= 1);
-    QVERIFY(!shoot.page.signalsBlocked());
-    QVERIFY(!shoot.page.m_hSlider->signalsBlocked());
-}
-
-void TestUIWPVRDrive2::goingBackResetsWanted()
-{
-    const ShootFolder folder;
-    QWizard wizard;
-    wizard.addPage(new QWizardPage);
-    auto *page = new UIWPVRDrive2(nullptr);
-    wizard.addPage(page);
-    wizard.addPage(new QWizardPage);
-    wizard.show();
-    wizard.next();
-    QCOMPARE(wizard.currentPage(), page);
-    const PageDriver driver(page);
-    driver.load(kSelectRecord,
-                folder.addPhotos(2)
-                    << folder.write(QStringLiteral("a.xml"), RecordXml::row(2).bytes()));
-    QVERIFY(page->isComplete());
-
-    wizard.back();
-
-    QVERIFY(!page->isComplete());
-    QVERIFY(page->shots.isEmpty());
-    QCOMPARE(driver.text("m_leConfigFile"), QString());
-    QCOMPARE(driver.text("m_lbImageLog"), notAvailable());
-    QVERIFY(driver.picture().isNull());
-    QVERIFY(fakeHost().descriptions.isEmpty());
-}
-
-void TestUIWPVRDrive2::goingForthKeepsTheState()
-{
-    const ShootFolder folder;
-    QWizard wizard;
-    auto *page = new UIWPVRDrive2(nullptr);
-    wizard.addPage(page);
-    wizard.addPage(new QWizardPage);
-    wizard.show();
-    const PageDriver driver(page);
-    driver.load(kSelectRecord,
-                folder.addPhotos(2)
-                    << folder.write(QStringLiteral("a.xml"), RecordXml::row(2).bytes()));
-    const QImage picture = driver.picture();
-
-    QTest::mouseClick(wizard.button(QWizard::NextButton), Qt::LeftButton);
-    QVERIFY(wizard.currentPage() != page);
-    QCOMPARE(fakeHost().descriptions.size(), 1);
-    wizard.back();
-
-    QCOMPARE(wizard.currentPage(), page);
-    QVERIFY(page->isComplete());
-    QCOMPARE(driver.picture(), picture);
-}
-
-void TestUIWPVRDrive2::savedStateIsEmpty()
-{
-    Shoot shoot;
-    shoot.loadRecord(RecordXml::row(2));
-    shoot.loadPhotos(2);
-    const QImage picture = shoot.driver.picture();
-
-    QCOMPARE(shoot.page.SaveState(), QByteArray());
-    shoot.page.RestoreState(QByteArray("\0\xff any bytes", 12));
-    shoot.page.initializePage();
-
-    QVERIFY(shoot.page.isComplete());
-    QCOMPARE(shoot.driver.text("m_lbPapyLog"), QStringLiteral("2"));
-    QCOMPARE(shoot.driver.text("m_lbImageLog"), QStringLiteral("2"));
-    QCOMPARE(shoot.driver.picture(), picture);
-}
-
-void TestUIWPVRDrive2::dialogsAskAsDescribed_data()
-{
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<QString>("caption");
-    QTest::addColumn<QStringList>("filters");
-    const QString all = QStringLiteral("All Files (*.*)");
-    QTest::newRow("record") << QString::fromLatin1(kSelectRecord)
-                            << QStringLiteral("Select the preset file and/or images")
-                            << QStringList{ all, QStringLiteral("XML files (*.xml)") };
-    QTest::newRow("photos") << QString::fromLatin1(kSelectPhotos) << QStringLiteral("Select images")
-                            << QStringList{ all };
-}
-
-void TestUIWPVRDrive2::dialogsAskAsDescribed()
-{
-    QFETCH(QString, button);
-    QFETCH(QString, caption);
-    QFETCH(QStringList, filters);
-    const Shoot shoot;
-    fakeHost().lastPath = shoot.folder.path();
-    const QByteArray name = button.toLatin1();
-
-    const DialogClicker::SeenFileDialog dialog = shoot.driver.cancelFiles(name.constData());
-
-    QCOMPARE(dialog.caption, caption);
-    QCOMPARE(dialog.nameFilters, filters);
-    QCOMPARE(dialog.selectedNameFilter, QStringLiteral("All Files (*.*)"));
-    QCOMPARE(dialog.fileMode, QFileDialog::ExistingFiles);
-    QCOMPARE(dialog.directory, shoot.folder.path());
-    QCOMPARE(dialog.fileName, QString());
-    QVERIFY(dialog.options.testFlag(QFileDialog::DontUseNativeDialog));
-
-    fakeHost().uiSettings.useSystemFileDialog = true;
-    QVERIFY(!shoot.driver.cancelFiles(name.constData())
-                 .options.testFlag(QFileDialog::DontUseNativeDialog));
-}
-
-void TestUIWPVRDrive2::dialogsStartAtTheCurrentFile()
-{
-    const Shoot shoot;
-    fakeHost().lastPath = QDir::tempPath();
-    const QString record = shoot.writeRecord(RecordXml::row(2), QStringLiteral("head/shoot.xml"));
-    shoot.driver.load(kSelectRecord, { record });
-    shoot.driver.load(kSelectPhotos,
-                      { shoot.folder.addPhoto(QStringLiteral("card/b.jpg")),
-                        shoot.folder.addPhoto(QStringLiteral("card/a.jpg")) });
-
-    const DialogClicker::SeenFileDialog recordDialog = shoot.driver.cancelFiles(kSelectRecord);
-    QCOMPARE(recordDialog.directory, shoot.folder.path(QStringLiteral("head")));
-    QCOMPARE(recordDialog.fileName, QStringLiteral("shoot.xml"));
-    const DialogClicker::SeenFileDialog photoDialog = shoot.driver.cancelFiles(kSelectPhotos);
-    QCOMPARE(photoDialog.directory, shoot.folder.path(QStringLiteral("card")));
-    QCOMPARE(photoDialog.fileName, QStringLiteral("a.jpg")); // the first of the sorted photos
 }
 
 void TestUIWPVRDrive2::lastRecordOfASelectionWins()
@@ -1191,39 +821,15 @@ void TestUIWPVRDrive2::photosAloneKeepTheRecord()
     QVERIFY(shoot.page.isComplete());
 }
 
-void TestUIWPVRDrive2::cancelledRecordDialogChangesNothing()
+void TestUIWPVRDrive2::cancelledRecordDialogKeepsTheRolls()
 {
     const Shoot shoot;
     shoot.loadRecord(RecordXml::row(2));
-    shoot.loadPhotos(2);
     shoot.driver.click("m_pbRot90");
-    const QStringList told = fakeHost().setLastPaths;
-    const QStringList read = fakeHost().readFiles();
-    shoot.writeRecord(RecordXml::row(4));
 
     shoot.driver.cancelFiles(kSelectRecord);
-    shoot.driver.waitUntilRead();
 
-    QCOMPARE(shoot.driver.text("m_lbPapyLog"), QStringLiteral("2"));
     QCOMPARE(rollsOf(shoot.page.shots), (QVector<float>{ 90.0F, 90.0F }));
-    QCOMPARE(fakeHost().setLastPaths, told);
-    QCOMPARE(fakeHost().readFiles(), read);
-    QVERIFY(shoot.page.isComplete());
-}
-
-void TestUIWPVRDrive2::cancelledPhotoDialogChangesNothing()
-{
-    const Shoot shoot;
-    shoot.loadPhotos(2);
-    const QStringList told = fakeHost().setLastPaths;
-    const QStringList read = fakeHost().readFiles();
-
-    shoot.driver.cancelFiles(kSelectPhotos);
-    shoot.driver.waitUntilRead();
-
-    QCOMPARE(shoot.driver.text("m_lbImageLog"), QStringLiteral("2"));
-    QCOMPARE(fakeHost().setLastPaths, told);
-    QCOMPARE(fakeHost().readFiles(), read);
 }
 
 void TestUIWPVRDrive2::samePhotosFromTheRecordDialogAreNotReadAgain()
@@ -1250,32 +856,6 @@ void TestUIWPVRDrive2::samePhotosFromThePhotoDialogAreReadAgain()
     QCOMPARE(fakeHost().readFiles().size(), 6);
     shoot.loadRecord(RecordXml::row(3));
     QVERIFY(shoot.page.isComplete());
-}
-
-void TestUIWPVRDrive2::photosAreSortedCaseSensitively_data()
-{
-    QTest::addColumn<QString>("button");
-    QTest::newRow("record") << QString::fromLatin1(kSelectRecord);
-    QTest::newRow("photos") << QString::fromLatin1(kSelectPhotos);
-}
-
-void TestUIWPVRDrive2::photosAreSortedCaseSensitively()
-{
-    QFETCH(QString, button);
-    const Shoot shoot;
-    QStringList files;
-    for (const char *name : { "a.jpg", "IMG_9.jpg", "Z.jpg", "IMG_10.jpg" }) {
-        files.append(shoot.folder.addPhoto(QString::fromLatin1(name)));
-    }
-
-    shoot.driver.load(button.toLatin1().constData(), files);
-
-    QCOMPARE(namesOf(fakeHost().readFiles()),
-             (QStringList{ QStringLiteral("IMG_10.jpg"), QStringLiteral("IMG_9.jpg"),
-                           QStringLiteral("Z.jpg"), QStringLiteral("a.jpg") }));
-    if (button == QLatin1String(kSelectPhotos)) {
-        QCOMPARE(fakeHost().setLastPaths, QStringList{ files.at(3) });
-    }
 }
 
 void TestUIWPVRDrive2::newPhotosReplaceThoseBeingRead()
@@ -1352,27 +932,6 @@ void TestUIWPVRDrive2::controlKeyOpensTheFolder()
     QCOMPARE(fakeHost().setLastPaths, QStringList{ record });
 }
 
-void TestUIWPVRDrive2::controlKeyOpensNothingWithoutAPlace()
-{
-    const Shoot shoot;
-    const DesktopCatcher desktop;
-    const DialogClicker clicker;
-
-    shoot.driver.click(kSelectRecord, Qt::ControlModifier);
-    shoot.driver.click(kSelectPhotos, Qt::ControlModifier);
-
-    QVERIFY(desktop.urls().isEmpty());
-    QVERIFY(clicker.fileDialogs().isEmpty());
-}
-
-void TestUIWPVRDrive2::browserOpensWhatItIsGiven()
-{
-    Shoot shoot;
-    const DesktopCatcher desktop;
-    shoot.page.BrowserWeb(QStringLiteral("https://example.org/a?b=c#d"));
-    QCOMPARE(desktop.urls(), QVector<QUrl>{ QUrl(QStringLiteral("https://example.org/a?b=c#d")) });
-}
-
 void TestUIWPVRDrive2::toolTipKeepsTheRecordsText()
 {
     const Shoot shoot;
@@ -1425,45 +984,6 @@ void TestUIWPVRDrive2::toolTipIsShownAsPlainText()
     QCOMPARE(shown.toPlainText(), record.title + QLatin1String("\ng\nc"));
     QVERIFY(!pipe.wasOpened());
     QToolTip::hideText();
-}
-
-void TestUIWPVRDrive2::pageMayGoWhilePhotosAreRead()
-{
-    auto shoot = std::make_unique<Shoot>();
-    Gate enter;
-    FakePhoto slow;
-    slow.enter = &enter;
-    slow.spins = 200;
-    shoot->driver.chooseFiles(kSelectPhotos, shoot->folder.addPhotos(200, slow));
-    enter.pass();
-
-    shoot.reset();
-
-    const int begun = fakeHost().readFiles().size();
-    QVERIFY(begun >= 1);
-    QVERIFY(begun < 200);
-    QCoreApplication::processEvents();
-    QCOMPARE(fakeHost().readFiles().size(), begun);
-}
-
-void TestUIWPVRDrive2::pageMayGoWhileADialogIsOpen_data()
-{
-    photosAreSortedCaseSensitively_data();
-}
-
-void TestUIWPVRDrive2::pageMayGoWhileADialogIsOpen()
-{
-    QFETCH(QString, button);
-    QPointer<UIWPVRDrive2> page = new UIWPVRDrive2(nullptr);
-    const PageDriver driver(page);
-    DialogClicker clicker;
-    clicker.beforeNextAnswer([&page] { delete page.data(); });
-
-    driver.click(button.toLatin1().constData());
-
-    QVERIFY(page.isNull());
-    QCOMPARE(clicker.fileDialogs().size(), 1);
-    QVERIFY(fakeHost().setLastPaths.isEmpty());
 }
 
 void TestUIWPVRDrive2::pageMayGoWhileTheBoxIsOpen()

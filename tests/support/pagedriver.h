@@ -11,6 +11,10 @@
 
 class QLabel;
 
+// The buttons that open a page's dialogs.
+constexpr char kSelectRecord[] = "m_pbSelectConfigFile";
+constexpr char kSelectPhotos[] = "m_pbSelectImages";
+
 /**
  * Drives one wizard page the way a user does: shows it, finds its widgets by name, clicks, answers
  * dialogs and waits for the photos.
@@ -24,6 +28,7 @@ public:
     /** Shows \p page, which must live as long as this object is used. */
     explicit PageDriver(QWizardPage *page);
 
+    [[nodiscard]] QWizardPage &page() const { return *m_page; }
     /** The widget \p name, which must be a \p T. */
     template <typename T> [[nodiscard]] T *find(const char *name) const
     {

@@ -9,10 +9,6 @@
 #include <QString>
 #include <QVector>
 
-// The buttons that open a page's dialogs.
-constexpr char kSelectRecord[] = "m_pbSelectConfigFile";
-constexpr char kSelectPhotos[] = "m_pbSelectImages";
-
 /** One page with the files of one shoot. */
 template <typename Page> struct PageShoot {
     ShootFolder folder;
