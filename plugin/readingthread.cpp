@@ -8,6 +8,8 @@
 #include <QHash>
 #include <QMutexLocker>
 
+#include <new>
+#include <utility>
 #include <vector>
 
 namespace
@@ -62,6 +64,17 @@ XIImageDef *readPhoto(XIApplication *host, const QString &file)
     }
 }
 
+/** Whether there was memory for \p step. */
+template <typename Step> bool isWithinMemory(const Step &step)
+{
+    try {
+        step();
+    } catch (const std::bad_alloc &) {
+        return false;
+    }
+    return true;
+}
+
 } // namespace
 
 ReadingThread::ReadingThread(QObject *parent)
@@ -79,32 +92,63 @@ ReadingThread::~ReadingThread()
 void ReadingThread::Start(const QStringList &files)
 {
     // Both are done before locking: they may take long for a record-size shoot.
-    QQueue<QString> queue = withoutDuplicates(files);
+    QQueue<QString> queue;
+    const bool isQueued = isWithinMemory([&] { queue = withoutDuplicates(files); });
     const bool hasHost = PanoHead::findHost() != nullptr;
     {
         const QMutexLocker lock(&m_mutex);
-        m_images->clear();
-        m_queue->clear();
+        forget();
         if (!hasHost) {
             return;
         }
-        m_queue->swap(queue);
-        *m_stop = false;
-        if (*m_takesWork) {
-            return;
+        if (isQueued) {
+            m_queue->swap(queue);
+            *m_stop = false;
+            if (std::exchange(*m_takesWork, true)) {
+                return;
+            }
         }
-        *m_takesWork = true;
     }
+    if (!isQueued || !launch()) {
+        giveUp();
+    }
+}
+
+bool ReadingThread::launch()
+{
     // An earlier run that will not look at the queue again may still be winding down;
     // QThread::start() would do nothing until it has ended.
     wait();
     start();
+    if (isRunning() || isFinished()) {
+        return true;
+    }
+    const QMutexLocker lock(&m_mutex);
+    *m_takesWork = false;
+    return false;
+}
+
+void ReadingThread::giveUp()
+{
+    {
+        const QMutexLocker lock(&m_mutex);
+        forget();
+        *m_stop = true;
+        *m_isShort = true;
+    }
+    Q_EMIT Loaded();
 }
 
 QList<XIImageDef *> ReadingThread::XIImageDefs()
 {
     const QMutexLocker lock(&m_mutex);
     return *m_images;
+}
+
+bool ReadingThread::takeShortage()
+{
+    const QMutexLocker lock(&m_mutex);
+    return std::exchange(*m_isShort, false);
 }
 
 void ReadingThread::Clear()
@@ -117,11 +161,19 @@ void ReadingThread::stop()
 {
     {
         const QMutexLocker lock(&m_mutex);
-        m_images->clear();
-        m_queue->clear();
+        forget();
         *m_stop = true;
     }
     waitForEnd();
+}
+
+/** Everything but whether a run is on. The lock is held. */
+void ReadingThread::forget()
+{
+    m_images->clear();
+    m_queue->clear();
+    *m_owesLoaded = false;
+    *m_isShort = false;
 }
 
 void ReadingThread::waitForEnd()
@@ -134,23 +186,34 @@ void ReadingThread::waitForEnd()
 void ReadingThread::run()
 {
     XIApplication *host = PanoHead::findHost();
-    Q_EMIT Start();
+    // A receiver on another thread costs memory; one that does not get this misses no photo.
+    isWithinMemory([this] { Q_EMIT Start(); });
     QString file;
-    while (takeNext(&file)) {
-        keep(readPhoto(host, file));
+    for (Work work = takeNext(&file); work != Work::None; work = takeNext(&file)) {
+        if (work == Work::Photo) {
+            keep(readPhoto(host, file));
+        } else {
+            msleep(kWaitMs);
+        }
     }
-    Q_EMIT Done();
+    isWithinMemory([this] { Q_EMIT Done(); });
 }
 
-bool ReadingThread::takeNext(QString *file)
+ReadingThread::Work ReadingThread::takeNext(QString *file)
 {
     const QMutexLocker lock(&m_mutex);
-    if (*m_stop || m_queue->isEmpty()) {
+    if (*m_owesLoaded && !*m_stop) {
+        tellLoaded();
+    }
+    if (*m_stop || (m_queue->isEmpty() && !*m_owesLoaded)) {
         *m_takesWork = false;
-        return false;
+        return Work::None;
+    }
+    if (m_queue->isEmpty()) {
+        return Work::Pause;
     }
     *file = m_queue->dequeue();
-    return true;
+    return Work::Photo;
 }
 
 void ReadingThread::keep(XIImageDef *image)
@@ -159,8 +222,18 @@ void ReadingThread::keep(XIImageDef *image)
     if (image == nullptr || *m_stop) {
         return;
     }
-    m_images->append(image);
-    if (m_images->size() % kPhotosPerSignal == 0 || m_queue->isEmpty()) {
-        Q_EMIT Loaded();
+    if (!isWithinMemory([&] { m_images->append(image); })) {
+        // The photos chosen cannot all be had any more; more of them would only cost more memory.
+        m_queue->clear();
+        *m_isShort = true;
     }
+    if (m_images->size() % kPhotosPerSignal == 0 || m_queue->isEmpty()) {
+        tellLoaded();
+    }
+}
+
+/** The lock is held. */
+void ReadingThread::tellLoaded()
+{
+    *m_owesLoaded = !isWithinMemory([this] { Q_EMIT Loaded(); });
 }

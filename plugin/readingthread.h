@@ -32,14 +32,17 @@ public:
     /**
      * Forgets earlier images and reads \p files (full paths) in their order, each once. During a
      * run the image of the photo in hand still joins the new list; call `Clear()` first for a
-     * clean one. Without a host nothing is read.
+     * clean one. Without a host nothing is read. When memory runs out, here or later, the reading
+     * ends with what it has.
      */
     void Start(const QStringList &files);
     /** The images read so far, in reading order. */
     [[nodiscard]] QList<XIImageDef *> XIImageDefs();
+    /** Whether memory has run out since `Start`, so that photos are missing; true once. */
+    [[nodiscard]] bool takeShortage();
 
 Q_SIGNALS:
-    /** Each tenth image, the last of the queue, and the end of `Clear()`. */
+    /** Each tenth image, the last of the queue, the end of `Clear()`, and when memory runs out. */
     void Loaded();
     /** A run begins; emitted on the worker thread. */
     void Start();
@@ -57,10 +60,16 @@ protected:
     void run() override;
 
 private:
+    enum class Work { Photo, Pause, None };
+
     void stop();
     void waitForEnd();
-    [[nodiscard]] bool takeNext(QString *file);
+    [[nodiscard]] bool launch();
+    void giveUp();
+    void forget();
+    [[nodiscard]] Work takeNext(QString *file);
     void keep(XIImageDef *image);
+    void tellLoaded();
 
     QMutex m_mutex; ///< guards everything below
     /** The run ends after the photo in hand, which is dropped. */
@@ -69,4 +78,7 @@ private:
     PanoHead::Guarded<QList<XIImageDef *>> m_images{ m_mutex };
     /** The worker will look at the queue again. */
     PanoHead::Guarded<bool> m_takesWork{ m_mutex, false };
+    /** `Loaded()` is due, but there was no memory to emit it. */
+    PanoHead::Guarded<bool> m_owesLoaded{ m_mutex, false };
+    PanoHead::Guarded<bool> m_isShort{ m_mutex, false }; ///< of memory
 };

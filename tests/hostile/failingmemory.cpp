@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdlib>
 #include <new>
+#include <utility>
 
 // What the C library's own functions are called: those below stand in front of them for the whole
 // process, Qt included.
@@ -20,11 +21,16 @@ constexpr size_t kPictureBytes = 16 * 1024;
 // Constant-initialised, so that asking for them allocates nothing.
 thread_local bool t_isArmed = false;
 thread_local Failing t_kind = Failing::Everything;
+thread_local Shortage t_shortage = Shortage::Momentary;
 thread_local long t_left = 0;
 
 bool fails(Failing kind)
 {
-    return t_isArmed && t_kind == kind && --t_left == 0;
+    if (!t_isArmed || t_kind != kind) {
+        return false;
+    }
+    --t_left;
+    return t_left == 0 || (t_left < 0 && t_shortage == Shortage::Lasting);
 }
 
 bool mallocFails(size_t size)
@@ -34,9 +40,10 @@ bool mallocFails(size_t size)
 
 } // namespace
 
-FailingMemory::FailingMemory(Failing kind, int nth)
+FailingMemory::FailingMemory(Failing kind, int nth, Shortage shortage)
 {
     t_kind = kind;
+    t_shortage = shortage;
     t_left = nth;
     t_isArmed = true;
 }
@@ -49,6 +56,16 @@ FailingMemory::~FailingMemory()
 bool FailingMemory::hasFailed() const
 {
     return t_left <= 0;
+}
+
+SpareMemory::SpareMemory()
+    : m_wasArmed(std::exchange(t_isArmed, false))
+{
+}
+
+SpareMemory::~SpareMemory()
+{
+    t_isArmed = m_wasArmed;
 }
 
 extern "C" __attribute__((visibility("default"))) void *malloc(size_t size)

@@ -9,15 +9,34 @@ enum class Failing {
     Pixels, ///< blocks of 16 KiB and more from malloc: the data of pictures
 };
 
-/** While it lives, the \p nth allocation of this thread (from 1) fails, and only that one. */
+/** How long the shortage lasts. */
+enum class Shortage {
+    Momentary, ///< one allocation fails
+    Lasting, ///< and every one after it
+};
+
+/** While it lives, the \p nth allocation of the thread that made it (from 1) fails. */
 class FailingMemory
 {
 public:
-    FailingMemory(Failing kind, int nth);
+    FailingMemory(Failing kind, int nth, Shortage shortage = Shortage::Momentary);
     ~FailingMemory();
     FailingMemory(const FailingMemory &) = delete;
     FailingMemory &operator=(const FailingMemory &) = delete;
 
     /** Whether there were so many allocations. */
     [[nodiscard]] bool hasFailed() const;
+};
+
+/** While it lives, allocations of this thread succeed and are not counted: the host's own. */
+class SpareMemory
+{
+public:
+    SpareMemory();
+    ~SpareMemory();
+    SpareMemory(const SpareMemory &) = delete;
+    SpareMemory &operator=(const SpareMemory &) = delete;
+
+private:
+    bool m_wasArmed;
 };
