@@ -14,15 +14,15 @@ namespace PanoHead
  * host nothing is done and the answer is true. When \p describe answers false or memory runs out,
  * as in `describeWithinMemory`, nothing is handed over and the answer is false.
  */
-template <typename Describe, typename Texts>
-[[nodiscard]] bool handOver(QWidget *page, StructuredPanoramaProperties &description,
-                            const Describe &describe, const Texts &texts)
+template <typename Describe>
+[[nodiscard]] bool handOver(StructuredPanoramaProperties &description, const Describe &describe,
+                            LowMemoryNotice &notice)
 {
     XIApplication *host = findHost();
     if (host == nullptr) {
         return true;
     }
-    if (!describeWithinMemory(page, description, describe, texts)) {
+    if (!describeWithinMemory(description, describe, notice)) {
         return false;
     }
     host->ImportStructuredPanorama(description);

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "model/structuredpanoramaproperties.h"
-#include "ui/messageboxes.h"
+#include "ui/lowmemorynotice.h"
 
 #include <new>
 
@@ -12,12 +12,12 @@ namespace PanoHead
 
 /**
  * Answers what \p describe does, which fills \p description. When memory runs out, the description
- * is what it was before, \p page shows a warning with what \p texts answers, and the answer is
- * false: Qt's event loop does not survive an exception.
+ * is what it was before, \p notice is shown, and the answer is false: Qt's event loop does not
+ * survive an exception.
  */
-template <typename Describe, typename Texts>
-[[nodiscard]] bool describeWithinMemory(QWidget *page, StructuredPanoramaProperties &description,
-                                        const Describe &describe, const Texts &texts)
+template <typename Describe>
+[[nodiscard]] bool describeWithinMemory(StructuredPanoramaProperties &description,
+                                        const Describe &describe, LowMemoryNotice &notice)
 {
     const StructuredPanoramaProperties before = description;
     try {
@@ -25,8 +25,7 @@ template <typename Describe, typename Texts>
     } catch (const std::bad_alloc &) {
         description = before;
     }
-    const BoxTexts box = texts();
-    showMessage(page, QMessageBox::Warning, box.title, box.text);
+    notice.show();
     return false;
 }
 

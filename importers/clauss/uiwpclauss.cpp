@@ -38,6 +38,10 @@ UIWPClauss::UIWPClauss(QWidget *parent)
     CreateConnects();
     Reset();
     recolourSubtitle(this, m_preview);
+    m_lowMemory = new LowMemoryNotice(this, m_readingThread,
+                                      { tr("Warning"),
+                                        tr("There is not enough memory for so many images. Close "
+                                           "other programs and try again.") });
 }
 
 UIWPClauss::~UIWPClauss()
@@ -77,12 +81,7 @@ bool UIWPClauss::isComplete() const
 bool UIWPClauss::validatePage()
 {
     return handOver(
-        this, *this, [this] { return describe(); },
-        [] {
-            return BoxTexts{ tr("Warning"),
-                             tr("There is not enough memory for so many images. Close other "
-                                "programs and try again.") };
-        });
+        *this, [this] { return describe(); }, *m_lowMemory);
 }
 
 bool UIWPClauss::describe()

@@ -16,8 +16,9 @@ class ReadingThread;
 
 namespace PanoHead
 {
+class LowMemoryNotice;
 class PreviewLabel;
-}
+} // namespace PanoHead
 
 /** The wizard page of the Clauss Rodeon importer. */
 class UIWPClauss : public QWizardPage, public ClaussToSPP, public Ui::UIWPClaussClass
@@ -68,4 +69,5 @@ private:
     PanoHead::ShotLayout m_layout;
     PanoHead::ShotOrder m_shotOrder{ PanoHead::EqualTimes::GiveUp };
     PanoHead::PhotoNames m_photoNames;
+    PanoHead::LowMemoryNotice *m_lowMemory = nullptr;
 };

@@ -49,6 +49,10 @@ UIWPGigapan::UIWPGigapan(QWidget *parent)
     CreateConnects();
     Reset();
     recolourSubtitle(this, m_preview);
+    m_lowMemory = new LowMemoryNotice(this, m_readingThread,
+                                      { tr("Warning"),
+                                        tr("There is not enough memory for so many images. Close "
+                                           "other programs and try again.") });
 }
 
 UIWPGigapan::~UIWPGigapan()
@@ -96,12 +100,7 @@ bool UIWPGigapan::isComplete() const
 bool UIWPGigapan::validatePage()
 {
     return handOver(
-        this, *this, [this] { return describe(); },
-        [] {
-            return BoxTexts{ tr("Warning"),
-                             tr("There is not enough memory for so many images. Close other "
-                                "programs and try again.") };
-        });
+        *this, [this] { return describe(); }, *m_lowMemory);
 }
 
 bool UIWPGigapan::describe()

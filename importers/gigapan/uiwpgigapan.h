@@ -17,8 +17,9 @@ class XIImageDef;
 
 namespace PanoHead
 {
+class LowMemoryNotice;
 class PreviewLabel;
-}
+} // namespace PanoHead
 
 /** The wizard page of the Gigapan importer. */
 class UIWPGigapan : public QWizardPage, public GigapanToSPP, public Ui::UIWPGigapanClass
@@ -75,4 +76,5 @@ private:
     PanoHead::GridLayout m_layout;
     PanoHead::ShotOrder m_shotOrder{ PanoHead::EqualTimes::GiveUp };
     PanoHead::PhotoNames m_photoNames;
+    PanoHead::LowMemoryNotice *m_lowMemory = nullptr;
 };

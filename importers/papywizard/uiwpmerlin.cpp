@@ -39,6 +39,10 @@ UIWPMerlin::UIWPMerlin(QWidget *parent)
     CreateConnects();
     Reset();
     recolourSubtitle(this, m_preview);
+    m_lowMemory = new LowMemoryNotice(this, m_readingThread,
+                                      { tr("Warning"),
+                                        tr("There is not enough memory for so many images. Close "
+                                           "other programs and try again.") });
 }
 
 UIWPMerlin::~UIWPMerlin()
@@ -78,12 +82,7 @@ bool UIWPMerlin::isComplete() const
 bool UIWPMerlin::validatePage()
 {
     return handOver(
-        this, *this, [this] { return describe(); },
-        [] {
-            return BoxTexts{ tr("Warning"),
-                             tr("There is not enough memory for so many images. Close other "
-                                "programs and try again.") };
-        });
+        *this, [this] { return describe(); }, *m_lowMemory);
 }
 
 bool UIWPMerlin::describe()

@@ -17,6 +17,7 @@ class XIImageDef;
 
 namespace PanoHead
 {
+class LowMemoryNotice;
 class PreviewLabel;
 } // namespace PanoHead
 
@@ -76,4 +77,5 @@ private:
     PanoHead::ShotOrder m_shotOrder{ PanoHead::EqualTimes::KeepReadingOrder };
     PanoHead::LensTally m_lens;
     PanoHead::PhotoNames m_photoNames;
+    PanoHead::LowMemoryNotice *m_lowMemory = nullptr;
 };

@@ -44,6 +44,10 @@ UIWPVRDrive2::UIWPVRDrive2(QWidget *parent)
     CreateConnects();
     Reset();
     recolourSubtitle(this, m_preview);
+    m_lowMemory = new LowMemoryNotice(this, m_readingThread,
+                                      { tr("Warning"),
+                                        tr("There is not enough memory for so many images. Close "
+                                           "other programs and try again.") });
 }
 
 UIWPVRDrive2::~UIWPVRDrive2()
@@ -85,12 +89,7 @@ bool UIWPVRDrive2::isComplete() const
 bool UIWPVRDrive2::validatePage()
 {
     return handOver(
-        this, *this, [this] { return describe(); },
-        [] {
-            return BoxTexts{ tr("Warning"),
-                             tr("There is not enough memory for so many images. Close other "
-                                "programs and try again.") };
-        });
+        *this, [this] { return describe(); }, *m_lowMemory);
 }
 
 bool UIWPVRDrive2::describe()

@@ -15,8 +15,9 @@ class ReadingThread;
 
 namespace PanoHead
 {
+class LowMemoryNotice;
 class PreviewLabel;
-}
+} // namespace PanoHead
 
 /** The wizard page of the VR Drive 2 importer. */
 class UIWPVRDrive2 : public QWizardPage, public VRDrive2ToSPP, public Ui::UIWPVRDrive2Class
@@ -70,4 +71,5 @@ private:
     PanoHead::ShotLayout m_layout;
     PanoHead::LensTally m_lens;
     PanoHead::PhotoNames m_photoNames;
+    PanoHead::LowMemoryNotice *m_lowMemory = nullptr;
 };

@@ -4,6 +4,7 @@
 #include "importers/gigapan/uiwpgigapan.h"
 #include "importers/papywizard/uiwpmerlin.h"
 #include "importers/vrdrive2/uiwpvrdrive2.h"
+#include "plugin/readingthread.h"
 #include "tests/hostile/failingmemory.h"
 #include "tests/support/dialogclicker.h"
 #include "tests/support/fakeapplication.h"
@@ -17,16 +18,38 @@
 #include <QSlider>
 #include <QtTest>
 
+#include <sys/resource.h>
+#include <unistd.h>
+
 #include <algorithm>
 #include <functional>
 #include <memory>
 #include <new>
+#include <optional>
 
 using PanoHead::PreviewCell;
 using PanoHead::PreviewScene;
 
 using Make = std::function<QWizardPage *()>;
 Q_DECLARE_METATYPE(Make)
+
+/** A host that never runs out of memory itself. */
+class SpareHost : public FakeApplication
+{
+public:
+    using FakeApplication::FakeApplication;
+
+    XIImageDef *CreateImageDef(const QString &fileName) override
+    {
+        const SpareMemory spare;
+        return FakeApplication::CreateImageDef(fileName);
+    }
+    void ImportStructuredPanorama(StructuredPanoramaProperties description) override
+    {
+        const SpareMemory spare;
+        FakeApplication::ImportStructuredPanorama(description);
+    }
+};
 
 namespace
 {
@@ -92,6 +115,77 @@ int forEveryAllocation(Failing kind, const std::function<void()> &work,
     return kMostAllocations;
 }
 
+/** Makes one allocation of the next run of \p page's reading thread fail. */
+class ShortReading
+{
+public:
+    ShortReading(const QWizardPage *page, int nth)
+        : m_thread(page->findChild<ReadingThread *>())
+    {
+        QObject::connect(
+            m_thread, qOverload<>(&ReadingThread::Start), &m_context,
+            [this, nth] { m_memory.emplace(Failing::Everything, nth); }, Qt::DirectConnection);
+        QObject::connect(
+            m_thread, &ReadingThread::Done, &m_context,
+            [this] {
+                m_hasFailed = m_memory->hasFailed();
+                m_memory.reset();
+            },
+            Qt::DirectConnection);
+    }
+
+    [[nodiscard]] bool hasFailed() const { return m_hasFailed; }
+    [[nodiscard]] int imageCount() const { return m_thread->XIImageDefs().size(); }
+
+private:
+    ReadingThread *m_thread;
+    std::optional<FailingMemory> m_memory; // made and destroyed on the worker thread
+    bool m_hasFailed = false;
+    QObject m_context;
+};
+
+/** While it lives, the program has all its memory in use and gets no more. */
+class NoMemory
+{
+public:
+    NoMemory()
+    {
+        QFile statistics(QStringLiteral("/proc/self/statm"));
+        m_isArmed = statistics.open(QIODevice::ReadOnly) && getrlimit(RLIMIT_AS, &m_before) == 0;
+        const rlim_t pages = statistics.readLine().split(' ').first().toULong();
+        statistics.close();
+        rlimit less = m_before;
+        less.rlim_cur = pages * static_cast<rlim_t>(sysconf(_SC_PAGESIZE));
+        m_isArmed = m_isArmed && setrlimit(RLIMIT_AS, &less) == 0;
+        for (size_t bytes = 1024 * 1024; m_isArmed && bytes >= sizeof(Block); bytes /= 2) {
+            while (auto *block = static_cast<Block *>(std::malloc(bytes))) {
+                block->next = m_blocks;
+                m_blocks = block;
+            }
+        }
+    }
+    ~NoMemory()
+    {
+        while (m_blocks != nullptr) {
+            std::free(std::exchange(m_blocks, m_blocks->next));
+        }
+        setrlimit(RLIMIT_AS, &m_before);
+    }
+    NoMemory(const NoMemory &) = delete;
+    NoMemory &operator=(const NoMemory &) = delete;
+
+    [[nodiscard]] bool isArmed() const { return m_isArmed; }
+
+private:
+    struct Block {
+        Block *next;
+    };
+
+    rlimit m_before{};
+    Block *m_blocks = nullptr;
+    bool m_isArmed = false;
+};
+
 } // namespace
 
 /** Memory runs out at one place or another. */
@@ -106,11 +200,21 @@ private Q_SLOTS:
     void aScriptIsReadWholeOrNotAtAll();
     void nextIsRefusedWithoutHalfADescription_data();
     void nextIsRefusedWithoutHalfADescription();
+    void nextIsRefusedInSilenceWithoutMemoryForTheMessage_data();
+    void nextIsRefusedInSilenceWithoutMemoryForTheMessage();
+    void theMessageComesWhileMemoryIsStillShort_data();
+    void theMessageComesWhileMemoryIsStillShort();
+    void aPhotoThatCannotBeKeptIsToldAndNotCounted_data();
+    void aPhotoThatCannotBeKeptIsToldAndNotCounted();
+    void photosThatCannotBeQueuedAreTold();
+    void aPageMayGoWhileTheMessageIsOpen();
     void aPreviewIsDrawnWholeOrEmpty_data();
     void aPreviewIsDrawnWholeOrEmpty();
     void aPatchedPreviewIsWholeOrEmpty();
 
 private:
+    void load(const PageDriver &driver, const QStringList &files) const;
+
     ShootFolder m_folder;
     QStringList m_photos;
     QString m_record;
@@ -125,6 +229,15 @@ void TestLowMemory::initTestCase()
     record.focal = QStringLiteral("24");
     m_record = m_folder.write(QStringLiteral("shoot.xml"), record.bytes());
     m_script = m_folder.write(QStringLiteral("shoot.txt"), script());
+}
+
+/** The photos, and \p files for pages that want a record. */
+void TestLowMemory::load(const PageDriver &driver, const QStringList &files) const
+{
+    driver.load("m_pbSelectImages", m_photos);
+    if (!files.isEmpty()) {
+        driver.load("m_pbSelectConfigFile", files);
+    }
 }
 
 void TestLowMemory::theAllocationAskedForFails()
@@ -203,10 +316,7 @@ void TestLowMemory::nextIsRefusedWithoutHalfADescription()
 
     const std::unique_ptr<QWizardPage> page(makePage());
     const PageDriver driver(page.get());
-    driver.load("m_pbSelectImages", m_photos);
-    if (!files.isEmpty()) {
-        driver.load("m_pbSelectConfigFile", files);
-    }
+    load(driver, files);
     QVERIFY(page->isComplete());
     const auto *description = dynamic_cast<StructuredPanoramaProperties *>(page.get());
     QVERIFY(description != nullptr);
@@ -241,6 +351,151 @@ void TestLowMemory::nextIsRefusedWithoutHalfADescription()
     QVERIFY2(refused > 10, qPrintable(QString::number(refused)));
 }
 
+void TestLowMemory::nextIsRefusedInSilenceWithoutMemoryForTheMessage_data()
+{
+    nextIsRefusedWithoutHalfADescription_data();
+}
+
+void TestLowMemory::nextIsRefusedInSilenceWithoutMemoryForTheMessage()
+{
+    QFETCH(const Make, makePage);
+    QFETCH(const QStringList, files);
+
+    const std::unique_ptr<QWizardPage> page(makePage());
+    const PageDriver driver(page.get());
+    load(driver, files);
+    const auto *description = dynamic_cast<StructuredPanoramaProperties *>(page.get());
+    QVERIFY(description != nullptr);
+    const int most = rounds(60, kMostAllocations);
+    int refused = 0;
+    for (int nth = 1; nth <= most; ++nth) {
+        const StructuredPanoramaProperties before = *description;
+        const int delivered = fakeHost().descriptions.size();
+        const DialogClicker boxes;
+        bool isAccepted = false;
+        bool hasFailed = false;
+        {
+            const FailingMemory memory(Failing::Everything, nth, Shortage::Lasting);
+            isAccepted = page->validatePage();
+            hasFailed = memory.hasFailed();
+        }
+        QCOMPARE(isAccepted, !hasFailed);
+        QCOMPARE(fakeHost().descriptions.size(), delivered + (isAccepted ? 1 : 0));
+        QVERIFY(boxes.messageBoxes().isEmpty());
+        QVERIFY(page->findChildren<QMessageBox *>().isEmpty());
+        if (isAccepted) {
+            break;
+        }
+        QVERIFY2(sameDescription(*description, before), qPrintable(QString::number(nth)));
+        ++refused;
+    }
+    QVERIFY2(refused > 10, qPrintable(QString::number(refused)));
+    QVERIFY(page->validatePage());
+}
+
+void TestLowMemory::theMessageComesWhileMemoryIsStillShort_data()
+{
+    nextIsRefusedWithoutHalfADescription_data();
+}
+
+void TestLowMemory::theMessageComesWhileMemoryIsStillShort()
+{
+    QFETCH(const Make, makePage);
+    QFETCH(const QStringList, files);
+
+    const std::unique_ptr<QWizardPage> page(makePage());
+    const PageDriver driver(page.get());
+    load(driver, files);
+    // A first message makes Qt read its fonts and icons and deepens the stack.
+    DialogClicker boxes;
+    boxes.pressButton();
+    {
+        const FailingMemory memory(Failing::Everything, 1);
+        QVERIFY(!page->validatePage());
+    }
+    boxes.pressButton();
+    bool isArmed = false;
+    bool isAccepted = true;
+    {
+        const NoMemory memory;
+        isArmed = memory.isArmed();
+        isAccepted = page->validatePage();
+    }
+    QVERIFY(isArmed);
+    QVERIFY(!isAccepted);
+    QCOMPARE(boxes.messageBoxes().size(), 2);
+    QVERIFY(boxes.isSettled());
+    QVERIFY(page->validatePage());
+}
+
+void TestLowMemory::aPhotoThatCannotBeKeptIsToldAndNotCounted_data()
+{
+    nextIsRefusedWithoutHalfADescription_data();
+}
+
+void TestLowMemory::aPhotoThatCannotBeKeptIsToldAndNotCounted()
+{
+    QFETCH(const Make, makePage);
+    QFETCH(const QStringList, files);
+
+    const std::unique_ptr<QWizardPage> page(makePage());
+    const PageDriver driver(page.get());
+    load(driver, files);
+    int shortages = 0;
+    bool hasFailed = true;
+    for (int nth = 1; hasFailed; ++nth) {
+        DialogClicker boxes;
+        boxes.chooseFiles(m_photos);
+        const ShortReading reading(page.get(), nth);
+        driver.click("m_pbSelectImages");
+        driver.waitUntilRead();
+        hasFailed = reading.hasFailed();
+        const bool isShort = reading.imageCount() < m_photos.size();
+        QCOMPARE(page->isComplete(), !isShort);
+        boxes.pressButton();
+        QCoreApplication::processEvents();
+        QTRY_COMPARE(boxes.messageBoxes().size(), isShort ? 1 : 0);
+        if (isShort) {
+            const DialogClicker::SeenMessageBox &box = boxes.messageBoxes().first();
+            QCOMPARE(box.icon, QMessageBox::Warning);
+            QVERIFY(box.text.contains(QStringLiteral("not enough memory")));
+            ++shortages;
+        }
+    }
+    QVERIFY(shortages > 0);
+    QVERIFY(page->isComplete());
+}
+
+void TestLowMemory::photosThatCannotBeQueuedAreTold()
+{
+    const UIWPGigapan page(nullptr);
+    auto *thread = page.findChild<ReadingThread *>();
+    QVERIFY(thread != nullptr);
+    DialogClicker boxes;
+    {
+        const FailingMemory memory(Failing::Everything, 1);
+        thread->Start(m_photos);
+    }
+    QVERIFY(boxes.messageBoxes().isEmpty()); // not within the page's own slot
+    boxes.pressButton();
+    QCoreApplication::processEvents();
+    QCOMPARE(boxes.messageBoxes().size(), 1);
+    QVERIFY(boxes.isSettled());
+}
+
+void TestLowMemory::aPageMayGoWhileTheMessageIsOpen()
+{
+    auto page = std::make_unique<UIWPGigapan>(nullptr);
+    const PageDriver driver(page.get());
+    load(driver, {});
+    DialogClicker boxes;
+    boxes.beforeNextAnswer([&page] { page.reset(); });
+    const FailingMemory memory(Failing::Everything, 1);
+    QVERIFY(!page->validatePage());
+    QCOMPARE(boxes.messageBoxes().size(), 1);
+    QVERIFY(page == nullptr);
+}
+
 void TestLowMemory::aPreviewIsDrawnWholeOrEmpty_data()
 {
     nextIsRefusedWithoutHalfADescription_data();
@@ -253,10 +508,7 @@ void TestLowMemory::aPreviewIsDrawnWholeOrEmpty()
 
     const std::unique_ptr<QWizardPage> page(makePage());
     const PageDriver driver(page.get());
-    driver.load("m_pbSelectImages", m_photos);
-    if (!files.isEmpty()) {
-        driver.load("m_pbSelectConfigFile", files);
-    }
+    load(driver, files);
     // The slot alone: the slider would draw itself too.
     const bool hasZoomSlot = page->metaObject()->indexOfSlot("OnZoomChanged()") >= 0;
     const auto redraw = [&page, slot = hasZoomSlot ? "OnZoomChanged" : "UpdatePreview"] {
@@ -341,5 +593,5 @@ void TestLowMemory::aPatchedPreviewIsWholeOrEmpty()
     }
 }
 
-FAKE_HOST_MAIN(FakeApplication, TestLowMemory)
+FAKE_HOST_MAIN(SpareHost, TestLowMemory)
 #include "tst_lowmemory.moc"
