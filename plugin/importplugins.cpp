@@ -56,13 +56,19 @@ template <typename Page> Page *createPage(QObject *plugin, const About &about)
     return page.release();
 }
 
-/** Lets the host keep the page's state, an empty one when the host has deleted the page. */
+/**
+ * Lets the host keep the page's state, an empty one when the host has deleted the page. Called by
+ * destructors, which let no exception out: a host that cannot keep the state lives on without it.
+ */
 template <typename Page>
 void savePage(QObject *plugin, const About &about, const QPointer<Page> &page)
 {
-    if (XIApplication *host = PanoHead::findHost()) {
-        const QByteArray state = page.isNull() ? QByteArray() : page->SaveState();
-        host->WriteSetting(about.uidText(), plugin->objectName(), QVariant(state));
+    try {
+        if (XIApplication *host = PanoHead::findHost()) {
+            const QByteArray state = page.isNull() ? QByteArray() : page->SaveState();
+            host->WriteSetting(about.uidText(), plugin->objectName(), QVariant(state));
+        }
+    } catch (...) { // NOLINT(bugprone-empty-catch): nobody is left to be told
     }
     delete page.data();
 }

@@ -88,6 +88,7 @@ public:
         calls.clear();
         stored.clear();
         readsSettings = true;
+        writesSettings = true;
         read.clear();
         written.clear();
         descriptions.clear();
@@ -112,6 +113,7 @@ public:
     QLocale userLocale;
     QStringList calls; ///< "locale", "loadTranslation NAME", "uiInstances"
     bool readsSettings = true; ///< else it throws
+    bool writesSettings = true; ///< else it throws
     QVariant stored; ///< what every setting reads as; invalid: nothing is stored
     QList<Setting> read;
     QList<Setting> written;
@@ -143,6 +145,9 @@ public:
     }
     void writeSetting(const QString &group, const QString &key, const QVariant &value) override
     {
+        if (!writesSettings) {
+            throw std::runtime_error("the settings cannot be written");
+        }
         written.append({ group, key, value });
     }
     void slot7() override { qFatal("slot 7 of the host was called"); }

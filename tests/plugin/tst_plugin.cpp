@@ -23,6 +23,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 namespace
 {
@@ -112,6 +113,7 @@ private Q_SLOTS:
 
     void aHostWithoutUiSettingsIsServedToo();
     void aPageWhoseStateTheHostCannotReadIsNotLeftBehind();
+    void aPageWhoseStateTheHostCannotWriteIsNotLeftBehind();
 
 private:
     /** A Papywizard page with a record of two bracketed positions and its four photos read. */
@@ -812,6 +814,27 @@ void TestPlugin::aPageWhoseStateTheHostCannotReadIsNotLeftBehind()
     QCOMPARE(QApplication::allWidgets().size(), widgets);
     host().readsSettings = true;
     QCOMPARE(library->plugins(2).size(), 4);
+}
+
+void TestPlugin::aPageWhoseStateTheHostCannotWriteIsNotLeftBehind()
+{
+    {
+        Contract::Module module;
+        Contract::PluginLibrary *library = module.library();
+        const int widgets = QApplication::allWidgets().size();
+        host().writesSettings = false;
+        QList<QPointer<QObject>> plugins = library->plugins(2);
+        delete plugins.takeFirst().data();
+        delete Contract::asImport(plugins.last())->pages().first(); // its state is gone before
+        delete plugins.takeLast().data();
+        delete module.root(); // and with it the other two
+        for (const QPointer<QObject> &plugin : std::as_const(plugins)) {
+            QVERIFY(plugin.isNull());
+        }
+        QCOMPARE(QApplication::allWidgets().size(), widgets);
+        QVERIFY(host().written.isEmpty());
+    }
+    QVERIFY(!Contract::isMapped());
 }
 
 int main(int argc, char *argv[])
