@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QPainter>
+#include <QStorageInfo>
 #include <QTemporaryDir>
 
 namespace PanoHost
@@ -60,6 +61,22 @@ Result<QImage> blend(const StitchJob &job, const QString &verdandi, const QStrin
     return picture;
 }
 
+/** What a helper program says or does that finds no room tells nobody so. */
+Failure orLackOfRoom(const Failure &failure, const QString &folder)
+{
+    constexpr qint64 kMegabyte = 1024 * 1024;
+    constexpr qint64 kHardlyAnyMegabytes = 16; // a warped photo may take as much
+    const qint64 megabytes = QStorageInfo(folder).bytesAvailable() / kMegabyte;
+    if (failure.code != ExitCode::ToolFailed || megabytes >= kHardlyAnyMegabytes) {
+        return failure;
+    }
+    return { failure.code, failure.what,
+             QStringLiteral("it failed, and there is hardly any room left in %1 (%2 MB)")
+                 .arg(QDir::tempPath())
+                 .arg(megabytes),
+             QStringLiteral("make room there, or set TMPDIR to a folder with more") };
+}
+
 } // namespace
 
 Result<QImage> stitch(const StitchJob &job, const JobWatch &watch)
@@ -76,11 +93,11 @@ Result<QImage> stitch(const StitchJob &job, const JobWatch &watch)
     }
     const Result<QString> warped = warp(job, nona.value(), folder.path(), watch);
     if (!warped) {
-        return warped.error();
+        return orLackOfRoom(warped.error(), folder.path());
     }
-    Result<QImage> blended = blend(job, verdandi.value(), folder.path(), watch);
+    const Result<QImage> blended = blend(job, verdandi.value(), folder.path(), watch);
     if (!blended) {
-        return blended;
+        return orLackOfRoom(blended.error(), folder.path());
     }
     QImage canvas(job.canvas, QImage::Format_ARGB32_Premultiplied);
     canvas.fill(Qt::transparent);

@@ -26,6 +26,75 @@ bool isRunning(qint64 process)
     return ::kill(static_cast<pid_t>(process), 0) == 0;
 }
 
+/** A small file system without room, seen by nobody but the programs that it starts. */
+class TinyDisk
+{
+public:
+    explicit TinyDisk(CliBench *bench)
+        : m_bench(bench)
+    {
+        QDir(bench->path({})).mkpath(QStringLiteral("tiny"));
+    }
+
+    /** Why there can be none; empty when there can. */
+    [[nodiscard]] QString problem()
+    {
+        QString answer;
+        // Root needs no more; others become root of a name space of their own.
+        for (const QString &options : { QStringLiteral("-m"), QStringLiteral("-rm") }) {
+            m_unshare = options;
+            const CliBench::Run run = shell(mount(), {});
+            if (run.exitCode == 0) {
+                return {};
+            }
+            answer += run.err.simplified() + QLatin1Char(' ');
+        }
+        return QStringLiteral("No file system can be mounted here: ") + answer;
+    }
+
+    /**
+     * Runs panohost with an old result in tiny/NAME and \p kilobytes of room in tiny. What there
+     * is in tiny afterwards stands in after.txt, the result's copy in after.
+     */
+    [[nodiscard]] CliBench::Run run(const QString &name, const QStringList &arguments,
+                                    int kilobytes = 0) const
+    {
+        const QString script = mount()
+            + QStringLiteral("mkdir -p tiny/photos; printf 'the old result' > tiny/%1\n"
+                             "%2"
+                             "\"$0\" \"$@\"; code=$?\n"
+                             "ls -A tiny > after.txt; cp tiny/%1 after; exit $code")
+                  .arg(name, fill(kilobytes));
+        return shell(script, QStringList(QStringLiteral(PANOHOST_TEST_BINARY)) + arguments);
+    }
+
+    /** Shell commands that leave \p kilobytes (whole pages) of room. */
+    [[nodiscard]] QString fill(int kilobytes) const
+    {
+        return QStringLiteral("cat /dev/zero > '%1/filler' 2> /dev/null\n"
+                              "truncate -s -%2K '%1/filler'\n")
+            .arg(m_bench->path(QStringLiteral("tiny")))
+            .arg(kilobytes);
+    }
+
+private:
+    [[nodiscard]] static QString mount()
+    {
+        return QStringLiteral("mount -t tmpfs -o size=4M none tiny || exit 125\n");
+    }
+
+    [[nodiscard]] CliBench::Run shell(const QString &script, const QStringList &arguments) const
+    {
+        return m_bench->runProgram(
+            QStringLiteral("unshare"),
+            QStringList{ m_unshare, QStringLiteral("/bin/sh"), QStringLiteral("-c"), script }
+                + arguments);
+    }
+
+    CliBench *m_bench;
+    QString m_unshare;
+};
+
 } // namespace
 
 /** Helper programs and disks that fail while panohost works. */
@@ -44,6 +113,12 @@ private Q_SLOTS:
     void fullDiskLeavesTheOldResult_data();
     void fullDiskLeavesTheOldResult();
     void fullDiskLeavesNoHalfPhoto();
+    void fullFileSystemLeavesTheOldResult_data();
+    void fullFileSystemLeavesTheOldResult();
+    void fullFileSystemLeavesTheOldPanorama_data();
+    void fullFileSystemLeavesTheOldPanorama();
+    void fullTemporaryFolderIsNamed_data();
+    void fullTemporaryFolderIsNamed();
 
 private:
     void setTool(const QString &name, const QByteArray &script);
@@ -266,6 +341,134 @@ void TestCliTools::fullDiskLeavesNoHalfPhoto()
                  .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
              QStringList());
     QCOMPARE(m_bench->leftovers(), QStringList());
+}
+
+void TestCliTools::fullFileSystemLeavesTheOldResult_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<int>("kilobytes");
+    const QString import = QStringLiteral("import");
+    const QStringList project{ QStringLiteral("-o"), QStringLiteral("tiny/result") };
+    const QStringList description{ QStringLiteral("--json"), QStringLiteral("tiny/result") };
+    const QStringList layout{ QStringLiteral("-o"), QStringLiteral("tiny/result.png") };
+    QTest::newRow("project") << import << project << 0;
+    QTest::newRow("project, room for a part") << import << project << 4;
+    QTest::newRow("description") << import << description << 0;
+    QTest::newRow("description, room for a part") << import << description << 4;
+    QTest::newRow("layout") << QStringLiteral("preview") << layout << 0;
+}
+
+void TestCliTools::fullFileSystemLeavesTheOldResult()
+{
+    QFETCH(QString, command);
+    QFETCH(QStringList, options);
+    QFETCH(int, kilobytes);
+    TinyDisk disk(m_bench.get());
+    if (const QString problem = disk.problem(); !problem.isEmpty()) {
+        QSKIP(qPrintable(problem));
+    }
+    constexpr int kPhotos = 40; // more than a page of text about them
+    const QStringList photos = m_bench->photos(kPhotos);
+    const QString record = m_bench->record(QStringLiteral("shoot.xml"), CliBench::row(kPhotos));
+    const QString result = QFileInfo(options.last()).fileName();
+    const CliBench::Run run
+        = disk.run(result,
+                   QStringList{ command, QStringLiteral("papywizard"), record } + photos + options
+                       + QStringList{ QStringLiteral("--progress"), QStringLiteral("none") },
+                   kilobytes);
+    QVERIFY2(run.exitCode == 1, qPrintable(run.err));
+    QCOMPARE(run.err.section(QLatin1Char('\n'), -2),
+             QStringLiteral("panohost: error: %1: cannot be written (No space left on device); "
+                            "make room there or choose another place\n")
+                 .arg(m_bench->path(options.last())));
+    QCOMPARE(m_bench->content(QStringLiteral("after")), QByteArray("the old result"));
+    QCOMPARE(m_bench->content(QStringLiteral("after.txt")),
+             QByteArray("filler\nphotos\n") + result.toUtf8() + '\n');
+    QCOMPARE(m_bench->leftovers(), QStringList());
+}
+
+void TestCliTools::fullFileSystemLeavesTheOldPanorama_data()
+{
+    QTest::addColumn<QString>("tool"); // fills the disk
+    QTest::addColumn<QString>("file"); // named in the message
+    QTest::addColumn<QByteArray>("finished");
+    QTest::newRow("photos") << QString() << QStringLiteral("photos/demo_0001.jpg")
+                            << QByteArray("demo.jpg filler photos");
+    QTest::newRow("panorama") << QStringLiteral("verdandi") << QStringLiteral("demo.jpg")
+                              << QByteArray("demo.jpg demo.json demo.pto filler layout.png photos");
+}
+
+void TestCliTools::fullFileSystemLeavesTheOldPanorama()
+{
+    QFETCH(QString, tool);
+    QFETCH(QString, file);
+    QFETCH(QByteArray, finished);
+    TinyDisk disk(m_bench.get());
+    if (const QString problem = disk.problem(); !problem.isEmpty()) {
+        QSKIP(qPrintable(problem));
+    }
+    if (!tool.isEmpty()) {
+        QImage picture(64, 32, QImage::Format_RGB32);
+        picture.fill(Qt::blue);
+        QVERIFY(picture.save(m_bench->path(QStringLiteral("picture.png"))));
+        setTool(tool,
+                "#!/bin/sh\ncp '" + m_bench->path(QStringLiteral("picture.png")).toUtf8()
+                    + "' \"$2\"\n" + disk.fill(0).toUtf8());
+    }
+    constexpr int kMuch = 4096; // more than there is
+    const CliBench::Run run
+        = disk.run(QStringLiteral("demo.jpg"),
+                   { QStringLiteral("demo"), QStringLiteral("tiny"), QStringLiteral("--head"),
+                     QStringLiteral("gigapan"), QStringLiteral("--size"), QStringLiteral("small") },
+                   tool.isEmpty() ? 0 : kMuch);
+    QVERIFY2(run.exitCode == 1, qPrintable(run.err));
+    QCOMPARE(run.err.section(QLatin1Char('\n'), -2),
+             QStringLiteral("panohost: error: %1: cannot be written (No space left on device); "
+                            "make room there or choose another place\n")
+                 .arg(m_bench->path(QStringLiteral("tiny/") + file)));
+    QCOMPARE(m_bench->content(QStringLiteral("after")), QByteArray("the old result"));
+    QCOMPARE(m_bench->content(QStringLiteral("after.txt")).simplified(), finished);
+    QCOMPARE(m_bench->leftovers(), QStringList());
+}
+
+void TestCliTools::fullTemporaryFolderIsNamed_data()
+{
+    QTest::addColumn<int>("kilobytes");
+    QTest::newRow("no room") << 0;
+    QTest::newRow("room for the photos' headers") << 8;
+    QTest::newRow("room for a part of the photos") << 400;
+}
+
+void TestCliTools::fullTemporaryFolderIsNamed()
+{
+    QFETCH(int, kilobytes);
+    TinyDisk disk(m_bench.get());
+    if (const QString problem = disk.problem(); !problem.isEmpty()) {
+        QSKIP(qPrintable(problem));
+    }
+    for (const char *tool : { "checkpto", "nona", "verdandi" }) {
+        QVERIFY(QFile::remove(m_bench->path(QStringLiteral("tools/%1").arg(QLatin1String(tool)))));
+        if (QStandardPaths::findExecutable(QLatin1String(tool)).isEmpty()) {
+            QSKIP("The stitching programs are not installed");
+        }
+    }
+    const QString temporary = m_bench->path(QStringLiteral("tiny"));
+    m_bench->environment().insert(QStringLiteral("TMPDIR"), temporary);
+    const CliBench::Run run
+        = disk.run(QStringLiteral("old"),
+                   { QStringLiteral("demo"), QStringLiteral("show"), QStringLiteral("--head"),
+                     QStringLiteral("gigapan"), QStringLiteral("--size"), QStringLiteral("small") },
+                   kilobytes);
+    QVERIFY2(run.exitCode == 1, qPrintable(run.err));
+    const QString message = run.err.section(QLatin1Char('\n'), -2);
+    QVERIFY2(message.endsWith(QStringLiteral(": it failed, and there is hardly any room left in %1 "
+                                             "(0 MB); make room there, or set TMPDIR to a folder "
+                                             "with more\n")
+                                  .arg(temporary)),
+             qPrintable(message));
+    QCOMPARE(demoFolderProblem(), QString());
+    QCOMPARE(m_bench->content(QStringLiteral("after.txt")), QByteArray("filler\nold\nphotos\n"));
 }
 
 QTEST_GUILESS_MAIN(TestCliTools)
