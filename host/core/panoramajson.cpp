@@ -316,10 +316,18 @@ ObjectReader entry(const ObjectReader &parent, const char *key, const QJsonArray
     return { list[index].toObject(), parent.pathOf(key) + QStringLiteral("[%1].").arg(index) };
 }
 
+/** The path \p key, relative to \p folder; empty when there is none. No path holds a NUL. */
+QString readPath(const ObjectReader &object, const char *key, const QString &folder)
+{
+    const QString path = object.text(key);
+    object.require(!path.contains(QChar::Null), key, "a file name");
+    return absolute(path, folder);
+}
+
 PhotoInfo readPhotoEntry(const ObjectReader &object, const QString &folder)
 {
     PhotoInfo photo;
-    photo.path = absolute(object.text("file"), folder);
+    photo.path = readPath(object, "file", folder);
     object.require(!photo.path.isEmpty(), "file", "a file name");
     photo.storedSize = QSize(object.integer("width"), object.integer("height"));
     photo.orientation = object.integer("orientation", 1);
@@ -411,7 +419,7 @@ Panorama readPanorama(const ObjectReader &root, const QString &folder)
     Panorama panorama;
     const ObjectReader source = root.object("source");
     panorama.source = { source.text("plugin"), source.text("name"),
-                        absolute(source.text("record"), folder), source.text("version") };
+                        readPath(source, "record", folder), source.text("version") };
     const ObjectReader lens = root.object("lens");
     panorama.lens = lensFromName(lens.text("model"));
     panorama.focal35mm = lens.number("focal35mm");
@@ -444,8 +452,8 @@ Panorama readPanorama(const ObjectReader &root, const QString &folder)
     readReserved(root.object("reserved"), d);
     if (root.has("pto")) {
         const ObjectReader project = root.object("pto");
-        panorama.project = ProjectReference{ absolute(project.text("file"), folder),
-                                             project.number("yawCentreDeg") };
+        panorama.project
+            = ProjectReference{ readPath(project, "file", folder), project.number("yawCentreDeg") };
     }
     const QJsonArray warnings = root.array("warnings");
     for (const QJsonValue &warning : warnings) {

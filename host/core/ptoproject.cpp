@@ -197,14 +197,16 @@ std::optional<Failure> ProjectMaker::collectImages()
 std::optional<Failure> ProjectMaker::nameImage(Image &image) const
 {
     const QString &path = image.photo->path;
-    const QString name = relativePath(path, m_options.projectFolder);
-    for (const QChar c : name) {
-        if (c == QLatin1Char('"') || c.category() == QChar::Other_Control) {
-            return refused(path,
-                           QStringLiteral("a Hugin project cannot hold a file name with "
-                                          "quotation marks or line ends"),
-                           QStringLiteral("rename the file"));
-        }
+    const auto isUnfit
+        = [](QChar c) { return c == QLatin1Char('"') || c.category() == QChar::Other_Control; };
+    // Names with a NUL are no names: nothing may ask the system about them.
+    const QString name
+        = path.contains(QChar::Null) ? path : relativePath(path, m_options.projectFolder);
+    if (std::any_of(name.cbegin(), name.cend(), isUnfit)) {
+        return refused(path,
+                       QStringLiteral("a Hugin project cannot hold a file name with quotation "
+                                      "marks or line ends"),
+                       QStringLiteral("rename the file"));
     }
     image.name = QFile::encodeName(name);
     return {};

@@ -52,6 +52,10 @@ bool writeAll(QSaveFile &file, const QByteArray &content)
 
 Result<std::unique_ptr<QFile>> openRegularFile(const QString &path)
 {
+    if (path.contains(QChar::Null)) {
+        // The system would read the name up to there and open another file.
+        return refused(path, QStringLiteral("no such file"));
+    }
     const int fd
         = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     if (fd < 0) {

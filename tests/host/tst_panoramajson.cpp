@@ -469,6 +469,15 @@ void PanoramaJsonTest::wrongKindIsRefusedByKey_data()
     QTest::newRow("no file") << QByteArray(
         "{\"schema\": 1, \"positions\": [{\"photos\": [{\"width\": 1}]}]}")
                              << "positions[0].photos[0].file: must be a file name";
+    QTest::newRow("NUL in a photo's name")
+        << QByteArray(R"({"schema": 1, "positions": [{"photos": [{"file": "a\u0000.jpg"}]}]})")
+        << "positions[0].photos[0].file: must be a file name";
+    QTest::newRow("NUL in the record's name")
+        << QByteArray(R"({"schema": 1, "source": {"record": "a\u0000"}})")
+        << "source.record: must be a file name";
+    QTest::newRow("NUL in the project's name")
+        << QByteArray(R"({"schema": 1, "pto": {"file": "a\u0000"}})")
+        << "pto.file: must be a file name";
     QTest::newRow("width") << QByteArray(
         "{\"schema\": 1, \"positions\": [{\"photos\": [{\"file\": \"a\", \"width\": 1e300}]}]}")
                            << "positions[0].photos[0].width: must be a whole number";

@@ -504,6 +504,7 @@ void PtoProjectTest::nameThatTheFormatCannotHoldIsRefused_data()
     QTest::newRow("quotation mark") << "a\"b.jpg";
     QTest::newRow("line end") << "a\nb.jpg";
     QTest::newRow("carriage return") << "a\rb.jpg";
+    QTest::newRow("NUL") << QStringLiteral("a") + QChar(QChar::Null) + QStringLiteral("b.jpg");
 }
 
 void PtoProjectTest::nameThatTheFormatCannotHoldIsRefused()
@@ -511,7 +512,13 @@ void PtoProjectTest::nameThatTheFormatCannotHoldIsRefused()
     QFETCH(QString, name);
     Panorama panorama = row(2);
     panorama.positions[1].photos[0].path = QStringLiteral("/photos/") + name;
+    static int messages = 0;
+    messages = 0;
+    const auto handler = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext &, const QString &) { ++messages; });
     const auto project = makePtoProject(panorama);
+    qInstallMessageHandler(handler);
+    QCOMPARE(messages, 0); // Qt is not asked about names that cannot be
     QVERIFY(!project.ok());
     QCOMPARE(project.error().what, QStringLiteral("/photos/") + name);
     QCOMPARE(project.error().tryThis, QStringLiteral("rename the file"));

@@ -77,6 +77,9 @@ void SafeFileTest::onlyRegularFilesAreOpened_data()
     QTest::newRow("missing") << at(QStringLiteral("missing")) << "no such file";
     QTest::newRow("below a file") << write(QStringLiteral("file"), "x") + QStringLiteral("/x")
                                   << "Not a directory";
+    QTest::newRow("NUL behind a name that there is")
+        << write(QStringLiteral("file"), "x") + QChar(QChar::Null) + QStringLiteral(".jpg")
+        << "no such file";
     QTest::newRow("empty name") << QString() << "no such file";
 }
 
