@@ -5,6 +5,7 @@
 #include "tests/support/gate.h"
 #include "tests/support/heads.h"
 #include "tests/support/heldphotos.h"
+#include "tests/support/pageshoot.h"
 #include "ui/xui.h"
 
 #include <QAbstractButton>
@@ -30,9 +31,7 @@ using Record = QByteArray (*)(int shots);
 
 QByteArray rowInThrees(int shots)
 {
-    RecordXml record = RecordXml::row(shots);
-    record.nbPicts = QStringLiteral("3");
-    return record.bytes();
+    return bracketedRow(shots, QStringLiteral("3")).bytes();
 }
 
 void checkFreshTexts(const HeadShoot &shoot)
@@ -140,6 +139,8 @@ private Q_SLOTS:
     void cancelledPhotoDialogChangesNothing();
     void cancelledRecordDialogChangesNothing_data();
     void cancelledRecordDialogChangesNothing();
+    void cancelledDialogOnAnEmptyPageChangesNothing_data() { addDialogs(); }
+    void cancelledDialogOnAnEmptyPageChangesNothing();
     void photosAreSortedCaseSensitively_data();
     void photosAreSortedCaseSensitively();
     void hostLearnsTheFirstPhoto_data() { addHeads(allHeads()); }
@@ -955,6 +956,22 @@ void TestEveryPage::cancelledRecordDialogChangesNothing()
     QCOMPARE(fakeHost().setLastPaths, told);
     QCOMPARE(fakeHost().readFiles(), read);
     QVERIFY(shoot.page->isComplete());
+}
+
+void TestEveryPage::cancelledDialogOnAnEmptyPageChangesNothing()
+{
+    QFETCH(const Head *, head);
+    QFETCH(QByteArray, button);
+    const HeadShoot shoot(*head);
+    // Something that the page could read.
+    fakeHost().lastPath
+        = head->recordName ? shoot.writeRecord(2) : shoot.folder.addPhoto(QStringLiteral("a.jpg"));
+
+    shoot.driver.cancelFiles(button.constData());
+
+    checkFreshTexts(shoot);
+    QVERIFY(fakeHost().setLastPaths.isEmpty());
+    QVERIFY(fakeHost().readFiles().isEmpty());
 }
 
 void TestEveryPage::photosAreSortedCaseSensitively_data()

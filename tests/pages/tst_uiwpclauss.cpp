@@ -22,16 +22,6 @@ namespace
 
 constexpr char kScript[] = "m_leConfigFile";
 
-/** A script with \p count shots in one row, 30 degrees apart from yaw 0. */
-QByteArray row(int count)
-{
-    QByteArray script;
-    for (int i = 0; i < count; ++i) {
-        script += "op_h-angle=" + QByteArray::number(i * 30) + "\nop_shoot\n";
-    }
-    return script;
-}
-
 /** One page with the files of one shoot. */
 struct Shoot : PageShoot<UIWPClauss> {
     QString writeScript(const QByteArray &script,
@@ -89,6 +79,7 @@ QString linksOf(const StructuredPanoramaProperties &description)
 
 } // namespace
 
+/** What only the page for Clauss scripts does. */
 class TestUIWPClauss : public QObject
 {
     Q_OBJECT
@@ -153,7 +144,7 @@ void TestUIWPClauss::scriptIsShownInTheLabels_data()
                             << QStringList{ QLatin1String(count), QLatin1String(yaw),
                                             QLatin1String(pitch) };
     };
-    add("one row", row(3), "3", "0,60", "0,0");
+    add("one row", scriptRow(3), "3", "0,60", "0,0");
     add("one shot", "op_h-angle=-7\nop_v-angle=33\nop_shoot\n", "1", "-7,-7", "33,33");
     add("decimals are cut: wanted", "op_h-angle=12.9\nop_shoot\nop_h-angle=-12.9\nop_shoot\n", "2",
         "-12,12", "0,0");
@@ -163,13 +154,14 @@ void TestUIWPClauss::scriptIsShownInTheLabels_data()
     add("no shots: the scan's start as numbers", "op_h-angle=30\n", "N/A",
         "3.40282e+38,-3.40282e+38", "3.40282e+38,-3.40282e+38");
     add("empty", "", "N/A", "3.40282e+38,-3.40282e+38", "3.40282e+38,-3.40282e+38");
-    add("byte order mark", "\xEF\xBB\xBF" + row(2), "2", "0,30", "0,0");
-    add("CR LF", row(2).replace("\n", "\r\n"), "2", "0,30", "0,0");
-    add("NUL between the lines", row(2) + '\0' + row(5), "2", "0,30", "0,0");
-    add("NUL first", '\0' + row(2), "N/A", "3.40282e+38,-3.40282e+38", "3.40282e+38,-3.40282e+38");
-    add("bad number behind a NUL", row(2) + '\0' + "\nop_h-angle=x\n", "2", "0,30", "0,0");
-    add("invalid UTF-8", "\xC3(\xFF\n" + row(2), "2", "0,30", "0,0");
-    add("commands of another head", "op_speed=fast\n" + row(2) + "OP_SHOOT\n op_shoot\n", "2",
+    add("byte order mark", "\xEF\xBB\xBF" + scriptRow(2), "2", "0,30", "0,0");
+    add("CR LF", scriptRow(2).replace("\n", "\r\n"), "2", "0,30", "0,0");
+    add("NUL between the lines", scriptRow(2) + '\0' + scriptRow(5), "2", "0,30", "0,0");
+    add("NUL first", '\0' + scriptRow(2), "N/A", "3.40282e+38,-3.40282e+38",
+        "3.40282e+38,-3.40282e+38");
+    add("bad number behind a NUL", scriptRow(2) + '\0' + "\nop_h-angle=x\n", "2", "0,30", "0,0");
+    add("invalid UTF-8", "\xC3(\xFF\n" + scriptRow(2), "2", "0,30", "0,0");
+    add("commands of another head", "op_speed=fast\n" + scriptRow(2) + "OP_SHOOT\n op_shoot\n", "2",
         "0,30", "0,0");
 }
 
@@ -192,7 +184,7 @@ void TestUIWPClauss::scriptIsShownInTheLabels()
 void TestUIWPClauss::pathOfBeforeTheResetIsReadAgain()
 {
     const Shoot shoot;
-    const QString script = shoot.writeScript(row(2));
+    const QString script = shoot.writeScript(scriptRow(2));
     shoot.driver.load(kSelectRecord, shoot.folder.addPhotos(2) << script);
     shoot.driver.click("m_pbReset");
 
@@ -241,7 +233,7 @@ void TestUIWPClauss::badScriptShowsOneBox_data()
     }
     QTest::newRow("no equals sign") << QByteArray("op_h-angle 30\nop_shoot\n");
     QTest::newRow("many bad numbers") << QByteArray("op_h-angle=x\nop_v-angle=y\n").repeated(100);
-    QTest::newRow("CR only") << row(2).replace("\n", "\r");
+    QTest::newRow("CR only") << scriptRow(2).replace("\n", "\r");
 }
 
 void TestUIWPClauss::badScriptShowsOneBox()
@@ -279,7 +271,7 @@ void TestUIWPClauss::unreadableScriptShowsOneBox()
     const TrapPipe pipe(shoot.folder.path(QStringLiteral("pipe")));
     QFile large(shoot.writeScript("op_shoot\n", QStringLiteral("hundred megabytes")));
     QVERIFY(large.resize(100'000'000)); // of a line of NUL
-    shoot.loadScript(row(3));
+    shoot.loadScript(scriptRow(3));
     path.replace(QLatin1String("FOLDER"), shoot.folder.path());
     DialogClicker clicker;
     clicker.pressButton(QMessageBox::Ok);
@@ -298,7 +290,7 @@ void TestUIWPClauss::unreadableScriptShowsOneBox()
 void TestUIWPClauss::badScriptKeepsTheRanges()
 {
     const Shoot shoot;
-    shoot.loadScript(row(3));
+    shoot.loadScript(scriptRow(3));
     shoot.loadPhotos(3);
     DialogClicker clicker;
     clicker.pressButton(QMessageBox::Ok);
@@ -347,7 +339,7 @@ void TestUIWPClauss::fileNameInTheBoxIsShownAsItIs()
 void TestUIWPClauss::typedPathIsReadWhenFinished()
 {
     const Shoot shoot;
-    const QString script = shoot.writeScript(row(5));
+    const QString script = shoot.writeScript(scriptRow(5));
 
     shoot.driver.type(kScript, script);
     QCOMPARE(shoot.driver.text("m_lbPapyLog"), notAvailable());
@@ -363,7 +355,7 @@ void TestUIWPClauss::typedPathIsReadWhenFinished()
 void TestUIWPClauss::typedPathIsStoredWhateverTheResult()
 {
     const Shoot shoot;
-    shoot.loadScript(row(2));
+    shoot.loadScript(scriptRow(2));
     const QString missing = shoot.folder.path(QStringLiteral("missing.txt"));
     {
         DialogClicker clicker;
@@ -381,10 +373,10 @@ void TestUIWPClauss::typedPathIsStoredWhateverTheResult()
 void TestUIWPClauss::unchangedPathIsNotReadAgain()
 {
     const Shoot shoot;
-    const QString script = shoot.writeScript(row(2));
+    const QString script = shoot.writeScript(scriptRow(2));
     shoot.enter(script);
     shoot.driver.click("m_pInverseCoordinates");
-    shoot.writeScript(row(4));
+    shoot.writeScript(scriptRow(4));
 
     QTest::keyClick(shoot.page.m_leConfigFile, Qt::Key_Return);
     shoot.enter(script);
@@ -398,7 +390,7 @@ void TestUIWPClauss::unchangedPathIsNotReadAgain()
 void TestUIWPClauss::emptiedPathIsPutBack()
 {
     const Shoot shoot;
-    shoot.loadScript(row(2));
+    shoot.loadScript(scriptRow(2));
     const DialogClicker clicker;
 
     shoot.page.m_leConfigFile->selectAll();
@@ -414,7 +406,7 @@ void TestUIWPClauss::emptiedPathIsPutBack()
 void TestUIWPClauss::leavingTheFieldReadsThePath()
 {
     const Shoot shoot;
-    const QString script = shoot.writeScript(row(5));
+    const QString script = shoot.writeScript(scriptRow(5));
     shoot.driver.type(kScript, script);
 
     leave(shoot.page.m_leConfigFile);
@@ -521,7 +513,7 @@ void TestUIWPClauss::identicalDirectionsAlwaysLink()
 void TestUIWPClauss::linksFollowTheOrderOfReading()
 {
     Shoot shoot;
-    shoot.loadScript(row(3));
+    shoot.loadScript(scriptRow(3));
     // The wide lens belongs to the first photo, although it was taken last.
     FakePhoto wide = photoWith(24.0F);
     wide.shotTime = 9;
@@ -548,10 +540,10 @@ void TestUIWPClauss::wizardHearsOfATypedPath()
     const PageDriver driver(page);
     const QAbstractButton *next = wizard.button(QWizard::NextButton);
     driver.load(kSelectPhotos, folder.addPhotos(2));
-    driver.load(kSelectRecord, { folder.write(QStringLiteral("more.txt"), row(3)) });
+    driver.load(kSelectRecord, { folder.write(QStringLiteral("more.txt"), scriptRow(3)) });
     QVERIFY(!next->isEnabled());
 
-    driver.type(kScript, folder.write(QStringLiteral("fitting.txt"), row(2)));
+    driver.type(kScript, folder.write(QStringLiteral("fitting.txt"), scriptRow(2)));
     leave(page->m_leConfigFile);
 
     QVERIFY(next->isEnabled());
@@ -563,8 +555,8 @@ void TestUIWPClauss::lastScriptOfASelectionWins()
     const QString noEnding = shoot.folder.addPhoto(QStringLiteral("notatxt"));
 
     shoot.driver.load(kSelectRecord,
-                      { shoot.writeScript(row(4), QStringLiteral("z.txt")), noEnding,
-                        shoot.writeScript(row(2), QStringLiteral("a.Txt")) });
+                      { shoot.writeScript(scriptRow(4), QStringLiteral("z.txt")), noEnding,
+                        shoot.writeScript(scriptRow(2), QStringLiteral("a.Txt")) });
 
     QCOMPARE(shoot.driver.text(kScript), shoot.folder.path(QStringLiteral("a.Txt")));
     QCOMPARE(shoot.driver.text("m_lbPapyLog"), QStringLiteral("2"));
@@ -588,9 +580,9 @@ void TestUIWPClauss::scriptDialogKeepsThePhotosOrderWanted()
 void TestUIWPClauss::photosAloneKeepTheScript()
 {
     const Shoot shoot;
-    const QString script = shoot.writeScript(row(2));
+    const QString script = shoot.writeScript(scriptRow(2));
     shoot.driver.load(kSelectRecord, { script });
-    shoot.writeScript(row(4));
+    shoot.writeScript(scriptRow(4));
 
     shoot.driver.load(kSelectRecord, shoot.folder.addPhotos(2));
 
@@ -605,7 +597,7 @@ void TestUIWPClauss::samePhotosFromTheScriptDialogAreNotReadAgain()
     const Shoot shoot;
     QStringList photos = shoot.folder.addPhotos(3);
     shoot.driver.load(kSelectRecord, photos);
-    shoot.driver.load(kSelectRecord, QStringList(photos) << shoot.writeScript(row(3)));
+    shoot.driver.load(kSelectRecord, QStringList(photos) << shoot.writeScript(scriptRow(3)));
     QCOMPARE(fakeHost().readFiles().size(), 3);
     QVERIFY(shoot.page.isComplete());
 
@@ -629,7 +621,7 @@ void TestUIWPClauss::controlKeyOpensTheScriptsFolder()
 {
     QFETCH(QString, folder);
     const Shoot shoot;
-    const QString script = shoot.writeScript(row(1), folder + QLatin1String("/a.txt"));
+    const QString script = shoot.writeScript(scriptRow(1), folder + QLatin1String("/a.txt"));
     shoot.driver.load(kSelectRecord, { script });
     const DesktopCatcher desktop;
 

@@ -80,6 +80,7 @@ Q_DECLARE_METATYPE(Act)
 Q_DECLARE_METATYPE(FakePhoto::Reading)
 Q_DECLARE_METATYPE(QVector<Entry>)
 
+/** What only the page for Gigapan photos does. */
 class TestUIWPGigapan : public QObject
 {
     Q_OBJECT

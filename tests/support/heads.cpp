@@ -51,15 +51,6 @@ QByteArray fullXml()
     return record.bytes();
 }
 
-QByteArray scriptRow(int shots)
-{
-    QByteArray script;
-    for (int i = 0; i < shots; ++i) {
-        script += "op_h-angle=" + QByteArray::number(i * 30) + "\nop_shoot\n";
-    }
-    return script;
-}
-
 /** Nothing in the edits, "N/A" on \p labels. */
 std::vector<TextOn> notAvailable(const std::vector<const char *> &labels)
 {

@@ -47,6 +47,13 @@ inline RecordXml rowWithLens(int count, const QString &focal,
     return record;
 }
 
+inline RecordXml bracketedRow(int count, const QString &nbPicts)
+{
+    RecordXml record = RecordXml::row(count);
+    record.nbPicts = nbPicts;
+    return record;
+}
+
 /** A warning as its label shows it. */
 inline QString red(const char *text)
 {

@@ -96,3 +96,12 @@ QByteArray RecordXml::bytes() const
     text += QLatin1String("</shoot>\n</papywizard>\n");
     return text.toUtf8();
 }
+
+QByteArray scriptRow(int shots)
+{
+    QByteArray script;
+    for (int i = 0; i < shots; ++i) {
+        script += "op_h-angle=" + QByteArray::number(i * 30) + "\nop_shoot\n";
+    }
+    return script;
+}

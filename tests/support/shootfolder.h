@@ -57,5 +57,8 @@ struct RecordXml {
     [[nodiscard]] QByteArray bytes() const;
 };
 
+/** The text of a Clauss script: \p shots in one row, 30 degrees apart from yaw 0. */
+[[nodiscard]] QByteArray scriptRow(int shots);
+
 Q_DECLARE_METATYPE(RecordXml)
 Q_DECLARE_METATYPE(QVector<RecordXml::Shot>)
