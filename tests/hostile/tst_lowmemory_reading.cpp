@@ -14,6 +14,7 @@
 #include <memory>
 #include <new>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace
@@ -86,19 +87,29 @@ PreparedHost &preparedHost()
     return *static_cast<PreparedHost *>(QCoreApplication::instance());
 }
 
-/** Makes the allocations of a thread's runs fail, from its first signal to its last. */
-class ShortRuns
+/** Makes allocations of a thread's run fail, from its first signal to its last. A lasting shortage
+ * ends when the thread tries to tell of it once more. */
+class ShortRun
 {
 public:
-    ShortRuns(ReadingThread *thread, int nth)
+    ShortRun(ReadingThread *thread, int nth, Shortage shortage)
     {
         QObject::connect(
             thread, qOverload<>(&ReadingThread::Start), thread,
-            [this, nth] { m_memory.emplace(Failing::Everything, nth); }, Qt::DirectConnection);
+            [this, nth, shortage] { m_memory.emplace(Failing::Everything, nth, shortage); },
+            Qt::DirectConnection);
+        QObject::connect(
+            thread, &ReadingThread::Loaded, thread,
+            [this] {
+                if (m_memory && m_memory->hasFailed() && std::exchange(m_hasFailed, true)) {
+                    m_memory.reset();
+                }
+            },
+            Qt::DirectConnection);
         QObject::connect(
             thread, &ReadingThread::Done, thread,
             [this] {
-                m_hasFailed = m_memory->hasFailed();
+                m_hasFailed = m_hasFailed || m_memory->hasFailed();
                 m_memory.reset();
             },
             Qt::DirectConnection);
@@ -139,6 +150,7 @@ class TestLowMemoryReading : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void everyAllocationOfARunMayFail_data();
     void everyAllocationOfARunMayFail();
     void aSignalWaitsForMemory();
     void clearAndDestructionEndTheWaitForMemory();
@@ -148,15 +160,24 @@ private Q_SLOTS:
     void clearNeedsNoMemory();
 };
 
+void TestLowMemoryReading::everyAllocationOfARunMayFail_data()
+{
+    QTest::addColumn<bool>("lasts");
+    QTest::newRow("one allocation") << false;
+    QTest::newRow("and all after it") << true;
+}
+
 void TestLowMemoryReading::everyAllocationOfARunMayFail()
 {
+    QFETCH(const bool, lasts);
+    const Shortage shortage = lasts ? Shortage::Lasting : Shortage::Momentary;
     const QStringList names = photoNames(photoCount());
     int shortages = 0;
     int nth = 1;
     for (; nth <= kMostAllocations; ++nth) {
         ReadingThread thread(nullptr);
         preparedHost().prepare(names.size(), &thread);
-        const ShortRuns shortRuns(&thread, nth);
+        const ShortRun shortRun(&thread, nth, shortage);
         QObject page;
         int started = 0;
         int seen = -1;
@@ -175,7 +196,7 @@ void TestLowMemoryReading::everyAllocationOfARunMayFail()
         QVERIFY(!thread.takeShortage());
         QVERIFY(started == 1 || (started == 0 && nth <= 3));
         shortages += isShort ? 1 : 0;
-        if (!shortRuns.hasFailed()) {
+        if (!shortRun.hasFailed()) {
             QVERIFY(!isShort);
             break;
         }
