@@ -178,7 +178,6 @@ private Q_SLOTS:
     void unreadablePhotoMovesTheOthersUp();
     void otherPhotosOfTheSameNumberAreDrawn();
     void resetDuringReadingShowsTheFreshGrid();
-    void restoringTheStateKeepsThePicture();
 };
 
 void TestUIWPGigapanPreview::init()
@@ -732,16 +731,6 @@ void TestUIWPGigapanPreview::resetDuringReadingShowsTheFreshGrid()
     release.join();
 
     QCOMPARE(shoot.driver.picture(), outlines(QSize(264, 212), QSize(48, 48), 4, 5));
-}
-
-void TestUIWPGigapanPreview::restoringTheStateKeepsThePicture()
-{
-    Shoot shoot;
-    shoot.loadPhotos(6);
-
-    shoot.page.RestoreState(QByteArray("anything"));
-
-    QCOMPARE(shoot.driver.picture(), paintedWalk(kMode0));
 }
 
 FAKE_HOST_MAIN(FakeApplication, TestUIWPGigapanPreview)

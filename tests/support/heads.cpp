@@ -43,6 +43,27 @@ QByteArray xmlRow(int shots)
     return RecordXml::row(shots).bytes();
 }
 
+QByteArray xmlOf(const QVector<ShotAngles> &shots)
+{
+    RecordXml record;
+    for (const ShotAngles &shot : shots) {
+        record.shots.append({ QString::number(shot.yawDegrees, 'g', 12),
+                              QString::number(shot.pitchDegrees, 'g', 12) });
+    }
+    return record.bytes();
+}
+
+QByteArray scriptOf(const QVector<ShotAngles> &shots)
+{
+    QByteArray script;
+    for (const ShotAngles &shot : shots) {
+        script += "op_h-angle=" + QByteArray::number(static_cast<int>(shot.yawDegrees))
+            + "\nop_v-angle=" + QByteArray::number(static_cast<int>(shot.pitchDegrees))
+            + "\nop_shoot\n";
+    }
+    return script;
+}
+
 QByteArray fullXml()
 {
     RecordXml record = RecordXml::row(3);
@@ -70,6 +91,7 @@ Head newPapywizard()
     head.restoreState = &restoreState<UIWPMerlin>;
     head.recordName = "shoot.xml";
     head.record = &xmlRow;
+    head.recordOf = &xmlOf;
     head.fullRecord = fullXml();
     head.recordFilters = QStringList{ kAllFiles, QStringLiteral("XML files (*.xml)") };
     head.countLabel = "m_lbImageLog";
@@ -113,6 +135,7 @@ Head newVRDrive2()
     head.saveState = &saveState<UIWPVRDrive2>;
     head.restoreState = &restoreState<UIWPVRDrive2>;
     head.freshTexts.pop_back(); // the warning is hidden
+    head.drawsWithoutPhotos = true;
     head.choices.push_back("m_rbOutputMode2");
     head.chosen[1] = { "m_cleanLink", "checked", false };
     head.chosen.push_back({ "m_rbOutputMode2", "checked", true });
@@ -128,12 +151,14 @@ Head newClauss()
     head.restoreState = &restoreState<UIWPClauss>;
     head.recordName = "script.txt";
     head.record = &scriptRow;
+    head.recordOf = &scriptOf;
     head.fullRecord = scriptRow(3);
     head.recordFilters = QStringList{ kAllFiles };
     head.countLabel = "m_lbImageLog";
     head.countText = QStringLiteral("%1");
     head.freshTexts
         = notAvailable({ "m_lbPapyLog", "m_lbThetaMinMax", "m_lbPhiMinMax", "m_lbImageLog" });
+    head.drawsWithoutPhotos = true;
     head.options = newPapywizard().options;
     head.positionsKnown = true;
     head.rollKnown = false;

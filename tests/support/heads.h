@@ -37,6 +37,12 @@ struct ValueOf {
     QVariant value;
 };
 
+/** Where the head looked for one shot. */
+struct ShotAngles {
+    double yawDegrees;
+    double pitchDegrees;
+};
+
 /** A page of any head, with what else it is. */
 struct HeadPage {
     QWizardPage *page;
@@ -56,6 +62,7 @@ struct Head {
 
     const char *recordName; ///< of a record's file; null: the head keeps no record
     QByteArray (*record)(int shots); ///< in one row, 30 degrees apart from yaw 0
+    QByteArray (*recordOf)(const QVector<ShotAngles> &shots); ///< some know whole degrees only
     QByteArray fullRecord; ///< three shots, and all else that the page shows of a record
     QStringList recordFilters; ///< of the record's dialog
 
@@ -64,6 +71,7 @@ struct Head {
     std::vector<TextOn> freshTexts;
     std::vector<const char *> freshDisabled;
     QSize freshPicture{ 0, 0 }; ///< of the preview; empty: there is none
+    bool drawsWithoutPhotos; ///< the preview shows a record's shots before the first photo
 
     std::vector<OptionBox> options;
     bool positionsKnown; ///< in the description
@@ -76,6 +84,7 @@ struct Head {
 };
 
 Q_DECLARE_METATYPE(const Head *)
+Q_DECLARE_METATYPE(QVector<ShotAngles>)
 
 [[nodiscard]] const Head &papywizard();
 [[nodiscard]] const Head &gigapan();

@@ -2,11 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tests/support/pageshoot.h"
+#include "tests/support/heads.h"
 
 #include <QColor>
 #include <QImage>
-#include <QPalette>
 #include <QPointF>
 #include <QVector>
 
@@ -19,38 +18,27 @@ const QColor kYellow(0xff, 0xff, 0x00);
 const QColor kOutline(Qt::black);
 
 /** A page on a background of its own, at full zoom. */
-template <typename Page> struct PictureShoot : PageShoot<Page> {
-    PictureShoot()
-    {
-        QPalette palette = this->page.palette();
-        palette.setColor(QPalette::Window, kBackground);
-        this->page.setPalette(palette);
-        this->page.m_hSlider->setValue(100);
-    }
-    /** Chooses a Papywizard record with \p shots together with \p photos. */
-    void load(const QVector<RecordXml::Shot> &shots, const QStringList &photos = {}) const
-    {
-        RecordXml record;
-        record.shots = shots;
-        this->driver.load(kSelectRecord, QStringList(photos) << this->writeRecord(record));
-    }
-    QString addPhoto(const char *name, const QColor &colour, long shotTime = 0) const
-    {
-        FakePhoto photo;
-        photo.colour = colour;
-        photo.shotTime = shotTime;
-        return this->folder.addPhoto(QString::fromLatin1(name), photo);
-    }
+struct PictureShoot : HeadShoot {
+    explicit PictureShoot(const Head &shotWith);
+
+    /** Chooses a record of \p shots together with \p photos. */
+    void load(const QVector<ShotAngles> &shots, const QStringList &photos = {}) const;
+    void setZoom(int percent) const;
+    QString addPhoto(const char *name, const QColor &colour, long shotTime = 0) const;
     /** Red, green, blue and yellow, taken in this order. */
-    QStringList fourPhotos() const
-    {
-        return { addPhoto("a.jpg", kRed, 1), addPhoto("b.jpg", kGreen, 2),
-                 addPhoto("c.jpg", kBlue, 3), addPhoto("d.jpg", kYellow, 4) };
-    }
+    [[nodiscard]] QStringList fourPhotos() const;
 };
+
+// Two columns 30 degrees apart, two rows 24 degrees apart, as a head sweeps them. The smallest step
+// is 24, so the scale is 96 / 24 = 4 pixels per degree and the canvas (4 x 30 + 100) x (4 x 24 +
+// 100). The cells' corners are at x = 50 + 4 yaw - 48 = 2 and 122, y = 50 + 4 (24 - pitch - 24) -
+// 48 = 2 and 98; the highest pitch is at the top.
+[[nodiscard]] QVector<ShotAngles> twoByTwo();
 
 /** The colour in the lower right quarter of the cell at \p corner, where no caption reaches. */
 [[nodiscard]] QColor cellColour(const QImage &picture, const QPoint &corner);
+/** The cells of a picture of twoByTwo(), in the order of the shots. */
+[[nodiscard]] QVector<QColor> cellColours(const QImage &picture);
 
 /** A cell of 96 x 96 pixels with its caption. */
 struct CaptionedCell {

@@ -61,4 +61,3 @@ struct RecordXml {
 [[nodiscard]] QByteArray scriptRow(int shots);
 
 Q_DECLARE_METATYPE(RecordXml)
-Q_DECLARE_METATYPE(QVector<RecordXml::Shot>)
