@@ -5,8 +5,6 @@
 #include "tests/support/fakeapplication.h"
 #include "tests/support/formcheck.h"
 #include "tests/support/pagedriver.h"
-#include "tests/support/shootfolder.h"
-#include "ui/xuipixmaphelper.h"
 
 #include <QtTest>
 
@@ -52,14 +50,6 @@ const std::vector<FormPlace> kPlaces{
     { "Preview", { "m_saPreview", "label_2", "m_hSlider" } },
 };
 
-/** The subtitle in \p linkColour, without the address that its link leads to. */
-QString subtitle(const QString &linkColour)
-{
-    return QLatin1String("<a href=\"ADDRESS\"><font color=\"") + linkColour
-        + QLatin1String("\">Clauss</font></a> provides special equipment for panoramic photography "
-                        "and VR applications.");
-}
-
 } // namespace
 
 /** The form as a user finds it on a fresh page. */
@@ -76,16 +66,6 @@ private Q_SLOTS:
     void widgetStandsOnItsTab() { checkFormPlace(UIWPClauss(nullptr)); }
     void tabKeyFollowsTheTable();
     void labelsNameTheirFields();
-    void titlesAndSubtitle();
-    void subtitleFollowsTheTheme();
-    void pageShowsItsLogo();
-    void freshDefaults();
-    void zoomHasItsRange();
-    void photoListIsReadOnly();
-    void pathIsCompletedFromFoldersAndFiles();
-    void previewIsCentred();
-    void labelsWithNumbersArePlain_data();
-    void labelsWithNumbersArePlain();
     void textsAreTranslatedInTheirContexts();
 };
 
@@ -113,97 +93,6 @@ void TestUIWPClaussForm::labelsNameTheirFields()
 {
     QCOMPARE(buddies(UIWPClauss(nullptr)),
              list({ "label > m_leConfigFile", "label_2 > m_hSlider", "m_lbImage_2 > m_leImage" }));
-}
-
-void TestUIWPClaussForm::titlesAndSubtitle()
-{
-    UIWPClauss page(nullptr);
-    QCOMPARE(page.windowTitle(), QStringLiteral("Clauss panohead"));
-    QCOMPARE(page.title(), QStringLiteral("Clauss panohead import"));
-    const QColor colour = PageDriver(&page).preview()->palette().color(QPalette::WindowText);
-    QCOMPARE(withoutAddress(page.subTitle()), subtitle(colour.name()));
-}
-
-void TestUIWPClaussForm::subtitleFollowsTheTheme()
-{
-    const QPalette before = QApplication::palette();
-    QPalette dark = before;
-    dark.setColor(QPalette::WindowText, QColor(0x12, 0xab, 0xef));
-    QApplication::setPalette(dark);
-    const UIWPClauss page(nullptr);
-    QApplication::setPalette(before);
-
-    QCOMPARE(withoutAddress(page.subTitle()), subtitle(QStringLiteral("#12abef")));
-}
-
-void TestUIWPClaussForm::pageShowsItsLogo()
-{
-    const QPixmap logo = XuiPixmapHelper::CreateHighDpiPixmap(
-        QStringLiteral(":/7A21C94E-5B20-2020-2020-D6D081182F97/Resources/Clauss_wp.png"), 255,
-        QSize(-1, -1));
-    QVERIFY(!logo.isNull());
-    QCOMPARE(UIWPClauss(nullptr).pixmap(QWizard::LogoPixmap).toImage(), logo.toImage());
-}
-
-void TestUIWPClaussForm::freshDefaults()
-{
-    const UIWPClauss page(nullptr);
-    QCOMPARE(page.m_autoStart->checkState(), Qt::Checked);
-    QCOMPARE(page.m_cleanLink->checkState(), Qt::Unchecked);
-    QCOMPARE(page.m_noOptim->checkState(), Qt::Unchecked);
-    QCOMPARE(page.m_GridOptim->checkState(), Qt::Checked);
-}
-
-void TestUIWPClaussForm::zoomHasItsRange()
-{
-    const UIWPClauss page(nullptr);
-    QCOMPARE(page.m_hSlider->minimum(), 1);
-    QCOMPARE(page.m_hSlider->maximum(), 100);
-    QCOMPARE(page.m_hSlider->value(), 50);
-    QCOMPARE(page.m_hSlider->orientation(), Qt::Horizontal);
-}
-
-void TestUIWPClaussForm::photoListIsReadOnly()
-{
-    const UIWPClauss page(nullptr);
-    QVERIFY(page.m_leImage->isReadOnly());
-    QVERIFY(!page.m_leConfigFile->isReadOnly());
-}
-
-void TestUIWPClaussForm::pathIsCompletedFromFoldersAndFiles()
-{
-    const ShootFolder folder;
-    folder.write(QStringLiteral("script.txt"), {});
-    folder.write(QStringLiteral("photo.jpg"), {});
-    folder.write(QStringLiteral("sub/other.txt"), {});
-    const UIWPClauss page(nullptr);
-
-    QCOMPARE(proposals(*page.m_leConfigFile, folder.path()),
-             list({ "photo.jpg", "script.txt", "sub" }));
-}
-
-void TestUIWPClaussForm::previewIsCentred()
-{
-    UIWPClauss page(nullptr);
-    QCOMPARE(PageDriver(&page).preview()->alignment(),
-             Qt::Alignment(Qt::AlignHCenter | Qt::AlignVCenter));
-    QVERIFY(page.groupBox->isAncestorOf(page.m_saPreview));
-    QVERIFY(page.groupBox->isAncestorOf(page.m_hSlider));
-}
-
-void TestUIWPClaussForm::labelsWithNumbersArePlain_data()
-{
-    QTest::addColumn<QString>("name");
-    for (const char *name : { "m_lbPapyLog", "m_lbThetaMinMax", "m_lbPhiMinMax", "m_lbImageLog" }) {
-        QTest::newRow(name) << QString::fromLatin1(name);
-    }
-}
-
-void TestUIWPClaussForm::labelsWithNumbersArePlain()
-{
-    QFETCH(QString, name);
-    const UIWPClauss page(nullptr);
-    QCOMPARE(page.findChild<QLabel *>(name)->textFormat(), Qt::PlainText);
 }
 
 void TestUIWPClaussForm::textsAreTranslatedInTheirContexts()

@@ -74,14 +74,6 @@ const std::vector<FormPlace> kPlaces{
     { "Preview", { "m_saPreview", "label_7", "m_hSlider" } },
 };
 
-/** The subtitle in \p linkColour, without the address that its link leads to. */
-QString subtitle(const QString &linkColour)
-{
-    return QLatin1String("<a href=\"ADDRESS\"><font color=\"") + linkColour
-        + QLatin1String("\">Gigapan</font></a> allows users to upload, share, and explore "
-                        "brilliant gigapixel+ panoramas from around the globe.");
-}
-
 } // namespace
 
 /** The form as a user finds it on a fresh page. */
@@ -98,20 +90,14 @@ private Q_SLOTS:
     void widgetStandsOnItsTab() { checkFormPlace(UIWPGigapan(nullptr)); }
     void tabKeyFollowsTheTable();
     void labelsNameTheirFields();
-    void titlesAndSubtitle();
-    void subtitleFollowsTheTheme();
-    void pageShowsNoLogo();
-    void freshDefaults();
+    void modesStartWithTheColumns();
     void numbersHaveTheirRanges_data();
     void numbersHaveTheirRanges();
     void overlapIsAPercentageInStepsOfFive();
     void columnsAreReadOnly();
-    void stackChoicesAreAGroupOfTheirOwn();
     void modeButtonsStandAboveTheirPictures_data();
     void modeButtonsStandAboveTheirPictures();
     void gridOfModesStartsWithAnEmptyLabel();
-    void photoListIsReadOnly();
-    void previewIsCentred();
     void textsAreTranslatedInTheirContexts();
 };
 
@@ -148,50 +134,13 @@ void TestUIWPGigapanForm::labelsNameTheirFields()
                     "m_lbImage > m_sbRow" }));
 }
 
-void TestUIWPGigapanForm::titlesAndSubtitle()
-{
-    UIWPGigapan page(nullptr);
-    QCOMPARE(page.windowTitle(), QStringLiteral("UIWPGigapan"));
-    QCOMPARE(page.title(), QStringLiteral("Gigapan panorama import"));
-    const QString colour
-        = PageDriver(&page).preview()->palette().color(QPalette::WindowText).name();
-    QCOMPARE(withoutAddress(page.subTitle()), subtitle(colour));
-}
-
-void TestUIWPGigapanForm::subtitleFollowsTheTheme()
-{
-    const QPalette before = QApplication::palette();
-    QPalette dark = before;
-    dark.setColor(QPalette::WindowText, QColor(0x12, 0xab, 0xef));
-    QApplication::setPalette(dark);
-    const UIWPGigapan page(nullptr);
-    QApplication::setPalette(before);
-
-    QCOMPARE(withoutAddress(page.subTitle()), subtitle(QStringLiteral("#12abef")));
-}
-
-void TestUIWPGigapanForm::pageShowsNoLogo()
-{
-    QVERIFY(UIWPGigapan(nullptr).pixmap(QWizard::LogoPixmap).isNull());
-}
-
-void TestUIWPGigapanForm::freshDefaults()
+void TestUIWPGigapanForm::modesStartWithTheColumns()
 {
     const UIWPGigapan page(nullptr);
     QVERIFY(page.m_rbMode0->isChecked());
     QVERIFY(!page.m_rbMode1->isChecked());
     QVERIFY(!page.m_rbMode2->isChecked());
     QVERIFY(!page.m_rbMode3->isChecked());
-    QCOMPARE(page.m_cbIS360->checkState(), Qt::Unchecked);
-    QVERIFY(page.m_rbLevelLinking0->isChecked());
-    QVERIFY(!page.m_rbLevelLinking1->isChecked());
-    QVERIFY(page.m_rbStackLinking0->isChecked());
-    QVERIFY(!page.m_rbStackLinking1->isChecked());
-    QCOMPARE(page.m_autoStart->checkState(), Qt::Checked);
-    QCOMPARE(page.m_cleanLink->checkState(), Qt::Unchecked);
-    QCOMPARE(page.m_noOptim->checkState(), Qt::Unchecked);
-    QCOMPARE(page.m_hSlider->value(), 50);
-    QCOMPARE(page.m_hSlider->orientation(), Qt::Horizontal);
 }
 
 void TestUIWPGigapanForm::numbersHaveTheirRanges_data()
@@ -203,7 +152,6 @@ void TestUIWPGigapanForm::numbersHaveTheirRanges_data()
     // As a spin box has it without being told.
     QTest::newRow("m_sbIgnore") << 0 << 99;
     QTest::newRow("m_sbBracket") << 1 << 99;
-    QTest::newRow("m_hSlider") << 1 << 100;
 }
 
 void TestUIWPGigapanForm::numbersHaveTheirRanges()
@@ -233,17 +181,6 @@ void TestUIWPGigapanForm::columnsAreReadOnly()
     QVERIFY(!page.m_sbRow->isReadOnly());
     QVERIFY(!page.m_sbIgnore->isReadOnly());
     QVERIFY(!page.m_sbBracket->isReadOnly());
-}
-
-void TestUIWPGigapanForm::stackChoicesAreAGroupOfTheirOwn()
-{
-    const UIWPGigapan page(nullptr);
-    QCOMPARE(page.buttonGroup->objectName(), QStringLiteral("buttonGroup"));
-    QCOMPARE(page.buttonGroup->buttons().size(), 2);
-    QCOMPARE(page.m_rbStackLinking0->group(), page.buttonGroup);
-    QCOMPARE(page.m_rbStackLinking1->group(), page.buttonGroup);
-    QVERIFY(!page.m_rbLevelLinking0->group());
-    QVERIFY(!page.m_rbLevelLinking1->group());
 }
 
 void TestUIWPGigapanForm::modeButtonsStandAboveTheirPictures_data()
@@ -293,19 +230,6 @@ void TestUIWPGigapanForm::gridOfModesStartsWithAnEmptyLabel()
     QVERIFY(page.label_11->pixmap(Qt::ReturnByValue).isNull());
     QCOMPARE(grid->rowCount(), 2);
     QCOMPARE(grid->columnCount(), 5);
-}
-
-void TestUIWPGigapanForm::photoListIsReadOnly()
-{
-    QVERIFY(UIWPGigapan(nullptr).m_leImage->isReadOnly());
-}
-
-void TestUIWPGigapanForm::previewIsCentred()
-{
-    UIWPGigapan page(nullptr);
-    QCOMPARE(PageDriver(&page).preview()->alignment(),
-             Qt::Alignment(Qt::AlignHCenter | Qt::AlignVCenter));
-    QCOMPARE(page.m_saPreview->alignment(), Qt::Alignment(Qt::AlignCenter));
 }
 
 void TestUIWPGigapanForm::textsAreTranslatedInTheirContexts()

@@ -5,8 +5,6 @@
 #include "tests/support/fakeapplication.h"
 #include "tests/support/formcheck.h"
 #include "tests/support/pagedriver.h"
-#include "tests/support/shootfolder.h"
-#include "ui/xuipixmaphelper.h"
 
 #include <QtTest>
 
@@ -86,15 +84,6 @@ const std::vector<FormPlace> kPlaces{
     { "Preview", { "m_saPreview", "label_3", "m_hSlider" } },
 };
 
-/** The subtitle in \p linkColour, without the address that its link leads to. */
-QString subtitle(const QString &linkColour)
-{
-    return QLatin1String("<a href=\"ADDRESS\"><font color=\"") + linkColour
-        + QLatin1String("\">VR Drive 2</font></a> plug-in enables an automated HDR workflow with "
-                        "all parameters set for true light rendering and easy use of Weavix "
-                        "software.");
-}
-
 } // namespace
 
 /** The form as a user finds it on a fresh page. */
@@ -112,21 +101,8 @@ private Q_SLOTS:
     void widgetStandsOnItsTab() { checkFormPlace(UIWPVRDrive2(nullptr)); }
     void tabKeyFollowsTheTable();
     void labelsNameTheirFields();
-    void titlesAndSubtitle();
-    void subtitleFollowsTheTheme();
-    void pageShowsItsLogo();
-    void freshDefaults();
     void warningIsHidden();
-    void numbersHaveTheirRanges();
-    void lensTypesStartWithTheFisheye();
-    void stackChoicesAreAGroupOfTheirOwn();
     void outputAndLevelChoicesExcludeEachOtherAlone();
-    void rotateButtonsShowTheirPictures();
-    void photoListIsReadOnly();
-    void pathIsCompletedFromFoldersAndFiles();
-    void previewIsCentred();
-    void labelsWithNumbersArePlain_data();
-    void labelsWithNumbersArePlain();
     void rangesAreTheOnlyTextsNotTranslated();
     void formHasAContextOfItsOwn();
 };
@@ -191,51 +167,6 @@ void TestUIWPVRDrive2Form::labelsNameTheirFields()
                     "label_7 > m_cbLensType", "m_lbImage > m_leImage" }));
 }
 
-void TestUIWPVRDrive2Form::titlesAndSubtitle()
-{
-    UIWPVRDrive2 page(nullptr);
-    QCOMPARE(page.windowTitle(), QStringLiteral("VR Drive II import plugin"));
-    QCOMPARE(page.QWizardPage::title(), QStringLiteral("VR Drive 2"));
-    const QColor colour = PageDriver(&page).preview()->palette().color(QPalette::WindowText);
-    QCOMPARE(withoutAddress(page.subTitle()), subtitle(colour.name()));
-}
-
-void TestUIWPVRDrive2Form::subtitleFollowsTheTheme()
-{
-    const QPalette before = QApplication::palette();
-    QPalette dark = before;
-    dark.setColor(QPalette::WindowText, QColor(0x12, 0xab, 0xef));
-    QApplication::setPalette(dark);
-    const UIWPVRDrive2 page(nullptr);
-    QApplication::setPalette(before);
-
-    QCOMPARE(withoutAddress(page.subTitle()), subtitle(QStringLiteral("#12abef")));
-}
-
-void TestUIWPVRDrive2Form::pageShowsItsLogo()
-{
-    const QPixmap logo = XuiPixmapHelper::CreateHighDpiPixmap(
-        QStringLiteral(":/7A21C94E-5B20-2020-2020-B662C695C918/Resources/VRDrive2.png"), 255,
-        QSize(-1, -1));
-    QVERIFY(!logo.isNull());
-    QCOMPARE(UIWPVRDrive2(nullptr).pixmap(QWizard::LogoPixmap).toImage(), logo.toImage());
-}
-
-void TestUIWPVRDrive2Form::freshDefaults()
-{
-    const UIWPVRDrive2 page(nullptr);
-    QVERIFY(page.m_rbOutputMode1->isChecked());
-    QVERIFY(!page.m_rbOutputMode2->isChecked());
-    QVERIFY(page.m_rbLevelLinking0->isChecked());
-    QVERIFY(!page.m_rbLevelLinking1->isChecked());
-    QVERIFY(page.m_rbStackLinking0->isChecked());
-    QVERIFY(!page.m_rbStackLinking1->isChecked());
-    QCOMPARE(page.m_autoStart->checkState(), Qt::Checked);
-    QCOMPARE(page.m_cleanLink->checkState(), Qt::Checked); // unlike on the Papywizard page: wanted
-    QCOMPARE(page.m_noOptim->checkState(), Qt::Unchecked);
-    QCOMPARE(page.m_GridOptim->checkState(), Qt::Checked);
-}
-
 void TestUIWPVRDrive2Form::warningIsHidden()
 {
     UIWPVRDrive2 page(nullptr);
@@ -244,41 +175,12 @@ void TestUIWPVRDrive2Form::warningIsHidden()
     QVERIFY(!page.m_lbWarning->isVisible());
 }
 
-void TestUIWPVRDrive2Form::numbersHaveTheirRanges()
-{
-    const UIWPVRDrive2 page(nullptr);
-    QCOMPARE(page.m_spFocal->decimals(), 3);
-    QCOMPARE(page.m_spFocal->minimum(), 1.0);
-    QCOMPARE(page.m_spFocal->maximum(), 10000.0);
-    QCOMPARE(page.m_hSlider->minimum(), 1);
-    QCOMPARE(page.m_hSlider->maximum(), 100);
-    QCOMPARE(page.m_hSlider->value(), 50);
-    QCOMPARE(page.m_hSlider->orientation(), Qt::Horizontal);
-}
-
-void TestUIWPVRDrive2Form::lensTypesStartWithTheFisheye()
-{
-    const UIWPVRDrive2 page(nullptr);
-    QCOMPARE(page.m_cbLensType->count(), 2);
-    QCOMPARE(page.m_cbLensType->itemText(0), QStringLiteral("Standard"));
-    QCOMPARE(page.m_cbLensType->itemText(1), QStringLiteral("Fisheye"));
-    QCOMPARE(page.m_cbLensType->currentIndex(), 1);
-}
-
-void TestUIWPVRDrive2Form::stackChoicesAreAGroupOfTheirOwn()
-{
-    const UIWPVRDrive2 page(nullptr);
-    QVERIFY(page.m_rbStackLinking0->group());
-    QCOMPARE(page.m_rbStackLinking0->group()->buttons().size(), 2);
-    QCOMPARE(page.m_rbStackLinking1->group(), page.m_rbStackLinking0->group());
-    QVERIFY(!page.m_rbLevelLinking0->group());
-    QVERIFY(!page.m_rbLevelLinking1->group());
-}
-
 void TestUIWPVRDrive2Form::outputAndLevelChoicesExcludeEachOtherAlone()
 {
     UIWPVRDrive2 page(nullptr);
     const PageDriver driver(&page);
+    QVERIFY(page.m_rbOutputMode1->isChecked());
+    QVERIFY(!page.m_rbOutputMode2->isChecked());
 
     driver.click("m_rbOutputMode2");
 
@@ -289,65 +191,6 @@ void TestUIWPVRDrive2Form::outputAndLevelChoicesExcludeEachOtherAlone()
     driver.click("m_rbOutputMode1");
     QVERIFY(page.m_rbOutputMode1->isChecked());
     QVERIFY(!page.m_rbOutputMode2->isChecked());
-}
-
-void TestUIWPVRDrive2Form::rotateButtonsShowTheirPictures()
-{
-    const UIWPVRDrive2 page(nullptr);
-    const QString folder = QStringLiteral(":/7A21C94E-5B20-2020-2020-483181480AB7/Resources/");
-    const auto picture = [](const QIcon &icon) { return icon.pixmap(QSize(32, 32)).toImage(); };
-    const QImage left = picture(QIcon(folder + QLatin1String("rot90left.png")));
-    const QImage right = picture(QIcon(folder + QLatin1String("rot90right.png")));
-    QVERIFY(!left.isNull());
-    QVERIFY(left != right);
-    QCOMPARE(picture(page.m_pbRot270->icon()), left);
-    QCOMPARE(picture(page.m_pbRot90->icon()), right);
-}
-
-void TestUIWPVRDrive2Form::photoListIsReadOnly()
-{
-    const UIWPVRDrive2 page(nullptr);
-    QVERIFY(page.m_leImage->isReadOnly());
-    QVERIFY(!page.m_leConfigFile->isReadOnly());
-}
-
-void TestUIWPVRDrive2Form::pathIsCompletedFromFoldersAndFiles()
-{
-    const ShootFolder folder;
-    folder.write(QStringLiteral("shoot.xml"), {});
-    folder.write(QStringLiteral("photo.jpg"), {});
-    folder.write(QStringLiteral("sub/other.xml"), {});
-    const UIWPVRDrive2 page(nullptr);
-
-    QCOMPARE(proposals(*page.m_leConfigFile, folder.path()),
-             list({ "photo.jpg", "shoot.xml", "sub" }));
-}
-
-void TestUIWPVRDrive2Form::previewIsCentred()
-{
-    UIWPVRDrive2 page(nullptr);
-    QVERIFY(page.m_saPreview->widgetResizable());
-    QCOMPARE(page.m_saPreview->alignment(), Qt::Alignment(Qt::AlignCenter));
-    QCOMPARE(PageDriver(&page).preview()->alignment(),
-             Qt::Alignment(Qt::AlignHCenter | Qt::AlignVCenter));
-    QVERIFY(page.groupBox->isAncestorOf(page.m_saPreview));
-    QVERIFY(page.groupBox->isAncestorOf(page.m_hSlider));
-}
-
-void TestUIWPVRDrive2Form::labelsWithNumbersArePlain_data()
-{
-    QTest::addColumn<QString>("name");
-    for (const char *name : { "m_lbPapyLog", "m_lbThetaMinMax", "m_lbPhiMinMax", "m_lbBracket",
-                              "m_lbFocalLength", "m_lbImageLog", "m_lbFocalLengthImage" }) {
-        QTest::newRow(name) << QString::fromLatin1(name);
-    }
-}
-
-void TestUIWPVRDrive2Form::labelsWithNumbersArePlain()
-{
-    QFETCH(QString, name);
-    const UIWPVRDrive2 page(nullptr);
-    QCOMPARE(page.findChild<QLabel *>(name)->textFormat(), Qt::PlainText);
 }
 
 void TestUIWPVRDrive2Form::rangesAreTheOnlyTextsNotTranslated()

@@ -14,8 +14,6 @@ namespace
 
 using Spp = StructuredPanoramaProperties;
 
-const QString kAllFiles = QStringLiteral("All Files (*.*)");
-
 template <typename Page> HeadPage newPageWithShots()
 {
     auto *page = new Page(nullptr);
@@ -93,7 +91,8 @@ Head newPapywizard()
     head.record = &xmlRow;
     head.recordOf = &xmlOf;
     head.fullRecord = fullXml();
-    head.recordFilters = QStringList{ kAllFiles, QStringLiteral("XML files (*.xml)") };
+    head.recordFilters
+        = QStringList{ QStringLiteral("All Files (*.*)"), QStringLiteral("XML files (*.xml)") };
     head.countLabel = "m_lbImageLog";
     head.countText = QStringLiteral("%1");
     head.freshTexts
@@ -153,7 +152,7 @@ Head newClauss()
     head.record = &scriptRow;
     head.recordOf = &scriptOf;
     head.fullRecord = scriptRow(3);
-    head.recordFilters = QStringList{ kAllFiles };
+    head.recordFilters = QStringList{ QStringLiteral("All Files (*.*)") };
     head.countLabel = "m_lbImageLog";
     head.countText = QStringLiteral("%1");
     head.freshTexts
