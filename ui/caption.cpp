@@ -34,8 +34,9 @@ QRectF roomIn(const PreviewCell &cell)
 
 } // namespace
 
-Caption::Caption(const PreviewCell &cell, const QFont &font)
-    : m_room(roomIn(cell))
+Caption::Caption(const PreviewCell &cell, const QFont &font, LetterCase *letterCase)
+    : m_letterCase(letterCase)
+    , m_room(roomIn(cell))
 {
     QTextLayout text(textIn(cell), font);
     text.setCacheEnabled(true); // or the glyphs would be shaped again when they are asked for
@@ -54,7 +55,15 @@ Caption::Caption(const PreviewCell &cell, const QFont &font)
     m_lines = QRectF(m_room.topLeft(), QSizeF(width, height));
     m_reach = m_lines.toAlignedRect().adjusted(-kOverhang, -kOverhang, kOverhang, kOverhang);
     m_seen = m_room.contains(m_lines) ? m_reach : m_reach & m_room.toAlignedRect();
-    for (const QGlyphRun &run : text.glyphRuns()) {
+    const QList<QGlyphRun> runs = text.glyphRuns();
+    const auto isTaken = [&](const QGlyphRun &run) {
+        return letterCase != nullptr && letterCase->take(run, m_room.topLeft(), &m_letters);
+    };
+    if (std::all_of(runs.cbegin(), runs.cend(), isTaken)) {
+        return;
+    }
+    m_letters.clear();
+    for (const QGlyphRun &run : runs) {
         const QRawFont raw = run.rawFont();
         m_runs.push_back({ run, run.glyphIndexes(), run.positions(), raw.ascent(), raw.descent(),
                            raw.pixelSize() });
@@ -81,14 +90,24 @@ void Caption::Run::draw(QPainter &painter, const QPointF &origin, const QRectF &
     }
 }
 
-void Caption::draw(QPainter &painter, const QRect &clip, const CaptionColours &colours)
+void Caption::draw(const Patch &patch, const CaptionColours &colours)
 {
     if (colours.ground.style() != Qt::NoBrush) {
-        painter.fillRect(m_lines & m_room, colours.ground);
+        patch.painter.fillRect(m_lines & m_room, colours.ground);
     }
+    if (m_letters.empty()) {
+        drawRuns(patch, colours);
+    } else {
+        m_letterCase->draw(patch.image, patch.rect & m_seen, m_letters);
+    }
+}
+
+void Caption::drawRuns(const Patch &patch, const CaptionColours &colours)
+{
+    QPainter &painter = patch.painter;
     painter.setPen(colours.text);
-    const QRect seen = clip & m_seen;
-    const bool isCut = seen != (clip & m_reach);
+    const QRect seen = patch.rect & m_seen;
+    const bool isCut = seen != (patch.rect & m_reach);
     if (isCut) {
         painter.setClipRect(seen);
     }
@@ -96,22 +115,8 @@ void Caption::draw(QPainter &painter, const QRect &clip, const CaptionColours &c
         run.draw(painter, m_room.topLeft(), QRectF(seen).translated(-m_room.topLeft()));
     }
     if (isCut) {
-        painter.setClipRect(clip);
+        painter.setClipRect(patch.rect);
     }
-}
-
-void Caption::drawOnce(QPainter &painter, const PreviewCell &cell, const CaptionColours &colours)
-{
-    const QRectF room = roomIn(cell);
-    const QString text = textIn(cell);
-    if (colours.ground.style() != Qt::NoBrush) {
-        const QRectF ground = painter.boundingRect(room, text, QTextOption());
-        painter.fillRect(ground & room, colours.ground);
-    }
-    const QPen outline = painter.pen();
-    painter.setPen(colours.text);
-    painter.drawText(room, text);
-    painter.setPen(outline);
 }
 
 } // namespace PanoHead

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ui/lettercase.h"
+
 #include <QBrush>
 #include <QGlyphRun>
 #include <QPen>
@@ -12,6 +14,7 @@
 #include <vector>
 
 class QFont;
+class QImage;
 class QPainter;
 
 namespace PanoHead
@@ -30,6 +33,13 @@ struct CaptionColours {
     }
 };
 
+/** A part of a picture that is drawn anew; the painter is cut to it. */
+struct Patch {
+    QImage &image; ///< that the painter draws on
+    QPainter &painter;
+    QRect rect;
+};
+
 /**
  * The number and the angles in a cell, laid out once and drawn many times, with the pixels of the
  * painter's own function for texts.
@@ -37,15 +47,13 @@ struct CaptionColours {
 class Caption
 {
 public:
-    Caption(const PreviewCell &cell, const QFont &font);
+    /** The case outlives the caption and holds its colour; without one the painter draws. */
+    Caption(const PreviewCell &cell, const QFont &font, LetterCase *letterCase);
 
-    /** Draws what lies in \p clip, to which \p painter is cut already. */
-    void draw(QPainter &painter, const QRect &clip, const CaptionColours &colours);
+    /** Draws what lies in \p patch, whose image is opaque if there is a case. */
+    void draw(const Patch &patch, const CaptionColours &colours);
     /** Pixels that are drawn, and perhaps some around them. */
     [[nodiscard]] QRect rect() const { return m_reach; }
-
-    /** Lays the caption of \p cell out and draws all of it, in the painter's font. */
-    static void drawOnce(QPainter &painter, const PreviewCell &cell, const CaptionColours &colours);
 
 private:
     /** Glyphs of one font, line by line. */
@@ -60,7 +68,11 @@ private:
         void draw(QPainter &painter, const QPointF &origin, const QRectF &seen);
     };
 
-    std::vector<Run> m_runs;
+    void drawRuns(const Patch &patch, const CaptionColours &colours);
+
+    const LetterCase *m_letterCase;
+    std::vector<PlacedLetter> m_letters; // all of the caption, or none
+    std::vector<Run> m_runs; // all of the caption, when there are no letters
     QRectF m_room; // in the cell
     QRectF m_lines; // what the lines take up
     QRect m_reach; // the lines and some pixels around them

@@ -78,13 +78,13 @@ void PreviewCanvas::clear()
     m_isValid = false;
     m_image = QImage();
     m_scene = PreviewScene();
-    m_painter.reset(0);
+    m_painter.reset(0, {});
 }
 
 void PreviewCanvas::redraw()
 {
     m_isValid = false;
-    m_painter.reset(0);
+    m_painter.reset(0, {});
     // The old picture goes first: both together could be half a gigabyte.
     m_image = QImage();
     if (m_scene.layout.isEmpty()) {
@@ -98,12 +98,17 @@ void PreviewCanvas::redraw()
         if (m_image.isNull()) {
             return;
         }
-        m_painter.reset(m_image.sizeInBytes() / kKeptPart);
+        const bool isOpaque
+            = !m_image.hasAlphaChannel() && m_colours.caption.text.brush().isOpaque();
+        m_painter.reset(m_image.sizeInBytes() / kKeptPart,
+                        isOpaque ? std::make_optional(m_colours.caption.text.color().rgb())
+                                 : std::nullopt);
         indexCells();
         QPainter painter(&m_image);
         fillBackground(painter);
-        for (const PreviewCell &cell : qAsConst(m_scene.layout.cells)) {
-            CellPainter::draw(painter, m_scene, cell, m_colours.caption);
+        const Patch whole{ m_image, painter, m_image.rect() };
+        for (int cell = 0; cell < m_scene.layout.cells.size(); ++cell) {
+            m_painter.draw(whole, m_scene, cell, m_colours.caption);
         }
         m_isValid = true;
     } catch (const std::bad_alloc &) {
@@ -145,7 +150,8 @@ void PreviewCanvas::patchRect(QPainter &painter, const QRect &rect)
         fillBackground(painter);
     }
     for (auto cell = seen.crbegin(); cell != seen.crend(); ++cell) {
-        m_painter.drawParts(painter, rect, m_scene, cell->first, cell->second, m_colours.caption);
+        m_painter.drawParts({ m_image, painter, rect }, m_scene, cell->first, cell->second,
+                            m_colours.caption);
     }
 }
 

@@ -18,7 +18,6 @@ namespace PanoHead
 namespace
 {
 
-constexpr Qt::GlobalColor kOutline = Qt::black; // of the painter's default pen
 constexpr int kSpill = 2; // outlines and rounding around a cell, pixels
 constexpr qint64 kCaptionBytes = 768; // about
 // Kept in any case, in bytes: a handful of tiles and the captions around them.
@@ -38,28 +37,39 @@ QPixmap turned(const QPixmap &thumbnail, const PreviewCell &cell)
     return withPixels(thumbnail.transformed(QTransform().rotate(static_cast<qreal>(cell.roll))));
 }
 
+void fillOpaque(const Patch &patch, const QRect &rect, QRgb colour)
+{
+    const QRect seen = rect & patch.rect;
+    uchar *bits = patch.image.bits();
+    for (int y = seen.top(); y <= seen.bottom(); ++y) {
+        auto *line = reinterpret_cast<QRgb *>(bits + qint64{ y } * patch.image.bytesPerLine());
+        std::fill_n(line + seen.left(), seen.width(), colour);
+    }
+}
+
 /**
  * The lines that the painter strokes around \p box with its default pen, filled: they cover the
  * pixels that hold the box's sides. Strokes of tiny boxes have other ends, and places left of or
  * above the picture are rounded the other way.
  */
-void drawOutline(QPainter &painter, const QRectF &box)
+void drawOutline(const Patch &patch, const QRectF &box)
 {
     constexpr qreal kLeastSide = 2.0;
+    constexpr QRgb kBlack = 0xff000000;
     if (box.width() < kLeastSide || box.height() < kLeastSide || box.left() < 0.0
         || box.top() < 0.0) {
-        painter.setPen(QPen());
-        painter.drawRect(box);
+        patch.painter.setPen(QPen());
+        patch.painter.drawRect(box);
         return;
     }
     const QRect frame(
         QPoint(static_cast<int>(std::floor(box.left())), static_cast<int>(std::floor(box.top()))),
         QPoint(static_cast<int>(std::floor(box.right())),
                static_cast<int>(std::floor(box.bottom()))));
-    painter.fillRect(QRect(frame.left(), frame.top(), frame.width(), 1), kOutline);
-    painter.fillRect(QRect(frame.left(), frame.bottom(), frame.width(), 1), kOutline);
-    painter.fillRect(QRect(frame.left(), frame.top(), 1, frame.height()), kOutline);
-    painter.fillRect(QRect(frame.right(), frame.top(), 1, frame.height()), kOutline);
+    fillOpaque(patch, QRect(frame.left(), frame.top(), frame.width(), 1), kBlack);
+    fillOpaque(patch, QRect(frame.left(), frame.bottom(), frame.width(), 1), kBlack);
+    fillOpaque(patch, QRect(frame.left(), frame.top(), 1, frame.height()), kBlack);
+    fillOpaque(patch, QRect(frame.right(), frame.top(), 1, frame.height()), kBlack);
 }
 
 template <typename Kept>
@@ -92,37 +102,40 @@ QRect photoRect(CellStyle style, const PreviewCell &cell, const QSize &size)
                                              : cell.box.toRect();
 }
 
-void CellPainter::reset(qint64 bytes)
+void CellPainter::reset(qint64 bytes, std::optional<QRgb> textColour)
 {
     m_tiles.clear();
     m_captions.clear();
     m_looseTile.reset();
     m_looseCaption.reset();
+    m_letterCase.reset();
+    if (textColour) {
+        m_letterCase.emplace(*textColour);
+    }
     m_tiles.setMaxCost(kTileBytes);
     m_captions.setMaxCost(static_cast<int>(std::max(kLeastCaptions, bytes / 2)));
 }
 
-void CellPainter::draw(QPainter &painter, const PreviewScene &scene, const PreviewCell &cell,
+void CellPainter::draw(const Patch &patch, const PreviewScene &scene, int cell,
                        const CaptionColours &caption)
 {
+    const PreviewCell &drawn = scene.layout.cells.at(cell);
     const bool isFitted = scene.style == CellStyle::FittedWithCaption;
-    if (const QPixmap *thumbnail = thumbnailOf(scene, cell)) {
+    if (const QPixmap *thumbnail = thumbnailOf(scene, drawn)) {
         if (isFitted) {
-            const QPixmap photo = turned(*thumbnail, cell);
-            painter.drawPixmap(cell.box, photo, QRectF(photo.rect()));
+            const QPixmap photo = turned(*thumbnail, drawn);
+            patch.painter.drawPixmap(drawn.box, photo, QRectF(photo.rect()));
         } else {
-            painter.drawPixmap(cell.box.topLeft(), *thumbnail);
+            patch.painter.drawPixmap(drawn.box.topLeft(), *thumbnail);
         }
     }
-    painter.drawRect(cell.box);
-    if (isFitted) {
-        Caption::drawOnce(painter, cell, caption);
-    }
+    drawParts(patch, scene, cell, { false, true, isFitted }, caption);
 }
 
-void CellPainter::drawParts(QPainter &painter, const QRect &clip, const PreviewScene &scene,
-                            int cell, const CellParts &parts, const CaptionColours &caption)
+void CellPainter::drawParts(const Patch &patch, const PreviewScene &scene, int cell,
+                            const CellParts &parts, const CaptionColours &caption)
 {
+    QPainter &painter = patch.painter;
     const PreviewCell &drawn = scene.layout.cells.at(cell);
     const QPixmap *thumbnail = parts.photo ? thumbnailOf(scene, drawn) : nullptr;
     if (thumbnail != nullptr && scene.style == CellStyle::UnscaledPhoto) {
@@ -132,10 +145,10 @@ void CellPainter::drawParts(QPainter &painter, const QRect &clip, const PreviewS
         painter.drawImage(tile.position, tile.image);
     }
     if (parts.outline) {
-        drawOutline(painter, drawn.box);
+        drawOutline(patch, drawn.box);
     }
     if (parts.caption) {
-        captionFor(drawn, cell, painter.font()).draw(painter, clip, caption);
+        captionFor(drawn, cell, painter.font()).draw(patch, caption);
     }
 }
 
@@ -225,7 +238,8 @@ Caption &CellPainter::captionFor(const PreviewCell &cell, int number, const QFon
     if (Caption *kept = m_captions.object(number)) {
         return *kept;
     }
-    return keep(m_captions, m_looseCaption, number, std::make_unique<Caption>(cell, font),
+    return keep(m_captions, m_looseCaption, number,
+                std::make_unique<Caption>(cell, font, m_letterCase ? &*m_letterCase : nullptr),
                 kCaptionBytes);
 }
 

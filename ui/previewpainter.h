@@ -12,6 +12,7 @@
 #include <QSize>
 
 #include <memory>
+#include <optional>
 
 class QPainter;
 class QPixmap;
@@ -52,18 +53,18 @@ struct CellParts {
 class CellPainter
 {
 public:
-    /** Draws all of \p cell. Without a clip: a thumbnail scaled under one has other pixels. */
-    static void draw(QPainter &painter, const PreviewScene &scene, const PreviewCell &cell,
-                     const CaptionColours &caption);
+    /** Draws all of cell number \p cell. The patch is the whole picture: a thumbnail scaled under a
+     * clip has other pixels. */
+    void draw(const Patch &patch, const PreviewScene &scene, int cell,
+              const CaptionColours &caption);
 
     /**
-     * Draws \p parts of cell number \p cell with the pixels of `draw`, cut to \p clip, which the
-     * painter has been given already. A thumbnail
-     * is first scaled into a tile of its own: copying that gives the same pixels under any clip.
-     * Tiles and captions with their lines broken are kept for the neighbours' next redraw.
+     * Draws \p parts of cell number \p cell with the pixels of `draw`. A thumbnail is first scaled
+     * into a tile of its own: copying that gives the same pixels under any clip. Tiles and captions
+     * with their lines broken are kept for the neighbours' next redraw.
      */
-    void drawParts(QPainter &painter, const QRect &clip, const PreviewScene &scene, int cell,
-                   const CellParts &parts, const CaptionColours &caption);
+    void drawParts(const Patch &patch, const PreviewScene &scene, int cell, const CellParts &parts,
+                   const CaptionColours &caption);
     /** The parts of cell number \p cell that may reach into \p rect, in the painter's font. */
     [[nodiscard]] CellParts partsIn(const QRect &rect, const PreviewScene &scene, int cell,
                                     const QPainter &painter);
@@ -72,8 +73,9 @@ public:
 
     /** The photo of cell number \p cell has changed. */
     void forgetPhoto(int cell) { m_tiles.remove(cell); }
-    /** Everything has changed. At most about \p bytes are kept from now on. */
-    void reset(qint64 bytes);
+    /** Everything has changed. At most about \p bytes are kept from now on, and no letters unless
+     * the picture is opaque and they are too: then they have this \p textColour. */
+    void reset(qint64 bytes, std::optional<QRgb> textColour);
 
 private:
     /** A thumbnail made ready to be copied pixel by pixel. */
@@ -88,6 +90,7 @@ private:
     Tile &tileFor(const QPixmap &thumbnail, const PreviewCell &cell, int number);
     Caption &captionFor(const PreviewCell &cell, int number, const QFont &font);
 
+    std::optional<LetterCase> m_letterCase; // of the captions
     QCache<int, Tile> m_tiles{ 0 }; // by cell, cost in bytes
     QCache<int, Caption> m_captions{ 0 }; // by cell, cost in bytes
     // The last ones made, when they are too large to be kept.
