@@ -97,6 +97,7 @@ std::optional<Letter> readLetter(const QImage &picture, const QPoint &stand, QRg
             setPixel(&piece, pixel.x() - piece.x, colour, static_cast<uchar>(255 - light));
         }
     }
+    letter.pieces.shrink_to_fit();
     return letter;
 }
 

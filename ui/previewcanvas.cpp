@@ -14,6 +14,7 @@ namespace
 {
 
 constexpr int kBucketSide = 128; // pixels
+constexpr int kStripRows = 32;
 constexpr int kSpill = 2; // outlines and rounding around a cell, pixels
 // When more than this part of the cells changes, one redraw is cheaper than many patches.
 constexpr int kWorthPatching = 4;
@@ -104,11 +105,11 @@ void PreviewCanvas::redraw()
                         isOpaque ? std::make_optional(m_colours.caption.text.color().rgb())
                                  : std::nullopt);
         indexCells();
-        QPainter painter(&m_image);
-        fillBackground(painter);
-        const Patch whole{ m_image, painter, m_image.rect() };
-        for (int cell = 0; cell < m_scene.layout.cells.size(); ++cell) {
-            m_painter.draw(whole, m_scene, cell, m_colours.caption);
+        // Scaled photos and captions are best drawn at once, large grids as they are looked at.
+        const bool isDrawnAtOnce = m_scene.style == CellStyle::FittedWithCaption;
+        m_isDrawn.assign(m_image.height() / kStripRows + 1, isDrawnAtOnce);
+        if (isDrawnAtOnce) {
+            drawAll();
         }
         m_isValid = true;
     } catch (const std::bad_alloc &) {
@@ -116,13 +117,41 @@ void PreviewCanvas::redraw()
     }
 }
 
+void PreviewCanvas::drawAll()
+{
+    QPainter painter(&m_image);
+    fillBackground(painter);
+    const Patch whole{ m_image, painter, m_image.rect() };
+    for (int cell = 0; cell < m_scene.layout.cells.size(); ++cell) {
+        m_painter.draw(whole, m_scene, cell, m_colours.caption);
+    }
+}
+
+const QImage &PreviewCanvas::imageIn(const QRect &rect)
+{
+    const QRect wanted = rect & m_image.rect();
+    if (wanted.isEmpty()) {
+        return m_image;
+    }
+    for (int strip = wanted.top() / kStripRows; strip <= wanted.bottom() / kStripRows; ++strip) {
+        if (!m_isDrawn[strip]) {
+            QPainter painter(&m_image);
+            const QRect rows(0, strip * kStripRows, m_image.width(), kStripRows);
+            patchRect({ m_image, painter, rows & m_image.rect() });
+            m_isDrawn[strip] = true;
+        }
+    }
+    return m_image;
+}
+
 void PreviewCanvas::patch(const QRegion &region)
 {
     m_isValid = false;
     try {
+        (void)imageIn(region.boundingRect());
         QPainter painter(&m_image);
         for (const QRect &rect : region) {
-            patchRect(painter, rect);
+            patchRect({ m_image, painter, rect });
         }
         m_isValid = true;
     } catch (const std::bad_alloc &) {
@@ -131,8 +160,10 @@ void PreviewCanvas::patch(const QRegion &region)
 }
 
 /** Looks from the last cell down for what is not hidden, then draws it from the first one up. */
-void PreviewCanvas::patchRect(QPainter &painter, const QRect &rect)
+void PreviewCanvas::patchRect(const Patch &patch)
 {
+    const QRect &rect = patch.rect;
+    QPainter &painter = patch.painter;
     painter.setClipRect(rect);
     QRegion open(rect);
     std::vector<std::pair<int, CellParts>> seen;
@@ -150,8 +181,7 @@ void PreviewCanvas::patchRect(QPainter &painter, const QRect &rect)
         fillBackground(painter);
     }
     for (auto cell = seen.crbegin(); cell != seen.crend(); ++cell) {
-        m_painter.drawParts({ m_image, painter, rect }, m_scene, cell->first, cell->second,
-                            m_colours.caption);
+        m_painter.drawParts(patch, m_scene, cell->first, cell->second, m_colours.caption);
     }
 }
 

@@ -53,13 +53,19 @@ public:
     /** The photos drawn so far may be gone; another one may even have the same address. */
     void forgetPhotos();
 
-    /** Null when there is nothing to show. */
-    [[nodiscard]] const QImage &image() const { return m_image; }
+    [[nodiscard]] bool isNull() const { return m_image.isNull(); }
+    [[nodiscard]] QSize size() const { return m_image.size(); }
+    /** The picture, drawn at least in \p rect; null when there is nothing to show. Parts of grids
+     * are drawn when they are first asked for. Throws std::bad_alloc. */
+    [[nodiscard]] const QImage &imageIn(const QRect &rect);
+    /** All of the picture. Throws std::bad_alloc. */
+    [[nodiscard]] const QImage &image() { return imageIn(m_image.rect()); }
 
 private:
     void redraw();
+    void drawAll();
     void patch(const QRegion &region);
-    void patchRect(QPainter &painter, const QRect &rect);
+    void patchRect(const Patch &patch);
     void indexCells();
     void notePhoto(int cell);
     [[nodiscard]] std::vector<int> changedCells(const PreviewScene &scene) const;
@@ -72,6 +78,7 @@ private:
     PreviewScene m_scene;
     PreviewColours m_colours;
     QImage m_image;
+    std::vector<bool> m_isDrawn; // strips of kStripRows rows
     CellPainter m_painter;
     QSize m_largestBox; // of all cells, with their outlines
     QSize m_largestPhoto; // of all unscaled ones drawn so far

@@ -4,17 +4,24 @@
 
 #include "ui/pixels.h"
 
+#include <QElapsedTimer>
 #include <QEvent>
+#include <QPainter>
 #include <QResizeEvent>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStyle>
+
+#include <algorithm>
+#include <limits>
 
 namespace PanoHead
 {
 
 namespace
 {
+
+constexpr qint64 kMostAtOnce = 8'000'000; // pixels of the unscaled picture; some 20 milliseconds
 
 /** Moves \p bar so that what was in the middle of \p before pixels is so in \p after pixels. */
 void keepMiddle(QScrollBar *bar, int before, int after)
@@ -55,7 +62,7 @@ void PreviewLabel::showScene(const PreviewScene &scene, int zoomPercent)
         setPixmap(QPixmap());
     }
     m_canvas.update(scene, wanted, change);
-    if (showsAll || m_canvas.image().isNull()) {
+    if (showsAll || m_canvas.isNull()) {
         showAll();
     } else {
         showPart(change.region);
@@ -75,6 +82,8 @@ void PreviewLabel::prepareScene(const PreviewScene &scene)
 void PreviewLabel::showNothing()
 {
     clear();
+    m_timer.stop();
+    m_missing = QRegion();
     m_scene = PreviewScene();
     m_canvas.clear();
     m_zoomed.forget();
@@ -88,6 +97,15 @@ void PreviewLabel::forgetPhotos()
 
 void PreviewLabel::showAll()
 {
+    m_timer.stop();
+    m_missing = QRegion();
+    const bool isLarge = qint64{ m_canvas.size().width() } * m_canvas.size().height() > kMostAtOnce;
+    if (isLarge && m_scene.style == CellStyle::UnscaledPhoto && m_zoomPercent < 100) {
+        setPixmap(withPixels(QPixmap(m_zoomed.begin(m_canvas.size(), m_zoomPercent))));
+        m_missing = QRect(QPoint(), m_canvas.size());
+        m_timer.start(0, this);
+        return;
+    }
     const QImage copy = m_zoomed.make(m_canvas.image(), m_zoomPercent);
     setPixmap(copy.isNull() ? QPixmap()
                             : withPixels(QPixmap::fromImage(copy, Qt::NoOpaqueDetection)));
@@ -100,10 +118,73 @@ void PreviewLabel::showPart(const QRegion &region)
     if (shown == nullptr || shown->isNull()) {
         return;
     }
-    const QRegion patched = m_zoomed.patch(shown, m_canvas.image(), region);
-    const QRect place
-        = QStyle::alignedRect(layoutDirection(), alignment(), shown->size(), contentsRect());
-    update(patched.translated(place.topLeft()));
+    const QImage &picture = m_canvas.imageIn(region.boundingRect());
+    const QRegion patched = m_zoomed.patch(shown, picture, region);
+    update(patched.translated(place().topLeft()));
+}
+
+void PreviewLabel::timerEvent(QTimerEvent *event)
+{
+    if (event->timerId() != m_timer.timerId()) {
+        QLabel::timerEvent(event);
+        return;
+    }
+    withinMemory([this] { showMissing(); });
+}
+
+/** Shows what is missing, for some milliseconds. */
+void PreviewLabel::showMissing()
+{
+    constexpr int kMilliseconds = 1;
+    QElapsedTimer time;
+    time.start();
+    while (!m_missing.isEmpty() && !time.hasExpired(kMilliseconds)) {
+        const QRect part = nextMissing();
+        m_missing -= part;
+        showPart(part);
+    }
+    if (m_missing.isEmpty()) {
+        m_timer.stop();
+    }
+}
+
+/** Some of the missing rows, those nearest to the middle of what is seen. */
+QRect PreviewLabel::nextMissing() const
+{
+    constexpr int kRows = 32;
+    const QRect seen = visibleRegion().boundingRect();
+    const int middle = seen.isEmpty() ? m_canvas.size().height() / 2
+                                      : (seen.center().y() - place().top()) * 100 / m_zoomPercent;
+    QRect nearest;
+    int least = std::numeric_limits<int>::max();
+    for (const QRect &rect : m_missing) {
+        const int distance = std::max({ rect.top() - middle, middle - rect.bottom(), 0 });
+        if (distance < least) {
+            least = distance;
+            const int top = std::max(rect.top(), std::min(middle, rect.bottom() - kRows + 1));
+            nearest = QRect(rect.left(), top, rect.width(), kRows) & rect;
+        }
+    }
+    return nearest;
+}
+
+/** An incomplete picture has no pixels yet where something is missing. */
+void PreviewLabel::paintEvent(QPaintEvent *event)
+{
+    QLabel::paintEvent(event);
+    QPainter painter(this);
+    for (const QRect &rect : m_missing) {
+        const int top = rect.top() * m_zoomPercent / 100;
+        const int bottom = (rect.bottom() + 1) * m_zoomPercent / 100;
+        painter.fillRect(QRect(place().left(), place().top() + top, place().width(), bottom - top),
+                         colours(m_scene.style).background);
+    }
+}
+
+/** Where the picture stands on the label. */
+QRect PreviewLabel::place() const
+{
+    return QStyle::alignedRect(layoutDirection(), alignment(), ownPixmap()->size(), contentsRect());
 }
 
 /** The label keeps the only reference to it, so that drawing on it copies nothing. */

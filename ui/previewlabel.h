@@ -5,7 +5,9 @@
 #include "ui/previewcanvas.h"
 #include "ui/zoomedcopy.h"
 
+#include <QBasicTimer>
 #include <QLabel>
+#include <QRegion>
 
 #include <new>
 
@@ -15,7 +17,8 @@ namespace PanoHead
 /**
  * Shows a shoot's layout picture at the page's zoom, on the label's window colour or, for grids, on
  * light grey. Redraws what has changed since the last call; everything when fonts or colours
- * change.
+ * change. A large grid, which a first photo can enlarge, is brought to show in steps of some
+ * milliseconds from the event loop, first what the user sees; until then it is empty.
  */
 class PreviewLabel : public QLabel
 {
@@ -40,9 +43,13 @@ public:
     }
     /** The photos shown may be gone before the next call. */
     void forgetPhotos();
+    /** All of the picture is there. */
+    [[nodiscard]] bool isComplete() const { return m_missing.isEmpty(); }
 
 protected:
     void changeEvent(QEvent *event) override;
+    void timerEvent(QTimerEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     /** The middle of the picture stays in the middle of the scroll area; it starts there. */
     void resizeEvent(QResizeEvent *event) override;
 
@@ -51,12 +58,17 @@ private:
     [[nodiscard]] PreviewColours colours(CellStyle style) const;
     void showAll();
     void showPart(const QRegion &region);
+    void showMissing();
+    [[nodiscard]] QRect nextMissing() const;
+    [[nodiscard]] QRect place() const;
     [[nodiscard]] QPixmap *ownPixmap() const;
 
     PreviewScene m_scene;
     int m_zoomPercent = 100;
     PreviewCanvas m_canvas;
     ZoomedCopy m_zoomed;
+    QRegion m_missing; // of the unscaled picture, not yet shown
+    QBasicTimer m_timer; // runs while something is missing
 };
 
 } // namespace PanoHead

@@ -92,7 +92,8 @@ const QPixmap *thumbnailOf(const PreviewScene &scene, const PreviewCell &cell)
     if (cell.image < 0 || cell.image >= scene.images.size()) {
         return nullptr;
     }
-    const QPixmap *thumbnail = scene.images.at(cell.image)->Thumbnail();
+    XIImageDef *photo = scene.images.at(cell.image);
+    const QPixmap *thumbnail = photo == nullptr ? nullptr : photo->Thumbnail();
     return thumbnail == nullptr || thumbnail->isNull() ? nullptr : thumbnail;
 }
 

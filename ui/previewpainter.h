@@ -30,7 +30,9 @@ enum class CellStyle {
 /** A layout picture to draw. */
 struct PreviewScene {
     PreviewLayout layout;
-    QList<XIImageDef *> images; ///< photos by preview index; a cell without its photo is an outline
+    /** Photos by preview index; null for one that is gone. A cell without its photo is an outline.
+     */
+    QList<XIImageDef *> images;
     CellStyle style = CellStyle::FittedWithCaption;
 };
 

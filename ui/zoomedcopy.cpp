@@ -52,15 +52,22 @@ std::pair<int, int> placesFrom(const std::vector<int> &table, int first, int las
 
 QImage ZoomedCopy::make(const QImage &original, int percent)
 {
+    const QSize size = begin(original.size(), percent);
+    return size.isEmpty()
+        ? QImage()
+        : withPixels(original.scaled(size, Qt::IgnoreAspectRatio, Qt::FastTransformation));
+}
+
+QSize ZoomedCopy::begin(const QSize &originalSize, int percent)
+{
     forget();
     m_percent = percent;
-    const QSize size(zoomed(original.width(), percent), zoomed(original.height(), percent));
-    if (size.isEmpty()) {
-        return {};
+    const QSize size(zoomed(originalSize.width(), percent), zoomed(originalSize.height(), percent));
+    if (!size.isEmpty()) {
+        m_sourceColumns = sourceTable(originalSize.width(), size.width(), Qt::Horizontal);
+        m_sourceRows = sourceTable(originalSize.height(), size.height(), Qt::Vertical);
     }
-    m_sourceColumns = sourceTable(original.width(), size.width(), Qt::Horizontal);
-    m_sourceRows = sourceTable(original.height(), size.height(), Qt::Vertical);
-    return withPixels(original.scaled(size, Qt::IgnoreAspectRatio, Qt::FastTransformation));
+    return size;
 }
 
 QRegion ZoomedCopy::patch(QPixmap *copy, const QImage &original, const QRegion &region) const

@@ -4,6 +4,7 @@
 
 #include <QImage>
 #include <QRegion>
+#include <QSize>
 
 #include <vector>
 
@@ -22,9 +23,13 @@ public:
     /** A copy of \p original; null when a side would have less than one pixel. Throws
      * std::bad_alloc. */
     [[nodiscard]] QImage make(const QImage &original, int percent);
+    /** Answers the size of a copy that is all to be patched, of a picture of \p originalSize; may
+     * be empty. Throws std::bad_alloc. */
+    [[nodiscard]] QSize begin(const QSize &originalSize, int percent);
     /**
      * Copies the pixels that come from \p region of \p original again, onto \p copy, which `make`
-     * made of a picture of the same size. Answers the pixels copied. Throws std::bad_alloc.
+     * or `begin` has made of a picture of the same size. Answers the pixels copied. Throws
+     * std::bad_alloc.
      */
     QRegion patch(QPixmap *copy, const QImage &original, const QRegion &region) const;
     /** No copy is known any more. */

@@ -78,6 +78,14 @@ struct Shoot {
     std::vector<std::unique_ptr<Photo>> photos;
 };
 
+/** A grid whose canvas has ten million pixels. */
+Shoot largeGrid()
+{
+    Shoot grid(40, 25, 100, 1000);
+    grid.scene.style = CellStyle::UnscaledPhoto;
+    return grid;
+}
+
 QImage shownBy(const QLabel &label)
 {
     return label.pixmap(Qt::ReturnByValue).toImage();
@@ -112,6 +120,13 @@ private Q_SLOTS:
     void takenPixmapKeepsItsPicture();
     void changeOutOfSightIsNotPainted();
     void sameSceneKeepsThePixmap();
+    void largeGridIsShownInSteps();
+    void photosMayComeBeforeALargeGridIsComplete();
+    void zoomMayChangeBeforeALargeGridIsComplete();
+    void photosMayGoBeforeALargeGridIsComplete();
+    void largeGridIsEmptyUntilItIsShown();
+    void largeGridAppearsFirstWhereItIsSeen();
+    void largeGridIsShownAtOnceAtFullZoom();
     void updatesAllocateNoFurtherPicture_data();
     void updatesAllocateNoFurtherPicture();
 };
@@ -364,6 +379,120 @@ void TestPreviewLabel::sameSceneKeepsThePixmap()
     const qint64 key = label.pixmap(Qt::ReturnByValue).cacheKey();
     label.showScene(shoot.with(36), 50);
     QCOMPARE(label.pixmap(Qt::ReturnByValue).cacheKey(), key);
+}
+
+void TestPreviewLabel::largeGridIsShownInSteps()
+{
+    const Shoot grid = largeGrid();
+    PreviewLabel label;
+    label.showScene(grid.with(7), 50);
+    QCOMPARE(label.pixmap(Qt::ReturnByValue).size(), QSize(2000, 1250));
+    QVERIFY(!label.isComplete());
+    QTRY_VERIFY(label.isComplete());
+    QCOMPARE(differenceFrom(label, grid.with(7), 50), QString());
+    // From now on it follows the photos at once.
+    label.showScene(grid.with(17), 50);
+    QVERIFY(label.isComplete());
+    QCOMPARE(differenceFrom(label, grid.with(17), 50), QString());
+}
+
+void TestPreviewLabel::photosMayComeBeforeALargeGridIsComplete()
+{
+    const Shoot grid = largeGrid();
+    PreviewLabel label;
+    label.showScene(grid.with(1), 50);
+    // The first rows, the middle and the last ones.
+    for (const int count : { 20, 400, 530, 600, 840, 1000 }) {
+        QVERIFY(!label.isComplete());
+        label.showScene(grid.with(count), 50);
+        QCoreApplication::processEvents();
+    }
+    QTRY_VERIFY(label.isComplete());
+    QCOMPARE(differenceFrom(label, grid.with(1000), 50), QString());
+}
+
+void TestPreviewLabel::zoomMayChangeBeforeALargeGridIsComplete()
+{
+    const Shoot grid = largeGrid();
+    PreviewLabel label;
+    for (const int zoom : { 50, 90, 35 }) {
+        label.showScene(grid.with(12), zoom);
+        QCoreApplication::processEvents();
+        QVERIFY(!label.isComplete());
+    }
+    QTRY_VERIFY(label.isComplete());
+    QCOMPARE(differenceFrom(label, grid.with(12), 35), QString());
+}
+
+void TestPreviewLabel::photosMayGoBeforeALargeGridIsComplete()
+{
+    PreviewLabel label;
+    PreviewScene outlines;
+    {
+        Shoot grid = largeGrid();
+        outlines = grid.with(0);
+        label.showScene(grid.with(100), 50);
+        QVERIFY(!label.isComplete());
+        label.forgetPhotos();
+    }
+    QTRY_VERIFY(label.isComplete());
+    // Nothing had been drawn when the photos went.
+    QCOMPARE(differenceFrom(label, outlines, 50), QString());
+}
+
+void TestPreviewLabel::largeGridIsEmptyUntilItIsShown()
+{
+    const Shoot grid = largeGrid();
+    PreviewLabel label;
+    label.showScene(grid.with(5), 50);
+    label.resize(label.sizeHint());
+    QImage empty(label.size(), QImage::Format_RGB32);
+    empty.fill(Qt::lightGray);
+    QCOMPARE(pixelDifference(label.grab().toImage(), empty), QString());
+    QTRY_VERIFY(label.isComplete());
+    QCOMPARE(pixelDifference(label.grab().toImage(), shownBy(label)), QString());
+}
+
+void TestPreviewLabel::largeGridAppearsFirstWhereItIsSeen()
+{
+    const Shoot grid = largeGrid();
+    QScrollArea area;
+    auto *label = new PreviewLabel;
+    area.setWidget(label);
+    area.setWidgetResizable(true);
+    area.resize(400, 300);
+    area.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&area));
+    label->showScene(grid.with(0), 50);
+    QTRY_VERIFY(label->isComplete());
+    area.verticalScrollBar()->setValue(area.verticalScrollBar()->maximum());
+
+    Shoot moved = largeGrid();
+    for (PreviewCell &cell : moved.scene.layout.cells) {
+        cell.box.translate(2, 0); // one pixel at this zoom
+    }
+    label->showScene(moved.with(0), 50);
+    const auto isThere = [&](int y) {
+        // The left side of the first cell of some row of cells, and none where it was before.
+        const QImage shown = shownBy(*label);
+        return shown.pixel(2, y) == 0xff000000 && shown.pixel(1, y) != 0xff000000;
+    };
+    while (!label->isComplete() && !isThere(1230)) {
+        QCoreApplication::processEvents();
+    }
+    QVERIFY(isThere(1230));
+    QVERIFY(!isThere(20));
+    QTRY_VERIFY(label->isComplete());
+    QVERIFY(isThere(20));
+}
+
+void TestPreviewLabel::largeGridIsShownAtOnceAtFullZoom()
+{
+    const Shoot grid = largeGrid();
+    PreviewLabel label;
+    label.showScene(grid.with(3), 100);
+    QVERIFY(label.isComplete());
+    QCOMPARE(differenceFrom(label, grid.with(3), 100), QString());
 }
 
 void TestPreviewLabel::updatesAllocateNoFurtherPicture_data()

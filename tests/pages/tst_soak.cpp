@@ -161,13 +161,15 @@ void TestSoak::recordShootIsLoadedWhole()
     const std::int64_t loadStart = Allocations::held();
     Allocations::resetPeak();
     std::vector<double> steps;
+    double longest = 0.0;
     while (!load.isDone()) {
-        steps.push_back(load.readNext());
+        const PageLoad::Cost cost = load.readNext();
+        steps.push_back(cost.all);
+        longest = std::max(longest, cost.longest);
     }
     load.driver().waitUntilRead();
     qInfo("%zu signals: %.3g s of the GUI thread, at most %.3g ms, %.3g ms on average",
-          steps.size(), std::accumulate(steps.cbegin(), steps.cend(), 0.0),
-          *std::max_element(steps.cbegin(), steps.cend()) * 1e3,
+          steps.size(), std::accumulate(steps.cbegin(), steps.cend(), 0.0), longest * 1e3,
           std::accumulate(steps.cbegin(), steps.cend(), 0.0) * 1e3
               / static_cast<double>(steps.size()));
     if (Allocations::areCounted()) {

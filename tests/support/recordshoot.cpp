@@ -130,18 +130,24 @@ double PageLoad::choosePhotos(const QStringList &files)
     return threadSeconds() - end.seconds();
 }
 
-double PageLoad::readNext()
+PageLoad::Cost PageLoad::readNext()
 {
     const int photos = std::min(m_left, kPhotosPerSignal);
     m_left -= photos;
     m_signals = 0;
-    const double start = threadSeconds();
+    Cost cost;
     static_cast<RecordShootApplication *>(QCoreApplication::instance())->letRead(photos);
     while (m_signals == 0) {
+        const double start = threadSeconds();
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        if (m_signals > 0) {
+            settle();
+        }
+        const double turn = threadSeconds() - start;
+        cost.all += turn;
+        cost.longest = std::max(cost.longest, turn);
     }
-    settle();
-    return threadSeconds() - start;
+    return cost;
 }
 
 /** Layout and painting belong to what a change costs. */

@@ -79,6 +79,14 @@ private:
 class PageLoad
 {
 public:
+    /** CPU seconds. */
+    struct Cost {
+        double all = 0.0;
+        /** The longest time without a turn of the event loop; what a signal has posted counts as
+         * one with it. */
+        double longest = 0.0;
+    };
+
     explicit PageLoad(QWizardPage *page);
     ~PageLoad();
 
@@ -86,8 +94,8 @@ public:
     double enterRecord(const QString &path);
     /** Chooses \p files in the page's dialog; CPU seconds from the dialog's end on. */
     double choosePhotos(const QStringList &files);
-    /** Lets the next ten photos be read and waits for the page; CPU seconds. */
-    double readNext();
+    /** Lets the next ten photos be read and waits for the page. */
+    Cost readNext();
     [[nodiscard]] bool isDone() const { return m_left == 0; }
 
     [[nodiscard]] const PageDriver &driver() const { return m_driver; }
