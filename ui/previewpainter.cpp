@@ -23,6 +23,8 @@ constexpr qint64 kCaptionBytes = 768; // about
 // Kept in any case, in bytes: a handful of tiles and the captions around them.
 constexpr int kTileBytes = 512 * 1024;
 constexpr qint64 kLeastCaptions = 256 * 1024;
+// Some ten rows of the largest shoots; more are not drawn again and again.
+constexpr qint64 kMostCaptions = 4 * 1024 * 1024;
 
 bool isUnturned(const PreviewCell &cell)
 {
@@ -114,7 +116,7 @@ void CellPainter::reset(qint64 bytes, std::optional<QRgb> textColour)
         m_letterCase.emplace(*textColour);
     }
     m_tiles.setMaxCost(kTileBytes);
-    m_captions.setMaxCost(static_cast<int>(std::max(kLeastCaptions, bytes / 2)));
+    m_captions.setMaxCost(static_cast<int>(std::clamp(bytes / 2, kLeastCaptions, kMostCaptions)));
 }
 
 void CellPainter::draw(const Patch &patch, const PreviewScene &scene, int cell,
