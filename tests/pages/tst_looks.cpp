@@ -1,18 +1,17 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
-#include "importers/clauss/uiwpclauss.h"
-#include "importers/gigapan/uiwpgigapan.h"
-#include "importers/papywizard/uiwpmerlin.h"
-#include "importers/vrdrive2/uiwpvrdrive2.h"
-
 #include "tests/support/fakeapplication.h"
 #include "tests/support/fakeimage.h"
 #include "tests/support/formcheck.h"
+#include "tests/support/heads.h"
 #include "ui/previewlabel.h"
 
+#include <QDir>
+#include <QLabel>
 #include <QLayout>
 #include <QRadioButton>
 #include <QTabBar>
+#include <QTabWidget>
 #include <QTranslator>
 #include <QWizard>
 #include <QtTest>
@@ -34,7 +33,7 @@ constexpr int kLargeFont = 14;
 class Shown
 {
 public:
-    explicit Shown(const QString &head, const QString &language = QString(),
+    explicit Shown(const Head &head, const QString &language = QString(),
                    int fontPoints = kUsualFont)
     {
         QFont font = QApplication::font();
@@ -45,7 +44,7 @@ public:
             qFatal("There is no such translation: %s", qPrintable(language));
         }
         QCoreApplication::installTranslator(&m_translator);
-        m_page = create(head);
+        m_page = head.newPage().page;
         fill();
         m_wizard.setWizardStyle(QWizard::ModernStyle);
         m_wizard.addPage(m_page);
@@ -73,19 +72,6 @@ public:
     }
 
 private:
-    [[nodiscard]] static QWizardPage *create(const QString &head)
-    {
-        if (head == QLatin1String("Papywizard")) {
-            return new UIWPMerlin(nullptr);
-        }
-        if (head == QLatin1String("Gigapan")) {
-            return new UIWPGigapan(nullptr);
-        }
-        if (head == QLatin1String("VR Drive 2")) {
-            return new UIWPVRDrive2(nullptr);
-        }
-        return new UIWPClauss(nullptr);
-    }
     [[nodiscard]] QLabel *label(const char *name) const
     {
         return m_page->findChild<QLabel *>(QString::fromLatin1(name));
@@ -118,32 +104,17 @@ private:
     QWizardPage *m_page = nullptr;
 };
 
-const QStringList &headNames()
-{
-    static const QStringList names{ QStringLiteral("Papywizard"), QStringLiteral("Gigapan"),
-                                    QStringLiteral("VR Drive 2"), QStringLiteral("Clauss") };
-    return names;
-}
-
-void addHeads()
-{
-    QTest::addColumn<QString>("head");
-    for (const QString &head : headNames()) {
-        QTest::newRow(qPrintable(head)) << head;
-    }
-}
-
 void addHeadsAndLanguages()
 {
-    QTest::addColumn<QString>("head");
+    QTest::addColumn<const Head *>("head");
     QTest::addColumn<QString>("language");
     const QDir translations(QStringLiteral(":/Translation"));
     const QStringList files = translations.entryList({ QStringLiteral("XPanoHead_*.qm") });
     QCOMPARE(files.size(), 10);
-    for (const QString &head : headNames()) {
+    for (const Head *head : allHeads()) {
         for (const QString &file : files) {
             const QString language = file.mid(10).chopped(3); // XPanoHead_ ... .qm
-            QTest::addRow("%s, %s", qPrintable(head), qPrintable(language)) << head << language;
+            QTest::addRow("%s, %s", head->name, qPrintable(language)) << head << language;
         }
     }
 }
@@ -290,15 +261,15 @@ private Q_SLOTS:
     void everyTabIsSeen();
     void warningIsNotCutOff_data();
     void warningIsNotCutOff();
-    void warningMovesNothing_data();
+    void warningMovesNothing_data() { addHeads({ &papywizard(), &vrDrive2() }); }
     void warningMovesNothing();
-    void tabKeyVisitsEveryControl_data() { addHeads(); }
+    void tabKeyVisitsEveryControl_data() { addHeads(allHeads()); }
     void tabKeyVisitsEveryControl();
-    void arrowKeysReachEveryRadioButton_data() { addHeads(); }
+    void arrowKeysReachEveryRadioButton_data() { addHeads(allHeads()); }
     void arrowKeysReachEveryRadioButton();
-    void everyFieldHasALabelOrAName_data() { addHeads(); }
+    void everyFieldHasALabelOrAName_data() { addHeads(allHeads()); }
     void everyFieldHasALabelOrAName();
-    void previewKeepsItsPlaceFromTabToTab_data() { addHeads(); }
+    void previewKeepsItsPlaceFromTabToTab_data() { addHeads(allHeads()); }
     void previewKeepsItsPlaceFromTabToTab();
     void captionStandsOutFromABrightPhoto_data();
     void captionStandsOutFromABrightPhoto();
@@ -306,9 +277,9 @@ private Q_SLOTS:
 
 void TestLooks::pageFitsTheSmallestWindow()
 {
-    QFETCH(QString, head);
+    QFETCH(const Head *, head);
     QFETCH(QString, language);
-    Shown shown(head, language);
+    Shown shown(*head, language);
     for (int tab = 0; tab < shown.tabs().count(); ++tab) {
         shown.showTab(tab);
         QCOMPARE(shown.wizard().size(), kSmallest);
@@ -317,23 +288,23 @@ void TestLooks::pageFitsTheSmallestWindow()
 
 void TestLooks::nothingIsCutOff()
 {
-    QFETCH(QString, head);
+    QFETCH(const Head *, head);
     QFETCH(QString, language);
-    checkThatAllIsShown(Shown(head, language));
+    checkThatAllIsShown(Shown(*head, language));
 }
 
 void TestLooks::nothingIsCutOffInALargeFont()
 {
-    QFETCH(QString, head);
+    QFETCH(const Head *, head);
     QFETCH(QString, language);
-    checkThatAllIsShown(Shown(head, language, kLargeFont));
+    checkThatAllIsShown(Shown(*head, language, kLargeFont));
 }
 
 void TestLooks::nothingOverlaps()
 {
-    QFETCH(QString, head);
+    QFETCH(const Head *, head);
     QFETCH(QString, language);
-    const Shown shown(head, language);
+    const Shown shown(*head, language);
     for (int tab = 0; tab < shown.tabs().count(); ++tab) {
         shown.showTab(tab);
         const QList<QWidget *> widgets = visibleControls(shown.page());
@@ -353,9 +324,9 @@ void TestLooks::nothingOverlaps()
 
 void TestLooks::everyTabIsSeen()
 {
-    QFETCH(QString, head);
+    QFETCH(const Head *, head);
     QFETCH(QString, language);
-    const Shown shown(head, language);
+    const Shown shown(*head, language);
     const QTabBar *bar = shown.tabs().tabBar();
     for (int tab = 0; tab < bar->count(); ++tab) {
         QVERIFY(bar->rect().contains(bar->tabRect(tab)));
@@ -366,7 +337,7 @@ void TestLooks::everyTabIsSeen()
 
 void TestLooks::warningIsNotCutOff_data()
 {
-    QTest::addColumn<QString>("head");
+    QTest::addColumn<const Head *>("head");
     QTest::addColumn<QString>("language");
     QTest::addColumn<QByteArray>("text");
     const std::initializer_list<std::pair<const char *, const char *>> texts{
@@ -376,11 +347,10 @@ void TestLooks::warningIsNotCutOff_data()
     };
     for (const char *language :
          { "en", "es", "zh_CN", "fr", "ja", "de", "it", "pl", "zh_TW", "ru" }) {
-        for (const char *head : { "Papywizard", "VR Drive 2" }) {
+        for (const Head *head : { &papywizard(), &vrDrive2() }) {
             for (const auto &[name, text] : texts) {
-                QTest::addRow("%s, %s, %s", head, language, name)
-                    << QString::fromLatin1(head) << QString::fromLatin1(language)
-                    << QByteArray(text);
+                QTest::addRow("%s, %s, %s", head->name, language, name)
+                    << head << QString::fromLatin1(language) << QByteArray(text);
             }
         }
     }
@@ -388,10 +358,10 @@ void TestLooks::warningIsNotCutOff_data()
 
 void TestLooks::warningIsNotCutOff()
 {
-    QFETCH(QString, head);
+    QFETCH(const Head *, head);
     QFETCH(QString, language);
     QFETCH(QByteArray, text);
-    const Shown shown(head, language);
+    const Shown shown(*head, language);
     const QString context = QString::fromLatin1(shown.page().metaObject()->className());
     shown.warning()->setText(
         QStringLiteral("<p style='color:red'>%1</p>")
@@ -405,18 +375,10 @@ void TestLooks::warningIsNotCutOff()
              qPrintable(described(shown.warning())));
 }
 
-void TestLooks::warningMovesNothing_data()
-{
-    QTest::addColumn<QString>("head");
-    for (const char *head : { "Papywizard", "VR Drive 2" }) {
-        QTest::newRow(head) << QString::fromLatin1(head);
-    }
-}
-
 void TestLooks::warningMovesNothing()
 {
-    QFETCH(QString, head);
-    const Shown shown(head);
+    QFETCH(const Head *, head);
+    const Shown shown(*head);
     const auto places = [&shown] {
         QMap<QString, QRect> found;
         for (const QWidget *widget : visibleControls(shown.page())) {
@@ -438,8 +400,8 @@ void TestLooks::warningMovesNothing()
 
 void TestLooks::tabKeyVisitsEveryControl()
 {
-    QFETCH(QString, head);
-    const Shown shown(head);
+    QFETCH(const Head *, head);
+    const Shown shown(*head);
     enableEverything(shown.page());
     for (int tab = 0; tab < shown.tabs().count(); ++tab) {
         shown.showTab(tab);
@@ -456,8 +418,8 @@ void TestLooks::tabKeyVisitsEveryControl()
 
 void TestLooks::arrowKeysReachEveryRadioButton()
 {
-    QFETCH(QString, head);
-    const Shown shown(head);
+    QFETCH(const Head *, head);
+    const Shown shown(*head);
     for (int tab = 0; tab < shown.tabs().count(); ++tab) {
         shown.showTab(tab);
         for (QRadioButton *radio : checkedButtons(shown.page())) {
@@ -474,8 +436,8 @@ void TestLooks::arrowKeysReachEveryRadioButton()
 
 void TestLooks::everyFieldHasALabelOrAName()
 {
-    QFETCH(QString, head);
-    const Shown shown(head);
+    QFETCH(const Head *, head);
+    const Shown shown(*head);
     QStringList withBuddy;
     for (const QString &pair : buddies(shown.page())) {
         withBuddy.append(pair.section(QStringLiteral(" > "), 1));
@@ -495,8 +457,8 @@ void TestLooks::everyFieldHasALabelOrAName()
 
 void TestLooks::previewKeepsItsPlaceFromTabToTab()
 {
-    QFETCH(QString, head);
-    const Shown shown(head);
+    QFETCH(const Head *, head);
+    const Shown shown(*head);
     const auto *area = shown.page().findChild<QWidget *>(QStringLiteral("m_saPreview"));
     const QRect before = placeOnPage(area, shown.page());
     for (int tab = 1; tab < shown.tabs().count(); ++tab) {
