@@ -24,10 +24,17 @@ class RecordPhoto : public FakeImage
 public:
     RecordPhoto(const QString &fileName, const FakePhoto &photo, QPixmap *thumbnail);
 
-    QPixmap *Thumbnail() override { return m_thumbnail; }
+    QPixmap *Thumbnail() override
+    {
+        ++m_requests;
+        return m_thumbnail;
+    }
+    /** How often the thumbnail was asked for. */
+    [[nodiscard]] int requests() const { return m_requests; }
 
 private:
     QPixmap *m_thumbnail;
+    int m_requests = 0;
 };
 
 /**

@@ -77,6 +77,7 @@ class TestRecords : public QObject
 private Q_SLOTS:
     void aFreshShotIsAllZero();
     void aFreshLinkIsEmpty();
+    void linksAndShotsAreMovedAsMemory();
     void aFreshDescriptionHasTheDefaults();
     void aChangedCopyLeavesItsSourceAlone();
     void onlyTwoNumbersNameALens_data();
@@ -94,6 +95,13 @@ void TestRecords::aFreshShotIsAllZero()
     QCOMPARE(shot.id, 0);
     QCOMPARE(shot.bracket, 0);
     QVERIFY(shot.time.isNull());
+}
+
+/** Lists of a million of them grow without a call for each. */
+void TestRecords::linksAndShotsAreMovedAsMemory()
+{
+    QVERIFY(!QTypeInfo<AuthorizedLink>::isStatic);
+    QVERIFY(!QTypeInfo<ShootData>::isStatic);
 }
 
 void TestRecords::aFreshLinkIsEmpty()

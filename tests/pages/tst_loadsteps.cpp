@@ -1,0 +1,170 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: MIT
+
+// What a page does, and does not do again, each time ten more photos have been read.
+#include "importers/clauss/uiwpclauss.h"
+#include "importers/papywizard/uiwpmerlin.h"
+#include "importers/vrdrive2/uiwpvrdrive2.h"
+#include "plugin/readingthread.h"
+#include "tests/support/recordshoot.h"
+#include "ui/previewlabel.h"
+#include "ui/xui.h"
+
+#include <QLineEdit>
+#include <QtTest>
+
+#include <memory>
+
+using namespace PanoHead;
+
+namespace
+{
+
+constexpr int kPhotos = 60;
+constexpr int kPhotosPerSignal = 10;
+constexpr int kStepDegrees = 10;
+
+using NewPage = std::unique_ptr<QWizardPage> (*)();
+
+template <typename Page> std::unique_ptr<QWizardPage> newPage()
+{
+    return std::make_unique<Page>(nullptr);
+}
+
+/** Six rows of ten shots, so far apart that no cell touches one of another row. */
+QByteArray recordOf(bool isScript)
+{
+    QByteArray script;
+    RecordXml record;
+    for (int i = 0; i < kPhotos; ++i) {
+        const QString yaw = QString::number(i % kPhotosPerSignal * kStepDegrees);
+        const QString pitch = QString::number(50 - 2 * kStepDegrees * (i / kPhotosPerSignal));
+        script
+            += "op_h-angle=" + yaw.toLatin1() + "\nop_v-angle=" + pitch.toLatin1() + "\nop_shoot\n";
+        record.shots.append({ yaw, pitch });
+    }
+    return isScript ? script : record.bytes();
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(NewPage)
+
+class TestLoadSteps : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void thumbnailsAreDrawnByTheSignalThatBringsThem_data() { addPages(); }
+    void thumbnailsAreDrawnByTheSignalThatBringsThem();
+    void updatingThePageAgainFindsNothingToDraw_data() { addPages(); }
+    void updatingThePageAgainFindsNothingToDraw();
+    void namesOfThePhotosAreWrittenOnce_data() { addPages(); }
+    void namesOfThePhotosAreWrittenOnce();
+
+private:
+    static void addPages();
+    [[nodiscard]] QVector<int> requests() const;
+
+    RecordShoot m_shoot{ kPhotos };
+    std::unique_ptr<QWizardPage> m_page;
+    std::unique_ptr<PageLoad> m_load;
+};
+
+void TestLoadSteps::addPages()
+{
+    QTest::addColumn<NewPage>("newPageOfHead");
+    QTest::addColumn<QString>("record");
+    QTest::newRow("Papywizard") << NewPage(newPage<UIWPMerlin>) << QStringLiteral("shoot.xml");
+    QTest::newRow("VR Drive 2") << NewPage(newPage<UIWPVRDrive2>) << QStringLiteral("shoot.xml");
+    QTest::newRow("Clauss") << NewPage(newPage<UIWPClauss>) << QStringLiteral("shoot.txt");
+}
+
+void TestLoadSteps::initTestCase()
+{
+    XUI::init(fakeHost().UIInstances());
+}
+
+/** Enters the record and chooses all photos; none has been read yet. */
+void TestLoadSteps::init()
+{
+    QFETCH(const NewPage, newPageOfHead);
+    QFETCH(const QString, record);
+    m_page = newPageOfHead();
+    m_load = std::make_unique<PageLoad>(m_page.get());
+    (void)m_load->enterRecord(
+        m_shoot.write(record, recordOf(record.endsWith(QLatin1String(".txt")))));
+    (void)m_load->choosePhotos(m_shoot.photos(kPhotos));
+}
+
+void TestLoadSteps::cleanup()
+{
+    while (!m_load->isDone()) {
+        (void)m_load->readNext();
+    }
+    m_load->driver().waitUntilRead();
+    m_load.reset();
+    m_page.reset();
+}
+
+/** How often the host was asked for the thumbnail of each photo read. */
+QVector<int> TestLoadSteps::requests() const
+{
+    QVector<int> answer;
+    for (XIImageDef *photo : m_page->findChild<ReadingThread *>()->XIImageDefs()) {
+        answer.append(static_cast<RecordPhoto *>(photo)->requests());
+    }
+    return answer;
+}
+
+void TestLoadSteps::thumbnailsAreDrawnByTheSignalThatBringsThem()
+{
+    (void)m_load->readNext();
+    const QVector<int> first = requests();
+    QCOMPARE(first.size(), kPhotosPerSignal);
+    QVERIFY(!first.contains(0));
+
+    (void)m_load->readNext();
+    const QVector<int> second = requests();
+    QCOMPARE(second.size(), 2 * kPhotosPerSignal);
+    QVERIFY(!second.contains(0));
+    // Nobody has looked at those of the first row again.
+    QCOMPARE(second.mid(0, kPhotosPerSignal), first);
+}
+
+void TestLoadSteps::updatingThePageAgainFindsNothingToDraw()
+{
+    (void)m_load->readNext();
+    const QVector<int> before = requests();
+    const auto *preview = m_page->findChild<PreviewLabel *>();
+    const qint64 picture = preview->pixmap(Qt::ReturnByValue).cacheKey();
+
+    QVERIFY(QMetaObject::invokeMethod(m_page.get(), "UpdateUI", Qt::DirectConnection));
+
+    QCOMPARE(requests(), before);
+    QCOMPARE(preview->pixmap(Qt::ReturnByValue).cacheKey(), picture);
+}
+
+void TestLoadSteps::namesOfThePhotosAreWrittenOnce()
+{
+    constexpr int kPlace = 7;
+    auto *names = m_page->findChild<QLineEdit *>(QStringLiteral("m_leImage"));
+    QVERIFY(names->text().startsWith(QLatin1String("\"000000.jpg\"; \"000001.jpg\"; ")));
+    // Written again, the same text would take the cursor away.
+    names->setCursorPosition(kPlace);
+    (void)m_load->readNext();
+    QCOMPARE(names->cursorPosition(), kPlace);
+}
+
+int main(int argc, char **argv)
+{
+    RecordShootApplication application(argc, argv);
+    TestLoadSteps test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_loadsteps.moc"
