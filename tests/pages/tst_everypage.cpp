@@ -37,7 +37,8 @@ QByteArray rowInThrees(int shots)
 void checkFreshTexts(const HeadShoot &shoot)
 {
     for (const TextOn &fresh : shoot.head.freshTexts) {
-        QCOMPARE(shoot.driver.text(fresh.widget), fresh.text);
+        const QString name = QString::fromLatin1(fresh.widget) + QLatin1String(": ");
+        QCOMPARE(name + shoot.driver.text(fresh.widget), name + fresh.text);
     }
     for (const char *button : shoot.head.freshDisabled) {
         QVERIFY(!shoot.driver.find<QWidget>(button)->isEnabled());
