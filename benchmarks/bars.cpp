@@ -90,11 +90,16 @@ double Bars::medianSeconds(int runs, const std::function<void()> &work)
 {
     std::vector<double> times;
     for (int run = 0; run < runs; ++run) {
-        const double start = threadSeconds();
-        work();
-        times.push_back(threadSeconds() - start);
+        times.push_back(seconds(work));
     }
     return median(times);
+}
+
+double Bars::seconds(const std::function<void()> &work)
+{
+    const double start = threadSeconds();
+    work();
+    return threadSeconds() - start;
 }
 
 double Bars::median(std::vector<double> values)

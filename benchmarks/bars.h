@@ -41,6 +41,8 @@ int run(int argc, char **argv);
 /** The median of the CPU times of \p runs calls, seconds. */
 [[nodiscard]] double medianSeconds(int runs, const std::function<void()> &work);
 [[nodiscard]] double median(std::vector<double> values);
+/** The CPU time of one call, seconds. */
+[[nodiscard]] double seconds(const std::function<void()> &work);
 /** b in "cost grows as size to the power of b" between two sizes. */
 [[nodiscard]] double exponent(double smallSize, double smallCost, double largeSize,
                               double largeCost);
