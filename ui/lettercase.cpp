@@ -19,7 +19,7 @@ namespace
 {
 
 constexpr int kPhases = 64; // the painter cuts places down to parts of a pixel
-constexpr size_t kMostLetters = 4'096; // about 100 bytes each
+constexpr size_t kMostLetters = 2'048; // some 700 bytes each
 constexpr qreal kLargestFont = 60.0; // pixels; larger letters are filled as outlines
 
 /** \p value times \p part / 255, rounded as the painter does it. */
@@ -145,7 +145,7 @@ bool LetterCase::take(const QGlyphRun &run, const QPointF &origin,
     return true;
 }
 
-/** Null when it cannot be kept. */
+/** Null when it cannot be kept or is not drawn in shades of one colour. */
 const Letter *LetterCase::letterFor(quint32 glyph, const QPoint &phase)
 {
     const std::uint64_t key = (std::uint64_t{ glyph } * kPhases + phase.x()) * kPhases + phase.y();
@@ -157,8 +157,9 @@ const Letter *LetterCase::letterFor(quint32 glyph, const QPoint &phase)
         return nullptr;
     }
     const int em = static_cast<int>(std::ceil(m_font.pixelSize()));
-    const QPoint stand(em, 2 * em);
-    QImage picture = paper(QSize(3 * em, 3 * em));
+    constexpr int kMargin = 2 * Letter::kPixels;
+    const QPoint stand(em + kMargin, 2 * em + kMargin);
+    QImage picture = paper(QSize(3 * em, 3 * em) + QSize(2 * kMargin, 2 * kMargin));
     {
         const QVector<quint32> glyphs{ glyph };
         const QVector<QPointF> places{ QPointF() };
@@ -170,7 +171,9 @@ const Letter *LetterCase::letterFor(quint32 glyph, const QPoint &phase)
         painter.drawGlyphRun(stand + QPointF(phase) / kPhases, run);
     }
     std::optional<Letter> letter = readLetter(picture, stand, m_colour);
-    if (!letter) {
+    // One that reaches the paper's edge may go on behind it.
+    const QRect inside = picture.rect().adjusted(1, 1, -1 - Letter::kPixels, -1);
+    if (!letter || !inside.contains(letter->box.translated(stand) | QRect(stand, QSize(1, 1)))) {
         m_match = Match::Other;
         return nullptr;
     }
