@@ -9,6 +9,9 @@
 #include <cstdarg>
 #include <cstdio>
 #include <ctime>
+#include <limits>
+
+#include <malloc.h>
 
 namespace
 {
@@ -29,7 +32,24 @@ bool clears(const Bars::Bar &bar, const Bars::Figure &figure)
     if (!figure.mistake.empty()) {
         return false;
     }
-    return bar.need == Bars::Need::AtLeast ? figure.value >= bar.limit : figure.value <= bar.limit;
+    switch (bar.need) {
+    case Bars::Need::AtLeast:
+        return figure.value >= bar.limit;
+    case Bars::Need::AtMost:
+        return figure.value <= bar.limit;
+    case Bars::Need::Nothing:
+        break;
+    }
+    return true;
+}
+
+std::string inWords(const Bars::Bar &bar)
+{
+    if (bar.need == Bars::Need::Nothing) {
+        return "no bar";
+    }
+    return Bars::text("bar: at %s %g%s", bar.need == Bars::Need::AtLeast ? "least" : "most",
+                      bar.limit, bar.unit);
 }
 
 void runRow(benchmark::State &state, const std::string &name, const Bars::Bar &bar,
@@ -45,10 +65,8 @@ void runRow(benchmark::State &state, const std::string &name, const Bars::Bar &b
         state.SkipWithError(("FAIL: the results differ: " + figure.mistake).c_str());
         return;
     }
-    state.SetLabel(Bars::text("%s %.4g%s (bar: at %s %g%s) %s", passed ? "PASS" : "FAIL",
-                              figure.value, bar.unit,
-                              bar.need == Bars::Need::AtLeast ? "least" : "most", bar.limit,
-                              bar.unit, figure.detail.c_str()));
+    state.SetLabel(Bars::text("%s %.4g%s (%s) %s", passed ? "PASS" : "FAIL", figure.value, bar.unit,
+                              inWords(bar).c_str(), figure.detail.c_str()));
 }
 
 } // namespace
@@ -77,6 +95,13 @@ int Bars::run(int argc, char **argv)
                 results().size() - static_cast<std::size_t>(failed),
                 static_cast<std::size_t>(failed));
     return failed == 0 && !results().empty() ? 0 : 1;
+}
+
+void Bars::keepFreedMemory()
+{
+    constexpr int kAll = std::numeric_limits<int>::max();
+    mallopt(M_MMAP_MAX, 0);
+    mallopt(M_TRIM_THRESHOLD, kAll);
 }
 
 double Bars::threadSeconds()

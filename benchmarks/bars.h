@@ -13,7 +13,11 @@
 namespace Bars
 {
 
-enum class Need { AtLeast, AtMost };
+enum class Need {
+    AtLeast,
+    AtMost,
+    Nothing, ///< the figure is shown; only results that differ are a failure
+};
 
 struct Bar {
     Need need = Need::AtLeast;
@@ -35,6 +39,12 @@ void add(const std::string &name, const Bar &bar, const std::function<Figure()> 
  * that counts. Answers the program's exit code: 1 when a bar was missed or results differed.
  */
 int run(int argc, char **argv);
+
+/**
+ * What the program frees stays with it from now on. Fresh pages cost as much as the work in small
+ * rows, and whether a size gets them depends on what was measured before it.
+ */
+void keepFreedMemory();
 
 /** CPU seconds that the calling thread has used so far. */
 [[nodiscard]] double threadSeconds();

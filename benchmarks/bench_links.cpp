@@ -225,6 +225,7 @@ Bars::Figure closeSpeedUp(const QVector<PhotoDirection> &photos)
 int main(int argc, char **argv)
 {
     using Bars::Need;
+    Bars::keepFreedMemory();
     const auto atLeast = [](double limit) { return Bars::Bar{ Need::AtLeast, limit, "x" }; };
     const auto atMost = [](double limit, const char *unit = "x") {
         return Bars::Bar{ Need::AtMost, limit, unit };

@@ -19,32 +19,35 @@ constexpr int kPhotosPerSignal = 10;
 constexpr unsigned long kWaitMs = 100;
 
 /**
- * \p files, each once, in their order. A flat table of their numbers finds the known ones: sets of
- * strings keep a node for each, which a shoot of record size scatters all over the memory.
+ * \p files, each once, in their order. A flat table of their numbers finds the known ones, small
+ * enough for a processor's cache: sets of strings keep a node for each, which a shoot of record
+ * size scatters all over the memory.
  */
 QQueue<QString> withoutDuplicates(const QStringList &files)
 {
-    struct Place {
-        uint hash = 0;
-        int file = -1; // free
-    };
+    constexpr int kFree = -1;
+    const auto count = static_cast<std::size_t>(files.size());
     std::size_t places = 16;
-    while (places < 2 * static_cast<std::size_t>(files.size())) {
+    while (2 * places < 3 * count) {
         places *= 2;
     }
-    std::vector<Place> table(places);
+    std::vector<int> table(places, kFree);
+    std::vector<uint> hashes;
+    hashes.reserve(count);
     QQueue<QString> queue;
     queue.reserve(files.size());
     for (int number = 0; number < files.size(); ++number) {
         const QString &file = files.at(number);
         const uint hash = qHash(file, static_cast<uint>(qGlobalQHashSeed()));
+        hashes.push_back(hash);
         std::size_t place = hash % places;
-        while (table[place].file >= 0
-               && (table[place].hash != hash || files.at(table[place].file) != file)) {
+        while (table[place] != kFree
+               && (hashes[static_cast<std::size_t>(table[place])] != hash
+                   || files.at(table[place]) != file)) {
             place = (place + 1) % places;
         }
-        if (table[place].file < 0) {
-            table[place] = { hash, number };
+        if (table[place] == kFree) {
+            table[place] = number;
             queue.enqueue(file);
         }
     }
