@@ -97,11 +97,18 @@ int Bars::run(int argc, char **argv)
     return failed == 0 && !results().empty() ? 0 : 1;
 }
 
-void Bars::keepFreedMemory()
+Bars::KeptMemory::KeptMemory()
 {
-    constexpr int kAll = std::numeric_limits<int>::max();
     mallopt(M_MMAP_MAX, 0);
-    mallopt(M_TRIM_THRESHOLD, kAll);
+    mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
+}
+
+/** Back to the C library's own values. */
+Bars::KeptMemory::~KeptMemory()
+{
+    mallopt(M_MMAP_MAX, 65'536);
+    mallopt(M_TRIM_THRESHOLD, 128 * 1024);
+    malloc_trim(0);
 }
 
 double Bars::threadSeconds()

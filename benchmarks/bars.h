@@ -41,10 +41,17 @@ void add(const std::string &name, const Bar &bar, const std::function<Figure()> 
 int run(int argc, char **argv);
 
 /**
- * What the program frees stays with it from now on. Fresh pages cost as much as the work in small
- * rows, and whether a size gets them depends on what was measured before it.
+ * While one lives, what the program frees stays with it. Fresh pages cost as much as the work, and
+ * which of two sizes gets them depends on what was measured before.
  */
-void keepFreedMemory();
+class KeptMemory
+{
+public:
+    KeptMemory();
+    ~KeptMemory();
+    KeptMemory(const KeptMemory &) = delete;
+    KeptMemory &operator=(const KeptMemory &) = delete;
+};
 
 /** CPU seconds that the calling thread has used so far. */
 [[nodiscard]] double threadSeconds();

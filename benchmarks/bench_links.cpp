@@ -121,6 +121,7 @@ Bars::Figure growth(int small, int large)
     const Shoot many = sphere(large);
     const float fewField = LiteralLinks::halfField(few.focalMm(0.65));
     const float manyField = LiteralLinks::halfField(many.focalMm(0.65));
+    const Bars::KeptMemory kept;
     // Other programs and their use of the caches only make both slower, for a while.
     double fewSeconds = std::numeric_limits<double>::infinity();
     double manySeconds = std::numeric_limits<double>::infinity();
@@ -225,7 +226,6 @@ Bars::Figure closeSpeedUp(const QVector<PhotoDirection> &photos)
 int main(int argc, char **argv)
 {
     using Bars::Need;
-    Bars::keepFreedMemory();
     const auto atLeast = [](double limit) { return Bars::Bar{ Need::AtLeast, limit, "x" }; };
     const auto atMost = [](double limit, const char *unit = "x") {
         return Bars::Bar{ Need::AtMost, limit, unit };
@@ -237,8 +237,6 @@ int main(int argc, char **argv)
               [] { return speedUp(mosaic(10'000, 0.1), LiteralLinks::neighbours, 1); });
     Bars::add("Papywizard links/50,000/faster than the double loop", atLeast(1500),
               [] { return speedUp(sphere(50'000), LiteralLinks::neighbours, 50); });
-    Bars::add("Papywizard links/from 10,000 to 70,000/cost exponent", atMost(1.10, ""),
-              [] { return growth(10'000, 70'000); });
     Bars::add("Papywizard links/70,000/faster than a double loop with hoisted trigonometry",
               atLeast(200),
               [] { return speedUp(sphere(70'000), LiteralLinks::neighboursHoisted, 50); });
@@ -256,5 +254,8 @@ int main(int argc, char **argv)
               atLeast(500), [] { return closeSpeedUp(photosOf(sphere(6'667), 3, false)); });
     Bars::add("Clauss links/20,001 photos, brackets and mixed lenses/faster than the double loop",
               atLeast(500), [] { return closeSpeedUp(photosOf(sphere(6'667), 3, true)); });
+    // Last, because the C library never goes back to all of its own ways.
+    Bars::add("Papywizard links/from 10,000 to 70,000/cost exponent", atMost(1.10, ""),
+              [] { return growth(10'000, 70'000); });
     return Bars::run(argc, argv);
 }
