@@ -119,4 +119,18 @@ void Caption::drawRuns(const Patch &patch, const CaptionColours &colours)
     }
 }
 
+void Caption::drawOnce(QPainter &painter, const PreviewCell &cell, const CaptionColours &colours)
+{
+    const QRectF room = roomIn(cell);
+    const QString text = textIn(cell);
+    if (colours.ground.style() != Qt::NoBrush) {
+        const QRectF ground = painter.boundingRect(room, text, QTextOption());
+        painter.fillRect(ground & room, colours.ground);
+    }
+    const QPen outline = painter.pen();
+    painter.setPen(colours.text);
+    painter.drawText(room, text);
+    painter.setPen(outline);
+}
+
 } // namespace PanoHead

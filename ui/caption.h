@@ -52,6 +52,9 @@ public:
 
     /** Draws what lies in \p patch, whose image is opaque if there is a case. */
     void draw(const Patch &patch, const CaptionColours &colours);
+    /** Lays the caption of \p cell out and draws all of it, in the painter's font. */
+    static void drawOnce(QPainter &painter, const PreviewCell &cell, const CaptionColours &colours);
+
     /** Pixels that are drawn, and perhaps some around them. */
     [[nodiscard]] QRect rect() const { return m_reach; }
 

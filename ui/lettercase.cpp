@@ -145,6 +145,11 @@ bool LetterCase::take(const QGlyphRun &run, const QPointF &origin,
     return true;
 }
 
+bool LetterCase::hasRoom() const
+{
+    return m_match != Match::Other && m_letters.size() < kMostLetters;
+}
+
 /** Null when it cannot be kept or is not drawn in shades of one colour. */
 const Letter *LetterCase::letterFor(quint32 glyph, const QPoint &phase)
 {

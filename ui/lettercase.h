@@ -60,6 +60,9 @@ public:
     /** Draws \p letters onto the opaque \p image within \p clip, which lies in it. */
     void draw(QImage &image, const QRect &clip, const std::vector<PlacedLetter> &letters) const;
 
+    /** Further letters can be taken; without it trying costs more than the painter's own way. */
+    [[nodiscard]] bool hasRoom() const;
+
 private:
     enum class Match { Unknown, Same, Other };
 

@@ -132,7 +132,11 @@ void CellPainter::draw(const Patch &patch, const PreviewScene &scene, int cell,
             patch.painter.drawPixmap(drawn.box.topLeft(), *thumbnail);
         }
     }
-    drawParts(patch, scene, cell, { false, true, isFitted }, caption);
+    const bool hasRoom = m_letterCase && m_letterCase->hasRoom();
+    drawParts(patch, scene, cell, { false, true, isFitted && hasRoom }, caption);
+    if (isFitted && !hasRoom) {
+        Caption::drawOnce(patch.painter, drawn, caption);
+    }
 }
 
 void CellPainter::drawParts(const Patch &patch, const PreviewScene &scene, int cell,
