@@ -83,6 +83,9 @@ template <typename Step> bool isWithinMemory(const Step &step)
 ReadingThread::ReadingThread(QObject *parent)
     : QThread(parent)
 {
+    // The first connection of all, delivered with the page's own: its slots find the count right.
+    connect(this, &ReadingThread::Loaded, parent != nullptr ? parent : this,
+            [this] { ++m_delivered; });
     waitForEnd();
 }
 
@@ -138,6 +141,7 @@ void ReadingThread::giveUp()
         forget();
         *m_stop = true;
         *m_isShort = true;
+        ++*m_told;
     }
     Q_EMIT Loaded();
 }
@@ -146,6 +150,12 @@ QList<XIImageDef *> ReadingThread::XIImageDefs()
 {
     const QMutexLocker lock(&m_mutex);
     return *m_images;
+}
+
+bool ReadingThread::isLastLoaded()
+{
+    const QMutexLocker lock(&m_mutex);
+    return m_queue->isEmpty() && m_delivered >= *m_told;
 }
 
 bool ReadingThread::takeShortage()
@@ -157,6 +167,10 @@ bool ReadingThread::takeShortage()
 void ReadingThread::Clear()
 {
     stop();
+    {
+        const QMutexLocker lock(&m_mutex);
+        ++*m_told;
+    }
     Q_EMIT Loaded();
 }
 
@@ -239,4 +253,7 @@ void ReadingThread::keep(XIImageDef *image)
 void ReadingThread::tellLoaded()
 {
     *m_owesLoaded = !isWithinMemory([this] { Q_EMIT Loaded(); });
+    if (!*m_owesLoaded) {
+        ++*m_told;
+    }
 }

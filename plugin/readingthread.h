@@ -25,6 +25,7 @@ class ReadingThread : public QThread
     Q_OBJECT
 
 public:
+    /** \p parent, which may be null, outlives the thread's use and receives its signals. */
     explicit ReadingThread(QObject *parent);
     /** Drops the work, waits for the photo in hand and emits nothing. */
     ~ReadingThread() override;
@@ -38,6 +39,9 @@ public:
     void Start(const QStringList &files);
     /** The images read so far, in reading order. */
     [[nodiscard]] QList<XIImageDef *> XIImageDefs();
+    /** Whether the `Loaded()` delivered last is the last one of its work: the queue is empty, and
+     * no further signal is on its way. */
+    [[nodiscard]] bool isLastLoaded();
     /** Whether memory has run out since `Start`, so that photos are missing; true once. */
     [[nodiscard]] bool takeShortage();
 
@@ -71,7 +75,9 @@ private:
     void keep(XIImageDef *image);
     void tellLoaded();
 
+    int m_delivered = 0; ///< `Loaded()` signals that have reached the GUI thread
     QMutex m_mutex; ///< guards everything below
+    PanoHead::Guarded<int> m_told{ m_mutex, 0 }; ///< `Loaded()` signals emitted
     /** The run ends after the photo in hand, which is dropped. */
     PanoHead::Guarded<bool> m_stop{ m_mutex, true };
     PanoHead::Guarded<QQueue<QString>> m_queue{ m_mutex };

@@ -107,6 +107,7 @@ private Q_SLOTS:
     void aFileGivenTwiceIsReadOnce();
     void duplicatesOfALongListAreFound();
     void receiversOnTheGuiThreadSeeTheImages();
+    void theLastSignalOfTheWorkIsKnown();
     void startForgetsTheEarlierImages();
     void startOfAnEmptyListForgetsToo();
     void startDuringARunReplacesTheQueueAndKeepsThePhotoInHand();
@@ -280,6 +281,39 @@ void TestReadingThread::receiversOnTheGuiThreadSeeTheImages()
     QVERIFY(seen.at(0) >= 10);
     QVERIFY(seen.at(1) >= 20);
     QCOMPARE(seen.at(2), 25);
+}
+
+void TestReadingThread::theLastSignalOfTheWorkIsKnown()
+{
+    Gate entered;
+    Gate leave;
+    const QStringList names = photoNames(25);
+    fakeHost().setPhotos(names, {});
+    ReadingThread thread(nullptr);
+    QObject page;
+    QList<bool> isLast;
+    connect(&thread, &ReadingThread::Loaded, &page, [&] { isLast.append(thread.isLastLoaded()); });
+    // All photos are there before the first of three signals is delivered.
+    thread.Start(names);
+    QVERIFY(thread.wait());
+    QTRY_COMPARE(isLast, QList<bool>({ false, false, true }));
+
+    // The photo after the twentieth is held back.
+    isLast.clear();
+    fakeHost().setPhoto(names.at(20), heldBack(&entered, &leave));
+    thread.Start(names);
+    entered.pass();
+    QTRY_COMPARE(isLast, QList<bool>({ false, false }));
+    leave.open();
+    QTRY_COMPARE(isLast, QList<bool>({ false, false, true }));
+
+    // A signal of work that was given up may come late.
+    isLast.clear();
+    fakeHost().setPhoto(names.at(20), {});
+    thread.Start(names);
+    QVERIFY(thread.wait());
+    thread.Clear();
+    QTRY_COMPARE(isLast, QList<bool>({ false, false, false, true }));
 }
 
 void TestReadingThread::startForgetsTheEarlierImages()
