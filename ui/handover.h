@@ -5,18 +5,20 @@
 #include "plugin/hostapplication.h"
 #include "plugin/xiapplication.h"
 #include "ui/lowmemory.h"
+#include "ui/pagephotos.h"
 
 namespace PanoHead
 {
 
 /**
- * Next, on every page: \p describe fills \p description, and the host gets a copy of it. Without a
- * host nothing is done and the answer is true. When \p describe answers false or memory runs out,
- * as in `describeWithinMemory`, nothing is handed over and the answer is false.
+ * Next, on every page: \p describe fills \p description, and the host gets a copy of it, after
+ * which it may delete the photos. Without a host nothing is done and the answer is true. When \p
+ * describe answers false or memory runs out, as in `describeWithinMemory`, nothing is handed over
+ * and the answer is false.
  */
 template <typename Describe>
 [[nodiscard]] bool handOver(StructuredPanoramaProperties &description, const Describe &describe,
-                            LowMemoryNotice &notice)
+                            PagePhotos &photos, LowMemoryNotice &notice)
 {
     XIApplication *host = findHost();
     if (host == nullptr) {
@@ -25,6 +27,7 @@ template <typename Describe>
     if (!describeWithinMemory(description, describe, notice)) {
         return false;
     }
+    photos.forget();
     host->ImportStructuredPanorama(description);
     return true;
 }

@@ -105,11 +105,10 @@ void PreviewCanvas::redraw()
                         isOpaque ? std::make_optional(m_colours.caption.text.color().rgb())
                                  : std::nullopt);
         indexCells();
-        // Scaled photos and captions are best drawn at once, large grids as they are looked at.
-        const bool isDrawnAtOnce = m_scene.style == CellStyle::FittedWithCaption;
-        m_isDrawn.assign(m_image.height() / kStripRows + 1, isDrawnAtOnce);
-        if (isDrawnAtOnce) {
-            drawAll();
+        if (m_scene.style == CellStyle::FittedWithCaption) {
+            drawCells();
+        } else {
+            drawStrips();
         }
         m_isValid = true;
     } catch (const std::bad_alloc &) {
@@ -117,7 +116,7 @@ void PreviewCanvas::redraw()
     }
 }
 
-void PreviewCanvas::drawAll()
+void PreviewCanvas::drawCells()
 {
     QPainter painter(&m_image);
     fillBackground(painter);
@@ -127,28 +126,20 @@ void PreviewCanvas::drawAll()
     }
 }
 
-const QImage &PreviewCanvas::imageIn(const QRect &rect)
+/** Unscaled photos reach far over their neighbours: what they hide is left out, strip by strip. */
+void PreviewCanvas::drawStrips()
 {
-    const QRect wanted = rect & m_image.rect();
-    if (wanted.isEmpty()) {
-        return m_image;
+    QPainter painter(&m_image);
+    for (int top = 0; top < m_image.height(); top += kStripRows) {
+        const QRect strip(0, top, m_image.width(), kStripRows);
+        patchRect({ m_image, painter, strip & m_image.rect() });
     }
-    for (int strip = wanted.top() / kStripRows; strip <= wanted.bottom() / kStripRows; ++strip) {
-        if (!m_isDrawn[strip]) {
-            QPainter painter(&m_image);
-            const QRect rows(0, strip * kStripRows, m_image.width(), kStripRows);
-            patchRect({ m_image, painter, rows & m_image.rect() });
-            m_isDrawn[strip] = true;
-        }
-    }
-    return m_image;
 }
 
 void PreviewCanvas::patch(const QRegion &region)
 {
     m_isValid = false;
     try {
-        (void)imageIn(region.boundingRect());
         QPainter painter(&m_image);
         for (const QRect &rect : region) {
             patchRect({ m_image, painter, rect });

@@ -46,24 +46,20 @@ public:
     [[nodiscard]] Change changeTo(const PreviewScene &scene, const PreviewColours &colours) const;
     /** Draws \p change, the answer of \c changeTo. Without memory for it the picture is null. */
     void update(const PreviewScene &scene, const PreviewColours &colours, const Change &change);
-    /** The next update redraws everything: fonts have changed. */
+    /** The next update redraws everything. */
     void invalidate() { m_isValid = false; }
     /** Forgets picture and scene. */
     void clear();
     /** The photos drawn so far may be gone; another one may even have the same address. */
     void forgetPhotos();
 
-    [[nodiscard]] bool isNull() const { return m_image.isNull(); }
-    [[nodiscard]] QSize size() const { return m_image.size(); }
-    /** The picture, drawn at least in \p rect; null when there is nothing to show. Parts of grids
-     * are drawn when they are first asked for. Throws std::bad_alloc. */
-    [[nodiscard]] const QImage &imageIn(const QRect &rect);
-    /** All of the picture. Throws std::bad_alloc. */
-    [[nodiscard]] const QImage &image() { return imageIn(m_image.rect()); }
+    /** The picture; null when there is nothing to show. */
+    [[nodiscard]] const QImage &image() const { return m_image; }
 
 private:
     void redraw();
-    void drawAll();
+    void drawCells();
+    void drawStrips();
     void patch(const QRegion &region);
     void patchRect(const Patch &patch);
     void indexCells();
@@ -78,7 +74,6 @@ private:
     PreviewScene m_scene;
     PreviewColours m_colours;
     QImage m_image;
-    std::vector<bool> m_isDrawn; // strips of kStripRows rows
     CellPainter m_painter;
     QSize m_largestBox; // of all cells, with their outlines
     QSize m_largestPhoto; // of all unscaled ones drawn so far

@@ -24,12 +24,16 @@ namespace
 constexpr LayoutRules kClaussLayout{ 0.0 /* no smallest step */, Span::Absolute,
                                      Precision::Single };
 
+constexpr PhotoQuestions kClaussQuestions{ false /* lens */, true /* shot time */,
+                                           EqualTimes::GiveUp };
+
 } // namespace
 
 UIWPClauss::UIWPClauss(QWidget *parent)
     : QWizardPage(parent)
     , m_readingThread(nullptr)
     , m_layout(kClaussLayout)
+    , m_photos(kClaussQuestions, &previewImages)
 {
     setupUi(this);
     setLogo(this, QStringLiteral(":/7A21C94E-5B20-2020-2020-D6D081182F97/Resources/Clauss_wp.png"));
@@ -37,7 +41,7 @@ UIWPClauss::UIWPClauss(QWidget *parent)
     CreateWidgets();
     CreateConnects();
     Reset();
-    recolourSubtitle(this, m_preview);
+    recolourSubtitle(this, m_photos.preview());
     m_lowMemory = new LowMemoryNotice(this, m_readingThread,
                                       { tr("Warning"),
                                         tr("There is not enough memory for so many images. Close "
@@ -51,7 +55,7 @@ UIWPClauss::~UIWPClauss()
 
 void UIWPClauss::CreateWidgets()
 {
-    m_preview = placePreview(m_saPreview);
+    m_photos.place(m_saPreview, m_readingThread);
     completePaths(m_leConfigFile);
     liftLengthLimit(m_leImage);
 }
@@ -81,7 +85,7 @@ bool UIWPClauss::isComplete() const
 bool UIWPClauss::validatePage()
 {
     return handOver(
-        *this, [this] { return describe(); }, *m_lowMemory);
+        *this, [this] { return describe(); }, m_photos, *m_lowMemory);
 }
 
 bool UIWPClauss::describe()
@@ -158,9 +162,7 @@ void UIWPClauss::SelectImages()
 void UIWPClauss::usePhotos(const QStringList &photos)
 {
     m_state.images = photos;
-    m_shotOrder.forget();
-    m_preview->forgetPhotos();
-    readPhotos(*m_readingThread, photos);
+    m_photos.read(photos);
 }
 
 void UIWPClauss::SetConfigFFilename()
@@ -184,6 +186,7 @@ void UIWPClauss::Reset()
     m_state = ShootState();
     shots.clear();
     m_readingThread->Clear();
+    m_photos.forget();
     UpdateUI();
 }
 
@@ -191,6 +194,7 @@ void UIWPClauss::OnInverseCoordinates()
 {
     invertPitch(shots);
     m_state.invertPitchRange();
+    m_photos.drawAnew();
     UpdateUI();
 }
 
@@ -205,16 +209,18 @@ void UIWPClauss::UpdateUI()
 
 void UIWPClauss::UpdatePreview()
 {
-    m_preview->withinMemory([this] { showPreview(); });
+    if (m_hSlider->value() != m_photos.preview()->zoomPercent()) {
+        m_photos.drawAnew();
+    }
+    m_photos.arrived();
+    m_photos.preview()->withinMemory([this] { showPreview(); });
     Q_EMIT completeChanged();
 }
 
 void UIWPClauss::showPreview()
 {
-    previewImages = m_shotOrder.update(m_readingThread->XIImageDefs());
     // After a failed parse positions may be left, without a range to lay them out over.
     const bool hasRecord = m_state.shotCount > 0;
-    m_preview->showScene(
-        { hasRecord ? m_layout.of(shots, m_state.extents()) : PreviewLayout(), previewImages },
-        m_hSlider->value());
+    m_photos.show(hasRecord ? m_layout.of(shots, m_state.extents()) : PreviewLayout(),
+                  CellStyle::FittedWithCaption, m_hSlider->value());
 }

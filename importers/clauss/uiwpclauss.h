@@ -5,7 +5,7 @@
 #include "importers/clauss/clausstospp.h"
 #include "importers/common/previewlayout.h"
 #include "importers/common/shootstate.h"
-#include "importers/common/shotorder.h"
+#include "ui/pagephotos.h"
 #include "ui/shootview.h"
 #include "ui_uiwpclauss.h"
 
@@ -17,7 +17,6 @@ class ReadingThread;
 namespace PanoHead
 {
 class LowMemoryNotice;
-class PreviewLabel;
 } // namespace PanoHead
 
 /** The wizard page of the Clauss Rodeon importer. */
@@ -63,11 +62,10 @@ private:
     void usePhotos(const QStringList &photos);
 
     PanoHead::ShootState m_state;
-    QList<XIImageDef *> previewImages; ///< what the preview shows, by capture time; not owned
+    QList<XIImageDef *> previewImages; ///< what the preview shows; not owned
     ReadingThread *m_readingThread;
-    PanoHead::PreviewLabel *m_preview = nullptr;
     PanoHead::ShotLayout m_layout;
-    PanoHead::ShotOrder m_shotOrder{ PanoHead::EqualTimes::GiveUp };
+    PanoHead::PagePhotos m_photos;
     PanoHead::PhotoNames m_photoNames;
     PanoHead::LowMemoryNotice *m_lowMemory = nullptr;
 };

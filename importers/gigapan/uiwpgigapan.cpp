@@ -4,7 +4,6 @@
 
 #include "importers/gigapan/gridguess.h"
 #include "importers/gigapan/gridorder.h"
-#include "plugin/xiimagedef.h"
 #include "ui/connectpage.h"
 #include "ui/filedialogs.h"
 #include "ui/formviews.h"
@@ -13,8 +12,6 @@
 #include "ui/previewlabel.h"
 #include "ui/xnoevent.h"
 
-#include <QPixmap>
-
 using namespace PanoHead;
 
 namespace
@@ -22,6 +19,9 @@ namespace
 
 constexpr int kFreshRows = 4;
 constexpr int kFreshColumns = 5;
+
+constexpr PhotoQuestions kGigapanQuestions{ false /* lens */, true /* shot time */,
+                                            EqualTimes::GiveUp };
 
 DetectionOptions detectionOptions(const Ui::UIWPGigapanClass &form)
 {
@@ -42,13 +42,14 @@ UIWPGigapan::UIWPGigapan(QWidget *parent)
     : QWizardPage(parent)
     , GigapanToSPP(0, 0, kColumnsFromLeft, 1, 0)
     , m_readingThread(nullptr)
+    , m_photos(kGigapanQuestions, &previewImages)
 {
     setupUi(this);
     m_readingThread = new ReadingThread(this);
     CreateWidgets();
     CreateConnects();
     Reset();
-    recolourSubtitle(this, m_preview);
+    recolourSubtitle(this, m_photos.preview());
     m_lowMemory = new LowMemoryNotice(this, m_readingThread,
                                       { tr("Warning"),
                                         tr("There is not enough memory for so many images. Close "
@@ -62,7 +63,7 @@ UIWPGigapan::~UIWPGigapan()
 
 void UIWPGigapan::CreateWidgets()
 {
-    m_preview = placePreview(m_saPreview);
+    m_photos.place(m_saPreview, m_readingThread);
     liftLengthLimit(m_leImage);
 }
 
@@ -90,6 +91,7 @@ void UIWPGigapan::initializePage()
 void UIWPGigapan::cleanupPage()
 {
     clearIfRunning(*m_readingThread);
+    m_photos.forget();
 }
 
 bool UIWPGigapan::isComplete() const
@@ -100,7 +102,7 @@ bool UIWPGigapan::isComplete() const
 bool UIWPGigapan::validatePage()
 {
     return handOver(
-        *this, [this] { return describe(); }, *m_lowMemory);
+        *this, [this] { return describe(); }, m_photos, *m_lowMemory);
 }
 
 bool UIWPGigapan::describe()
@@ -137,9 +139,7 @@ void UIWPGigapan::SelectImages()
         return;
     }
     images = photos;
-    m_shotOrder.forget();
-    m_preview->forgetPhotos();
-    readPhotos(*m_readingThread, photos);
+    m_photos.read(photos);
     ignoredCount = 0;
     bracketCount = 1;
     const GridSize guess = guessGrid(images.size());
@@ -201,7 +201,7 @@ void UIWPGigapan::setMode(int gridOrder, bool checked)
     }
     const XNoEvent noEvent(m_isUpdating);
     mode = gridOrder;
-    previewImages.clear();
+    m_photos.drawAnew();
     UpdatePreview();
 }
 
@@ -224,6 +224,7 @@ void UIWPGigapan::Reset()
     bracketCount = 1;
     mode = kColumnsFromLeft;
     m_readingThread->Clear();
+    m_photos.forget();
     UpdateUI();
 }
 
@@ -239,41 +240,26 @@ void UIWPGigapan::UpdateUI()
     if (QRadioButton *button = buttonOf(*this, mode)) {
         button->setChecked(true);
     }
-    previewImages.clear();
+    m_photos.drawAnew();
     UpdatePreview();
 }
 
 void UIWPGigapan::UpdatePreview()
 {
     const XNoEvent noEvent(m_isUpdating);
-    m_preview->withinMemory([this] { showPreview(); });
+    m_photos.arrived();
+    m_photos.preview()->withinMemory([this] { showPreview(); });
     Q_EMIT completeChanged();
 }
 
 void UIWPGigapan::showPreview()
 {
-    refreshPreviewImages();
     const GridView grid{ m_sbRow->value(), m_sbColumn->value(), mode, bracketCount, ignoredCount };
-    m_preview->showScene(
-        { m_layout.of(grid, thumbnailSize()), previewImages, CellStyle::UnscaledPhoto },
-        m_hSlider->value());
-}
-
-void UIWPGigapan::refreshPreviewImages()
-{
-    const QList<XIImageDef *> read = m_readingThread->XIImageDefs();
-    if (read.size() != previewImages.size()) {
-        previewImages = m_shotOrder.update(read);
+    const QSize thumbnail = m_photos.firstThumbnail();
+    const PreviewLayout &layout
+        = m_layout.of(grid, thumbnail.isEmpty() ? kDefaultThumbnail : thumbnail);
+    // A grid whose cells would have no size leaves the label as it is.
+    if (!layout.isEmpty()) {
+        m_photos.show(layout, CellStyle::UnscaledPhoto, m_hSlider->value());
     }
-}
-
-QSize UIWPGigapan::thumbnailSize() const
-{
-    for (XIImageDef *image : previewImages) {
-        const QPixmap *thumbnail = image->Thumbnail();
-        if (thumbnail != nullptr && !thumbnail->isNull()) {
-            return thumbnail->size();
-        }
-    }
-    return kDefaultThumbnail;
 }

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "importers/common/shotorder.h"
 #include "importers/gigapan/gigapantospp.h"
 #include "importers/gigapan/gridlayout.h"
+#include "ui/pagephotos.h"
 #include "ui/shootview.h"
 #include "ui_uiwpgigapan.h"
 
@@ -18,7 +18,6 @@ class XIImageDef;
 namespace PanoHead
 {
 class LowMemoryNotice;
-class PreviewLabel;
 } // namespace PanoHead
 
 /** The wizard page of the Gigapan importer. */
@@ -65,16 +64,13 @@ private:
     void showPreview();
     void setGrid(qint32 &setting, int value);
     void setMode(int gridOrder, bool checked);
-    void refreshPreviewImages();
-    [[nodiscard]] QSize thumbnailSize() const;
 
     QStringList images;
-    QList<XIImageDef *> previewImages; ///< what the preview shows, by capture time; not owned
+    QList<XIImageDef *> previewImages; ///< what the preview shows; not owned
     bool m_isUpdating = false; ///< slots that widgets call meanwhile do nothing
     ReadingThread *m_readingThread;
-    PanoHead::PreviewLabel *m_preview = nullptr;
     PanoHead::GridLayout m_layout;
-    PanoHead::ShotOrder m_shotOrder{ PanoHead::EqualTimes::GiveUp };
+    PanoHead::PagePhotos m_photos;
     PanoHead::PhotoNames m_photoNames;
     PanoHead::LowMemoryNotice *m_lowMemory = nullptr;
 };

@@ -27,18 +27,22 @@ namespace
 constexpr LayoutRules kPapywizardLayout{ 8.0 /* smallest step, degrees */, Span::Absolute,
                                          Precision::Double };
 
+constexpr PhotoQuestions kPapywizardQuestions{ true /* lens */, true /* shot time */,
+                                               EqualTimes::KeepReadingOrder };
+
 } // namespace
 
 UIWPMerlin::UIWPMerlin(QWidget *parent)
     : QWizardPage(parent)
     , m_readingThread(new ReadingThread(this))
     , m_layout(kPapywizardLayout)
+    , m_photos(kPapywizardQuestions, &previewImages)
 {
     setupUi(this);
     CreateWidgets();
     CreateConnects();
     Reset();
-    recolourSubtitle(this, m_preview);
+    recolourSubtitle(this, m_photos.preview());
     m_lowMemory = new LowMemoryNotice(this, m_readingThread,
                                       { tr("Warning"),
                                         tr("There is not enough memory for so many images. Close "
@@ -52,7 +56,7 @@ UIWPMerlin::~UIWPMerlin()
 
 void UIWPMerlin::CreateWidgets()
 {
-    m_preview = placePreview(m_saPreview);
+    m_photos.place(m_saPreview, m_readingThread);
     completePaths(m_leConfigFile);
     liftLengthLimit(m_leImage);
     fillLensTypes(m_cbLensType, { tr("Standard"), tr("Fisheye") });
@@ -66,7 +70,7 @@ void UIWPMerlin::CreateConnects()
 
 void UIWPMerlin::initializePage()
 {
-    previewImages.clear();
+    m_photos.drawAnew();
 }
 
 void UIWPMerlin::cleanupPage()
@@ -82,7 +86,7 @@ bool UIWPMerlin::isComplete() const
 bool UIWPMerlin::validatePage()
 {
     return handOver(
-        *this, [this] { return describe(); }, *m_lowMemory);
+        *this, [this] { return describe(); }, m_photos, *m_lowMemory);
 }
 
 bool UIWPMerlin::describe()
@@ -170,11 +174,7 @@ void UIWPMerlin::SelectImages()
 void UIWPMerlin::usePhotos(const QStringList &photos)
 {
     m_state.images = photos;
-    previewImages.clear();
-    m_lens.forget();
-    m_shotOrder.forget();
-    m_preview->forgetPhotos();
-    readPhotos(*m_readingThread, photos);
+    m_photos.read(photos);
 }
 
 void UIWPMerlin::SetConfigFFilename(const QString &text)
@@ -189,13 +189,14 @@ void UIWPMerlin::Reset()
 {
     forgetShoot(*this, m_state);
     m_readingThread->Clear();
+    m_photos.forget();
     redrawAll();
 }
 
 void UIWPMerlin::OnImageLoaded()
 {
-    const LensFacts preset
-        = adoptPhotos(m_state, *this, m_lens.update(m_readingThread->XIImageDefs()));
+    m_photos.arrived();
+    const LensFacts preset = adoptPhotos(m_state, *this, m_photos.lens());
     if (preset.focalMm > 0.0) {
         setLens(lensViewOf(*this), preset);
     }
@@ -236,9 +237,7 @@ void UIWPMerlin::OnRotate270()
 
 void UIWPMerlin::OnZoomChanged()
 {
-    previewImages.clear();
-    UpdatePreview();
-    Q_EMIT completeChanged();
+    redrawAll();
 }
 
 void UIWPMerlin::OnLevelLinkingClicked(bool checked)
@@ -253,7 +252,7 @@ void UIWPMerlin::OnStackLinkingClicked(bool checked)
 
 void UIWPMerlin::redrawAll()
 {
-    previewImages.clear();
+    m_photos.drawAnew();
     UpdateUI();
     Q_EMIT completeChanged();
 }
@@ -261,6 +260,7 @@ void UIWPMerlin::redrawAll()
 void UIWPMerlin::UpdateUI()
 {
     const BlockSignal blocker(this);
+    lookAtPhotos();
     showShoot(shootViewOf(*this, m_photoNames), m_state, { tr("N/A"), tr("N/A") });
     showLens(lensViewOf(*this), nbPicts, xmlFocal, m_state.imageFocal, tr("N/A"));
     const MismatchTexts texts{
@@ -270,26 +270,31 @@ void UIWPMerlin::UpdateUI()
         tr("Lens type difference between EXIF and XML"),
     };
     m_lbWarning->setText(warningText(textOf(mismatchOf(*this, m_state), texts)));
-    UpdatePreview();
+    showPreview();
 }
 
 void UIWPMerlin::UpdatePreview()
 {
-    m_preview->withinMemory([this] { showPreview(); });
+    lookAtPhotos();
+    showPreview();
+}
+
+/** Photos that know their lens late count from then on; what the user has entered stays. */
+void UIWPMerlin::lookAtPhotos()
+{
+    m_photos.look();
+    (void)adoptPhotos(m_state, *this, m_photos.lens());
 }
 
 void UIWPMerlin::showPreview()
 {
-    const QList<XIImageDef *> read = m_readingThread->XIImageDefs();
     // The same number of photos counts as the same picture, none included: wanted. Whoever changes
-    // the picture otherwise empties the list first.
-    if (read.size() == previewImages.size()) {
-        if (read.isEmpty()) {
-            m_preview->prepareScene({ m_layout.of(shots, m_state.extents()), {} });
-        }
+    // the picture otherwise asks for a new one first.
+    if (m_photos.areShown()) {
         return;
     }
-    previewImages = m_shotOrder.update(read);
-    m_preview->showScene({ m_layout.of(shots, m_state.extents()), previewImages },
-                         m_hSlider->value());
+    m_photos.preview()->withinMemory([this] {
+        m_photos.show(m_layout.of(shots, m_state.extents()), CellStyle::FittedWithCaption,
+                      m_hSlider->value());
+    });
 }

@@ -4,8 +4,8 @@
 
 #include "importers/common/previewlayout.h"
 #include "importers/common/shootstate.h"
-#include "importers/common/shotorder.h"
 #include "importers/papywizard/merlintospp.h"
+#include "ui/pagephotos.h"
 #include "ui/shootview.h"
 #include "ui_uiwpmerlin.h"
 
@@ -18,7 +18,6 @@ class XIImageDef;
 namespace PanoHead
 {
 class LowMemoryNotice;
-class PreviewLabel;
 } // namespace PanoHead
 
 /** The wizard page of the Papywizard importer. */
@@ -65,17 +64,16 @@ private:
     void CreateConnects();
     /** Fills the description; false when the user must change something first. */
     [[nodiscard]] bool describe();
+    void lookAtPhotos();
     void showPreview();
     void usePhotos(const QStringList &photos);
     void redrawAll();
 
     PanoHead::ShootState m_state;
-    QList<XIImageDef *> previewImages; ///< what the preview shows, by capture time; not owned
+    QList<XIImageDef *> previewImages; ///< what the preview shows; not owned
     ReadingThread *m_readingThread;
-    PanoHead::PreviewLabel *m_preview = nullptr;
     PanoHead::ShotLayout m_layout;
-    PanoHead::ShotOrder m_shotOrder{ PanoHead::EqualTimes::KeepReadingOrder };
-    PanoHead::LensTally m_lens;
+    PanoHead::PagePhotos m_photos;
     PanoHead::PhotoNames m_photoNames;
     PanoHead::LowMemoryNotice *m_lowMemory = nullptr;
 };

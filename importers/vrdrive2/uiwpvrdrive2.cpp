@@ -27,6 +27,10 @@ namespace
 constexpr LayoutRules kVRDrive2Layout{ 8.0 /* smallest step, degrees */, Span::NegatedSumToo,
                                        Precision::Double };
 
+// Photos stand in reading order on this page: wanted.
+constexpr PhotoQuestions kVRDrive2Questions{ true /* lens */, false /* shot time */,
+                                             EqualTimes::KeepReadingOrder };
+
 constexpr qint32 kTonemapped = 2;
 constexpr qint32 kHdrRadiance = 3;
 
@@ -36,6 +40,7 @@ UIWPVRDrive2::UIWPVRDrive2(QWidget *parent)
     : QWizardPage(parent)
     , m_readingThread(nullptr)
     , m_layout(kVRDrive2Layout)
+    , m_photos(kVRDrive2Questions, &m_previewImages)
 {
     setupUi(this);
     setLogo(this, QStringLiteral(":/7A21C94E-5B20-2020-2020-B662C695C918/Resources/VRDrive2.png"));
@@ -43,7 +48,7 @@ UIWPVRDrive2::UIWPVRDrive2(QWidget *parent)
     CreateWidgets();
     CreateConnects();
     Reset();
-    recolourSubtitle(this, m_preview);
+    recolourSubtitle(this, m_photos.preview());
     m_lowMemory = new LowMemoryNotice(this, m_readingThread,
                                       { tr("Warning"),
                                         tr("There is not enough memory for so many images. Close "
@@ -57,7 +62,7 @@ UIWPVRDrive2::~UIWPVRDrive2()
 
 void UIWPVRDrive2::CreateWidgets()
 {
-    m_preview = placePreview(m_saPreview);
+    m_photos.place(m_saPreview, m_readingThread);
     completePaths(m_leConfigFile);
     liftLengthLimit(m_leImage);
     keepPlaceWhenHidden(m_lbWarning);
@@ -89,7 +94,7 @@ bool UIWPVRDrive2::isComplete() const
 bool UIWPVRDrive2::validatePage()
 {
     return handOver(
-        *this, [this] { return describe(); }, *m_lowMemory);
+        *this, [this] { return describe(); }, m_photos, *m_lowMemory);
 }
 
 bool UIWPVRDrive2::describe()
@@ -169,9 +174,7 @@ void UIWPVRDrive2::SelectImages()
 void UIWPVRDrive2::usePhotos(const QStringList &photos)
 {
     m_state.images = photos;
-    m_lens.forget();
-    m_preview->forgetPhotos();
-    readPhotos(*m_readingThread, photos);
+    m_photos.read(photos);
 }
 
 void UIWPVRDrive2::SetConfigFFilename(const QString &text)
@@ -186,14 +189,15 @@ void UIWPVRDrive2::Reset()
 {
     forgetShoot(*this, m_state);
     m_readingThread->Clear();
-    UpdateUI();
+    m_photos.forget();
+    redrawAll();
     Q_EMIT completeChanged();
 }
 
 void UIWPVRDrive2::OnImageLoaded()
 {
-    const LensFacts preset
-        = adoptPhotos(m_state, *this, m_lens.update(m_readingThread->XIImageDefs()));
+    m_photos.arrived();
+    const LensFacts preset = adoptPhotos(m_state, *this, m_photos.lens());
     if (preset.focalMm > 0.0) {
         setLens(lensViewOf(*this), preset);
     }
@@ -205,14 +209,14 @@ void UIWPVRDrive2::OnImageLoaded()
 void UIWPVRDrive2::OnFLUseXML()
 {
     setLens(lensViewOf(*this), { xmlFocal, xmlLensType });
-    UpdateUI();
+    redrawAll();
     Q_EMIT completeChanged();
 }
 
 void UIWPVRDrive2::OnFLUseImage()
 {
     setLens(lensViewOf(*this), { m_state.imageFocal, m_state.imageLensType });
-    UpdateUI();
+    redrawAll();
     Q_EMIT completeChanged();
 }
 
@@ -220,25 +224,31 @@ void UIWPVRDrive2::OnInverseCoordinates()
 {
     invertPitch(shots);
     m_state.invertPitchRange();
-    UpdateUI();
+    redrawAll();
 }
 
 void UIWPVRDrive2::OnRotate90()
 {
     rotate(shots, 90.0F);
-    UpdateUI();
+    redrawAll();
 }
 
 void UIWPVRDrive2::OnRotate270()
 {
     rotate(shots, -90.0F);
-    UpdateUI();
+    redrawAll();
 }
 
 void UIWPVRDrive2::OnZoomChanged()
 {
-    UpdatePreview();
+    redrawAll();
     Q_EMIT completeChanged();
+}
+
+void UIWPVRDrive2::redrawAll()
+{
+    m_photos.drawAnew();
+    UpdateUI();
 }
 
 void UIWPVRDrive2::OnLevelLinkingClicked(bool checked)
@@ -254,6 +264,7 @@ void UIWPVRDrive2::OnStackLinkingClicked(bool checked)
 void UIWPVRDrive2::UpdateUI()
 {
     const BlockSignal blocker(this);
+    lookAtPhotos();
     // The ranges are not translated on this page: wanted.
     showShoot(shootViewOf(*this, m_photoNames), m_state, { tr("N/A"), QStringLiteral("N/A") });
     showLens(lensViewOf(*this), nbPicts, xmlFocal, m_state.imageFocal, tr("N/A"));
@@ -267,14 +278,26 @@ void UIWPVRDrive2::UpdateUI()
                  });
     m_lbWarning->setText(warningText(warning));
     m_lbWarning->setVisible(!warning.isEmpty());
-    UpdatePreview();
+    showPreview();
 }
 
 void UIWPVRDrive2::UpdatePreview()
 {
-    m_preview->withinMemory([this] {
-        m_preview->showScene(
-            { m_layout.of(shots, m_state.extents()), m_readingThread->XIImageDefs() },
-            m_hSlider->value());
+    lookAtPhotos();
+    showPreview();
+}
+
+/** Photos that know their lens late count from then on; what the user has entered stays. */
+void UIWPVRDrive2::lookAtPhotos()
+{
+    m_photos.look();
+    (void)adoptPhotos(m_state, *this, m_photos.lens());
+}
+
+void UIWPVRDrive2::showPreview()
+{
+    m_photos.preview()->withinMemory([this] {
+        m_photos.show(m_layout.of(shots, m_state.extents()), CellStyle::FittedWithCaption,
+                      m_hSlider->value());
     });
 }

@@ -5,6 +5,7 @@
 #include "importers/common/previewlayout.h"
 #include "importers/common/shootstate.h"
 #include "importers/vrdrive2/vrdrive2tospp.h"
+#include "ui/pagephotos.h"
 #include "ui/shootview.h"
 #include "ui_uiwpvrdrive2.h"
 
@@ -12,11 +13,11 @@
 #include <QWizardPage>
 
 class ReadingThread;
+class XIImageDef;
 
 namespace PanoHead
 {
 class LowMemoryNotice;
-class PreviewLabel;
 } // namespace PanoHead
 
 /** The wizard page of the VR Drive 2 importer. */
@@ -63,13 +64,16 @@ private:
     void CreateConnects();
     /** Fills the description; false when the user must change something first. */
     [[nodiscard]] bool describe();
+    void lookAtPhotos();
+    void showPreview();
     void usePhotos(const QStringList &photos);
+    void redrawAll();
 
     PanoHead::ShootState m_state;
     ReadingThread *m_readingThread;
-    PanoHead::PreviewLabel *m_preview = nullptr;
     PanoHead::ShotLayout m_layout;
-    PanoHead::LensTally m_lens;
+    QList<XIImageDef *> m_previewImages; ///< what the preview shows; not owned
+    PanoHead::PagePhotos m_photos;
     PanoHead::PhotoNames m_photoNames;
     PanoHead::LowMemoryNotice *m_lowMemory = nullptr;
 };

@@ -9,9 +9,12 @@
 #include <QApplication>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QStyle>
 #include <QtTest>
 
+#include <functional>
 #include <memory>
+#include <numeric>
 #include <random>
 
 using namespace PanoHead;
@@ -41,10 +44,16 @@ public:
         m_thumbnail = QPixmap::fromImage(image);
     }
 
-    QPixmap *Thumbnail() override { return &m_thumbnail; }
+    QPixmap *Thumbnail() override
+    {
+        ++m_questions;
+        return &m_thumbnail;
+    }
+    [[nodiscard]] int questions() const { return m_questions; }
 
 private:
     QPixmap m_thumbnail;
+    int m_questions = 0;
 };
 
 /** A scene of \p columns x \p rows cells \p step pixels apart, with its photos in reserve. */
@@ -74,6 +83,13 @@ struct Shoot {
         return shown;
     }
 
+    /** How often any photo has been asked for its thumbnail. */
+    [[nodiscard]] int questions() const
+    {
+        return std::accumulate(photos.cbegin(), photos.cend(), 0,
+                               [](int sum, const auto &photo) { return sum + photo->questions(); });
+    }
+
     PreviewScene scene;
     std::vector<std::unique_ptr<Photo>> photos;
 };
@@ -100,6 +116,8 @@ QString differenceFrom(const QLabel &label, const PreviewScene &scene, int zoom)
 
 } // namespace
 
+Q_DECLARE_METATYPE(std::function<void(PreviewLabel &)>)
+
 class TestPreviewLabel : public QObject
 {
     Q_OBJECT
@@ -109,24 +127,17 @@ private Q_SLOTS:
     void pictureIsTheLiteralOneAtEveryZoom();
     void zoomMayChangeWithThePhotos();
     void gridsAreLightGreyWhateverThePalette();
-    void fontChangeRedrawsEverything();
-    void applicationFontChangeRedrawsEverything();
-    void paletteChangeRedrawsEverything();
+    void pictureKeepsItsLooksUntilTheNextCall_data();
+    void pictureKeepsItsLooksUntilTheNextCall();
     void forgottenPhotosAreNotTouchedAgain();
     void newPhotosAtOldAddressesAreDrawn();
     void emptySceneShowsNothing();
-    void preparedSceneIsNotShown();
-    void preparedSceneIsShownLater();
+    void drawingAnewShowsOtherPicturesOfTheSamePhotos();
     void takenPixmapKeepsItsPicture();
     void changeOutOfSightIsNotPainted();
     void sameSceneKeepsThePixmap();
-    void largeGridIsShownInSteps();
-    void photosMayComeBeforeALargeGridIsComplete();
-    void zoomMayChangeBeforeALargeGridIsComplete();
-    void photosMayGoBeforeALargeGridIsComplete();
-    void largeGridIsEmptyUntilItIsShown();
-    void largeGridAppearsFirstWhereItIsSeen();
-    void largeGridIsShownAtOnceAtFullZoom();
+    void largeGridIsWholeWhenTheCallReturns_data();
+    void largeGridIsWholeWhenTheCallReturns();
     void updatesAllocateNoFurtherPicture_data();
     void updatesAllocateNoFurtherPicture();
 };
@@ -192,50 +203,74 @@ void TestPreviewLabel::gridsAreLightGreyWhateverThePalette()
     }
 }
 
-void TestPreviewLabel::fontChangeRedrawsEverything()
+/** Puts a label's or the application's looks back. */
+class LooksGuard
 {
-    const Shoot shoot(6, 6, 60, 36);
-    PreviewLabel label;
-    label.showScene(shoot.with(20), 100);
-    QFont font = label.font();
-    font.setBold(true);
-    label.setFont(font);
-    QCOMPARE(differenceFrom(label, shoot.with(20), 100), QString());
-    label.showScene(shoot.with(23), 100);
-    QCOMPARE(differenceFrom(label, shoot.with(23), 100), QString());
+public:
+    LooksGuard() = default;
+    ~LooksGuard()
+    {
+        QApplication::setFont(m_font);
+        QApplication::setPalette(m_palette);
+        QApplication::setStyle(m_style);
+    }
+    Q_DISABLE_COPY(LooksGuard)
+
+private:
+    QFont m_font = QApplication::font();
+    QPalette m_palette = QApplication::palette();
+    QString m_style = QApplication::style()->objectName();
+};
+
+QFont largerFont()
+{
+    QFont font = QApplication::font();
+    font.setPointSize(font.pointSize() + 4);
+    return font;
 }
 
-void TestPreviewLabel::applicationFontChangeRedrawsEverything()
+QPalette greenPalette()
 {
+    QPalette palette = QApplication::palette();
+    palette.setColor(QPalette::Window, Qt::darkGreen);
+    palette.setColor(QPalette::WindowText, Qt::yellow);
+    return palette;
+}
+
+void TestPreviewLabel::pictureKeepsItsLooksUntilTheNextCall_data()
+{
+    using Change = std::function<void(PreviewLabel &)>;
+    QTest::addColumn<Change>("change");
+    QTest::newRow("the label's font")
+        << Change([](PreviewLabel &label) { label.setFont(largerFont()); });
+    QTest::newRow("the application's font")
+        << Change([](PreviewLabel &) { QApplication::setFont(largerFont()); });
+    QTest::newRow("the label's palette")
+        << Change([](PreviewLabel &label) { label.setPalette(greenPalette()); });
+    QTest::newRow("the application's palette")
+        << Change([](PreviewLabel &) { QApplication::setPalette(greenPalette()); });
+    QTest::newRow("style sheet") << Change([](PreviewLabel &label) {
+        label.setStyleSheet(QStringLiteral("font-size: 20pt; color: red"));
+    });
+}
+
+void TestPreviewLabel::pictureKeepsItsLooksUntilTheNextCall()
+{
+    QFETCH(std::function<void(PreviewLabel &)>, change);
+    const LooksGuard guard;
     const Shoot shoot(6, 6, 60, 36);
     PreviewLabel label;
     label.show();
-    label.showScene(shoot.with(20), 100);
-    const QImage before = shownBy(label);
-    const QFont font = QApplication::font();
-    QFont larger = font;
-    larger.setPointSize(font.pointSize() + 4);
-    QApplication::setFont(larger);
-    QCoreApplication::processEvents();
-    const QString apart = differenceFrom(label, shoot.with(20), 100);
-    const bool changed = shownBy(label) != before;
-    QApplication::setFont(font);
-    QCOMPARE(apart, QString());
-    QVERIFY(changed);
-}
-
-void TestPreviewLabel::paletteChangeRedrawsEverything()
-{
-    const Shoot shoot(6, 6, 60, 36);
-    PreviewLabel label;
     label.showScene(shoot.with(20), 77);
-    QPalette palette = label.palette();
-    palette.setColor(QPalette::Window, Qt::darkGreen);
-    palette.setColor(QPalette::WindowText, Qt::yellow);
-    label.setPalette(palette);
-    QCOMPARE(differenceFrom(label, shoot.with(20), 77), QString());
-    label.showScene(shoot.with(22), 77);
-    QCOMPARE(differenceFrom(label, shoot.with(22), 77), QString());
+    const QImage before = shownBy(label).copy();
+    const int questions = shoot.questions();
+    change(label);
+    QCoreApplication::processEvents();
+    QCOMPARE(shownBy(label), before);
+    QCOMPARE(shoot.questions(), questions);
+    // One more photo, and all of the picture has the new looks.
+    label.showScene(shoot.with(21), 77);
+    QCOMPARE(differenceFrom(label, shoot.with(21), 77), QString());
 }
 
 void TestPreviewLabel::forgottenPhotosAreNotTouchedAgain()
@@ -245,10 +280,6 @@ void TestPreviewLabel::forgottenPhotosAreNotTouchedAgain()
     label.showScene(shoot.with(36), 50);
     label.forgetPhotos();
     shoot.photos.clear();
-    // Draws again, with what it knows.
-    QPalette palette = label.palette();
-    palette.setColor(QPalette::Window, Qt::darkGreen);
-    label.setPalette(palette);
     label.showScene(shoot.with(0), 50);
     QCOMPARE(differenceFrom(label, shoot.with(0), 50), QString());
 }
@@ -273,36 +304,19 @@ void TestPreviewLabel::newPhotosAtOldAddressesAreDrawn()
     QCOMPARE(differenceFrom(label, shoot.with(36), 50), QString());
 }
 
-void TestPreviewLabel::preparedSceneIsNotShown()
+void TestPreviewLabel::drawingAnewShowsOtherPicturesOfTheSamePhotos()
 {
     const Shoot shoot(6, 6, 60, 36);
     PreviewLabel label;
-    label.prepareScene(shoot.with(0));
-    QVERIFY(shownBy(label).isNull());
     label.showScene(shoot.with(20), 50);
-    const QImage before = shownBy(label).copy();
-    label.prepareScene(Shoot(3, 3, 96, 0).with(0));
-    QCOMPARE(shownBy(label), before);
-}
-
-void TestPreviewLabel::preparedSceneIsShownLater()
-{
-    const Shoot shoot(11, 7, 60, 77);
-    const Shoot other(12, 7, 50, 77);
-    PreviewLabel label;
-    label.prepareScene(shoot.with(0));
-    label.showScene(shoot.with(5), 50);
-    QCOMPARE(differenceFrom(label, shoot.with(5), 50), QString());
-    label.prepareScene(other.with(0));
-    label.showScene(other.with(3), 50);
-    QCOMPARE(differenceFrom(label, other.with(3), 50), QString());
-    // Prepared for another one than comes.
-    label.prepareScene(shoot.with(0));
-    label.showScene(other.with(3), 50);
-    QCOMPARE(differenceFrom(label, other.with(3), 50), QString());
-    label.prepareScene(PreviewScene());
-    label.showScene(other.with(4), 50);
-    QCOMPARE(differenceFrom(label, other.with(4), 50), QString());
+    for (unsigned i = 0; i < 36; ++i) {
+        shoot.photos[i]->repaint(100 + i);
+    }
+    label.showScene(shoot.with(20), 50, true);
+    QCOMPARE(differenceFrom(label, shoot.with(20), 50), QString());
+    shoot.photos[3]->repaint(200);
+    label.showScene(shoot.with(20), 60);
+    QCOMPARE(differenceFrom(label, shoot.with(20), 60), QString());
 }
 
 void TestPreviewLabel::takenPixmapKeepsItsPicture()
@@ -381,118 +395,24 @@ void TestPreviewLabel::sameSceneKeepsThePixmap()
     QCOMPARE(label.pixmap(Qt::ReturnByValue).cacheKey(), key);
 }
 
-void TestPreviewLabel::largeGridIsShownInSteps()
+void TestPreviewLabel::largeGridIsWholeWhenTheCallReturns_data()
 {
-    const Shoot grid = largeGrid();
-    PreviewLabel label;
-    label.showScene(grid.with(7), 50);
-    QCOMPARE(label.pixmap(Qt::ReturnByValue).size(), QSize(2000, 1250));
-    QVERIFY(!label.isComplete());
-    QTRY_VERIFY(label.isComplete());
-    QCOMPARE(differenceFrom(label, grid.with(7), 50), QString());
-    // From now on it follows the photos at once.
-    label.showScene(grid.with(17), 50);
-    QVERIFY(label.isComplete());
-    QCOMPARE(differenceFrom(label, grid.with(17), 50), QString());
-}
-
-void TestPreviewLabel::photosMayComeBeforeALargeGridIsComplete()
-{
-    const Shoot grid = largeGrid();
-    PreviewLabel label;
-    label.showScene(grid.with(1), 50);
-    // The first rows, the middle and the last ones.
-    for (const int count : { 20, 400, 530, 600, 840, 1000 }) {
-        QVERIFY(!label.isComplete());
-        label.showScene(grid.with(count), 50);
-        QCoreApplication::processEvents();
+    QTest::addColumn<int>("zoom");
+    for (const int zoom : { 35, 50, 100 }) {
+        QTest::addRow("%d %%", zoom) << zoom;
     }
-    QTRY_VERIFY(label.isComplete());
-    QCOMPARE(differenceFrom(label, grid.with(1000), 50), QString());
 }
 
-void TestPreviewLabel::zoomMayChangeBeforeALargeGridIsComplete()
+void TestPreviewLabel::largeGridIsWholeWhenTheCallReturns()
 {
+    QFETCH(const int, zoom);
     const Shoot grid = largeGrid();
     PreviewLabel label;
-    for (const int zoom : { 50, 90, 35 }) {
-        label.showScene(grid.with(12), zoom);
-        QCoreApplication::processEvents();
-        QVERIFY(!label.isComplete());
+    // None, the first rows, the middle and the last ones.
+    for (const int count : { 0, 7, 400, 530, 1000 }) {
+        label.showScene(grid.with(count), zoom);
+        QCOMPARE(differenceFrom(label, grid.with(count), zoom), QString());
     }
-    QTRY_VERIFY(label.isComplete());
-    QCOMPARE(differenceFrom(label, grid.with(12), 35), QString());
-}
-
-void TestPreviewLabel::photosMayGoBeforeALargeGridIsComplete()
-{
-    PreviewLabel label;
-    PreviewScene outlines;
-    {
-        Shoot grid = largeGrid();
-        outlines = grid.with(0);
-        label.showScene(grid.with(100), 50);
-        QVERIFY(!label.isComplete());
-        label.forgetPhotos();
-    }
-    QTRY_VERIFY(label.isComplete());
-    // Nothing had been drawn when the photos went.
-    QCOMPARE(differenceFrom(label, outlines, 50), QString());
-}
-
-void TestPreviewLabel::largeGridIsEmptyUntilItIsShown()
-{
-    const Shoot grid = largeGrid();
-    PreviewLabel label;
-    label.showScene(grid.with(5), 50);
-    label.resize(label.sizeHint());
-    QImage empty(label.size(), QImage::Format_RGB32);
-    empty.fill(Qt::lightGray);
-    QCOMPARE(pixelDifference(label.grab().toImage(), empty), QString());
-    QTRY_VERIFY(label.isComplete());
-    QCOMPARE(pixelDifference(label.grab().toImage(), shownBy(label)), QString());
-}
-
-void TestPreviewLabel::largeGridAppearsFirstWhereItIsSeen()
-{
-    const Shoot grid = largeGrid();
-    QScrollArea area;
-    auto *label = new PreviewLabel;
-    area.setWidget(label);
-    area.setWidgetResizable(true);
-    area.resize(400, 300);
-    area.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&area));
-    label->showScene(grid.with(0), 50);
-    QTRY_VERIFY(label->isComplete());
-    area.verticalScrollBar()->setValue(area.verticalScrollBar()->maximum());
-
-    Shoot moved = largeGrid();
-    for (PreviewCell &cell : moved.scene.layout.cells) {
-        cell.box.translate(2, 0); // one pixel at this zoom
-    }
-    label->showScene(moved.with(0), 50);
-    const auto isThere = [&](int y) {
-        // The left side of the first cell of some row of cells, and none where it was before.
-        const QImage shown = shownBy(*label);
-        return shown.pixel(2, y) == 0xff000000 && shown.pixel(1, y) != 0xff000000;
-    };
-    while (!label->isComplete() && !isThere(1230)) {
-        QCoreApplication::processEvents();
-    }
-    QVERIFY(isThere(1230));
-    QVERIFY(!isThere(20));
-    QTRY_VERIFY(label->isComplete());
-    QVERIFY(isThere(20));
-}
-
-void TestPreviewLabel::largeGridIsShownAtOnceAtFullZoom()
-{
-    const Shoot grid = largeGrid();
-    PreviewLabel label;
-    label.showScene(grid.with(3), 100);
-    QVERIFY(label.isComplete());
-    QCOMPARE(differenceFrom(label, grid.with(3), 100), QString());
 }
 
 void TestPreviewLabel::updatesAllocateNoFurtherPicture_data()

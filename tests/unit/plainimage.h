@@ -10,18 +10,23 @@
 class PlainImage : public XIImageDef
 {
 public:
-    explicit PlainImage(long shotTime)
-        : m_shotTime(shotTime)
+    explicit PlainImage(long time)
+        : shotTime(time)
     {
     }
 
-    PlainImage(float focalMm, int lensType)
-        : m_focalMm(focalMm)
-        , m_lensType(lensType)
+    PlainImage(float focal, int lens)
+        : focalMm(focal)
+        , lensType(lens)
     {
     }
 
+    /** Asked so far, thumbnails apart. */
     [[nodiscard]] int questions() const { return m_questions; }
+
+    float focalMm = 0.0F;
+    int lensType = 0;
+    long shotTime = 0;
 
     QPixmap *Thumbnail() override { return nullptr; }
     void Reserved1() override { }
@@ -34,9 +39,9 @@ public:
     void Reserved8() override { }
     void Reserved9() override { }
     void Reserved10() override { }
-    float FocalLength() override { return answer(m_focalMm); }
-    int LensType() override { return answer(m_lensType); }
-    long ShotTime() override { return answer(m_shotTime); }
+    float FocalLength() override { return answer(focalMm); }
+    int LensType() override { return answer(lensType); }
+    long ShotTime() override { return answer(shotTime); }
     float Exposure() override { return answer(0.0F); }
 
 private:
@@ -46,8 +51,5 @@ private:
         return value;
     }
 
-    float m_focalMm = 0.0F;
-    int m_lensType = 0;
-    long m_shotTime = 0;
     int m_questions = 0;
 };

@@ -1,0 +1,99 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: MIT
+#include "ui/pagephotos.h"
+
+#include "plugin/readingthread.h"
+#include "plugin/xiimagedef.h"
+#include "ui/filedialogs.h"
+#include "ui/pagesetup.h"
+#include "ui/previewlabel.h"
+
+#include <QPixmap>
+
+#include <algorithm>
+#include <new>
+
+namespace PanoHead
+{
+
+namespace
+{
+
+QSize thumbnailSize(XIImageDef &photo)
+{
+    const QPixmap *thumbnail = photo.Thumbnail();
+    return thumbnail == nullptr ? QSize() : thumbnail->size();
+}
+
+} // namespace
+
+PagePhotos::PagePhotos(const PhotoQuestions &questions, QList<XIImageDef *> *shown)
+    : m_answers(questions, thumbnailSize)
+    , m_shown(shown)
+{
+}
+
+void PagePhotos::place(QScrollArea *area, ReadingThread *thread)
+{
+    m_preview = placePreview(area);
+    m_thread = thread;
+}
+
+void PagePhotos::read(const QStringList &files)
+{
+    drawAnew();
+    forget();
+    readPhotos(*m_thread, files);
+}
+
+void PagePhotos::drawAnew()
+{
+    m_shown->clear();
+    m_areAllAsked = false;
+}
+
+void PagePhotos::arrived()
+{
+    ask(m_thread->isLastLoaded() ? AskAgain::Unanswered : AskAgain::Some);
+}
+
+void PagePhotos::look()
+{
+    ask(AskAgain::Nobody);
+}
+
+void PagePhotos::ask(AskAgain again)
+{
+    if (m_shown->isEmpty() && !m_areAllAsked) {
+        again = AskAgain::Thumbnails;
+        m_areAllAsked = true;
+    }
+    try {
+        m_haveNews = m_answers.update(m_thread->XIImageDefs(), again) || m_haveNews;
+    } catch (const std::bad_alloc &) { // NOLINT(bugprone-empty-catch): no photo is known, then
+    }
+}
+
+bool PagePhotos::areShown() const
+{
+    return m_shown->size() == m_answers.inOrder().size() && !m_haveNews;
+}
+
+void PagePhotos::show(const PreviewLayout &layout, CellStyle style, int zoomPercent)
+{
+    const bool isDrawnAnew = m_shown->isEmpty();
+    m_haveNews = false;
+    m_areAllAsked = false;
+    *m_shown = m_answers.inOrder();
+    m_preview->showScene({ layout, *m_shown, style }, zoomPercent, isDrawnAnew);
+}
+
+void PagePhotos::forget()
+{
+    std::fill(m_shown->begin(), m_shown->end(), nullptr);
+    m_answers.forget();
+    m_haveNews = false;
+    m_preview->forgetPhotos();
+}
+
+} // namespace PanoHead

@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "importers/common/photoanswers.h"
+#include "ui/previewpainter.h"
+
+#include <QList>
+#include <QStringList>
+
+class QScrollArea;
+class ReadingThread;
+
+namespace PanoHead
+{
+
+class PreviewLabel;
+
+/**
+ * The photos of a page: has them read, asks them, shows them in their layout picture and lets go of
+ * them. Photo objects are touched inside these calls only, and none is kept past `forget`.
+ */
+class PagePhotos
+{
+public:
+    /** \p shown is the page's list of the photos in its picture, by capture time; null stands for
+     * one without a thumbnail. */
+    PagePhotos(const PhotoQuestions &questions, QList<XIImageDef *> *shown);
+
+    /** Puts an empty preview into \p area, for the photos that \p thread reads. Comes first. */
+    void place(QScrollArea *area, ReadingThread *thread);
+    [[nodiscard]] PreviewLabel *preview() const { return m_preview; }
+
+    /** Reads \p files from a clean start. */
+    void read(const QStringList &files);
+    /** The thread has signalled: new photos are asked, and those that lacked an answer again, all
+     * of them at the end of the work. */
+    void arrived();
+    /** Between the thread's signals: new photos are asked. */
+    void look();
+    /** The picture is to be drawn anew, for which the next call asks all photos again. */
+    void drawAnew();
+    /** What the photos say of the lens, as far as they have been asked. */
+    [[nodiscard]] LensFacts lens() const { return m_answers.lens(); }
+    /** Of the first photo by capture time that has a thumbnail; empty for none. */
+    [[nodiscard]] QSize firstThumbnail() const { return m_answers.firstThumbnail(); }
+    /** As many photos are shown as there are, and none has given another answer since. */
+    [[nodiscard]] bool areShown() const;
+    /** Draws the photos into \p layout: all of it anew, or what has changed since the last time.
+     * Throws std::bad_alloc. */
+    void show(const PreviewLayout &layout, CellStyle style, int zoomPercent);
+
+    /** The photos may be gone from now on; the picture stays. */
+    void forget();
+
+private:
+    void ask(AskAgain again);
+
+    PhotoAnswers m_answers;
+    QList<XIImageDef *> *m_shown;
+    bool m_haveNews = false;
+    bool m_areAllAsked = false; // for the picture that is to be drawn anew
+    ReadingThread *m_thread = nullptr;
+    PreviewLabel *m_preview = nullptr;
+};
+
+} // namespace PanoHead
