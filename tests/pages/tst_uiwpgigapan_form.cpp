@@ -217,8 +217,9 @@ void TestUIWPGigapanForm::modeButtonsStandAboveTheirPictures()
                           + picture);
     QVERIFY(!resource.isNull());
     const auto *shown = page.findChild<QLabel *>(label);
-    QCOMPARE(shown->pixmap(Qt::ReturnByValue).toImage().convertToFormat(QImage::Format_ARGB32),
-             resource.convertToFormat(QImage::Format_ARGB32));
+    // As a pixmap keeps it: the way back from premultiplied is rounded by each processor in its own
+    // way.
+    QCOMPARE(shown->pixmap(Qt::ReturnByValue).toImage(), QPixmap::fromImage(resource).toImage());
 }
 
 void TestUIWPGigapanForm::gridOfModesStartsWithAnEmptyLabel()
