@@ -4,6 +4,7 @@
 
 #include <QFile>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <new>
@@ -55,26 +56,38 @@ QString systemReason()
     return QString::fromLocal8Bit(std::strerror(errno));
 }
 
-/** At most \p size bytes: a file that grows or shrinks meanwhile does no harm. */
-std::optional<QByteArray> readBytes(int fd, qint64 size)
+QString tooLarge()
 {
-    QByteArray bytes(static_cast<int>(size), Qt::Uninitialized);
-    qint64 have = 0;
-    while (have < size) {
-        const ssize_t count = ::read(fd, bytes.data() + have, static_cast<size_t>(size - have));
+    return QStringLiteral("larger than %1 MiB").arg(kMaxRecordBytes >> 20);
+}
+
+/** To the end, which need not be where the file system expects it, but never far beyond the limit.
+ */
+std::optional<QByteArray> readToEnd(int fd, qint64 expected, ReadError *error)
+{
+    constexpr qint64 kLeastRoom = 64 * 1024;
+    constexpr qint64 kMostRoom = kMaxRecordBytes + kLeastRoom;
+    QByteArray bytes(static_cast<int>(std::max(expected + 1, kLeastRoom)), Qt::Uninitialized);
+    int have = 0;
+    while (have <= kMaxRecordBytes) {
+        if (have == bytes.size()) {
+            bytes.resize(static_cast<int>(std::min(2LL * have, kMostRoom)));
+        }
+        const ssize_t count
+            = ::read(fd, bytes.data() + have, static_cast<size_t>(bytes.size() - have));
         if (count < 0 && errno == EINTR) {
             continue;
         }
         if (count < 0) {
-            return std::nullopt;
+            return fail(error, systemReason());
         }
         if (count == 0) {
-            break;
+            bytes.truncate(have);
+            return bytes;
         }
-        have += count;
+        have += static_cast<int>(count);
     }
-    bytes.truncate(static_cast<int>(have));
-    return bytes;
+    return fail(error, tooLarge());
 }
 
 /** Throws std::bad_alloc. */
@@ -93,10 +106,9 @@ std::optional<QByteArray> readWholeFile(const QString &path, ReadError *error)
         return fail(error, QStringLiteral("not a regular file"));
     }
     if (status.st_size > kMaxRecordBytes) {
-        return fail(error, QStringLiteral("larger than %1 MiB").arg(kMaxRecordBytes >> 20));
+        return fail(error, tooLarge());
     }
-    std::optional<QByteArray> bytes = readBytes(file.get(), status.st_size);
-    return bytes ? bytes : fail(error, systemReason());
+    return readToEnd(file.get(), status.st_size, error);
 }
 
 } // namespace

@@ -21,8 +21,9 @@ constexpr qint64 kMaxRecordBytes = 64 * 1024 * 1024;
 constexpr int kMaxRecordedShots = 80'000;
 
 /**
- * The bytes of a record file. Regular files only, opened without blocking and bounded in size, so
- * that no path a user can type (a FIFO, a device, a huge file) stops the GUI thread.
+ * The bytes of a record file. Regular files only, opened without blocking and bounded by
+ * `kMaxRecordBytes`, so that no path a user can type (a FIFO, a device, a huge file) stops the GUI
+ * thread. What size the file system reports does not matter: some say 0 of files that hold more.
  * \p error may be null.
  */
 [[nodiscard]] std::optional<QByteArray> readRecordFile(const QString &path, ReadError *error);

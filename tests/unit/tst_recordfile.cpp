@@ -39,6 +39,7 @@ private Q_SLOTS:
     void bytesComeAsTheyAre_data();
     void bytesComeAsTheyAre();
     void filesUpToTheLimitAreRead();
+    void filesWithoutASizeAreReadToTheirEnd();
     void refusalsSayWhy_data();
     void refusalsSayWhy();
     void aReadRecordIsMeasured();
@@ -84,6 +85,21 @@ void TestRecordFile::filesUpToTheLimitAreRead()
     QVERIFY(!readRecordFile(file.fileName(), nullptr));
 }
 
+/** Some file systems say 0 of real files. */
+void TestRecordFile::filesWithoutASizeAreReadToTheirEnd()
+{
+    const QString path = QStringLiteral("/proc/version");
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.size(), 0LL);
+    const QByteArray content = file.readAll();
+    QVERIFY(!content.isEmpty());
+    ReadError error;
+    const auto bytes = readRecordFile(path, &error);
+    QVERIFY2(bytes.has_value(), qPrintable(error.reason));
+    QCOMPARE(*bytes, content);
+}
+
 void TestRecordFile::refusalsSayWhy_data()
 {
     QTest::addColumn<QString>("path");
@@ -97,6 +113,10 @@ void TestRecordFile::refusalsSayWhy_data()
     QTest::newRow("named pipe") << QStringLiteral("pipe") << QStringLiteral("not a regular file");
     QTest::newRow("device") << QStringLiteral("/dev/zero") << QStringLiteral("not a regular file");
     QTest::newRow("too large") << QStringLiteral("large") << QStringLiteral("larger than 64 MiB");
+    QTest::newRow("size 0, and gigabytes in it")
+        << QStringLiteral("/proc/self/pagemap") << QStringLiteral("larger than 64 MiB");
+    QTest::newRow("size 0, and nothing at its beginning")
+        << QStringLiteral("/proc/self/mem") << QStringLiteral("Input/output error");
 }
 
 void TestRecordFile::refusalsSayWhy()
