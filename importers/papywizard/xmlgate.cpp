@@ -111,8 +111,9 @@ private:
     {
         count(1);
         while (!isDone() && m_text.at(m_pos) != QLatin1Char('<')) {
-            if (m_text.at(m_pos) == QLatin1Char('&')) {
-                noteReference();
+            if (m_text.at(m_pos) == QLatin1Char('&') && isEntityReference()) {
+                count(2); // the reference, and the text behind it
+                noteExpansion();
             }
             ++m_pos;
         }
@@ -150,7 +151,7 @@ private:
     {
         ++m_pos;
         while (!isDone() && m_text.at(m_pos) != quote) {
-            if (m_text.at(m_pos) == QLatin1Char('&')) {
+            if (m_text.at(m_pos) == QLatin1Char('&') && isEntityReference()) {
                 noteExpansion();
             }
             ++m_pos;
@@ -225,13 +226,10 @@ private:
         m_longestEntity = std::max(m_longestEntity, declaration.size());
     }
 
-    /** In a text: the parser keeps a node for the reference and one for the text behind it. */
-    void noteReference()
+    /** Whether the reference here stands for an entity; the others stand for a character each. */
+    [[nodiscard]] bool isEntityReference() const
     {
-        if (!startsWith(QLatin1String("&#")) && !isPredefined(referenceName(m_text, m_pos))) {
-            count(2);
-        }
-        noteExpansion();
+        return !startsWith(QLatin1String("&#")) && !isPredefined(referenceName(m_text, m_pos));
     }
 
     void noteExpansion()

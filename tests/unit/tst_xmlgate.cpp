@@ -226,6 +226,7 @@ private Q_SLOTS:
     void memoryIsEstimated();
     void endOfAnElementGivesItsLevelBack();
     void referencesTimesDeclarationAreLimited();
+    void referencesToCharactersAreNoExpansions();
     void everyEncodingIsDecodedBeforeTheScan_data();
     void everyEncodingIsDecodedBeforeTheScan();
     void decodingAnswersTheWholeText_data();
@@ -570,6 +571,21 @@ void TestXmlGate::referencesTimesDeclarationAreLimited()
     QCOMPARE(reasonFor(withDoctype(
                  subset, "<!--" + many + "--><?x " + many + "?><![CDATA[" + many + "]]>")),
              QString());
+}
+
+/** Whatever the document declares: nobody can declare these anew. */
+void TestXmlGate::referencesToCharactersAreNoExpansions()
+{
+    const QByteArray subset = "<!ENTITY e 'x'><!ENTITY amp 'xxxxxxxx'>";
+    const QByteArray plain = QByteArray("&amp;&lt;&gt;&apos;&quot;&#65;&#x41;").repeated(10'000);
+    QCOMPARE(reasonFor(withDoctype(subset, plain)), QString());
+    QCOMPARE(reasonFor(withDoctype(subset, "<a b=\"" + plain + "\"/>")), QString());
+    QCOMPARE(parsedText(withDoctype(subset, "&amp;&e;&#65;")), QStringLiteral("&xA"));
+    QVERIFY(readPapywizard(withDoctype(subset, plain)).has_value());
+    // 24,000 / 54 characters = 444 references of its own between them
+    const QByteArray mixed = "&amp;&e;&#65;";
+    QCOMPARE(reasonFor(withDoctype(subset, mixed.repeated(444))), QString());
+    QVERIFY(!reasonFor(withDoctype(subset, mixed.repeated(445))).isEmpty());
 }
 
 void TestXmlGate::everyEncodingIsDecodedBeforeTheScan_data()
