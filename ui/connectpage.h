@@ -3,6 +3,7 @@
 #pragma once
 
 #include "plugin/readingthread.h"
+#include "ui/subtitlelinks.h"
 
 #include <QLineEdit>
 #include <QPushButton>
@@ -30,6 +31,12 @@ template <typename Page> void connectLinkingChoices(Page *page)
                      &Page::OnStackLinkingClicked);
 }
 
+/** The links of the about text, which the page shows as its subtitle. */
+template <typename Page> void connectAboutText(Page *page)
+{
+    QObject::connect(new SubtitleLinks(page), &SubtitleLinks::activated, page, &Page::BrowserWeb);
+}
+
 /** A record whose angles may count downwards. */
 template <typename Page> void connectRecord(Page *page)
 {
@@ -42,6 +49,7 @@ template <typename Page> void connectRecord(Page *page)
 /** Everything on a page for records in the Papywizard schema. */
 template <typename Page> void connectSchemaPage(Page *page, ReadingThread *thread)
 {
+    connectAboutText(page);
     connectPhotoButtons(page);
     connectRecord(page);
     connectLinkingChoices(page);

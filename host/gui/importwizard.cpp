@@ -82,7 +82,7 @@ ImportWizard::ImportWizard(PanoHostApplication &app, const PluginLibrary &librar
     resize(kFirstSize);
     restoreGeometry(app.ReadSetting(settingsGroup(), geometryKey(), QByteArray()).toByteArray());
     connect(&app, &PanoHostApplication::delivered, this, &ImportWizard::takeDelivery);
-    connect(this, &QWizard::currentIdChanged, this, &ImportWizard::openLinksOfSubtitle);
+    connect(this, &QWizard::currentIdChanged, this, &ImportWizard::setUpSubtitle);
     connect(this, &QWizard::currentIdChanged, this, [this] {
         // Its size was asked for before it was shown, when fonts and styles had not settled.
         if (currentPage() != nullptr) {
@@ -186,7 +186,8 @@ void ImportWizard::takeDelivery()
                  plugin->about->Version() };
 }
 
-void ImportWizard::openLinksOfSubtitle()
+/** The page itself opens the links of its subtitle. */
+void ImportWizard::setUpSubtitle()
 {
     if (currentPage() == nullptr) {
         return;
@@ -194,7 +195,6 @@ void ImportWizard::openLinksOfSubtitle()
     // The wizard shows a page's subtitle in a label of its own, which is no child of the page.
     for (QLabel *label : findChildren<QLabel *>()) {
         if (!label->text().isEmpty() && label->text() == currentPage()->subTitle()) {
-            label->setOpenExternalLinks(true);
             label->setTextInteractionFlags(Qt::LinksAccessibleByMouse
                                            | Qt::LinksAccessibleByKeyboard);
             // The wizard leaves room for two lines of Latin letters; others stand taller.

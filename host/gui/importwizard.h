@@ -50,7 +50,7 @@ protected:
 
 private:
     void takeDelivery();
-    void openLinksOfSubtitle();
+    void setUpSubtitle();
     void fitPages();
     void rememberChoice(int id);
     void showHelp();

@@ -62,6 +62,7 @@ void UIWPClauss::CreateWidgets()
 
 void UIWPClauss::CreateConnects()
 {
+    connectAboutText(this);
     connectPhotoButtons(this);
     connectRecord(this);
     connect(m_leConfigFile, &QLineEdit::editingFinished, this, &UIWPClauss::SetConfigFFilename);

@@ -1,0 +1,368 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: MIT
+#include "dialogclicker.h"
+#include "foreignhost.h"
+
+#include <QAbstractButton>
+#include <QCompleter>
+#include <QDesktopServices>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRegularExpression>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QUrl>
+#include <QWizard>
+
+#include <memory>
+
+namespace
+{
+
+/** Notes in their order what a page asks the host for on the GUI thread, and what follows. */
+class PageHost : public Host
+{
+public:
+    using Host::Host;
+
+    QStringList steps;
+    QString start; ///< where the user was last
+
+    QString lastPath() override
+    {
+        steps.append(QStringLiteral("LastPath"));
+        return start;
+    }
+    void setLastPath(const QString &path) override
+    {
+        steps.append(QStringLiteral("SetLastPath ") + path);
+    }
+};
+
+PageHost &pageHost()
+{
+    return static_cast<PageHost &>(host());
+}
+
+/** Stands for the desktop while it lives: notes what is to be opened, and opens nothing. */
+class Desktop : public QObject
+{
+    Q_OBJECT
+
+public:
+    Desktop()
+    {
+        for (const QString &scheme : schemes()) {
+            QDesktopServices::setUrlHandler(scheme, this, "open");
+        }
+    }
+    ~Desktop() override
+    {
+        for (const QString &scheme : schemes()) {
+            QDesktopServices::unsetUrlHandler(scheme);
+        }
+    }
+
+    /** What was opened since the last call. */
+    QStringList take() { return std::exchange(m_opened, {}); }
+
+public Q_SLOTS:
+    void open(const QUrl &url)
+    {
+        m_opened.append(url.toString());
+        pageHost().steps.append(QStringLiteral("open ") + url.toString());
+    }
+
+private:
+    static QStringList schemes()
+    {
+        return { QStringLiteral("file"), QStringLiteral("http"), QStringLiteral("https") };
+    }
+
+    QStringList m_opened;
+};
+
+/** The page of a new plug-in for \p head. */
+QWizardPage *newPage(Contract::Module &module, const char *head)
+{
+    const QString name = QStringLiteral("X%1Import").arg(QLatin1String(head));
+    return Contract::asImport(pluginCalled(module.library(), name))->pages().first();
+}
+
+template <typename Widget> Widget *child(const QWidget &page, const char *name)
+{
+    auto *found = page.findChild<Widget *>(QString::fromLatin1(name));
+    if (found == nullptr) {
+        qFatal("The page has no %s", name);
+    }
+    return found;
+}
+
+/** Where the link of the page's about text leads. */
+QString linkOf(const QWizardPage *page)
+{
+    static const QRegularExpression address(QStringLiteral("href=\"([^\"]+)\""));
+    const QString link = address.match(page->subTitle()).captured(1);
+    return link.isEmpty() ? QStringLiteral("the about text has no link") : link;
+}
+
+/** The label in which \p wizard shows the about text of its current page. */
+QLabel *aboutLabel(const QWizard &wizard)
+{
+    for (QLabel *label : wizard.findChildren<QLabel *>()) {
+        if (label->isVisible() && label->text() == wizard.currentPage()->subTitle()) {
+            return label;
+        }
+    }
+    qFatal("The wizard does not show the about text");
+}
+
+/** Clicks the link of the current page's about text, as a user does. */
+void clickLink(const QWizard &wizard)
+{
+    constexpr int kStep = 3; // pixels
+    QLabel *label = aboutLabel(wizard);
+    for (int y = kStep; y < label->height(); y += kStep) {
+        for (int x = kStep; x < label->width(); x += kStep) {
+            QMouseEvent move(QEvent::MouseMove, QPointF(x, y), Qt::NoButton, Qt::NoButton,
+                             Qt::NoModifier);
+            QCoreApplication::sendEvent(label, &move);
+            if (label->cursor().shape() == Qt::PointingHandCursor) {
+                QTest::mouseClick(label, Qt::LeftButton, Qt::NoModifier, QPoint(x, y));
+                return;
+            }
+        }
+    }
+    qFatal("The about text shows no link");
+}
+
+QWizardPage *plainPage()
+{
+    auto *page = new QWizardPage;
+    page->setTitle(QStringLiteral("A page of the host's"));
+    page->setSubTitle(QStringLiteral("With a <a href=\"https://host.example\">link</a>."));
+    return page;
+}
+
+} // namespace
+
+/** What a host sees of the module's own pages in wizards of its own. */
+class TestPluginPages : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+
+    void linkOfTheAboutTextOpensOnce_data();
+    void linkOfTheAboutTextOpensOnce();
+    void linkOfTheGridPageIsLeftToTheHost();
+    void linkOpensOnItsOwnPageGoingBackAndForth();
+    void pagesOfOneHeadAnswerForThemselvesOnly();
+    void linkFollowsItsPageIntoAnotherWizard();
+    void linkIsDeadWhenItsPageIsGone();
+    void hostThatOpensLinksItselfIsNotDisturbed_data();
+    void hostThatOpensLinksItselfIsNotDisturbed();
+};
+
+void TestPluginPages::init()
+{
+    host().forget();
+    pageHost().steps.clear();
+    pageHost().start = QStringLiteral("/");
+}
+
+void TestPluginPages::linkOfTheAboutTextOpensOnce_data()
+{
+    QTest::addColumn<QByteArray>("head");
+    QTest::addColumn<QWizard::WizardStyle>("style");
+    for (const char *head : { "Clauss", "Merlin", "VRDrive2" }) {
+        QTest::addRow("%s, classic", head) << QByteArray(head) << QWizard::ClassicStyle;
+        QTest::addRow("%s, modern", head) << QByteArray(head) << QWizard::ModernStyle;
+        QTest::addRow("%s, mac", head) << QByteArray(head) << QWizard::MacStyle;
+        QTest::addRow("%s, aero", head) << QByteArray(head) << QWizard::AeroStyle;
+    }
+}
+
+void TestPluginPages::linkOfTheAboutTextOpensOnce()
+{
+    QFETCH(const QByteArray, head);
+    QFETCH(const QWizard::WizardStyle, style);
+    Contract::Module module;
+    QWizardPage *page = newPage(module, head.constData());
+    QWizard wizard;
+    wizard.setWizardStyle(style);
+    wizard.addPage(page);
+    wizard.show();
+    Desktop desktop;
+
+    clickLink(wizard);
+    QCOMPARE(desktop.take(), QStringList{ linkOf(page) });
+
+    wizard.hide();
+    wizard.show();
+    clickLink(wizard);
+    QCOMPARE(desktop.take(), QStringList{ linkOf(page) });
+    wizard.setWizardStyle(style == QWizard::MacStyle ? QWizard::ClassicStyle : QWizard::MacStyle);
+    clickLink(wizard);
+    QCOMPARE(desktop.take(), QStringList{ linkOf(page) });
+}
+
+void TestPluginPages::linkOfTheGridPageIsLeftToTheHost()
+{
+    Contract::Module module;
+    QWizard wizard;
+    wizard.addPage(newPage(module, "Gigapan"));
+    wizard.show();
+    Desktop desktop;
+
+    clickLink(wizard);
+
+    QCOMPARE(desktop.take(), QStringList());
+}
+
+void TestPluginPages::linkOpensOnItsOwnPageGoingBackAndForth()
+{
+    Contract::Module module;
+    const QList<QWizardPage *> pages{ plainPage(), newPage(module, "Clauss"),
+                                      newPage(module, "Merlin"), newPage(module, "Gigapan"),
+                                      newPage(module, "VRDrive2") };
+    QWizard wizard;
+    for (QWizardPage *page : pages) {
+        wizard.addPage(page);
+    }
+    wizard.show();
+    Desktop desktop;
+    const auto clickOn = [&](int id) {
+        QCOMPARE(wizard.currentId(), id);
+        clickLink(wizard);
+        const bool isTheHosts = id == 0 || id == 3;
+        QCOMPARE(desktop.take(), isTheHosts ? QStringList() : QStringList{ linkOf(pages.at(id)) });
+    };
+
+    for (int round = 0; round < 2; ++round) {
+        for (int id = 0; id < pages.size() - 1; ++id) {
+            clickOn(id);
+            wizard.next();
+        }
+        for (int id = pages.size() - 1; id > 0; --id) {
+            clickOn(id);
+            wizard.back();
+        }
+    }
+    wizard.restart();
+    wizard.next();
+    clickOn(1);
+}
+
+void TestPluginPages::pagesOfOneHeadAnswerForThemselvesOnly()
+{
+    Contract::Module module;
+    QWizard wizard;
+    wizard.addPage(newPage(module, "Clauss"));
+    wizard.addPage(newPage(module, "Clauss"));
+    wizard.show();
+    Desktop desktop;
+
+    clickLink(wizard);
+    QCOMPARE(desktop.take().size(), 1);
+    wizard.next();
+    QCOMPARE(wizard.currentId(), 1);
+    clickLink(wizard);
+    QCOMPARE(desktop.take().size(), 1);
+    wizard.back();
+    clickLink(wizard);
+    QCOMPARE(desktop.take().size(), 1);
+}
+
+void TestPluginPages::linkFollowsItsPageIntoAnotherWizard()
+{
+    Contract::Module module;
+    QWizardPage *page = newPage(module, "Clauss");
+    QWizardPage *other = newPage(module, "Clauss");
+    QWizard first;
+    first.addPage(page);
+    first.addPage(other);
+    first.show();
+    QWizard second;
+    Desktop desktop;
+    clickLink(first);
+    QCOMPARE(desktop.take().size(), 1);
+
+    first.removePage(0);
+    second.addPage(page);
+    second.show();
+
+    clickLink(second);
+    QCOMPARE(desktop.take(), QStringList{ linkOf(page) });
+    clickLink(first); // shows the other page now
+    QCOMPARE(desktop.take(), QStringList{ linkOf(other) });
+
+    second.removePage(0);
+    first.setPage(5, page);
+    first.next();
+    QCOMPARE(first.currentPage(), page);
+    clickLink(first);
+    QCOMPARE(desktop.take(), QStringList{ linkOf(page) });
+}
+
+void TestPluginPages::linkIsDeadWhenItsPageIsGone()
+{
+    Contract::Module module;
+    QWizard wizard;
+    wizard.addPage(newPage(module, "Clauss"));
+    wizard.show();
+    QLabel *label = aboutLabel(wizard);
+    const QString link = linkOf(wizard.currentPage());
+    Desktop desktop;
+
+    wizard.currentPage()->setParent(nullptr);
+    Q_EMIT label->linkActivated(link);
+    QCOMPARE(desktop.take(), QStringList());
+
+    delete wizard.currentPage();
+    Q_EMIT label->linkActivated(link);
+    QCOMPARE(desktop.take(), QStringList());
+}
+
+void TestPluginPages::hostThatOpensLinksItselfIsNotDisturbed_data()
+{
+    QTest::addColumn<bool>("beforeThePage"); // it sets its labels up
+    QTest::newRow("before the page is shown") << true;
+    QTest::newRow("after the page is shown") << false;
+}
+
+void TestPluginPages::hostThatOpensLinksItselfIsNotDisturbed()
+{
+    QFETCH(const bool, beforeThePage);
+    Contract::Module module;
+    QWizard wizard;
+    wizard.addPage(plainPage());
+    wizard.addPage(newPage(module, "Clauss"));
+    wizard.show();
+    QLabel *label = aboutLabel(wizard);
+    if (beforeThePage) {
+        label->setOpenExternalLinks(true);
+        wizard.next();
+    } else {
+        wizard.next();
+        label->setOpenExternalLinks(true);
+    }
+    Desktop desktop;
+    QCOMPARE(aboutLabel(wizard), label);
+
+    clickLink(wizard);
+
+    QCOMPARE(desktop.take(), QStringList{ linkOf(wizard.currentPage()) });
+    QVERIFY(label->openExternalLinks());
+    QCOMPARE(label->textInteractionFlags(), QLabel().textInteractionFlags());
+}
+
+int main(int argc, char *argv[])
+{
+    PageHost application(argc, argv);
+    TestPluginPages test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_plugin_pages.moc"
