@@ -14,6 +14,7 @@
 #include "ui/previewlabel.h"
 
 #include <QPointer>
+#include <QScopeGuard>
 
 using namespace PanoHead;
 
@@ -133,13 +134,9 @@ void UIWPClauss::SelectConfigFile()
     if (!choice) {
         return;
     }
-    if (!choice->selection.record.isEmpty()) {
-        const QPointer<UIWPClauss> self(this);
-        m_state.configPath = choice->selection.record;
-        ParseConfigFile(m_state.configPath);
-        if (self.isNull()) {
-            return;
-        }
+    const QString script = choice->selection.record;
+    if (!script.isEmpty() && !readScript(script)) {
+        return;
     }
     // In the dialog's order, not sorted: wanted.
     const QStringList photos = choice->selection.photos;
@@ -168,18 +165,31 @@ void UIWPClauss::usePhotos(const QStringList &photos)
 
 void UIWPClauss::SetConfigFFilename()
 {
+    // An open error box takes the focus, so that the edit reports once more.
+    if (m_isReadingScript) {
+        return;
+    }
     const QString text = m_leConfigFile->text();
-    // An open error box takes the focus, so that the edit reports once more: the text has not
-    // changed then, since it is stored before it is parsed.
-    if (!text.isEmpty() && text != m_state.configPath) {
-        const QPointer<UIWPClauss> self(this);
-        m_state.configPath = text;
-        ParseConfigFile(text);
-        if (self.isNull()) {
-            return;
-        }
+    // A script that could not be read may have been mended on disk meanwhile.
+    const bool isNew = text != m_state.configPath || m_state.shotCount < 0;
+    if (!text.isEmpty() && isNew && !readScript(text)) {
+        return;
     }
     UpdateUI();
+}
+
+bool UIWPClauss::readScript(const QString &path)
+{
+    const QPointer<UIWPClauss> self(this);
+    const auto done = qScopeGuard([&self] {
+        if (!self.isNull()) {
+            self->m_isReadingScript = false;
+        }
+    });
+    m_isReadingScript = true;
+    m_state.configPath = path;
+    ParseConfigFile(path);
+    return !self.isNull();
 }
 
 void UIWPClauss::Reset()

@@ -58,11 +58,14 @@ private:
     void CreateConnects();
     /** Fills the description; false when the user must change something first. */
     [[nodiscard]] bool describe();
+    /** Makes \p path the page's script; false when the host deleted the page meanwhile. */
+    [[nodiscard]] bool readScript(const QString &path);
     void showPreview();
     void usePhotos(const QStringList &photos);
 
     PanoHead::ShootState m_state;
     QList<XIImageDef *> previewImages; ///< what the preview shows; not owned
+    bool m_isReadingScript = false; ///< until its error box is closed
     ReadingThread *m_readingThread;
     PanoHead::ShotLayout m_layout;
     PanoHead::PagePhotos m_photos;

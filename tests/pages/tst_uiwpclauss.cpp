@@ -14,6 +14,7 @@
 #include <QtTest>
 
 #include <algorithm>
+#include <functional>
 #include <limits>
 #include <random>
 
@@ -52,6 +53,14 @@ void leave(QLineEdit *edit, Qt::FocusReason reason = Qt::TabFocusReason)
     edit->completer()->popup()->hide();
     QFocusEvent event(QEvent::FocusOut, reason);
     QApplication::sendEvent(edit, &event);
+}
+
+/** Leaves a text that is the same again; without an edit the field may tell nobody. */
+void editAndLeave(QLineEdit *edit)
+{
+    QTest::keyClick(edit, Qt::Key_X);
+    QTest::keyClick(edit, Qt::Key_Backspace);
+    leave(edit);
 }
 
 void checkErrorBox(const DialogClicker &clicker, const QString &path)
@@ -106,7 +115,10 @@ private Q_SLOTS:
     void unchangedPathIsNotReadAgain();
     void emptiedPathIsPutBack();
     void leavingTheFieldReadsThePath();
-    void boxForATypedPathAppearsOnce();
+    void badScriptIsReadAgain_data();
+    void badScriptIsReadAgain();
+    void boxAppearsOnceForEachReading();
+    void boxForAChosenScriptReadsNothingElse();
 
     void nextHandsOverGroupsAnglesAndLinks();
     void linksAreThoseOfThePlainLoop();
@@ -414,22 +426,86 @@ void TestUIWPClauss::leavingTheFieldReadsThePath()
     QCOMPARE(shoot.driver.text("m_lbPapyLog"), QStringLiteral("5"));
 }
 
-void TestUIWPClauss::boxForATypedPathAppearsOnce()
+void TestUIWPClauss::badScriptIsReadAgain_data()
+{
+    QTest::addColumn<bool>("typed"); // else chosen in the dialog
+    QTest::addColumn<bool>("left"); // else ended with the Return key
+    QTest::newRow("typed, Return") << true << false;
+    QTest::newRow("typed, left") << true << true;
+    QTest::newRow("chosen, Return") << false << false;
+}
+
+void TestUIWPClauss::badScriptIsReadAgain()
+{
+    QFETCH(bool, typed);
+    QFETCH(bool, left);
+    const Shoot shoot;
+    const QString script = shoot.writeScript("op_h-angle=x\nop_shoot\n");
+    DialogClicker clicker;
+    clicker.pressButton(QMessageBox::Ok);
+    if (typed) {
+        shoot.enter(script);
+    } else {
+        clicker.chooseFiles({ script });
+        shoot.driver.click(kSelectRecord);
+    }
+    checkErrorBox(clicker, script);
+    QCOMPARE(shoot.driver.text("m_lbPapyLog"), notAvailable());
+
+    shoot.writeScript(scriptRow(4)); // mended
+    if (left) {
+        editAndLeave(shoot.page.m_leConfigFile);
+    } else {
+        QTest::keyClick(shoot.page.m_leConfigFile, Qt::Key_Return);
+    }
+
+    QVERIFY(clicker.isSettled());
+    QCOMPARE(clicker.messageBoxes().size(), 1);
+    QCOMPARE(shoot.driver.text("m_lbPapyLog"), QStringLiteral("4"));
+}
+
+void TestUIWPClauss::boxAppearsOnceForEachReading()
 {
     const Shoot shoot;
     const QString missing = shoot.folder.path(QStringLiteral("missing.txt"));
-    DialogClicker clicker;
-    clicker.pressButton(QMessageBox::Ok);
-    // The box takes the focus, and the edit reports once more while the box is open.
-    clicker.beforeNextAnswer(
-        [&shoot] { leave(shoot.page.m_leConfigFile, Qt::ActiveWindowFocusReason); });
+    const auto read = [&shoot, &missing](const std::function<void()> &finishEditing) {
+        DialogClicker clicker;
+        clicker.pressButton(QMessageBox::Ok);
+        // The box takes the focus, and the edit reports once more while the box is open.
+        clicker.beforeNextAnswer(
+            [&shoot] { leave(shoot.page.m_leConfigFile, Qt::ActiveWindowFocusReason); });
 
-    shoot.enter(missing);
-    QTest::keyClick(shoot.page.m_leConfigFile, Qt::Key_Return);
-    leave(shoot.page.m_leConfigFile);
+        finishEditing();
+
+        QVERIFY(clicker.isSettled());
+        checkErrorBox(clicker, missing);
+    };
+    read([&] { shoot.enter(missing); });
+    read([&] { QTest::keyClick(shoot.page.m_leConfigFile, Qt::Key_Return); });
+    read([&] { editAndLeave(shoot.page.m_leConfigFile); });
+}
+
+void TestUIWPClauss::boxForAChosenScriptReadsNothingElse()
+{
+    const Shoot shoot;
+    const QString bad = shoot.writeScript("op_h-angle=x\n", QStringLiteral("bad.txt"));
+    const QString typed = shoot.writeScript(scriptRow(2));
+    DialogClicker clicker;
+    clicker.chooseFiles({ bad });
+    clicker.pressButton(QMessageBox::Ok);
+    clicker.beforeNextAnswer([&] {
+        // What stands in the field while the box comes is not what the page is reading.
+        shoot.page.m_leConfigFile->setText(typed);
+        clicker.beforeNextAnswer(
+            [&shoot] { leave(shoot.page.m_leConfigFile, Qt::ActiveWindowFocusReason); });
+    });
+
+    shoot.driver.click(kSelectRecord);
 
     QVERIFY(clicker.isSettled());
-    checkErrorBox(clicker, missing);
+    checkErrorBox(clicker, bad);
+    QCOMPARE(shoot.driver.text(kScript), bad);
+    QCOMPARE(shoot.driver.text("m_lbPapyLog"), notAvailable());
 }
 
 void TestUIWPClauss::nextHandsOverGroupsAnglesAndLinks()

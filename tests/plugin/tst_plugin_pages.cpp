@@ -164,6 +164,8 @@ private Q_SLOTS:
     void linkIsDeadWhenItsPageIsGone();
     void hostThatOpensLinksItselfIsNotDisturbed_data();
     void hostThatOpensLinksItselfIsNotDisturbed();
+
+    void mendedScriptIsReadOnReturn();
 };
 
 void TestPluginPages::init()
@@ -357,6 +359,43 @@ void TestPluginPages::hostThatOpensLinksItselfIsNotDisturbed()
     QCOMPARE(desktop.take(), QStringList{ linkOf(wizard.currentPage()) });
     QVERIFY(label->openExternalLinks());
     QCOMPARE(label->textInteractionFlags(), QLabel().textInteractionFlags());
+}
+
+void TestPluginPages::mendedScriptIsReadOnReturn()
+{
+    const QTemporaryDir dir;
+    const auto write = [&dir](const QByteArray &script) {
+        QFile file(dir.filePath(QStringLiteral("script.txt")));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(script);
+    };
+    Contract::Module module;
+    QWizard wizard;
+    wizard.addPage(newPage(module, "Clauss"));
+    wizard.show();
+    wizard.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&wizard));
+    auto *edit = child<QLineEdit>(wizard, "m_leConfigFile");
+    const auto *count = child<QLabel>(wizard, "m_lbPapyLog");
+    DialogClicker clicker;
+    for (int i = 0; i < 3; ++i) {
+        clicker.pressButton();
+    }
+
+    edit->setFocus();
+    QTest::keyClicks(edit, dir.filePath(QStringLiteral("script.txt")));
+    QTest::keyClick(edit, Qt::Key_Return); // there is no such file yet
+    write("op_h-angle=north\nop_shoot\n");
+    QTest::keyClick(edit, Qt::Key_Return);
+    QTest::keyClick(edit, Qt::Key_Return);
+    QCOMPARE(clicker.messageBoxes().size(), 3); // one for each reading
+    QCOMPARE(count->text(), QStringLiteral("N/A"));
+    write("op_h-angle=30\nop_shoot\nop_shoot\n");
+    QTest::keyClick(edit, Qt::Key_Return);
+
+    QCOMPARE(count->text(), QStringLiteral("2"));
+    QVERIFY(clicker.isSettled());
+    QCOMPARE(clicker.messageBoxes().size(), 3);
 }
 
 int main(int argc, char *argv[])
