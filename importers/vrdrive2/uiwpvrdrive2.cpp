@@ -16,6 +16,8 @@
 #include "ui/plaintooltip.h"
 #include "ui/previewlabel.h"
 
+#include <QPointer>
+
 #include <algorithm>
 
 using namespace PanoHead;
@@ -139,19 +141,22 @@ void UIWPVRDrive2::ParseConfigFile(const QString &fileName)
 
 void UIWPVRDrive2::SelectConfigFile()
 {
+    const QPointer<UIWPVRDrive2> self(this);
     const auto choice
         = selectRecord(this,
                        { tr("Select the preset file and/or images"),
                          tr("All Files (*.*);;XML files (*.xml)"), tr("All Files (*.*)") },
                        m_state.configPath, QStringLiteral(".xml"));
-    if (!choice) {
+    if (self.isNull()) {
         return;
     }
-    if (!choice->selection.record.isEmpty()) {
-        m_state.configPath = choice->selection.record;
+    // Unlike on the other pages the rest follows also when nothing was chosen.
+    const RecordSelection selection = choice.value_or(RecordChoice()).selection;
+    if (!selection.record.isEmpty()) {
+        m_state.configPath = selection.record;
         ParseConfigFile(m_state.configPath);
     }
-    const QStringList photos = sortedPhotos(choice->selection.photos);
+    const QStringList photos = sortedPhotos(selection.photos);
     if (!photos.isEmpty() && photos != m_state.images) {
         usePhotos(photos);
     }
@@ -161,14 +166,19 @@ void UIWPVRDrive2::SelectConfigFile()
 
 void UIWPVRDrive2::SelectImages()
 {
+    const QPointer<UIWPVRDrive2> self(this);
     const QStringList photos
         = selectPhotos(this, { tr("Select images"), tr("All Files (*.*)"), tr("All Files (*.*)") },
                        m_state.images, ControlShows::Folder);
+    if (self.isNull()) {
+        return;
+    }
     if (!photos.isEmpty()) {
         usePhotos(photos);
-        UpdateUI();
-        Q_EMIT completeChanged();
     }
+    // Unlike on the other pages also when nothing was chosen.
+    UpdateUI();
+    Q_EMIT completeChanged();
 }
 
 void UIWPVRDrive2::usePhotos(const QStringList &photos)

@@ -4,18 +4,18 @@
 #include "foreignhost.h"
 
 #include <QAbstractButton>
-#include <QCompleter>
 #include <QDesktopServices>
+#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRegularExpression>
-#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QUrl>
 #include <QWizard>
 
-#include <memory>
+#include <algorithm>
+#include <utility>
 
 namespace
 {
@@ -137,6 +137,51 @@ void clickLink(const QWizard &wizard)
     qFatal("The about text shows no link");
 }
 
+constexpr char kSelectRecord[] = "m_pbSelectConfigFile";
+constexpr char kSelectPhotos[] = "m_pbSelectImages";
+
+/** Notes between what the host is asked for when a shown page shows its state and tells of it. */
+class Steps : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Steps(QWizardPage &page)
+        : m_page(page)
+        , m_count(page.inherits("UIWPGigapan") ? child<QLabel>(page, "m_lbImage")
+                                               : child<QLabel>(page, "m_lbImageLog"))
+    {
+        connect(&page, &QWizardPage::completeChanged, this, [this] {
+            noteShown();
+            pageHost().steps.append(QStringLiteral("completeChanged"));
+        });
+        page.show();
+    }
+
+    /** Clicks \p button; what is noted begins here. */
+    void click(const QByteArray &button, Qt::KeyboardModifiers modifiers) const
+    {
+        pageHost().steps.clear();
+        m_count->setText(mark());
+        QTest::mouseClick(child<QAbstractButton>(m_page, button.constData()), Qt::LeftButton,
+                          modifiers);
+        noteShown();
+    }
+
+private:
+    static QString mark() { return QStringLiteral("not the number of photos"); }
+    void noteShown() const
+    {
+        if (m_count->text() != mark()) {
+            m_count->setText(mark());
+            pageHost().steps.append(QStringLiteral("show"));
+        }
+    }
+
+    QWizardPage &m_page;
+    QLabel *m_count;
+};
+
 QWizardPage *plainPage()
 {
     auto *page = new QWizardPage;
@@ -164,6 +209,11 @@ private Q_SLOTS:
     void linkIsDeadWhenItsPageIsGone();
     void hostThatOpensLinksItselfIsNotDisturbed_data();
     void hostThatOpensLinksItselfIsNotDisturbed();
+
+    void buttonWithoutAChoiceTakesItsSteps_data();
+    void buttonWithoutAChoiceTakesItsSteps();
+    void choiceTakesItsSteps_data();
+    void choiceTakesItsSteps();
 
     void mendedScriptIsReadOnReturn();
 };
@@ -359,6 +409,127 @@ void TestPluginPages::hostThatOpensLinksItselfIsNotDisturbed()
     QCOMPARE(desktop.take(), QStringList{ linkOf(wizard.currentPage()) });
     QVERIFY(label->openExternalLinks());
     QCOMPARE(label->textInteractionFlags(), QLabel().textInteractionFlags());
+}
+
+void TestPluginPages::buttonWithoutAChoiceTakesItsSteps_data()
+{
+    QTest::addColumn<QByteArray>("head");
+    QTest::addColumn<QByteArray>("button");
+    QTest::addColumn<bool>("control"); // else its dialog is cancelled
+    QTest::addColumn<QStringList>("steps");
+    const QString asks = QStringLiteral("LastPath");
+    const QString folder = QStringLiteral("open FOLDER");
+    const QString photo = QStringLiteral("open FOLDER/a.jpg");
+    const QString shows = QStringLiteral("show");
+    const QString tells = QStringLiteral("completeChanged");
+    const auto row
+        = [](const char *head, const char *button, bool control, const QStringList &steps) {
+              QTest::addRow("%s, %s, %s", head, button, control ? "Control" : "cancelled")
+                  << QByteArray(head) << QByteArray(button) << control << steps;
+          };
+    row("Merlin", kSelectRecord, true, { asks, folder });
+    row("Merlin", kSelectRecord, false, { asks, shows, tells }); // it reads its record again
+    row("Merlin", kSelectPhotos, true, { asks, folder });
+    // On this page everything but the choice itself follows in any case.
+    row("VRDrive2", kSelectRecord, true, { asks, folder, shows, tells });
+    row("VRDrive2", kSelectRecord, false, { asks, shows, tells });
+    row("VRDrive2", kSelectPhotos, true, { asks, folder, shows, tells });
+    row("VRDrive2", kSelectPhotos, false, { asks, shows, tells });
+    row("Clauss", kSelectRecord, true, { asks, folder });
+    row("Clauss", kSelectRecord, false, { asks, shows, tells });
+    row("Clauss", kSelectPhotos, true, { asks, photo });
+    row("Clauss", kSelectPhotos, false, { asks });
+    row("Gigapan", kSelectPhotos, true, { asks, photo });
+    row("Gigapan", kSelectPhotos, false, { asks });
+}
+
+void TestPluginPages::buttonWithoutAChoiceTakesItsSteps()
+{
+    QFETCH(const QByteArray, head);
+    QFETCH(const QByteArray, button);
+    QFETCH(const bool, control);
+    QFETCH(const QStringList, steps);
+    const QTemporaryDir dir;
+    Contract::Module module;
+    const Steps taken(*newPage(module, head.constData()));
+    pageHost().start = dir.filePath(QStringLiteral("a.jpg"));
+    Desktop desktop;
+    DialogClicker clicker;
+    if (!control) {
+        clicker.cancelFiles();
+    }
+
+    taken.click(button, control ? Qt::ControlModifier : Qt::NoModifier);
+
+    QVERIFY(clicker.isSettled());
+    const QString folder = QUrl::fromLocalFile(dir.path()).toString();
+    QCOMPARE(pageHost().steps,
+             QStringList(steps).replaceInStrings(QStringLiteral("FOLDER"), folder));
+    QVERIFY(host().photos().empty());
+}
+
+void TestPluginPages::choiceTakesItsSteps_data()
+{
+    QTest::addColumn<QByteArray>("head");
+    QTest::addColumn<QByteArray>("button");
+    QTest::addColumn<QStringList>("files");
+    QTest::addColumn<QString>("remembered"); // by the host
+    const QStringList photos{ QStringLiteral("b.jpg"), QStringLiteral("a.jpg") };
+    for (const char *head : { "Merlin", "VRDrive2", "Clauss", "Gigapan" }) {
+        QTest::addRow("%s, photos", head)
+            << QByteArray(head) << QByteArray(kSelectPhotos) << photos << QStringLiteral("a.jpg");
+    }
+    const std::initializer_list<std::pair<const char *, const char *>> heads{
+        { "Merlin", "shoot.xml" }, { "VRDrive2", "shoot.xml" }, { "Clauss", "script.txt" }
+    };
+    for (const auto &[head, name] : heads) {
+        const QString record = QLatin1String(name);
+        QTest::addRow("%s, record", head)
+            << QByteArray(head) << QByteArray(kSelectRecord) << QStringList(record) << record;
+        QTest::addRow("%s, record and photos", head)
+            << QByteArray(head) << QByteArray(kSelectRecord) << (photos + QStringList(record))
+            << record;
+        QTest::addRow("%s, photos instead of a record", head)
+            << QByteArray(head) << QByteArray(kSelectRecord) << photos
+            << QStringLiteral("last/photo.jpg");
+    }
+}
+
+void TestPluginPages::choiceTakesItsSteps()
+{
+    QFETCH(const QByteArray, head);
+    QFETCH(const QByteArray, button);
+    QFETCH(const QStringList, files);
+    QFETCH(const QString, remembered);
+    const QTemporaryDir dir;
+    QStringList chosen;
+    for (const QString &name : files) {
+        QFile file(dir.filePath(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(name.endsWith(QLatin1String("xml")) ? "<papywizard/>" : "op_shoot\n");
+        chosen.append(file.fileName());
+    }
+    QVERIFY(QDir(dir.path()).mkdir(QStringLiteral("last")));
+    Contract::Module module;
+    QWizardPage *page = newPage(module, head.constData());
+    const Steps taken(*page);
+    pageHost().start = dir.filePath(QStringLiteral("last/photo.jpg"));
+    DialogClicker clicker;
+    clicker.chooseFiles(chosen);
+
+    taken.click(button, Qt::NoModifier);
+
+    QVERIFY(clicker.isSettled());
+    // What the photos bring later waits for the event loop.
+    QCOMPARE(pageHost().steps,
+             QStringList({ QStringLiteral("LastPath"),
+                           QStringLiteral("SetLastPath ") + dir.filePath(remembered),
+                           QStringLiteral("show"), QStringLiteral("completeChanged") }));
+    QVERIFY(page->findChild<QThread *>()->wait());
+    const auto photos = std::count_if(files.cbegin(), files.cend(), [](const QString &name) {
+        return name.endsWith(QLatin1String("jpg"));
+    });
+    QCOMPARE(static_cast<int>(host().photos().size()), static_cast<int>(photos));
 }
 
 void TestPluginPages::mendedScriptIsReadOnReturn()
