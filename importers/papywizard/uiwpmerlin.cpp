@@ -34,11 +34,12 @@ constexpr PhotoQuestions kPapywizardQuestions{ true /* lens */, true /* shot tim
 
 UIWPMerlin::UIWPMerlin(QWidget *parent)
     : QWizardPage(parent)
-    , m_readingThread(new ReadingThread(this))
+    , m_readingThread(nullptr)
     , m_layout(kPapywizardLayout)
     , m_photos(kPapywizardQuestions, &previewImages)
 {
     setupUi(this);
+    m_readingThread = new ReadingThread(this);
     CreateWidgets();
     CreateConnects();
     Reset();

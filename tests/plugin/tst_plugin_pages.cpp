@@ -6,6 +6,7 @@
 #include <QAbstractButton>
 #include <QDesktopServices>
 #include <QDir>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRegularExpression>
@@ -200,6 +201,9 @@ class TestPluginPages : public QObject
 private Q_SLOTS:
     void init();
 
+    void threadIsMadeAfterTheForm_data();
+    void threadIsMadeAfterTheForm();
+
     void linkOfTheAboutTextOpensOnce_data();
     void linkOfTheAboutTextOpensOnce();
     void linkOfTheGridPageIsLeftToTheHost();
@@ -223,6 +227,27 @@ void TestPluginPages::init()
     host().forget();
     pageHost().steps.clear();
     pageHost().start = QStringLiteral("/");
+}
+
+void TestPluginPages::threadIsMadeAfterTheForm_data()
+{
+    QTest::addColumn<QByteArray>("head");
+    for (const char *head : { "Clauss", "Gigapan", "Merlin", "VRDrive2" }) {
+        QTest::newRow(head) << QByteArray(head);
+    }
+}
+
+void TestPluginPages::threadIsMadeAfterTheForm()
+{
+    QFETCH(const QByteArray, head);
+    Contract::Module module;
+    const QWizardPage *page = newPage(module, head.constData());
+
+    // Children stand in the order in which they were made.
+    const int thread = page->children().indexOf(page->findChild<QThread *>());
+    const int form = page->children().indexOf(child<QGroupBox>(*page, "groupBox"));
+    QVERIFY(form >= 0);
+    QVERIFY(thread > form);
 }
 
 void TestPluginPages::linkOfTheAboutTextOpensOnce_data()
