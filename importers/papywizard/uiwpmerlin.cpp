@@ -145,16 +145,18 @@ void UIWPMerlin::SelectConfigFile()
     if (!choice) {
         return;
     }
+    const RecordSelection &selection = choice->selection;
+    const bool wasCancelled = selection.record.isEmpty() && selection.photos.isEmpty();
     // Photos alone make the start location the record; a cancelled dialog reads the current one
     // again. Both wanted.
-    if (!choice->location.isEmpty()) {
+    if (!wasCancelled) {
         m_state.configPath = choice->location;
     }
-    if (!m_state.configPath.isEmpty()) {
+    if (!wasCancelled || !m_state.configPath.isEmpty()) {
         ParseConfigFile(m_state.configPath);
     }
-    if (!choice->selection.photos.isEmpty()) {
-        usePhotos(sortedPhotos(choice->selection.photos));
+    if (!selection.photos.isEmpty()) {
+        usePhotos(sortedPhotos(selection.photos));
     }
     UpdateUI();
     Q_EMIT completeChanged();

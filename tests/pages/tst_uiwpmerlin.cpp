@@ -25,6 +25,7 @@ private Q_SLOTS:
 
     void headerTextsGoToTheirFields();
     void photosAloneMakeTheStartLocationThePath();
+    void photosAloneWithoutAPlaceCountAsAFailedReading();
     void cancelledRecordDialogReadsTheFileAgain();
 };
 
@@ -75,6 +76,21 @@ void TestUIWPMerlin::photosAloneMakeTheStartLocationThePath()
     QCOMPARE(fakeHost().setLastPaths.mid(1), (QStringList{ record, record }));
     QCOMPARE(shoot.driver.text("m_leConfigFile"), record);
     QVERIFY(shoot.page.isComplete());
+}
+
+void TestUIWPMerlin::photosAloneWithoutAPlaceCountAsAFailedReading()
+{
+    const Shoot shoot;
+    QCOMPARE(fakeHost().lastPath, QString());
+
+    shoot.driver.load(kSelectRecord, shoot.folder.addPhotos(2));
+
+    QCOMPARE(fakeHost().setLastPaths, QStringList{ QString() });
+    QCOMPARE(shoot.driver.text("m_leConfigFile"), QString());
+    QCOMPARE(shoot.driver.text("m_lbPapyLog"), QStringLiteral("N/A"));
+    // As with any place that cannot be read.
+    QCOMPARE(shoot.driver.text("m_lbThetaMinMax"), QStringLiteral("3.40282e+38,-3.40282e+38"));
+    QCOMPARE(shoot.driver.text("m_lbImageLog"), QStringLiteral("2"));
 }
 
 void TestUIWPMerlin::cancelledRecordDialogReadsTheFileAgain()
