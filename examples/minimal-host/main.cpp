@@ -21,6 +21,7 @@
 #include <QPixmap>
 #include <QPluginLoader>
 #include <QTextStream>
+#include <QTranslator>
 #include <QWizard>
 
 #include <memory>
@@ -43,7 +44,8 @@ public:
         if (m_thumbnail.isNull()) {
             QImageReader reader(m_file);
             reader.setAutoTransform(true);
-            m_thumbnail = QPixmap::fromImage(reader.read().scaled(160, 160, Qt::KeepAspectRatio));
+            reader.setScaledSize(reader.size().scaled(160, 160, Qt::KeepAspectRatio));
+            m_thumbnail = QPixmap::fromImage(reader.read());
         }
         return &m_thumbnail;
     }
@@ -89,8 +91,16 @@ public:
     QLocale Locale() override { return QLocale(); }
     void Reserved4() override { }
     void Reserved5() override { }
-    void LoadTranslation(const QString &) override { }
-    /** Called on the pages' reading threads. */
+    void LoadTranslation(const QString &file) override
+    {
+        // Cuts parts off the name until there is a file: XPanoHead_fr_FR becomes XPanoHead_fr.
+        m_translator = std::make_unique<QTranslator>();
+        if (m_translator->load(QFileInfo(file).completeBaseName(),
+                               QStringLiteral(":/Translation"))) {
+            installTranslator(m_translator.get());
+        }
+    }
+    /** Called on the pages' reading threads, so it makes no pixmap and locks what it shares. */
     XIImageDef *CreateImageDef(const QString &file) override
     {
         if (!QImageReader(file).canRead()) {
@@ -114,9 +124,14 @@ public:
     void Reserved7() override { }
     XUIInstances *UIInstances() override { return &m_ui; }
 
+    /** Before the library goes: the translation lies in its resources. */
+    void removeTranslation() { m_translator.reset(); }
+
 private:
     QString m_lastPath;
+    std::unique_ptr<QTranslator> m_translator;
     QMutex m_mutex; ///< guards m_photos
+    /** Until the program ends: no page says when it has done with one. */
     std::vector<std::unique_ptr<Photo>> m_photos;
     XUISettings m_settings;
     XUIInstances m_ui{ &m_settings };
@@ -133,6 +148,7 @@ int main(int argc, char **argv)
         return 2;
     }
     QPluginLoader loader(QFileInfo(MinimalHost::arguments().at(1)).absoluteFilePath());
+    loader.setLoadHints({}); // Qt's default keeps a library in the process for ever
     QObject *root = loader.instance();
     auto *library = root == nullptr
         ? nullptr
@@ -147,7 +163,7 @@ int main(int argc, char **argv)
         auto *import = static_cast<XIPluginImport *>(plugin->qt_metacast("XIPluginImport"));
         const QList<QWizardPage *> pages = import->WizardPages();
         for (QWizardPage *page : pages) {
-            wizard.addPage(page);
+            wizard.addPage(page); // its link opens in the browser, without our help
         }
     }
     wizard.resize(900, 700);
@@ -159,6 +175,7 @@ int main(int argc, char **argv)
         wizard.removePage(id);
         page->setParent(nullptr);
     }
+    host.removeTranslation();
     return loader.unload() ? 0 : 1;
 }
 
