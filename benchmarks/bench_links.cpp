@@ -3,7 +3,7 @@
 
 // The search for links against plain double loops.
 #include "benchmarks/bars.h"
-#include "importers/common/linksearch.h"
+#include "shoot/linksearch.h"
 #include "tests/support/literallinks.h"
 
 #include <algorithm>

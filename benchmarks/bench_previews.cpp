@@ -3,6 +3,7 @@
 
 // What a whole load costs the GUI thread on the real pages, against drawing every cell once.
 #include "benchmarks/bars.h"
+#include "hostlink/readingthread.h"
 #include "importers/clauss/claussscript.h"
 #include "importers/clauss/uiwpclauss.h"
 #include "importers/gigapan/gridguess.h"
@@ -11,7 +12,6 @@
 #include "importers/papywizard/papywizardreader.h"
 #include "importers/papywizard/uiwpmerlin.h"
 #include "importers/vrdrive2/uiwpvrdrive2.h"
-#include "plugin/readingthread.h"
 #include "tests/support/allocations.h"
 #include "tests/support/literalpreview.h"
 #include "tests/support/recordshoot.h"

@@ -3,7 +3,7 @@
 
 // What ReadingThread::Start costs the GUI thread, against a queue searched for every file.
 #include "benchmarks/bars.h"
-#include "plugin/readingthread.h"
+#include "hostlink/readingthread.h"
 #include "tests/support/fakeapplication.h"
 
 #include <QQueue>

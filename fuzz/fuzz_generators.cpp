@@ -4,11 +4,11 @@
 #include "fuzz/check.h"
 #include "fuzz/shoot.h"
 #include "importers/clauss/clausstospp.h"
-#include "importers/common/anglerange.h"
 #include "importers/gigapan/gigapantospp.h"
 #include "importers/gigapan/gridguess.h"
 #include "importers/gigapan/gridlayout.h"
 #include "importers/vrdrive2/vrdrive2tospp.h"
+#include "shoot/anglerange.h"
 
 using namespace PanoHead;
 

@@ -3,8 +3,8 @@
 #include "fuzz/check.h"
 #include "fuzz/shoot.h"
 #include "importers/clauss/clausstospp.h"
-#include "importers/common/anglerange.h"
-#include "importers/common/angles.h"
+#include "shoot/anglerange.h"
+#include "shoot/angles.h"
 
 #include <algorithm>
 

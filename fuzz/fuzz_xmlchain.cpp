@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "fuzz/check.h"
 #include "fuzz/shoot.h"
-#include "importers/common/angles.h"
-#include "importers/common/shootstate.h"
 #include "importers/papywizard/recordedshoot.h"
 #include "importers/vrdrive2/vrdrive2tospp.h"
+#include "shoot/angles.h"
+#include "shoot/shootstate.h"
 
 #include <algorithm>
 

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "importers/common/previewlayout.h"
+#include "hostlink/xiimagedef.h"
 #include "model/structuredpanoramaproperties.h"
-#include "plugin/xiimagedef.h"
+#include "shoot/previewlayout.h"
 #include "ui/previewpainter.h"
 
 #include <QByteArray>

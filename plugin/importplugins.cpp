@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "plugin/importplugins.h"
 
+#include "hostlink/hostapplication.h"
+#include "hostlink/xiapplication.h"
 #include "importers/clauss/uiwpclauss.h"
 #include "importers/gigapan/uiwpgigapan.h"
 #include "importers/papywizard/uiwpmerlin.h"
 #include "importers/vrdrive2/uiwpvrdrive2.h"
 #include "plugin/about.h"
-#include "plugin/hostapplication.h"
-#include "plugin/xiapplication.h"
 
 #include <QIcon>
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "plugin/xiabout.h"
-#include "plugin/xipluginimport.h"
+#include "hostlink/xiabout.h"
+#include "hostlink/xipluginimport.h"
 
 #include <QObject>
 #include <QPointer>

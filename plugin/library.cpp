@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "plugin/library.h"
 
+#include "hostlink/hostapplication.h"
+#include "hostlink/xiapplication.h"
 #include "plugin/about.h"
-#include "plugin/hostapplication.h"
 #include "plugin/importplugins.h"
-#include "plugin/xiapplication.h"
 #include "ui/xui.h"
 
 #include <QCoreApplication>

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "plugin/xiabout.h"
-#include "plugin/xipluginlibrary.h"
+#include "hostlink/xiabout.h"
+#include "hostlink/xipluginlibrary.h"
 
 #include <QObject>
 

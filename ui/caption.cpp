@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/caption.h"
 
-#include "importers/common/previewlayout.h"
+#include "shoot/previewlayout.h"
 
 #include <QFontMetricsF>
 #include <QPainter>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "plugin/readingthread.h"
+#include "hostlink/readingthread.h"
 #include "ui/subtitlelinks.h"
 
 #include <QLineEdit>

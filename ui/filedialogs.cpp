@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "ui/filedialogs.h"
 
-#include "plugin/hostapplication.h"
-#include "plugin/readingthread.h"
-#include "plugin/xiapplication.h"
+#include "hostlink/hostapplication.h"
+#include "hostlink/readingthread.h"
+#include "hostlink/xiapplication.h"
 #include "ui/xui.h"
 
 #include <QDesktopServices>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "importers/common/photoselection.h"
+#include "shoot/photoselection.h"
 
 #include <QString>
 #include <QStringList>

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "plugin/hostapplication.h"
-#include "plugin/xiapplication.h"
+#include "hostlink/hostapplication.h"
+#include "hostlink/xiapplication.h"
 #include "ui/lowmemory.h"
 #include "ui/pagephotos.h"
 

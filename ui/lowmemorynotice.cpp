@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/lowmemorynotice.h"
 
-#include "plugin/readingthread.h"
+#include "hostlink/readingthread.h"
 
 #include <QCoreApplication>
 #include <QEvent>

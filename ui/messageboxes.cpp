@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/messageboxes.h"
 
-#include "importers/common/mismatch.h"
+#include "shoot/mismatch.h"
 
 #include <QPointer>
 #include <QScopeGuard>

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/pagephotos.h"
 
-#include "plugin/readingthread.h"
-#include "plugin/xiimagedef.h"
+#include "hostlink/readingthread.h"
+#include "hostlink/xiimagedef.h"
 #include "ui/filedialogs.h"
 #include "ui/pagesetup.h"
 #include "ui/previewlabel.h"

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "importers/common/photoanswers.h"
+#include "shoot/photoanswers.h"
 #include "ui/previewpainter.h"
 
 #include <QList>

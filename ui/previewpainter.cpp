@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/previewpainter.h"
 
-#include "plugin/xiimagedef.h"
+#include "hostlink/xiimagedef.h"
 #include "ui/pixels.h"
 
 #include <QPainter>

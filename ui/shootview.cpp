@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "ui/shootview.h"
 
-#include "importers/common/displaytexts.h"
-#include "importers/common/shootstate.h"
-#include "plugin/readingthread.h"
+#include "hostlink/readingthread.h"
+#include "shoot/displaytexts.h"
+#include "shoot/shootstate.h"
 
 #include <QComboBox>
 #include <QDoubleSpinBox>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "importers/common/mismatch.h"
+#include "shoot/mismatch.h"
 
 #include <QString>
 #include <QStringList>

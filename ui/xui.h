@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ui/xuiinstances.h"
+#include "hostlink/xuiinstances.h"
 
 #include <QFileDialog>
 #include <QList>

@@ -5,13 +5,13 @@
 //
 //   minimal-host PATH/libXPanoHead.so
 
+#include "hostlink/xiabout.h"
+#include "hostlink/xiapplication.h"
+#include "hostlink/xiimagedef.h"
+#include "hostlink/xipluginimport.h"
+#include "hostlink/xipluginlibrary.h"
+#include "hostlink/xuiinstances.h"
 #include "model/structuredpanoramaproperties.h"
-#include "plugin/xiabout.h"
-#include "plugin/xiapplication.h"
-#include "plugin/xiimagedef.h"
-#include "plugin/xipluginimport.h"
-#include "plugin/xipluginlibrary.h"
-#include "ui/xuiinstances.h"
 
 #include <QApplication>
 #include <QDateTime>

@@ -6,7 +6,7 @@
 #include "host/cli/displayname.h"
 #include "host/cli/inputcheck.h"
 #include "host/cli/lenschoice.h"
-#include "plugin/xiabout.h"
+#include "hostlink/xiabout.h"
 
 #include <QDir>
 #include <QWizardPage>

@@ -3,7 +3,7 @@
 #include "host/cli/commanderror.h"
 #include "host/cli/commands.h"
 #include "host/core/pluginlibrary.h"
-#include "plugin/xiabout.h"
+#include "hostlink/xiabout.h"
 
 namespace PanoHost
 {

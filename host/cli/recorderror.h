@@ -3,7 +3,7 @@
 #pragma once
 
 #include "host/core/result.h"
-#include "importers/common/recordfile.h"
+#include "shoot/recordfile.h"
 
 namespace PanoHost
 {

@@ -4,7 +4,7 @@
 
 #include "host/core/photofile.h"
 #include "host/core/thumbnailstore.h"
-#include "plugin/xiimagedef.h"
+#include "hostlink/xiimagedef.h"
 
 #include <QByteArray>
 #include <QPixmap>

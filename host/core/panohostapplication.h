@@ -5,9 +5,9 @@
 #include "host/core/hostimage.h"
 #include "host/core/result.h"
 #include "host/core/thumbnailstore.h"
+#include "hostlink/xiapplication.h"
+#include "hostlink/xuiinstances.h"
 #include "model/structuredpanoramaproperties.h"
-#include "plugin/xiapplication.h"
-#include "ui/xuiinstances.h"
 
 #include <QApplication>
 #include <QDateTime>

@@ -3,9 +3,9 @@
 #include "host/core/pluginlibrary.h"
 
 #include "host/core/panohostapplication.h"
-#include "plugin/xiabout.h"
-#include "plugin/xipluginimport.h"
-#include "plugin/xipluginlibrary.h"
+#include "hostlink/xiabout.h"
+#include "hostlink/xipluginimport.h"
+#include "hostlink/xipluginlibrary.h"
 
 #include <QCoreApplication>
 #include <QDir>

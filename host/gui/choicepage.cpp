@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/gui/choicepage.h"
 
-#include "plugin/xiabout.h"
+#include "hostlink/xiabout.h"
 
 #include <QLabel>
 #include <QListWidget>

@@ -5,7 +5,7 @@
 #include "host/gui/choicepage.h"
 #include "host/gui/pagefiller.h"
 #include "host/gui/resultpage.h"
-#include "plugin/xiabout.h"
+#include "hostlink/xiabout.h"
 
 #include <QAbstractButton>
 #include <QDropEvent>

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "importers/common/recordfile.h"
 #include "model/shootdata.h"
+#include "shoot/recordfile.h"
 
 #include <QByteArray>
 #include <QVector>

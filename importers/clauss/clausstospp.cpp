@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "importers/clauss/clausstospp.h"
 
+#include "hostlink/xiimagedef.h"
 #include "importers/clauss/claussscript.h"
-#include "importers/common/angles.h"
-#include "importers/common/linksearch.h"
-#include "plugin/xiimagedef.h"
+#include "shoot/angles.h"
+#include "shoot/linksearch.h"
 
 #include <algorithm>
 #include <new>

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "importers/clauss/uiwpclauss.h"
 
-#include "importers/common/angles.h"
-#include "importers/common/previewlayout.h"
+#include "shoot/angles.h"
+#include "shoot/previewlayout.h"
 #include "ui/blocksignal.h"
 #include "ui/connectpage.h"
 #include "ui/filedialogs.h"

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "importers/clauss/clausstospp.h"
-#include "importers/common/previewlayout.h"
-#include "importers/common/shootstate.h"
+#include "shoot/previewlayout.h"
+#include "shoot/shootstate.h"
 #include "ui/pagephotos.h"
 #include "ui/shootview.h"
 #include "ui_uiwpclauss.h"

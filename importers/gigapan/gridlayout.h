@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "importers/common/previewlayout.h"
+#include "shoot/previewlayout.h"
 
 #include <QSize>
 

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "importers/papywizard/merlintospp.h"
 
-#include "importers/common/angles.h"
-#include "importers/common/linksearch.h"
-#include "importers/common/recordfile.h"
 #include "importers/papywizard/papywizardreader.h"
+#include "shoot/angles.h"
+#include "shoot/linksearch.h"
+#include "shoot/recordfile.h"
 
 #include <algorithm>
 

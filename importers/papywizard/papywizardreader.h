@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "importers/common/recordfile.h"
 #include "model/lensmodel.h"
 #include "model/shootdata.h"
+#include "shoot/recordfile.h"
 
 #include <QByteArray>
 #include <QString>

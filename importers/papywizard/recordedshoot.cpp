@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "importers/papywizard/recordedshoot.h"
 
-#include "importers/common/shootstate.h"
 #include "importers/papywizard/merlintospp.h"
+#include "shoot/shootstate.h"
 
 namespace PanoHead
 {

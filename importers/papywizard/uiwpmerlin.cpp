@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "importers/papywizard/uiwpmerlin.h"
 
-#include "importers/common/angles.h"
-#include "importers/common/displaytexts.h"
-#include "importers/common/previewlayout.h"
 #include "importers/papywizard/recordedshoot.h"
+#include "shoot/angles.h"
+#include "shoot/displaytexts.h"
+#include "shoot/previewlayout.h"
 #include "ui/blocksignal.h"
 #include "ui/connectpage.h"
 #include "ui/filedialogs.h"

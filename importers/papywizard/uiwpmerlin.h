@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "importers/common/previewlayout.h"
-#include "importers/common/shootstate.h"
 #include "importers/papywizard/merlintospp.h"
+#include "shoot/previewlayout.h"
+#include "shoot/shootstate.h"
 #include "ui/pagephotos.h"
 #include "ui/shootview.h"
 #include "ui_uiwpmerlin.h"

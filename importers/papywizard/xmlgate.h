@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "importers/common/recordfile.h"
+#include "shoot/recordfile.h"
 
 #include <QByteArray>
 #include <QString>

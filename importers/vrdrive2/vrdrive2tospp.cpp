@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "importers/vrdrive2/vrdrive2tospp.h"
 
-#include "plugin/xiimagedef.h"
+#include "hostlink/xiimagedef.h"
 
 #include <algorithm>
 #include <cmath>

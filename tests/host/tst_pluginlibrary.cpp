@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/core/panohostapplication.h"
 #include "host/core/pluginlibrary.h"
-#include "plugin/xiabout.h"
-#include "plugin/xipluginimport.h"
+#include "hostlink/xiabout.h"
+#include "hostlink/xipluginimport.h"
 #include "tests/host/testphotos.h"
 
 #include <QDir>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
-#include "plugin/guarded.h"
+#include "hostlink/guarded.h"
 
 #include <QMutexLocker>
 #include <QTest>

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
+#include "hostlink/readingthread.h"
 #include "importers/clauss/uiwpclauss.h"
 #include "importers/gigapan/uiwpgigapan.h"
 #include "importers/papywizard/uiwpmerlin.h"
 #include "importers/vrdrive2/uiwpvrdrive2.h"
-#include "plugin/readingthread.h"
 #include "tests/hostile/failingmemory.h"
 #include "tests/support/dialogclicker.h"
 #include "tests/support/fakeapplication.h"

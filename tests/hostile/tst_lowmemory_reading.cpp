@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
-#include "plugin/readingthread.h"
+#include "hostlink/readingthread.h"
 #include "tests/hostile/failingmemory.h"
 #include "tests/support/fakeapplication.h"
 #include "tests/support/longruns.h"

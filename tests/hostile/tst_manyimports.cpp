@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
-#include "plugin/xipluginimport.h"
-#include "plugin/xipluginlibrary.h"
+#include "hostlink/xipluginimport.h"
+#include "hostlink/xipluginlibrary.h"
 #include "tests/support/fakeapplication.h"
 #include "tests/support/pagedriver.h"
 #include "tests/support/shootfolder.h"

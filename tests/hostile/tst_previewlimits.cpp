@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
-#include "importers/common/previewlayout.h"
+#include "shoot/previewlayout.h"
 
 #include <QTest>
 

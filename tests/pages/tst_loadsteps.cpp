@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 
 // What a page does, and does not do again, each time ten more photos have been read.
+#include "hostlink/readingthread.h"
 #include "importers/clauss/uiwpclauss.h"
 #include "importers/papywizard/uiwpmerlin.h"
 #include "importers/vrdrive2/uiwpvrdrive2.h"
-#include "plugin/readingthread.h"
 #include "tests/support/recordshoot.h"
 #include "ui/previewlabel.h"
 #include "ui/xui.h"

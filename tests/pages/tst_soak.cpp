@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
+#include "hostlink/readingthread.h"
 #include "importers/clauss/uiwpclauss.h"
 #include "importers/gigapan/gridguess.h"
 #include "importers/gigapan/gridlayout.h"
 #include "importers/gigapan/uiwpgigapan.h"
 #include "importers/papywizard/uiwpmerlin.h"
 #include "importers/vrdrive2/uiwpvrdrive2.h"
-#include "plugin/readingthread.h"
 #include "tests/support/allocations.h"
 #include "tests/support/literalpreview.h"
 #include "tests/support/recordshoot.h"

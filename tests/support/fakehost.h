@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "hostlink/xiapplication.h"
+#include "hostlink/xuiinstances.h"
 #include "model/structuredpanoramaproperties.h"
-#include "plugin/xiapplication.h"
 #include "tests/support/fakeimage.h"
-#include "ui/xuiinstances.h"
 
 #include <QHash>
 #include <QList>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/heldphotos.h"
 
-#include "plugin/readingthread.h"
+#include "hostlink/readingthread.h"
 #include "tests/support/fakeapplication.h"
 
 #include <chrono>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "importers/common/linksearch.h"
+#include "shoot/linksearch.h"
 
 #include <QString>
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/literalpreview.h"
 
-#include "plugin/xiimagedef.h"
+#include "hostlink/xiimagedef.h"
 
 #include <QPainter>
 #include <QPixmap>

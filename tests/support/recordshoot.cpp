@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/recordshoot.h"
 
-#include "plugin/readingthread.h"
+#include "hostlink/readingthread.h"
 
 #include <QEvent>
 #include <QFileInfo>

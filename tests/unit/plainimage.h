@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "plugin/xiimagedef.h"
+#include "hostlink/xiimagedef.h"
 
 #include <QList>
 

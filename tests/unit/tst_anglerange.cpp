@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
-#include "importers/common/anglerange.h"
+#include "shoot/anglerange.h"
 
-#include "importers/common/angles.h"
-#include "importers/common/shootstate.h"
 #include "model/shootdata.h"
 #include "model/structuredpanoramaproperties.h"
+#include "shoot/angles.h"
+#include "shoot/shootstate.h"
 
 #include <QTest>
 

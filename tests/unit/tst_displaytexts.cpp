@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
-#include "importers/common/displaytexts.h"
+#include "shoot/displaytexts.h"
 
-#include "importers/common/anglerange.h"
+#include "shoot/anglerange.h"
 
 #include <QTest>
 

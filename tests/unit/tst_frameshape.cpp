@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
+#include "hostlink/xiapplication.h"
+#include "hostlink/xiimagedef.h"
 #include "importers/clauss/uiwpclauss.h"
 #include "importers/gigapan/uiwpgigapan.h"
 #include "importers/papywizard/uiwpmerlin.h"
 #include "importers/vrdrive2/uiwpvrdrive2.h"
 #include "plugin/importplugins.h"
 #include "plugin/library.h"
-#include "plugin/xiapplication.h"
-#include "plugin/xiimagedef.h"
 #include "ui/blocksignal.h"
 #include "ui/xui.h"
 #include "ui/xuipixmaphelper.h"

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
-#include "importers/common/linksearch.h"
+#include "shoot/linksearch.h"
 
 #include "tests/support/literallinks.h"
 

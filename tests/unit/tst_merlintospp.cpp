@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "importers/papywizard/merlintospp.h"
 
-#include "importers/common/linksearch.h"
+#include "shoot/linksearch.h"
 
 #include <QRandomGenerator>
 #include <QTest>

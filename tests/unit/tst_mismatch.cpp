@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
-#include "importers/common/mismatch.h"
+#include "shoot/mismatch.h"
 
 #include <QTest>
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
-#include "importers/common/photoanswers.h"
+#include "shoot/photoanswers.h"
 
 #include "tests/unit/plainimage.h"
 

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
-#include "importers/common/recordfile.h"
+#include "shoot/recordfile.h"
 
-#include "importers/common/shootstate.h"
 #include "importers/papywizard/merlintospp.h"
 #include "importers/papywizard/recordedshoot.h"
+#include "shoot/shootstate.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
+#include "hostlink/xuiinstances.h"
 #include "model/authorizedlink.h"
 #include "model/lensmodel.h"
 #include "model/shootdata.h"
 #include "model/structuredpanoramaproperties.h"
-#include "ui/xuiinstances.h"
 
 #include <QTest>
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
-#include "importers/common/photofacts.h"
+#include "shoot/photofacts.h"
 
 #include <algorithm>
 

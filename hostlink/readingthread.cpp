@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
-#include "plugin/readingthread.h"
+#include "hostlink/readingthread.h"
 
-#include "plugin/hostapplication.h"
-#include "plugin/xiapplication.h"
+#include "hostlink/hostapplication.h"
+#include "hostlink/xiapplication.h"
 
 #include <QHash>
 #include <QMutexLocker>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
-#include "importers/common/photoselection.h"
+#include "shoot/photoselection.h"
 
 PanoHead::RecordSelection PanoHead::splitSelection(const QStringList &files,
                                                    const QString &recordEnding)

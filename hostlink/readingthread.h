@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "plugin/guarded.h"
+#include "hostlink/guarded.h"
 
 #include <QList>
 #include <QMutex>

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
-#include "plugin/hostapplication.h"
+#include "hostlink/hostapplication.h"
 
-#include "plugin/xiapplication.h"
+#include "hostlink/xiapplication.h"
 
 #include <QCoreApplication>
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "importers/common/photofacts.h"
+#include "shoot/photofacts.h"
 
 namespace PanoHead
 {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "importers/common/anglerange.h"
+#include "shoot/anglerange.h"
 
 #include <QString>
 #include <QStringList>

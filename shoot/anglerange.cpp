@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
-#include "importers/common/anglerange.h"
+#include "shoot/anglerange.h"
 
 #include "model/shootdata.h"
 

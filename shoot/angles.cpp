@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
-#include "importers/common/angles.h"
+#include "shoot/angles.h"
 
 #include "model/shootdata.h"
 #include "model/structuredpanoramaproperties.h"

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
-#include "importers/common/linksearch.h"
+#include "shoot/linksearch.h"
 
-#include "importers/common/directionindex.h"
+#include "shoot/directionindex.h"
 
 #include <algorithm>
 #include <cmath>

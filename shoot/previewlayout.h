@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "importers/common/anglerange.h"
 #include "model/shootdata.h"
+#include "shoot/anglerange.h"
 
 #include <QRectF>
 #include <QSize>

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
-#include "importers/common/photoanswers.h"
+#include "shoot/photoanswers.h"
 
+#include "hostlink/xiimagedef.h"
 #include "model/lensmodel.h"
-#include "plugin/xiimagedef.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
-#include "importers/common/shootstate.h"
+#include "shoot/shootstate.h"
 
 namespace PanoHead
 {
