@@ -352,7 +352,7 @@
     </message>
     <message>
         <source>&lt;a href=&quot;https://www.papywizard.org&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;Papywizard&lt;/font&gt;&lt;/a&gt; is a free project to drive Merlin/Orion panorama heads. The XML file format is open and used by a wide range of motorized panorama heads.</source>
-        <translation>&lt;a href=&quot;https://www.papywizard.org&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;Papywizard&lt;/font&gt;&lt;/a&gt; ist ein freies Projekt zur Steuerung von Merlin/Orion-Panoramaköpfen. Das XML-Dateiformat ist offen und wird von vielen motorisierten Panoramaköpfen verwendet.</translation>
+        <translation>&lt;a href=&quot;https://www.papywizard.org&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;Papywizard&lt;/font&gt;&lt;/a&gt; ist ein freies Projekt zur Steuerung von Merlin/Orion-Köpfen. Sein offenes XML-Format nutzen viele motorisierte Panoramaköpfe.</translation>
     </message>
     <message>
         <source>General</source>
@@ -578,7 +578,7 @@
     </message>
     <message>
         <source>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; plug-in enables an automated HDR workflow with all parameters set for true light rendering and easy use of Weavix software.</source>
-        <translation>Das Plug-in &lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; bietet einen automatisierten HDR-Ablauf, bei dem alle Parameter auf lichtgetreue Wiedergabe und einfache Nutzung der Weavix-Software eingestellt sind.</translation>
+        <translation>Das Plug-in &lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; automatisiert den HDR-Workflow; alles ist auf lichtgetreue Wiedergabe und einfache Nutzung von Weavix eingestellt.</translation>
     </message>
     <message>
         <source>General</source>

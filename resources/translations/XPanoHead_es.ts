@@ -352,7 +352,7 @@
     </message>
     <message>
         <source>&lt;a href=&quot;https://www.papywizard.org&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;Papywizard&lt;/font&gt;&lt;/a&gt; is a free project to drive Merlin/Orion panorama heads. The XML file format is open and used by a wide range of motorized panorama heads.</source>
-        <translation>&lt;a href=&quot;https://www.papywizard.org&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;Papywizard&lt;/font&gt;&lt;/a&gt; es un proyecto libre para controlar cabezales Merlin/Orion. Su formato XML es abierto y lo usan muchos cabezales panorámicos motorizados.</translation>
+        <translation>&lt;a href=&quot;https://www.papywizard.org&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;Papywizard&lt;/font&gt;&lt;/a&gt; es un proyecto libre para controlar cabezales Merlin/Orion. Su formato XML es abierto y lo usan muchos cabezales motorizados.</translation>
     </message>
     <message>
         <source>General</source>
@@ -578,7 +578,7 @@
     </message>
     <message>
         <source>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; plug-in enables an automated HDR workflow with all parameters set for true light rendering and easy use of Weavix software.</source>
-        <translation>El complemento &lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; ofrece un flujo de trabajo HDR automatizado, con todos los parámetros ajustados para una luz fiel y un uso sencillo del software Weavix.</translation>
+        <translation>El complemento &lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; automatiza el trabajo en HDR, con todos los parámetros ajustados para una luz fiel y un uso sencillo de Weavix.</translation>
     </message>
     <message>
         <source>General</source>

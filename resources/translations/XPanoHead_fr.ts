@@ -578,7 +578,7 @@
     </message>
     <message>
         <source>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; plug-in enables an automated HDR workflow with all parameters set for true light rendering and easy use of Weavix software.</source>
-        <translation>Le module &lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; offre un flux de travail HDR automatisé, tous les paramètres étant réglés pour un rendu fidèle de la lumière et un usage facile de Weavix.</translation>
+        <translation>Le module &lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; automatise le flux de travail HDR, entièrement réglé pour un rendu fidèle de la lumière et un usage facile de Weavix.</translation>
     </message>
     <message>
         <source>General</source>

@@ -352,7 +352,7 @@
     </message>
     <message>
         <source>&lt;a href=&quot;https://www.papywizard.org&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;Papywizard&lt;/font&gt;&lt;/a&gt; is a free project to drive Merlin/Orion panorama heads. The XML file format is open and used by a wide range of motorized panorama heads.</source>
-        <translation>&lt;a href=&quot;https://www.papywizard.org&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;Papywizard&lt;/font&gt;&lt;/a&gt; è un progetto libero per pilotare le teste panoramiche Merlin/Orion. Il formato di file XML è aperto ed è usato da molte teste panoramiche motorizzate.</translation>
+        <translation>&lt;a href=&quot;https://www.papywizard.org&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;Papywizard&lt;/font&gt;&lt;/a&gt; è un progetto libero per pilotare le teste Merlin/Orion. Il suo formato XML è aperto ed è usato da molte teste panoramiche motorizzate.</translation>
     </message>
     <message>
         <source>General</source>
@@ -578,7 +578,7 @@
     </message>
     <message>
         <source>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; plug-in enables an automated HDR workflow with all parameters set for true light rendering and easy use of Weavix software.</source>
-        <translation>Il plug-in &lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; offre un flusso di lavoro HDR automatizzato, con tutti i parametri impostati per una resa fedele della luce e un uso semplice del software Weavix.</translation>
+        <translation>Il plug-in &lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; automatizza il lavoro in HDR, con tutti i parametri impostati per una resa fedele della luce e un uso facile di Weavix.</translation>
     </message>
     <message>
         <source>General</source>

@@ -352,7 +352,7 @@
     </message>
     <message>
         <source>&lt;a href=&quot;https://www.papywizard.org&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;Papywizard&lt;/font&gt;&lt;/a&gt; is a free project to drive Merlin/Orion panorama heads. The XML file format is open and used by a wide range of motorized panorama heads.</source>
-        <translation>&lt;a href=&quot;https://www.papywizard.org&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;Papywizard&lt;/font&gt;&lt;/a&gt; は Merlin/Orion パノラマ雲台を動かすためのフリーのプロジェクトです。XML ファイル形式は公開されており、さまざまな電動パノラマ雲台で使われています。</translation>
+        <translation>&lt;a href=&quot;https://www.papywizard.org&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;Papywizard&lt;/font&gt;&lt;/a&gt; は Merlin/Orion パノラマ雲台を動かすためのフリーのプロジェクトです。XML 形式は公開されており、多くの電動パノラマ雲台で使われています。</translation>
     </message>
     <message>
         <source>General</source>
@@ -578,7 +578,7 @@
     </message>
     <message>
         <source>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; plug-in enables an automated HDR workflow with all parameters set for true light rendering and easy use of Weavix software.</source>
-        <translation>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; プラグインは、光を忠実に再現し Weavix ソフトウェアを簡単に使えるよう、すべてのパラメーターが設定された自動 HDR ワークフローを可能にします。</translation>
+        <translation>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; プラグインは、光を忠実に再現し Weavix を手軽に使えるよう全パラメーターを設定した、自動 HDR ワークフローを実現します。</translation>
     </message>
     <message>
         <source>General</source>

@@ -578,7 +578,7 @@
     </message>
     <message>
         <source>&lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; plug-in enables an automated HDR workflow with all parameters set for true light rendering and easy use of Weavix software.</source>
-        <translation>Wtyczka &lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; automatyzuje pracę z HDR: wszystkie parametry są dobrane tak, by wiernie oddać światło i ułatwić korzystanie z programu Weavix.</translation>
+        <translation>Wtyczka &lt;a href=&quot;https://www.roundshot.com&quot;&gt;&lt;font color=&quot;#DCDCDC&quot;&gt;VR Drive 2&lt;/font&gt;&lt;/a&gt; automatyzuje pracę z HDR: wszystkie parametry dobrano tak, by wiernie oddać światło i ułatwić pracę z Weavix.</translation>
     </message>
     <message>
         <source>General</source>
