@@ -218,7 +218,7 @@
     </message>
     <message>
         <source>Shoot setup</source>
-        <translation>Aufnahme</translation>
+        <translation>Aufnahmeeinstellungen</translation>
     </message>
     <message>
         <source>Force 360° panorama</source>
@@ -321,7 +321,7 @@
     </message>
     <message>
         <source>Bracketing used in XML, should be multiple of that number</source>
-        <translation>Belichtungsreihe in der XML-Datei: Bildanzahl muss ein Vielfaches sein</translation>
+        <translation>Belichtungsreihe in der XML-Datei: Bildanzahl sollte ein Vielfaches davon sein</translation>
     </message>
     <message>
         <source>Not the same as in XML fil</source>
@@ -404,7 +404,7 @@
     </message>
     <message>
         <source>Shoot setup</source>
-        <translation>Aufnahme</translation>
+        <translation>Aufnahmeeinstellungen</translation>
     </message>
     <message>
         <source>Inverse Y coordinates</source>
@@ -547,7 +547,7 @@
     </message>
     <message>
         <source>Bracketing used in XML, should be multiple of that number</source>
-        <translation>Belichtungsreihe in der XML-Datei: Bildanzahl muss ein Vielfaches sein</translation>
+        <translation>Belichtungsreihe in der XML-Datei: Bildanzahl sollte ein Vielfaches davon sein</translation>
     </message>
     <message>
         <source>Not the same as in XML fil</source>
@@ -638,7 +638,7 @@
     </message>
     <message>
         <source>32-bits HDR radiance</source>
-        <translation>32-Bit-HDR (Strahldichte)</translation>
+        <translation>32-Bit-HDR (Radiance)</translation>
     </message>
     <message>
         <source>TextLabel</source>
@@ -646,7 +646,7 @@
     </message>
     <message>
         <source>Shoot setup</source>
-        <translation>Aufnahme</translation>
+        <translation>Aufnahmeeinstellungen</translation>
     </message>
     <message>
         <source>Inverse Y coordinates</source>

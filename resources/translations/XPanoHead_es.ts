@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>Select the preset file and/or images</source>
-        <translation>Seleccionar el archivo de registro y/o las imágenes</translation>
+        <translation>Seleccionar el archivo de la toma y/o las imágenes</translation>
     </message>
     <message>
         <source>All Files (*.*)</source>
@@ -190,7 +190,7 @@
     </message>
     <message>
         <source>Ignore N files </source>
-        <translation>Archivos iniciales que se omiten </translation>
+        <translation>Omitir los primeros archivos </translation>
     </message>
     <message>
         <source>Nb image per location ( bracketing )</source>
@@ -218,7 +218,7 @@
     </message>
     <message>
         <source>Shoot setup</source>
-        <translation>Toma</translation>
+        <translation>Ajustes de la toma</translation>
     </message>
     <message>
         <source>Force 360° panorama</source>
@@ -258,7 +258,7 @@
     </message>
     <message>
         <source>Detection options</source>
-        <translation>Detección</translation>
+        <translation>Opciones de detección</translation>
     </message>
     <message>
         <source>Auto detection</source>
@@ -301,7 +301,7 @@
     </message>
     <message>
         <source>Select the preset file and/or images</source>
-        <translation>Seleccionar el archivo de registro y/o las imágenes</translation>
+        <translation>Seleccionar el archivo de la toma y/o las imágenes</translation>
     </message>
     <message>
         <source>All Files (*.*);;XML files (*.xml)</source>
@@ -404,7 +404,7 @@
     </message>
     <message>
         <source>Shoot setup</source>
-        <translation>Toma</translation>
+        <translation>Ajustes de la toma</translation>
     </message>
     <message>
         <source>Inverse Y coordinates</source>
@@ -464,7 +464,7 @@
     </message>
     <message>
         <source>Detection options</source>
-        <translation>Detección</translation>
+        <translation>Opciones de detección</translation>
     </message>
     <message>
         <source>Auto detection</source>
@@ -484,7 +484,7 @@
     </message>
     <message>
         <source>Header details</source>
-        <translation>Cabecera</translation>
+        <translation>Datos de cabecera</translation>
     </message>
     <message>
         <source>Title:</source>
@@ -527,7 +527,7 @@
     </message>
     <message>
         <source>Select the preset file and/or images</source>
-        <translation>Seleccionar el archivo de registro y/o las imágenes</translation>
+        <translation>Seleccionar el archivo de la toma y/o las imágenes</translation>
     </message>
     <message>
         <source>All Files (*.*);;XML files (*.xml)</source>
@@ -646,7 +646,7 @@
     </message>
     <message>
         <source>Shoot setup</source>
-        <translation>Toma</translation>
+        <translation>Ajustes de la toma</translation>
     </message>
     <message>
         <source>Inverse Y coordinates</source>
@@ -706,7 +706,7 @@
     </message>
     <message>
         <source>Detection options</source>
-        <translation>Detección</translation>
+        <translation>Opciones de detección</translation>
     </message>
     <message>
         <source>Auto detection</source>

@@ -198,15 +198,15 @@
     </message>
     <message>
         <source>Shoot layout</source>
-        <translation>Disposition des prises de vue</translation>
+        <translation>Disposition des vues</translation>
     </message>
     <message>
         <source>Columns (default)</source>
-        <translation>Colonnes (par défaut)</translation>
+        <translation>Colonnes (défaut)</translation>
     </message>
     <message>
         <source>Columns: to left</source>
-        <translation>Colonnes&#xa0;: à gauche</translation>
+        <translation>Colonnes&#xa0;: vers la gauche</translation>
     </message>
     <message>
         <source>Rows: downward</source>
@@ -218,7 +218,7 @@
     </message>
     <message>
         <source>Shoot setup</source>
-        <translation>Prise de vue</translation>
+        <translation>Réglages de prise de vue</translation>
     </message>
     <message>
         <source>Force 360° panorama</source>
@@ -404,7 +404,7 @@
     </message>
     <message>
         <source>Shoot setup</source>
-        <translation>Prise de vue</translation>
+        <translation>Réglages de prise de vue</translation>
     </message>
     <message>
         <source>Inverse Y coordinates</source>
@@ -484,7 +484,7 @@
     </message>
     <message>
         <source>Header details</source>
-        <translation>En-tête</translation>
+        <translation>Détails de l&apos;en-tête</translation>
     </message>
     <message>
         <source>Title:</source>
@@ -646,7 +646,7 @@
     </message>
     <message>
         <source>Shoot setup</source>
-        <translation>Prise de vue</translation>
+        <translation>Réglages de prise de vue</translation>
     </message>
     <message>
         <source>Inverse Y coordinates</source>

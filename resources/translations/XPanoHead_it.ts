@@ -218,7 +218,7 @@
     </message>
     <message>
         <source>Shoot setup</source>
-        <translation>Ripresa</translation>
+        <translation>Impostazioni di ripresa</translation>
     </message>
     <message>
         <source>Force 360° panorama</source>
@@ -258,7 +258,7 @@
     </message>
     <message>
         <source>Detection options</source>
-        <translation>Rilevamento</translation>
+        <translation>Opzioni di rilevamento</translation>
     </message>
     <message>
         <source>Auto detection</source>
@@ -404,7 +404,7 @@
     </message>
     <message>
         <source>Shoot setup</source>
-        <translation>Ripresa</translation>
+        <translation>Impostazioni di ripresa</translation>
     </message>
     <message>
         <source>Inverse Y coordinates</source>
@@ -464,7 +464,7 @@
     </message>
     <message>
         <source>Detection options</source>
-        <translation>Rilevamento</translation>
+        <translation>Opzioni di rilevamento</translation>
     </message>
     <message>
         <source>Auto detection</source>
@@ -646,7 +646,7 @@
     </message>
     <message>
         <source>Shoot setup</source>
-        <translation>Ripresa</translation>
+        <translation>Impostazioni di ripresa</translation>
     </message>
     <message>
         <source>Inverse Y coordinates</source>
@@ -706,7 +706,7 @@
     </message>
     <message>
         <source>Detection options</source>
-        <translation>Rilevamento</translation>
+        <translation>Opzioni di rilevamento</translation>
     </message>
     <message>
         <source>Auto detection</source>

@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>N/A</source>
-        <translation>なし</translation>
+        <translation>利用不可</translation>
     </message>
     <message>
         <source>Warning</source>
@@ -72,7 +72,7 @@
     </message>
     <message>
         <source>N/A</source>
-        <translation>なし</translation>
+        <translation>利用不可</translation>
     </message>
     <message>
         <source>Theta:</source>
@@ -317,7 +317,7 @@
     </message>
     <message>
         <source>N/A</source>
-        <translation>なし</translation>
+        <translation>利用不可</translation>
     </message>
     <message>
         <source>Bracketing used in XML, should be multiple of that number</source>
@@ -376,7 +376,7 @@
     </message>
     <message>
         <source>N/A</source>
-        <translation>なし</translation>
+        <translation>利用不可</translation>
     </message>
     <message>
         <source>Yaw:</source>
@@ -543,7 +543,7 @@
     </message>
     <message>
         <source>N/A</source>
-        <translation>なし</translation>
+        <translation>利用不可</translation>
     </message>
     <message>
         <source>Bracketing used in XML, should be multiple of that number</source>
@@ -598,7 +598,7 @@
     </message>
     <message>
         <source>N/A</source>
-        <translation>なし</translation>
+        <translation>利用不可</translation>
     </message>
     <message>
         <source>Image focal:</source>

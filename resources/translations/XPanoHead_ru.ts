@@ -218,7 +218,7 @@
     </message>
     <message>
         <source>Shoot setup</source>
-        <translation>Съёмка</translation>
+        <translation>Настройки съёмки</translation>
     </message>
     <message>
         <source>Force 360° panorama</source>
@@ -404,7 +404,7 @@
     </message>
     <message>
         <source>Shoot setup</source>
-        <translation>Съёмка</translation>
+        <translation>Настройки съёмки</translation>
     </message>
     <message>
         <source>Inverse Y coordinates</source>
@@ -484,7 +484,7 @@
     </message>
     <message>
         <source>Header details</source>
-        <translation>Заголовок</translation>
+        <translation>Данные заголовка</translation>
     </message>
     <message>
         <source>Title:</source>
@@ -634,7 +634,7 @@
     </message>
     <message>
         <source>8-bits / 16-bits tonemapped</source>
-        <translation>8 / 16 бит, тональное сжатие</translation>
+        <translation>8 / 16 бит, тональное отображение</translation>
     </message>
     <message>
         <source>32-bits HDR radiance</source>
@@ -646,7 +646,7 @@
     </message>
     <message>
         <source>Shoot setup</source>
-        <translation>Съёмка</translation>
+        <translation>Настройки съёмки</translation>
     </message>
     <message>
         <source>Inverse Y coordinates</source>

@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>N/A</source>
-        <translation>無</translation>
+        <translation>無法使用</translation>
     </message>
     <message>
         <source>Warning</source>
@@ -72,7 +72,7 @@
     </message>
     <message>
         <source>N/A</source>
-        <translation>無</translation>
+        <translation>無法使用</translation>
     </message>
     <message>
         <source>Theta:</source>
@@ -317,7 +317,7 @@
     </message>
     <message>
         <source>N/A</source>
-        <translation>無</translation>
+        <translation>無法使用</translation>
     </message>
     <message>
         <source>Bracketing used in XML, should be multiple of that number</source>
@@ -376,7 +376,7 @@
     </message>
     <message>
         <source>N/A</source>
-        <translation>無</translation>
+        <translation>無法使用</translation>
     </message>
     <message>
         <source>Yaw:</source>
@@ -543,7 +543,7 @@
     </message>
     <message>
         <source>N/A</source>
-        <translation>無</translation>
+        <translation>無法使用</translation>
     </message>
     <message>
         <source>Bracketing used in XML, should be multiple of that number</source>
@@ -598,7 +598,7 @@
     </message>
     <message>
         <source>N/A</source>
-        <translation>無</translation>
+        <translation>無法使用</translation>
     </message>
     <message>
         <source>Image focal:</source>
@@ -638,7 +638,7 @@
     </message>
     <message>
         <source>32-bits HDR radiance</source>
-        <translation>32 位元 HDR 輻射度</translation>
+        <translation>32 位元 HDR 輻射亮度</translation>
     </message>
     <message>
         <source>TextLabel</source>

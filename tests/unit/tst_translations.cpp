@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
 #include <QDir>
+#include <QHash>
 #include <QRegularExpression>
 #include <QTranslator>
 #include <QXmlStreamReader>
@@ -63,6 +64,10 @@ class TranslationsTest : public QObject
 private Q_SLOTS:
     void translationKeepsWhatTheProgramReliesOn_data();
     void translationKeepsWhatTheProgramReliesOn();
+    void sameTextIsTranslatedAlikeOnEveryPage_data();
+    void sameTextIsTranslatedAlikeOnEveryPage();
+    void translationSaysAsMuchAsTheText_data();
+    void translationSaysAsMuchAsTheText();
     void dialogFilterStartsWithItsPreselectedPart_data();
     void dialogFilterStartsWithItsPreselectedPart();
     void fileMeantToBeEmptyHoldsNoText_data();
@@ -106,6 +111,71 @@ void TranslationsTest::translationKeepsWhatTheProgramReliesOn()
         QVERIFY2(same(" $"), shown); // stands before a number
         QVERIFY2(!text.translation.contains(QLatin1Char('&')), shown); // no letter is underlined
     }
+}
+
+void TranslationsTest::sameTextIsTranslatedAlikeOnEveryPage_data()
+{
+    addFiles(QStringLiteral("*.ts"));
+}
+
+void TranslationsTest::sameTextIsTranslatedAlikeOnEveryPage()
+{
+    QFETCH(QString, path);
+    QHash<QString, QString> seen;
+    for (const Text &text : readTexts(path)) {
+        if (!seen.contains(text.source))
+            seen.insert(text.source, text.translation);
+        QCOMPARE(text.translation, seen.value(text.source));
+    }
+}
+
+void TranslationsTest::translationSaysAsMuchAsTheText_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("source");
+    QTest::addColumn<QString>("term");
+    const auto row = [](const char *language, const char *source, const char *term) {
+        QTest::addRow("%s, %s", source, language)
+            << QString::fromLatin1(language) << QString::fromLatin1(source)
+            << QString::fromUtf8(term);
+    };
+    // Settings, not the shooting itself.
+    row("fr", "Shoot setup", "Réglages");
+    row("de", "Shoot setup", "einstellungen");
+    row("es", "Shoot setup", "Ajustes");
+    row("it", "Shoot setup", "Impostazioni");
+    row("ru", "Shoot setup", "Настройки");
+    row("es", "Detection options", "Opciones");
+    row("it", "Detection options", "Opzioni");
+    // Not available, which is not the same as none.
+    row("ja", "N/A", "利用不可");
+    row("zh_CN", "N/A", "不可用");
+    row("zh_TW", "N/A", "無法使用");
+    row("pl", "N/A", "n/d");
+    // Photographers name the format; in Chinese the quantity has a name of its own.
+    row("de", "32-bits HDR radiance", "Radiance");
+    row("zh_CN", "32-bits HDR radiance", "辐亮度");
+    row("zh_TW", "32-bits HDR radiance", "輻射亮度");
+    // A direction, like the one of the rows.
+    row("fr", "Columns: to left", "vers la gauche");
+    // The first ones, not just some.
+    row("es", "Ignore N files ", "Omitir los primeros archivos");
+}
+
+void TranslationsTest::translationSaysAsMuchAsTheText()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, source);
+    QFETCH(QString, term);
+    int found = 0;
+    for (const Text &text :
+         readTexts(QStringLiteral(TRANSLATION_SOURCES "/XPanoHead_%1.ts").arg(language))) {
+        if (text.source == source) {
+            ++found;
+            QVERIFY2(text.translation.contains(term), qPrintable(text.translation));
+        }
+    }
+    QVERIFY(found > 0);
 }
 
 void TranslationsTest::dialogFilterStartsWithItsPreselectedPart_data()
