@@ -11,6 +11,7 @@
 #include <QDesktopServices>
 #include <QDirModel>
 #include <QLineEdit>
+#include <QPixmap>
 #include <QScrollArea>
 #include <QUrl>
 #include <QWizardPage>
@@ -19,6 +20,13 @@
 
 namespace PanoHead
 {
+
+namespace
+{
+
+constexpr qreal kLogoSide = 64.0; // pixels of the page
+
+} // namespace
 
 PreviewLabel *placePreview(QScrollArea *area)
 {
@@ -68,8 +76,10 @@ void recolourSubtitle(QWizardPage *page, const QWidget *label)
 
 void setLogo(QWizardPage *page, const QString &resourcePath)
 {
-    page->setPixmap(QWizard::LogoPixmap,
-                    XuiPixmapHelper::CreateHighDpiPixmap(resourcePath, 255, QSize(-1, -1)));
+    QPixmap logo = XuiPixmapHelper::CreateHighDpiPixmap(resourcePath, 255, QSize(-1, -1));
+    // A wider one would take a line of the subtitle and the place of the preview.
+    logo.setDevicePixelRatio(logo.width() / kLogoSide);
+    page->setPixmap(QWizard::LogoPixmap, logo);
 }
 
 void openInBrowser(const QString &url)

@@ -33,7 +33,7 @@ void fillLensTypes(QComboBox *box, const QStringList &names);
 /** Gives the links of the page's about text the text colour of \p label. */
 void recolourSubtitle(QWizardPage *page, const QWidget *label);
 
-/** The page's logo, at its own size. */
+/** The page's logo, 64 pixels wide on the page however many it holds. */
 void setLogo(QWizardPage *page, const QString &resourcePath);
 
 /** Lets the desktop's browser open \p url as it is. */

@@ -157,9 +157,12 @@ void TestEveryForm::pageShowsItsLogo()
         QVERIFY(shown.isNull());
         return;
     }
-    const QPixmap logo = XuiPixmapHelper::CreateHighDpiPixmap(picture, 255, QSize(-1, -1));
+    QImage logo = XuiPixmapHelper::CreateHighDpiPixmap(picture, 255, QSize(-1, -1)).toImage();
     QVERIFY(!logo.isNull());
-    QCOMPARE(shown, logo.toImage());
+    // The picture as it is, shown in 64 pixels of the page.
+    QCOMPARE(QSizeF(shown.size()) / shown.devicePixelRatio(), QSizeF(64.0, 64.0));
+    logo.setDevicePixelRatio(shown.devicePixelRatio());
+    QCOMPARE(shown, logo);
 }
 
 void TestEveryForm::boxesAreCheckedAsWanted_data()

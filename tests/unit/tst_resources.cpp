@@ -3,8 +3,10 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
+#include <QFileInfo>
 #include <QImage>
 #include <QLineF>
+#include <QPainter>
 #include <QRegularExpression>
 #include <QSet>
 #include <QTranslator>
@@ -24,6 +26,8 @@ class ResourcesTest : public QObject
 private Q_SLOTS:
     void wizardPictureHasItsPathAndSize_data();
     void wizardPictureHasItsPathAndSize();
+    void iconsDifferAtSixteenPixelsWithoutColour_data();
+    void iconsDifferAtSixteenPixelsWithoutColour();
     void uiFolderHoldsExactlyTheNamedIcons();
     void uiIconHasItsSize_data();
     void uiIconHasItsSize();
@@ -53,7 +57,7 @@ void ResourcesTest::wizardPictureHasItsPathAndSize_data()
     const auto row = [](const char *name, const QString &path, int width, int height) {
         QTest::newRow(name) << path << QSize(width, height);
     };
-    row("VR Drive 2 logo and icon", vrDrive2 + QStringLiteral("VRDrive2.png"), 64, 64);
+    row("VR Drive 2 logo and icon", vrDrive2 + QStringLiteral("VRDrive2.png"), 128, 128);
     row("VR Drive 2 copy, rotate left", vrDrive2 + QStringLiteral("rot90left.png"), 32, 32);
     row("VR Drive 2 copy, rotate right", vrDrive2 + QStringLiteral("rot90right.png"), 32, 32);
     row("Clauss logo", clauss + QStringLiteral("Clauss_wp.png"), 64, 64);
@@ -76,6 +80,61 @@ void ResourcesTest::wizardPictureHasItsPathAndSize()
     QVERIFY2(!picture.isNull(), qPrintable(path));
     QCOMPARE(picture.size(), size);
     QVERIFY(picture.hasAlphaChannel());
+}
+
+/** The icon as a small grey picture on a ground of that lightness. */
+static QImage smallAndGrey(const QString &path, int ground)
+{
+    constexpr int kSide = 16;
+    QImage picture(kSide, kSide, QImage::Format_RGB32);
+    picture.fill(QColor(ground, ground, ground));
+    QPainter(&picture).drawImage(
+        0, 0, QImage(path).scaled(kSide, kSide, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    return picture.convertToFormat(QImage::Format_Grayscale8);
+}
+
+/** Of two pictures of one size: how many pixels are clearly lighter in one than in the other. */
+static int clearlyDifferent(const QImage &one, const QImage &other)
+{
+    constexpr int kClearly = 64; // of 255 greys
+    int count = 0;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            if (qAbs(qGray(one.pixel(x, y)) - qGray(other.pixel(x, y))) >= kClearly)
+                ++count;
+        }
+    }
+    return count;
+}
+
+void ResourcesTest::iconsDifferAtSixteenPixelsWithoutColour_data()
+{
+    QTest::addColumn<QString>("one");
+    QTest::addColumn<QString>("other");
+    const QStringList icons{
+        QStringLiteral(":/7A21C94E-5B20-2020-2020-483181480AB7/Resources/Papywizard.png"),
+        QStringLiteral(":/7A21C94E-5B20-2020-2020-6028D47773DF/Resources/XGigapan.png"),
+        QStringLiteral(":/7A21C94E-5B20-2020-2020-B662C695C918/Resources/VRDrive2.png"),
+        QStringLiteral(":/7A21C94E-5B20-2020-2020-D6D081182F97/Resources/XClauss.png"),
+    };
+    for (int i = 0; i < icons.size(); ++i) {
+        for (int k = i + 1; k < icons.size(); ++k) {
+            QTest::addRow("%s and %s", qPrintable(QFileInfo(icons.at(i)).baseName()),
+                          qPrintable(QFileInfo(icons.at(k)).baseName()))
+                << icons.at(i) << icons.at(k);
+        }
+    }
+}
+
+void ResourcesTest::iconsDifferAtSixteenPixelsWithoutColour()
+{
+    QFETCH(QString, one);
+    QFETCH(QString, other);
+    for (const int ground : { 255, 48 }) { // a light and a dark theme
+        const int different
+            = clearlyDifferent(smallAndGrey(one, ground), smallAndGrey(other, ground));
+        QVERIFY2(different >= 16 * 16 / 4, QByteArray::number(different));
+    }
 }
 
 void ResourcesTest::uiFolderHoldsExactlyTheNamedIcons()
