@@ -31,6 +31,8 @@ private Q_SLOTS:
     void uiFolderHoldsExactlyTheNamedIcons();
     void uiIconHasItsSize_data();
     void uiIconHasItsSize();
+    void speakerAndPlaySignStandApart_data();
+    void speakerAndPlaySignStandApart();
     void busyAnimationTurnsWithEveryFrame();
     void everyPictureIsDrawnFromItsSource();
     void controlModuleDeclaresItsTypes_data();
@@ -226,6 +228,29 @@ void ResourcesTest::uiIconHasItsSize()
     QFETCH(QString, path);
     QFETCH(int, side);
     QCOMPARE(QImage(path).size(), QSize(side, side));
+}
+
+void ResourcesTest::speakerAndPlaySignStandApart_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::newRow("usual screen") << QStringLiteral(":/UI/sound_play_16.png");
+    QTest::newRow("dense screen") << QStringLiteral(":/UI/sound_play_16@2.png");
+}
+
+void ResourcesTest::speakerAndPlaySignStandApart()
+{
+    QFETCH(QString, path);
+    const QImage picture(path);
+    QString columns; // which of them show anything
+    for (int x = 0; x < picture.width(); ++x) {
+        bool shows = false;
+        for (int y = 0; y < picture.height(); ++y)
+            shows = shows || qAlpha(picture.pixel(x, y)) > 0;
+        columns += shows ? QLatin1Char('#') : QLatin1Char(' ');
+    }
+    // One shape, at least an eighth of the width without a trace of either, the other shape.
+    const QRegularExpression apart(QStringLiteral("^ *#+ {%1,}#+ *$").arg(picture.width() / 8));
+    QVERIFY2(apart.match(columns).hasMatch(), qPrintable(columns));
 }
 
 /** How much colour a frame of the busy animation has around one of its dots, in opaque pixels. */
