@@ -14,17 +14,24 @@ endforeach()
 set_source_files_properties(${_translations} PROPERTIES OUTPUT_LOCATION ${TRANSLATION_DIR})
 qt5_add_translation(_compiled_translations ${_translations})
 
-# Writes one notice per line of the table of components; answers their lines of the collection file.
+# Writes one notice per line of the table of components, with the version that this machine has;
+# answers their lines of the collection file.
 function(panohead_write_notices table folder result)
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${table})
   file(STRINGS ${table} lines REGEX "^[^#]" ENCODING UTF-8)
   foreach(line IN LISTS lines)
     string(REGEX REPLACE " *\\| *" ";" fields "${line}")
     list(LENGTH fields count)
-    if(NOT count EQUAL 9)
-      message(FATAL_ERROR "${table}: this line has ${count} fields instead of 9:\n${line}")
+    if(NOT count EQUAL 8)
+      message(FATAL_ERROR "${table}: this line has ${count} fields instead of 8:\n${line}")
     endif()
-    list(POP_FRONT fields file component version holders licence use evidence package home)
+    list(POP_FRONT fields file component holders licence use evidence package home)
+    execute_process(COMMAND dpkg-query -W -f "\${Version}" ${package}
+                    OUTPUT_VARIABLE installed ERROR_QUIET)
+    # Without the epoch and what Debian adds.
+    if(installed MATCHES "^([0-9]+:)?([0-9]+(\\.[0-9]+)*)")
+      string(APPEND component " ${CMAKE_MATCH_2}")
+    endif()
     configure_file(${PROJECT_SOURCE_DIR}/resources/licenses/notice.txt.in ${folder}/${file}.txt @ONLY)
     string(APPEND entries "    <file alias=\"${file}.txt\">${folder}/${file}.txt</file>\n")
   endforeach()
