@@ -14,17 +14,6 @@
 namespace PanoHost
 {
 
-namespace
-{
-
-/** The letters of a library's string literal lie in the library and go with it. */
-QString ownCopy(const QString &text)
-{
-    return QString(text.constData(), text.size());
-}
-
-} // namespace
-
 ImportJob::ImportJob(Session &session, ImportRequest request)
     : m_session(session)
     , m_request(std::move(request))
@@ -85,8 +74,7 @@ const ImportPlugin &ImportJob::openPlugin()
                              QStringLiteral("has no import plug-in for %1").arg(head),
                              QStringLiteral("set --plugin to another library") });
     }
-    m_source = { ownCopy(plugin->about->UID()), ownCopy(plugin->about->Name()), m_request.record,
-                 ownCopy(plugin->about->Version()) };
+    m_source = plugin->source(m_request.record);
     return *plugin;
 }
 

@@ -3,6 +3,7 @@
 #include "host/core/pluginlibrary.h"
 
 #include "host/core/panohostapplication.h"
+#include "host/core/panorama.h"
 #include "hostlink/xiabout.h"
 #include "hostlink/xipluginimport.h"
 #include "hostlink/xipluginlibrary.h"
@@ -59,6 +60,12 @@ QStringList librariesAt(const QString &place)
     return files;
 }
 
+/** The letters of a library's string literal lie in the library and go with it. */
+QString ownCopy(const QString &text)
+{
+    return QString(text.constData(), text.size());
+}
+
 } // namespace
 
 QString ImportPlugin::head() const
@@ -69,6 +76,11 @@ QString ImportPlugin::head() const
 QWizardPage *ImportPlugin::page() const
 {
     return object && import ? import->WizardPages().value(0) : nullptr;
+}
+
+SourceInfo ImportPlugin::source(const QString &record) const
+{
+    return { ownCopy(about->UID()), ownCopy(about->Name()), record, ownCopy(about->Version()) };
 }
 
 QStringList PluginLibrary::searchPath(const QString &fileOrFolder)

@@ -18,6 +18,8 @@ class XIPluginImport;
 namespace PanoHost
 {
 
+struct SourceInfo;
+
 /**
  * One import plug-in of a loaded library. Its objects belong to the library: never cast them to
  * the library's own classes; ask `inherits()` and find widgets by object name.
@@ -31,6 +33,8 @@ struct ImportPlugin {
     [[nodiscard]] QString head() const;
     /** The plug-in's page; null when somebody has deleted it. */
     [[nodiscard]] QWizardPage *page() const;
+    /** Where a description of the page comes from; the texts outlive the library. */
+    [[nodiscard]] SourceInfo source(const QString &record) const;
 };
 
 /** A loaded plug-in library; unloaded for real by `unload` or when this object goes away. */

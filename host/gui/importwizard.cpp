@@ -5,7 +5,6 @@
 #include "host/gui/choicepage.h"
 #include "host/gui/pagefiller.h"
 #include "host/gui/resultpage.h"
-#include "hostlink/xiabout.h"
 
 #include <QAbstractButton>
 #include <QDropEvent>
@@ -182,8 +181,7 @@ void ImportWizard::takeDelivery()
         return;
     }
     m_description = m_deliveries.take(currentPage(), m_app.delivery());
-    m_source = { plugin->about->UID(), plugin->about->Name(), recordPath(currentPage()),
-                 plugin->about->Version() };
+    m_source = plugin->source(recordPath(currentPage()));
 }
 
 /** The page itself opens the links of its subtitle. */

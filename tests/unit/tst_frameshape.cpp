@@ -87,11 +87,11 @@ template <typename Page> constexpr bool hasPageOperations()
 
 /** The wizard page, the generator with the record as its first part, the form. */
 template <typename Page, typename Generator, typename Form>
-constexpr bool kHasPageShape
-    = hasPageOperations<Page>()
-    && std::is_convertible_v<Page *, QWizardPage *> &&std::is_convertible_v<Page *, Generator *>
-        &&std::is_convertible_v<Page *, Form *> &&std::is_convertible_v<
-            Generator *, StructuredPanoramaProperties *> && !std::is_polymorphic_v<Generator>;
+constexpr bool kHasPageShape = std::conjunction_v<
+    std::bool_constant<hasPageOperations<Page>()>, std::is_convertible<Page *, QWizardPage *>,
+    std::is_convertible<Page *, Generator *>, std::is_convertible<Page *, Form *>,
+    std::is_convertible<Generator *, StructuredPanoramaProperties *>,
+    std::negation<std::is_polymorphic<Generator>>>;
 
 static_assert(kHasPageShape<UIWPClauss, ClaussToSPP, Ui::UIWPClaussClass>);
 static_assert(kHasPageShape<UIWPGigapan, GigapanToSPP, Ui::UIWPGigapanClass>);
