@@ -15,7 +15,7 @@ using PanoHead::PapywizardRecord;
 namespace
 {
 
-/** The first child element \p name; the reader under test has Qt look for it. */
+/** The first child element \p name. */
 QDomElement childOf(const QDomNode &parent, const char *name)
 {
     for (QDomNode node = parent.firstChild(); !node.isNull(); node = node.nextSibling()) {
@@ -67,7 +67,7 @@ ShootData shotOf(const QDomElement &pict)
     return shot;
 }
 
-/** What a document says, straight from its description. */
+/** What a document says, looked up in its DOM; the reader under test never makes one. */
 PapywizardRecord recordOf(const QDomElement &root)
 {
     PapywizardRecord record;

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "shoot/recordfile.h"
 
+#include "shoot/recordlimits.h"
+
 #include <QFile>
 
 #include <algorithm>

@@ -16,10 +16,6 @@ struct ReadError {
     int line = 0; ///< 1-based; 0: the reader does not know
 };
 
-constexpr qint64 kMaxRecordBytes = 64 * 1024 * 1024;
-/** Shots of one record. The largest shoots have 70,000; a page with 80,000 takes two seconds. */
-constexpr int kMaxRecordedShots = 80'000;
-
 /**
  * The bytes of a record file. Regular files only, opened without blocking and bounded by
  * `kMaxRecordBytes`, so that no path a user can type (a FIFO, a device, a huge file) stops the GUI

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "importers/clauss/claussscript.h"
 
+#include "shoot/recordlimits.h"
+
 #include <cmath>
 
 namespace PanoHead

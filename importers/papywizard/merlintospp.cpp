@@ -19,9 +19,9 @@ MerlinToSPP::MerlinToSPP()
 
 bool MerlinToSPP::parse(const QString &path)
 {
-    const std::optional<QByteArray> bytes = PanoHead::readRecordFile(path, nullptr);
+    std::optional<QByteArray> bytes = PanoHead::readRecordFile(path, nullptr);
     const std::optional<PanoHead::PapywizardRecord> read
-        = bytes ? PanoHead::readPapywizard(*bytes) : std::nullopt;
+        = bytes ? PanoHead::readPapywizard(*std::move(bytes)) : std::nullopt;
     const PanoHead::PapywizardRecord record = read.value_or(PanoHead::PapywizardRecord());
     shots = record.shots;
     title = record.title;

@@ -2,12 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "importers/papywizard/papywizardreader.h"
 
+#include "shoot/recordlimits.h"
 #include "importers/papywizard/xmlgate.h"
 
-#include <QDomDocument>
+#include <QXmlDefaultHandler>
 
+#include <bitset>
 #include <cmath>
+#include <memory>
 #include <new>
+#include <utility>
 
 namespace PanoHead
 {
@@ -15,14 +19,67 @@ namespace PanoHead
 namespace
 {
 
-QDomElement child(const QDomElement &parent, const char *name)
+/** The elements of a record that are looked at. */
+enum class Part {
+    Other,
+    Root,
+    Shoot,
+    Pict,
+    Position,
+    Time,
+    Header,
+    General,
+    Title,
+    Gps,
+    Comment,
+    Camera,
+    Sensor,
+    Bracketing,
+    Lens,
+    Focal,
+    Shooting,
+    Orientation
+};
+constexpr size_t kPartCount = static_cast<size_t>(Part::Orientation) + 1;
+
+constexpr size_t indexOf(Part part)
 {
-    return parent.firstChildElement(QLatin1String(name));
+    return static_cast<size_t>(part);
 }
 
-QString trimmedText(const QDomElement &parent, const char *name)
+struct PartRow {
+    Part parent;
+    const char *name;
+    Part part;
+};
+
+constexpr PartRow kParts[] = {
+    { Part::Root, "shoot", Part::Shoot },
+    { Part::Root, "header", Part::Header },
+    { Part::Shoot, "pict", Part::Pict },
+    { Part::Pict, "position", Part::Position },
+    { Part::Pict, "time", Part::Time },
+    { Part::Header, "general", Part::General },
+    { Part::General, "title", Part::Title },
+    { Part::General, "gps", Part::Gps },
+    { Part::General, "comment", Part::Comment },
+    { Part::Header, "camera", Part::Camera },
+    { Part::Camera, "sensor", Part::Sensor },
+    { Part::Camera, "bracketing", Part::Bracketing },
+    { Part::Header, "lens", Part::Lens },
+    { Part::Lens, "focal", Part::Focal },
+    { Part::Header, "shooting", Part::Shooting },
+    { Part::Shooting, "cameraOrientation", Part::Orientation },
+};
+
+Part partOf(Part parent, const QString &name)
 {
-    return child(parent, name).text().trimmed();
+    for (const PartRow &row : kParts) {
+        if (row.parent == parent && name == QLatin1String(row.name)) {
+            return row.part;
+        }
+    }
+    return Part::Other;
 }
 
 /** \p fallback for text that is no number, or none that a 32-bit float can hold. */
@@ -33,82 +90,202 @@ double toNumber(const QString &text, double fallback)
     return ok && std::isfinite(static_cast<float>(number)) ? number : fallback;
 }
 
-ShootData readShot(const QDomElement &pict)
+QT_WARNING_PUSH
+QT_WARNING_DISABLE_DEPRECATED
+
+/** The last of this name: the parser lets an element have several. */
+QString valueOf(const QXmlAttributes &attributes, const char *name)
 {
-    ShootData shot;
-    shot.id = pict.attribute(QStringLiteral("id")).toInt();
-    shot.bracket = pict.attribute(QStringLiteral("bracket")).toInt();
-    const QDomElement position = child(pict, "position");
-    // A roll attribute is passed over: the values that heads write there are often wrong.
-    shot.yaw = static_cast<float>(toNumber(position.attribute(QStringLiteral("yaw")), 0.0));
-    shot.pitch = static_cast<float>(toNumber(position.attribute(QStringLiteral("pitch")), 0.0));
-    const QDomElement time = child(pict, "time");
-    if (!time.isNull()) {
-        shot.time = QDateTime::fromString(time.text(), Qt::TextDate);
+    for (int i = attributes.length() - 1; i >= 0; --i) {
+        if (attributes.qName(i) == QLatin1String(name)) {
+            return attributes.value(i);
+        }
     }
-    return shot;
+    return {};
 }
 
-void readShoot(PapywizardRecord &record, const QDomElement &shoot)
+/**
+ * Takes a record element by element from the parser that Qt's DOM uses too. A DOM of the largest
+ * records would take gigabytes.
+ */
+class RecordHandler : public QXmlDefaultHandler
 {
-    record.hasShoot = !shoot.isNull();
-    const QString name = QStringLiteral("pict");
-    for (QDomElement pict = shoot.firstChildElement(name);
-         !pict.isNull() && record.shots.size() <= kMaxRecordedShots;
-         pict = pict.nextSiblingElement(name)) {
-        record.shots.append(readShot(pict));
+public:
+    /** Throws std::bad_alloc. */
+    std::optional<PapywizardRecord> read(const QString &text)
+    {
+        QXmlInputSource source;
+        source.setData(text);
+        auto reader = std::make_unique<QXmlSimpleReader>();
+        // As the DOM sets them.
+        reader->setFeature(QStringLiteral("http://xml.org/sax/features/namespaces"), false);
+        reader->setFeature(QStringLiteral("http://xml.org/sax/features/namespace-prefixes"), true);
+        reader->setFeature(
+            QStringLiteral("http://qt-project.org/xml/features/report-whitespace-only-CharData"),
+            false);
+        reader->setContentHandler(this);
+        reader->setErrorHandler(this);
+        try {
+            if (!reader->parse(&source, false)) {
+                return std::nullopt;
+            }
+        } catch (const std::bad_alloc &) {
+            // Qt's parser is built without exceptions: interrupted, it holds what cannot be freed.
+            (void)reader.release();
+            throw;
+        }
+        if (m_focal) {
+            m_record.xmlFocal = *m_focal * m_record.sensorCoef;
+        }
+        return m_record;
     }
-}
 
-void readGeneral(PapywizardRecord &record, const QDomElement &general)
-{
-    record.title = trimmedText(general, "title");
-    record.gps = trimmedText(general, "gps");
-    record.comment = trimmedText(general, "comment");
-}
+    /** Why there is no record. */
+    [[nodiscard]] const ReadError &error() const { return m_error; }
 
-void readCamera(PapywizardRecord &record, const QDomElement &camera)
-{
-    const QDomElement sensor = child(camera, "sensor");
-    if (!sensor.isNull()) {
-        record.sensorCoef = toNumber(sensor.attribute(QStringLiteral("coef")), 1.0);
+    bool startElement(const QString & /*uri*/, const QString & /*localName*/, const QString &name,
+                      const QXmlAttributes &attributes) override
+    {
+        const Part part = enter(name);
+        m_open.append(part);
+        begin(part, attributes);
+        return m_record.shots.size() <= kMaxRecordedShots;
     }
-    const QDomElement bracketing = child(camera, "bracketing");
-    if (!bracketing.isNull()) {
-        record.nbPicts = bracketing.attribute(QStringLiteral("nbPicts")).toInt();
-    }
-}
 
-/** After the camera: the focal length is multiplied by its crop factor. */
-void readLens(PapywizardRecord &record, const QDomElement &lens)
-{
-    if (lens.isNull()) {
-        return;
+    bool endElement(const QString & /*uri*/, const QString & /*localName*/,
+                    const QString & /*name*/) override
+    {
+        end(m_open.takeLast());
+        return true;
     }
-    record.xmlFocal = toNumber(trimmedText(lens, "focal"), 0.0) * record.sensorCoef;
-    const QString type = lens.attribute(QStringLiteral("type")).trimmed();
-    if (type.compare(QLatin1String("fisheye"), Qt::CaseInsensitive) == 0) {
-        record.xmlLensType = static_cast<int>(LensModel::Fisheye);
+
+    bool characters(const QString &text) override
+    {
+        if (m_collectsText) {
+            m_text += text;
+        }
+        return true;
     }
-}
 
-void readShooting(PapywizardRecord &record, const QDomElement &shooting)
-{
-    const QString orientation = trimmedText(shooting, "cameraOrientation").toLower();
-    record.portrait = orientation == QLatin1String("portrait");
-}
+    bool fatalError(const QXmlParseException &exception) override
+    {
+        const bool isTooLong = m_record.shots.size() > kMaxRecordedShots;
+        m_error = { isTooLong ? QStringLiteral("more than %1 pictures").arg(kMaxRecordedShots)
+                              : QStringLiteral("not well-formed XML (%1)").arg(exception.message()),
+                    exception.lineNumber() };
+        return false;
+    }
 
-PapywizardRecord readRoot(const QDomElement &root)
-{
-    PapywizardRecord record;
-    readShoot(record, child(root, "shoot"));
-    const QDomElement header = child(root, "header");
-    readGeneral(record, child(header, "general"));
-    readCamera(record, child(header, "camera"));
-    readLens(record, child(header, "lens"));
-    readShooting(record, child(header, "shooting"));
-    return record;
-}
+private:
+    /** Of elements with the same name the first counts, but for the pictures. */
+    Part enter(const QString &name)
+    {
+        if (m_open.isEmpty()) {
+            return Part::Root;
+        }
+        const Part part = partOf(m_open.last(), name);
+        if (part == Part::Pict) {
+            m_seen.reset(indexOf(Part::Position));
+            m_seen.reset(indexOf(Part::Time));
+        } else if (m_seen.test(indexOf(part))) {
+            return Part::Other;
+        }
+        m_seen.set(indexOf(part));
+        return part;
+    }
+
+    void begin(Part part, const QXmlAttributes &attributes)
+    {
+        const auto number = [&attributes](const char *name, double fallback) {
+            return toNumber(valueOf(attributes, name), fallback);
+        };
+        switch (part) {
+        case Part::Shoot:
+            m_record.hasShoot = true;
+            break;
+        case Part::Pict: {
+            ShootData shot;
+            shot.id = valueOf(attributes, "id").toInt();
+            shot.bracket = valueOf(attributes, "bracket").toInt();
+            m_record.shots.append(shot);
+            break;
+        }
+        case Part::Position:
+            // A roll attribute is passed over: the values that heads write there are often wrong.
+            m_record.shots.last().yaw = static_cast<float>(number("yaw", 0.0));
+            m_record.shots.last().pitch = static_cast<float>(number("pitch", 0.0));
+            break;
+        case Part::Sensor:
+            m_record.sensorCoef = number("coef", 1.0);
+            break;
+        case Part::Bracketing:
+            m_record.nbPicts = valueOf(attributes, "nbPicts").toInt();
+            break;
+        case Part::Lens:
+            m_focal = 0.0;
+            if (valueOf(attributes, "type")
+                    .trimmed()
+                    .compare(QLatin1String("fisheye"), Qt::CaseInsensitive)
+                == 0) {
+                m_record.xmlLensType = static_cast<int>(LensModel::Fisheye);
+            }
+            break;
+        case Part::Time:
+        case Part::Title:
+        case Part::Gps:
+        case Part::Comment:
+        case Part::Focal:
+        case Part::Orientation:
+            m_collectsText = true;
+            break;
+        default:
+            break;
+        }
+    }
+
+    void end(Part part)
+    {
+        switch (part) {
+        case Part::Time:
+            m_record.shots.last().time = QDateTime::fromString(takeText(), Qt::TextDate);
+            break;
+        case Part::Title:
+            m_record.title = takeText().trimmed();
+            break;
+        case Part::Gps:
+            m_record.gps = takeText().trimmed();
+            break;
+        case Part::Comment:
+            m_record.comment = takeText().trimmed();
+            break;
+        case Part::Focal:
+            m_focal = toNumber(takeText().trimmed(), 0.0);
+            break;
+        case Part::Orientation:
+            m_record.portrait = takeText().trimmed().toLower() == QLatin1String("portrait");
+            break;
+        default:
+            break;
+        }
+    }
+
+    /** All the text in the element that ends, that of its children included. */
+    QString takeText()
+    {
+        m_collectsText = false;
+        return std::exchange(m_text, {});
+    }
+
+    PapywizardRecord m_record;
+    ReadError m_error;
+    QVector<Part> m_open; // of the elements around the place where the parser is
+    std::bitset<kPartCount> m_seen;
+    std::optional<double> m_focal; // of the lens; the crop factor may come behind it
+    QString m_text;
+    bool m_collectsText = false;
+};
+
+QT_WARNING_POP
 
 std::nullopt_t fail(ReadError *error, const ReadError &what)
 {
@@ -120,24 +297,16 @@ std::nullopt_t fail(ReadError *error, const ReadError &what)
 
 } // namespace
 
-std::optional<PapywizardRecord> readPapywizard(const QByteArray &bytes, ReadError *error)
+std::optional<PapywizardRecord> readPapywizard(QByteArray bytes, ReadError *error)
 {
     try {
-        if (const std::optional<ReadError> refusal = xmlRefusal(decodeXml(bytes))) {
+        const QString text = decodeXml(std::exchange(bytes, {}));
+        if (const std::optional<ReadError> refusal = xmlRefusal(text)) {
             return fail(error, *refusal);
         }
-        QDomDocument document;
-        QString reason;
-        int line = 0;
-        if (!document.setContent(bytes, false, &reason, &line)) {
-            return fail(error, { QStringLiteral("not well-formed XML (%1)").arg(reason), line });
-        }
-        const PapywizardRecord record = readRoot(document.documentElement());
-        if (record.shots.size() > kMaxRecordedShots) {
-            return fail(error,
-                        { QStringLiteral("more than %1 pictures").arg(kMaxRecordedShots), 0 });
-        }
-        return record;
+        RecordHandler handler;
+        const std::optional<PapywizardRecord> record = handler.read(text);
+        return record ? record : fail(error, handler.error());
     } catch (const std::bad_alloc &) {
         return fail(error, { QStringLiteral("not enough memory"), 0 });
     }

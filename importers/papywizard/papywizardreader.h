@@ -33,9 +33,10 @@ struct PapywizardRecord {
  * Reads a record from the bytes of its file. Missing elements and attributes keep the defaults;
  * numbers that do not convert, or are not finite as 32-bit float, become 0 (the crop factor 1.0).
  * Nothing only when the bytes are not well-formed XML, exceed `XmlLimits` or hold more than
- * `kMaxRecordedShots` pictures; \p error, which may be null, then says why.
+ * `kMaxRecordedShots` pictures; \p error, which may be null, then says why. Moved in, \p bytes are
+ * gone before the text is read, which needs twice their size.
  */
-[[nodiscard]] std::optional<PapywizardRecord> readPapywizard(const QByteArray &bytes,
+[[nodiscard]] std::optional<PapywizardRecord> readPapywizard(QByteArray bytes,
                                                              ReadError *error = nullptr);
 
 } // namespace PanoHead

@@ -13,13 +13,6 @@ namespace PanoHead
 namespace
 {
 
-// What Qt's DOM takes at most, measured. An attribute's value is a node of its own, and the first
-// attribute of an element makes a table.
-constexpr qint64 kBytesPerCharacter = 4;
-constexpr qint64 kBytesPerNode = 230;
-constexpr qint64 kBytesPerAttribute = 500;
-constexpr qint64 kBytesPerAttributeTable = 200;
-
 /** What a reference that stands for plain text is called: these five, or a number. */
 bool isPredefined(const QStringRef &name)
 {
@@ -57,7 +50,6 @@ public:
     Scan(const QString &text, const XmlLimits &limits)
         : m_text(text)
         , m_limits(limits)
-        , m_memory(text.size() * kBytesPerCharacter)
     {
     }
 
@@ -240,23 +232,19 @@ private:
         }
     }
 
-    void count(int nodes, qint64 bytesPerNode = kBytesPerNode)
+    void count(int nodes)
     {
         m_nodes += nodes;
-        m_memory += nodes * bytesPerNode;
         if (m_nodes > m_limits.maxNodes) {
             refuse(QStringLiteral("more than %1 elements, attributes, texts and other parts")
                        .arg(m_limits.maxNodes));
-        }
-        if (m_memory > m_limits.maxMemory) {
-            refuse(QStringLiteral("too many elements, attributes and texts for their size"));
         }
     }
 
     /** The \p number-th of an element, from 1. */
     void countAttribute(int number)
     {
-        count(1, kBytesPerAttribute + (number == 1 ? kBytesPerAttributeTable : 0));
+        count(1);
         if (number > m_limits.maxAttributes) {
             refuse(QStringLiteral("more than %1 attributes on one element")
                        .arg(m_limits.maxAttributes));
@@ -278,7 +266,6 @@ private:
     int m_pos = 0;
     int m_depth = 0;
     int m_nodes = 0;
-    qint64 m_memory; // bytes
     int m_doctypeLength = 0;
     bool m_doctypeIsPlain = true; // no markup, references or parameter entities in its literals
     int m_longestEntity = 0; // 0: no entity is declared
@@ -298,8 +285,7 @@ QString decodeXml(const QByteArray &bytes)
     QByteArray content = bytes;
     QBuffer buffer(&content);
     buffer.open(QIODevice::ReadOnly);
-    // The DOM's own decoder, in the pieces in which the DOM reads a device: what is scanned is what
-    // will be parsed.
+    // The parser's own decoder, in the pieces in which it reads a device.
     QT_WARNING_PUSH
     QT_WARNING_DISABLE_DEPRECATED
     QXmlInputSource source(&buffer);

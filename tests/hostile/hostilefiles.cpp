@@ -165,12 +165,26 @@ void addSizes(Files &files)
     const QByteArray full = "<pict id=\"1\" bracket=\"1\"><time>Fri May 1 10:00:00 2026</time>"
                             "<position yaw=\"1\" pitch=\"2\"/></pict>";
     files.addLarge("70,000 shots", [=] { return picts(70'000, full); });
-    files.addLarge("80,000 shots, as many as may be", [=] { return picts(79'998, full); });
-    files.addLarge("120,000 shots", [=] { return picts(120'000, full); });
+    files.addLarge("130,000 shots, as many as may be", [=] { return picts(129'998, full); });
+    files.addLarge("70,000 shots with eight children each", [=] {
+        QByteArray more = full;
+        for (int i = 0; i < 6; ++i) {
+            const QByteArray name = "child" + QByteArray::number(i);
+            more.insert(more.indexOf("</pict>"),
+                        "\r\n      <" + name + " unit='x' source='y'>1.5</" + name + ">");
+        }
+        return picts(69'998, more + "\r\n");
+    });
+    files.addLarge("31,000 times 3 shots", [=] {
+        Record record;
+        record.nbPicts = "3";
+        record.moreShots = full.repeated(92'998);
+        return record.text();
+    });
     files.addLarge("300,000 shots", [=] { return picts(300'000, full); });
-    files.addLarge("80,000 empty shots, as many as may be",
-                   [=] { return picts(79'998, "<pict/>"); });
-    files.addLarge("80,001 empty shots", [=] { return picts(79'999, "<pict/>"); });
+    files.addLarge("130,000 empty shots, as many as may be",
+                   [=] { return picts(129'998, "<pict/>"); });
+    files.addLarge("130,001 empty shots", [=] { return picts(129'999, "<pict/>"); });
     files.addLarge("1,000,000 empty shots", [=] { return picts(1'000'000, "<pict/>"); });
     files.addLarge("9,000,000 empty shots", [=] { return picts(9'000'000, "<pict/>"); });
     files.addLarge("1,000,000 attributes on one element", [] {
@@ -190,15 +204,23 @@ void addSizes(Files &files)
     files.addLarge("500,000 long attributes", [] {
         return "<p>" + ("<a b='" + QByteArray(100, 'x') + "'/>").repeated(500'000) + "</p>";
     });
-    files.addLarge("700,000 attributes that are just allowed", [] {
+    files.addLarge("2,200,000 attributes that are just allowed", [] {
         QByteArray text = "<p>";
-        for (int i = 0; i < 175; ++i) {
+        for (int i = 0; i < 550; ++i) {
             const auto attribute
                 = [](int k) { return " a" + QByteArray::number(k) + "='12345678901234567890'"; };
             text += "<a" + numbered(4'000, attribute) + "/>";
         }
         return text + "</p>";
     });
+    files.addLarge("8,000,000 elements, as many as may be",
+                   [] { return "<p>" + QByteArray("<a/>").repeated(7'999'999) + "</p>"; });
+    files.addLarge("4,000,000 elements with an attribute, as many as may be",
+                   [] { return "<p>" + QByteArray("<a b=''/>").repeated(3'999'999) + "</p>"; });
+    files.addLarge("4,000,000 elements with a text, as many as may be",
+                   [] { return "<p>" + QByteArray("<a/>x").repeated(3'999'999) + "</p>"; });
+    files.addLarge("64 MB of elements",
+                   [] { return "<p>" + QByteArray("<a/>").repeated(kMostBytes / 4 - 2) + "</p>"; });
     files.addLarge("500,000 long texts", [] {
         return "<p>" + ("<a/>" + QByteArray(100, 'x')).repeated(500'000) + "</p>";
     });
@@ -519,12 +541,12 @@ void addScriptSizes(Files &files)
     files.addLarge("script of NUL", [] { return filledUp("op_shoot\n", '\0', ""); });
     files.addLarge("script one byte too long",
                    [] { return filledUp("", '\n', "", kMostBytes + 1); });
-    for (const int shots : { 70'000, 80'000, 80'001, 7'000'000 }) {
+    for (const int shots : { 70'000, 130'000, 130'001, 7'000'000 }) {
         files.addLarge("script of " + QByteArray::number(shots) + " shots on one spot",
                        [shots] { return QByteArray("op_shoot\n").repeated(shots); });
     }
-    files.addLarge("script of 80,000 shots on a circle", [] {
-        return numbered(80'000, [](int i) {
+    files.addLarge("script of 130,000 shots on a circle", [] {
+        return numbered(130'000, [](int i) {
             return "op_h-angle=" + QByteArray::number(i % 360) + "\nop_shoot\n";
         });
     });

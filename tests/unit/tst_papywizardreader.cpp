@@ -233,6 +233,15 @@ void TestPapywizardReader::elementsAndAttributes_data()
     row("only the first position",
         "<shoot><pict><position yaw='1'/><position yaw='2' pitch='2'/></pict></shoot>",
         shots({ shot(1.0F, 0.0F) }));
+    row("the first position of each picture",
+        "<shoot><pict><position yaw='1'/><position yaw='2'/></pict>"
+        "<pict><position yaw='3'/><position yaw='4'/></pict></shoot>",
+        shots({ shot(1.0F, 0.0F), shot(3.0F, 0.0F) }));
+    row("a picture in a picture is none, nor is its position",
+        "<shoot><pict><pict><position yaw='1'/></pict><position yaw='2'/></pict></shoot>",
+        shots({ shot(2.0F, 0.0F) }));
+    row("the last of two attributes of one name",
+        "<shoot><pict><position yaw='1' yaw='2'/></pict></shoot>", shots({ shot(2.0F, 0.0F) }));
     row("pictures in file order, others between them",
         "<shoot><pict><position yaw='2'/></pict><x/>t<!-- --><pict><position "
         "yaw='1'/></pict></shoot>",
