@@ -294,6 +294,9 @@ void TestSchemaPages::failedParseShowsNoShots_data()
     addToBoth("not XML", QByteArray("These are my photos"));
     addToBoth("cut off", RecordXml::row(3).bytes().chopped(20));
     addToBoth("empty", QByteArray());
+    addToBoth("nested too deep", QByteArray("<a>").repeated(300));
+    addToBoth("one picture too many",
+              "<p><shoot>" + QByteArray("<pict/>").repeated(130'001) + "</shoot></p>");
 }
 
 void TestSchemaPages::failedParseShowsNoShots()
@@ -306,7 +309,13 @@ void TestSchemaPages::failedParseShowsNoShots()
     const QString toolTip = edit->toolTip();
     QVERIFY(!toolTip.isEmpty());
 
-    shoot.driver.load(kSelectRecord, { shoot.folder.write(QStringLiteral("bad.xml"), content) });
+    const QString path = shoot.folder.write(QStringLiteral("bad.xml"), content);
+    shoot.driver.load(kSelectRecord, { path });
+    {
+        const DialogClicker clicker;
+        shoot.driver.type("m_leConfigFile", path);
+        QVERIFY(clicker.isSettled()); // no box of the page's own
+    }
 
     QCOMPARE(edit->text(), shoot.folder.path(QStringLiteral("bad.xml")));
     QCOMPARE(edit->toolTip(), toolTip);

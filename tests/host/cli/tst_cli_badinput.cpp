@@ -32,6 +32,15 @@ QByteArray entityBomb()
     return xml + "]>\n<r><shoot>&e9;&e9;&e9;&e9;&e9;&e9;&e9;</shoot></r>\n";
 }
 
+/** Whether \p output is the one error that the pattern \p message describes. */
+bool isError(const QString &output, const QString &message)
+{
+    const QString pattern = QStringLiteral("panohost: error: ") + message + QStringLiteral("\n");
+    return QRegularExpression(QRegularExpression::anchoredPattern(pattern))
+        .match(output)
+        .hasMatch();
+}
+
 const QByteArray kBracketOfThree = R"(<bracketing nbPicts="3"/>)";
 
 } // namespace
@@ -44,6 +53,8 @@ private Q_SLOTS:
     void initTestCase();
     void recordIsRefusedWithItsReason_data();
     void recordIsRefusedWithItsReason();
+    void checkNamesTheReasonToo_data() { recordIsRefusedWithItsReason_data(); }
+    void checkNamesTheReasonToo();
     void scriptIsRefusedWithItsLine_data();
     void scriptIsRefusedWithItsLine();
     void gridIsRefusedWithItsNumbers_data();
@@ -79,6 +90,9 @@ void TestCliBadInput::initTestCase()
     m_bench.file(QStringLiteral("noshots.xml"), "<papywizard><shoot/></papywizard>");
     m_bench.file(QStringLiteral("deep.xml"), nested(30000));
     m_bench.file(QStringLiteral("bomb.xml"), entityBomb());
+    m_bench.file(QStringLiteral("long.xml"),
+                 "<p>\n<shoot>\n" + QByteArray("<pict/>\n").repeated(130'001) + "</shoot></p>");
+    m_bench.file(QStringLiteral("large.xml"), QByteArray(64 * 1024 * 1024 + 1, ' '));
     m_bench.file(QStringLiteral("nophoto.jpg"), "this is no photo");
     m_bench.file(QStringLiteral("kept.pto"), "kept");
     QVERIFY(QDir(m_bench.path(QString())).mkdir(QStringLiteral("folder")));
@@ -88,12 +102,7 @@ void TestCliBadInput::initTestCase()
 void TestCliBadInput::compareRefusal(const CliBench::Run &run, int exitCode, const QString &message)
 {
     QCOMPARE(run.out, QString());
-    QVERIFY2(
-        QRegularExpression(QRegularExpression::anchoredPattern(QStringLiteral("panohost: error: ")
-                                                               + message + QStringLiteral("\n")))
-            .match(run.err)
-            .hasMatch(),
-        qPrintable(run.err));
+    QVERIFY2(isError(run.err, message), qPrintable(run.err));
     QCOMPARE(run.exitCode, exitCode);
     QCOMPARE(m_bench.content(QStringLiteral("kept.pto")), QByteArray("kept"));
     QCOMPARE(m_bench.leftovers(), QStringList());
@@ -121,6 +130,8 @@ void TestCliBadInput::recordIsRefusedWithItsReason_data()
     row("no shots", "noshots.xml", "noshots.xml: .*no shot was recorded.*");
     row("30,000 nested elements", "deep.xml", "deep.xml: line 1: elements nested more than .*");
     row("entity bomb", "bomb.xml", "bomb.xml: line \\d+: .*entities.*");
+    row("130,001 pictures", "long.xml", "long.xml: line 130003: more than 130000 pictures; .*");
+    row("64 MiB and a byte", "large.xml", "large.xml: larger than 64 MiB; .*");
     row("one shot more", "five.xml", "five.xml: records 5 shots, 4 photos given; .*");
     row("three shots fewer", "one.xml", "one.xml: records 1 shot, 4 photos given; .*");
     row("no full brackets", "brackets.xml",
@@ -128,6 +139,10 @@ void TestCliBadInput::recordIsRefusedWithItsReason_data()
     row("vrdrive2, no shots", "noshots.xml", "noshots.xml: .*no shot was recorded.*", "vrdrive2");
     row("vrdrive2, no full brackets", "brackets.xml",
         "brackets.xml: 4 photos are not a multiple of bracket 3; .*", "vrdrive2");
+    row("vrdrive2, cut off on line 4", "open.xml", "open.xml: line 4: not well-formed XML .*",
+        "vrdrive2");
+    row("vrdrive2, 130,001 pictures", "long.xml",
+        "long.xml: line 130003: more than 130000 pictures; .*", "vrdrive2");
     row("vrdrive2, /dev/zero", "/dev/zero", "/dev/zero: .*not a regular file.*", "vrdrive2");
     row("clauss, missing", "nosuch.txt", "nosuch.txt: no such record; check the name", "clauss");
     row("clauss, folder", "folder", "folder: .*not a regular file.*", "clauss");
@@ -141,9 +156,22 @@ void TestCliBadInput::recordIsRefusedWithItsReason()
     QFETCH(QString, record);
     QFETCH(QString, message);
     QFETCH(QString, head);
-    const QStringList words{ QStringLiteral("import"), head, record };
+    const QStringList words{ head, record };
     const QStringList output{ QStringLiteral("-o"), QStringLiteral("kept.pto") };
-    compareRefusal(m_bench.run(words + m_photos + output), 3, message);
+    compareRefusal(m_bench.run(QStringList(QStringLiteral("import")) + words + m_photos + output),
+                   3, message);
+}
+
+/** What 'check' says when 'import' would refuse the record for itself. */
+void TestCliBadInput::checkNamesTheReasonToo()
+{
+    QFETCH(QString, record);
+    QFETCH(QString, message);
+    QFETCH(QString, head);
+    const QStringList words{ QStringLiteral("check"), head, record };
+    const CliBench::Run run = m_bench.run(words + m_photos);
+    QCOMPARE(run.exitCode, 3);
+    QVERIFY2(isError(run.err, message), qPrintable(run.err));
 }
 
 void TestCliBadInput::scriptIsRefusedWithItsLine_data()
