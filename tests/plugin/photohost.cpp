@@ -3,7 +3,9 @@
 #include "photohost.h"
 
 #include <QPainter>
+#include <QStyle>
 
+#include <chrono>
 #include <numeric>
 
 void WatchedPhoto::showEdition(int newEdition)
@@ -51,6 +53,9 @@ void WatchedPhoto::live()
 
 bool WatchedPhoto::note(Question question)
 {
+    if (beforeAnswer && !m_isGone) {
+        beforeAnswer(*this);
+    }
     ++m_asked[question];
     m_askedWhileGone += m_isGone ? 1 : 0;
     return !m_isGone;
@@ -81,14 +86,49 @@ float WatchedPhoto::exposure()
     return note(kExposure) ? light : 0.0F;
 }
 
+PhotoHost::PhotoHost(int &argc, char **argv)
+    : Host(argc, argv)
+    , m_style(style()->objectName())
+    , m_font(font())
+{
+}
+
 void PhotoHost::beginTest()
 {
     forget();
     prepare = nullptr;
+    imported = nullptr;
+    hold();
+    freePhotos();
+}
+
+void PhotoHost::restoreLooks() const
+{
+    host().setStyleSheet({});
+    setStyle(m_style);
+    setPalette(QPalette());
+    setFont(m_font);
+    setLayoutDirection(Qt::LeftToRight);
+}
+
+void PhotoHost::hold()
+{
     m_gates = std::make_unique<Gates>();
-    const std::lock_guard lock(m_watchedMutex);
-    m_watched.clear();
-    m_next = 0;
+    m_holds = true;
+}
+
+void PhotoHost::waitUntilAsked()
+{
+    constexpr std::chrono::minutes kLimit{ 2 };
+    if (!m_gates->asked.passWithin(kLimit)) {
+        qFatal("No photo is asked for");
+    }
+}
+
+void PhotoHost::release()
+{
+    m_holds = false;
+    m_gates->given.open(); // for the one that waits
 }
 
 void PhotoHost::reuseAddresses()
@@ -118,6 +158,13 @@ void PhotoHost::deletePhotos() const
     for (WatchedPhoto *photo : watched()) {
         photo->die();
     }
+}
+
+void PhotoHost::freePhotos()
+{
+    const std::lock_guard lock(m_watchedMutex);
+    m_watched.clear();
+    m_next = 0;
 }
 
 int PhotoHost::asked() const
@@ -156,8 +203,10 @@ QPixmap PhotoHost::picture(const WatchedPhoto &photo)
 
 Contract::Image *PhotoHost::createImage(const QString &)
 {
-    m_gates->asked.open();
-    m_gates->given.pass();
+    if (m_holds) {
+        m_gates->asked.open();
+        m_gates->given.pass();
+    }
     const std::lock_guard lock(m_watchedMutex);
     if (m_next == m_watched.size()) {
         m_watched.push_back(std::make_unique<WatchedPhoto>(static_cast<int>(m_next)));
@@ -168,4 +217,12 @@ Contract::Image *PhotoHost::createImage(const QString &)
         prepare(*photo);
     }
     return photo;
+}
+
+void PhotoHost::import(Contract::Description description)
+{
+    Host::import(description);
+    if (imported) {
+        imported();
+    }
 }

@@ -52,6 +52,8 @@ public:
 
     [[nodiscard]] const Asked &asked() const { return m_asked; }
     [[nodiscard]] int askedWhileGone() const { return m_askedWhileGone; }
+    /** Runs before each answer, and may change it. */
+    std::function<void(WatchedPhoto &photo)> beforeAnswer;
     /** The host deletes it. */
     void die();
     /** The host makes another photo at the same address. */
@@ -77,20 +79,27 @@ private:
 class PhotoHost : public Host
 {
 public:
-    using Host::Host;
+    PhotoHost(int &argc, char **argv);
 
     /** Forgets everything; no page is left. */
     void beginTest();
+    /** Looks as it did at first. */
+    void restoreLooks() const;
 
     /** Changes the answers of a photo that is about to be given out, on the reading thread. */
     std::function<void(WatchedPhoto &photo)> prepare;
+    std::function<void()> imported; ///< runs while the page hands over
     /** Photos given out from now on have the addresses of the earlier ones, which are gone. */
     void reuseAddresses();
 
+    /** Each photo waits from now on until it is let. No photo is being read. */
+    void hold();
     /** Waits until the page's reading thread asks for a photo. */
-    void waitUntilAsked() { m_gates->asked.pass(); }
+    void waitUntilAsked();
     /** Gives out \p photos more. */
     void letRead(int photos) { m_gates->given.open(photos); }
+    /** No photo waits any more. */
+    void release();
 
     [[nodiscard]] std::vector<WatchedPhoto *> watched() const;
     /** Of the photo that is given out next, among the watched ones. */
@@ -99,11 +108,14 @@ public:
      */
     [[nodiscard]] QPixmap picture(const WatchedPhoto &photo);
     void deletePhotos() const;
+    /** Deletes them and gives their memory back, so that nothing is counted any more. */
+    void freePhotos();
     /** How often photos were asked anything. */
     [[nodiscard]] int asked() const;
     [[nodiscard]] int askedWhileGone() const;
 
     Contract::Image *createImage(const QString &fileName) override;
+    void import(Contract::Description description) override;
 
 private:
     struct Gates {
@@ -111,7 +123,10 @@ private:
         Gate given; ///< passed by each photo
     };
 
+    QString m_style;
+    QFont m_font;
     std::unique_ptr<Gates> m_gates = std::make_unique<Gates>();
+    std::atomic_bool m_holds{ true };
     mutable std::mutex m_watchedMutex; ///< guards the two members below
     std::vector<std::unique_ptr<WatchedPhoto>> m_watched;
     std::size_t m_next = 0;

@@ -105,14 +105,15 @@ PhotoShoot::PhotoShoot(const Head &shotWith, int rows, int columns)
             }
         }
     }
-    QObject *plugin = pluginCalled(m_module.library(), QString::fromLatin1(m_head.plugin));
-    m_page = Contract::asImport(plugin)->pages().first();
-    m_wizard.addPage(new QWizardPage);
-    m_wizard.addPage(m_page);
-    m_wizard.addPage(new QWizardPage);
-    m_wizard.resize(900, 700);
-    m_wizard.show();
-    m_wizard.next();
+    m_library = m_module.root();
+    m_plugin = pluginCalled(m_module.library(), QString::fromLatin1(m_head.plugin));
+    m_page = Contract::asImport(m_plugin)->pages().first();
+    m_wizard->addPage(new QWizardPage);
+    m_wizard->addPage(m_page);
+    m_wizard->addPage(new QWizardPage);
+    m_wizard->resize(900, 700);
+    m_wizard->show();
+    m_wizard->next();
     m_label = qobject_cast<QLabel *>(find<QScrollArea>("m_saPreview")->widget());
     if (m_label == nullptr) {
         qFatal("The page's preview is no label");
@@ -121,7 +122,7 @@ PhotoShoot::PhotoShoot(const Head &shotWith, int rows, int columns)
 
 PhotoShoot::~PhotoShoot()
 {
-    photoHost().letRead(m_photos.size());
+    photoHost().release();
 }
 
 void PhotoShoot::chooseFiles(const char *button, const QStringList &files) const
@@ -151,6 +152,7 @@ void PhotoShoot::choose()
 
 void PhotoShoot::choosePhotos()
 {
+    photoHost().hold();
     m_first = photoHost().nextNumber();
     m_read = 0;
     chooseFiles("m_pbSelectImages", m_photos);
@@ -196,8 +198,8 @@ void PhotoShoot::load()
 void PhotoShoot::goOn()
 {
     const int delivered = host().descriptions.size();
-    m_wizard.next();
-    if (host().descriptions.size() != delivered + 1 || m_wizard.currentPage() == m_page) {
+    m_wizard->next();
+    if (host().descriptions.size() != delivered + 1 || m_wizard->currentPage() == m_page) {
         qFatal("Next was not accepted");
     }
 }
@@ -253,7 +255,7 @@ QByteArray PhotoShoot::record() const
 
 QImage PhotoShoot::picture() const
 {
-    return m_label->pixmap(Qt::ReturnByValue).toImage();
+    return m_label.isNull() ? QImage() : m_label->pixmap(Qt::ReturnByValue).toImage();
 }
 
 std::vector<WatchedPhoto *> PhotoShoot::photos() const

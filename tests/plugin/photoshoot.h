@@ -64,7 +64,7 @@ public:
     void chooseOthers();
     /** Has \p photos more read; the page has not heard of them yet. */
     void read(int photos);
-    void readRest() { read(m_photos.size() - m_read); }
+    void readRest() { read(photosToRead()); }
     /** The page hears of the photos read. No timer runs meanwhile. */
     void deliver();
     /** Everything of the above. */
@@ -72,11 +72,16 @@ public:
 
     /** Next, which has to be accepted. */
     void goOn();
-    void goBack() { m_wizard.back(); }
-    void goForward() { m_wizard.next(); }
+    void goBack() { m_wizard->back(); }
+    void goForward() { m_wizard->next(); }
+    /** With its pages, as far as they have not been deleted. */
+    void closeWizard() { m_wizard.reset(); }
 
     [[nodiscard]] QWizardPage *page() const { return m_page; }
-    [[nodiscard]] QWizard &wizard() { return m_wizard; }
+    [[nodiscard]] QObject *plugin() const { return m_plugin; }
+    /** The library's root object, which deletes its plug-ins. */
+    [[nodiscard]] QObject *library() const { return m_library; }
+    [[nodiscard]] QWizard &wizard() { return *m_wizard; }
     [[nodiscard]] int photoCount() const { return m_photos.size(); }
     /** The photos chosen last, as far as they are read, in the order of reading. */
     [[nodiscard]] std::vector<WatchedPhoto *> photos() const;
@@ -95,12 +100,14 @@ public:
     void invert();
     void rotate(int degrees, const char *button);
 
-    /** What the preview shows. */
+    /** What the preview shows; null without a page. */
     [[nodiscard]] QImage picture() const;
     /** What it has to show with the answers that the photos read would give now. */
     [[nodiscard]] QImage expected() const;
     /** Empty when both are the same. */
     [[nodiscard]] QString wrong() const;
+    /** Of those chosen. */
+    [[nodiscard]] int photosToRead() const { return m_photos.size() - m_read; }
     /** Of the page and what the library has put on it. */
     [[nodiscard]] int runningTimers() const;
 
@@ -115,12 +122,14 @@ private:
     QVector<LayoutPicture::Shot> m_shots;
     QStringList m_photos;
     int m_first = 0; ///< of the photos chosen last, among all that the host gave out
-    int m_read = 0;
+    int m_read = 0; ///< of them
     int m_mode = 0;
     Contract::Module m_module;
-    QWizard m_wizard;
+    std::unique_ptr<QWizard> m_wizard = std::make_unique<QWizard>();
+    QPointer<QObject> m_library;
+    QPointer<QObject> m_plugin;
     QPointer<QWizardPage> m_page;
-    QLabel *m_label = nullptr;
+    QPointer<QLabel> m_label;
 };
 
 /** Lets the event loop turn often enough for everything that is due, and for timers of no time. */

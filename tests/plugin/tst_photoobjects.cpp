@@ -1,20 +1,10 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
+#include "incidents.h"
 #include "photoshoot.h"
 
-#include <QCheckBox>
 #include <QDoubleSpinBox>
-#include <QScrollArea>
-#include <QScrollBar>
-#include <QStyle>
 #include <QTest>
-
-/** Something that happens to a page besides its slots. */
-struct Incident {
-    const char *name;
-    void (*happen)(PhotoShoot &shoot);
-};
-Q_DECLARE_METATYPE(const Incident *)
 
 /** Pages ask photo objects in their slots alone, and keep none for later. */
 class TestPhotoObjects : public QObject
@@ -22,7 +12,6 @@ class TestPhotoObjects : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void init();
     void cleanup();
 
@@ -51,107 +40,10 @@ private Q_SLOTS:
     void newPhotosAtOldAddressesAreAskedThemselves();
     void newLooksAreTakenByTheNextRedraw_data();
     void newLooksAreTakenByTheNextRedraw();
-
-private:
-    QString m_style;
-    QFont m_font;
 };
 
 namespace
 {
-
-QPalette otherPalette()
-{
-    QPalette palette;
-    palette.setColor(QPalette::Window, QColor(0xff, 0xf0, 0xc0));
-    palette.setColor(QPalette::WindowText, QColor(0x40, 0x00, 0x60));
-    return palette;
-}
-
-QFont otherFont()
-{
-    QFont font = QApplication::font();
-    font.setPointSize(font.pointSize() + 5);
-    font.setBold(true);
-    return font;
-}
-
-void enterOptions(PhotoShoot &shoot)
-{
-    for (QCheckBox *box : shoot.page()->findChildren<QCheckBox *>()) {
-        box->click();
-    }
-    for (QDoubleSpinBox *number : shoot.page()->findChildren<QDoubleSpinBox *>()) {
-        number->stepUp();
-    }
-}
-
-void scroll(PhotoShoot &shoot)
-{
-    const auto *area = shoot.find<QScrollArea>("m_saPreview");
-    for (QScrollBar *bar : { area->horizontalScrollBar(), area->verticalScrollBar() }) {
-        bar->setValue(bar->maximum());
-        bar->setValue(bar->minimum());
-    }
-}
-
-void moveToAnotherWizard(PhotoShoot &shoot)
-{
-    auto *other = new QWizard(&shoot.wizard());
-    other->addPage(new QWizardPage);
-    other->addPage(shoot.page());
-    other->show();
-}
-
-const std::vector<Incident> &incidents()
-{
-    static const std::vector<Incident> all = {
-        { "a turn of the event loop", [](PhotoShoot &) {} },
-        { "palette of the application",
-          [](PhotoShoot &) { QApplication::setPalette(otherPalette()); } },
-        { "palette of the page",
-          [](PhotoShoot &shoot) { shoot.page()->setPalette(otherPalette()); } },
-        { "font of the application", [](PhotoShoot &) { QApplication::setFont(otherFont()); } },
-        { "font of the page", [](PhotoShoot &shoot) { shoot.page()->setFont(otherFont()); } },
-        { "style of the application",
-          [](PhotoShoot &) { QApplication::setStyle(QStringLiteral("windows")); } },
-        { "style sheet of the application",
-          [](PhotoShoot &) {
-              host().setStyleSheet(QStringLiteral("QLabel { color: red; font-size: 20pt }"));
-          } },
-        { "style sheet of the page",
-          [](PhotoShoot &shoot) {
-              shoot.page()->setStyleSheet(QStringLiteral("* { background: yellow }"));
-          } },
-        { "right to left",
-          [](PhotoShoot &) { QApplication::setLayoutDirection(Qt::RightToLeft); } },
-        { "another language",
-          [](PhotoShoot &shoot) {
-              QEvent event(QEvent::LanguageChange);
-              QCoreApplication::sendEvent(shoot.page(), &event);
-          } },
-        { "disabled and enabled",
-          [](PhotoShoot &shoot) {
-              shoot.page()->setEnabled(false);
-              turnEventLoop();
-              shoot.page()->setEnabled(true);
-          } },
-        { "another size", [](PhotoShoot &shoot) { shoot.wizard().resize(1200, 900); } },
-        { "hidden and shown",
-          [](PhotoShoot &shoot) {
-              shoot.wizard().hide();
-              turnEventLoop();
-              shoot.wizard().show();
-          } },
-        { "painted", [](PhotoShoot &shoot) { (void)shoot.page()->grab(); } },
-        { "scrolled", &scroll },
-        { "in another wizard", &moveToAnotherWizard },
-        { "asked whether it is complete",
-          [](PhotoShoot &shoot) { (void)shoot.page()->isComplete(); } },
-        { "options entered", &enterOptions },
-    };
-    return all;
-}
 
 void addIncidents()
 {
@@ -164,21 +56,6 @@ void addIncidents()
     }
 }
 
-/** What is wrong after \p incident, which must neither ask a photo nor change the picture. */
-QString after(const Incident &incident, PhotoShoot &shoot)
-{
-    const int asked = photoHost().asked();
-    const QImage picture = shoot.picture();
-    incident.happen(shoot);
-    turnEventLoop();
-    if (const int more = photoHost().asked() - asked; more != 0) {
-        return QStringLiteral("photos were asked %1 times, %2 of them gone")
-            .arg(more)
-            .arg(photoHost().askedWhileGone());
-    }
-    return LayoutPicture::difference(shoot.picture(), picture);
-}
-
 void showOtherPictures(const PhotoShoot &shoot)
 {
     for (WatchedPhoto *photo : shoot.photos()) {
@@ -188,12 +65,6 @@ void showOtherPictures(const PhotoShoot &shoot)
 
 } // namespace
 
-void TestPhotoObjects::initTestCase()
-{
-    m_style = QApplication::style()->objectName();
-    m_font = QApplication::font();
-}
-
 void TestPhotoObjects::init()
 {
     photoHost().beginTest();
@@ -201,11 +72,7 @@ void TestPhotoObjects::init()
 
 void TestPhotoObjects::cleanup()
 {
-    host().setStyleSheet({});
-    QApplication::setStyle(m_style);
-    QApplication::setPalette(QPalette());
-    QApplication::setFont(m_font);
-    QApplication::setLayoutDirection(Qt::LeftToRight);
+    photoHost().restoreLooks();
 }
 
 void TestPhotoObjects::noPhotoIsAskedBetweenSlotsWhilePhotosAreRead_data()
@@ -222,7 +89,7 @@ void TestPhotoObjects::noPhotoIsAskedBetweenSlotsWhilePhotosAreRead()
     shoot.read(10);
     shoot.deliver();
     QVERIFY(photoHost().asked() > 0);
-    QCOMPARE(after(*incident, shoot), QString());
+    QCOMPARE(wrongAfter(*incident, shoot), QString());
 }
 
 void TestPhotoObjects::noPhotoIsAskedBetweenSlotsOnceAllAreRead_data()
@@ -236,7 +103,7 @@ void TestPhotoObjects::noPhotoIsAskedBetweenSlotsOnceAllAreRead()
     QFETCH(const Incident *, incident);
     PhotoShoot shoot(*head, 3, 4);
     shoot.load();
-    QCOMPARE(after(*incident, shoot), QString());
+    QCOMPARE(wrongAfter(*incident, shoot), QString());
 }
 
 void TestPhotoObjects::photosMayGoAfterNext_data()
@@ -252,7 +119,7 @@ void TestPhotoObjects::photosMayGoAfterNext()
     shoot.load();
     shoot.goOn();
     photoHost().deletePhotos();
-    QCOMPARE(after(*incident, shoot), QString());
+    QCOMPARE(wrongAfter(*incident, shoot), QString());
 }
 
 void TestPhotoObjects::photosMayGoAfterBack_data()
@@ -268,7 +135,7 @@ void TestPhotoObjects::photosMayGoAfterBack()
     shoot.load();
     shoot.goBack();
     photoHost().deletePhotos();
-    QCOMPARE(after(*incident, shoot), QString());
+    QCOMPARE(wrongAfter(*incident, shoot), QString());
     if (shoot.wizard().isAncestorOf(shoot.page())) {
         shoot.goForward(); // begins anew
         turnEventLoop();
@@ -289,7 +156,7 @@ void TestPhotoObjects::photosMayGoAfterReset()
     shoot.load();
     shoot.click("m_pbReset");
     photoHost().deletePhotos();
-    QCOMPARE(after(*incident, shoot), QString());
+    QCOMPARE(wrongAfter(*incident, shoot), QString());
 }
 
 void TestPhotoObjects::nothingAsksForPhotosThatWentWithReset_data()
@@ -351,12 +218,12 @@ void TestPhotoObjects::photosMayGoWithTheirPage()
         if (isRead) {
             shoot.readRest();
         } else {
-            photoHost().letRead(2); // they are waited for
+            photoHost().release(); // the page waits for its thread
         }
         const int asked = photoHost().asked();
-        delete shoot.page();
+        shoot.closeWizard();
         photoHost().deletePhotos();
-        QApplication::setPalette(isRead ? QPalette() : otherPalette());
+        QApplication::setPalette(isRead ? Qt::white : Qt::yellow);
         turnEventLoop();
         QCOMPARE(photoHost().asked(), asked);
     }
