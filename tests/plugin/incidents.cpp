@@ -126,3 +126,14 @@ QString wrongAfter(const Incident &incident, PhotoShoot &shoot)
     }
     return LayoutPicture::difference(shoot.picture(), picture);
 }
+
+QString wrongAfterAny(PhotoShoot &shoot)
+{
+    for (const Incident &incident : incidents()) {
+        const QString wrong = wrongAfter(incident, shoot);
+        if (!wrong.isEmpty()) {
+            return QStringLiteral("%1: %2").arg(QLatin1String(incident.name), wrong);
+        }
+    }
+    return {};
+}

@@ -21,3 +21,5 @@ Q_DECLARE_METATYPE(const Incident *)
 [[nodiscard]] const std::vector<Incident> &incidents();
 /** What is wrong after \p incident, which must neither ask a photo nor change the picture. */
 [[nodiscard]] QString wrongAfter(const Incident &incident, PhotoShoot &shoot);
+/** The same for all incidents, one after the other. */
+[[nodiscard]] QString wrongAfterAny(PhotoShoot &shoot);
