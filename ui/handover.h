@@ -27,7 +27,7 @@ template <typename Describe>
     if (!describeWithinMemory(description, describe, notice)) {
         return false;
     }
-    photos.forget();
+    photos.letGo();
     host->ImportStructuredPanorama(description);
     return true;
 }

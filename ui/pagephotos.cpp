@@ -50,15 +50,21 @@ void PagePhotos::drawAnew()
 {
     m_shown->clear();
     m_areAllAsked = false;
+    m_isLeft = false;
 }
 
-void PagePhotos::arrived()
+bool PagePhotos::arrived()
 {
+    if (m_isLeft) {
+        return false;
+    }
     ask(m_thread->isLastLoaded() ? AskAgain::Unanswered : AskAgain::Some);
+    return true;
 }
 
 void PagePhotos::look()
 {
+    m_isLeft = false;
     ask(AskAgain::Nobody);
 }
 
@@ -93,7 +99,14 @@ void PagePhotos::forget()
     std::fill(m_shown->begin(), m_shown->end(), nullptr);
     m_answers.forget();
     m_haveNews = false;
+    m_isLeft = false;
     m_preview->forgetPhotos();
+}
+
+void PagePhotos::letGo()
+{
+    forget();
+    m_isLeft = true;
 }
 
 } // namespace PanoHead

@@ -34,8 +34,8 @@ public:
     /** Reads \p files from a clean start. */
     void read(const QStringList &files);
     /** The thread has signalled: new photos are asked, and those that lacked an answer again, all
-     * of them at the end of the work. */
-    void arrived();
+     * of them at the end of the work. False, and nothing to be done, after `letGo`. */
+    [[nodiscard]] bool arrived();
     /** Between the thread's signals: new photos are asked. */
     void look();
     /** The picture is to be drawn anew, for which the next call asks all photos again. */
@@ -50,8 +50,12 @@ public:
      * Throws std::bad_alloc. */
     void show(const PreviewLayout &layout, CellStyle style, int zoomPercent);
 
-    /** The photos may be gone from now on; the picture stays. */
+    /** The photos may be gone from now on, or be others at the same addresses; the picture stays.
+     */
     void forget();
+    /** The same, and signals that are still on their way from the thread find nothing to do: the
+     * page is left, and only what the user does on it brings the photos back. */
+    void letGo();
 
 private:
     void ask(AskAgain again);
@@ -59,6 +63,7 @@ private:
     PhotoAnswers m_answers;
     QList<XIImageDef *> *m_shown;
     bool m_haveNews = false;
+    bool m_isLeft = false;
     bool m_areAllAsked = false; // for the picture that is to be drawn anew
     ReadingThread *m_thread = nullptr;
     PreviewLabel *m_preview = nullptr;

@@ -196,8 +196,8 @@ void UIWPClauss::Reset()
 {
     m_state = ShootState();
     shots.clear();
-    m_readingThread->Clear();
     m_photos.forget();
+    m_readingThread->Clear();
     UpdateUI();
 }
 
@@ -223,8 +223,9 @@ void UIWPClauss::UpdatePreview()
     if (m_hSlider->value() != m_photos.preview()->zoomPercent()) {
         m_photos.drawAnew();
     }
-    m_photos.arrived();
-    m_photos.preview()->withinMemory([this] { showPreview(); });
+    if (m_photos.arrived()) {
+        m_photos.preview()->withinMemory([this] { showPreview(); });
+    }
     Q_EMIT completeChanged();
 }
 

@@ -91,7 +91,7 @@ void UIWPGigapan::initializePage()
 void UIWPGigapan::cleanupPage()
 {
     clearIfRunning(*m_readingThread);
-    m_photos.forget();
+    m_photos.letGo();
 }
 
 bool UIWPGigapan::isComplete() const
@@ -223,8 +223,8 @@ void UIWPGigapan::Reset()
     rows = kFreshRows;
     bracketCount = 1;
     mode = kColumnsFromLeft;
-    m_readingThread->Clear();
     m_photos.forget();
+    m_readingThread->Clear();
     UpdateUI();
 }
 
@@ -247,8 +247,9 @@ void UIWPGigapan::UpdateUI()
 void UIWPGigapan::UpdatePreview()
 {
     const XNoEvent noEvent(m_isUpdating);
-    m_photos.arrived();
-    m_photos.preview()->withinMemory([this] { showPreview(); });
+    if (m_photos.arrived()) {
+        m_photos.preview()->withinMemory([this] { showPreview(); });
+    }
     Q_EMIT completeChanged();
 }
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "importers/papywizard/papywizardreader.h"
 
-#include "shoot/recordlimits.h"
 #include "importers/papywizard/xmlgate.h"
+#include "shoot/recordlimits.h"
 
 #include <QXmlDefaultHandler>
 

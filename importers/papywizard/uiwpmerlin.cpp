@@ -191,14 +191,16 @@ void UIWPMerlin::SetConfigFFilename(const QString &text)
 void UIWPMerlin::Reset()
 {
     forgetShoot(*this, m_state);
-    m_readingThread->Clear();
     m_photos.forget();
+    m_readingThread->Clear();
     redrawAll();
 }
 
 void UIWPMerlin::OnImageLoaded()
 {
-    m_photos.arrived();
+    if (!m_photos.arrived()) {
+        return;
+    }
     const LensFacts preset = adoptPhotos(m_state, *this, m_photos.lens());
     if (preset.focalMm > 0.0) {
         setLens(lensViewOf(*this), preset);

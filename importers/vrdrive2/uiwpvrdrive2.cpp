@@ -198,15 +198,17 @@ void UIWPVRDrive2::SetConfigFFilename(const QString &text)
 void UIWPVRDrive2::Reset()
 {
     forgetShoot(*this, m_state);
-    m_readingThread->Clear();
     m_photos.forget();
+    m_readingThread->Clear();
     redrawAll();
     Q_EMIT completeChanged();
 }
 
 void UIWPVRDrive2::OnImageLoaded()
 {
-    m_photos.arrived();
+    if (!m_photos.arrived()) {
+        return;
+    }
     const LensFacts preset = adoptPhotos(m_state, *this, m_photos.lens());
     if (preset.focalMm > 0.0) {
         setLens(lensViewOf(*this), preset);

@@ -23,6 +23,8 @@ private Q_SLOTS:
     void photosMayGoAfterNext();
     void photosMayGoAfterBack_data();
     void photosMayGoAfterBack();
+    void photosMayGoWhileASignalIsOnItsWay_data();
+    void photosMayGoWhileASignalIsOnItsWay();
     void photosMayGoAfterReset_data();
     void photosMayGoAfterReset();
     void nothingAsksForPhotosThatWentWithReset_data();
@@ -140,6 +142,33 @@ void TestPhotoObjects::photosMayGoAfterBack()
         turnEventLoop();
         QCOMPARE(photoHost().askedWhileGone(), 0);
     }
+}
+
+void TestPhotoObjects::photosMayGoWhileASignalIsOnItsWay_data()
+{
+    QTest::addColumn<const Head *>("head");
+    QTest::addColumn<bool>("goesOn");
+    for (const Head &head : allHeads()) {
+        QTest::addRow("%s: Next", head.name) << &head << true;
+        QTest::addRow("%s: Back", head.name) << &head << false;
+    }
+}
+
+void TestPhotoObjects::photosMayGoWhileASignalIsOnItsWay()
+{
+    QFETCH(const Head *, head);
+    QFETCH(bool, goesOn);
+    PhotoShoot shoot(*head, 3, 4);
+    shoot.choose();
+    shoot.readRest(); // the page has not heard of it yet
+    if (goesOn) {
+        shoot.goOn();
+    } else {
+        shoot.goBack();
+    }
+    photoHost().deletePhotos();
+    turnEventLoop();
+    QCOMPARE(photoHost().askedWhileGone(), 0);
 }
 
 void TestPhotoObjects::photosMayGoAfterReset_data()

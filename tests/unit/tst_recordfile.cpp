@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "shoot/recordfile.h"
 
-#include "shoot/recordlimits.h"
-#include "shoot/shootstate.h"
 #include "importers/papywizard/merlintospp.h"
 #include "importers/papywizard/recordedshoot.h"
+#include "shoot/recordlimits.h"
+#include "shoot/shootstate.h"
 
 #include <QFile>
 #include <QTemporaryDir>
