@@ -19,7 +19,7 @@ public:
     enum APX : int {
         None = 0,
         Grids = 1, ///< Gigapan and Papywizard
-        AllHeads = 2, ///< all four importers
+        AllHeads = 2, ///< every importer
     };
 
     virtual ~XIPluginLibrary() = default;

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "plugin/library.h"
 
+#include "hostlink/about.h"
 #include "hostlink/hostapplication.h"
 #include "hostlink/xiapplication.h"
-#include "plugin/about.h"
-#include "plugin/importplugins.h"
+#include "plugin/registry.h"
 #include "ui/xui.h"
 
 #include <QCoreApplication>
@@ -13,26 +13,6 @@
 
 namespace
 {
-
-constexpr int kEveryKind = ~0;
-
-struct Registration {
-    int kinds; ///< created when the host wants any of these
-    QObject *(*create)();
-};
-
-template <typename Plugin> QObject *create()
-{
-    return new Plugin(nullptr);
-}
-
-/** Every importer, in the order in which hosts list them. */
-constexpr Registration kImporters[] = {
-    { XIPluginLibrary::AllHeads, create<XClaussImport> },
-    { kEveryKind, create<XGigapanImport> },
-    { kEveryKind, create<XMerlinImport> },
-    { XIPluginLibrary::AllHeads, create<XVRDrive2Import> },
-};
 
 // The picture does not exist under the library's own folder, so hosts show no icon: wanted.
 constexpr PanoHead::About kAbout{
@@ -67,7 +47,7 @@ Library::~Library()
 
 QList<QPointer<QObject>> Library::Plugins(XIPluginLibrary::APX kinds)
 {
-    for (const Registration &importer : kImporters) {
+    for (const PanoHead::Registration &importer : PanoHead::importers()) {
         if ((static_cast<int>(kinds) & importer.kinds) != 0) {
             m_plugins.append(importer.create());
         }
