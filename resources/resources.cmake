@@ -1,8 +1,9 @@
 # SPDX-FileCopyrightText: 2026 Orvane
 # SPDX-License-Identifier: MIT
 
-# The two resource packs of the library. Included where the target Pages is created: the rules that
-# compile the translations must stand in the same directory scope as the packs that hold them.
+# The two resource packs of the library. Included where the target Pages is created, behind the
+# importers that bring pictures: the rules that compile the translations must stand in the same
+# directory scope as the packs that hold them.
 set(TRANSLATION_DIR ${PROJECT_BINARY_DIR}/resources/translations)
 file(MAKE_DIRECTORY ${TRANSLATION_DIR})
 foreach(_language IN ITEMS en es zh_CN fr ja de it pl zh_TW ru)
@@ -39,6 +40,8 @@ function(panohead_write_notices table folder result)
 endfunction()
 panohead_write_notices(${PROJECT_SOURCE_DIR}/resources/licenses/table
                        ${PROJECT_BINARY_DIR}/resources/licenses LICENSE_FILES)
+
+get_property(PANOHEAD_PICTURES GLOBAL PROPERTY PANOHEAD_PICTURES)
 
 # The file names fix the initialisers: qInitResources_XPanoHead and qInitResources_XUI.
 foreach(_pack IN ITEMS XPanoHead XUI)

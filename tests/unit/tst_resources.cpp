@@ -304,40 +304,44 @@ void ResourcesTest::busyAnimationTurnsWithEveryFrame()
     }
 }
 
+/** The files of the heads and of the UI pack whose names match \p pattern. */
+static QSet<QString> sourceFiles(const QString &pattern)
+{
+    QSet<QString> found;
+    for (const QString &folder : { QStringLiteral("/importers"), QStringLiteral("/resources") }) {
+        QDirIterator files(QStringLiteral(SOURCE_FOLDER) + folder, { pattern }, QDir::Files,
+                           QDirIterator::Subdirectories);
+        while (files.hasNext())
+            found.insert(files.next());
+    }
+    return found;
+}
+
 void ResourcesTest::everyPictureIsDrawnFromItsSource()
 {
-    const QDir resources(QStringLiteral(RESOURCE_FOLDER));
-    QFile list(resources.filePath(QStringLiteral("svg/pictures.list")));
-    QVERIFY(list.open(QIODevice::ReadOnly));
+    const QSet<QString> lists = sourceFiles(QStringLiteral("pictures.list"));
+    QVERIFY(lists.size() >= 5); // four heads and the UI pack
     QSet<QString> pictures;
     QSet<QString> sources;
-    const QStringList lines = QString::fromUtf8(list.readAll()).split(QLatin1Char('\n'));
-    for (const QString &line : lines) {
-        const QStringList words = line.simplified().split(QLatin1Char(' '));
-        if (words.size() < 4 || line.startsWith(QLatin1Char('#')))
-            continue;
-        const QImage picture(resources.filePath(words.at(0)));
-        QVERIFY2(picture.size() == QSize(words.at(2).toInt(), words.at(3).toInt()),
-                 qPrintable(line));
-        pictures.insert(words.at(0));
-        sources.insert(words.at(1));
+    for (const QString &listName : lists) {
+        QFile list(listName);
+        QVERIFY(list.open(QIODevice::ReadOnly));
+        const QDir folder = QFileInfo(list).dir();
+        const QStringList lines = QString::fromUtf8(list.readAll()).split(QLatin1Char('\n'));
+        for (const QString &line : lines) {
+            const QStringList words = line.simplified().split(QLatin1Char(' '));
+            if (words.size() < 4 || line.startsWith(QLatin1Char('#')))
+                continue;
+            const QImage picture(folder.filePath(words.at(0)));
+            QVERIFY2(picture.size() == QSize(words.at(2).toInt(), words.at(3).toInt()),
+                     qPrintable(line));
+            pictures.insert(folder.filePath(words.at(0)));
+            sources.insert(QDir::cleanPath(folder.filePath(words.at(1))));
+        }
     }
     // None is drawn from nothing, and no drawing is left over.
-    const auto filesBelow
-        = [&resources](const QString &folder, const QString &pattern, const QDir &start) {
-              QSet<QString> found;
-              QDirIterator files(resources.filePath(folder), { pattern }, QDir::Files,
-                                 QDirIterator::Subdirectories);
-              while (files.hasNext())
-                  found.insert(start.relativeFilePath(files.next()));
-              return found;
-          };
-    QCOMPARE(pictures,
-             filesBelow(QStringLiteral("pictures"), QStringLiteral("*.png"), resources)
-                 + filesBelow(QStringLiteral("ui"), QStringLiteral("*.png"), resources));
-    QCOMPARE(sources,
-             filesBelow(QStringLiteral("svg"), QStringLiteral("*.svg"),
-                        QDir(resources.filePath(QStringLiteral("svg")))));
+    QCOMPARE(pictures, sourceFiles(QStringLiteral("*.png")));
+    QCOMPARE(sources, sourceFiles(QStringLiteral("*.svg")));
 }
 
 void ResourcesTest::controlModuleDeclaresItsTypes_data()
