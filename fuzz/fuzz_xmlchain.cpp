@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "fuzz/check.h"
 #include "fuzz/shoot.h"
-#include "importers/papywizard/recordedshoot.h"
 #include "importers/vrdrive2/vrdrive2tospp.h"
 #include "shoot/angles.h"
+#include "shoot/recordedshoot.h"
 #include "shoot/shootstate.h"
 
 #include <algorithm>
@@ -34,13 +34,15 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 
     VRDrive2ToSPP generator;
     ShootState state;
-    const bool isRead = readRecord(generator, state, file.path());
+    const bool isRead
+        = readRecord(state, generator.shots, [&generator] { return generator.parse(file.path()); });
     FUZZ_CHECK(isRead == (state.shotCount >= 0));
     const int count = std::min(generator.shots.size(), kMaxPhotos);
     state.images = photos.names(count);
-    const LensFacts lens = adoptPhotos(state, generator, { 24.0, 0 });
-    (void)headerText(generator);
-    (void)mismatchOf(generator, state);
+    const LensFacts recorded{ generator.xmlFocal, generator.xmlLensType };
+    const LensFacts lens = adoptPhotos(state, recorded, { 24.0, 0 });
+    (void)headerText(generator.title, generator.gps, generator.comment);
+    (void)mismatchOf(state, recorded, generator.nbPicts);
     if (size % 2 == 0) {
         invertPitch(generator.shots);
         state.invertPitchRange();

@@ -4,6 +4,7 @@
 
 #include "shoot/angles.h"
 #include "shoot/previewlayout.h"
+#include "shoot/recordedshoot.h"
 #include "ui/blocksignal.h"
 #include "ui/connectpage.h"
 #include "ui/filedialogs.h"
@@ -115,14 +116,10 @@ void UIWPClauss::BrowserWeb(const QString &url)
 
 void UIWPClauss::ParseConfigFile(const QString &fileName)
 {
-    m_state.shotCount = -1;
-    if (!parse(fileName)) {
+    if (!readRecord(m_state, shots, [this, &fileName] { return parse(fileName); })) {
         showMessage(this, QMessageBox::Critical, tr("Error"),
                     tr("Error parse file:%1").arg(fileName));
-        return;
     }
-    m_state.shotCount = shots.size();
-    m_state.setExtents(extentsOf(shots));
 }
 
 void UIWPClauss::SelectConfigFile()

@@ -4,10 +4,9 @@
 
 #include "importers/papywizard/papywizardreader.h"
 #include "shoot/angles.h"
-#include "shoot/linksearch.h"
+#include "shoot/mismatch.h"
 #include "shoot/recordfile.h"
-
-#include <algorithm>
+#include "shoot/stacks.h"
 
 MerlinToSPP::MerlinToSPP()
 {
@@ -35,43 +34,22 @@ bool MerlinToSPP::parse(const QString &path)
     return read.has_value();
 }
 
+void MerlinToSPP::forgetRecord()
+{
+    shots.clear();
+    nbPicts = -1;
+    xmlFocal = PanoHead::kNoRecordedFocal;
+    xmlLensType = 0;
+}
+
 void MerlinToSPP::generateSPP(const QStringList &images, double focal, LensModel lens)
 {
     const double chosenFocal = focal < 0.0 ? xmlFocal : focal;
-    appendStacks(images);
+    PanoHead::appendStacks(*this, images, nbPicts);
     PanoHead::appendAngles(*this, shots, PanoHead::RollAngles::Write);
     focalLength = static_cast<float>(chosenFocal);
     lensModel = lens == LensModel::NotChosen ? static_cast<LensModel>(xmlLensType) : lens;
     if (lensModel != LensModel::Fisheye) {
-        appendLinks(images.size(), focalLength);
+        PanoHead::appendStackLinks(*this, shots, images.size(), nbPicts, focalLength);
     }
-}
-
-int MerlinToSPP::bracketCount() const
-{
-    return std::max(nbPicts, 1);
-}
-
-void MerlinToSPP::appendStacks(const QStringList &images)
-{
-    const int bracket = bracketCount();
-    const int positions = images.size() / bracket;
-    imageGroups.reserve(imageGroups.size() + positions);
-    for (int position = 0; position < positions; ++position) {
-        imageGroups.append(images.mid(position * bracket, bracket));
-    }
-}
-
-/** A position points where its first exposure points. */
-void MerlinToSPP::appendLinks(int photos, float focalMm)
-{
-    const int bracket = bracketCount();
-    const int positions = std::min(photos, shots.size()) / bracket;
-    QVector<PanoHead::Direction> directions;
-    directions.reserve(positions);
-    for (int position = 0; position < positions; ++position) {
-        const ShootData &shot = shots.at(position * bracket);
-        directions.append({ PanoHead::toRadians(shot.yaw), PanoHead::toRadians(shot.pitch) });
-    }
-    PanoHead::appendNeighbourLinks(authorizedLinks, directions, PanoHead::halfFieldOfView(focalMm));
 }

@@ -24,6 +24,8 @@ public:
      * changed, when the file cannot be read or is not XML. The description is never touched.
      */
     bool parse(const QString &path);
+    /** Back to "no record", as far as pages ask for it; the description is never touched. */
+    void forgetRecord();
 
     /**
      * Appends stacks, angles and links to the description and sets focal length and lens.
@@ -43,9 +45,4 @@ public:
     qint32 nbPicts = -1; ///< photos per position; -1: the record does not say
     qint32 xmlLensType = 0; ///< a `LensModel` value
     bool portrait = false;
-
-private:
-    [[nodiscard]] int bracketCount() const;
-    void appendStacks(const QStringList &images);
-    void appendLinks(int photos, float focalMm);
 };

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "importers/papywizard/uiwpmerlin.h"
 
-#include "importers/papywizard/recordedshoot.h"
 #include "shoot/angles.h"
 #include "shoot/displaytexts.h"
 #include "shoot/previewlayout.h"
+#include "shoot/recordedshoot.h"
 #include "ui/blocksignal.h"
 #include "ui/connectpage.h"
 #include "ui/filedialogs.h"
@@ -124,7 +124,7 @@ void UIWPMerlin::BrowserWeb(const QString &url)
 
 void UIWPMerlin::ParseConfigFile(const QString &path)
 {
-    if (!readRecord(*this, m_state, path)) {
+    if (!readRecord(m_state, shots, [this, &path] { return parse(path); })) {
         // The ranges show a scan that found nothing: wanted. Other pages keep theirs.
         m_state.setExtents({ AngleRange::scanStart(), AngleRange::scanStart() });
         return;
@@ -132,7 +132,7 @@ void UIWPMerlin::ParseConfigFile(const QString &path)
     m_leHeaderTitle->setText(MerlinToSPP::title);
     m_leHeaderGps->setText(gps);
     m_leHeaderComment->setText(comment);
-    m_leConfigFile->setToolTip(headerText(*this));
+    m_leConfigFile->setToolTip(headerText(MerlinToSPP::title, gps, comment));
 }
 
 void UIWPMerlin::SelectConfigFile()
@@ -190,7 +190,8 @@ void UIWPMerlin::SetConfigFFilename(const QString &text)
 
 void UIWPMerlin::Reset()
 {
-    forgetShoot(*this, m_state);
+    forgetRecord();
+    m_state = ShootState();
     m_photos.forget();
     m_readingThread->Clear();
     redrawAll();
@@ -201,7 +202,7 @@ void UIWPMerlin::OnImageLoaded()
     if (!m_photos.arrived()) {
         return;
     }
-    const LensFacts preset = adoptPhotos(m_state, *this, m_photos.lens());
+    const LensFacts preset = adoptPhotos(m_state, { xmlFocal, xmlLensType }, m_photos.lens());
     if (preset.focalMm > 0.0) {
         setLens(lensViewOf(*this), preset);
     }
@@ -274,7 +275,8 @@ void UIWPMerlin::UpdateUI()
         tr("Focal Length difference between EXIF and XML"),
         tr("Lens type difference between EXIF and XML"),
     };
-    m_lbWarning->setText(warningText(textOf(mismatchOf(*this, m_state), texts)));
+    m_lbWarning->setText(
+        warningText(textOf(mismatchOf(m_state, { xmlFocal, xmlLensType }, nbPicts), texts)));
     showPreview();
 }
 
@@ -288,7 +290,7 @@ void UIWPMerlin::UpdatePreview()
 void UIWPMerlin::lookAtPhotos()
 {
     m_photos.look();
-    (void)adoptPhotos(m_state, *this, m_photos.lens());
+    (void)adoptPhotos(m_state, { xmlFocal, xmlLensType }, m_photos.lens());
 }
 
 void UIWPMerlin::showPreview()

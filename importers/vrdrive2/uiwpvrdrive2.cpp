@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "importers/vrdrive2/uiwpvrdrive2.h"
 
-#include "importers/papywizard/recordedshoot.h"
 #include "shoot/angles.h"
 #include "shoot/displaytexts.h"
 #include "shoot/previewlayout.h"
+#include "shoot/recordedshoot.h"
 #include "ui/blocksignal.h"
 #include "ui/connectpage.h"
 #include "ui/filedialogs.h"
@@ -134,8 +134,8 @@ void UIWPVRDrive2::BrowserWeb(const QString &url)
 
 void UIWPVRDrive2::ParseConfigFile(const QString &fileName)
 {
-    if (readRecord(*this, m_state, fileName)) {
-        m_leConfigFile->setToolTip(headerText(*this));
+    if (readRecord(m_state, shots, [this, &fileName] { return parse(fileName); })) {
+        m_leConfigFile->setToolTip(headerText(VRDrive2ToSPP::title, gps, comment));
     }
 }
 
@@ -197,7 +197,8 @@ void UIWPVRDrive2::SetConfigFFilename(const QString &text)
 
 void UIWPVRDrive2::Reset()
 {
-    forgetShoot(*this, m_state);
+    forgetRecord();
+    m_state = ShootState();
     m_photos.forget();
     m_readingThread->Clear();
     redrawAll();
@@ -209,7 +210,7 @@ void UIWPVRDrive2::OnImageLoaded()
     if (!m_photos.arrived()) {
         return;
     }
-    const LensFacts preset = adoptPhotos(m_state, *this, m_photos.lens());
+    const LensFacts preset = adoptPhotos(m_state, { xmlFocal, xmlLensType }, m_photos.lens());
     if (preset.focalMm > 0.0) {
         setLens(lensViewOf(*this), preset);
     }
@@ -281,7 +282,7 @@ void UIWPVRDrive2::UpdateUI()
     showShoot(shootViewOf(*this, m_photoNames), m_state, { tr("N/A"), QStringLiteral("N/A") });
     showLens(lensViewOf(*this), nbPicts, xmlFocal, m_state.imageFocal, tr("N/A"));
     const QString warning
-        = textOf(mismatchOf(*this, m_state),
+        = textOf(mismatchOf(m_state, { xmlFocal, xmlLensType }, nbPicts),
                  {
                      tr("Bracketing used in XML, should be multiple of that number"),
                      tr("Not the same as in XML fil"), // cut off like this: wanted
@@ -303,7 +304,7 @@ void UIWPVRDrive2::UpdatePreview()
 void UIWPVRDrive2::lookAtPhotos()
 {
     m_photos.look();
-    (void)adoptPhotos(m_state, *this, m_photos.lens());
+    (void)adoptPhotos(m_state, { xmlFocal, xmlLensType }, m_photos.lens());
 }
 
 void UIWPVRDrive2::showPreview()

@@ -3,7 +3,7 @@
 #include "shoot/recordfile.h"
 
 #include "importers/papywizard/merlintospp.h"
-#include "importers/papywizard/recordedshoot.h"
+#include "shoot/recordedshoot.h"
 #include "shoot/recordlimits.h"
 #include "shoot/shootstate.h"
 
@@ -45,7 +45,8 @@ private Q_SLOTS:
     void refusalsSayWhy();
     void aReadRecordIsMeasured();
     void anUnreadableRecordKeepsTheRanges();
-    void aForgottenShootKeepsItsDescription();
+    void aForgottenRecordLeavesTheDescription();
+    void aFreshStateKnowsNothing();
     void photosAreAdopted();
     void theHeaderIsOneLinePerFact();
     void recordAndPhotosAreCompared();
@@ -143,22 +144,26 @@ void TestRecordFile::refusalsSayWhy()
 
 void TestRecordFile::aReadRecordIsMeasured()
 {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("record.xml"));
-    write(path,
-          "<p><shoot><pict><position yaw='-10' pitch='20'/></pict>"
-          "<pict><position yaw='30' pitch='-5'/></pict></shoot></p>");
-    MerlinToSPP generator;
+    QVector<ShootData> shots;
     ShootState state;
     state.images = QStringList{ QStringLiteral("/a.jpg") };
-    QVERIFY(PanoHead::readRecord(generator, state, path));
+    QVERIFY(PanoHead::readRecord(state, shots, [&shots] {
+        shots.resize(2);
+        shots[0].yaw = -10.0F;
+        shots[0].pitch = 20.0F;
+        shots[1].yaw = 30.0F;
+        shots[1].pitch = -5.0F;
+        return true;
+    }));
     QCOMPARE(state.shotCount, 2);
     QVERIFY(state.yawMin == -10.0F && state.yawMax == 30.0F);
     QVERIFY(state.pitchMin == -5.0F && state.pitchMax == 20.0F);
     QCOMPARE(state.images.size(), 1);
 
-    write(path, "<p><shoot/></p>");
-    QVERIFY(PanoHead::readRecord(generator, state, path));
+    QVERIFY(PanoHead::readRecord(state, shots, [&shots] {
+        shots.clear();
+        return true;
+    }));
     QCOMPARE(state.shotCount, 0);
     QVERIFY(state.extents().yaw == AngleRange::scanStart());
     QVERIFY(state.extents().pitch == AngleRange::scanStart());
@@ -166,17 +171,17 @@ void TestRecordFile::aReadRecordIsMeasured()
 
 void TestRecordFile::anUnreadableRecordKeepsTheRanges()
 {
-    MerlinToSPP generator;
+    const QVector<ShootData> shots(2); // a reader that gives up may leave some
     ShootState state;
     state.shotCount = 7;
     state.setExtents({ { 1, 2 }, { 3, 4 } });
-    QVERIFY(!PanoHead::readRecord(generator, state, QString()));
+    QVERIFY(!PanoHead::readRecord(state, shots, [] { return false; }));
     QCOMPARE(state.shotCount, -1);
     QVERIFY(state.yawMin == 1.0F && state.yawMax == 2.0F);
     QVERIFY(state.pitchMin == 3.0F && state.pitchMax == 4.0F);
 }
 
-void TestRecordFile::aForgottenShootKeepsItsDescription()
+void TestRecordFile::aForgottenRecordLeavesTheDescription()
 {
     MerlinToSPP generator;
     generator.shots.resize(3);
@@ -184,16 +189,17 @@ void TestRecordFile::aForgottenShootKeepsItsDescription()
     generator.xmlFocal = 24.0;
     generator.xmlLensType = 1;
     generator.imageGroups = { { QStringLiteral("/a.jpg") } };
-    ShootState state;
-    state.shotCount = 3;
-    state.images = QStringList{ QStringLiteral("/a.jpg") };
-    state.configPath = QStringLiteral("/r.xml");
-    PanoHead::forgetShoot(generator, state);
+    generator.forgetRecord();
     QVERIFY(generator.shots.isEmpty());
     QCOMPARE(generator.nbPicts, -1);
     QCOMPARE(generator.xmlFocal, -1.0);
     QCOMPARE(generator.xmlLensType, 0);
     QCOMPARE(generator.imageGroups.size(), 1);
+}
+
+void TestRecordFile::aFreshStateKnowsNothing()
+{
+    const ShootState state;
     QCOMPARE(state.shotCount, -1);
     QVERIFY(state.images.isEmpty() && state.configPath.isEmpty());
     QVERIFY(state.extents().yaw == AngleRange::unknown());
@@ -201,14 +207,12 @@ void TestRecordFile::aForgottenShootKeepsItsDescription()
 
 void TestRecordFile::photosAreAdopted()
 {
-    MerlinToSPP generator;
-    generator.xmlFocal = 35.0;
-    generator.xmlLensType = 1;
+    const PanoHead::LensFacts recorded{ 35.0, 1 };
     ShootState state;
-    QCOMPARE(PanoHead::adoptPhotos(state, generator, { 24.0, 0 }).focalMm, 24.0);
+    QCOMPARE(PanoHead::adoptPhotos(state, recorded, { 24.0, 0 }).focalMm, 24.0);
     QCOMPARE(state.imageFocal, 24.0);
     QCOMPARE(state.imageLensType, 0);
-    const PanoHead::LensFacts fromRecord = PanoHead::adoptPhotos(state, generator, { 0.0, 0 });
+    const PanoHead::LensFacts fromRecord = PanoHead::adoptPhotos(state, recorded, { 0.0, 0 });
     QCOMPARE(fromRecord.focalMm, 35.0);
     QCOMPARE(fromRecord.lensType, 1);
     QCOMPARE(state.imageFocal, 0.0);
@@ -216,37 +220,32 @@ void TestRecordFile::photosAreAdopted()
 
 void TestRecordFile::theHeaderIsOneLinePerFact()
 {
-    MerlinToSPP generator;
-    QCOMPARE(PanoHead::headerText(generator), QStringLiteral("\n\n"));
+    QCOMPARE(PanoHead::headerText({}, {}, {}), QStringLiteral("\n\n"));
     // Markers in one fact are not filled with the next.
-    generator.title = QStringLiteral("%2 %3");
-    generator.gps = QStringLiteral("54 N %1");
-    generator.comment = QStringLiteral("<b>windy</b>");
-    QCOMPARE(PanoHead::headerText(generator), QStringLiteral("%2 %3\n54 N %1\n<b>windy</b>"));
+    QCOMPARE(PanoHead::headerText(QStringLiteral("%2 %3"), QStringLiteral("54 N %1"),
+                                  QStringLiteral("<b>windy</b>")),
+             QStringLiteral("%2 %3\n54 N %1\n<b>windy</b>"));
 }
 
 void TestRecordFile::recordAndPhotosAreCompared()
 {
-    MerlinToSPP generator;
-    generator.nbPicts = 3;
-    generator.xmlFocal = 24.0;
+    PanoHead::LensFacts recorded{ 24.0, 0 };
     ShootState state;
     state.shotCount = 4;
     state.imageFocal = 24.0;
     for (int i = 0; i < 4; ++i) {
         state.images.append(QStringLiteral("/%1.jpg").arg(i));
     }
-    QCOMPARE(PanoHead::mismatchOf(generator, state), Mismatch::Bracketing);
-    generator.nbPicts = 2;
-    QCOMPARE(PanoHead::mismatchOf(generator, state), Mismatch::None);
+    QCOMPARE(PanoHead::mismatchOf(state, recorded, 3), Mismatch::Bracketing);
+    QCOMPARE(PanoHead::mismatchOf(state, recorded, 2), Mismatch::None);
     state.shotCount = 5;
-    QCOMPARE(PanoHead::mismatchOf(generator, state), Mismatch::Count);
-    generator.xmlFocal = 27.0;
-    QCOMPARE(PanoHead::mismatchOf(generator, state), Mismatch::FocalLength);
+    QCOMPARE(PanoHead::mismatchOf(state, recorded, 2), Mismatch::Count);
+    recorded.focalMm = 27.0;
+    QCOMPARE(PanoHead::mismatchOf(state, recorded, 2), Mismatch::FocalLength);
     state.imageLensType = 1;
-    QCOMPARE(PanoHead::mismatchOf(generator, state), Mismatch::LensType);
+    QCOMPARE(PanoHead::mismatchOf(state, recorded, 2), Mismatch::LensType);
     state.shotCount = -1;
-    QCOMPARE(PanoHead::mismatchOf(generator, state), Mismatch::None);
+    QCOMPARE(PanoHead::mismatchOf(state, recorded, 2), Mismatch::None);
 }
 
 QTEST_GUILESS_MAIN(TestRecordFile)
