@@ -14,6 +14,7 @@ namespace PanoHead
 struct ReadError {
     QString reason;
     int line = 0; ///< 1-based; 0: the reader does not know
+    QString advice = {}; ///< what to try; empty: nothing that the reader knows of
 };
 
 /**

@@ -155,10 +155,10 @@ ExitCode runCheck(Session &session, const QStringList &arguments)
     }
     applyCommonOptions(session, line);
     const ImportRequest request = importRequest(line);
-    if (request.head->readRecord != nullptr) {
-        printRecord(request.record, readRecord(*request.head, request.record));
-    } else {
+    if (request.head->isGrid()) {
         printGrid(*request.grid, request.photos.size());
+    } else {
+        printRecord(request.record, readRecord(*request.head, request.record));
     }
     requirePhotoFiles(request.photos);
     const QStringList photos = orderedPhotos(session, request.photos, request.order);

@@ -18,6 +18,7 @@ namespace
 
 CommandLine demoLine()
 {
+    static const QByteArray heads = headNames().join(QLatin1Char('|')).toLatin1();
     return CommandLine(
         { "panohost demo [DIR]",
           "Shows the whole way with photos of its own: draws a scene, photographs it with a\n"
@@ -33,8 +34,7 @@ CommandLine demoLine()
           "panohost demo --head gigapan" },
         QVector<OptionRow>{
             { "--size", "small|normal", "size of the photos and the panorama", true },
-            { "--head", "papywizard|vrdrive2|clauss|gigapan",
-              "the head to play; papywizard when not given", true },
+            { "--head", heads.constData(), "the head to play; papywizard when not given", true },
             { "--open", nullptr, "show the panorama in the desktop's picture viewer" },
         });
 }
@@ -52,19 +52,19 @@ DemoOptions optionsFrom(const CommandLine &line)
     }
     const QString head = line.isSet(QStringLiteral("head")) ? line.value(QStringLiteral("head"))
                                                             : QStringLiteral("papywizard");
-    options.head = demoHead(head);
+    options.head = &headNamed(head);
     return options;
 }
 
-DemoImport importThroughPage(Session &session, const DemoHead &head, const QString &record,
+DemoImport importThroughPage(Session &session, const HeadFacts &head, const QString &record,
                              const QStringList &photos)
 {
     ImportRequest request;
-    request.head = &headNamed(QString::fromLatin1(head.name));
-    if (head.grid != nullptr) {
+    request.head = &head;
+    if (head.isGrid()) {
         request.grid = GridChoice();
-        request.grid->rows = head.grid->rows;
-        request.grid->overlapPercent = head.grid->overlapPercent;
+        request.grid->rows = kDemoGrid.rows;
+        request.grid->overlapPercent = kDemoGrid.overlapPercent;
     }
     request.record = record;
     request.photos = photos;
@@ -137,7 +137,7 @@ ExitCode runDemoCommand(Session &session, const QStringList &arguments)
     applyCommonOptions(session, line);
     const DemoOptions options = optionsFrom(line);
     const auto importer
-        = [&session](const DemoHead &head, const QString &record, const QStringList &photos) {
+        = [&session](const HeadFacts &head, const QString &record, const QStringList &photos) {
               return importThroughPage(session, head, record, photos);
           };
     JobWatch watch;

@@ -2,73 +2,66 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/cli/heads.h"
 
-#include "host/cli/claussrecord.h"
 #include "host/cli/commanderror.h"
 #include "host/cli/displayname.h"
-#include "host/cli/papywizardrecord.h"
 #include "host/cli/wordsuggestion.h"
 
 #include <QFileInfo>
 
-#include <algorithm>
-
 namespace PanoHost
 {
 
-const QVector<HeadRow> &heads()
+namespace
 {
-    static const QVector<HeadRow> rows{
-        { "papywizard", "RECORD.xml", PageDriver::RecordEntry::TextEdited, readPapywizardSummary,
-          true,
-          "focal|lens|rotate|invert-pitch|detect|stack|skip-optimization|recorded-location"
-          "|clean-links|no-clean-links|auto-detection|no-auto-detection|ignore-exif-rotation"
-          "|order" },
-        { "vrdrive2", "RECORD.xml", PageDriver::RecordEntry::TextEdited, readPapywizardSummary,
-          true,
-          "focal|lens|rotate|invert-pitch|output-mode|detect|stack|skip-optimization"
-          "|recorded-location|clean-links|no-clean-links|auto-detection|no-auto-detection"
-          "|ignore-exif-rotation|order" },
-        { "clauss", "SCRIPT.txt", PageDriver::RecordEntry::EditingFinished, readClaussSummary,
-          false,
-          "focal|lens|invert-pitch|skip-optimization|recorded-location|clean-links"
-          "|no-clean-links|auto-detection|no-auto-detection|ignore-exif-rotation|order" },
-        { "gigapan", nullptr, PageDriver::RecordEntry::TextEdited, nullptr, false,
-          "focal|lens|rows|mode|bracket|ignore|wrap360|overlap|detect|stack|skip-optimization"
-          "|clean-links|no-clean-links|auto-detection|no-auto-detection|ignore-exif-rotation"
-          "|order" },
-    };
-    return rows;
+
+/** "RECORD: line N: reason; advice". */
+CommandError unusable(const QString &path, const PanoHead::ReadError &error)
+{
+    const QString why = error.line > 0
+        ? QStringLiteral("line %1: %2").arg(QString::number(error.line), error.reason)
+        : error.reason;
+    return inputRefused(displayName(path), why,
+                        error.advice.isEmpty()
+                            ? QStringLiteral("is it the record that the head wrote?")
+                            : error.advice);
 }
+
+} // namespace
 
 QStringList headNames()
 {
     QStringList names;
-    for (const HeadRow &row : heads()) {
-        names += QString::fromLatin1(row.name);
+    for (const HeadFacts *head : PanoHead::allHeadFacts()) {
+        names += head->name();
     }
     return names;
 }
 
-RecordSummary readRecord(const HeadRow &head, const QString &path)
+const HeadFacts &headNamed(const QString &name)
+{
+    const HeadFacts *head = PanoHead::headFactsOf(name);
+    if (head == nullptr) {
+        throw usageError(
+            QStringLiteral("unknown head '%1'%2").arg(name, suggestion(name, headNames())),
+            QStringLiteral("heads: %1").arg(headNames().join(QLatin1String(", "))));
+    }
+    return *head;
+}
+
+RecordSummary readRecord(const HeadFacts &head, const QString &path)
 {
     if (!QFileInfo::exists(path)) {
         throw inputRefused(displayName(path), QStringLiteral("no such record"),
                            QStringLiteral("check the name"));
     }
-    return valueOrThrow(head.readRecord(path));
-}
-
-const HeadRow &headNamed(const QString &name)
-{
-    const auto row = std::find_if(heads().begin(), heads().end(), [&name](const HeadRow &head) {
-        return name == QLatin1String(head.name);
-    });
-    if (row == heads().end()) {
-        throw usageError(
-            QStringLiteral("unknown head '%1'%2").arg(name, suggestion(name, headNames())),
-            QStringLiteral("heads: %1").arg(headNames().join(QLatin1String(", "))));
+    PanoHead::ReadError error;
+    const std::optional<QByteArray> bytes = PanoHead::readRecordFile(path, &error);
+    const std::optional<RecordSummary> summary
+        = bytes ? head.summary(*bytes, &error) : std::nullopt;
+    if (!summary) {
+        throw unusable(path, error);
     }
-    return *row;
+    return *summary;
 }
 
 } // namespace PanoHost

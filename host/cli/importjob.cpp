@@ -27,7 +27,7 @@ ImportJob::~ImportJob()
 
 void ImportJob::checkInputs()
 {
-    const bool hasRecord = m_request.head->readRecord != nullptr;
+    const bool hasRecord = !m_request.head->isGrid();
     if (hasRecord) {
         m_record = readRecord(*m_request.head, m_request.record);
     }
@@ -49,7 +49,7 @@ void ImportJob::preparePage()
     const ImportPlugin &plugin = openPlugin();
     m_page = std::make_unique<PageDriver>(plugin.page(), m_session);
     if (!m_request.record.isEmpty()) {
-        m_page->enterRecord(m_request.record, m_request.head->recordEntry);
+        m_page->enterRecord(m_request.record);
     }
     m_page->choosePhotos(namesForPage());
     chooseLensFor(photoInfos());
@@ -67,7 +67,7 @@ const ImportPlugin &ImportJob::openPlugin()
     m_session.app.SetLastPath(QDir::tempPath());
     m_library = valueOrThrow(PluginLibrary::open(m_session.pluginPath));
     m_session.console.detail(QStringLiteral("using %1").arg(m_library->path()));
-    const QString head = QString::fromLatin1(m_request.head->name);
+    const QString head = m_request.head->name();
     const ImportPlugin *plugin = m_library->find(head);
     if (plugin == nullptr || plugin->page() == nullptr) {
         throw CommandError({ ExitCode::NoPlugin, m_library->path(),
@@ -110,7 +110,7 @@ void ImportJob::chooseLensFor(const QVector<PhotoInfo> &photos)
     const LensFacts recordFacts{ m_record.focal35mm, m_record.lens };
     const LensChoice choice = chooseLens(m_request, lensFactsOf(photos), recordFacts);
     m_warnings += choice.warnings;
-    if (!m_request.head->pageAsksForLens) {
+    if (!m_request.head->hasLens) {
         m_warnings += focalSpreadWarnings(m_request, photos);
         m_wishes.ignoreExifRotation = m_request.ignoreExifRotation;
         m_wishes.focal35mm = m_request.focal35mm;

@@ -32,11 +32,120 @@ constexpr ButtonOption kButtonOptions[] = {
     { "skip-optimization", nullptr, "m_noOptim", true },
     { "recorded-location", "yes", "m_GridOptim", true },
     { "recorded-location", "no", "m_GridOptim", false },
-    { "output-mode", "ldr", "m_rbOutputMode1", true },
-    { "output-mode", "hdr", "m_rbOutputMode2", true },
 };
 
-QVector<ButtonState> buttonsFrom(const CommandLine &line)
+/** An option of the import and which heads' pages have it. */
+struct HeadOption {
+    OptionRow row;
+    bool (*isOf)(const HeadFacts &head);
+};
+
+bool anyHead(const HeadFacts & /*head*/)
+{
+    return true;
+}
+
+bool withRecord(const HeadFacts &head)
+{
+    return !head.isGrid();
+}
+
+bool withLinking(const HeadFacts &head)
+{
+    return head.hasLinking;
+}
+
+bool withTurns(const HeadFacts &head)
+{
+    return head.turnsCamera;
+}
+
+/** "vrdrive2, other": the heads whose page removes wrong links by itself. */
+QByteArray cleaningHeads()
+{
+    QStringList names;
+    for (const HeadFacts *head : PanoHead::allHeadFacts()) {
+        if (head->cleansLinks) {
+            names += head->name();
+        }
+    }
+    return names.join(QLatin1String(", ")).toLatin1();
+}
+
+/** What all heads of a kind have; a head's own choices come beside. */
+const QVector<HeadOption> &sharedOptions()
+{
+    static const QByteArray cleanLinks
+        = "remove wrong control points after detection (" + cleaningHeads() + ": default)";
+    static const QVector<HeadOption> options{
+        { { "--focal", "MM|xml|exif",
+            "focal length, 35 mm equivalent; default: from the photos, else from the record" },
+          anyHead },
+        { { "--lens", "standard|fisheye|xml", "default: what the photos say, else the record",
+            true },
+          anyHead },
+        { { "--rotate", "90|-90|180", "the camera was turned; 90 is clockwise", true }, withTurns },
+        { { "--invert-pitch", nullptr, "the head counts downwards: swap up and down" },
+          withRecord },
+        { { "--detect", "reference|all",
+            "control points in the reference exposures or in all of them", true },
+          withLinking },
+        { { "--stack", "hard|detect", "photos of a bracket: hard links, or detect control points",
+            true },
+          withLinking },
+        { { "--skip-optimization", nullptr,
+            "keep the recorded angles; good for previews and short lenses only" },
+          anyHead },
+        { { "--recorded-location", "yes|no", "start the optimisation from the recorded angles",
+            true },
+          withRecord },
+        { { "--clean-links", nullptr, cleanLinks.constData() }, anyHead },
+        { { "--no-clean-links", nullptr, "keep them" }, anyHead },
+        { { "--auto-detection", nullptr, "detect control points without asking (default)" },
+          anyHead },
+        { { "--no-auto-detection", nullptr, "do not" }, anyHead },
+        { { "--ignore-exif-rotation", nullptr,
+            "the photos' EXIF orientation is wrong; use the recorded roll alone" },
+          anyHead },
+        { { "--order", "name|time|given", "which photo belongs to which shot; default: by name",
+            true },
+          anyHead },
+    };
+    return options;
+}
+
+OptionRow optionOf(const PanoHead::OwnChoice &choice)
+{
+    return { choice.option, choice.words, choice.help, true };
+}
+
+/** The options that \p head has beside those of its kind. */
+QVector<OptionRow> ownOptions(const HeadFacts &head)
+{
+    QVector<OptionRow> rows;
+    for (const PanoHead::OwnChoice &choice : head.ownChoices) {
+        const OptionRow row = optionOf(choice);
+        rows += row;
+    }
+    return rows;
+}
+
+/** Presses the button that belongs to the word given for a choice of the head's own. */
+QVector<ButtonState> ownButtonsFrom(const CommandLine &line, const HeadFacts &head)
+{
+    QVector<ButtonState> buttons;
+    for (const PanoHead::OwnChoice &choice : head.ownChoices) {
+        const QStringList words = QString::fromLatin1(choice.words).split(QLatin1Char('|'));
+        const QStringList names = QString::fromLatin1(choice.buttons).split(QLatin1Char('|'));
+        const QString name = longName(optionOf(choice));
+        if (line.isSet(name)) {
+            buttons += { names.value(words.indexOf(line.value(name))), true };
+        }
+    }
+    return buttons;
+}
+
+QVector<ButtonState> buttonsFrom(const CommandLine &line, const HeadFacts &head)
 {
     QVector<ButtonState> buttons;
     for (const ButtonOption &row : kButtonOptions) {
@@ -47,7 +156,7 @@ QVector<ButtonState> buttonsFrom(const CommandLine &line)
             buttons += { QString::fromLatin1(row.button), row.checked };
         }
     }
-    return buttons;
+    return buttons + ownButtonsFrom(line, head);
 }
 
 void refuseContradictions(const CommandLine &line)
@@ -67,15 +176,23 @@ void refuseContradictions(const CommandLine &line)
     }
 }
 
-/** Options that other heads have and this one has not. */
-void refuseForeignOptions(const CommandLine &line, const HeadRow &head)
+QStringList longNames(const QVector<OptionRow> &rows)
 {
-    const QStringList own = QString::fromLatin1(head.options).split(QLatin1Char('|'));
-    for (const OptionRow &row : importOptions()) {
-        const QString name = longName(row);
+    QStringList names;
+    for (const OptionRow &row : rows) {
+        names += longName(row);
+    }
+    return names;
+}
+
+/** Options that other heads have and this one has not. */
+void refuseForeignOptions(const CommandLine &line, const HeadFacts &head)
+{
+    const QStringList own = longNames(optionsOf(head));
+    const QStringList all = longNames(importOptions());
+    for (const QString &name : all) {
         if (line.isSet(name) && !own.contains(name)) {
-            throw usageError(QStringLiteral("--%1 is not an option of %2")
-                                 .arg(name, QString::fromLatin1(head.name)));
+            throw usageError(QStringLiteral("--%1 is not an option of %2").arg(name, head.name()));
         }
     }
 }
@@ -119,18 +236,18 @@ PhotoOrder orderFrom(const QString &word)
 
 void setFiles(ImportRequest &request, QStringList words)
 {
-    const QString head = QString::fromLatin1(request.head->name);
-    if (request.head->recordName != nullptr) {
+    if (!request.head->isGrid()) {
         if (words.isEmpty()) {
-            throw usageError(QStringLiteral("%1 needs its record, %2, and the photos")
-                                 .arg(head, QString::fromLatin1(request.head->recordName)),
-                             QStringLiteral("see 'panohost import --help'"));
+            throw usageError(
+                QStringLiteral("%1 needs its record, %2, and the photos")
+                    .arg(request.head->name(), QString::fromLatin1(request.head->record)),
+                QStringLiteral("see 'panohost import --help'"));
         }
         request.record = QDir().absoluteFilePath(words.takeFirst());
     }
     if (words.isEmpty()) {
         throw usageError(QStringLiteral("no photos given"),
-                         request.head->recordName == nullptr
+                         request.head->isGrid()
                              ? QStringLiteral("name them, e.g. DIR/*.jpg")
                              : QStringLiteral("name them after the record, e.g. DIR/*.jpg"));
     }
@@ -144,42 +261,33 @@ void setFiles(ImportRequest &request, QStringList words)
 
 QVector<OptionRow> importOptions()
 {
-    return QVector<OptionRow>{
-        { "--focal", "MM|xml|exif",
-          "focal length, 35 mm equivalent; default: from the photos, else from the record" },
-        { "--lens", "standard|fisheye|xml", "default: what the photos say, else the record", true },
-        { "--rotate", "90|-90|180", "the camera was turned; 90 is clockwise", true },
-        { "--invert-pitch", nullptr, "the head counts downwards: swap up and down" },
-        { "--detect", "reference|all",
-          "control points in the reference exposures or in all of them", true },
-        { "--stack", "hard|detect", "photos of a bracket: hard links, or detect control points",
-          true },
-        { "--output-mode", "ldr|hdr",
-          "vrdrive2: brackets become an ordinary picture (default) or HDR radiance", true },
-        { "--skip-optimization", nullptr,
-          "keep the recorded angles; good for previews and short lenses only" },
-        { "--recorded-location", "yes|no", "start the optimisation from the recorded angles",
-          true },
-        { "--clean-links", nullptr,
-          "remove wrong control points after detection (vrdrive2: default)" },
-        { "--no-clean-links", nullptr, "keep them" },
-        { "--auto-detection", nullptr, "detect control points without asking (default)" },
-        { "--no-auto-detection", nullptr, "do not" },
-        { "--ignore-exif-rotation", nullptr,
-          "the photos' EXIF orientation is wrong; use the recorded roll alone" },
-        { "--order", "name|time|given", "which photo belongs to which shot; default: by name",
-          true },
+    QVector<OptionRow> rows;
+    for (const HeadOption &option : sharedOptions()) {
+        rows += option.row;
     }
-    + gridOptions();
+    for (const HeadFacts *head : PanoHead::allHeadFacts()) {
+        rows += ownOptions(*head);
+    }
+    return rows + gridOptions();
+}
+
+QVector<OptionRow> optionsOf(const HeadFacts &head)
+{
+    QVector<OptionRow> rows;
+    for (const HeadOption &option : sharedOptions()) {
+        if (option.isOf(head)) {
+            rows += option.row;
+        }
+    }
+    return rows + ownOptions(head) + (head.isGrid() ? gridOptions() : QVector<OptionRow>());
 }
 
 CommandLine importingLine(CommandHelp help, const QVector<OptionRow> &ownOptions)
 {
     help.about += "\n\nHeads:";
-    for (const HeadRow &head : heads()) {
-        const QByteArray record
-            = head.recordName == nullptr ? "" : head.recordName + QByteArray(" ");
-        help.about += "\n  " + QByteArray(head.name).leftJustified(11) + record + "PHOTO...";
+    for (const HeadFacts *head : PanoHead::allHeadFacts()) {
+        const QByteArray record = head->isGrid() ? "" : head->record + QByteArray(" ");
+        help.about += "\n  " + head->name().toLatin1().leftJustified(11) + record + "PHOTO...";
     }
     return CommandLine(std::move(help), ownOptions + importOptions());
 }
@@ -204,10 +312,10 @@ ImportRequest importRequest(const CommandLine &line)
     }
     request.clockwiseTurns = line.value(QStringLiteral("rotate")).toInt() / 90;
     request.invertPitch = line.isSet(QStringLiteral("invert-pitch"));
-    request.buttons = buttonsFrom(line);
+    request.buttons = buttonsFrom(line, *request.head);
     request.ignoreExifRotation = line.isSet(QStringLiteral("ignore-exif-rotation"));
     request.order = orderFrom(line.value(QStringLiteral("order")));
-    if (request.head->readRecord == nullptr) {
+    if (request.head->isGrid()) {
         request.grid = gridChoice(line);
     }
     setFiles(request, words);

@@ -29,7 +29,7 @@ struct ButtonState {
 
 /** One import as asked for on the command line. */
 struct ImportRequest {
-    const HeadRow *head = nullptr;
+    const HeadFacts *head = nullptr;
     QString record; ///< absolute path; empty for heads without one
     QStringList photos; ///< absolute paths, in the order given
     PhotoOrder order = PhotoOrder::ByName;
@@ -46,6 +46,8 @@ struct ImportRequest {
 
 /** The options of all heads' pages. */
 [[nodiscard]] QVector<OptionRow> importOptions();
+/** Those of \p head's page. */
+[[nodiscard]] QVector<OptionRow> optionsOf(const HeadFacts &head);
 
 /**
  * The line of a command that imports: its help gets the list of heads, its options, after

@@ -38,7 +38,7 @@ double chooseFocal(const ImportRequest &request, const LensFacts &photos, const 
     case ValueSource::Default:
         break;
     }
-    const bool photosAlone = request.head != nullptr && !request.head->pageAsksForLens;
+    const bool photosAlone = request.head != nullptr && !request.head->hasLens;
     return givenOrThrow(photos.focal35mm > 0.0 ? photos.focal35mm : record.focal35mm,
                         photosAlone ? "the photos' EXIF data"
                                     : "the photos' EXIF data or the record");

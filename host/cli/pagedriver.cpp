@@ -60,15 +60,13 @@ template <typename Widget> Widget *PageDriver::widget(const QString &name) const
     return found;
 }
 
-void PageDriver::enterRecord(const QString &path, RecordEntry entry)
+void PageDriver::enterRecord(const QString &path)
 {
     auto *edit = widget<QLineEdit>(QStringLiteral("m_leConfigFile"));
     edit->setText(path);
-    if (entry == RecordEntry::TextEdited) {
-        Q_EMIT edit->textEdited(path);
-    } else {
-        Q_EMIT edit->editingFinished();
-    }
+    // Pages read it at each letter or at the Enter key.
+    Q_EMIT edit->textEdited(path);
+    Q_EMIT edit->editingFinished();
     throwOnMessage();
 }
 

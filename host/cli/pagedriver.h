@@ -27,12 +27,8 @@ public:
     /** \p page outlives the driver. */
     PageDriver(QWizardPage *page, Session &session);
 
-    /** When the page takes a typed path of the head's record. */
-    enum class RecordEntry {
-        TextEdited, ///< at each letter
-        EditingFinished, ///< at the Enter key
-    };
-    void enterRecord(const QString &path, RecordEntry entry = RecordEntry::TextEdited);
+    /** Types the path of the head's record and presses Enter. */
+    void enterRecord(const QString &path);
 
     /**
      * Answers the page's photo dialog with \p names and waits until the page has read them all.

@@ -16,9 +16,13 @@ _panohost_choices() { # the words that may follow option $1
   sed -n "s/^  $1 \\([a-z0-9-]*|[a-z0-9|-]*\\).*/\\1/p" | tr '|' '\n'
 }
 
+_panohost_records() { # the endings of the heads' records, below "Heads:" of the help on stdin
+  sed -n '/^Heads:/,/^$/s/^  [a-z0-9]* *[A-Z]*\(\.[a-z0-9]*\) .*/\1/p' | sort -u
+}
+
 _panohost() {
   local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
-  local command='' word help
+  local command='' word help ending
   for word in "${COMP_WORDS[@]:1:COMP_CWORD-1}"; do
     [[ $word == -* ]] || { command=$word; break; }
   done
@@ -29,7 +33,9 @@ _panohost() {
       mapfile -t COMPREPLY < <(compgen -W "$(_panohost_options <<<"$help")" -- "$current")
     else
       mapfile -t COMPREPLY < <(compgen -W "$(_panohost_words Commands <<<"$help")" -- "$current"
-        compgen -f -X '!*.xml' -- "$current")
+        for ending in $("${COMP_WORDS[0]}" import --help 2>/dev/null | _panohost_records); do
+          compgen -f -X "!*$ending" -- "$current"
+        done)
     fi
     return
   fi

@@ -79,7 +79,7 @@ public:
         , m_importer(importer)
         , m_watch(watch)
         , m_sizes(sizesOf(options.size))
-        , m_plan(options.head->plan(m_sizes.photo))
+        , m_plan(demoPlan(*options.head, m_sizes.photo))
         , m_sphereWidth(sphereWidth(m_sizes, m_plan.camera))
     {
         m_timer.start();
@@ -154,9 +154,9 @@ Demo::Outcome Demo::photograph()
     }
     m_photos = photos.value();
     m_report.photoCount = m_photos.size();
-    if (m_options.head->record != nullptr) {
-        m_record = path(m_options.head->recordFile);
-        if (Outcome failure = write(m_record, m_options.head->record(m_plan))) {
+    if (!m_options.head->isGrid()) {
+        m_record = QDir(m_options.folder).absoluteFilePath(demoRecordFile(*m_options.head));
+        if (Outcome failure = write(m_record, demoRecord(*m_options.head, m_plan))) {
             return failure;
         }
     }
@@ -225,7 +225,7 @@ Demo::Outcome Demo::note(const Result<QString> &check)
 Demo::Outcome Demo::checkLayout()
 {
     // What a record says is rounded; a grid's cells are computed.
-    if (m_options.head->grid != nullptr) {
+    if (m_options.head->isGrid()) {
         if (Outcome failure = note(checkOrder(m_panorama, m_plan))) {
             return failure;
         }
@@ -286,7 +286,7 @@ Result<DemoReport> Demo::run()
         }
     }
     m_report.leastPsnrDecibels = m_options.size == DemoSize::Normal
-        ? m_options.head->leastPsnrDecibels
+        ? m_options.head->demo.leastPsnrDecibels
         : kLeastPsnrOfSmallPictures;
     return m_report;
 }

@@ -23,7 +23,7 @@ enum class DemoSize {
 struct DemoOptions {
     QString folder; ///< made when it does not exist; files of the demo's own names are replaced
     DemoSize size = DemoSize::Normal;
-    const DemoHead *head = nullptr;
+    const HeadFacts *head = nullptr;
 };
 
 /** What the import page gives for the demo's record and photos. */
@@ -36,7 +36,7 @@ struct DemoImport {
  * Imports \p photos with \p record (empty for heads without one) through the page of \p head.
  * What it throws passes through `runDemo`.
  */
-using DemoImporter = std::function<DemoImport(const DemoHead &head, const QString &record,
+using DemoImporter = std::function<DemoImport(const HeadFacts &head, const QString &record,
                                               const QStringList &photos)>;
 
 /** One part of the work and how long it took. */

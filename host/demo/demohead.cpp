@@ -2,10 +2,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/demo/demohead.h"
 
-#include "host/demo/recordwriter.h"
-
-#include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace PanoHost
@@ -14,42 +10,6 @@ namespace
 {
 
 constexpr double kFocal35mm = 24.0;
-/** Heads do not stop where they say: what the record's one decimal cannot tell. */
-constexpr double kPlayDegrees = 0.049;
-
-ShootPlan singleExposures(const QSize &photoSize)
-{
-    ShootPlan plan;
-    plan.camera = { photoSize, kFocal35mm, Projection::Rectilinear };
-    plan.positions = withPlay(positionsOf(landscapeRows()), kPlayDegrees);
-    return plan;
-}
-
-/** A Clauss script holds whole degrees, and the head goes exactly there. */
-ShootPlan wholeDegrees(const QSize &photoSize)
-{
-    ShootPlan plan = singleExposures(photoSize);
-    plan.positions = positionsOf(landscapeRows());
-    return plan;
-}
-
-/**
- * The darkest first: the importer is to find the median exposure by itself. Goes exactly where the
- * record says.
- */
-ShootPlan brackets(const QSize &photoSize)
-{
-    ShootPlan plan = wholeDegrees(photoSize);
-    plan.stops = { -2.0, 0.0, 2.0 };
-    return plan;
-}
-
-QByteArray papywizard(const ShootPlan &plan)
-{
-    return papywizardRecord(plan, QStringLiteral("Lake terrace"));
-}
-
-constexpr DemoGrid kGrid{ 3, 40.0 };
 constexpr int kGridColumns = 5;
 constexpr double kGridFocal35mm = 50.0;
 
@@ -58,46 +18,69 @@ ShootPlan grid(const QSize &photoSize)
 {
     ShootPlan plan;
     plan.camera = { photoSize, kGridFocal35mm, Projection::Rectilinear };
-    const double step = 1.0 - kGrid.overlapPercent / 100.0;
+    const double step = 1.0 - kDemoGrid.overlapPercent / 100.0;
     const auto stepDegrees = [step](int pixels, double focalPixels) {
         return step * 2.0 * std::atan(pixels / (2.0 * focalPixels)) * 180.0 / M_PI;
     };
     const double focal = plan.camera.focalPixels();
     for (int column = 0; column < kGridColumns; ++column) {
-        for (int row = 0; row < kGrid.rows; ++row) {
+        for (int row = 0; row < kDemoGrid.rows; ++row) {
             plan.positions.append(
                 { (column - (kGridColumns - 1) / 2.0) * stepDegrees(photoSize.width(), focal),
-                  ((kGrid.rows - 1) / 2.0 - row) * stepDegrees(photoSize.height(), focal), 0.0 });
+                  ((kDemoGrid.rows - 1) / 2.0 - row) * stepDegrees(photoSize.height(), focal),
+                  0.0 });
         }
     }
     return plan;
 }
 
-// Rounding and play of the Papywizard head cost some decibels.
-constexpr std::array<DemoHead, 4> kHeads{ {
-    { "papywizard", "record.xml", singleExposures, papywizard, nullptr, 30.0 },
-    { "vrdrive2", "record.xml", brackets, papywizard, nullptr, 36.0 },
-    { "clauss", "script.txt", wholeDegrees, claussScript, nullptr, 36.0 },
-    { "gigapan", nullptr, grid, nullptr, &kGrid, 36.0 },
-} };
+/** Over the whole sphere, at angles that every record can hold. */
+ShootPlan sphere(const PanoHead::DemoFacts &facts, const QSize &photoSize)
+{
+    ShootPlan plan;
+    plan.camera = { photoSize, kFocal35mm, Projection::Rectilinear };
+    plan.positions = positionsOf(landscapeRows());
+    if (facts.playDegrees > 0.0) {
+        plan.positions = withPlay(plan.positions, facts.playDegrees);
+    }
+    if (facts.inBrackets) {
+        plan.stops = { -2.0, 0.0, 2.0 };
+    }
+    return plan;
+}
 
 } // namespace
 
-QStringList demoHeadNames()
+ShootPlan demoPlan(const HeadFacts &head, const QSize &photoSize)
 {
-    QStringList names;
-    for (const DemoHead &head : kHeads) {
-        names.append(QString::fromLatin1(head.name));
-    }
-    return names;
+    return head.isGrid() ? grid(photoSize) : sphere(head.demo, photoSize);
 }
 
-const DemoHead *demoHead(const QString &name)
+PanoHead::NotedShoot notesOf(const ShootPlan &plan, const QString &title)
 {
-    const auto *const head
-        = std::find_if(kHeads.begin(), kHeads.end(),
-                       [&name](const DemoHead &row) { return name == QLatin1String(row.name); });
-    return head == kHeads.end() ? nullptr : head;
+    PanoHead::NotedShoot shoot;
+    const QVector<PlannedShot> shots = shotsOf(plan);
+    for (const PlannedShot &shot : shots) {
+        shoot.shots.append({ shot.head.yawDegrees, shot.head.pitchDegrees, shot.head.rollDegrees,
+                             shot.level, shot.time });
+    }
+    shoot.bracketCount = plan.stops.size();
+    shoot.focal35mm = plan.camera.focal35mm;
+    shoot.lens = plan.camera.projection == Projection::EquidistantFisheye ? LensModel::Fisheye
+                                                                          : LensModel::Standard;
+    shoot.isPortrait = plan.mounting != Mounting::Landscape;
+    shoot.title = title;
+    return shoot;
+}
+
+QByteArray demoRecord(const HeadFacts &head, const ShootPlan &plan)
+{
+    return head.write(notesOf(plan, QStringLiteral("Lake terrace")));
+}
+
+QString demoRecordFile(const HeadFacts &head)
+{
+    return QString::fromLatin1(head.record).toLower();
 }
 
 } // namespace PanoHost

@@ -3,32 +3,29 @@
 #pragma once
 
 #include "host/demo/shootplan.h"
-
-#include <QByteArray>
-#include <QStringList>
+#include "importers/headfacts.h"
 
 namespace PanoHost
 {
 
-/** What the user tells the importer about a grid. */
+using PanoHead::HeadFacts;
+
+/** What the user tells the importer about the demo's grid. */
 struct DemoGrid {
     int rows;
     double overlapPercent;
 };
+constexpr DemoGrid kDemoGrid{ 3, 40.0 };
 
-/** A head that the demo can play: a way to shoot and the record that the head leaves. */
-struct DemoHead {
-    const char *name; ///< as on the command line
-    const char *recordFile; ///< null for heads without a record
-    ShootPlan (*plan)(const QSize &photoSize);
-    QByteArray (*record)(const ShootPlan &plan); ///< null for heads without a record
-    const DemoGrid *grid; ///< null for heads with a record
-    double leastPsnrDecibels; ///< of the panorama in normal size
-};
+/** How the demo plays \p head. */
+[[nodiscard]] ShootPlan demoPlan(const HeadFacts &head, const QSize &photoSize);
 
-[[nodiscard]] QStringList demoHeadNames();
+/** \p plan as its head notes it down, under any \p title. */
+[[nodiscard]] PanoHead::NotedShoot notesOf(const ShootPlan &plan, const QString &title);
 
-/** The head \p name; null when the demo cannot play it. */
-[[nodiscard]] const DemoHead *demoHead(const QString &name);
+/** The record that \p head leaves of \p plan. */
+[[nodiscard]] QByteArray demoRecord(const HeadFacts &head, const ShootPlan &plan);
+/** The name of its file: "record.xml". */
+[[nodiscard]] QString demoRecordFile(const HeadFacts &head);
 
 } // namespace PanoHost

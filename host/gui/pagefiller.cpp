@@ -3,6 +3,7 @@
 #include "host/gui/pagefiller.h"
 
 #include "host/cli/dialogcatcher.h"
+#include "host/cli/heads.h"
 #include "host/cli/numberedlinks.h"
 
 #include <QAbstractButton>
@@ -18,14 +19,11 @@ namespace PanoHost
 namespace
 {
 
-bool isXml(const QString &path)
+bool isRecord(const QString &path)
 {
-    return path.endsWith(QLatin1String(".xml"), Qt::CaseInsensitive);
-}
-
-bool isScript(const QString &path)
-{
-    return path.endsWith(QLatin1String(".txt"), Qt::CaseInsensitive);
+    const std::vector<const HeadFacts *> heads = PanoHead::allHeadFacts();
+    return std::any_of(heads.begin(), heads.end(),
+                       [&path](const HeadFacts *head) { return head->isRecord(path); });
 }
 
 QLineEdit *recordEdit(const QWizardPage *page)
@@ -40,7 +38,7 @@ FilledFiles sortFiles(const QStringList &files)
     FilledFiles sorted;
     for (const QString &file : files) {
         const QString path = QDir().absoluteFilePath(file);
-        if (isXml(path) || isScript(path)) {
+        if (isRecord(path)) {
             sorted.record = path;
         } else {
             sorted.photos += path;
@@ -53,12 +51,10 @@ FilledFiles sortFiles(const QStringList &files)
 int headFor(const FilledFiles &files, const QVector<ImportPlugin> &plugins, int chosen)
 {
     const auto reads = [&files](const ImportPlugin &plugin) {
-        const QString head = plugin.head();
-        return isScript(files.record)
-            ? head == QLatin1String("clauss")
-            : head == QLatin1String("papywizard") || head == QLatin1String("vrdrive2");
+        const HeadFacts *head = PanoHead::headFactsOf(plugin.head());
+        return head != nullptr && head->isRecord(files.record);
     };
-    if (chosen >= 0 && (files.record.isEmpty() || reads(plugins.at(chosen)))) {
+    if (files.record.isEmpty() || (chosen >= 0 && reads(plugins.at(chosen)))) {
         return chosen;
     }
     const auto found = std::find_if(plugins.begin(), plugins.end(), reads);

@@ -14,7 +14,7 @@ namespace PanoHost
 
 /** Files dropped onto the wizard or named on the command line. */
 struct FilledFiles {
-    QString record; ///< the last one that ends in ".xml" or ".txt"; empty: none
+    QString record; ///< the last one that ends like the record of a head; empty: none
     QStringList photos; ///< all others
 };
 
@@ -22,7 +22,7 @@ struct FilledFiles {
 
 /**
  * The place of the plug-in that \p files are for: \p chosen (-1: none) where it can read them, else
- * the one that most of these records come from; -1 when there is none.
+ * the first that reads such records; \p chosen again when no plug-in does.
  */
 [[nodiscard]] int headFor(const FilledFiles &files, const QVector<ImportPlugin> &plugins,
                           int chosen);

@@ -62,32 +62,21 @@ void waitFor(const std::function<bool()> &condition, const QString &what)
     }
 }
 
-/** Brackets that end with the reference exposure: the last photo of a position is seen on top. */
-ShootPlan bracketPlan(const QSize &photoSize)
+/** Brackets end with the reference exposure: the last photo of a position is seen on top. */
+ShootPlan planOf(const HeadFacts &head)
 {
-    ShootPlan plan = demoHead(QStringLiteral("papywizard"))->plan(photoSize);
-    plan.stops = { -2.0, 2.0, 0.0 };
+    ShootPlan plan = demoPlan(head, kPhotoSize);
+    if (plan.stops.size() > 1) {
+        plan.stops = { -2.0, 2.0, 0.0 };
+    }
     return plan;
 }
 
-/** The demo's heads, one for every page. */
-QVector<DemoHead> heads()
-{
-    QVector<DemoHead> heads;
-    for (const QString &name : demoHeadNames()) {
-        heads.append(*demoHead(name));
-        if (name == QLatin1String("vrdrive2")) {
-            heads.last().plan = bracketPlan;
-        }
-    }
-    return heads;
-}
-
 /** Takes the photos of \p head and writes its record, unless an earlier run has done so. */
-QStringList shoot(const DemoHead &head, const QString &folder)
+QStringList shoot(const HeadFacts &head, const QString &folder)
 {
     const QDir dir(folder);
-    const ShootPlan plan = head.plan(kPhotoSize);
+    const ShootPlan plan = planOf(head);
     QStringList files;
     for (const PlannedShot &shot : shotsOf(plan)) {
         files += dir.absoluteFilePath(shot.fileName);
@@ -99,9 +88,9 @@ QStringList shoot(const DemoHead &head, const QString &folder)
             fail(taken.error().text());
         }
     }
-    if (head.record != nullptr) {
-        QFile record(dir.absoluteFilePath(QLatin1String(head.recordFile)));
-        if (!record.open(QIODevice::WriteOnly) || record.write(head.record(plan)) < 0) {
+    if (!head.isGrid()) {
+        QFile record(dir.absoluteFilePath(demoRecordFile(head)));
+        if (!record.open(QIODevice::WriteOnly) || record.write(demoRecord(head, plan)) < 0) {
             fail(record.fileName() + QStringLiteral(": cannot be written"));
         }
         files += record.fileName();
@@ -142,8 +131,8 @@ public:
         m_folder.mkpath(QStringLiteral("."));
     }
 
-    void everything(const DemoHead &head, const QStringList &files);
-    void smallTabs(const DemoHead &head, const QStringList &files);
+    void everything(const HeadFacts &head, const QStringList &files);
+    void smallTabs(const HeadFacts &head, const QStringList &files);
     void choicePage();
 
 private:
@@ -208,9 +197,9 @@ void Photographer::misfit(ImportWizard &wizard, const QString &head, QStringList
     bothSizes(wizard, head + QStringLiteral("-misfit"));
 }
 
-void Photographer::everything(const DemoHead &head, const QStringList &files)
+void Photographer::everything(const HeadFacts &head, const QStringList &files)
 {
-    const QString name = QString::fromLatin1(head.name);
+    const QString name = head.name();
     ImportWizard wizard(m_app, m_library);
     open(wizard, name);
     bothSizes(wizard, name + QStringLiteral("-empty"));
@@ -227,15 +216,15 @@ void Photographer::everything(const DemoHead &head, const QStringList &files)
     // Reduced thumbnails lose pixels; here they are seen as they are.
     wizard.currentPage()->findChild<QSlider *>(QStringLiteral("m_hSlider"))->setValue(100);
     picture(wizard, name + QStringLiteral("-whole"), kWholePreview);
-    if (head.record != nullptr) {
+    if (!head.isGrid()) {
         misfit(wizard, name, files);
     }
     wizard.reject();
 }
 
-void Photographer::smallTabs(const DemoHead &head, const QStringList &files)
+void Photographer::smallTabs(const HeadFacts &head, const QStringList &files)
 {
-    const QString name = QString::fromLatin1(head.name);
+    const QString name = head.name();
     ImportWizard wizard(m_app, m_library);
     open(wizard, name);
     fill(wizard, files);
@@ -304,14 +293,13 @@ int main(int argc, char **argv)
     }
     const auto library = std::move(opened).value();
     Photographer photographer(app, *library, line.positionalArguments().constFirst());
-    for (const DemoHead &head : heads()) {
-        const QStringList files = shoot(
-            head,
-            QDir(line.value(QStringLiteral("shoots"))).filePath(QString::fromLatin1(head.name)));
+    for (const HeadFacts *head : PanoHead::allHeadFacts()) {
+        const QStringList files
+            = shoot(*head, QDir(line.value(QStringLiteral("shoots"))).filePath(head->name()));
         if (line.isSet(QStringLiteral("lang"))) {
-            photographer.smallTabs(head, files);
+            photographer.smallTabs(*head, files);
         } else {
-            photographer.everything(head, files);
+            photographer.everything(*head, files);
         }
     }
     if (!line.isSet(QStringLiteral("lang"))) {

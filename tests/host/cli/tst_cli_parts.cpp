@@ -31,6 +31,8 @@ private Q_SLOTS:
     void focalOfTheUnknownSourceIsRefused_data();
     void focalOfTheUnknownSourceIsRefused();
     void everyHeadIsReady();
+    void optionsFollowWhatTheHeadHas_data();
+    void optionsFollowWhatTheHeadHas();
 };
 
 void TestCliParts::closestWordIsFound_data()
@@ -188,16 +190,64 @@ void TestCliParts::focalOfTheUnknownSourceIsRefused()
 
 void TestCliParts::everyHeadIsReady()
 {
-    QStringList options;
-    for (const OptionRow &row : importOptions()) {
-        options += longName(row);
-    }
-    for (const HeadRow &head : heads()) {
-        QCOMPARE(head.recordName == nullptr, head.readRecord == nullptr);
-        for (const QString &option : QString::fromLatin1(head.options).split(QLatin1Char('|'))) {
-            QVERIFY2(options.contains(option), qPrintable(option));
+    QVERIFY(PanoHead::allHeadFacts().size() >= 4);
+    for (const HeadFacts *head : PanoHead::allHeadFacts()) {
+        QCOMPARE(&headNamed(head->name()), head);
+        QVERIFY(head->title != nullptr);
+        QCOMPARE(head->summary == nullptr, head->isGrid());
+        QCOMPARE(head->write == nullptr, head->isGrid());
+        for (const PanoHead::OwnChoice &choice : head->ownChoices) {
+            QCOMPARE(QByteArray(choice.buttons).count('|'), QByteArray(choice.words).count('|'));
         }
+        if (head->isGrid()) {
+            continue;
+        }
+        // What a head writes is understood, and its file is seen to be a record.
+        PanoHead::NotedShoot shoot;
+        shoot.shots = { { 0.0, 10.0, 0.0, 0, {} }, { 30.0, 10.0, 0.0, 1, {} } };
+        shoot.bracketCount = 2;
+        PanoHead::ReadError error;
+        const auto summary = head->summary(head->write(shoot), &error);
+        QVERIFY2(summary, qPrintable(error.reason));
+        QCOMPARE(summary->shotCount, 2);
+        QCOMPARE(summary->bracketCount, head->notesBrackets ? 2 : 1);
+        QCOMPARE(summary->remarks, QStringList());
+        QVERIFY(!head->summary("nonsense", &error));
+        QVERIFY(!error.reason.isEmpty());
+        QVERIFY(head->isRecord(QStringLiteral("/p/") + QLatin1String(head->record)));
+        QVERIFY(!head->isRecord(QStringLiteral("/p/a.jpg")));
     }
+}
+
+/** Which of the options that only some heads have belong to which head. */
+void TestCliParts::optionsFollowWhatTheHeadHas_data()
+{
+    QTest::addColumn<QString>("head");
+    QTest::addColumn<QString>("options"); // in alphabetical order
+    const auto row = [](const char *head, const char *options) {
+        QTest::newRow(head) << QString::fromLatin1(head) << QString::fromLatin1(options);
+    };
+    row("clauss", "invert-pitch recorded-location");
+    row("gigapan", "bracket detect ignore mode overlap rows stack wrap360");
+    row("papywizard", "detect invert-pitch recorded-location rotate stack");
+    row("vrdrive2", "detect invert-pitch output-mode recorded-location rotate stack");
+}
+
+void TestCliParts::optionsFollowWhatTheHeadHas()
+{
+    QFETCH(QString, head);
+    QFETCH(QString, options);
+    QStringList own;
+    for (const OptionRow &row : optionsOf(headNamed(head))) {
+        own += longName(row);
+    }
+    for (const char *everybodys :
+         { "focal", "lens", "skip-optimization", "clean-links", "no-clean-links", "auto-detection",
+           "no-auto-detection", "ignore-exif-rotation", "order" }) {
+        QVERIFY2(own.removeAll(QLatin1String(everybodys)) == 1, everybodys);
+    }
+    own.sort();
+    QCOMPARE(own.join(QLatin1Char(' ')), options);
 }
 
 QTEST_GUILESS_MAIN(TestCliParts)

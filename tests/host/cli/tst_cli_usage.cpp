@@ -117,7 +117,7 @@ void TestCliUsage::wrongWordsExitWithTwo_data()
         "'imprt' is neither a command nor a file; did you mean 'import'?; "
         "see 'panohost --help'");
     row("zzzzzz", "'zzzzzz' is neither a command nor a file; see 'panohost --help'");
-    row("import", "no head given; one of papywizard*");
+    row("import", "no head given; one of clauss, gigapan, papywizard, vrdrive2*");
     row("import papywizrd r.xml", "unknown head 'papywizrd'; did you mean 'papywizard'?*");
     row("import papywizard", "papywizard needs its record, RECORD.xml, and the photos; *");
     row("import papywizard r.xml", "no photos given; *");

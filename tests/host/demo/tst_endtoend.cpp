@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/core/panoramajson.h"
 #include "host/core/photofile.h"
+#include "host/demo/demohead.h"
 #include "host/demo/photoshoot.h"
 #include "host/demo/psnr.h"
-#include "host/demo/recordwriter.h"
 #include "host/demo/stitcher.h"
 
 #include <QDir>
@@ -148,7 +148,9 @@ void TestEndToEnd::exactAnglesNeedNoOptimisation()
     const QString record = folder.filePath(QStringLiteral("record.xml"));
     QFile file(record);
     QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(papywizardRecord(plan, QStringLiteral("exact"), RecordedAngles::Exact));
+    PanoHead::NotedShoot notes = notesOf(plan, QStringLiteral("exact"));
+    notes.exactAngles = true;
+    file.write(PanoHead::headFactsOf(QStringLiteral("papywizard"))->write(notes));
     file.close();
 
     QStringList arguments{ QStringLiteral("import"), QStringLiteral("papywizard"), record };

@@ -81,16 +81,16 @@ void TestProjectCheck::otherOrdersAreRefused()
 
 void TestProjectCheck::gridStepsLeaveTheOverlap()
 {
-    const DemoHead *const head = demoHead(QStringLiteral("gigapan"));
-    QVERIFY(head != nullptr && head->grid != nullptr);
-    const ShootPlan grid = head->plan(QSize(900, 600));
-    QCOMPARE(grid.positions.size() % head->grid->rows, 0);
+    const HeadFacts *const head = PanoHead::headFactsOf(QStringLiteral("gigapan"));
+    QVERIFY(head != nullptr && head->isGrid());
+    const ShootPlan grid = demoPlan(*head, QSize(900, 600));
+    QCOMPARE(grid.positions.size() % kDemoGrid.rows, 0);
     // 50 mm in front of 36 mm x 24 mm; 60 % of the field lie between neighbours.
     const double across = 0.6 * 2.0 * std::atan(18.0 / 50.0) * 180.0 / M_PI;
     const double down = 0.6 * 2.0 * std::atan(12.0 / 50.0) * 180.0 / M_PI;
     const Pose &first = grid.positions[0];
     const Pose &below = grid.positions[1];
-    const Pose &beside = grid.positions[head->grid->rows];
+    const Pose &beside = grid.positions[kDemoGrid.rows];
     QCOMPARE(below.yawDegrees, first.yawDegrees);
     QVERIFY(std::fabs(first.pitchDegrees - below.pitchDegrees - down) < 1e-6);
     QCOMPARE(beside.pitchDegrees, first.pitchDegrees);

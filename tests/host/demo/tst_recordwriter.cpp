@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "host/demo/recordwriter.h"
+#include "host/demo/demohead.h"
 
 #include <QXmlStreamReader>
 #include <QtTest>
@@ -73,6 +73,16 @@ ShootPlan planOf(const QVector<Pose> &positions, const QVector<double> &stops = 
     plan.positions = positions;
     plan.stops = stops;
     return plan;
+}
+
+QByteArray papywizardRecord(const ShootPlan &plan, const QString &title)
+{
+    return PanoHead::headFactsOf(QStringLiteral("papywizard"))->write(notesOf(plan, title));
+}
+
+QByteArray claussScript(const ShootPlan &plan)
+{
+    return PanoHead::headFactsOf(QStringLiteral("clauss"))->write(notesOf(plan, {}));
 }
 
 } // namespace
@@ -168,7 +178,10 @@ void TestRecordWriter::anglesHaveOneDecimal()
 void TestRecordWriter::exactAnglesKeepTwelveDigits()
 {
     const ShootPlan plan = planOf({ { 123.456789012, -0.0123456789, 0.0 } });
-    const ReadRecord record = read(papywizardRecord(plan, QString(), RecordedAngles::Exact));
+    PanoHead::NotedShoot notes = notesOf(plan, {});
+    notes.exactAngles = true;
+    const ReadRecord record
+        = read(PanoHead::headFactsOf(QStringLiteral("papywizard"))->write(notes));
     QCOMPARE(record.picts.first().yaw, QStringLiteral("123.456789012"));
     QCOMPARE(record.picts.first().pitch.toDouble(), -0.0123456789);
 }
