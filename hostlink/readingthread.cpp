@@ -8,7 +8,6 @@
 #include <QHash>
 #include <QMutexLocker>
 
-#include <new>
 #include <utility>
 #include <vector>
 
@@ -54,30 +53,6 @@ QQueue<QString> withoutDuplicates(const QStringList &files)
     return queue;
 }
 
-/** Null for a photo that the host cannot read; an exception or no host at all counts as that. */
-XIImageDef *readPhoto(XIApplication *host, const QString &file)
-{
-    if (host == nullptr) {
-        return nullptr; // it was there when the thread was started
-    }
-    try {
-        return host->CreateImageDef(file);
-    } catch (...) {
-        return nullptr;
-    }
-}
-
-/** Whether there was memory for \p step. */
-template <typename Step> bool isWithinMemory(const Step &step)
-{
-    try {
-        step();
-    } catch (const std::bad_alloc &) {
-        return false;
-    }
-    return true;
-}
-
 } // namespace
 
 ReadingThread::ReadingThread(QObject *parent)
@@ -91,59 +66,31 @@ ReadingThread::ReadingThread(QObject *parent)
 
 ReadingThread::~ReadingThread()
 {
-    disconnect();
-    stop();
+    disconnect(); // so that nobody hears of it
+    Clear();
 }
 
 void ReadingThread::Start(const QStringList &files)
 {
-    // Both are done before locking: they may take long for a record-size shoot.
-    QQueue<QString> queue;
-    const bool isQueued = isWithinMemory([&] { queue = withoutDuplicates(files); });
-    const bool hasHost = PanoHead::findHost() != nullptr;
+    if (PanoHead::findHost() == nullptr) {
+        return;
+    }
+    // Before locking: it may take long for a record-size shoot.
+    QQueue<QString> queue = withoutDuplicates(files);
     {
         const QMutexLocker lock(&m_mutex);
-        forget();
-        if (!hasHost) {
+        m_images->clear();
+        m_queue->swap(queue);
+        *m_stop = false;
+        // A thread that the system has refused to make takes no work.
+        if (std::exchange(*m_takesWork, true) && isRunning()) {
             return;
         }
-        if (isQueued) {
-            m_queue->swap(queue);
-            *m_stop = false;
-            if (std::exchange(*m_takesWork, true)) {
-                return;
-            }
-        }
     }
-    if (!isQueued || !launch()) {
-        giveUp();
-    }
-}
-
-bool ReadingThread::launch()
-{
     // An earlier run that will not look at the queue again may still be winding down;
     // QThread::start() would do nothing until it has ended.
-    wait();
+    waitForEnd();
     start();
-    if (isRunning() || isFinished()) {
-        return true;
-    }
-    const QMutexLocker lock(&m_mutex);
-    *m_takesWork = false;
-    return false;
-}
-
-void ReadingThread::giveUp()
-{
-    {
-        const QMutexLocker lock(&m_mutex);
-        forget();
-        *m_stop = true;
-        *m_isShort = true;
-        ++*m_told;
-    }
-    Q_EMIT Loaded();
 }
 
 QList<XIImageDef *> ReadingThread::XIImageDefs()
@@ -158,39 +105,17 @@ bool ReadingThread::isLastLoaded()
     return m_queue->isEmpty() && m_delivered >= *m_told;
 }
 
-bool ReadingThread::takeShortage()
-{
-    const QMutexLocker lock(&m_mutex);
-    return std::exchange(*m_isShort, false);
-}
-
 void ReadingThread::Clear()
 {
-    stop();
     {
         const QMutexLocker lock(&m_mutex);
+        m_images->clear();
+        m_queue->clear();
+        *m_stop = true;
         ++*m_told;
     }
-    Q_EMIT Loaded();
-}
-
-void ReadingThread::stop()
-{
-    {
-        const QMutexLocker lock(&m_mutex);
-        forget();
-        *m_stop = true;
-    }
     waitForEnd();
-}
-
-/** Everything but whether a run is on. The lock is held. */
-void ReadingThread::forget()
-{
-    m_images->clear();
-    m_queue->clear();
-    *m_owesLoaded = false;
-    *m_isShort = false;
+    Q_EMIT Loaded();
 }
 
 void ReadingThread::waitForEnd()
@@ -203,57 +128,38 @@ void ReadingThread::waitForEnd()
 void ReadingThread::run()
 {
     XIApplication *host = PanoHead::findHost();
-    // A receiver on another thread costs memory; one that does not get this misses no photo.
-    isWithinMemory([this] { Q_EMIT Start(); });
+    Q_EMIT Start();
     QString file;
-    for (Work work = takeNext(&file); work != Work::None; work = takeNext(&file)) {
-        if (work == Work::Photo) {
-            keep(readPhoto(host, file));
-        } else {
-            msleep(kWaitMs);
+    while (takeNext(&file)) {
+        try {
+            keep(host == nullptr ? nullptr : host->CreateImageDef(file));
+        } catch (...) { // NOLINT(bugprone-empty-catch): one photo is missing, whatever the reason
         }
     }
-    isWithinMemory([this] { Q_EMIT Done(); });
+    Q_EMIT Done();
 }
 
-ReadingThread::Work ReadingThread::takeNext(QString *file)
+/** The run ends when there is none. */
+bool ReadingThread::takeNext(QString *file)
 {
     const QMutexLocker lock(&m_mutex);
-    if (*m_owesLoaded && !*m_stop) {
-        tellLoaded();
+    *m_takesWork = !m_queue->isEmpty();
+    if (*m_takesWork) {
+        *file = m_queue->dequeue();
     }
-    if (*m_stop || (m_queue->isEmpty() && !*m_owesLoaded)) {
-        *m_takesWork = false;
-        return Work::None;
-    }
-    if (m_queue->isEmpty()) {
-        return Work::Pause;
-    }
-    *file = m_queue->dequeue();
-    return Work::Photo;
+    return *m_takesWork;
 }
 
+/** \p image is null for a photo that the host cannot read. */
 void ReadingThread::keep(XIImageDef *image)
 {
     const QMutexLocker lock(&m_mutex);
     if (image == nullptr || *m_stop) {
         return;
     }
-    if (!isWithinMemory([&] { m_images->append(image); })) {
-        // The photos chosen cannot all be had any more; more of them would only cost more memory.
-        m_queue->clear();
-        *m_isShort = true;
-    }
+    m_images->append(image);
     if (m_images->size() % kPhotosPerSignal == 0 || m_queue->isEmpty()) {
-        tellLoaded();
-    }
-}
-
-/** The lock is held. */
-void ReadingThread::tellLoaded()
-{
-    *m_owesLoaded = !isWithinMemory([this] { Q_EMIT Loaded(); });
-    if (!*m_owesLoaded) {
+        Q_EMIT Loaded();
         ++*m_told;
     }
 }

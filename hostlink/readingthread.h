@@ -33,8 +33,7 @@ public:
     /**
      * Forgets earlier images and reads \p files (full paths) in their order, each once. During a
      * run the image of the photo in hand still joins the new list; call `Clear()` first for a
-     * clean one. Without a host nothing is read. When memory runs out, here or later, the reading
-     * ends with what it has.
+     * clean one. Without a host nothing is read. A photo that cannot be read or kept is left out.
      */
     void Start(const QStringList &files);
     /** The images read so far, in reading order. */
@@ -42,11 +41,9 @@ public:
     /** Whether the `Loaded()` delivered last is the last one of its work: the queue is empty, and
      * no further signal is on its way. */
     [[nodiscard]] bool isLastLoaded();
-    /** Whether memory has run out since `Start`, so that photos are missing; true once. */
-    [[nodiscard]] bool takeShortage();
 
 Q_SIGNALS:
-    /** Each tenth image, the last of the queue, the end of `Clear()`, and when memory runs out. */
+    /** Each tenth image, the last of the queue, and the end of `Clear()`. */
     void Loaded();
     /** A run begins; emitted on the worker thread. */
     void Start();
@@ -64,16 +61,9 @@ protected:
     void run() override;
 
 private:
-    enum class Work { Photo, Pause, None };
-
-    void stop();
     void waitForEnd();
-    [[nodiscard]] bool launch();
-    void giveUp();
-    void forget();
-    [[nodiscard]] Work takeNext(QString *file);
+    [[nodiscard]] bool takeNext(QString *file);
     void keep(XIImageDef *image);
-    void tellLoaded();
 
     int m_delivered = 0; ///< `Loaded()` signals that have reached the GUI thread
     QMutex m_mutex; ///< guards everything below
@@ -84,7 +74,4 @@ private:
     PanoHead::Guarded<QList<XIImageDef *>> m_images{ m_mutex };
     /** The worker will look at the queue again. */
     PanoHead::Guarded<bool> m_takesWork{ m_mutex, false };
-    /** `Loaded()` is due, but there was no memory to emit it. */
-    PanoHead::Guarded<bool> m_owesLoaded{ m_mutex, false };
-    PanoHead::Guarded<bool> m_isShort{ m_mutex, false }; ///< of memory
 };

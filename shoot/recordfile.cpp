@@ -9,7 +9,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
-#include <new>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -92,8 +91,9 @@ std::optional<QByteArray> readToEnd(int fd, qint64 expected, ReadError *error)
     return fail(error, tooLarge());
 }
 
-/** Throws std::bad_alloc. */
-std::optional<QByteArray> readWholeFile(const QString &path, ReadError *error)
+} // namespace
+
+std::optional<QByteArray> readRecordFile(const QString &path, ReadError *error)
 {
     // A file name ends at a NUL for the system: never open something else than what is shown.
     if (path.isEmpty() || path.contains(QChar::Null)) {
@@ -111,17 +111,6 @@ std::optional<QByteArray> readWholeFile(const QString &path, ReadError *error)
         return fail(error, tooLarge());
     }
     return readToEnd(file.get(), status.st_size, error);
-}
-
-} // namespace
-
-std::optional<QByteArray> readRecordFile(const QString &path, ReadError *error)
-{
-    try {
-        return readWholeFile(path, error);
-    } catch (const std::bad_alloc &) {
-        return fail(error, QStringLiteral("not enough memory"));
-    }
 }
 
 } // namespace PanoHead

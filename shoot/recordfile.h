@@ -21,7 +21,7 @@ struct ReadError {
  * The bytes of a record file. Regular files only, opened without blocking and bounded by
  * `kMaxRecordBytes`, so that no path a user can type (a FIFO, a device, a huge file) stops the GUI
  * thread. What size the file system reports does not matter: some say 0 of files that hold more.
- * \p error may be null.
+ * \p error may be null. Throws std::bad_alloc.
  */
 [[nodiscard]] std::optional<QByteArray> readRecordFile(const QString &path, ReadError *error);
 

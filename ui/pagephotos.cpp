@@ -11,7 +11,6 @@
 #include <QPixmap>
 
 #include <algorithm>
-#include <new>
 
 namespace PanoHead
 {
@@ -74,10 +73,7 @@ void PagePhotos::ask(AskAgain again)
         again = AskAgain::Thumbnails;
         m_areAllAsked = true;
     }
-    try {
-        m_haveNews = m_answers.update(m_thread->XIImageDefs(), again) || m_haveNews;
-    } catch (const std::bad_alloc &) { // NOLINT(bugprone-empty-catch): no photo is known, then
-    }
+    m_haveNews = m_answers.update(m_thread->XIImageDefs(), again) || m_haveNews;
 }
 
 bool PagePhotos::areShown() const
@@ -92,6 +88,12 @@ void PagePhotos::show(const PreviewLayout &layout, CellStyle style, int zoomPerc
     m_areAllAsked = false;
     *m_shown = m_answers.inOrder();
     m_preview->showScene({ layout, *m_shown, style }, zoomPercent, isDrawnAnew);
+}
+
+void PagePhotos::showNothing()
+{
+    m_preview->showNothing();
+    m_haveNews = true; // the next picture has all of them to show
 }
 
 void PagePhotos::forget()

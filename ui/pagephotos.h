@@ -4,6 +4,7 @@
 
 #include "shoot/photoanswers.h"
 #include "ui/previewpainter.h"
+#include "ui/withinmemory.h"
 
 #include <QList>
 #include <QStringList>
@@ -33,6 +34,15 @@ public:
 
     /** Reads \p files from a clean start. */
     void read(const QStringList &files);
+
+    /** Does \p step, which asks the photos and shows them. When memory runs out in it, no picture
+     * is shown, and \p box says so. */
+    template <typename Step> void draw(const LowMemoryBox &box, const Step &step)
+    {
+        if (!withinMemory(box, step)) {
+            showNothing();
+        }
+    }
     /** The thread has signalled: new photos are asked, and those that lacked an answer again, all
      * of them at the end of the work. False, and nothing to be done, after `letGo`. */
     [[nodiscard]] bool arrived();
@@ -46,8 +56,7 @@ public:
     [[nodiscard]] QSize firstThumbnail() const { return m_answers.firstThumbnail(); }
     /** As many photos are shown as there are, and none has given another answer since. */
     [[nodiscard]] bool areShown() const;
-    /** Draws the photos into \p layout: all of it anew, or what has changed since the last time.
-     * Throws std::bad_alloc. */
+    /** Draws the photos into \p layout: all of it anew, or what has changed since the last time. */
     void show(const PreviewLayout &layout, CellStyle style, int zoomPercent);
 
     /** The photos may be gone from now on, or be others at the same addresses; the picture stays.
@@ -59,6 +68,7 @@ public:
 
 private:
     void ask(AskAgain again);
+    void showNothing();
 
     PhotoAnswers m_answers;
     QList<XIImageDef *> *m_shown;

@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "ui/previewcanvas.h"
 
+#include "ui/pixels.h"
+
 #include <QPainter>
 
 #include <algorithm>
-#include <new>
 
 namespace PanoHead
 {
@@ -92,28 +93,20 @@ void PreviewCanvas::redraw()
         m_isValid = true;
         return;
     }
-    try {
-        const auto format = m_colours.background.isOpaque() ? QImage::Format_RGB32
-                                                            : QImage::Format_ARGB32_Premultiplied;
-        m_image = QImage(m_scene.layout.canvas, format);
-        if (m_image.isNull()) {
-            return;
-        }
-        const bool isOpaque
-            = !m_image.hasAlphaChannel() && m_colours.caption.text.brush().isOpaque();
-        m_painter.reset(m_image.sizeInBytes() / kKeptPart,
-                        isOpaque ? std::make_optional(m_colours.caption.text.color().rgb())
-                                 : std::nullopt);
-        indexCells();
-        if (m_scene.style == CellStyle::FittedWithCaption) {
-            drawCells();
-        } else {
-            drawStrips();
-        }
-        m_isValid = true;
-    } catch (const std::bad_alloc &) {
-        m_image = QImage();
+    const auto format = m_colours.background.isOpaque() ? QImage::Format_RGB32
+                                                        : QImage::Format_ARGB32_Premultiplied;
+    m_image = withPixels(QImage(m_scene.layout.canvas, format));
+    const bool isOpaque = !m_image.hasAlphaChannel() && m_colours.caption.text.brush().isOpaque();
+    m_painter.reset(m_image.sizeInBytes() / kKeptPart,
+                    isOpaque ? std::make_optional(m_colours.caption.text.color().rgb())
+                             : std::nullopt);
+    indexCells();
+    if (m_scene.style == CellStyle::FittedWithCaption) {
+        drawCells();
+    } else {
+        drawStrips();
     }
+    m_isValid = true;
 }
 
 void PreviewCanvas::drawCells()
@@ -139,15 +132,11 @@ void PreviewCanvas::drawStrips()
 void PreviewCanvas::patch(const QRegion &region)
 {
     m_isValid = false;
-    try {
-        QPainter painter(&m_image);
-        for (const QRect &rect : region) {
-            patchRect({ m_image, painter, rect });
-        }
-        m_isValid = true;
-    } catch (const std::bad_alloc &) {
-        m_image = QImage();
+    QPainter painter(&m_image);
+    for (const QRect &rect : region) {
+        patchRect({ m_image, painter, rect });
     }
+    m_isValid = true;
 }
 
 /** Looks from the last cell down for what is not hidden, then draws it from the first one up. */

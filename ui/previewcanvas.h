@@ -44,7 +44,7 @@ public:
 
     /** What \c update would do; nothing is drawn yet. */
     [[nodiscard]] Change changeTo(const PreviewScene &scene, const PreviewColours &colours) const;
-    /** Draws \p change, the answer of \c changeTo. Without memory for it the picture is null. */
+    /** Draws \p change, the answer of \c changeTo. Throws std::bad_alloc. */
     void update(const PreviewScene &scene, const PreviewColours &colours, const Change &change);
     /** The next update redraws everything. */
     void invalidate() { m_isValid = false; }

@@ -7,8 +7,6 @@
 
 #include <QLabel>
 
-#include <new>
-
 namespace PanoHead
 {
 
@@ -30,15 +28,8 @@ public:
      * std::bad_alloc; the picture may be half drawn then.
      */
     void showScene(const PreviewScene &scene, int zoomPercent, bool isDrawnAnew = false);
-    /** Calls \p draw, which works out and shows a scene; without memory for it nothing is shown. */
-    template <typename Draw> void withinMemory(const Draw &draw)
-    {
-        try {
-            draw();
-        } catch (const std::bad_alloc &) {
-            showNothing();
-        }
-    }
+    /** Forgets picture and scene. */
+    void showNothing();
     /** The photos shown may be gone before the next call; the picture stays. */
     void forgetPhotos() { m_canvas.forgetPhotos(); }
     /** Of the last call; 0 before the first one. */
@@ -50,7 +41,6 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    void showNothing();
     [[nodiscard]] PreviewColours colours(CellStyle style) const;
     void showAll(int zoomPercent);
     void showPart(const QRegion &region);

@@ -8,7 +8,6 @@
 #include "shoot/linksearch.h"
 
 #include <algorithm>
-#include <new>
 
 ClaussToSPP::ClaussToSPP()
 {
@@ -19,18 +18,14 @@ ClaussToSPP::ClaussToSPP()
 
 bool ClaussToSPP::parse(const QString &fileName)
 {
-    shots.clear();
+    shots = {}; // clearing a list that others share needs memory
     const std::optional<QByteArray> bytes = PanoHead::readRecordFile(fileName, nullptr);
     if (!bytes) {
         return false;
     }
-    try {
-        const PanoHead::ClaussScript script = PanoHead::readClaussScript(*bytes);
-        shots = script.shots;
-        return script.isSound;
-    } catch (const std::bad_alloc &) {
-        return false;
-    }
+    const PanoHead::ClaussScript script = PanoHead::readClaussScript(*bytes);
+    shots = script.shots;
+    return script.isSound;
 }
 
 void ClaussToSPP::generateSPP(QStringList &images, QList<XIImageDef *> imageDefs)

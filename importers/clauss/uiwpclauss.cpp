@@ -34,6 +34,9 @@ constexpr PhotoQuestions kClaussQuestions{ false /* lens */, true /* shot time *
 UIWPClauss::UIWPClauss(QWidget *parent)
     : QWizardPage(parent)
     , m_readingThread(nullptr)
+    , m_lowMemory{ this, tr("Warning"),
+                   tr("There is not enough memory for so many images. Close other programs and try "
+                      "again.") }
     , m_layout(kClaussLayout)
     , m_photos(kClaussQuestions, &previewImages)
 {
@@ -44,10 +47,6 @@ UIWPClauss::UIWPClauss(QWidget *parent)
     CreateConnects();
     Reset();
     recolourSubtitle(this, m_photos.preview());
-    m_lowMemory = new LowMemoryNotice(this, m_readingThread,
-                                      { tr("Warning"),
-                                        tr("There is not enough memory for so many images. Close "
-                                           "other programs and try again.") });
 }
 
 UIWPClauss::~UIWPClauss()
@@ -88,7 +87,7 @@ bool UIWPClauss::isComplete() const
 bool UIWPClauss::validatePage()
 {
     return handOver(
-        *this, [this] { return describe(); }, m_photos, *m_lowMemory);
+        *this, [this] { return describe(); }, m_photos, m_lowMemory);
 }
 
 bool UIWPClauss::describe()
@@ -116,7 +115,12 @@ void UIWPClauss::BrowserWeb(const QString &url)
 
 void UIWPClauss::ParseConfigFile(const QString &fileName)
 {
-    if (!readRecord(m_state, shots, [this, &fileName] { return parse(fileName); })) {
+    bool isRead = false;
+    const auto read = [&] { isRead = readRecord(m_state, shots, [&] { return parse(fileName); }); };
+    if (!withinMemory(m_lowMemory, read)) {
+        return;
+    }
+    if (!isRead) {
         showMessage(this, QMessageBox::Critical, tr("Error"),
                     tr("Error parse file:%1").arg(fileName));
     }
@@ -220,9 +224,11 @@ void UIWPClauss::UpdatePreview()
     if (m_hSlider->value() != m_photos.preview()->zoomPercent()) {
         m_photos.drawAnew();
     }
-    if (m_photos.arrived()) {
-        m_photos.preview()->withinMemory([this] { showPreview(); });
-    }
+    m_photos.draw(m_lowMemory, [this] {
+        if (m_photos.arrived()) {
+            showPreview();
+        }
+    });
     Q_EMIT completeChanged();
 }
 

@@ -7,17 +7,13 @@
 #include "shoot/shootstate.h"
 #include "ui/pagephotos.h"
 #include "ui/shootview.h"
+#include "ui/withinmemory.h"
 #include "ui_uiwpclauss.h"
 
 #include <QStringList>
 #include <QWizardPage>
 
 class ReadingThread;
-
-namespace PanoHead
-{
-class LowMemoryNotice;
-} // namespace PanoHead
 
 /** The wizard page of the Clauss Rodeon importer. */
 class UIWPClauss : public QWizardPage, public ClaussToSPP, public Ui::UIWPClaussClass
@@ -67,8 +63,8 @@ private:
     QList<XIImageDef *> previewImages; ///< what the preview shows; not owned
     bool m_isReadingScript = false; ///< until its error box is closed
     ReadingThread *m_readingThread;
+    PanoHead::LowMemoryBox m_lowMemory;
     PanoHead::ShotLayout m_layout;
     PanoHead::PagePhotos m_photos;
     PanoHead::PhotoNames m_photoNames;
-    PanoHead::LowMemoryNotice *m_lowMemory = nullptr;
 };

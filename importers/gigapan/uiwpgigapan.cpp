@@ -42,6 +42,9 @@ UIWPGigapan::UIWPGigapan(QWidget *parent)
     : QWizardPage(parent)
     , GigapanToSPP(0, 0, kColumnsFromLeft, 1, 0)
     , m_readingThread(nullptr)
+    , m_lowMemory{ this, tr("Warning"),
+                   tr("There is not enough memory for so many images. Close other programs and try "
+                      "again.") }
     , m_photos(kGigapanQuestions, &previewImages)
 {
     setupUi(this);
@@ -50,10 +53,6 @@ UIWPGigapan::UIWPGigapan(QWidget *parent)
     CreateConnects();
     Reset();
     recolourSubtitle(this, m_photos.preview());
-    m_lowMemory = new LowMemoryNotice(this, m_readingThread,
-                                      { tr("Warning"),
-                                        tr("There is not enough memory for so many images. Close "
-                                           "other programs and try again.") });
 }
 
 UIWPGigapan::~UIWPGigapan()
@@ -102,7 +101,7 @@ bool UIWPGigapan::isComplete() const
 bool UIWPGigapan::validatePage()
 {
     return handOver(
-        *this, [this] { return describe(); }, m_photos, *m_lowMemory);
+        *this, [this] { return describe(); }, m_photos, m_lowMemory);
 }
 
 bool UIWPGigapan::describe()
@@ -247,9 +246,11 @@ void UIWPGigapan::UpdateUI()
 void UIWPGigapan::UpdatePreview()
 {
     const XNoEvent noEvent(m_isUpdating);
-    if (m_photos.arrived()) {
-        m_photos.preview()->withinMemory([this] { showPreview(); });
-    }
+    m_photos.draw(m_lowMemory, [this] {
+        if (m_photos.arrived()) {
+            showPreview();
+        }
+    });
     Q_EMIT completeChanged();
 }
 

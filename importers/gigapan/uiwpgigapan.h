@@ -6,6 +6,7 @@
 #include "importers/gigapan/gridlayout.h"
 #include "ui/pagephotos.h"
 #include "ui/shootview.h"
+#include "ui/withinmemory.h"
 #include "ui_uiwpgigapan.h"
 
 #include <QList>
@@ -14,11 +15,6 @@
 
 class ReadingThread;
 class XIImageDef;
-
-namespace PanoHead
-{
-class LowMemoryNotice;
-} // namespace PanoHead
 
 /** The wizard page of the Gigapan importer. */
 class UIWPGigapan : public QWizardPage, public GigapanToSPP, public Ui::UIWPGigapanClass
@@ -69,8 +65,8 @@ private:
     QList<XIImageDef *> previewImages; ///< what the preview shows; not owned
     bool m_isUpdating = false; ///< slots that widgets call meanwhile do nothing
     ReadingThread *m_readingThread;
+    PanoHead::LowMemoryBox m_lowMemory;
     PanoHead::GridLayout m_layout;
     PanoHead::PagePhotos m_photos;
     PanoHead::PhotoNames m_photoNames;
-    PanoHead::LowMemoryNotice *m_lowMemory = nullptr;
 };

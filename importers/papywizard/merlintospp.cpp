@@ -8,6 +8,24 @@
 #include "shoot/recordfile.h"
 #include "shoot/stacks.h"
 
+namespace
+{
+
+void take(MerlinToSPP &generator, const PanoHead::PapywizardRecord &record)
+{
+    generator.shots = record.shots;
+    generator.title = record.title;
+    generator.gps = record.gps;
+    generator.comment = record.comment;
+    generator.xmlFocal = record.xmlFocal;
+    generator.sensorCoef = record.sensorCoef;
+    generator.nbPicts = record.nbPicts;
+    generator.xmlLensType = record.xmlLensType;
+    generator.portrait = record.portrait;
+}
+
+} // namespace
+
 MerlinToSPP::MerlinToSPP()
 {
     positionsKnown = true;
@@ -18,20 +36,14 @@ MerlinToSPP::MerlinToSPP()
 
 bool MerlinToSPP::parse(const QString &path)
 {
+    take(*this, {});
     std::optional<QByteArray> bytes = PanoHead::readRecordFile(path, nullptr);
-    const std::optional<PanoHead::PapywizardRecord> read
+    const std::optional<PanoHead::PapywizardRecord> record
         = bytes ? PanoHead::readPapywizard(*std::move(bytes)) : std::nullopt;
-    const PanoHead::PapywizardRecord record = read.value_or(PanoHead::PapywizardRecord());
-    shots = record.shots;
-    title = record.title;
-    gps = record.gps;
-    comment = record.comment;
-    xmlFocal = record.xmlFocal;
-    sensorCoef = record.sensorCoef;
-    nbPicts = record.nbPicts;
-    xmlLensType = record.xmlLensType;
-    portrait = record.portrait;
-    return read.has_value();
+    if (record) {
+        take(*this, *record);
+    }
+    return record.has_value();
 }
 
 void MerlinToSPP::forgetRecord()

@@ -299,17 +299,13 @@ std::nullopt_t fail(ReadError *error, const ReadError &what)
 
 std::optional<PapywizardRecord> readPapywizard(QByteArray bytes, ReadError *error)
 {
-    try {
-        const QString text = decodeXml(std::exchange(bytes, {}));
-        if (const std::optional<ReadError> refusal = xmlRefusal(text)) {
-            return fail(error, *refusal);
-        }
-        RecordHandler handler;
-        const std::optional<PapywizardRecord> record = handler.read(text);
-        return record ? record : fail(error, handler.error());
-    } catch (const std::bad_alloc &) {
-        return fail(error, { QStringLiteral("not enough memory"), 0 });
+    const QString text = decodeXml(std::exchange(bytes, {}));
+    if (const std::optional<ReadError> refusal = xmlRefusal(text)) {
+        return fail(error, *refusal);
     }
+    RecordHandler handler;
+    const std::optional<PapywizardRecord> record = handler.read(text);
+    return record ? record : fail(error, handler.error());
 }
 
 } // namespace PanoHead

@@ -34,7 +34,7 @@ struct PapywizardRecord {
  * numbers that do not convert, or are not finite as 32-bit float, become 0 (the crop factor 1.0).
  * Nothing only when the bytes are not well-formed XML, exceed `XmlLimits` or hold more than
  * `kMaxRecordedShots` pictures; \p error, which may be null, then says why. Moved in, \p bytes are
- * gone before the text is read, which needs twice their size.
+ * gone before the text is read, which needs twice their size. Throws std::bad_alloc.
  */
 [[nodiscard]] std::optional<PapywizardRecord> readPapywizard(QByteArray bytes,
                                                              ReadError *error = nullptr);

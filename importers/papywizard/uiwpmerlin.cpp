@@ -35,6 +35,9 @@ constexpr PhotoQuestions kPapywizardQuestions{ true /* lens */, true /* shot tim
 UIWPMerlin::UIWPMerlin(QWidget *parent)
     : QWizardPage(parent)
     , m_readingThread(nullptr)
+    , m_lowMemory{ this, tr("Warning"),
+                   tr("There is not enough memory for so many images. Close other programs and try "
+                      "again.") }
     , m_layout(kPapywizardLayout)
     , m_photos(kPapywizardQuestions, &previewImages)
 {
@@ -44,10 +47,6 @@ UIWPMerlin::UIWPMerlin(QWidget *parent)
     CreateConnects();
     Reset();
     recolourSubtitle(this, m_photos.preview());
-    m_lowMemory = new LowMemoryNotice(this, m_readingThread,
-                                      { tr("Warning"),
-                                        tr("There is not enough memory for so many images. Close "
-                                           "other programs and try again.") });
 }
 
 UIWPMerlin::~UIWPMerlin()
@@ -87,7 +86,7 @@ bool UIWPMerlin::isComplete() const
 bool UIWPMerlin::validatePage()
 {
     return handOver(
-        *this, [this] { return describe(); }, m_photos, *m_lowMemory);
+        *this, [this] { return describe(); }, m_photos, m_lowMemory);
 }
 
 bool UIWPMerlin::describe()
@@ -124,7 +123,10 @@ void UIWPMerlin::BrowserWeb(const QString &url)
 
 void UIWPMerlin::ParseConfigFile(const QString &path)
 {
-    if (!readRecord(m_state, shots, [this, &path] { return parse(path); })) {
+    bool isRead = false;
+    withinMemory(m_lowMemory,
+                 [&] { isRead = readRecord(m_state, shots, [&] { return parse(path); }); });
+    if (!isRead) {
         // The ranges show a scan that found nothing: wanted. Other pages keep theirs.
         m_state.setExtents({ AngleRange::scanStart(), AngleRange::scanStart() });
         return;
@@ -199,7 +201,9 @@ void UIWPMerlin::Reset()
 
 void UIWPMerlin::OnImageLoaded()
 {
-    if (!m_photos.arrived()) {
+    bool isLeft = false;
+    m_photos.draw(m_lowMemory, [&] { isLeft = !m_photos.arrived(); });
+    if (isLeft) {
         return;
     }
     const LensFacts preset = adoptPhotos(m_state, { xmlFocal, xmlLensType }, m_photos.lens());
@@ -266,7 +270,7 @@ void UIWPMerlin::redrawAll()
 void UIWPMerlin::UpdateUI()
 {
     const BlockSignal blocker(this);
-    lookAtPhotos();
+    UpdatePreview(); // asks the photos first, whose answers the fields show
     showShoot(shootViewOf(*this, m_photoNames), m_state, { tr("N/A"), tr("N/A") });
     showLens(lensViewOf(*this), nbPicts, xmlFocal, m_state.imageFocal, tr("N/A"));
     const MismatchTexts texts{
@@ -277,20 +281,16 @@ void UIWPMerlin::UpdateUI()
     };
     m_lbWarning->setText(
         warningText(textOf(mismatchOf(m_state, { xmlFocal, xmlLensType }, nbPicts), texts)));
-    showPreview();
 }
 
 void UIWPMerlin::UpdatePreview()
 {
-    lookAtPhotos();
-    showPreview();
-}
-
-/** Photos that know their lens late count from then on; what the user has entered stays. */
-void UIWPMerlin::lookAtPhotos()
-{
-    m_photos.look();
-    (void)adoptPhotos(m_state, { xmlFocal, xmlLensType }, m_photos.lens());
+    m_photos.draw(m_lowMemory, [this] {
+        m_photos.look();
+        // Those that know their lens late count from now on; what the user has entered stays.
+        (void)adoptPhotos(m_state, { xmlFocal, xmlLensType }, m_photos.lens());
+        showPreview();
+    });
 }
 
 void UIWPMerlin::showPreview()
@@ -300,8 +300,6 @@ void UIWPMerlin::showPreview()
     if (m_photos.areShown()) {
         return;
     }
-    m_photos.preview()->withinMemory([this] {
-        m_photos.show(m_layout.of(shots, m_state.extents()), CellStyle::FittedWithCaption,
-                      m_hSlider->value());
-    });
+    m_photos.show(m_layout.of(shots, m_state.extents()), CellStyle::FittedWithCaption,
+                  m_hSlider->value());
 }

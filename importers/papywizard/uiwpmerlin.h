@@ -7,6 +7,7 @@
 #include "shoot/shootstate.h"
 #include "ui/pagephotos.h"
 #include "ui/shootview.h"
+#include "ui/withinmemory.h"
 #include "ui_uiwpmerlin.h"
 
 #include <QStringList>
@@ -14,11 +15,6 @@
 
 class ReadingThread;
 class XIImageDef;
-
-namespace PanoHead
-{
-class LowMemoryNotice;
-} // namespace PanoHead
 
 /** The wizard page of the Papywizard importer. */
 class UIWPMerlin : public QWizardPage, public MerlinToSPP, public Ui::UIWPMerlinClass
@@ -64,7 +60,6 @@ private:
     void CreateConnects();
     /** Fills the description; false when the user must change something first. */
     [[nodiscard]] bool describe();
-    void lookAtPhotos();
     void showPreview();
     void usePhotos(const QStringList &photos);
     void redrawAll();
@@ -72,8 +67,8 @@ private:
     PanoHead::ShootState m_state;
     QList<XIImageDef *> previewImages; ///< what the preview shows; not owned
     ReadingThread *m_readingThread;
+    PanoHead::LowMemoryBox m_lowMemory;
     PanoHead::ShotLayout m_layout;
     PanoHead::PagePhotos m_photos;
     PanoHead::PhotoNames m_photoNames;
-    PanoHead::LowMemoryNotice *m_lowMemory = nullptr;
 };

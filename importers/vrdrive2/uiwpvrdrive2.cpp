@@ -41,6 +41,9 @@ constexpr qint32 kHdrRadiance = 3;
 UIWPVRDrive2::UIWPVRDrive2(QWidget *parent)
     : QWizardPage(parent)
     , m_readingThread(nullptr)
+    , m_lowMemory{ this, tr("Warning"),
+                   tr("There is not enough memory for so many images. Close other programs and try "
+                      "again.") }
     , m_layout(kVRDrive2Layout)
     , m_photos(kVRDrive2Questions, &m_previewImages)
 {
@@ -51,10 +54,6 @@ UIWPVRDrive2::UIWPVRDrive2(QWidget *parent)
     CreateConnects();
     Reset();
     recolourSubtitle(this, m_photos.preview());
-    m_lowMemory = new LowMemoryNotice(this, m_readingThread,
-                                      { tr("Warning"),
-                                        tr("There is not enough memory for so many images. Close "
-                                           "other programs and try again.") });
 }
 
 UIWPVRDrive2::~UIWPVRDrive2()
@@ -96,7 +95,7 @@ bool UIWPVRDrive2::isComplete() const
 bool UIWPVRDrive2::validatePage()
 {
     return handOver(
-        *this, [this] { return describe(); }, m_photos, *m_lowMemory);
+        *this, [this] { return describe(); }, m_photos, m_lowMemory);
 }
 
 bool UIWPVRDrive2::describe()
@@ -134,7 +133,10 @@ void UIWPVRDrive2::BrowserWeb(const QString &url)
 
 void UIWPVRDrive2::ParseConfigFile(const QString &fileName)
 {
-    if (readRecord(m_state, shots, [this, &fileName] { return parse(fileName); })) {
+    bool isRead = false;
+    withinMemory(m_lowMemory,
+                 [&] { isRead = readRecord(m_state, shots, [&] { return parse(fileName); }); });
+    if (isRead) {
         m_leConfigFile->setToolTip(headerText(VRDrive2ToSPP::title, gps, comment));
     }
 }
@@ -207,7 +209,9 @@ void UIWPVRDrive2::Reset()
 
 void UIWPVRDrive2::OnImageLoaded()
 {
-    if (!m_photos.arrived()) {
+    bool isLeft = false;
+    m_photos.draw(m_lowMemory, [&] { isLeft = !m_photos.arrived(); });
+    if (isLeft) {
         return;
     }
     const LensFacts preset = adoptPhotos(m_state, { xmlFocal, xmlLensType }, m_photos.lens());
@@ -277,7 +281,7 @@ void UIWPVRDrive2::OnStackLinkingClicked(bool checked)
 void UIWPVRDrive2::UpdateUI()
 {
     const BlockSignal blocker(this);
-    lookAtPhotos();
+    UpdatePreview(); // asks the photos first, whose answers the fields show
     // The ranges are not translated on this page: wanted.
     showShoot(shootViewOf(*this, m_photoNames), m_state, { tr("N/A"), QStringLiteral("N/A") });
     showLens(lensViewOf(*this), nbPicts, xmlFocal, m_state.imageFocal, tr("N/A"));
@@ -291,25 +295,14 @@ void UIWPVRDrive2::UpdateUI()
                  });
     m_lbWarning->setText(warningText(warning));
     m_lbWarning->setVisible(!warning.isEmpty());
-    showPreview();
 }
 
 void UIWPVRDrive2::UpdatePreview()
 {
-    lookAtPhotos();
-    showPreview();
-}
-
-/** Photos that know their lens late count from then on; what the user has entered stays. */
-void UIWPVRDrive2::lookAtPhotos()
-{
-    m_photos.look();
-    (void)adoptPhotos(m_state, { xmlFocal, xmlLensType }, m_photos.lens());
-}
-
-void UIWPVRDrive2::showPreview()
-{
-    m_photos.preview()->withinMemory([this] {
+    m_photos.draw(m_lowMemory, [this] {
+        m_photos.look();
+        // Those that know their lens late count from now on; what the user has entered stays.
+        (void)adoptPhotos(m_state, { xmlFocal, xmlLensType }, m_photos.lens());
         m_photos.show(m_layout.of(shots, m_state.extents()), CellStyle::FittedWithCaption,
                       m_hSlider->value());
     });

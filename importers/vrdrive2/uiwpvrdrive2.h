@@ -7,6 +7,7 @@
 #include "shoot/shootstate.h"
 #include "ui/pagephotos.h"
 #include "ui/shootview.h"
+#include "ui/withinmemory.h"
 #include "ui_uiwpvrdrive2.h"
 
 #include <QStringList>
@@ -14,11 +15,6 @@
 
 class ReadingThread;
 class XIImageDef;
-
-namespace PanoHead
-{
-class LowMemoryNotice;
-} // namespace PanoHead
 
 /** The wizard page of the VR Drive 2 importer. */
 class UIWPVRDrive2 : public QWizardPage, public VRDrive2ToSPP, public Ui::UIWPVRDrive2Class
@@ -64,16 +60,14 @@ private:
     void CreateConnects();
     /** Fills the description; false when the user must change something first. */
     [[nodiscard]] bool describe();
-    void lookAtPhotos();
-    void showPreview();
     void usePhotos(const QStringList &photos);
     void redrawAll();
 
     PanoHead::ShootState m_state;
     ReadingThread *m_readingThread;
+    PanoHead::LowMemoryBox m_lowMemory;
     PanoHead::ShotLayout m_layout;
     QList<XIImageDef *> m_previewImages; ///< what the preview shows; not owned
     PanoHead::PagePhotos m_photos;
     PanoHead::PhotoNames m_photoNames;
-    PanoHead::LowMemoryNotice *m_lowMemory = nullptr;
 };

@@ -21,16 +21,11 @@ constexpr size_t kPictureBytes = 16 * 1024;
 // Constant-initialised, so that asking for them allocates nothing.
 thread_local bool t_isArmed = false;
 thread_local Failing t_kind = Failing::Everything;
-thread_local Shortage t_shortage = Shortage::Momentary;
 thread_local long t_left = 0;
 
 bool fails(Failing kind)
 {
-    if (!t_isArmed || t_kind != kind) {
-        return false;
-    }
-    --t_left;
-    return t_left == 0 || (t_left < 0 && t_shortage == Shortage::Lasting);
+    return t_isArmed && t_kind == kind && --t_left == 0;
 }
 
 bool mallocFails(size_t size)
@@ -40,10 +35,9 @@ bool mallocFails(size_t size)
 
 } // namespace
 
-FailingMemory::FailingMemory(Failing kind, int nth, Shortage shortage)
+FailingMemory::FailingMemory(Failing kind, int nth)
 {
     t_kind = kind;
-    t_shortage = shortage;
     t_left = nth;
     t_isArmed = true;
 }

@@ -9,17 +9,11 @@ enum class Failing {
     Pixels, ///< blocks of 16 KiB and more from malloc: the data of pictures
 };
 
-/** How long the shortage lasts. */
-enum class Shortage {
-    Momentary, ///< one allocation fails
-    Lasting, ///< and every one after it
-};
-
 /** While it lives, the \p nth allocation of the thread that made it (from 1) fails. */
 class FailingMemory
 {
 public:
-    FailingMemory(Failing kind, int nth, Shortage shortage = Shortage::Momentary);
+    FailingMemory(Failing kind, int nth);
     ~FailingMemory();
     FailingMemory(const FailingMemory &) = delete;
     FailingMemory &operator=(const FailingMemory &) = delete;

@@ -36,6 +36,11 @@ template <typename Page> void restoreState(const HeadPage &page, const QByteArra
     static_cast<Page *>(page.page)->RestoreState(state);
 }
 
+template <typename Page> void parse(const HeadPage &page, const QString &path)
+{
+    static_cast<Page *>(page.page)->ParseConfigFile(path);
+}
+
 QByteArray xmlRow(int shots)
 {
     return RecordXml::row(shots).bytes();
@@ -90,6 +95,7 @@ Head newPapywizard()
     head.recordName = "shoot.xml";
     head.record = &xmlRow;
     head.recordOf = &xmlOf;
+    head.parse = &parse<UIWPMerlin>;
     head.fullRecord = fullXml();
     head.recordFilters
         = QStringList{ QStringLiteral("All Files (*.*)"), QStringLiteral("XML files (*.xml)") };
@@ -133,6 +139,7 @@ Head newVRDrive2()
     head.newPage = &newPageWithShots<UIWPVRDrive2>;
     head.saveState = &saveState<UIWPVRDrive2>;
     head.restoreState = &restoreState<UIWPVRDrive2>;
+    head.parse = &parse<UIWPVRDrive2>;
     head.freshTexts.pop_back(); // the warning is hidden
     head.drawsWithoutPhotos = true;
     head.choices.push_back("m_rbOutputMode2");
@@ -151,6 +158,7 @@ Head newClauss()
     head.recordName = "script.txt";
     head.record = &scriptRow;
     head.recordOf = &scriptOf;
+    head.parse = &parse<UIWPClauss>;
     head.fullRecord = scriptRow(3);
     head.recordFilters = QStringList{ QStringLiteral("All Files (*.*)") };
     head.countLabel = "m_lbImageLog";

@@ -63,6 +63,7 @@ struct Head {
     const char *recordName; ///< of a record's file; null: the head keeps no record
     QByteArray (*record)(int shots); ///< in one row, 30 degrees apart from yaw 0
     QByteArray (*recordOf)(const QVector<ShotAngles> &shots); ///< some know whole degrees only
+    void (*parse)(const HeadPage &page, const QString &path); ///< ParseConfigFile of the page
     QByteArray fullRecord; ///< three shots, and all else that the page shows of a record
     QStringList recordFilters; ///< of the record's dialog
 

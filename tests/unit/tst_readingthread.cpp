@@ -9,6 +9,7 @@
 #include <QEventLoop>
 #include <QMetaMethod>
 #include <QRandomGenerator>
+#include <QRegularExpression>
 #include <QTest>
 #include <QTimer>
 
@@ -122,6 +123,7 @@ private Q_SLOTS:
     void startFromTheAnswerOfClearReadsAll();
     void startAsTheRunEndsIsNeverLost();
     void startWhileTheRunWindsDownIsNotLost();
+    void startAfterAThreadThatCouldNotBeMadeIsNotLost();
     void destroyingWaitsForThePhotoInHandAndIsSilent();
     void randomOperationsKeepTheirPromises();
 };
@@ -594,6 +596,22 @@ void TestReadingThread::startWhileTheRunWindsDownIsNotLost()
     helper.join();
     QCOMPARE(fakeHost().readFiles(), names);
     QCOMPARE(namesOf(thread.XIImageDefs()), names.mid(1));
+}
+
+void TestReadingThread::startAfterAThreadThatCouldNotBeMadeIsNotLost()
+{
+    const QStringList names = photoNames(3);
+    fakeHost().setPhotos(names, {});
+    ReadingThread thread(nullptr);
+    thread.setStackSize(1); // less than the system grants
+    QTest::ignoreMessage(QtSystemMsg,
+                         QRegularExpression(QStringLiteral("Thread stack size error")));
+    thread.Start(names);
+    QVERIFY(!thread.isRunning());
+    thread.setStackSize(0);
+    thread.Start(names);
+    QVERIFY(thread.wait());
+    QCOMPARE(namesOf(thread.XIImageDefs()), names);
 }
 
 void TestReadingThread::destroyingWaitsForThePhotoInHandAndIsSilent()
