@@ -290,10 +290,14 @@ Bars::Figure wholeLoadWithRecord(Head head)
              load.mistake };
 }
 
+/** The first photos give a grid its size, and the Papywizard page shows nothing before them: that
+ * costs one full drawing. The step after it counts from then on. */
 Bars::Figure longestStep(Head head)
 {
     const Load &load = loadOf(head, 10'000);
-    const auto longest = std::max_element(load.longest.cbegin(), load.longest.cend());
+    const bool isFirstDrawn = head == Head::Gigapan || head == Head::Papywizard;
+    const auto longest
+        = std::max_element(load.longest.cbegin() + (isFirstDrawn ? 1 : 0), load.longest.cend());
     return { *longest / load.reference.redrawSeconds,
              Bars::text("step %d of %zu: %.3g ms; full redraw %.3g ms",
                         static_cast<int>(longest - load.longest.cbegin()) + 1, load.longest.size(),
@@ -366,8 +370,8 @@ void addRows(const HeadInfo &info)
               atMost(info.loadBar), [head] { return wholeLoad(head); });
     Bars::add(name + "10,000 photos with the outlines before/time of drawing each cell once",
               { Bars::Need::Nothing, 0.0, "x" }, [head] { return wholeLoadWithRecord(head); });
-    Bars::add(name + "longest step of 10,000 photos/time of a full redraw", atMost(0.1),
-              [head] { return longestStep(head); });
+    Bars::add(name + "longest step of 10,000 photos, the first picture apart/time of a full redraw",
+              atMost(0.1), [head] { return longestStep(head); });
     Bars::add(name + "average step of 10,000 photos/time of a full redraw", atMost(0.01),
               [head] { return averageStep(head); });
     Bars::add(name + "from 1,000 to 20,000 photos/cost exponent", atMost(1.15, ""),

@@ -35,7 +35,7 @@ public:
     /** Reads \p files from a clean start. */
     void read(const QStringList &files);
 
-    /** Does \p step, which asks the photos and shows them. When memory runs out in it, no picture
+    /** Does \p step, made of `arrived`, `look` and `show`. When memory runs out in it, no picture
      * is shown, and \p box says so. */
     template <typename Step> void draw(const LowMemoryBox &box, const Step &step)
     {
