@@ -11,6 +11,7 @@
 #include <QPixmap>
 
 #include <algorithm>
+#include <utility>
 
 namespace PanoHead
 {
@@ -40,7 +41,8 @@ void PagePhotos::place(QScrollArea *area, ReadingThread *thread)
 
 void PagePhotos::read(const QStringList &files)
 {
-    drawAnew();
+    m_shown->clear();
+    m_areAllAsked = false;
     forget();
     readPhotos(*m_thread, files);
 }
@@ -50,6 +52,7 @@ void PagePhotos::drawAnew()
     m_shown->clear();
     m_areAllAsked = false;
     m_isLeft = false;
+    m_isDrawnAnew = true;
 }
 
 bool PagePhotos::arrived()
@@ -83,7 +86,7 @@ bool PagePhotos::areShown() const
 
 void PagePhotos::show(const PreviewLayout &layout, CellStyle style, int zoomPercent)
 {
-    const bool isDrawnAnew = m_shown->isEmpty();
+    const bool isDrawnAnew = std::exchange(m_isDrawnAnew, false);
     m_haveNews = false;
     m_areAllAsked = false;
     *m_shown = m_answers.inOrder();

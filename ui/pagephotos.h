@@ -74,6 +74,7 @@ private:
     QList<XIImageDef *> *m_shown;
     bool m_haveNews = false;
     bool m_isLeft = false;
+    bool m_isDrawnAnew = false;
     bool m_areAllAsked = false; // for the picture that is to be drawn anew
     ReadingThread *m_thread = nullptr;
     PreviewLabel *m_preview = nullptr;
