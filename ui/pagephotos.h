@@ -65,6 +65,8 @@ public:
     /** The same, and signals that are still on their way from the thread find nothing to do: the
      * page is left, and only what the user does on it brings the photos back. */
     void letGo();
+    /** The user does something on the page again after `letGo`. */
+    void comeBack() { m_isLeft = false; }
 
 private:
     void ask(AskAgain again);

@@ -216,6 +216,7 @@ void UIWPClauss::UpdateUI()
         const BlockSignal blocker(this);
         showShoot(shootViewOf(*this, m_photoNames), m_state, { tr("N/A"), tr("N/A") });
     }
+    m_photos.comeBack(); // unlike the thread's signals, which end at UpdatePreview too
     UpdatePreview();
 }
 
