@@ -2,13 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "hostlink/readingthread.h"
 #include "ui/subtitlelinks.h"
 
-#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QSlider>
 
 namespace PanoHead
 {
@@ -44,22 +41,6 @@ template <typename Page> void connectRecord(Page *page)
                      &Page::SelectConfigFile);
     QObject::connect(page->m_pInverseCoordinates, &QPushButton::clicked, page,
                      &Page::OnInverseCoordinates);
-}
-
-/** Everything on a page for records in the Papywizard schema. */
-template <typename Page> void connectSchemaPage(Page *page, ReadingThread *thread)
-{
-    connectAboutText(page);
-    connectPhotoButtons(page);
-    connectRecord(page);
-    connectLinkingChoices(page);
-    QObject::connect(page->m_leConfigFile, &QLineEdit::textEdited, page, &Page::SetConfigFFilename);
-    QObject::connect(page->m_hSlider, &QSlider::valueChanged, page, &Page::OnZoomChanged);
-    QObject::connect(thread, &ReadingThread::Loaded, page, &Page::OnImageLoaded);
-    QObject::connect(page->m_pbRot90, &QPushButton::clicked, page, &Page::OnRotate90);
-    QObject::connect(page->m_pbRot270, &QPushButton::clicked, page, &Page::OnRotate270);
-    QObject::connect(page->m_pbFLUseXML, &QPushButton::clicked, page, &Page::OnFLUseXML);
-    QObject::connect(page->m_pbFLUseImage, &QPushButton::clicked, page, &Page::OnFLUseImage);
 }
 
 } // namespace PanoHead

@@ -35,6 +35,18 @@ template <typename Form> LinkingChoices linkingChoicesOf(const Form &form)
              form.m_rbStackLinking1 };
 }
 
+/** "All stack levels" was clicked. */
+template <typename Form> void linkAllLevels(const Form &form, bool checked)
+{
+    onAllLevelsClicked(linkingChoicesOf(form), checked);
+}
+
+/** "Use hard links" was clicked. */
+template <typename Form> void linkHard(const Form &form, bool checked)
+{
+    onHardLinksClicked(linkingChoicesOf(form), checked);
+}
+
 /** Of a form that has all four boxes. */
 template <typename Form> DetectionOptions detectionOptionsOf(const Form &form)
 {

@@ -6,29 +6,27 @@
 #include "hostlink/xiapplication.h"
 #include "model/structuredpanoramaproperties.h"
 #include "ui/pagephotos.h"
-#include "ui/withinmemory.h"
 
 namespace PanoHead
 {
 
 /**
- * Next, on every page: \p describe fills \p description, and the host gets a copy of it, after
- * which it may delete the photos. Without a host nothing is done and the answer is true. When \p
- * describe answers false, or memory runs out, nothing is handed over and the answer is false; of
- * the latter \p box tells, and the description is what it was before.
+ * Next, on every page: `describe` of \p page fills the description, and the host gets a copy of
+ * it, after which it may delete the photos. Without a host nothing is done and the answer is true.
+ * When `describe` answers false, or memory runs out, nothing is handed over and the answer is
+ * false; in the latter case the description is what it was before.
  */
-template <typename Describe>
-[[nodiscard]] bool handOver(StructuredPanoramaProperties &description, const Describe &describe,
-                            PagePhotos &photos, const LowMemoryBox &box)
+template <typename Page> [[nodiscard]] bool handOver(Page &page, PagePhotos &photos)
 {
+    StructuredPanoramaProperties &description = page;
     XIApplication *host = findHost();
     if (host == nullptr) {
         return true;
     }
     const StructuredPanoramaProperties before = description;
     bool isDescribed = false;
-    const bool hadMemory = withinMemory(box, [&] {
-        if (describe()) {
+    const bool hadMemory = photos.withinMemory([&] {
+        if (page.describe()) {
             photos.letGo();
             isDescribed = true;
         }

@@ -27,9 +27,11 @@ QSize thumbnailSize(XIImageDef &photo)
 
 } // namespace
 
-PagePhotos::PagePhotos(const PhotoQuestions &questions, QList<XIImageDef *> *shown)
+PagePhotos::PagePhotos(const PhotoQuestions &questions, QList<XIImageDef *> *shown,
+                       LowMemoryBox box)
     : m_answers(questions, thumbnailSize)
     , m_shown(shown)
+    , m_box(std::move(box))
 {
 }
 
@@ -39,12 +41,13 @@ void PagePhotos::place(QScrollArea *area, ReadingThread *thread)
     m_thread = thread;
 }
 
-void PagePhotos::read(const QStringList &files)
+const QStringList &PagePhotos::read(const QStringList &files)
 {
     m_shown->clear();
     m_areAllAsked = false;
     forget();
     readPhotos(*m_thread, files);
+    return files;
 }
 
 void PagePhotos::drawAnew()

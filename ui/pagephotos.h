@@ -25,21 +25,26 @@ class PagePhotos
 {
 public:
     /** \p shown is the page's list of the photos in its picture, by capture time; null stands for
-     * one without a thumbnail. */
-    PagePhotos(const PhotoQuestions &questions, QList<XIImageDef *> *shown);
+     * one without a thumbnail; \p box tells that memory ran out. */
+    PagePhotos(const PhotoQuestions &questions, QList<XIImageDef *> *shown, LowMemoryBox box);
 
     /** Puts an empty preview into \p area, for the photos that \p thread reads. Comes first. */
     void place(QScrollArea *area, ReadingThread *thread);
     [[nodiscard]] PreviewLabel *preview() const { return m_preview; }
 
-    /** Reads \p files from a clean start. */
-    void read(const QStringList &files);
+    /** Reads \p files from a clean start; answers them. */
+    const QStringList &read(const QStringList &files);
 
-    /** Does \p step, made of `arrived`, `look` and `show`. When memory runs out in it, no picture
-     * is shown, and \p box says so. */
-    template <typename Step> void draw(const LowMemoryBox &box, const Step &step)
+    /** Does \p step. False when memory ran out in it, which the box says. */
+    template <typename Step> bool withinMemory(const Step &step) const
     {
-        if (!withinMemory(box, step)) {
+        return PanoHead::withinMemory(m_box, step);
+    }
+    /** Does \p step, made of `arrived`, `look` and `show`. No picture is shown when memory runs out
+     * in it. */
+    template <typename Step> void draw(const Step &step)
+    {
+        if (!withinMemory(step)) {
             showNothing();
         }
     }
@@ -74,6 +79,7 @@ private:
 
     PhotoAnswers m_answers;
     QList<XIImageDef *> *m_shown;
+    LowMemoryBox m_box;
     bool m_haveNews = false;
     bool m_isLeft = false;
     bool m_isDrawnAnew = false;

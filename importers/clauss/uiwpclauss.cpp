@@ -3,16 +3,9 @@
 #include "importers/clauss/uiwpclauss.h"
 
 #include "shoot/angles.h"
-#include "shoot/previewlayout.h"
 #include "shoot/recordedshoot.h"
 #include "ui/blocksignal.h"
-#include "ui/connectpage.h"
-#include "ui/filedialogs.h"
-#include "ui/formviews.h"
-#include "ui/handover.h"
 #include "ui/messageboxes.h"
-#include "ui/pagesetup.h"
-#include "ui/previewlabel.h"
 
 #include <QPointer>
 #include <QScopeGuard>
@@ -33,25 +26,14 @@ constexpr PhotoQuestions kClaussQuestions{ false /* lens */, true /* shot time *
 
 UIWPClauss::UIWPClauss(QWidget *parent)
     : QWizardPage(parent)
-    , m_readingThread(nullptr)
-    , m_lowMemory{ this, tr("Warning"),
-                   tr("There is not enough memory for so many images. Close other programs and try "
-                      "again.") }
     , m_layout(kClaussLayout)
-    , m_photos(kClaussQuestions, &previewImages)
+    , m_photos(kClaussQuestions, &previewImages,
+               { this, tr("Warning"),
+                 tr("There is not enough memory for so many images. Close other programs and try "
+                    "again.") })
 {
-    setupUi(this);
-    setLogo(this, QStringLiteral(":/7A21C94E-5B20-2020-2020-D6D081182F97/Resources/Clauss_wp.png"));
-    m_readingThread = new ReadingThread(this);
-    CreateWidgets();
-    CreateConnects();
-    Reset();
-    recolourSubtitle(this, m_photos.preview());
-}
-
-UIWPClauss::~UIWPClauss()
-{
-    endReading(this, m_readingThread);
+    buildPage(*this, m_readingThread, m_photos,
+              QStringLiteral(":/7A21C94E-5B20-2020-2020-D6D081182F97/Resources/Clauss_wp.png"));
 }
 
 void UIWPClauss::CreateWidgets()
@@ -71,23 +53,10 @@ void UIWPClauss::CreateConnects()
     connect(m_readingThread, &ReadingThread::Loaded, this, &UIWPClauss::UpdatePreview);
 }
 
-void UIWPClauss::initializePage() { }
-
 void UIWPClauss::cleanupPage()
 {
     clearIfRunning(*m_readingThread);
     Reset();
-}
-
-bool UIWPClauss::isComplete() const
-{
-    return isReadAndRecorded(m_state, *m_readingThread);
-}
-
-bool UIWPClauss::validatePage()
-{
-    return handOver(
-        *this, [this] { return describe(); }, m_photos, m_lowMemory);
 }
 
 bool UIWPClauss::describe()
@@ -97,27 +66,11 @@ bool UIWPClauss::describe()
     return true;
 }
 
-QByteArray UIWPClauss::SaveState() const
-{
-    return {};
-}
-
-void UIWPClauss::RestoreState(const QByteArray &state)
-{
-    Q_UNUSED(state)
-    UpdatePreview();
-}
-
-void UIWPClauss::BrowserWeb(const QString &url)
-{
-    openInBrowser(url);
-}
-
 void UIWPClauss::ParseConfigFile(const QString &fileName)
 {
     bool isRead = false;
     const auto read = [&] { isRead = readRecord(m_state, shots, [&] { return parse(fileName); }); };
-    if (!withinMemory(m_lowMemory, read)) {
+    if (!m_photos.withinMemory(read)) {
         return;
     }
     if (!isRead) {
@@ -142,7 +95,7 @@ void UIWPClauss::SelectConfigFile()
     // In the dialog's order, not sorted: wanted.
     const QStringList photos = choice->selection.photos;
     if (!photos.isEmpty() && photos != m_state.images) {
-        usePhotos(photos);
+        m_state.images = m_photos.read(photos);
     }
     UpdateUI();
 }
@@ -153,15 +106,9 @@ void UIWPClauss::SelectImages()
         = selectPhotos(this, { tr("Select images"), tr("All Files (*.*)"), tr("All Files (*.*)") },
                        m_state.images, ControlShows::Location);
     if (!photos.isEmpty()) {
-        usePhotos(photos);
+        m_state.images = m_photos.read(photos);
         UpdateUI();
     }
-}
-
-void UIWPClauss::usePhotos(const QStringList &photos)
-{
-    m_state.images = photos;
-    m_photos.read(photos);
 }
 
 void UIWPClauss::SetConfigFFilename()
@@ -225,7 +172,7 @@ void UIWPClauss::UpdatePreview()
     if (m_hSlider->value() != m_photos.preview()->zoomPercent()) {
         m_photos.drawAnew();
     }
-    m_photos.draw(m_lowMemory, [this] {
+    m_photos.draw([this] {
         if (m_photos.arrived()) {
             showPreview();
         }

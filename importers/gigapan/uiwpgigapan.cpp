@@ -4,12 +4,6 @@
 
 #include "importers/gigapan/gridguess.h"
 #include "importers/gigapan/gridorder.h"
-#include "ui/connectpage.h"
-#include "ui/filedialogs.h"
-#include "ui/formviews.h"
-#include "ui/handover.h"
-#include "ui/pagesetup.h"
-#include "ui/previewlabel.h"
 #include "ui/xnoevent.h"
 
 using namespace PanoHead;
@@ -41,23 +35,12 @@ QRadioButton *buttonOf(const Ui::UIWPGigapanClass &form, int mode)
 UIWPGigapan::UIWPGigapan(QWidget *parent)
     : QWizardPage(parent)
     , GigapanToSPP(0, 0, kColumnsFromLeft, 1, 0)
-    , m_readingThread(nullptr)
-    , m_lowMemory{ this, tr("Warning"),
-                   tr("There is not enough memory for so many images. Close other programs and try "
-                      "again.") }
-    , m_photos(kGigapanQuestions, &previewImages)
+    , m_photos(kGigapanQuestions, &previewImages,
+               { this, tr("Warning"),
+                 tr("There is not enough memory for so many images. Close other programs and try "
+                    "again.") })
 {
-    setupUi(this);
-    m_readingThread = new ReadingThread(this);
-    CreateWidgets();
-    CreateConnects();
-    Reset();
-    recolourSubtitle(this, m_photos.preview());
-}
-
-UIWPGigapan::~UIWPGigapan()
-{
-    endReading(this, m_readingThread);
+    buildPage(*this, m_readingThread, m_photos);
 }
 
 void UIWPGigapan::CreateWidgets()
@@ -82,11 +65,6 @@ void UIWPGigapan::CreateConnects()
     connect(m_rbMode3, &QRadioButton::toggled, this, &UIWPGigapan::OnMode3Toggled);
 }
 
-void UIWPGigapan::initializePage()
-{
-    Reset();
-}
-
 void UIWPGigapan::cleanupPage()
 {
     clearIfRunning(*m_readingThread);
@@ -98,12 +76,6 @@ bool UIWPGigapan::isComplete() const
     return !images.isEmpty() && m_readingThread->XIImageDefs().size() == images.size();
 }
 
-bool UIWPGigapan::validatePage()
-{
-    return handOver(
-        *this, [this] { return describe(); }, m_photos, m_lowMemory);
-}
-
 bool UIWPGigapan::describe()
 {
     generateSPP(images, m_cbIS360->checkState() == Qt::Checked);
@@ -111,22 +83,6 @@ bool UIWPGigapan::describe()
     writeLinking(*this, linkingChoicesOf(*this));
     writeOptions(*this, detectionOptions(*this));
     return true;
-}
-
-QByteArray UIWPGigapan::SaveState() const
-{
-    return {};
-}
-
-void UIWPGigapan::RestoreState(const QByteArray &state)
-{
-    Q_UNUSED(state)
-    UpdatePreview();
-}
-
-void UIWPGigapan::BrowserWeb(const QString &url)
-{
-    openInBrowser(url);
 }
 
 void UIWPGigapan::SelectImages()
@@ -137,29 +93,13 @@ void UIWPGigapan::SelectImages()
     if (photos.isEmpty()) {
         return;
     }
-    images = photos;
-    m_photos.read(photos);
+    images = m_photos.read(photos);
     ignoredCount = 0;
     bracketCount = 1;
     const GridSize guess = guessGrid(images.size());
     rows = guess.rows;
     columns = guess.columns;
     UpdateUI();
-}
-
-void UIWPGigapan::SetRow(int value)
-{
-    setGrid(rows, value);
-}
-
-void UIWPGigapan::IgnoreNImages(int ignored)
-{
-    setGrid(ignoredCount, ignored);
-}
-
-void UIWPGigapan::OnChangeBracket(int bracket)
-{
-    setGrid(bracketCount, bracket);
 }
 
 void UIWPGigapan::setGrid(qint32 &setting, int value)
@@ -172,27 +112,6 @@ void UIWPGigapan::setGrid(qint32 &setting, int value)
     UpdateUI();
 }
 
-void UIWPGigapan::OnMode0Toggled(bool checked)
-{
-    setMode(kColumnsFromLeft, checked);
-}
-void UIWPGigapan::OnMode1Toggled(bool checked)
-{
-    setMode(kRowsDownward, checked);
-}
-void UIWPGigapan::OnMode2Toggled(bool checked)
-{
-    setMode(kRowsUpward, checked);
-}
-void UIWPGigapan::OnMode3Toggled(bool checked)
-{
-    setMode(kColumnsFromRight, checked);
-}
-void UIWPGigapan::OnMode4Toggled(bool checked)
-{
-    setMode(kSerpentine, checked);
-}
-
 void UIWPGigapan::setMode(int gridOrder, bool checked)
 {
     if (m_isUpdating || !checked) {
@@ -202,16 +121,6 @@ void UIWPGigapan::setMode(int gridOrder, bool checked)
     mode = gridOrder;
     m_photos.drawAnew();
     UpdatePreview();
-}
-
-void UIWPGigapan::OnLevelLinkingClicked(bool checked)
-{
-    onAllLevelsClicked(linkingChoicesOf(*this), checked);
-}
-
-void UIWPGigapan::OnStackLinkingClicked(bool checked)
-{
-    onHardLinksClicked(linkingChoicesOf(*this), checked);
 }
 
 void UIWPGigapan::Reset()
@@ -246,7 +155,7 @@ void UIWPGigapan::UpdateUI()
 void UIWPGigapan::UpdatePreview()
 {
     const XNoEvent noEvent(m_isUpdating);
-    m_photos.draw(m_lowMemory, [this] {
+    m_photos.draw([this] {
         if (m_photos.arrived()) {
             showPreview();
         }

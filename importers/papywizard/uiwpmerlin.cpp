@@ -2,22 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "importers/papywizard/uiwpmerlin.h"
 
-#include "shoot/angles.h"
-#include "shoot/displaytexts.h"
-#include "shoot/previewlayout.h"
-#include "shoot/recordedshoot.h"
-#include "ui/blocksignal.h"
-#include "ui/connectpage.h"
-#include "ui/filedialogs.h"
-#include "ui/formviews.h"
-#include "ui/handover.h"
-#include "ui/messageboxes.h"
-#include "ui/pagesetup.h"
-#include "ui/plaintooltip.h"
-#include "ui/previewlabel.h"
-
-#include <algorithm>
-
 using namespace PanoHead;
 
 namespace
@@ -34,70 +18,28 @@ constexpr PhotoQuestions kPapywizardQuestions{ true /* lens */, true /* shot tim
 
 UIWPMerlin::UIWPMerlin(QWidget *parent)
     : QWizardPage(parent)
-    , m_readingThread(nullptr)
-    , m_lowMemory{ this, tr("Warning"),
-                   tr("There is not enough memory for so many images. Close other programs and try "
-                      "again.") }
     , m_layout(kPapywizardLayout)
-    , m_photos(kPapywizardQuestions, &previewImages)
+    , m_photos(kPapywizardQuestions, &previewImages,
+               { this, tr("Warning"),
+                 tr("There is not enough memory for so many images. Close other programs and try "
+                    "again.") })
 {
-    setupUi(this);
-    m_readingThread = new ReadingThread(this);
-    CreateWidgets();
-    CreateConnects();
-    Reset();
-    recolourSubtitle(this, m_photos.preview());
-}
-
-UIWPMerlin::~UIWPMerlin()
-{
-    endReading(this, m_readingThread);
+    buildPage(*this, m_readingThread, m_photos);
 }
 
 void UIWPMerlin::CreateWidgets()
 {
-    m_photos.place(m_saPreview, m_readingThread);
-    completePaths(m_leConfigFile);
-    liftLengthLimit(m_leImage);
-    fillLensTypes(m_cbLensType, { tr("Standard"), tr("Fisheye") });
-    new PlainToolTip(m_leConfigFile);
-}
-
-void UIWPMerlin::CreateConnects()
-{
-    connectSchemaPage(this, m_readingThread);
-}
-
-void UIWPMerlin::initializePage()
-{
-    m_photos.drawAnew();
-}
-
-void UIWPMerlin::cleanupPage()
-{
-    Reset();
-}
-
-bool UIWPMerlin::isComplete() const
-{
-    return isReadAndRecorded(m_state, *m_readingThread);
-}
-
-bool UIWPMerlin::validatePage()
-{
-    return handOver(
-        *this, [this] { return describe(); }, m_photos, m_lowMemory);
+    prepareSchemaPage(*this, m_readingThread, m_photos, { tr("Standard"), tr("Fisheye") });
 }
 
 bool UIWPMerlin::describe()
 {
-    if (warnsOfBrackets(this, m_state.images.size(), nbPicts,
-                        { tr("Warning"),
-                          tr("Papywizard XML has bracketing and the number of images isn't a "
-                             "multiple of this number of brackets.") })) {
+    if (!comesInBrackets(*this, m_state,
+                         { tr("Warning"),
+                           tr("Papywizard XML has bracketing and the number of images isn't a "
+                              "multiple of this number of brackets.") })) {
         return false;
     }
-    nbPicts = std::max(nbPicts, 1);
     generateSPP(m_state.images, m_spFocal->value(),
                 static_cast<LensModel>(m_cbLensType->currentIndex()));
     writeLinking(*this, linkingChoicesOf(*this));
@@ -105,27 +47,11 @@ bool UIWPMerlin::describe()
     return true;
 }
 
-QByteArray UIWPMerlin::SaveState() const
-{
-    return {};
-}
-
-void UIWPMerlin::RestoreState(const QByteArray &state)
-{
-    Q_UNUSED(state)
-    UpdatePreview();
-}
-
-void UIWPMerlin::BrowserWeb(const QString &url)
-{
-    openInBrowser(url);
-}
-
 void UIWPMerlin::ParseConfigFile(const QString &path)
 {
     bool isRead = false;
-    withinMemory(m_lowMemory,
-                 [&] { isRead = readRecord(m_state, shots, [&] { return parse(path); }); });
+    m_photos.withinMemory(
+        [&] { isRead = readRecord(m_state, shots, [&] { return parse(path); }); });
     if (!isRead) {
         // The ranges show a scan that found nothing: wanted. Other pages keep theirs.
         m_state.setExtents({ AngleRange::scanStart(), AngleRange::scanStart() });
@@ -158,7 +84,7 @@ void UIWPMerlin::SelectConfigFile()
         ParseConfigFile(m_state.configPath);
     }
     if (!selection.photos.isEmpty()) {
-        usePhotos(sortedPhotos(selection.photos));
+        m_state.images = m_photos.read(sortedPhotos(selection.photos));
     }
     UpdateUI();
     Q_EMIT completeChanged();
@@ -170,59 +96,29 @@ void UIWPMerlin::SelectImages()
         = selectPhotos(this, { tr("Select images"), tr("All Files (*.*)"), tr("All Files (*.*)") },
                        m_state.images, ControlShows::Folder);
     if (!photos.isEmpty()) {
-        usePhotos(photos);
+        m_state.images = m_photos.read(photos);
         UpdateUI();
         Q_EMIT completeChanged();
     }
 }
 
-void UIWPMerlin::usePhotos(const QStringList &photos)
-{
-    m_state.images = photos;
-    m_photos.read(photos);
-}
-
-void UIWPMerlin::SetConfigFFilename(const QString &text)
-{
-    m_state.configPath = text;
-    ParseConfigFile(text);
-    UpdateUI();
-    Q_EMIT completeChanged();
-}
-
 void UIWPMerlin::Reset()
 {
-    forgetRecord();
-    m_state = ShootState();
-    m_photos.forget();
-    m_readingThread->Clear();
+    forgetShoot(*this, m_state, *m_readingThread, m_photos);
     redrawAll();
 }
 
 void UIWPMerlin::OnImageLoaded()
 {
-    bool isLeft = false;
-    m_photos.draw(m_lowMemory, [&] { isLeft = !m_photos.arrived(); });
-    if (isLeft) {
-        return;
+    if (presetFromPhotos(*this, m_state, m_photos)) {
+        UpdateUI();
+        Q_EMIT completeChanged();
     }
-    const LensFacts preset = adoptPhotos(m_state, { xmlFocal, xmlLensType }, m_photos.lens());
-    if (preset.focalMm > 0.0) {
-        setLens(lensViewOf(*this), preset);
-    }
-    UpdateUI();
-    Q_EMIT completeChanged();
 }
 
-void UIWPMerlin::OnFLUseXML()
+void UIWPMerlin::useLens(const LensFacts &lens)
 {
-    setLens(lensViewOf(*this), { xmlFocal, xmlLensType });
-    redrawAll();
-}
-
-void UIWPMerlin::OnFLUseImage()
-{
-    setLens(lensViewOf(*this), { m_state.imageFocal, m_state.imageLensType });
+    setLens(lensViewOf(*this), lens);
     redrawAll();
 }
 
@@ -233,31 +129,10 @@ void UIWPMerlin::OnInverseCoordinates()
     redrawAll();
 }
 
-void UIWPMerlin::OnRotate90()
+void UIWPMerlin::turn(float degrees)
 {
-    rotate(shots, 90.0F);
+    rotate(shots, degrees);
     redrawAll();
-}
-
-void UIWPMerlin::OnRotate270()
-{
-    rotate(shots, -90.0F);
-    redrawAll();
-}
-
-void UIWPMerlin::OnZoomChanged()
-{
-    redrawAll();
-}
-
-void UIWPMerlin::OnLevelLinkingClicked(bool checked)
-{
-    onAllLevelsClicked(linkingChoicesOf(*this), checked);
-}
-
-void UIWPMerlin::OnStackLinkingClicked(bool checked)
-{
-    onHardLinksClicked(linkingChoicesOf(*this), checked);
 }
 
 void UIWPMerlin::redrawAll()
@@ -285,21 +160,13 @@ void UIWPMerlin::UpdateUI()
 
 void UIWPMerlin::UpdatePreview()
 {
-    m_photos.draw(m_lowMemory, [this] {
-        m_photos.look();
-        // Those that know their lens late count from now on; what the user has entered stays.
-        (void)adoptPhotos(m_state, { xmlFocal, xmlLensType }, m_photos.lens());
-        showPreview();
+    m_photos.draw([this] {
+        lookAtPhotos(*this, m_state, m_photos);
+        // The same number of photos counts as the same picture, none included: wanted. Whoever
+        // changes the picture otherwise asks for a new one first.
+        if (!m_photos.areShown()) {
+            m_photos.show(m_layout.of(shots, m_state.extents()), CellStyle::FittedWithCaption,
+                          m_hSlider->value());
+        }
     });
-}
-
-void UIWPMerlin::showPreview()
-{
-    // The same number of photos counts as the same picture, none included: wanted. Whoever changes
-    // the picture otherwise asks for a new one first.
-    if (m_photos.areShown()) {
-        return;
-    }
-    m_photos.show(m_layout.of(shots, m_state.extents()), CellStyle::FittedWithCaption,
-                  m_hSlider->value());
 }

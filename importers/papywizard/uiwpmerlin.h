@@ -3,18 +3,8 @@
 #pragma once
 
 #include "importers/papywizard/merlintospp.h"
-#include "shoot/previewlayout.h"
-#include "shoot/shootstate.h"
-#include "ui/pagephotos.h"
-#include "ui/shootview.h"
-#include "ui/withinmemory.h"
+#include "importers/papywizard/schemapage.h"
 #include "ui_uiwpmerlin.h"
-
-#include <QStringList>
-#include <QWizardPage>
-
-class ReadingThread;
-class XIImageDef;
 
 /** The wizard page of the Papywizard importer. */
 class UIWPMerlin : public QWizardPage, public MerlinToSPP, public Ui::UIWPMerlinClass
@@ -23,51 +13,52 @@ class UIWPMerlin : public QWizardPage, public MerlinToSPP, public Ui::UIWPMerlin
 
 public:
     explicit UIWPMerlin(QWidget *parent);
-    /** Stops the reading thread. */
-    ~UIWPMerlin() override;
+    ~UIWPMerlin() override { PanoHead::endReading(this, m_readingThread); }
+    void CreateWidgets();
+    void CreateConnects() { PanoHead::connectSchemaPage(this, m_readingThread); }
 
-    void initializePage() override;
-    void cleanupPage() override;
-    bool validatePage() override;
-    [[nodiscard]] bool isComplete() const override;
+    void initializePage() override { m_photos.drawAnew(); }
+    void cleanupPage() override { Reset(); }
+    bool validatePage() override { return PanoHead::handOver(*this, m_photos); }
+    [[nodiscard]] bool isComplete() const override
+    {
+        return PanoHead::isReadAndRecorded(m_state, *m_readingThread);
+    }
 
     /** Pages keep no state of their own. */
-    [[nodiscard]] QByteArray SaveState() const;
-    void RestoreState(const QByteArray &state);
+    [[nodiscard]] QByteArray SaveState() const { return {}; }
+    void RestoreState(const QByteArray & /*state*/) { UpdatePreview(); }
+    /** Fills the description; false when the user must change something first. */
+    [[nodiscard]] bool describe();
     /** Reads the record at \p path and shows its header; the shot count tells success. */
     void ParseConfigFile(const QString &path);
 
 public Q_SLOTS:
     void SelectImages();
     void SelectConfigFile();
-    void SetConfigFFilename(const QString &text);
+    void SetConfigFFilename(const QString &text) { PanoHead::takeRecord(*this, m_state, text); }
     void Reset();
     void UpdateUI();
     void UpdatePreview();
-    void BrowserWeb(const QString &url);
-    void OnZoomChanged();
+    void BrowserWeb(const QString &url) { PanoHead::openInBrowser(url); }
+    void OnZoomChanged() { redrawAll(); }
     void OnImageLoaded();
     void OnInverseCoordinates();
-    void OnRotate90();
-    void OnRotate270();
-    void OnLevelLinkingClicked(bool checked);
-    void OnStackLinkingClicked(bool checked);
-    void OnFLUseXML();
-    void OnFLUseImage();
+    void OnRotate90() { turn(90.0F); }
+    void OnRotate270() { turn(-90.0F); }
+    void OnLevelLinkingClicked(bool checked) { PanoHead::linkAllLevels(*this, checked); }
+    void OnStackLinkingClicked(bool checked) { PanoHead::linkHard(*this, checked); }
+    void OnFLUseXML() { useLens({ xmlFocal, xmlLensType }); }
+    void OnFLUseImage() { useLens({ m_state.imageFocal, m_state.imageLensType }); }
 
 private:
-    void CreateWidgets();
-    void CreateConnects();
-    /** Fills the description; false when the user must change something first. */
-    [[nodiscard]] bool describe();
-    void showPreview();
-    void usePhotos(const QStringList &photos);
+    void turn(float degrees);
+    void useLens(const PanoHead::LensFacts &lens);
     void redrawAll();
 
     PanoHead::ShootState m_state;
     QList<XIImageDef *> previewImages; ///< what the preview shows; not owned
-    ReadingThread *m_readingThread;
-    PanoHead::LowMemoryBox m_lowMemory;
+    ReadingThread *m_readingThread = nullptr;
     PanoHead::ShotLayout m_layout;
     PanoHead::PagePhotos m_photos;
     PanoHead::PhotoNames m_photoNames;

@@ -2,19 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "importers/papywizard/schemapage.h"
 #include "importers/vrdrive2/vrdrive2tospp.h"
-#include "shoot/previewlayout.h"
-#include "shoot/shootstate.h"
-#include "ui/pagephotos.h"
-#include "ui/shootview.h"
-#include "ui/withinmemory.h"
 #include "ui_uiwpvrdrive2.h"
-
-#include <QStringList>
-#include <QWizardPage>
-
-class ReadingThread;
-class XIImageDef;
 
 /** The wizard page of the VR Drive 2 importer. */
 class UIWPVRDrive2 : public QWizardPage, public VRDrive2ToSPP, public Ui::UIWPVRDrive2Class
@@ -23,51 +13,53 @@ class UIWPVRDrive2 : public QWizardPage, public VRDrive2ToSPP, public Ui::UIWPVR
 
 public:
     explicit UIWPVRDrive2(QWidget *parent);
-    /** Stops the reading thread. */
-    ~UIWPVRDrive2() override;
+    ~UIWPVRDrive2() override { PanoHead::endReading(this, m_readingThread); }
+    void CreateWidgets();
+    void CreateConnects() { PanoHead::connectSchemaPage(this, m_readingThread); }
 
-    void initializePage() override;
-    void cleanupPage() override;
-    bool validatePage() override;
-    [[nodiscard]] bool isComplete() const override;
+    void initializePage() override { }
+    void cleanupPage() override { Reset(); }
+    bool validatePage() override { return PanoHead::handOver(*this, m_photos); }
+    [[nodiscard]] bool isComplete() const override
+    {
+        return PanoHead::isReadAndRecorded(m_state, *m_readingThread);
+    }
 
     /** Pages keep no state of their own. */
-    [[nodiscard]] QByteArray SaveState() const;
-    void RestoreState(const QByteArray &state);
+    [[nodiscard]] QByteArray SaveState() const { return {}; }
+    void RestoreState(const QByteArray & /*state*/) { UpdatePreview(); }
     /** Reads the record at \p fileName; the position count tells success. */
     void ParseConfigFile(const QString &fileName);
+    /** Fills the description; false when the user must change something first. */
+    [[nodiscard]] bool describe();
 
 public Q_SLOTS:
     void SelectImages();
     void SelectConfigFile();
-    void SetConfigFFilename(const QString &text);
+    void SetConfigFFilename(const QString &text) { PanoHead::takeRecord(*this, m_state, text); }
     void Reset();
     void UpdateUI();
     void UpdatePreview();
-    void BrowserWeb(const QString &url);
+    void BrowserWeb(const QString &url) { PanoHead::openInBrowser(url); }
     void OnZoomChanged();
     void OnImageLoaded();
     void OnInverseCoordinates();
-    void OnRotate90();
-    void OnRotate270();
-    void OnLevelLinkingClicked(bool checked);
-    void OnStackLinkingClicked(bool checked);
-    void OnFLUseXML();
-    void OnFLUseImage();
+    void OnRotate90() { turn(90.0F); }
+    void OnRotate270() { turn(-90.0F); }
+    void OnLevelLinkingClicked(bool checked) { PanoHead::linkAllLevels(*this, checked); }
+    void OnStackLinkingClicked(bool checked) { PanoHead::linkHard(*this, checked); }
+    void OnFLUseXML() { useLens({ xmlFocal, xmlLensType }); }
+    void OnFLUseImage() { useLens({ m_state.imageFocal, m_state.imageLensType }); }
 
 private:
-    void CreateWidgets();
-    void CreateConnects();
-    /** Fills the description; false when the user must change something first. */
-    [[nodiscard]] bool describe();
-    void usePhotos(const QStringList &photos);
     void redrawAll();
+    void turn(float degrees);
+    void useLens(const PanoHead::LensFacts &lens);
 
     PanoHead::ShootState m_state;
-    ReadingThread *m_readingThread;
-    PanoHead::LowMemoryBox m_lowMemory;
-    PanoHead::ShotLayout m_layout;
     QList<XIImageDef *> m_previewImages; ///< what the preview shows; not owned
+    ReadingThread *m_readingThread = nullptr;
+    PanoHead::ShotLayout m_layout;
     PanoHead::PagePhotos m_photos;
     PanoHead::PhotoNames m_photoNames;
 };
