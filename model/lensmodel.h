@@ -18,6 +18,9 @@ enum class LensModel : qint32 {
 namespace PanoHead
 {
 
+/** The diagonal of a 36 mm x 24 mm frame. */
+constexpr double kFullFrameDiagonalMm = 43.266615305567875;
+
 /** Whether \p value, a number from a host or a record, names a lens: only then may it be used. */
 [[nodiscard]] constexpr bool isLensModel(int value)
 {

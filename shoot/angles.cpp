@@ -5,13 +5,6 @@
 #include "model/shootdata.h"
 #include "model/structuredpanoramaproperties.h"
 
-namespace
-{
-
-constexpr double kPi = 3.141592653589793;
-
-} // namespace
-
 namespace PanoHead
 {
 

@@ -10,6 +10,8 @@ struct StructuredPanoramaProperties;
 namespace PanoHead
 {
 
+constexpr double kPi = 3.141592653589793;
+
 /** Degrees to radians, computed in double and stored as 32-bit float, as in the description. */
 [[nodiscard]] float toRadians(float degrees);
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "shoot/directionindex.h"
 
+#include "shoot/angles.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -12,7 +14,6 @@ namespace PanoHead
 namespace
 {
 
-constexpr double kPi = 3.141592653589793;
 constexpr double kHalfPi = kPi / 2.0;
 constexpr double kFullTurn = 2.0 * kPi;
 // Far above the rounding of the coordinates, far below any distance between two photos.

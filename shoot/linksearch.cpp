@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "shoot/linksearch.h"
 
+#include "model/lensmodel.h"
+#include "shoot/angles.h"
 #include "shoot/directionindex.h"
 
 #include <algorithm>
@@ -14,8 +16,6 @@ namespace PanoHead
 namespace
 {
 
-constexpr double kPi = 3.141592653589793;
-constexpr double kFrameDiagonalMm = 43.266615305567875; // of 36 x 24 mm
 constexpr double kReachFactor = 0.6499999761581421; // 0.65 as 32-bit float
 constexpr double kCloseFactor = 0.699999988079071; // 0.7 as 32-bit float
 constexpr float kPiSingle = 3.1415927F;
@@ -184,7 +184,7 @@ qint32 linkTypeTowards(const Pointing &a, const Pointing &b)
 struct CloseView {
     explicit CloseView(const PhotoDirection &photo)
         : near(static_cast<double>(static_cast<float>(
-                   std::atan(kFrameDiagonalMm / (2.0 * static_cast<double>(photo.focalMm))))),
+                   std::atan(kFullFrameDiagonalMm / (2.0 * static_cast<double>(photo.focalMm))))),
                kCloseFactor)
     {
         const double yaw = static_cast<double>(photo.yawDegrees * kPiSingle / 180.0F);
@@ -305,7 +305,8 @@ private:
 
 float halfFieldOfView(float focalMm)
 {
-    return static_cast<float>(std::atan(kFrameDiagonalMm / static_cast<double>(focalMm + focalMm)));
+    return static_cast<float>(
+        std::atan(kFullFrameDiagonalMm / static_cast<double>(focalMm + focalMm)));
 }
 
 void appendNeighbourLinks(QVector<AuthorizedLink> &links, const QVector<Direction> &positions,

@@ -6,6 +6,7 @@
 #include "host/cli/importjob.h"
 #include "host/cli/inputcheck.h"
 #include "host/cli/lenschoice.h"
+#include "host/core/panorama.h"
 
 #include <QFileInfo>
 
@@ -41,17 +42,9 @@ QString millimetres(double focal35mm)
                            : QStringLiteral("not known");
 }
 
-QString lensName(LensModel lens)
+QString lensOrUnknown(LensModel lens)
 {
-    switch (lens) {
-    case LensModel::Standard:
-        return QStringLiteral("standard");
-    case LensModel::Fisheye:
-        return QStringLiteral("fisheye");
-    case LensModel::NotChosen:
-        break;
-    }
-    return QStringLiteral("not known");
+    return lens == LensModel::NotChosen ? QStringLiteral("not known") : lensName(lens);
 }
 
 void printRecord(const QString &path, const RecordSummary &record)
@@ -60,7 +53,7 @@ void printRecord(const QString &path, const RecordSummary &record)
              QStringLiteral("%1: %2, bracket %3, focal %4, lens %5")
                  .arg(displayName(path), counted(record.shotCount, "shot"),
                       QString::number(record.bracketCount), millimetres(record.focal35mm),
-                      lensName(record.lens)));
+                      lensOrUnknown(record.lens)));
 }
 
 void printGrid(const GridChoice &grid, int photoCount)
@@ -136,11 +129,11 @@ QString gapText(const QVector<PhotoInfo> &photos)
 
 void printPhotos(const QVector<PhotoInfo> &photos, int given)
 {
-    const LensFacts facts = lensFactsOf(photos);
+    const KnownLens facts = knownLensOf(photos);
     printRow("photos",
              QStringLiteral("%1 given, %2 readable, focal %3, lens %4")
                  .arg(QString::number(given), QString::number(photos.size()),
-                      millimetres(facts.focal35mm), lensName(facts.lens)));
+                      millimetres(facts.focal35mm), lensOrUnknown(facts.lens)));
     printRow("order", orderText(photos));
     printRow("gaps", gapText(photos));
 }

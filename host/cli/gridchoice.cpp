@@ -38,7 +38,7 @@ struct GridMode {
 
 constexpr std::array<GridMode, 5> kModes{ {
     { "columns", 0, "m_rbMode0" },
-    { "columns-left", 3, "m_rbMode3" },
+    { "columns-from-right", 3, "m_rbMode3" },
     { "rows-down", 1, "m_rbMode1" },
     { "rows-up", 2, "m_rbMode2" },
     { "serpentine", 4, nullptr },
@@ -99,7 +99,7 @@ QVector<OptionRow> gridOptions()
 {
     return {
         { "--rows", "N", "rows of the grid; the columns follow from the photos" },
-        { "--mode", "columns|columns-left|rows-down|rows-up|serpentine",
+        { "--mode", "columns|columns-from-right|rows-down|rows-up|serpentine",
           "the order in which the head swept the grid: column by column from the left (default) "
           "or from the right, row by row from the top or from the bottom, or row by row from the "
           "bottom and to and fro",

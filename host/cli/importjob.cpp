@@ -80,17 +80,17 @@ const ImportPlugin &ImportJob::openPlugin()
 
 QStringList ImportJob::namesForPage()
 {
-    if (!NumberedLinks::areNeeded(m_photos)) {
+    if (!PhotoAliases::areNeeded(m_photos)) {
         return m_photos;
     }
     QString error;
-    const QStringList links = m_links.create(m_photos, &error);
+    const QStringList links = m_aliases.create(m_photos, &error);
     if (links.isEmpty()) {
         throw CommandError({ ExitCode::ToolFailed, QStringLiteral("temporary links to the photos"),
                              error, QStringLiteral("is the temporary folder full? set TMPDIR") });
     }
     for (const QString &link : links) {
-        m_session.app.addPathAlias(link, m_links.truePaths().value(link));
+        m_session.app.addPathAlias(link, m_aliases.truePaths().value(link));
     }
     return links;
 }
@@ -107,8 +107,8 @@ QVector<PhotoInfo> ImportJob::photoInfos() const
 
 void ImportJob::chooseLensFor(const QVector<PhotoInfo> &photos)
 {
-    const LensFacts recordFacts{ m_record.focal35mm, m_record.lens };
-    const LensChoice choice = chooseLens(m_request, lensFactsOf(photos), recordFacts);
+    const KnownLens recordFacts{ m_record.focal35mm, m_record.lens };
+    const LensChoice choice = chooseLens(m_request, knownLensOf(photos), recordFacts);
     m_warnings += choice.warnings;
     if (!m_request.head->hasLens) {
         m_warnings += focalSpreadWarnings(m_request, photos);

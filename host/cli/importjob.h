@@ -3,7 +3,7 @@
 #pragma once
 
 #include "host/cli/importrequest.h"
-#include "host/cli/numberedlinks.h"
+#include "host/cli/photoaliases.h"
 #include "host/cli/session.h"
 #include "host/core/panorama.h"
 #include "host/core/pluginlibrary.h"
@@ -53,7 +53,7 @@ private:
     ImportRequest m_request;
     RecordSummary m_record;
     QStringList m_photos;
-    NumberedLinks m_links;
+    PhotoAliases m_aliases;
     QStringList m_warnings;
     JoinWishes m_wishes;
     std::unique_ptr<PluginLibrary> m_library;

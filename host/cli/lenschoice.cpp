@@ -3,6 +3,7 @@
 #include "host/cli/lenschoice.h"
 
 #include "host/cli/commanderror.h"
+#include "host/core/panorama.h"
 
 #include <algorithm>
 #include <cmath>
@@ -26,7 +27,7 @@ double givenOrThrow(double focal35mm, const char *where)
     return focal35mm;
 }
 
-double chooseFocal(const ImportRequest &request, const LensFacts &photos, const LensFacts &record)
+double chooseFocal(const ImportRequest &request, const KnownLens &photos, const KnownLens &record)
 {
     switch (request.focalSource) {
     case ValueSource::Given:
@@ -44,8 +45,8 @@ double chooseFocal(const ImportRequest &request, const LensFacts &photos, const 
                                     : "the photos' EXIF data or the record");
 }
 
-LensModel chooseLensModel(const ImportRequest &request, const LensFacts &photos,
-                          const LensFacts &record)
+LensModel chooseLensModel(const ImportRequest &request, const KnownLens &photos,
+                          const KnownLens &record)
 {
     if (request.lensSource == ValueSource::Given) {
         return request.lens;
@@ -61,16 +62,11 @@ QString millimetres(double focal35mm)
     return QStringLiteral("%1 mm").arg(QString::number(focal35mm, 'g', 4));
 }
 
-QString lensName(LensModel lens)
-{
-    return lens == LensModel::Fisheye ? QStringLiteral("fisheye") : QStringLiteral("standard");
-}
-
 } // namespace
 
-LensFacts lensFactsOf(const QVector<PhotoInfo> &photos)
+KnownLens knownLensOf(const QVector<PhotoInfo> &photos)
 {
-    LensFacts facts;
+    KnownLens facts;
     double sum = 0.0;
     int count = 0;
     for (const PhotoInfo &photo : photos) {
@@ -87,8 +83,8 @@ LensFacts lensFactsOf(const QVector<PhotoInfo> &photos)
     return facts;
 }
 
-LensChoice chooseLens(const ImportRequest &request, const LensFacts &photos,
-                      const LensFacts &record)
+LensChoice chooseLens(const ImportRequest &request, const KnownLens &photos,
+                      const KnownLens &record)
 {
     LensChoice choice;
     choice.focal35mm = chooseFocal(request, photos, record);

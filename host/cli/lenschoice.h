@@ -9,7 +9,7 @@ namespace PanoHost
 {
 
 /** What one source says about the lens. */
-struct LensFacts {
+struct KnownLens {
     double focal35mm = 0.0; ///< 0: not known
     LensModel lens = LensModel::NotChosen; ///< `NotChosen`: not known
     int withoutFocal = 0; ///< photos that do not name a focal length
@@ -23,14 +23,14 @@ struct LensChoice {
 };
 
 /** The mean focal length of the photos that name one, and the lens of the last that names one. */
-[[nodiscard]] LensFacts lensFactsOf(const QVector<PhotoInfo> &photos);
+[[nodiscard]] KnownLens knownLensOf(const QVector<PhotoInfo> &photos);
 
 /**
  * Chooses between what the user gave, the photos and the record: without a wish the photos win
  * where they say something. Throws when the wanted source does not know the focal length.
  */
-[[nodiscard]] LensChoice chooseLens(const ImportRequest &request, const LensFacts &photos,
-                                    const LensFacts &record);
+[[nodiscard]] LensChoice chooseLens(const ImportRequest &request, const KnownLens &photos,
+                                    const KnownLens &record);
 
 /**
  * For pages that take the focal length from the photos: a warning when the photos differ notably,

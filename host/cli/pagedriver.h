@@ -33,7 +33,7 @@ public:
     /**
      * Answers the page's photo dialog with \p names and waits until the page has read them all.
      * Throws when one cannot be read, or when the page is not content with them.
-     * \param names absolute paths that NumberedLinks::areNeeded would let pass
+     * \param names absolute paths that PhotoAliases::areNeeded would let pass
      */
     void choosePhotos(const QStringList &names);
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/core/panorama.h"
 
-#include "host/core/gridlayout.h"
+#include "host/core/assumedgrid.h"
 
 #include <QFileInfo>
 #include <QtMath>
@@ -111,9 +111,9 @@ QSize uprightSize(const PhotoInfo &photo)
 void takeGrid(Panorama &panorama, bool asStored)
 {
     const PhotoInfo &first = panorama.positions.first().photos.first();
-    const GridLayout grid
-        = gridLayout(panorama.description, asStored ? first.storedSize : uprightSize(first),
-                     panorama.focal35mm, panorama.lens);
+    const AssumedGrid grid
+        = assumedGrid(panorama.description, asStored ? first.storedSize : uprightSize(first),
+                      panorama.focal35mm, panorama.lens);
     for (int i = 0; i < grid.directions.size() && i < panorama.positions.size(); ++i) {
         panorama.positions[i].yawDegrees = grid.directions[i].yawDegrees;
         panorama.positions[i].pitchDegrees = grid.directions[i].pitchDegrees;
@@ -122,6 +122,19 @@ void takeGrid(Panorama &panorama, bool asStored)
 }
 
 } // namespace
+
+QString lensName(LensModel lens)
+{
+    switch (lens) {
+    case LensModel::Standard:
+        return QStringLiteral("standard");
+    case LensModel::Fisheye:
+        return QStringLiteral("fisheye");
+    case LensModel::NotChosen:
+        break;
+    }
+    return QStringLiteral("unknown");
+}
 
 Result<Panorama> joinPanorama(const StructuredPanoramaProperties &description,
                               const SourceInfo &source, const PhotoLookup &lookup,

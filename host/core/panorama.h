@@ -16,8 +16,10 @@
 namespace PanoHost
 {
 
-/** The diagonal of a 36 mm x 24 mm frame. */
-constexpr double kFullFrameDiagonalMm = 43.266615305567875;
+using PanoHead::kFullFrameDiagonalMm;
+
+/** "standard", "fisheye" or "unknown". */
+[[nodiscard]] QString lensName(LensModel lens);
 
 /** Where a description came from. */
 struct SourceInfo {

@@ -86,18 +86,6 @@ QByteArray numbers(const QVector<float> &values)
     return '[' + texts.join(", ") + ']';
 }
 
-QString lensName(LensModel lens)
-{
-    switch (lens) {
-    case LensModel::Standard:
-        return QStringLiteral("standard");
-    case LensModel::Fisheye:
-        return QStringLiteral("fisheye");
-    default:
-        return QStringLiteral("unknown");
-    }
-}
-
 LensModel lensFromName(const QString &name)
 {
     if (name == QLatin1String("standard")) {
@@ -233,7 +221,7 @@ QByteArray anglesJson(const StructuredPanoramaProperties &d)
 // ---- reading
 
 /** Thrown nowhere else: the readers below stop at the first value of a wrong kind. */
-struct Mismatch {
+struct WrongValue {
     QString key;
     QString expected;
 };
@@ -291,7 +279,7 @@ public:
     void require(bool fine, const char *key, const char *expected) const
     {
         if (!fine) {
-            throw Mismatch{ pathOf(key), QLatin1String(expected) };
+            throw WrongValue{ pathOf(key), QLatin1String(expected) };
         }
     }
 
@@ -514,7 +502,7 @@ Result<Panorama> panoramaFromJson(const QByteArray &json, const QString &folder)
     }
     try {
         return readPanorama({ document.object(), {} }, folder);
-    } catch (const Mismatch &mismatch) {
+    } catch (const WrongValue &mismatch) {
         return refused(mismatch.key, QStringLiteral("must be ") + mismatch.expected);
     }
 }

@@ -4,7 +4,7 @@
 
 #include "host/cli/dialogcatcher.h"
 #include "host/cli/heads.h"
-#include "host/cli/numberedlinks.h"
+#include "host/cli/photoaliases.h"
 
 #include <QAbstractButton>
 #include <QDir>
@@ -70,7 +70,7 @@ QString recordPath(const QWizardPage *page)
 QString fillPage(PanoHostApplication &app, QWizardPage *page, const FilledFiles &files)
 {
     // Sorted as they are, only their names can be in the way.
-    if (NumberedLinks::areNeeded(files.photos)) {
+    if (PhotoAliases::areNeeded(files.photos)) {
         return QCoreApplication::translate(
             "PanoHost::ImportWizard",
             "The name of a photo holds a double quote or a line end, which file dialogs cannot "

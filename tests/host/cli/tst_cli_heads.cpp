@@ -153,7 +153,7 @@ void TestCliHeads::gridCellsFollowTheOrderOfTheSweep_data()
     // 2 rows of 3 columns; row 0 is the upper one.
     QTest::newRow("default") << QStringList() << "00 10 01 11 02 12" << 0;
     QTest::newRow("columns") << words("--mode columns") << "00 10 01 11 02 12" << 0;
-    QTest::newRow("to the left") << words("--mode columns-left") << "02 12 01 11 00 10" << 3;
+    QTest::newRow("to the left") << words("--mode columns-from-right") << "02 12 01 11 00 10" << 3;
     QTest::newRow("downward") << words("--mode rows-down") << "00 01 02 10 11 12" << 1;
     QTest::newRow("upward") << words("--mode rows-up") << "10 11 12 00 01 02" << 2;
     QTest::newRow("serpentine, without a button")

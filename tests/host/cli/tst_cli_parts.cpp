@@ -3,7 +3,7 @@
 #include "host/cli/commanderror.h"
 #include "host/cli/invocation.h"
 #include "host/cli/lenschoice.h"
-#include "host/cli/numberedlinks.h"
+#include "host/cli/photoaliases.h"
 #include "host/cli/wordsuggestion.h"
 #include "tests/host/testphotos.h"
 
@@ -27,7 +27,7 @@ private Q_SLOTS:
     void linksAreMadeOnlyWhenNeeded_data();
     void linksAreMadeOnlyWhenNeeded();
     void linksSortInTheOrderGivenAndGoAway();
-    void lensFactsOfPhotosLeaveOutTheUnknown();
+    void knownLensOfPhotosLeaveOutTheUnknown();
     void focalOfTheUnknownSourceIsRefused_data();
     void focalOfTheUnknownSourceIsRefused();
     void everyHeadIsReady();
@@ -121,7 +121,7 @@ void TestCliParts::linksAreMadeOnlyWhenNeeded()
 {
     QFETCH(QStringList, photos);
     QFETCH(bool, needed);
-    QCOMPARE(NumberedLinks::areNeeded(photos), needed);
+    QCOMPARE(PhotoAliases::areNeeded(photos), needed);
 }
 
 void TestCliParts::linksSortInTheOrderGivenAndGoAway()
@@ -134,12 +134,12 @@ void TestCliParts::linksSortInTheOrderGivenAndGoAway()
     }
     QStringList links;
     {
-        NumberedLinks made;
+        PhotoAliases made;
         QString error;
         links = made.create(photos, &error);
         QCOMPARE(error, QString());
         QCOMPARE(links.size(), photos.size());
-        QVERIFY(!NumberedLinks::areNeeded(links));
+        QVERIFY(!PhotoAliases::areNeeded(links));
         for (int i = 0; i < links.size(); ++i) {
             QCOMPARE(made.truePaths().value(links.at(i)), photos.at(i));
             QCOMPARE(QFileInfo(links.at(i)).canonicalFilePath(),
@@ -151,19 +151,19 @@ void TestCliParts::linksSortInTheOrderGivenAndGoAway()
     QVERIFY(!QFileInfo::exists(QFileInfo(links.first()).path()));
 }
 
-void TestCliParts::lensFactsOfPhotosLeaveOutTheUnknown()
+void TestCliParts::knownLensOfPhotosLeaveOutTheUnknown()
 {
     PhotoInfo known;
     known.focal35mm = 24.0;
     PhotoInfo longer = known;
     longer.focal35mm = 26.0;
     longer.lens = LensModel::Fisheye;
-    const LensFacts facts = lensFactsOf({ known, PhotoInfo(), longer, PhotoInfo() });
+    const KnownLens facts = knownLensOf({ known, PhotoInfo(), longer, PhotoInfo() });
     QCOMPARE(facts.focal35mm, 25.0);
     QCOMPARE(facts.lens, LensModel::Fisheye);
     QCOMPARE(facts.withoutFocal, 2);
-    QCOMPARE(lensFactsOf({}).focal35mm, 0.0);
-    QCOMPARE(lensFactsOf({}).lens, LensModel::NotChosen);
+    QCOMPARE(knownLensOf({}).focal35mm, 0.0);
+    QCOMPARE(knownLensOf({}).lens, LensModel::NotChosen);
 }
 
 void TestCliParts::focalOfTheUnknownSourceIsRefused_data()
@@ -183,8 +183,8 @@ void TestCliParts::focalOfTheUnknownSourceIsRefused()
     QFETCH(double, record);
     ImportRequest request;
     request.focalSource = static_cast<ValueSource>(source);
-    const LensFacts photoFacts{ photos, LensModel::NotChosen, 0 };
-    const LensFacts recordFacts{ record, LensModel::Standard, 0 };
+    const KnownLens photoFacts{ photos, LensModel::NotChosen, 0 };
+    const KnownLens recordFacts{ record, LensModel::Standard, 0 };
     QVERIFY_EXCEPTION_THROWN((void)chooseLens(request, photoFacts, recordFacts), CommandError);
 }
 

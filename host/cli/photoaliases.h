@@ -17,7 +17,7 @@ namespace PanoHost
  * takes no double quotes; so the page gets numbered symbolic links in a private temporary folder,
  * which sort in the wanted order. The folder goes with the object.
  */
-class NumberedLinks
+class PhotoAliases
 {
 public:
     /**

@@ -18,7 +18,7 @@ struct GridDirection {
 };
 
 /** A start layout for a grid whose angles nobody recorded. */
-struct GridLayout {
+struct AssumedGrid {
     QVector<GridDirection> directions; ///< one per position, shooting order
     int columns = 0;
     QStringList warnings;
@@ -28,7 +28,7 @@ struct GridLayout {
  * Lays the positions of \p description out from its grid fields, for upright frames of \p frame
  * pixels. Neighbours come to overlap; detection and optimisation do the rest.
  */
-[[nodiscard]] GridLayout gridLayout(const StructuredPanoramaProperties &description,
-                                    const QSize &frame, double focal35mm, LensModel lens);
+[[nodiscard]] AssumedGrid assumedGrid(const StructuredPanoramaProperties &description,
+                                      const QSize &frame, double focal35mm, LensModel lens);
 
 } // namespace PanoHost

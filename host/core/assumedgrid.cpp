@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "host/core/gridlayout.h"
+#include "host/core/assumedgrid.h"
 
 #include "host/core/panorama.h"
 
@@ -54,10 +54,10 @@ double verticalFovDegrees(const QSize &frame, double horizontalDegrees, LensMode
 
 } // namespace
 
-GridLayout gridLayout(const StructuredPanoramaProperties &description, const QSize &frame,
-                      double focal35mm, LensModel lens)
+AssumedGrid assumedGrid(const StructuredPanoramaProperties &description, const QSize &frame,
+                        double focal35mm, LensModel lens)
 {
-    GridLayout layout;
+    AssumedGrid layout;
     const int positions = description.imageGroups.size();
     if (positions == 0 || frame.isEmpty()) {
         return layout;

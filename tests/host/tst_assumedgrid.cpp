@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "host/core/gridlayout.h"
+#include "host/core/assumedgrid.h"
 
 #include <QtTest>
 
@@ -29,7 +29,7 @@ StructuredPanoramaProperties grid(int positions, int rows, int mode)
 }
 
 /** Row and column of each shot of a grid, read off its layout: "rc rc ...". */
-QString cells(const GridLayout &layout, int rows)
+QString cells(const AssumedGrid &layout, int rows)
 {
     QStringList names;
     for (const GridDirection &d : layout.directions) {
@@ -47,7 +47,7 @@ bool near(double actual, double expected)
 
 } // namespace
 
-class GridLayoutTest : public QObject
+class AssumedGridTest : public QObject
 {
     Q_OBJECT
 
@@ -62,7 +62,7 @@ private Q_SLOTS:
     void fisheyeRowsFollowTheAngle();
 };
 
-void GridLayoutTest::shotsFollowTheOrder_data()
+void AssumedGridTest::shotsFollowTheOrder_data()
 {
     QTest::addColumn<int>("mode");
     QTest::addColumn<QString>("expected");
@@ -74,19 +74,19 @@ void GridLayoutTest::shotsFollowTheOrder_data()
     QTest::newRow("serpentine upward") << 4 << "10 11 12 02 01 00";
 }
 
-void GridLayoutTest::shotsFollowTheOrder()
+void AssumedGridTest::shotsFollowTheOrder()
 {
     QFETCH(int, mode);
     QFETCH(QString, expected);
-    const GridLayout layout = gridLayout(grid(6, 2, mode), kFrame, 24.0, LensModel::Standard);
+    const AssumedGrid layout = assumedGrid(grid(6, 2, mode), kFrame, 24.0, LensModel::Standard);
     QCOMPARE(layout.columns, 3);
     QCOMPARE(cells(layout, 2), expected);
     QVERIFY(layout.warnings.isEmpty());
 }
 
-void GridLayoutTest::stepsAreTheFieldLessTheOverlap()
+void AssumedGridTest::stepsAreTheFieldLessTheOverlap()
 {
-    const GridLayout layout = gridLayout(grid(4, 2, 1), kFrame, 24.0, LensModel::Standard);
+    const AssumedGrid layout = assumedGrid(grid(4, 2, 1), kFrame, 24.0, LensModel::Standard);
     // Two columns lie half a step to either side of yaw 0, two rows about pitch 0.
     QVERIFY(near(layout.directions[0].yawDegrees, -0.5 * 0.75 * kAcross));
     QVERIFY(near(layout.directions[1].yawDegrees, 0.5 * 0.75 * kAcross));
@@ -94,46 +94,46 @@ void GridLayoutTest::stepsAreTheFieldLessTheOverlap()
     QVERIFY(near(layout.directions[2].pitchDegrees, -0.5 * 0.75 * kDown));
 }
 
-void GridLayoutTest::fullTurnIsDividedByTheColumns()
+void AssumedGridTest::fullTurnIsDividedByTheColumns()
 {
     StructuredPanoramaProperties d = grid(12, 1, 1);
     d.gridWrap360 = true;
-    const GridLayout layout = gridLayout(d, kFrame, 24.0, LensModel::Standard);
+    const AssumedGrid layout = assumedGrid(d, kFrame, 24.0, LensModel::Standard);
     for (int i = 0; i < 12; ++i) {
         QVERIFY(near(layout.directions[i].yawDegrees, (i - 5.5) * 30.0));
     }
 }
 
-void GridLayoutTest::incompleteLastColumnCounts()
+void AssumedGridTest::incompleteLastColumnCounts()
 {
-    const GridLayout layout = gridLayout(grid(5, 2, 0), kFrame, 24.0, LensModel::Standard);
+    const AssumedGrid layout = assumedGrid(grid(5, 2, 0), kFrame, 24.0, LensModel::Standard);
     QCOMPARE(layout.columns, 3);
     QCOMPARE(layout.directions.size(), 5);
 }
 
-void GridLayoutTest::steepRowsAreClampedAndSaid()
+void AssumedGridTest::steepRowsAreClampedAndSaid()
 {
-    const GridLayout layout = gridLayout(grid(9, 9, 0), kFrame, 24.0, LensModel::Standard);
+    const AssumedGrid layout = assumedGrid(grid(9, 9, 0), kFrame, 24.0, LensModel::Standard);
     QCOMPARE(layout.directions.first().pitchDegrees, 85.0);
     QCOMPARE(layout.directions.last().pitchDegrees, -85.0);
     QCOMPARE(layout.warnings.size(), 1);
 }
 
-void GridLayoutTest::emptyGridsGiveNothing()
+void AssumedGridTest::emptyGridsGiveNothing()
 {
-    QVERIFY(gridLayout(grid(0, 2, 0), kFrame, 24.0, LensModel::Standard).directions.isEmpty());
-    QVERIFY(gridLayout(grid(4, 2, 0), QSize(), 24.0, LensModel::Standard).directions.isEmpty());
+    QVERIFY(assumedGrid(grid(0, 2, 0), kFrame, 24.0, LensModel::Standard).directions.isEmpty());
+    QVERIFY(assumedGrid(grid(4, 2, 0), QSize(), 24.0, LensModel::Standard).directions.isEmpty());
     // No rows said, or more than photos: still a place for each.
-    QCOMPARE(gridLayout(grid(4, 0, 0), kFrame, 24.0, LensModel::Standard).directions.size(), 4);
-    QCOMPARE(gridLayout(grid(4, 99, 0), kFrame, 24.0, LensModel::Standard).directions.size(), 4);
+    QCOMPARE(assumedGrid(grid(4, 0, 0), kFrame, 24.0, LensModel::Standard).directions.size(), 4);
+    QCOMPARE(assumedGrid(grid(4, 99, 0), kFrame, 24.0, LensModel::Standard).directions.size(), 4);
 }
 
-void GridLayoutTest::fisheyeRowsFollowTheAngle()
+void AssumedGridTest::fisheyeRowsFollowTheAngle()
 {
     // 36 / 12 rad = 171.887 degrees across, two thirds of that down.
-    const GridLayout layout = gridLayout(grid(2, 2, 0), kFrame, 12.0, LensModel::Fisheye);
+    const AssumedGrid layout = assumedGrid(grid(2, 2, 0), kFrame, 12.0, LensModel::Fisheye);
     QVERIFY(near(layout.directions[0].pitchDegrees, 0.5 * 0.75 * 2.0 * 180.0 / M_PI));
 }
 
-QTEST_GUILESS_MAIN(GridLayoutTest)
-#include "tst_gridlayout.moc"
+QTEST_GUILESS_MAIN(AssumedGridTest)
+#include "tst_assumedgrid.moc"

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "host/cli/numberedlinks.h"
+#include "host/cli/photoaliases.h"
 
 #include <QDir>
 #include <QFile>
@@ -35,7 +35,7 @@ QString safeEnding(const QString &photo)
 
 } // namespace
 
-bool NumberedLinks::areNeeded(const QStringList &photos)
+bool PhotoAliases::areNeeded(const QStringList &photos)
 {
     if (std::any_of(photos.begin(), photos.end(), dialogMisreads)) {
         return true;
@@ -43,7 +43,7 @@ bool NumberedLinks::areNeeded(const QStringList &photos)
     return !std::is_sorted(photos.begin(), photos.end());
 }
 
-QStringList NumberedLinks::create(const QStringList &photos, QString *error)
+QStringList PhotoAliases::create(const QStringList &photos, QString *error)
 {
     m_folder = std::make_unique<QTemporaryDir>(QDir::tempPath()
                                                + QStringLiteral("/panohost-photos-XXXXXX"));
