@@ -14,10 +14,11 @@
 namespace
 {
 
-// The picture does not exist under the library's own folder, so hosts show no icon: wanted.
+// The picture does not exist under the library's own folder: the plug-ins show theirs, the library
+// shows none.
 constexpr PanoHead::About kAbout{
     "XPanoHead",
-    "Comment", // hosts know the library by this placeholder: wanted
+    "Comment", // the placeholder by which hosts know the library
     ":/%1/Resources/XGigapan.png",
     "7A21C94E-5B20-2020-2020-2D91D0DDB961",
 };

@@ -15,7 +15,7 @@ using namespace PanoHead;
 namespace
 {
 
-// Scripts hold whole degrees, and every step counts as it is: wanted.
+// Scripts hold whole degrees: no step is too small to be drawn.
 constexpr LayoutRules kClaussLayout{ 0.0 /* no smallest step */, Span::Absolute,
                                      Precision::Single };
 
@@ -92,7 +92,7 @@ void UIWPClauss::SelectConfigFile()
     if (!script.isEmpty() && !readScript(script)) {
         return;
     }
-    // In the dialog's order, not sorted: wanted.
+    // In the dialog's order: who picks the photos as they were shot keeps that order.
     const QStringList photos = choice->selection.photos;
     if (!photos.isEmpty() && photos != m_state.images) {
         m_state.images = m_photos.read(photos);

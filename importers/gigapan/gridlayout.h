@@ -31,7 +31,7 @@ constexpr QSize kDefaultThumbnail(96, 96);
  * Places one cell per grid position, at most half as large as \p thumbnail and halved further
  * until the canvas fits in 10,000 x 10,000 pixels; empty when that is impossible. Each cell shows
  * the first photo of its stack. Cells come in shooting order; the serpentine walks its columns and
- * does not count ignored photos: wanted.
+ * does not count ignored photos; it has no button, only hosts that call its slot see it.
  */
 [[nodiscard]] PreviewLayout layOutGrid(const GridView &grid, const QSize &thumbnail);
 

@@ -53,7 +53,7 @@ void UIWPMerlin::ParseConfigFile(const QString &path)
     m_photos.withinMemory(
         [&] { isRead = readRecord(m_state, shots, [&] { return parse(path); }); });
     if (!isRead) {
-        // The ranges show a scan that found nothing: wanted. Other pages keep theirs.
+        // The ranges say that nothing was found; other pages keep those of the record before.
         m_state.setExtents({ AngleRange::scanStart(), AngleRange::scanStart() });
         return;
     }
@@ -75,8 +75,8 @@ void UIWPMerlin::SelectConfigFile()
     }
     const RecordSelection &selection = choice->selection;
     const bool wasCancelled = selection.record.isEmpty() && selection.photos.isEmpty();
-    // Photos alone make the start location the record; a cancelled dialog reads the current one
-    // again. Both wanted.
+    // Photos alone make the start location the record, where the next dialog starts; a cancelled
+    // dialog reads the current record again, which may have changed on disk.
     if (!wasCancelled) {
         m_state.configPath = choice->location;
     }
@@ -150,7 +150,7 @@ void UIWPMerlin::UpdateUI()
     showLens(lensViewOf(*this), nbPicts, xmlFocal, m_state.imageFocal, tr("N/A"));
     const MismatchTexts texts{
         tr("Bracketing used in XML, should be multiple of that number"),
-        tr("Not the same as in XML fil"), // cut off like this: wanted
+        tr("Not the same as in XML fil"), // translations know it cut off like this
         tr("Focal Length difference between EXIF and XML"),
         tr("Lens type difference between EXIF and XML"),
     };
@@ -162,8 +162,8 @@ void UIWPMerlin::UpdatePreview()
 {
     m_photos.draw([this] {
         lookAtPhotos(*this, m_state, m_photos);
-        // The same number of photos counts as the same picture, none included: wanted. Whoever
-        // changes the picture otherwise asks for a new one first.
+        // The same number of photos, none included, counts as the same picture, so that the many
+        // signals of a load draw once. Whoever changes it otherwise asks for a new one first.
         if (!m_photos.areShown()) {
             m_photos.show(m_layout.of(shots, m_state.extents()), CellStyle::FittedWithCaption,
                           m_hSlider->value());

@@ -9,11 +9,11 @@ using namespace PanoHead;
 namespace
 {
 
-// The span of a range without shots differs from the Papywizard page's: wanted.
+// Only the span of a range without shots differs from the Papywizard page's.
 constexpr LayoutRules kVRDrive2Layout{ 8.0 /* smallest step, degrees */, Span::NegatedSumToo,
                                        Precision::Double };
 
-// Photos stand in reading order on this page: wanted.
+// The photos' clock is not asked: they stand in reading order on this page.
 constexpr PhotoQuestions kVRDrive2Questions{ true /* lens */, false /* shot time */,
                                              EqualTimes::KeepReadingOrder };
 
@@ -164,14 +164,14 @@ void UIWPVRDrive2::UpdateUI()
 {
     const BlockSignal blocker(this);
     UpdatePreview(); // asks the photos first, whose answers the fields show
-    // The ranges are not translated on this page: wanted.
+    // Unlike the counts, ranges are "N/A" in every language on this page.
     showShoot(shootViewOf(*this, m_photoNames), m_state, { tr("N/A"), QStringLiteral("N/A") });
     showLens(lensViewOf(*this), nbPicts, xmlFocal, m_state.imageFocal, tr("N/A"));
     const QString warning
         = textOf(mismatchOf(m_state, { xmlFocal, xmlLensType }, nbPicts),
                  {
                      tr("Bracketing used in XML, should be multiple of that number"),
-                     tr("Not the same as in XML fil"), // cut off like this: wanted
+                     tr("Not the same as in XML fil"), // translations know it cut off like this
                      tr("Focal length difference between EXIF and XML"),
                      tr("Lens type difference between EXIF and XML"),
                  });

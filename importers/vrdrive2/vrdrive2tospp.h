@@ -19,8 +19,8 @@ public:
     /**
      * As `MerlinToSPP::generateSPP`; then swaps the reference to the front of every stack that
      * this call appended. \p imageDefs are the host's objects for \p images, in the same order. The
-     * place of the reference is found in the first bracket and used for all: wanted. With fewer
-     * photos than one bracket nothing is swapped.
+     * place of the reference is found in the first bracket and used for all: a head brackets
+     * every position alike. With fewer photos than one bracket nothing is swapped.
      */
     void generateSPP(QStringList &images, const QList<XIImageDef *> &imageDefs, double focal,
                      LensModel lens);

@@ -181,7 +181,7 @@ void TestEveryForm::boxesAreCheckedAsWanted_data()
         row(*head, "m_GridOptim", Qt::Checked);
     }
     row(papywizard(), "m_cleanLink", Qt::Unchecked);
-    row(vrDrive2(), "m_cleanLink", Qt::Checked); // unlike on the other pages: wanted
+    row(vrDrive2(), "m_cleanLink", Qt::Checked); // unlike on the other pages
     row(clauss(), "m_cleanLink", Qt::Unchecked);
     row(gigapan(), "m_cleanLink", Qt::Unchecked);
     row(gigapan(), "m_cbIS360", Qt::Unchecked);

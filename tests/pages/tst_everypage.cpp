@@ -741,7 +741,7 @@ void TestEveryPage::goingBackStopsTheReading_data()
     for (const Head *head : headsWithRecords()) {
         QTest::newRow(head->name) << head << QStringLiteral("N/A");
     }
-    // Stops the reading and changes nothing else: wanted.
+    // A grid has no record that other photos could belong to: only the reading stops.
     QTest::newRow("Gigapan") << &gigapan() << QStringLiteral("20 images in ");
 }
 

@@ -41,7 +41,7 @@ const QVector<const SchemaHead *> &schemaHeads()
         &papywizard(), red(""),   red("Focal Length difference between EXIF and XML"),
         scanStart,     scanStart, scanStart
     };
-    // Keeps the ranges of the record before: wanted.
+    // Keeps the ranges of the record before.
     static const SchemaHead vrDrive2Head{ &vrDrive2(),
                                           QString(),
                                           red("Focal length difference between EXIF and XML"),
@@ -110,7 +110,7 @@ template <typename... Values> void addToBoth(const QByteArray &name, const Value
 }
 
 const QString kBracketWarning = red("Bracketing used in XML, should be multiple of that number");
-const QString kCountWarning = red("Not the same as in XML fil"); // cut off like this: wanted
+const QString kCountWarning = red("Not the same as in XML fil"); // as translations know it
 const QString kLensWarning = red("Lens type difference between EXIF and XML");
 
 } // namespace
@@ -766,7 +766,7 @@ void TestSchemaPages::invertingTwiceRestoresEverything_data()
     QTest::addColumn<const SchemaHead *>("head");
     QTest::addColumn<int>("photos");
     addToBoth("with photos", 4);
-    // Without photos the Papywizard page draws nothing anew: wanted.
+    // The Papywizard page takes "no photos" for the picture that it has.
     QTest::newRow("VR Drive 2: without photos") << schemaHeads()[1] << 0;
 }
 

@@ -137,7 +137,7 @@ void TestGridPreview::cellsAreDrawnInShootingOrder_data()
     QTest::newRow("rows downward") << 1 << inOrder;
     QTest::newRow("rows upward") << 2 << inOrder;
     QTest::newRow("columns to left") << 3 << inOrder;
-    // Column by column, top to bottom: wanted.
+    // Column by column, top to bottom, unlike the sweep itself.
     QTest::newRow("serpentine") << 4 << QVector<int>{ 4, 3, 0, 5, 2, 1 };
 }
 
