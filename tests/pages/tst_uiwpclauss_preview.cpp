@@ -15,6 +15,7 @@ private Q_SLOTS:
     void init();
 
     void failedScriptShowsNothingThoughPositionsAreLeft();
+    void scriptChosenAfterNextIsDrawn();
     void farPositionShrinksThePicture_data();
     void farPositionShrinksThePicture();
 };
@@ -44,10 +45,26 @@ void TestUIWPClaussPreview::failedScriptShowsNothingThoughPositionsAreLeft()
     QVERIFY(shoot.driver.picture().isNull());
 }
 
+/** Next lets go of the photos; the user comes back and chooses another script for them. */
+void TestUIWPClaussPreview::scriptChosenAfterNextIsDrawn()
+{
+    const PictureShoot shoot(clauss());
+    shoot.load(twoByTwo(), shoot.fourPhotos());
+    QVERIFY(shoot.made.page->validatePage());
+
+    shoot.load({ { 0, 0 }, { 30, 0 }, { 60, 0 }, { 90, 0 } });
+
+    // 96 / 30 = 3.2 pixels per degree: 90 x 3.2 + 100
+    const QImage picture = shoot.driver.picture();
+    QCOMPARE(picture.size(), QSize(388, 100));
+    QCOMPARE(cellColour(picture, QPoint(2, 2)), kRed);
+    QCOMPARE(cellColour(picture, QPoint(290, 2)), kYellow);
+}
+
 void TestUIWPClaussPreview::farPositionShrinksThePicture_data()
 {
     QTest::addColumn<QVector<ShotAngles>>("shots");
-    // As described 96 pixels per degree: 96 x 5000 wide; 34,560 x 17,280, which is 2.4 GB.
+    // At 96 pixels per degree: 96 x 5000 wide; 34,560 x 17,280, which is 2.4 GB.
     QTest::newRow("one degree and far away")
         << QVector<ShotAngles>{ { 0, 0 }, { 1, 0 }, { 5000, 0 } };
     QTest::newRow("the whole sphere in whole degrees")
