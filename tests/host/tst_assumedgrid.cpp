@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/core/assumedgrid.h"
+#include "tests/support/testprogram.h"
 
 #include <QtTest>
 
@@ -135,5 +136,5 @@ void AssumedGridTest::fisheyeRowsFollowTheAngle()
     QVERIFY(near(layout.directions[0].pitchDegrees, 0.5 * 0.75 * 2.0 * 180.0 / M_PI));
 }
 
-QTEST_GUILESS_MAIN(AssumedGridTest)
+TEST_CLASS(AssumedGridTest, QCoreApplication)
 #include "tst_assumedgrid.moc"

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/core/coverage.h"
+#include "tests/support/testprogram.h"
 
 #include <QtTest>
 
@@ -193,5 +194,5 @@ void CoverageTest::manyTurnsOfYawAreOne()
     QVERIFY(std::abs(covered.yawSpanDegrees - (20.0 + 2 * kHalfAcross)) < 1e-6);
 }
 
-QTEST_GUILESS_MAIN(CoverageTest)
+TEST_CLASS(CoverageTest, QCoreApplication)
 #include "tst_coverage.moc"

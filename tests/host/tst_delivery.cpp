@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/core/delivery.h"
+#include "tests/support/testprogram.h"
 
 #include <QtTest>
 
@@ -184,5 +185,5 @@ void DeliveryTest::newPageStartsFromZero()
     page->~QObject();
 }
 
-QTEST_GUILESS_MAIN(DeliveryTest)
+TEST_CLASS(DeliveryTest, QCoreApplication)
 #include "tst_delivery.moc"

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/core/hostimage.h"
 #include "tests/host/testphotos.h"
+#include "tests/support/testprogram.h"
 
+#include <QApplication>
 #include <QtTest>
 
 #include <memory>
@@ -224,5 +226,5 @@ void HostImageTest::defaultBoundsAddUpToAGigabyte()
     QVERIFY(limits.full <= limits.most);
 }
 
-QTEST_MAIN(HostImageTest)
+TEST_CLASS(HostImageTest, QApplication)
 #include "tst_hostimage.moc"

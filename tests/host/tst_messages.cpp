@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/core/messages.h"
 #include "host/core/result.h"
+#include "tests/support/testprogram.h"
 
 #include <QtTest>
 
@@ -116,5 +117,5 @@ void MessagesTest::resultHoldsAValueOrAFailure()
     QCOMPARE(bad.error().code, ExitCode::Usage);
 }
 
-QTEST_GUILESS_MAIN(MessagesTest)
+TEST_CLASS(MessagesTest, QCoreApplication)
 #include "tst_messages.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/core/panohostapplication.h"
 #include "tests/host/testphotos.h"
+#include "tests/support/testprogram.h"
 
 #include <QFileInfo>
 #include <QSignalSpy>
@@ -17,6 +18,10 @@ using namespace PanoHost;
 class PanoHostApplicationTest : public QObject
 {
     Q_OBJECT
+
+public:
+    /** Before the application. */
+    static void initMain() { initializePhotoReading(); }
 
 private Q_SLOTS:
     void init();
@@ -293,12 +298,5 @@ void PanoHostApplicationTest::imagesGoWithTheLibrary()
     QCOMPARE(app().thumbnails().pixmapBytes(), qint64(0));
 }
 
-int main(int argc, char *argv[])
-{
-    initializePhotoReading();
-    PanoHostApplication application(argc, argv);
-    PanoHostApplicationTest test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+TEST_CLASS(PanoHostApplicationTest, PanoHostApplication)
 #include "tst_panohostapplication.moc"

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/core/panorama.h"
+#include "tests/support/testprogram.h"
 
 #include <QtTest>
 
@@ -354,5 +355,5 @@ void PanoramaTest::gridIsLaidOut()
     }
 }
 
-QTEST_GUILESS_MAIN(PanoramaTest)
+TEST_CLASS(PanoramaTest, QCoreApplication)
 #include "tst_panorama.moc"

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/core/panoramajson.h"
+#include "tests/support/testprogram.h"
 
 #include <QDir>
 #include <QFile>
@@ -608,5 +609,5 @@ void PanoramaJsonTest::fileErrorsNameTheFile()
     QVERIFY(!writePanoramaJson(sample(), folder.filePath(QStringLiteral("no/x.json"))).ok());
 }
 
-QTEST_GUILESS_MAIN(PanoramaJsonTest)
+TEST_CLASS(PanoramaJsonTest, QCoreApplication)
 #include "tst_panoramajson.moc"

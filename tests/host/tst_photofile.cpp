@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/core/photofile.h"
 #include "tests/host/testphotos.h"
+#include "tests/support/testprogram.h"
 
 #include <QBuffer>
 #include <QColor>
 #include <QFile>
+#include <QGuiApplication>
 #include <QImageWriter>
 #include <QTemporaryDir>
 #include <QtEndian>
@@ -119,6 +121,10 @@ QByteArray jpegClaiming(quint16 width, quint16 height, bool progressive)
 class PhotoFileTest : public QObject
 {
     Q_OBJECT
+
+public:
+    /** Before the application. */
+    static void initMain() { initializePhotoReading(); }
 
 private Q_SLOTS:
     void sizeIsThatOfTheStoredPixels();
@@ -644,12 +650,5 @@ void PhotoFileTest::manyThreadsReadAtOnce()
     }
 }
 
-int main(int argc, char *argv[])
-{
-    initializePhotoReading();
-    QGuiApplication application(argc, argv);
-    PhotoFileTest test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+TEST_CLASS(PhotoFileTest, QGuiApplication)
 #include "tst_photofile.moc"

@@ -5,6 +5,7 @@
 #include "hostlink/xiabout.h"
 #include "hostlink/xipluginimport.h"
 #include "tests/host/testphotos.h"
+#include "tests/support/testprogram.h"
 
 #include <QDir>
 #include <QFile>
@@ -42,6 +43,10 @@ QString foreignPlugin()
 class PluginLibraryTest : public QObject
 {
     Q_OBJECT
+
+public:
+    /** Before the application. */
+    static void initMain() { initializePhotoReading(); }
 
 private Q_SLOTS:
     void init();
@@ -246,12 +251,5 @@ void PluginLibraryTest::whatIsNoLibraryIsRefused()
     QCOMPARE(library.error().code, ExitCode::NoPlugin);
 }
 
-int main(int argc, char *argv[])
-{
-    initializePhotoReading();
-    PanoHostApplication application(argc, argv);
-    PluginLibraryTest test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+TEST_CLASS(PluginLibraryTest, PanoHostApplication)
 #include "tst_pluginlibrary.moc"

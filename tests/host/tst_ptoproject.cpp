@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/core/ptoproject.h"
+#include "tests/support/testprogram.h"
 
 #include <QDir>
 #include <QFile>
@@ -640,5 +641,5 @@ void PtoProjectTest::failedWriteLeavesTheOldProject()
     QVERIFY(!QFileInfo::exists(folder.filePath(QStringLiteral("no"))));
 }
 
-QTEST_GUILESS_MAIN(PtoProjectTest)
+TEST_CLASS(PtoProjectTest, QCoreApplication)
 #include "tst_ptoproject.moc"

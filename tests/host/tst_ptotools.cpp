@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/core/ptoproject.h"
 #include "tests/host/testphotos.h"
+#include "tests/support/testprogram.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -276,5 +278,5 @@ void PtoToolsTest::photosAreFoundThroughALinkedFolder()
     QVERIFY2(nona.exitCode == 0, qPrintable(nona.output));
 }
 
-QTEST_MAIN(PtoToolsTest)
+TEST_CLASS(PtoToolsTest, QApplication)
 #include "tst_ptotools.moc"

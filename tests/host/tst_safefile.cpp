@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/core/safefile.h"
+#include "tests/support/testprogram.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -150,5 +151,5 @@ void SafeFileTest::folderThatTakesNoFilesIsNamed()
     QVERIFY(!QFileInfo::exists(path));
 }
 
-QTEST_GUILESS_MAIN(SafeFileTest)
+TEST_CLASS(SafeFileTest, QCoreApplication)
 #include "tst_safefile.moc"

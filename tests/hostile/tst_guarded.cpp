@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
 #include "hostlink/guarded.h"
+#include "tests/support/testprogram.h"
 
 #include <QMutexLocker>
 #include <QTest>
@@ -62,5 +63,5 @@ void TestGuarded::aUseWithoutTheLockIsReported()
              0);
 }
 
-QTEST_GUILESS_MAIN(TestGuarded)
+TEST_CLASS(TestGuarded, QCoreApplication)
 #include "tst_guarded.moc"

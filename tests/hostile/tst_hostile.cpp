@@ -371,5 +371,5 @@ void TestHostile::cleanupTestCase()
     QVERIFY(!kWithLargeFiles || m_judged >= 400);
 }
 
-FAKE_HOST_MAIN(FakeApplication, TestHostile)
+TEST_CLASS(TestHostile, FakeApplication)
 #include "tst_hostile.moc"

@@ -275,5 +275,5 @@ void TestLowMemory::aPhotoThatCannotBeKeptIsNotCounted()
     QVERIFY(shoot.page->isComplete());
 }
 
-FAKE_HOST_MAIN(SpareHost, TestLowMemory)
+TEST_CLASS(TestLowMemory, SpareHost)
 #include "tst_lowmemory.moc"

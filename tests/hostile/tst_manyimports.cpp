@@ -98,5 +98,5 @@ void TestManyImports::aHundredImportsLeaveNothingBehind()
     QVERIFY(!isMapped());
 }
 
-FAKE_HOST_MAIN(FakeApplication, TestManyImports)
+TEST_CLASS(TestManyImports, FakeApplication)
 #include "tst_manyimports.moc"

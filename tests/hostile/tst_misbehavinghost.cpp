@@ -528,14 +528,5 @@ void TestMisbehavingHost::aHostThatLeavesAsReadingBeginsReadsNothing()
     QCOMPARE(thread.XIImageDefs().size(), 3);
 }
 
-int main(int argc, char *argv[])
-{
-    MisbehavingApplication host(argc, argv);
-    TestMisbehavingHost test;
-    QTEST_SET_MAIN_SOURCE_PATH
-    // The platform's warnings would otherwise hide the figures of a long run.
-    return QTest::qExec(&test,
-                        QCoreApplication::arguments()
-                            + QStringList{ QStringLiteral("-maxwarnings"), QStringLiteral("0") });
-}
+TEST_CLASS(TestMisbehavingHost, MisbehavingApplication)
 #include "tst_misbehavinghost.moc"

@@ -242,5 +242,5 @@ void TestOutsideText::impossibleNamesPassTheGenerators()
     }
 }
 
-FAKE_HOST_MAIN(FakeApplication, TestOutsideText)
+TEST_CLASS(TestOutsideText, FakeApplication)
 #include "tst_outsidetext.moc"

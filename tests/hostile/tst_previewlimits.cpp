@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
 #include "shoot/previewlayout.h"
+#include "tests/support/testprogram.h"
 
 #include <QTest>
 
@@ -139,5 +140,5 @@ void TestPreviewLimits::nothingIsDrawnOverRangesThatAreNotFinite()
     }
 }
 
-QTEST_GUILESS_MAIN(TestPreviewLimits)
+TEST_CLASS(TestPreviewLimits, QCoreApplication)
 #include "tst_previewlimits.moc"

@@ -4,6 +4,7 @@
 #include "importers/clauss/clausstospp.h"
 #include "importers/papywizard/merlintospp.h"
 #include "importers/papywizard/papywizardreader.h"
+#include "tests/support/testprogram.h"
 
 #include <QTemporaryFile>
 #include <QTest>
@@ -174,5 +175,5 @@ void TestRecordLimits::theLargestShootsAreRead()
     QCOMPARE(last.time, QDateTime(QDate(2010, 5, 1), QTime(10, 20, 30)));
 }
 
-QTEST_GUILESS_MAIN(TestRecordLimits)
+TEST_CLASS(TestRecordLimits, QCoreApplication)
 #include "tst_recordlimits.moc"

@@ -338,5 +338,5 @@ void TestEveryForm::zoomHasItsRange()
     QCOMPARE(zoom->orientation(), Qt::Horizontal);
 }
 
-FAKE_HOST_MAIN(FakeApplication, TestEveryForm)
+TEST_CLASS(TestEveryForm, FakeApplication)
 #include "tst_everyform.moc"

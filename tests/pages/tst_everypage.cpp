@@ -1145,5 +1145,5 @@ void TestEveryPage::pageMayGoWhileADialogIsOpen()
     QVERIFY(fakeHost().readFiles().isEmpty());
 }
 
-FAKE_HOST_MAIN(FakeApplication, TestEveryPage)
+TEST_CLASS(TestEveryPage, FakeApplication)
 #include "tst_everypage.moc"

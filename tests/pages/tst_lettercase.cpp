@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
+#include "tests/support/testprogram.h"
 #include "ui/lettercase.h"
 
+#include <QApplication>
 #include <QFontMetricsF>
 #include <QGlyphRun>
 #include <QPainter>
@@ -207,5 +209,5 @@ void TestLetterCase::fullCaseLeavesTheRestToThePainter()
     QVERIFY(letterCase.take(run, QPointF(5, 5), &letters));
 }
 
-QTEST_MAIN(TestLetterCase)
+TEST_CLASS(TestLetterCase, QApplication)
 #include "tst_lettercase.moc"

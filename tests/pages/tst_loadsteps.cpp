@@ -160,11 +160,5 @@ void TestLoadSteps::namesOfThePhotosAreWrittenOnce()
     QCOMPARE(names->cursorPosition(), kPlace);
 }
 
-int main(int argc, char **argv)
-{
-    RecordShootApplication application(argc, argv);
-    TestLoadSteps test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+TEST_CLASS(TestLoadSteps, RecordShootApplication)
 #include "tst_loadsteps.moc"

@@ -505,5 +505,5 @@ void TestLooks::captionStandsOutFromABrightPhoto()
     QCOMPARE(picture.pixelColor(50, 90), QColor(Qt::white));
 }
 
-FAKE_HOST_MAIN(FakeApplication, TestLooks)
+TEST_CLASS(TestLooks, FakeApplication)
 #include "tst_looks.moc"

@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/desktop.h"
 #include "tests/support/heads.h"
+#include "tests/support/testprogram.h"
 #include "ui/xui.h"
 
+#include <QApplication>
 #include <QtTest>
 
 /** The pages in an application that is no host for plug-ins of this kind. */
@@ -76,5 +78,5 @@ void TestPagesNoHost::goingBackAndForthIsHarmless()
     QVERIFY(!shoot.page->isComplete());
 }
 
-QTEST_MAIN(TestPagesNoHost)
+TEST_CLASS(TestPagesNoHost, QApplication)
 #include "tst_pages_nohost.moc"

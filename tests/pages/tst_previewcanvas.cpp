@@ -5,6 +5,7 @@
 #include "tests/support/fakeimage.h"
 #include "tests/support/literalpreview.h"
 #include "tests/support/sanitized.h"
+#include "tests/support/testprogram.h"
 
 #include <QApplication>
 #include <QLinearGradient>
@@ -595,5 +596,5 @@ void TestPreviewCanvas::canvasAtTheLimitIsFollowed()
     follow(scene, plainColours(), inOrder(photos.all(), 24));
 }
 
-QTEST_MAIN(TestPreviewCanvas)
+TEST_CLASS(TestPreviewCanvas, QApplication)
 #include "tst_previewcanvas.moc"

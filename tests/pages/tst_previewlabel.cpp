@@ -5,6 +5,7 @@
 #include "tests/support/allocations.h"
 #include "tests/support/fakeimage.h"
 #include "tests/support/literalpreview.h"
+#include "tests/support/testprogram.h"
 
 #include <QApplication>
 #include <QScrollArea>
@@ -461,5 +462,5 @@ void TestPreviewLabel::updatesAllocateNoFurtherPicture()
     QVERIFY(static_cast<double>(Allocations::peak() - before) <= bound);
 }
 
-QTEST_MAIN(TestPreviewLabel)
+TEST_CLASS(TestPreviewLabel, QApplication)
 #include "tst_previewlabel.moc"

@@ -1100,5 +1100,5 @@ void TestSchemaPages::trapPipeNoticesAReader()
     QCOMPARE(file.readAll(), QByteArray());
 }
 
-FAKE_HOST_MAIN(FakeApplication, TestSchemaPages)
+TEST_CLASS(TestSchemaPages, FakeApplication)
 #include "tst_schemapages.moc"

@@ -578,5 +578,5 @@ void TestShotPreviews::farPositionShrinksThePicture()
     QCOMPARE(picture.pixelColor(picture.width() - 45, 60), kBlue);
 }
 
-FAKE_HOST_MAIN(FakeApplication, TestShotPreviews)
+TEST_CLASS(TestShotPreviews, FakeApplication)
 #include "tst_shotpreviews.moc"

@@ -189,12 +189,5 @@ void TestSoak::recordShootIsLoadedWhole()
     QCOMPARE(pixelDifference(load.driver().picture(), expected), QString());
 }
 
-int main(int argc, char *argv[])
-{
-    RecordShootApplication application(argc, argv);
-    TestSoak test;
-    QTEST_SET_MAIN_SOURCE_PATH
-    return QTest::qExec(&test, argc, argv);
-}
-
+TEST_CLASS(TestSoak, RecordShootApplication)
 #include "tst_soak.moc"

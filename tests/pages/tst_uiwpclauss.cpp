@@ -746,5 +746,5 @@ void TestUIWPClauss::pageMayGoWhileTheBoxIsOpen()
     QVERIFY(fakeHost().readFiles().isEmpty());
 }
 
-FAKE_HOST_MAIN(FakeApplication, TestUIWPClauss)
+TEST_CLASS(TestUIWPClauss, FakeApplication)
 #include "tst_uiwpclauss.moc"

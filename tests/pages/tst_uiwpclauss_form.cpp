@@ -124,5 +124,5 @@ void TestUIWPClaussForm::textsAreTranslatedInTheirContexts()
     QVERIFY(other.subTitle().startsWith(QLatin1String("<<a href=")));
 }
 
-FAKE_HOST_MAIN(FakeApplication, TestUIWPClaussForm)
+TEST_CLASS(TestUIWPClaussForm, FakeApplication)
 #include "tst_uiwpclauss_form.moc"

@@ -87,5 +87,5 @@ void TestUIWPClaussPreview::farPositionShrinksThePicture()
     QVERIFY(qint64{ 4 } * hundredth.width() * hundredth.height() * 10'000 <= 268'435'456);
 }
 
-FAKE_HOST_MAIN(FakeApplication, TestUIWPClaussPreview)
+TEST_CLASS(TestUIWPClaussPreview, FakeApplication)
 #include "tst_uiwpclauss_preview.moc"

@@ -799,5 +799,5 @@ void TestUIWPGigapan::cancelledDialogKeepsTheGrid()
     QCOMPARE(shoot.driver.picture(), picture);
 }
 
-FAKE_HOST_MAIN(FakeApplication, TestUIWPGigapan)
+TEST_CLASS(TestUIWPGigapan, FakeApplication)
 #include "tst_uiwpgigapan.moc"

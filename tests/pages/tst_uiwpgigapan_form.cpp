@@ -254,5 +254,5 @@ void TestUIWPGigapanForm::textsAreTranslatedInTheirContexts()
     QVERIFY(other.subTitle().startsWith(QLatin1String("<<a href=")));
 }
 
-FAKE_HOST_MAIN(FakeApplication, TestUIWPGigapanForm)
+TEST_CLASS(TestUIWPGigapanForm, FakeApplication)
 #include "tst_uiwpgigapan_form.moc"

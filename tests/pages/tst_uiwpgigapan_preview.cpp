@@ -735,5 +735,5 @@ void TestUIWPGigapanPreview::resetDuringReadingShowsTheFreshGrid()
     QCOMPARE(shoot.driver.picture(), outlines(QSize(264, 212), QSize(48, 48), 4, 5));
 }
 
-FAKE_HOST_MAIN(FakeApplication, TestUIWPGigapanPreview)
+TEST_CLASS(TestUIWPGigapanPreview, FakeApplication)
 #include "tst_uiwpgigapan_preview.moc"

@@ -111,5 +111,5 @@ void TestUIWPMerlin::cancelledRecordDialogReadsTheFileAgain()
     QCOMPARE(fakeHost().setLastPaths, told);
 }
 
-FAKE_HOST_MAIN(FakeApplication, TestUIWPMerlin)
+TEST_CLASS(TestUIWPMerlin, FakeApplication)
 #include "tst_uiwpmerlin.moc"

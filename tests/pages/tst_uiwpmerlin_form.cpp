@@ -176,5 +176,5 @@ void TestUIWPMerlinForm::labelsNameTheirFields()
                     "label_8 > m_leHeaderComment", "m_lbImage > m_leImage" }));
 }
 
-FAKE_HOST_MAIN(FakeApplication, TestUIWPMerlinForm)
+TEST_CLASS(TestUIWPMerlinForm, FakeApplication)
 #include "tst_uiwpmerlin_form.moc"

@@ -111,5 +111,5 @@ void TestUIWPMerlinPreview::picturesComeWithEveryTenthPhoto()
     QCOMPARE(cellColour(twelve, QPoint(2 + 11 * 96, 2)), kGreen);
 }
 
-FAKE_HOST_MAIN(FakeApplication, TestUIWPMerlinPreview)
+TEST_CLASS(TestUIWPMerlinPreview, FakeApplication)
 #include "tst_uiwpmerlin_preview.moc"

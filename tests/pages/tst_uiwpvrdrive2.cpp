@@ -220,5 +220,5 @@ void TestUIWPVRDrive2::samePhotosFromThePhotoDialogAreReadAgain()
     QVERIFY(shoot.page.isComplete());
 }
 
-FAKE_HOST_MAIN(FakeApplication, TestUIWPVRDrive2)
+TEST_CLASS(TestUIWPVRDrive2, FakeApplication)
 #include "tst_uiwpvrdrive2.moc"

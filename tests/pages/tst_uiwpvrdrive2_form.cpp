@@ -226,5 +226,5 @@ void TestUIWPVRDrive2Form::formHasAContextOfItsOwn()
     QVERIFY(page.subTitle().startsWith(QLatin1String("<<a href=")));
 }
 
-FAKE_HOST_MAIN(FakeApplication, TestUIWPVRDrive2Form)
+TEST_CLASS(TestUIWPVRDrive2Form, FakeApplication)
 #include "tst_uiwpvrdrive2_form.moc"

@@ -3,7 +3,9 @@
 #include "ui/zoomedcopy.h"
 
 #include "tests/support/literalpreview.h"
+#include "tests/support/testprogram.h"
 
+#include <QApplication>
 #include <QPainter>
 #include <QPixmap>
 #include <QtTest>
@@ -157,5 +159,5 @@ void TestZoomedCopy::forgottenCopyHasNoPercent()
     QCOMPARE(copy.percent(), 0);
 }
 
-QTEST_MAIN(TestZoomedCopy)
+TEST_CLASS(TestZoomedCopy, QApplication)
 #include "tst_zoomedcopy.moc"

@@ -4,6 +4,7 @@
 
 #include "gate.h"
 #include "hostcontract.h"
+#include "testprogram.h"
 
 #include <QApplication>
 #include <QPixmap>

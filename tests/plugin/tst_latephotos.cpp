@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
 #include "photoshoot.h"
+#include "testprogram.h"
 
 #include <QDoubleSpinBox>
 #include <QTest>
@@ -472,10 +473,5 @@ void TestLatePhotos::photosThatDoNotAnswerAreAskedSeldomWhenNewsPileUp()
     }
 }
 
-int main(int argc, char *argv[])
-{
-    PhotoHost application(argc, argv);
-    TestLatePhotos test;
-    return QTest::qExec(&test, argc, argv);
-}
+TEST_CLASS(TestLatePhotos, PhotoHost)
 #include "tst_latephotos.moc"

@@ -3,6 +3,7 @@
 #include "incidents.h"
 #include "longruns.h"
 #include "photoshoot.h"
+#include "testprogram.h"
 
 #include <QRandomGenerator>
 #include <QTest>
@@ -319,13 +320,5 @@ void TestPhotoLifetimes::thePageMayGoWhileItHandsOver()
     turnEventLoop();
 }
 
-int main(int argc, char *argv[])
-{
-    PhotoHost application(argc, argv);
-    TestPhotoLifetimes test;
-    // The platform's warnings would otherwise hide the figures of a long run.
-    return QTest::qExec(&test,
-                        QCoreApplication::arguments()
-                            + QStringList{ QStringLiteral("-maxwarnings"), QStringLiteral("0") });
-}
+TEST_CLASS(TestPhotoLifetimes, PhotoHost)
 #include "tst_photolifetimes.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "incidents.h"
 #include "photoshoot.h"
+#include "testprogram.h"
 
 #include <QDoubleSpinBox>
 #include <QTest>
@@ -372,10 +373,5 @@ void TestPhotoObjects::newLooksAreTakenByTheNextRedraw()
     QCOMPARE(shoot.wrong(), QString());
 }
 
-int main(int argc, char *argv[])
-{
-    PhotoHost application(argc, argv);
-    TestPhotoObjects test;
-    return QTest::qExec(&test, argc, argv);
-}
+TEST_CLASS(TestPhotoObjects, PhotoHost)
 #include "tst_photoobjects.moc"

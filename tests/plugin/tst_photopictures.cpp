@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
 #include "photoshoot.h"
+#include "testprogram.h"
 
 #include <QTest>
 
@@ -199,10 +200,5 @@ void TestPhotoPictures::nothingIsAskedLaterAfterNext()
     QCOMPARE(LayoutPicture::difference(shoot.picture(), picture), QString());
 }
 
-int main(int argc, char *argv[])
-{
-    PhotoHost application(argc, argv);
-    TestPhotoPictures test;
-    return QTest::qExec(&test, argc, argv);
-}
+TEST_CLASS(TestPhotoPictures, PhotoHost)
 #include "tst_photopictures.moc"

@@ -837,10 +837,5 @@ void TestPlugin::aPageWhoseStateTheHostCannotWriteIsNotLeftBehind()
     QVERIFY(!Contract::isMapped());
 }
 
-int main(int argc, char *argv[])
-{
-    Host application(argc, argv);
-    TestPlugin test;
-    return QTest::qExec(&test, argc, argv);
-}
+TEST_CLASS(TestPlugin, Host)
 #include "tst_plugin.moc"

@@ -325,10 +325,5 @@ void TestPluginDescriptions::descriptionsOutliveTheModule()
     QCOMPARE(textOf(got.links), QStringLiteral("1:0-1 2:0-2 4:1-2 3:0-3 1:2-3 2:1-3"));
 }
 
-int main(int argc, char *argv[])
-{
-    Host application(argc, argv);
-    TestPluginDescriptions test;
-    return QTest::qExec(&test, argc, argv);
-}
+TEST_CLASS(TestPluginDescriptions, Host)
 #include "tst_plugin_descriptions.moc"

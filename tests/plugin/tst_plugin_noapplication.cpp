@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
 #include "hostcontract.h"
+#include "testprogram.h"
 
 #include <QCoreApplication>
 #include <QTest>
@@ -40,5 +41,5 @@ void TestPluginWithoutApplication::theLibraryWorksInAConsoleProgramToo()
     QVERIFY(module.library()->plugins(0).isEmpty());
 }
 
-QTEST_APPLESS_MAIN(TestPluginWithoutApplication)
+TEST_CLASS(TestPluginWithoutApplication, TestProgram::NoApplication)
 #include "tst_plugin_noapplication.moc"

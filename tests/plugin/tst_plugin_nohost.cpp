@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
 #include "hostcontract.h"
+#include "testprogram.h"
 
+#include <QApplication>
 #include <QTest>
 
 /** The module in a program whose application object is no host. */
@@ -66,5 +68,5 @@ void TestPluginWithoutHost::theModuleUnloadsWithAllItsPages()
     QVERIFY(!Contract::isMapped());
 }
 
-QTEST_MAIN(TestPluginWithoutHost)
+TEST_CLASS(TestPluginWithoutHost, QApplication)
 #include "tst_plugin_nohost.moc"

@@ -594,10 +594,5 @@ void TestPluginPages::mendedScriptIsReadOnReturn()
     QCOMPARE(clicker.messageBoxes().size(), 3);
 }
 
-int main(int argc, char *argv[])
-{
-    PageHost application(argc, argv);
-    TestPluginPages test;
-    return QTest::qExec(&test, argc, argv);
-}
+TEST_CLASS(TestPluginPages, PageHost)
 #include "tst_plugin_pages.moc"

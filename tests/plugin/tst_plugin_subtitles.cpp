@@ -131,10 +131,5 @@ void TestSubtitles::subtitleFitsTwoLines()
              qPrintable(QStringLiteral("%1 lines of %2 pixels").arg(lines).arg(width)));
 }
 
-int main(int argc, char *argv[])
-{
-    TranslatingHost application(argc, argv);
-    TestSubtitles test;
-    return QTest::qExec(&test, argc, argv);
-}
+TEST_CLASS(TestSubtitles, TranslatingHost)
 #include "tst_plugin_subtitles.moc"

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "tests/support/fakehost.h"
+#include "tests/support/testprogram.h"
 
 #include <QApplication>
 #include <QCoreApplication>
@@ -31,13 +32,3 @@ public:
 
 /** The host double of the running test; the application must be one of the two above. */
 [[nodiscard]] FakeHost &fakeHost();
-
-/** The main function of a test class that runs in a host double of type \p Application. */
-#define FAKE_HOST_MAIN(Application, TestClass)                                                     \
-    int main(int argc, char *argv[])                                                               \
-    {                                                                                              \
-        Application application(argc, argv);                                                       \
-        TestClass test;                                                                            \
-        QTEST_SET_MAIN_SOURCE_PATH                                                                 \
-        return QTest::qExec(&test, argc, argv);                                                    \
-    }

@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
+#include "tests/support/testprogram.h"
 #include "tests/ui/onscreen.h"
 
+#include <QApplication>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQmlProperty>
@@ -349,5 +351,5 @@ void ControlsTest::lightButtonWritesInTheMiddle()
              qPrintable(QString::number(letters.top())));
 }
 
-QTEST_MAIN(ControlsTest)
+TEST_CLASS(ControlsTest, QApplication)
 #include "tst_controls.moc"

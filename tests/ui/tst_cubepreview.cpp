@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
+#include "tests/support/testprogram.h"
 #include "tests/ui/onscreen.h"
 
+#include <QApplication>
 #include <QPainter>
 #include <QQmlEngine>
 #include <QQuickItem>
@@ -329,5 +331,5 @@ void CubePreviewTest::emptyPreviewSaysSo()
     QTRY_VERIFY(lightPixels() > 100 && lightPixels() < 400 * 40 / 4);
 }
 
-QTEST_MAIN(CubePreviewTest)
+TEST_CLASS(CubePreviewTest, QApplication)
 #include "tst_cubepreview.moc"

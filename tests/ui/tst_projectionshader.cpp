@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
+#include "tests/support/testprogram.h"
 #include "tests/ui/onscreen.h"
 
+#include <QApplication>
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
 #include <QOpenGLShaderProgram>
@@ -239,5 +241,5 @@ void ProjectionShaderTest::projectionEndsWithTheSphere()
     QVERIFY(!qIsFinite(at(beyond).x()));
 }
 
-QTEST_MAIN(ProjectionShaderTest)
+TEST_CLASS(ProjectionShaderTest, QApplication)
 #include "tst_projectionshader.moc"

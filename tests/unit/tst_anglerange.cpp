@@ -6,6 +6,7 @@
 #include "model/structuredpanoramaproperties.h"
 #include "shoot/angles.h"
 #include "shoot/shootstate.h"
+#include "tests/support/testprogram.h"
 
 #include <QTest>
 
@@ -235,5 +236,5 @@ void TestAngleRange::radiansAreRoundedOnce()
     QVERIFY(std::isnan(PanoHead::toRadians(kNaN)));
 }
 
-QTEST_GUILESS_MAIN(TestAngleRange)
+TEST_CLASS(TestAngleRange, QCoreApplication)
 #include "tst_anglerange.moc"

@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
+#include "tests/support/testprogram.h"
 #include "ui/blocksignal.h"
 
+#include <QApplication>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QTest>
@@ -175,5 +177,5 @@ void TestBlockSignal::aNullRootTouchesNothing()
     QVERIFY(!page.signalsBlocked());
 }
 
-QTEST_MAIN(TestBlockSignal)
+TEST_CLASS(TestBlockSignal, QApplication)
 #include "tst_blocksignal.moc"

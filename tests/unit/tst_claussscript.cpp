@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
 #include "importers/clauss/claussscript.h"
+#include "tests/support/testprogram.h"
 
 #include <QRandomGenerator>
 #include <QRegularExpression>
@@ -473,5 +474,5 @@ void TestClaussScript::readsLikeTheRegularExpression()
     }
 }
 
-QTEST_GUILESS_MAIN(TestClaussScript)
+TEST_CLASS(TestClaussScript, QCoreApplication)
 #include "tst_claussscript.moc"

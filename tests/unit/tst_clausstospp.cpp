@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "importers/clauss/clausstospp.h"
 
+#include "tests/support/testprogram.h"
 #include "tests/unit/plainimage.h"
 
 #include <QRandomGenerator>
@@ -444,5 +445,5 @@ void TestClaussToSPP::anglesThatAreNotFiniteDoNoHarm()
     QCOMPARE(linksOf(generator), QStringLiteral("2-3"));
 }
 
-QTEST_GUILESS_MAIN(TestClaussToSPP)
+TEST_CLASS(TestClaussToSPP, QCoreApplication)
 #include "tst_clausstospp.moc"

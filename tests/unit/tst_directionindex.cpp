@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
 #include "shoot/directionindex.h"
+#include "tests/support/testprogram.h"
 
 #include <QtTest>
 
@@ -249,5 +250,5 @@ void TestDirectionIndex::emptyIndexCanBeMade()
     QVERIFY(!visits(noneFinite, 0, 1.0, 1).contains(1));
 }
 
-QTEST_GUILESS_MAIN(TestDirectionIndex)
+TEST_CLASS(TestDirectionIndex, QCoreApplication)
 #include "tst_directionindex.moc"

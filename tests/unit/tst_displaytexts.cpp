@@ -3,6 +3,7 @@
 #include "shoot/displaytexts.h"
 
 #include "shoot/anglerange.h"
+#include "tests/support/testprogram.h"
 
 #include <QTest>
 
@@ -140,5 +141,5 @@ void TestDisplayTexts::warningsAreRed()
              QStringLiteral("<p style='color:red'>100 %1</p>"));
 }
 
-QTEST_GUILESS_MAIN(TestDisplayTexts)
+TEST_CLASS(TestDisplayTexts, QCoreApplication)
 #include "tst_displaytexts.moc"

@@ -11,10 +11,12 @@
 #include "importers/vrdrive2/uiwpvrdrive2.h"
 #include "importers/vrdrive2/xvrdrive2import.h"
 #include "plugin/library.h"
+#include "tests/support/testprogram.h"
 #include "ui/blocksignal.h"
 #include "ui/xui.h"
 #include "ui/xuipixmaphelper.h"
 
+#include <QApplication>
 #include <QIcon>
 #include <QMetaMethod>
 #include <QTest>
@@ -239,5 +241,5 @@ void TestFrameShape::pagesAddNoVirtualOperations()
     QVERIFY(nextVirtualPlace<PageWithAddedOperation>() != wizardPages);
 }
 
-QTEST_MAIN(TestFrameShape)
+TEST_CLASS(TestFrameShape, QApplication)
 #include "tst_frameshape.moc"

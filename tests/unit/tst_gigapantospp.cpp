@@ -3,6 +3,7 @@
 #include "importers/gigapan/gigapantospp.h"
 #include "importers/gigapan/gridguess.h"
 #include "tests/support/literalgrid.h"
+#include "tests/support/testprogram.h"
 
 #include <QtTest>
 
@@ -298,5 +299,5 @@ void TestGigapanToSPP::columnsFollowFilesBracketAndRows()
     QTEST(PanoHead::columnsFor(count, ignored, bracket, rows), "columns");
 }
 
-QTEST_GUILESS_MAIN(TestGigapanToSPP)
+TEST_CLASS(TestGigapanToSPP, QCoreApplication)
 #include "tst_gigapantospp.moc"

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
 #include "importers/gigapan/gridlayout.h"
+#include "tests/support/testprogram.h"
 
 #include <QtTest>
 
@@ -173,5 +174,5 @@ void TestGridPreview::sameGridKeepsItsCells()
     QCOMPARE(layout.of(grid(3, 2, 1), QSize(100, 100)).cells[1].box, QRectF(58, 4, 50, 50));
 }
 
-QTEST_GUILESS_MAIN(TestGridPreview)
+TEST_CLASS(TestGridPreview, QCoreApplication)
 #include "tst_gridpreview.moc"

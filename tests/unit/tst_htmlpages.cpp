@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
+#include "tests/support/testprogram.h"
+
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
@@ -128,5 +130,5 @@ void HtmlPagesTest::textEditorMissesPicturesThatNeverAnswer()
     QVERIFY(page.contains(QLatin1String("setTimeout(judgePictures, kPatience)")));
 }
 
-QTEST_GUILESS_MAIN(HtmlPagesTest)
+TEST_CLASS(HtmlPagesTest, QCoreApplication)
 #include "tst_htmlpages.moc"

@@ -3,6 +3,7 @@
 #include "shoot/linksearch.h"
 
 #include "tests/support/literallinks.h"
+#include "tests/support/testprogram.h"
 
 #include <QtTest>
 
@@ -462,5 +463,5 @@ void TestLinkSearch::millionsOfLinksWereCompared()
     QVERIFY(m_links > 5'000'000);
 }
 
-QTEST_GUILESS_MAIN(TestLinkSearch)
+TEST_CLASS(TestLinkSearch, QCoreApplication)
 #include "tst_linksearch.moc"

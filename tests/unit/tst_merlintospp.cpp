@@ -3,6 +3,7 @@
 #include "importers/papywizard/merlintospp.h"
 
 #include "shoot/linksearch.h"
+#include "tests/support/testprogram.h"
 
 #include <QRandomGenerator>
 #include <QTest>
@@ -758,5 +759,5 @@ void TestMerlinToSPP::aCopyIsIndependent()
     QCOMPARE(generator.yaw.at(0), 0.0F);
 }
 
-QTEST_GUILESS_MAIN(TestMerlinToSPP)
+TEST_CLASS(TestMerlinToSPP, QCoreApplication)
 #include "tst_merlintospp.moc"

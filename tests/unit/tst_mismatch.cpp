@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
 #include "shoot/mismatch.h"
+#include "tests/support/testprogram.h"
 
 #include <QTest>
 
@@ -130,5 +131,5 @@ void TestMismatch::photosComeInWholeBrackets()
     QTEST(fillsBrackets(photos, bracket), "fills");
 }
 
-QTEST_GUILESS_MAIN(TestMismatch)
+TEST_CLASS(TestMismatch, QCoreApplication)
 #include "tst_mismatch.moc"

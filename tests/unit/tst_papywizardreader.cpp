@@ -3,6 +3,7 @@
 #include "importers/papywizard/papywizardreader.h"
 
 #include "importers/papywizard/merlintospp.h"
+#include "tests/support/testprogram.h"
 
 #include <QDir>
 #include <QFile>
@@ -672,5 +673,5 @@ void TestPapywizardReader::parseFollowsLinksAndTakesAnyName()
     QCOMPARE(generator.shots.size(), 6);
 }
 
-QTEST_GUILESS_MAIN(TestPapywizardReader)
+TEST_CLASS(TestPapywizardReader, QCoreApplication)
 #include "tst_papywizardreader.moc"

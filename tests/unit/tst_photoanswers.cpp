@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "shoot/photoanswers.h"
 
+#include "tests/support/testprogram.h"
 #include "tests/unit/plainimage.h"
 
 #include <QPair>
@@ -524,5 +525,5 @@ void TestPhotoAnswers::nothingIsKnownOfForgottenPhotos()
     QVERIFY(answers.inOrder().isEmpty());
 }
 
-QTEST_GUILESS_MAIN(TestPhotoAnswers)
+TEST_CLASS(TestPhotoAnswers, QCoreApplication)
 #include "tst_photoanswers.moc"

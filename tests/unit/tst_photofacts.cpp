@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
 #include "shoot/photofacts.h"
+#include "tests/support/testprogram.h"
 
 #include <QTest>
 
@@ -43,5 +44,5 @@ void TestPhotoFacts::photosKnowBetterThanTheRecord()
     QTEST(preset.lensType, "lens");
 }
 
-QTEST_GUILESS_MAIN(TestPhotoFacts)
+TEST_CLASS(TestPhotoFacts, QCoreApplication)
 #include "tst_photofacts.moc"

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
 #include "shoot/photoselection.h"
+#include "tests/support/testprogram.h"
 
 #include <QTest>
 
@@ -52,5 +53,5 @@ void TestPhotoSelection::selectionsAreParted()
     QTEST(selection.photos.join(QLatin1Char(' ')), "photos");
 }
 
-QTEST_GUILESS_MAIN(TestPhotoSelection)
+TEST_CLASS(TestPhotoSelection, QCoreApplication)
 #include "tst_photoselection.moc"

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
 #include "shoot/previewlayout.h"
+#include "tests/support/testprogram.h"
 
 #include <QTest>
 
@@ -464,5 +465,5 @@ void TestPreviewLayout::aKeptLayoutFollowsItsShots()
     QVERIFY(kept.of(shots, extents).isEmpty());
 }
 
-QTEST_GUILESS_MAIN(TestPreviewLayout)
+TEST_CLASS(TestPreviewLayout, QCoreApplication)
 #include "tst_previewlayout.moc"

@@ -730,5 +730,5 @@ void TestReadingThread::randomOperationsKeepTheirPromises()
     }
 }
 
-FAKE_HOST_MAIN(FakeCoreApplication, TestReadingThread)
+TEST_CLASS(TestReadingThread, FakeCoreApplication)
 #include "tst_readingthread.moc"

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
 #include "hostlink/readingthread.h"
+#include "tests/support/testprogram.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -36,5 +37,5 @@ void TestReadingThreadWithoutHost::clearStillAnswersWithLoaded()
     QCOMPARE(loaded.count(), 1);
 }
 
-QTEST_GUILESS_MAIN(TestReadingThreadWithoutHost)
+TEST_CLASS(TestReadingThreadWithoutHost, QCoreApplication)
 #include "tst_readingthread_nohost.moc"

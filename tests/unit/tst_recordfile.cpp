@@ -6,6 +6,7 @@
 #include "shoot/recordedshoot.h"
 #include "shoot/recordlimits.h"
 #include "shoot/shootstate.h"
+#include "tests/support/testprogram.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -248,5 +249,5 @@ void TestRecordFile::recordAndPhotosAreCompared()
     QCOMPARE(PanoHead::mismatchOf(state, recorded, 2), Mismatch::None);
 }
 
-QTEST_GUILESS_MAIN(TestRecordFile)
+TEST_CLASS(TestRecordFile, QCoreApplication)
 #include "tst_recordfile.moc"

@@ -5,6 +5,7 @@
 #include "model/lensmodel.h"
 #include "model/shootdata.h"
 #include "model/structuredpanoramaproperties.h"
+#include "tests/support/testprogram.h"
 
 #include <QTest>
 
@@ -203,5 +204,5 @@ void TestRecords::freshUiSettingsWantTheDesktopsDialogs()
     QCOMPARE(XUIInstances().settings, nullptr);
 }
 
-QTEST_GUILESS_MAIN(TestRecords)
+TEST_CLASS(TestRecords, QCoreApplication)
 #include "tst_records.moc"

@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
+#include "tests/support/testprogram.h"
+
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
@@ -543,5 +545,5 @@ void ResourcesTest::packDisappearsWithItsCleanup()
     QVERIFY(QFile::exists(uiFile));
 }
 
-QTEST_GUILESS_MAIN(ResourcesTest)
+TEST_CLASS(ResourcesTest, QCoreApplication)
 #include "tst_resources.moc"

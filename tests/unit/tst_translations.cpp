@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
+#include "tests/support/testprogram.h"
+
 #include <QDir>
 #include <QHash>
 #include <QRegularExpression>
@@ -245,5 +247,5 @@ void TranslationsTest::compiledTextIsFoundByItsClass()
     QCOMPARE(translator.translate(context, source), translation);
 }
 
-QTEST_GUILESS_MAIN(TranslationsTest)
+TEST_CLASS(TranslationsTest, QCoreApplication)
 #include "tst_translations.moc"

@@ -1,5 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
+#include "tests/support/testprogram.h"
+
+#include <QApplication>
 #include <QColor>
 #include <QJSValue>
 #include <QMatrix4x4>
@@ -219,5 +222,5 @@ void UiQmlTest::previewKeepsYawInOneTurnAndPitchUpright()
     QCOMPARE(turn(-40, -200), QPointF(330, -90));
 }
 
-QTEST_MAIN(UiQmlTest)
+TEST_CLASS(UiQmlTest, QApplication)
 #include "tst_uiqml.moc"

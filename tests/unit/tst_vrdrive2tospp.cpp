@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "importers/vrdrive2/vrdrive2tospp.h"
 
+#include "tests/support/testprogram.h"
 #include "tests/unit/plainimage.h"
 
 #include <QRandomGenerator>
@@ -394,5 +395,5 @@ void TestVRDrive2ToSPP::secondCallMayHaveAnotherBracketCount()
     QCOMPARE(words(generator), split("ba ebcda a"));
 }
 
-QTEST_GUILESS_MAIN(TestVRDrive2ToSPP)
+TEST_CLASS(TestVRDrive2ToSPP, QCoreApplication)
 #include "tst_vrdrive2tospp.moc"

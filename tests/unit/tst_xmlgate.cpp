@@ -3,6 +3,7 @@
 #include "importers/papywizard/xmlgate.h"
 
 #include "importers/papywizard/papywizardreader.h"
+#include "tests/support/testprogram.h"
 
 #include <QDomDocument>
 #include <QRandomGenerator>
@@ -801,5 +802,5 @@ void TestXmlGate::mutantsKeepGateAndParserInStep()
     QVERIFY2(parsed > 100, qPrintable(QString::number(parsed)));
 }
 
-QTEST_GUILESS_MAIN(TestXmlGate)
+TEST_CLASS(TestXmlGate, QCoreApplication)
 #include "tst_xmlgate.moc"

@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
+#include "tests/support/testprogram.h"
 #include "ui/xui.h"
 
+#include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
@@ -308,5 +310,5 @@ void TestXui::theScriptLibraryIsLoadedOnceAProcess()
     QCOMPARE(log.entries(), QStringList());
 }
 
-QTEST_MAIN(TestXui)
+TEST_CLASS(TestXui, QApplication)
 #include "tst_xui.moc"

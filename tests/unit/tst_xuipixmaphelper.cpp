@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
+#include "tests/support/testprogram.h"
 #include "ui/xuipixmaphelper.h"
 
+#include <QApplication>
 #include <QImage>
 #include <QTemporaryDir>
 #include <QTest>
@@ -223,5 +225,5 @@ void TestXuiPixmapHelper::createOfAMissingPictureIsNull()
     QVERIFY(XuiPixmapHelper::CreateHighDpiPixmap(QString(), 255, {}).isNull());
 }
 
-QTEST_MAIN(TestXuiPixmapHelper)
+TEST_CLASS(TestXuiPixmapHelper, QApplication)
 #include "tst_xuipixmaphelper.moc"

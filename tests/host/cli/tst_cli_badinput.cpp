@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "tests/host/cli/clibench.h"
+#include "tests/support/testprogram.h"
 
 #include <QDir>
 #include <QJsonArray>
@@ -404,5 +405,5 @@ void TestCliBadInput::missingLibraryExitsWithFour()
     compareRefusal(m_bench.run(words + m_photos + options), 4, QStringLiteral(".*; .*--plugin.*"));
 }
 
-QTEST_GUILESS_MAIN(TestCliBadInput)
+TEST_CLASS(TestCliBadInput, QCoreApplication)
 #include "tst_cli_badinput.moc"

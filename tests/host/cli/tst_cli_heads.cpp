@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "tests/host/cli/clibench.h"
 #include "tests/host/testphotos.h"
+#include "tests/support/testprogram.h"
 
 #include <QImage>
 #include <QJsonArray>
@@ -549,5 +550,5 @@ void TestCliHeads::projectIsAcceptedByCheckpto()
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);
 }
 
-QTEST_GUILESS_MAIN(TestCliHeads)
+TEST_CLASS(TestCliHeads, QCoreApplication)
 #include "tst_cli_heads.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "tests/host/cli/clibench.h"
 #include "tests/host/testphotos.h"
+#include "tests/support/testprogram.h"
 
 #include <QDir>
 #include <QFile>
@@ -499,5 +500,5 @@ void TestCliImport::checkptoAcceptsTheProject()
     QCOMPARE(process.exitCode(), 6);
 }
 
-QTEST_GUILESS_MAIN(TestCliImport)
+TEST_CLASS(TestCliImport, QCoreApplication)
 #include "tst_cli_import.moc"

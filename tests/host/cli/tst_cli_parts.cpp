@@ -6,6 +6,7 @@
 #include "host/cli/photoaliases.h"
 #include "host/cli/wordsuggestion.h"
 #include "tests/host/testphotos.h"
+#include "tests/support/testprogram.h"
 
 #include <QFileInfo>
 #include <QTemporaryDir>
@@ -250,5 +251,5 @@ void TestCliParts::optionsFollowWhatTheHeadHas()
     QCOMPARE(own.join(QLatin1Char(' ')), options);
 }
 
-QTEST_GUILESS_MAIN(TestCliParts)
+TEST_CLASS(TestCliParts, QCoreApplication)
 #include "tst_cli_parts.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "tests/host/cli/clibench.h"
 #include "tests/host/testphotos.h"
+#include "tests/support/testprogram.h"
 
 #include <QDir>
 #include <QImage>
@@ -474,5 +475,5 @@ void TestCliTools::fullTemporaryFolderIsNamed()
     QCOMPARE(m_bench->content(QStringLiteral("after.txt")), QByteArray("filler\nold\nphotos\n"));
 }
 
-QTEST_GUILESS_MAIN(TestCliTools)
+TEST_CLASS(TestCliTools, QCoreApplication)
 #include "tst_cli_tools.moc"

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "tests/host/cli/clibench.h"
+#include "tests/support/testprogram.h"
 
 #include <QFile>
 #include <QImage>
@@ -304,5 +305,5 @@ void TestCliUsage::colorIsUsedOnRequestOnly()
     QCOMPARE(run.err.startsWith(QLatin1String("\x1b[31mpanohost: error:")), colored);
 }
 
-QTEST_GUILESS_MAIN(TestCliUsage)
+TEST_CLASS(TestCliUsage, QCoreApplication)
 #include "tst_cli_usage.moc"

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/demo/camera.h"
+#include "tests/support/testprogram.h"
 
 #include <QtTest>
 
@@ -233,5 +234,5 @@ void TestCamera::partOfTheSphereIsThatPartOfTheWholePicture()
     QVERIFY(part != developed(exposePart(light, { QSize(256, 512), 90.0, 91.0, crop }, 1)));
 }
 
-QTEST_GUILESS_MAIN(TestCamera)
+TEST_CLASS(TestCamera, QCoreApplication)
 #include "tst_camera.moc"

@@ -6,6 +6,7 @@
 #include "host/demo/photoshoot.h"
 #include "host/demo/psnr.h"
 #include "host/demo/stitcher.h"
+#include "tests/support/testprogram.h"
 
 #include <QDir>
 #include <QProcess>
@@ -329,5 +330,5 @@ void TestEndToEnd::demoRefusesWrongWords()
     QCOMPARE(filesBelow(folder.path()), QStringList());
 }
 
-QTEST_GUILESS_MAIN(TestEndToEnd)
+TEST_CLASS(TestEndToEnd, QCoreApplication)
 #include "tst_endtoend.moc"

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/demo/exifwriter.h"
+#include "tests/support/testprogram.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -201,5 +202,5 @@ void TestExifWriter::unwritablePlacesAreReportedAndLeaveNothing()
     QVERIFY(!writePhoto(missing, striped(plan.camera.size), shotsOf(plan).first(), plan));
 }
 
-QTEST_GUILESS_MAIN(TestExifWriter)
+TEST_CLASS(TestExifWriter, QCoreApplication)
 #include "tst_exifwriter.moc"

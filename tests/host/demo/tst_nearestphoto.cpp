@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/demo/nearestphoto.h"
+#include "tests/support/testprogram.h"
 
 #include <QtTest>
 
@@ -102,5 +103,5 @@ void TestNearestPhoto::unreadablePhotosAreLeftOut()
     QCOMPARE(nearestPhotoPanorama({}, 360).pixelColor(180, 90).alpha(), 0);
 }
 
-QTEST_GUILESS_MAIN(TestNearestPhoto)
+TEST_CLASS(TestNearestPhoto, QCoreApplication)
 #include "tst_nearestphoto.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/demo/demohead.h"
 #include "host/demo/projectcheck.h"
+#include "tests/support/testprogram.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -148,5 +149,5 @@ void TestProjectCheck::missingCheckptoIsNamed()
     QCOMPARE(check.error().what, QStringLiteral("checkpto"));
 }
 
-QTEST_GUILESS_MAIN(TestProjectCheck)
+TEST_CLASS(TestProjectCheck, QCoreApplication)
 #include "tst_projectcheck.moc"

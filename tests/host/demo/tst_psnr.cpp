@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/demo/psnr.h"
+#include "tests/support/testprogram.h"
 
 #include <QtTest>
 
@@ -77,5 +78,5 @@ void TestPsnr::picturesThatCannotBeComparedAgreeInNothing()
     QCOMPARE(agreementOf(QImage(), QImage()).coveredShare, 0.0);
 }
 
-QTEST_GUILESS_MAIN(TestPsnr)
+TEST_CLASS(TestPsnr, QCoreApplication)
 #include "tst_psnr.moc"

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/demo/demohead.h"
+#include "tests/support/testprogram.h"
 
 #include <QXmlStreamReader>
 #include <QtTest>
@@ -215,5 +216,5 @@ void TestRecordWriter::scriptShootsOncePerExposure()
              QByteArray("op_v-angle=0\nop_h-angle=0\nop_shoot\nop_shoot\n"));
 }
 
-QTEST_GUILESS_MAIN(TestRecordWriter)
+TEST_CLASS(TestRecordWriter, QCoreApplication)
 #include "tst_recordwriter.moc"

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/demo/scene.h"
+#include "tests/support/testprogram.h"
 
 #include <QtTest>
 
@@ -147,5 +148,5 @@ void TestScene::thereAreNoHardEdges()
     QCOMPARE(steep, 0);
 }
 
-QTEST_GUILESS_MAIN(TestScene)
+TEST_CLASS(TestScene, QCoreApplication)
 #include "tst_scene.moc"

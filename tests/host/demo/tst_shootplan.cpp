@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/demo/shootplan.h"
+#include "tests/support/testprogram.h"
 
 #include <QtTest>
 
@@ -111,5 +112,5 @@ void TestShootPlan::onlyACameraTurnedWithItsPixelsIsRolled()
     QCOMPARE(shotsOf(plan).first().head.rollDegrees, 0.0);
 }
 
-QTEST_GUILESS_MAIN(TestShootPlan)
+TEST_CLASS(TestShootPlan, QCoreApplication)
 #include "tst_shootplan.moc"

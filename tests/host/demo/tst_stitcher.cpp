@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/demo/stitcher.h"
+#include "tests/support/testprogram.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -257,5 +259,5 @@ void TestStitcher::badEndsAreExplained()
     }
 }
 
-QTEST_MAIN(TestStitcher)
+TEST_CLASS(TestStitcher, QApplication)
 #include "tst_stitcher.moc"

@@ -6,6 +6,7 @@
 #include "host/gui/layoutpicture.h"
 #include "host/gui/resultpage.h"
 #include "tests/host/testphotos.h"
+#include "tests/support/testprogram.h"
 
 #include <QAbstractButton>
 #include <QDesktopServices>
@@ -25,6 +26,9 @@ class TestImportWizard : public QObject
     Q_OBJECT
 
 public:
+    /** Before the application. */
+    static void initMain() { initializePhotoReading(); }
+
     Q_SLOT void openUrl(const QUrl &url) { m_opened += url; }
 
 private Q_SLOTS:
@@ -399,12 +403,5 @@ void TestImportWizard::enterMovesOnePageOnly()
     QVERIFY(!next()->isEnabled());
 }
 
-int main(int argc, char **argv)
-{
-    initializePhotoReading();
-    PanoHostApplication app(argc, argv);
-    TestImportWizard test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+TEST_CLASS(TestImportWizard, PanoHostApplication)
 #include "tst_gui_importwizard.moc"
