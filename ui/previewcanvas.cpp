@@ -19,7 +19,7 @@ constexpr int kStripRows = 32;
 constexpr int kSpill = 2; // outlines and rounding around a cell, pixels
 // When more than this part of the cells changes, one redraw is cheaper than many patches.
 constexpr int kWorthPatching = 4;
-constexpr int kKeptPart = 4; // what the painter keeps may take this part of the picture's memory
+constexpr int kKeptPart = 8; // what the painter keeps may take this part of the picture's memory
 // Beyond this many rectangles, keeping account of what is hidden costs more than it saves.
 constexpr int kMostOpenRects = 32;
 
@@ -62,7 +62,6 @@ void PreviewCanvas::update(const PreviewScene &scene, const PreviewColours &colo
         return;
     }
     for (const int cell : change.cells) {
-        m_painter.forgetPhoto(cell);
         notePhoto(cell);
     }
     if (!change.region.isEmpty()) {
@@ -154,7 +153,7 @@ void PreviewCanvas::patchRect(const Patch &patch)
             seen.emplace_back(*cell, parts);
         }
         if (parts.photo && open.rectCount() < kMostOpenRects) {
-            open -= m_painter.hiddenBehind(m_scene, *cell);
+            open -= CellPainter::hiddenBehind(m_scene, m_scene.layout.cells.at(*cell));
         }
     }
     if (!open.isEmpty()) {

@@ -20,9 +20,7 @@ namespace
 
 constexpr int kSpill = 2; // outlines and rounding around a cell, pixels
 constexpr qint64 kCaptionBytes = 768; // about
-// Kept in any case, in bytes: a handful of tiles and the captions around them.
-constexpr int kTileBytes = 512 * 1024;
-constexpr qint64 kLeastCaptions = 256 * 1024;
+constexpr qint64 kLeastCaptions = 256 * 1024; // kept in any case, bytes
 // Some ten rows of the largest shoots; more are not drawn again and again.
 constexpr qint64 kMostCaptions = 4 * 1024 * 1024;
 
@@ -74,17 +72,25 @@ void drawOutline(const Patch &patch, const QRectF &box)
     fillOpaque(patch, QRect(frame.right(), frame.top(), 1, frame.height()), kBlack);
 }
 
-template <typename Kept>
-Kept &keep(QCache<int, Kept> &cache, std::unique_ptr<Kept> &loose, int number,
-           std::unique_ptr<Kept> made, qint64 bytes)
+void drawFitted(QPainter &painter, const QPixmap &thumbnail, const PreviewCell &cell)
 {
-    if (bytes > cache.maxCost()) {
-        loose = std::move(made);
-        return *loose;
-    }
-    Kept &kept = *made;
-    cache.insert(number, made.release(), static_cast<int>(bytes));
-    return kept;
+    const QPixmap photo = turned(thumbnail, cell);
+    painter.drawPixmap(cell.box, photo, QRectF(photo.rect()));
+}
+
+/** Scaling under a clip that cuts the photo would give other pixels; copying a tile does not. */
+void drawFittedTile(QPainter &painter, const QPixmap &thumbnail, const PreviewCell &cell)
+{
+    const QRect around = cell.box.toAlignedRect().adjusted(-1, -1, 1, 1);
+    QImage tile = withPixels(QImage(around.size(), QImage::Format_ARGB32_Premultiplied));
+    tile.fill(Qt::transparent);
+    QPainter tilePainter(&tile);
+    // Moved by the painter, not beforehand: the scale comes from the box as it is, and a rounding
+    // of its sides can shift every pixel that is picked.
+    tilePainter.translate(-around.topLeft());
+    drawFitted(tilePainter, thumbnail, cell);
+    tilePainter.end();
+    painter.drawImage(around.topLeft(), tile);
 }
 
 } // namespace
@@ -107,16 +113,12 @@ QRect photoRect(CellStyle style, const PreviewCell &cell, const QSize &size)
 
 void CellPainter::reset(qint64 bytes, std::optional<QRgb> textColour)
 {
-    m_tiles.clear();
     m_captions.clear();
-    m_looseTile.reset();
-    m_looseCaption.reset();
     m_letterCase.reset();
     if (textColour) {
         m_letterCase.emplace(*textColour);
     }
-    m_tiles.setMaxCost(kTileBytes);
-    m_captions.setMaxCost(static_cast<int>(std::clamp(bytes / 2, kLeastCaptions, kMostCaptions)));
+    m_captions.setMaxCost(static_cast<int>(std::clamp(bytes, kLeastCaptions, kMostCaptions)));
 }
 
 void CellPainter::draw(const Patch &patch, const PreviewScene &scene, int cell,
@@ -126,8 +128,7 @@ void CellPainter::draw(const Patch &patch, const PreviewScene &scene, int cell,
     const bool isFitted = scene.style == CellStyle::FittedWithCaption;
     if (const QPixmap *thumbnail = thumbnailOf(scene, drawn)) {
         if (isFitted) {
-            const QPixmap photo = turned(*thumbnail, drawn);
-            patch.painter.drawPixmap(drawn.box, photo, QRectF(photo.rect()));
+            drawFitted(patch.painter, *thumbnail, drawn);
         } else {
             patch.painter.drawPixmap(drawn.box.topLeft(), *thumbnail);
         }
@@ -148,8 +149,11 @@ void CellPainter::drawParts(const Patch &patch, const PreviewScene &scene, int c
     if (thumbnail != nullptr && scene.style == CellStyle::UnscaledPhoto) {
         painter.drawPixmap(drawn.box.topLeft(), *thumbnail);
     } else if (thumbnail != nullptr) {
-        const Tile &tile = tileFor(*thumbnail, drawn, cell);
-        painter.drawImage(tile.position, tile.image);
+        if (patch.rect.contains(photoRect(scene.style, drawn, thumbnail->size()))) {
+            drawFitted(painter, *thumbnail, drawn);
+        } else {
+            drawFittedTile(painter, *thumbnail, drawn);
+        }
     }
     if (parts.outline) {
         drawOutline(patch, drawn.box);
@@ -180,64 +184,21 @@ CellParts CellPainter::partsIn(const QRect &rect, const PreviewScene &scene, int
     return parts;
 }
 
-QRect CellPainter::hiddenBehind(const PreviewScene &scene, int cell)
+QRect CellPainter::hiddenBehind(const PreviewScene &scene, const PreviewCell &cell)
 {
-    const PreviewCell &asked = scene.layout.cells.at(cell);
-    const QPixmap *thumbnail = thumbnailOf(scene, asked);
+    const QPixmap *thumbnail = thumbnailOf(scene, cell);
     if (thumbnail == nullptr || thumbnail->hasAlphaChannel()) {
         return {};
     }
-    if (scene.style == CellStyle::FittedWithCaption && !tileFor(*thumbnail, asked, cell).isOpaque) {
-        return {};
+    const QRect photo = photoRect(scene.style, cell, thumbnail->size());
+    if (scene.style == CellStyle::UnscaledPhoto) {
+        return photo;
     }
-    return photoRect(scene.style, asked, thumbnail->size());
-}
-
-CellPainter::Tile &CellPainter::tileFor(const QPixmap &thumbnail, const PreviewCell &cell,
-                                        int number)
-{
-    if (Tile *kept = m_tiles.object(number)) {
-        return *kept;
-    }
-    auto tile = std::make_unique<Tile>(fittedTile(thumbnail, cell));
-    const qint64 bytes = tile->image.sizeInBytes();
-    return keep(m_tiles, m_looseTile, number, std::move(tile), bytes);
-}
-
-CellPainter::Tile CellPainter::fittedTile(const QPixmap &thumbnail, const PreviewCell &cell)
-{
-    const QPixmap photo = turned(thumbnail, cell);
-    const QRect room = photoRect(CellStyle::FittedWithCaption, cell, photo.size());
-    Tile tile;
-    if (!photo.hasAlphaChannel() && !room.isEmpty()) {
-        tile.position = room.topLeft();
-        tile.image = withPixels(QImage(room.size(), QImage::Format_ARGB32_Premultiplied));
-        // Scaling may leave out the last row or column, which then lacks in the corner too.
-        const QPoint corner = tile.image.rect().bottomRight();
-        tile.image.setPixel(corner, 0);
-        drawInto(tile, photo, cell);
-        if (qAlpha(tile.image.pixel(corner)) == 255) {
-            tile.isOpaque = tile.image.reinterpretAsFormat(QImage::Format_RGB32);
-            return tile;
-        }
-    }
-    tile.position = QPoint(static_cast<int>(std::floor(cell.box.left())) - 1,
-                           static_cast<int>(std::floor(cell.box.top())) - 1);
-    tile.image = withPixels(QImage(static_cast<int>(std::ceil(cell.box.width())) + 3,
-                                   static_cast<int>(std::ceil(cell.box.height())) + 3,
-                                   QImage::Format_ARGB32_Premultiplied));
-    tile.image.fill(Qt::transparent);
-    drawInto(tile, photo, cell);
-    return tile;
-}
-
-void CellPainter::drawInto(Tile &tile, const QPixmap &photo, const PreviewCell &cell)
-{
-    QPainter painter(&tile.image);
-    // Moved by the painter, not beforehand: the scale comes from the box as it is, and a rounding
-    // of its sides can shift every pixel that is picked.
-    painter.translate(-tile.position);
-    painter.drawPixmap(cell.box, photo, QRectF(photo.rect()));
+    // Turned by other angles, a photo has see-through corners.
+    const bool isUpright = isUnturned(cell) || std::abs(cell.roll) == 90.0F
+        || std::abs(cell.roll) == 180.0F || std::abs(cell.roll) == 270.0F;
+    // Scaling may leave out the last row or column.
+    return isUpright ? photo.adjusted(0, 0, -1, -1) : QRect();
 }
 
 Caption &CellPainter::captionFor(const PreviewCell &cell, int number, const QFont &font)
@@ -245,9 +206,9 @@ Caption &CellPainter::captionFor(const PreviewCell &cell, int number, const QFon
     if (Caption *kept = m_captions.object(number)) {
         return *kept;
     }
-    return keep(m_captions, m_looseCaption, number,
-                std::make_unique<Caption>(cell, font, m_letterCase ? &*m_letterCase : nullptr),
-                kCaptionBytes);
+    auto *made = new Caption(cell, font, m_letterCase ? &*m_letterCase : nullptr);
+    m_captions.insert(number, made, kCaptionBytes);
+    return *made;
 }
 
 } // namespace PanoHead

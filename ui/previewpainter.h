@@ -6,12 +6,10 @@
 #include "ui/caption.h"
 
 #include <QCache>
-#include <QImage>
 #include <QList>
 #include <QRect>
 #include <QSize>
 
-#include <memory>
 #include <optional>
 
 class QPainter;
@@ -61,43 +59,26 @@ public:
               const CaptionColours &caption);
 
     /**
-     * Draws \p parts of cell number \p cell with the pixels of `draw`. A thumbnail is first scaled
-     * into a tile of its own: copying that gives the same pixels under any clip. Tiles and captions
-     * with their lines broken are kept for the neighbours' next redraw.
+     * Draws \p parts of cell number \p cell with the pixels of `draw` under any clip. Captions with
+     * their lines broken are kept for the neighbours' next redraw.
      */
     void drawParts(const Patch &patch, const PreviewScene &scene, int cell, const CellParts &parts,
                    const CaptionColours &caption);
     /** The parts of cell number \p cell that may reach into \p rect, in the painter's font. */
     [[nodiscard]] CellParts partsIn(const QRect &rect, const PreviewScene &scene, int cell,
                                     const QPainter &painter);
-    /** Pixels in which the photo of cell number \p cell hides all that is below; may be none. */
-    [[nodiscard]] QRect hiddenBehind(const PreviewScene &scene, int cell);
+    /** Pixels in which the photo of \p cell hides all that is below; may be none. */
+    [[nodiscard]] static QRect hiddenBehind(const PreviewScene &scene, const PreviewCell &cell);
 
-    /** The photo of cell number \p cell has changed. */
-    void forgetPhoto(int cell) { m_tiles.remove(cell); }
     /** Everything has changed. At most about \p bytes are kept from now on, and no letters unless
      * the picture is opaque and they are too: then they have this \p textColour. */
     void reset(qint64 bytes, std::optional<QRgb> textColour);
 
 private:
-    /** A thumbnail made ready to be copied pixel by pixel. */
-    struct Tile {
-        QPoint position;
-        QImage image;
-        bool isOpaque = false;
-    };
-
-    [[nodiscard]] static Tile fittedTile(const QPixmap &thumbnail, const PreviewCell &cell);
-    static void drawInto(Tile &tile, const QPixmap &photo, const PreviewCell &cell);
-    Tile &tileFor(const QPixmap &thumbnail, const PreviewCell &cell, int number);
     Caption &captionFor(const PreviewCell &cell, int number, const QFont &font);
 
     std::optional<LetterCase> m_letterCase; // of the captions
-    QCache<int, Tile> m_tiles{ 0 }; // by cell, cost in bytes
     QCache<int, Caption> m_captions{ 0 }; // by cell, cost in bytes
-    // The last ones made, when they are too large to be kept.
-    std::unique_ptr<Tile> m_looseTile;
-    std::unique_ptr<Caption> m_looseCaption;
 };
 
 } // namespace PanoHead
