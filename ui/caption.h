@@ -2,16 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ui/lettercase.h"
-
 #include <QBrush>
-#include <QGlyphRun>
 #include <QPen>
 #include <QRect>
 #include <QRectF>
-#include <QVector>
-
-#include <vector>
+#include <QStaticText>
 
 class QFont;
 class QImage;
@@ -47,37 +42,17 @@ struct Patch {
 class Caption
 {
 public:
-    /** The case outlives the caption and holds its colour; without one the painter draws. */
-    Caption(const PreviewCell &cell, const QFont &font, LetterCase *letterCase);
+    Caption(const PreviewCell &cell, const QFont &font);
 
-    /** Draws what lies in \p patch, whose image is opaque if there is a case. */
-    void draw(const Patch &patch, const CaptionColours &colours);
-    /** Lays the caption of \p cell out and draws all of it, in the painter's font. */
-    static void drawOnce(QPainter &painter, const PreviewCell &cell, const CaptionColours &colours);
+    /** Draws what lies in \p patch. */
+    void draw(const Patch &patch, const CaptionColours &colours) const;
 
     /** Pixels that are drawn, and perhaps some around them. */
     [[nodiscard]] QRect rect() const { return m_reach; }
 
 private:
-    /** Glyphs of one font, line by line. */
-    struct Run {
-        QGlyphRun drawn; ///< shows a part of the glyphs, by their address
-        QVector<quint32> glyphs;
-        QVector<QPointF> places; ///< on their line's base, from the room's corner
-        qreal ascent;
-        qreal descent;
-        qreal size;
-
-        void draw(QPainter &painter, const QPointF &origin, const QRectF &seen);
-    };
-
-    void drawRuns(const Patch &patch, const CaptionColours &colours);
-
-    const LetterCase *m_letterCase;
-    std::vector<PlacedLetter> m_letters; // all of the caption, or none
-    std::vector<Run> m_runs; // all of the caption, when there are no letters
+    QStaticText m_text;
     QRectF m_room; // in the cell
-    QRectF m_lines; // what the lines take up
     QRect m_reach; // the lines and some pixels around them
     QRect m_seen; // what of it is drawn: text that does not fit is cut off at the room's sides
 };

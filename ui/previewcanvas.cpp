@@ -79,13 +79,13 @@ void PreviewCanvas::clear()
     m_isValid = false;
     m_image = QImage();
     m_scene = PreviewScene();
-    m_painter.reset(0, {});
+    m_painter.reset(0);
 }
 
 void PreviewCanvas::redraw()
 {
     m_isValid = false;
-    m_painter.reset(0, {});
+    m_painter.reset(0);
     // The old picture goes first: both together could be half a gigabyte.
     m_image = QImage();
     if (m_scene.layout.isEmpty()) {
@@ -95,10 +95,7 @@ void PreviewCanvas::redraw()
     const auto format = m_colours.background.isOpaque() ? QImage::Format_RGB32
                                                         : QImage::Format_ARGB32_Premultiplied;
     m_image = withPixels(QImage(m_scene.layout.canvas, format));
-    const bool isOpaque = !m_image.hasAlphaChannel() && m_colours.caption.text.brush().isOpaque();
-    m_painter.reset(m_image.sizeInBytes() / kKeptPart,
-                    isOpaque ? std::make_optional(m_colours.caption.text.color().rgb())
-                             : std::nullopt);
+    m_painter.reset(m_image.sizeInBytes() / kKeptPart);
     indexCells();
     if (m_scene.style == CellStyle::FittedWithCaption) {
         drawCells();
@@ -113,8 +110,9 @@ void PreviewCanvas::drawCells()
     QPainter painter(&m_image);
     fillBackground(painter);
     const Patch whole{ m_image, painter, m_image.rect() };
+    const CellParts all{ true, true, true };
     for (int cell = 0; cell < m_scene.layout.cells.size(); ++cell) {
-        m_painter.draw(whole, m_scene, cell, m_colours.caption);
+        m_painter.drawParts(whole, m_scene, cell, all, m_colours.caption);
     }
 }
 
@@ -148,7 +146,8 @@ void PreviewCanvas::patchRect(const Patch &patch)
     std::vector<std::pair<int, CellParts>> seen;
     const std::vector<int> cells = cellsTouching(rect);
     for (auto cell = cells.crbegin(); cell != cells.crend() && !open.isEmpty(); ++cell) {
-        const CellParts parts = m_painter.partsIn(open.boundingRect(), m_scene, *cell, painter);
+        const CellParts parts
+            = m_painter.partsIn(open.boundingRect(), m_scene, *cell, painter.font());
         if (!parts.isNone()) {
             seen.emplace_back(*cell, parts);
         }

@@ -111,33 +111,10 @@ QRect photoRect(CellStyle style, const PreviewCell &cell, const QSize &size)
                                              : cell.box.toRect();
 }
 
-void CellPainter::reset(qint64 bytes, std::optional<QRgb> textColour)
+void CellPainter::reset(qint64 bytes)
 {
     m_captions.clear();
-    m_letterCase.reset();
-    if (textColour) {
-        m_letterCase.emplace(*textColour);
-    }
     m_captions.setMaxCost(static_cast<int>(std::clamp(bytes, kLeastCaptions, kMostCaptions)));
-}
-
-void CellPainter::draw(const Patch &patch, const PreviewScene &scene, int cell,
-                       const CaptionColours &caption)
-{
-    const PreviewCell &drawn = scene.layout.cells.at(cell);
-    const bool isFitted = scene.style == CellStyle::FittedWithCaption;
-    if (const QPixmap *thumbnail = thumbnailOf(scene, drawn)) {
-        if (isFitted) {
-            drawFitted(patch.painter, *thumbnail, drawn);
-        } else {
-            patch.painter.drawPixmap(drawn.box.topLeft(), *thumbnail);
-        }
-    }
-    const bool hasRoom = m_letterCase && m_letterCase->hasRoom();
-    drawParts(patch, scene, cell, { false, true, isFitted && hasRoom }, caption);
-    if (isFitted && !hasRoom) {
-        Caption::drawOnce(patch.painter, drawn, caption);
-    }
 }
 
 void CellPainter::drawParts(const Patch &patch, const PreviewScene &scene, int cell,
@@ -164,7 +141,7 @@ void CellPainter::drawParts(const Patch &patch, const PreviewScene &scene, int c
 }
 
 CellParts CellPainter::partsIn(const QRect &rect, const PreviewScene &scene, int cell,
-                               const QPainter &painter)
+                               const QFont &font)
 {
     const PreviewCell &asked = scene.layout.cells.at(cell);
     const QRect around = asked.box.toAlignedRect().adjusted(-kSpill, -kSpill, kSpill, kSpill);
@@ -174,7 +151,7 @@ CellParts CellPainter::partsIn(const QRect &rect, const PreviewScene &scene, int
         // Tiny cells have no inside; turned inside out, it would hold pixels all the same.
         const QRectF inside = asked.box.adjusted(kSpill, kSpill, -kSpill, -kSpill);
         parts.outline = !inside.isValid() || !inside.contains(QRectF(rect));
-        parts.caption = isFitted && captionFor(asked, cell, painter.font()).rect().intersects(rect);
+        parts.caption = isFitted && captionFor(asked, cell, font).rect().intersects(rect);
     } else if (isFitted) {
         return parts;
     }
@@ -201,12 +178,12 @@ QRect CellPainter::hiddenBehind(const PreviewScene &scene, const PreviewCell &ce
     return isUpright ? photo.adjusted(0, 0, -1, -1) : QRect();
 }
 
-Caption &CellPainter::captionFor(const PreviewCell &cell, int number, const QFont &font)
+const Caption &CellPainter::captionFor(const PreviewCell &cell, int number, const QFont &font)
 {
-    if (Caption *kept = m_captions.object(number)) {
+    if (const Caption *kept = m_captions.object(number)) {
         return *kept;
     }
-    auto *made = new Caption(cell, font, m_letterCase ? &*m_letterCase : nullptr);
+    auto *made = new Caption(cell, font);
     m_captions.insert(number, made, kCaptionBytes);
     return *made;
 }

@@ -10,9 +10,6 @@
 #include <QRect>
 #include <QSize>
 
-#include <optional>
-
-class QPainter;
 class QPixmap;
 class XIImageDef;
 
@@ -53,31 +50,24 @@ struct CellParts {
 class CellPainter
 {
 public:
-    /** Draws all of cell number \p cell. The patch is the whole picture: a thumbnail scaled under a
-     * clip has other pixels. */
-    void draw(const Patch &patch, const PreviewScene &scene, int cell,
-              const CaptionColours &caption);
-
     /**
-     * Draws \p parts of cell number \p cell with the pixels of `draw` under any clip. Captions with
+     * Draws \p parts of cell number \p cell with the same pixels under any clip. Captions with
      * their lines broken are kept for the neighbours' next redraw.
      */
     void drawParts(const Patch &patch, const PreviewScene &scene, int cell, const CellParts &parts,
                    const CaptionColours &caption);
-    /** The parts of cell number \p cell that may reach into \p rect, in the painter's font. */
+    /** The parts of cell number \p cell that may reach into \p rect, in the font \p font. */
     [[nodiscard]] CellParts partsIn(const QRect &rect, const PreviewScene &scene, int cell,
-                                    const QPainter &painter);
+                                    const QFont &font);
     /** Pixels in which the photo of \p cell hides all that is below; may be none. */
     [[nodiscard]] static QRect hiddenBehind(const PreviewScene &scene, const PreviewCell &cell);
 
-    /** Everything has changed. At most about \p bytes are kept from now on, and no letters unless
-     * the picture is opaque and they are too: then they have this \p textColour. */
-    void reset(qint64 bytes, std::optional<QRgb> textColour);
+    /** Everything has changed. At most about \p bytes are kept from now on. */
+    void reset(qint64 bytes);
 
 private:
-    Caption &captionFor(const PreviewCell &cell, int number, const QFont &font);
+    const Caption &captionFor(const PreviewCell &cell, int number, const QFont &font);
 
-    std::optional<LetterCase> m_letterCase; // of the captions
     QCache<int, Caption> m_captions{ 0 }; // by cell, cost in bytes
 };
 
