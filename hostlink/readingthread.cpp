@@ -5,11 +5,9 @@
 #include "hostlink/hostapplication.h"
 #include "hostlink/xiapplication.h"
 
-#include <QHash>
 #include <QMutexLocker>
 
 #include <utility>
-#include <vector>
 
 namespace
 {
@@ -17,39 +15,12 @@ namespace
 constexpr int kPhotosPerSignal = 10;
 constexpr unsigned long kWaitMs = 100;
 
-/**
- * \p files, each once, in their order. A flat table of their numbers finds the known ones, small
- * enough for a processor's cache: sets of strings keep a node for each, which a shoot of record
- * size scatters all over the memory.
- */
-QQueue<QString> withoutDuplicates(const QStringList &files)
+/** \p files, each once, in their order. */
+QQueue<QString> withoutDuplicates(QStringList files)
 {
-    constexpr int kFree = -1;
-    const auto count = static_cast<std::size_t>(files.size());
-    std::size_t places = 16;
-    while (2 * places < 3 * count) {
-        places *= 2;
-    }
-    std::vector<int> table(places, kFree);
-    std::vector<uint> hashes;
-    hashes.reserve(count);
+    files.removeDuplicates();
     QQueue<QString> queue;
-    queue.reserve(files.size());
-    for (int number = 0; number < files.size(); ++number) {
-        const QString &file = files.at(number);
-        const uint hash = qHash(file, static_cast<uint>(qGlobalQHashSeed()));
-        hashes.push_back(hash);
-        std::size_t place = hash % places;
-        while (table[place] != kFree
-               && (hashes[static_cast<std::size_t>(table[place])] != hash
-                   || files.at(table[place]) != file)) {
-            place = (place + 1) % places;
-        }
-        if (table[place] == kFree) {
-            table[place] = number;
-            queue.enqueue(file);
-        }
-    }
+    queue.append(files);
     return queue;
 }
 
