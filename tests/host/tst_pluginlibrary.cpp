@@ -5,6 +5,7 @@
 #include "hostlink/xiabout.h"
 #include "hostlink/xipluginimport.h"
 #include "tests/host/testphotos.h"
+#include "tests/support/hosthead.h"
 #include "tests/support/testprogram.h"
 
 #include <QDir>
@@ -53,7 +54,7 @@ private Q_SLOTS:
     void cleanup();
     void fileIsLoadedAndReallyUnloaded();
     void folderIsSearched();
-    void allFourHeadsAreOffered();
+    void allHeadsAreOffered();
     void headIsFoundByItsName();
     void pageLivesInAWizardAndGoesWithIt();
     void deletedPlugInIsSkipped();
@@ -102,7 +103,7 @@ void PluginLibraryTest::folderIsSearched()
     QCOMPARE(library.value()->path(), kPlugin);
 }
 
-void PluginLibraryTest::allFourHeadsAreOffered()
+void PluginLibraryTest::allHeadsAreOffered()
 {
     const auto library = PluginLibrary::open(kPlugin);
     QVERIFY(library.ok());
@@ -115,9 +116,11 @@ void PluginLibraryTest::allFourHeadsAreOffered()
         QVERIFY(plugin.page()->inherits("QWizardPage"));
         QVERIFY(!plugin.about->UID().isEmpty());
     }
-    QCOMPARE(heads,
-             (QStringList{ QStringLiteral("clauss"), QStringLiteral("gigapan"),
-                           QStringLiteral("papywizard"), QStringLiteral("vrdrive2") }));
+    QStringList known;
+    for (const HostHead *head : allHostHeads()) {
+        known.append(QString::fromLatin1(head->name).toLower());
+    }
+    QCOMPARE(heads, known);
 }
 
 void PluginLibraryTest::headIsFoundByItsName()
@@ -178,7 +181,7 @@ void PluginLibraryTest::libraryLoadsAgainAfterUnloading()
     for (int i = 0; i < 3; ++i) {
         const auto library = PluginLibrary::open(kPlugin);
         QVERIFY(library.ok());
-        QCOMPARE(library.value()->plugins().size(), 4);
+        QCOMPARE(library.value()->plugins().size(), static_cast<int>(allHostHeads().size()));
         QVERIFY(PanoHostApplication::instance()->CreateImageDef(photo));
     }
 }

@@ -1,16 +1,13 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
-#include "importers/clauss/uiwpclauss.h"
-#include "importers/papywizard/uiwpmerlin.h"
-#include "importers/vrdrive2/uiwpvrdrive2.h"
-#include "tests/hostile/hostilefiles.h"
 #include "tests/support/dialogclicker.h"
 #include "tests/support/fakeapplication.h"
-#include "tests/support/pagedriver.h"
-#include "tests/support/shootfolder.h"
+#include "tests/support/heads.h"
 
 #include <QElapsedTimer>
 #include <QHelpEvent>
+#include <QLabel>
+#include <QLineEdit>
 #include <QtTest>
 
 #include <algorithm>
@@ -83,17 +80,6 @@ Outcome runApart(const std::function<void()> &work)
     return outcome;
 }
 
-/** A row for one file in \p step. */
-void listFiles(const QVector<HostileFile> &files, int step)
-{
-    QTest::addColumn<int>("index");
-    for (int i = 0; i < files.size(); i += step) {
-        if (kWithLargeFiles || !files.at(i).isLarge) {
-            QTest::newRow(files.at(i).name.constData()) << i;
-        }
-    }
-}
-
 /** Shows the tool tip of the record's path, as a resting mouse does. */
 void showToolTip(const PageDriver &driver)
 {
@@ -106,30 +92,28 @@ void showToolTip(const PageDriver &driver)
 
 /** Types the path of a record that is there with photos chosen before, looks around, and goes on.
  */
-template <typename Page, typename Read>
-void useRecord(const QStringList &photos, const QVector<const char *> &clicks, const Read &read)
+void useRecord(const Head &head, const QStringList &photos, const QString &path)
 {
-    Page page(nullptr);
-    const PageDriver driver(&page);
-    driver.load("m_pbSelectImages", photos);
-    if (driver.text("m_lbImageLog") != QString::number(photos.size())) {
+    const HeadShoot shoot(head);
+    shoot.driver.load(kSelectPhotos, photos);
+    if (shoot.count() != shoot.countOf(photos.size())) {
         _exit(6);
     }
     DialogClicker boxes;
     for (int i = 0; i < 10; ++i) {
         boxes.pressButton();
     }
-    read(page, driver);
-    showToolTip(driver);
-    for (const char *name : clicks) {
-        driver.click(name);
-    }
-    (void)page.isComplete();
-    (void)page.validatePage();
-    (void)driver.picture();
+    head.enterPath(shoot.made, path);
+    showToolTip(shoot.driver);
+    shoot.driver.click(head.facts->turnsCamera ? "m_pbRot90" : "m_pInverseCoordinates");
+    (void)shoot.page->isComplete();
+    (void)shoot.page->validatePage();
+    (void)shoot.driver.picture();
 }
 
 } // namespace
+
+Q_DECLARE_METATYPE(HostileFile)
 
 /** Gives pages files that nobody's head writes, each in a process of its own. */
 class TestHostile : public QObject
@@ -139,21 +123,13 @@ class TestHostile : public QObject
 private Q_SLOTS:
     void initTestCase();
     void aMeasuredProcessIsJudged();
-    void recordsAreSurvivedByThePapywizardPage_data();
-    void recordsAreSurvivedByThePapywizardPage();
-    void recordsAreSurvivedByTheVRDrive2Page_data();
-    void recordsAreSurvivedByTheVRDrive2Page();
-    void scriptsAreSurvivedByTheClaussPage_data();
-    void scriptsAreSurvivedByTheClaussPage();
+    void recordsAreSurvived_data();
+    void recordsAreSurvived();
     void specialFilesAreRefused_data();
     void specialFilesAreRefused();
     void cleanupTestCase();
 
 private:
-    void usePapywizard(const QString &path) const;
-    void useVRDrive2(const QString &path) const;
-    void useClauss(const QString &path) const;
-    [[nodiscard]] QString write(const HostileFile &file, const QString &name) const;
     void judge(const Outcome &outcome, const Limits &limits);
 
     ShootFolder m_folder;
@@ -166,35 +142,7 @@ void TestHostile::initTestCase()
 {
     m_photos = m_folder.addPhotos(kPhotos);
     // What a process loads at its first page is nobody's fault; the children start with it.
-    usePapywizard({});
-}
-
-void TestHostile::usePapywizard(const QString &path) const
-{
-    useRecord<UIWPMerlin>(
-        m_photos, { "m_pInverseCoordinates" },
-        [&path](UIWPMerlin &page, const PageDriver &) { page.SetConfigFFilename(path); });
-}
-
-void TestHostile::useVRDrive2(const QString &path) const
-{
-    useRecord<UIWPVRDrive2>(
-        m_photos, { "m_pbRot90" },
-        [&path](UIWPVRDrive2 &page, const PageDriver &) { page.SetConfigFFilename(path); });
-}
-
-void TestHostile::useClauss(const QString &path) const
-{
-    useRecord<UIWPClauss>(m_photos, { "m_pInverseCoordinates" },
-                          [&path](UIWPClauss &page, const PageDriver &driver) {
-                              driver.find<QLineEdit>("m_leConfigFile")->setText(path);
-                              page.SetConfigFFilename();
-                          });
-}
-
-QString TestHostile::write(const HostileFile &file, const QString &name) const
-{
-    return m_folder.write(name, file.content());
+    useRecord(*headsWithRecords().front(), m_photos, {});
 }
 
 void TestHostile::judge(const Outcome &outcome, const Limits &limits)
@@ -233,50 +181,40 @@ void TestHostile::aMeasuredProcessIsJudged()
     QVERIFY(slow.cpuSeconds >= 0.9);
 }
 
-void TestHostile::recordsAreSurvivedByThePapywizardPage_data()
+void TestHostile::recordsAreSurvived_data()
 {
-    listFiles(hostileRecords(), 1);
+    QTest::addColumn<const Head *>("head");
+    QTest::addColumn<HostileFile>("file");
+    for (const Head *head : headsWithRecords()) {
+        const QVector<HostileFile> files = head->host->hostileFiles();
+        // Any record: empty, cut off, without an end, of other bytes, with every odd number.
+        QVERIFY2(files.size() >= 40, head->name);
+        for (const HostileFile &file : files) {
+            if (kWithLargeFiles || !file.isLarge) {
+                QTest::addRow("%s: %s", head->name, file.name.constData()) << head << file;
+            }
+        }
+    }
 }
 
-void TestHostile::recordsAreSurvivedByThePapywizardPage()
+void TestHostile::recordsAreSurvived()
 {
-    QFETCH(const int, index);
-    static const QVector<HostileFile> files = hostileRecords();
-    const QString path = write(files.at(index), QStringLiteral("shoot.xml"));
-    judge(runApart([this, &path] { usePapywizard(path); }), kFileLimits);
-}
-
-/** The page shares reader and generator with the other; every tenth file is enough. */
-void TestHostile::recordsAreSurvivedByTheVRDrive2Page_data()
-{
-    listFiles(hostileRecords(), 10);
-}
-
-void TestHostile::recordsAreSurvivedByTheVRDrive2Page()
-{
-    QFETCH(const int, index);
-    static const QVector<HostileFile> files = hostileRecords();
-    const QString path = write(files.at(index), QStringLiteral("shoot.xml"));
-    judge(runApart([this, &path] { useVRDrive2(path); }), kFileLimits);
-}
-
-void TestHostile::scriptsAreSurvivedByTheClaussPage_data()
-{
-    listFiles(hostileScripts(), 1);
-}
-
-void TestHostile::scriptsAreSurvivedByTheClaussPage()
-{
-    QFETCH(const int, index);
-    static const QVector<HostileFile> files = hostileScripts();
-    const QString path = write(files.at(index), QStringLiteral("shoot.txt"));
-    judge(runApart([this, &path] { useClauss(path); }), kFileLimits);
+    QFETCH(const Head *, head);
+    QFETCH(const HostileFile, file);
+    const QString path = m_folder.write(QString::fromLatin1(head->recordName), file.content());
+    judge(runApart([&] { useRecord(*head, m_photos, path); }), kFileLimits);
 }
 
 void TestHostile::specialFilesAreRefused_data()
 {
+    QTest::addColumn<const Head *>("head");
     QTest::addColumn<QString>("path");
-    QTest::addColumn<bool>("isRead"); // without shots; such a record is none, such a script is one
+    QTest::addColumn<bool>("isText"); // which some heads read as a record without shots
+    const auto row = [](const char *name, const QString &path, bool isText = false) {
+        for (const Head *head : headsWithRecords()) {
+            QTest::addRow("%s: %s", head->name, name) << head << path << isText;
+        }
+    };
 
     const QString pipe = m_folder.path(QStringLiteral("pipe"));
     QVERIFY(::mkfifo(QFile::encodeName(pipe).constData(), 0600) == 0);
@@ -300,63 +238,61 @@ void TestHostile::specialFilesAreRefused_data()
     const int listener = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
     QVERIFY(::bind(listener, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0);
 
-    QTest::newRow("pipe") << pipe << false;
-    QTest::newRow("link to a pipe") << linkToPipe << false;
-    QTest::newRow("socket") << socketPath << false;
-    QTest::newRow("folder") << m_folder.path() << false;
-    QTest::newRow("folder with a slash") << m_folder.path() + QLatin1Char('/') << false;
-    QTest::newRow("root folder") << QStringLiteral("/") << false;
-    QTest::newRow("dangling link") << dangling << false;
-    QTest::newRow("link to itself") << loop << false;
-    QTest::newRow("link to a device") << linkToDevice << false;
-    QTest::newRow("forbidden") << forbidden << false;
-    QTest::newRow("nowhere") << m_folder.path(QStringLiteral("nowhere")) << false;
-    QTest::newRow("file as a folder") << m_photos.first() + QStringLiteral("/shoot.xml") << false;
-    QTest::newRow("/dev/zero") << QStringLiteral("/dev/zero") << false;
-    QTest::newRow("/dev/random") << QStringLiteral("/dev/random") << false;
-    QTest::newRow("/dev/full") << QStringLiteral("/dev/full") << false;
-    QTest::newRow("/dev/null") << QStringLiteral("/dev/null") << false;
-    QTest::newRow("/dev/tty") << QStringLiteral("/dev/tty") << false;
-    QTest::newRow("/dev/ptmx") << QStringLiteral("/dev/ptmx") << false;
-    QTest::newRow("/dev/stdin") << QStringLiteral("/dev/stdin") << false;
-    QTest::newRow("/proc/self/mem") << QStringLiteral("/proc/self/mem") << false;
-    QTest::newRow("/proc/self/maps") << QStringLiteral("/proc/self/maps") << true;
-    QTest::newRow("/proc/kmsg") << QStringLiteral("/proc/kmsg") << false;
-    QTest::newRow("/proc/self/pagemap") << QStringLiteral("/proc/self/pagemap") << false;
-    QTest::newRow("empty path") << QString() << false;
-    QTest::newRow("blank path") << QStringLiteral(" ") << false;
-    QTest::newRow("home") << QStringLiteral("~") << false;
-    QTest::newRow("path of 100,000 characters") << QString(100'000, QLatin1Char('x')) << false;
-    QTest::newRow("path of 5,000 folders") << QStringLiteral("/x").repeated(5'000) << false;
-    QTest::newRow("path with NUL") << m_photos.first() + QChar(0) + QStringLiteral(".xml") << false;
-    QTest::newRow("address") << QStringLiteral("http://127.0.0.1:9/shoot.xml") << false;
-    QTest::newRow("command") << QStringLiteral("$(touch /tmp/x); `id` | cat") << false;
-    QTest::newRow("resource") << QStringLiteral(":/Licenses") << false;
+    row("pipe", pipe);
+    row("link to a pipe", linkToPipe);
+    row("socket", socketPath);
+    row("folder", m_folder.path());
+    row("folder with a slash", m_folder.path() + QLatin1Char('/'));
+    row("root folder", QStringLiteral("/"));
+    row("dangling link", dangling);
+    row("link to itself", loop);
+    row("link to a device", linkToDevice);
+    row("forbidden", forbidden);
+    row("nowhere", m_folder.path(QStringLiteral("nowhere")));
+    row("file as a folder", m_photos.first() + QStringLiteral("/shoot.xml"));
+    row("/dev/zero", QStringLiteral("/dev/zero"));
+    row("/dev/random", QStringLiteral("/dev/random"));
+    row("/dev/full", QStringLiteral("/dev/full"));
+    row("/dev/null", QStringLiteral("/dev/null"));
+    row("/dev/tty", QStringLiteral("/dev/tty"));
+    row("/dev/ptmx", QStringLiteral("/dev/ptmx"));
+    row("/dev/stdin", QStringLiteral("/dev/stdin"));
+    row("/proc/self/mem", QStringLiteral("/proc/self/mem"));
+    row("/proc/self/maps", QStringLiteral("/proc/self/maps"), true);
+    row("/proc/kmsg", QStringLiteral("/proc/kmsg"));
+    row("/proc/self/pagemap", QStringLiteral("/proc/self/pagemap"));
+    row("empty path", QString());
+    row("blank path", QStringLiteral(" "));
+    row("home", QStringLiteral("~"));
+    row("path of 100,000 characters", QString(100'000, QLatin1Char('x')));
+    row("path of 5,000 folders", QStringLiteral("/x").repeated(5'000));
+    row("path with NUL", m_photos.first() + QChar(0) + QStringLiteral(".xml"));
+    row("address", QStringLiteral("http://127.0.0.1:9/shoot.xml"));
+    row("command", QStringLiteral("$(touch /tmp/x); `id` | cat"));
+    row("resource", QStringLiteral(":/Licenses"));
 }
 
 /** Root may read everything, so the pages run as somebody else. */
 void TestHostile::specialFilesAreRefused()
 {
+    QFETCH(const Head *, head);
     QFETCH(const QString, path);
-    QFETCH(const bool, isRead);
-    const auto refused = [this, &path, isRead] {
+    QFETCH(const bool, isText);
+    const auto refused = [this, head, &path, isText] {
         if (::geteuid() == 0 && path.startsWith(m_folder.path())) {
             ::chmod(QFile::encodeName(m_folder.path()).constData(), 0755);
             if (::setuid(65534) != 0) {
                 _exit(4);
             }
         }
-        UIWPMerlin xml(nullptr);
-        xml.SetConfigFFilename(path);
-        UIWPClauss script(nullptr);
+        const HeadShoot shoot(*head);
         DialogClicker boxes;
         boxes.pressButton();
-        script.findChild<QLineEdit *>(QStringLiteral("m_leConfigFile"))->setText(path);
-        script.SetConfigFFilename();
-        const bool isUnread
-            = xml.findChild<QLabel *>(QStringLiteral("m_lbPapyLog"))->text() == QLatin1String("N/A")
-            && xml.shots.isEmpty() && script.shots.isEmpty();
-        const bool isBoxExpected = !isRead && !path.isEmpty();
+        head->enterPath(shoot.made, path);
+        const bool isRead = isText && head->readsAnyText;
+        const bool isUnread = shoot.made.shots->isEmpty()
+            && shoot.driver.text("m_lbPapyLog") == QLatin1String("N/A");
+        const bool isBoxExpected = head->saysUnreadable && !isRead && !path.isEmpty();
         if (!isUnread || boxes.isSettled() != isBoxExpected) {
             _exit(5);
         }

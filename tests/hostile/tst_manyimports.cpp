@@ -3,11 +3,11 @@
 #include "hostlink/xipluginimport.h"
 #include "hostlink/xipluginlibrary.h"
 #include "tests/support/fakeapplication.h"
+#include "tests/support/hosthead.h"
 #include "tests/support/pagedriver.h"
 #include "tests/support/shootfolder.h"
 
 #include <QFileInfo>
-#include <QLineEdit>
 #include <QPluginLoader>
 #include <QSlider>
 #include <QtTest>
@@ -37,10 +37,15 @@ template <typename Interface> Interface *interfaceOf(QObject *object, const char
     return static_cast<Interface *>(object->qt_metacast(name));
 }
 
+QString recordNameOf(const HostHead &head)
+{
+    return QString::fromLatin1(head.page) + QLatin1String(head.recordName);
+}
+
 } // namespace
 
 /**
- * Loads the built module, makes a hundred imports on its four pages and unloads it: the session
+ * Loads the built module, makes 25 imports on each of its pages and unloads it: the session
  * that leak checkers watch.
  */
 class TestManyImports : public QObject
@@ -51,21 +56,18 @@ private Q_SLOTS:
     void aHundredImportsLeaveNothingBehind();
 
 private:
-    void importOnPage(QWizardPage *page, int round) const;
+    void importOnPage(const HostHead &head, QWizardPage *page, int round) const;
 
     ShootFolder m_folder;
     QStringList m_photos;
 };
 
-void TestManyImports::importOnPage(QWizardPage *page, int round) const
+void TestManyImports::importOnPage(const HostHead &head, QWizardPage *page, int round) const
 {
     const PageDriver driver(page);
     driver.load("m_pbSelectImages", m_photos);
-    if (page->findChild<QLineEdit *>(QStringLiteral("m_leConfigFile")) != nullptr) {
-        const bool isScript = page->inherits("UIWPClauss");
-        driver.load("m_pbSelectConfigFile",
-                    { m_folder.path(isScript ? QStringLiteral("shoot.txt")
-                                             : QStringLiteral("shoot.xml")) });
+    if (head.recordName != nullptr) {
+        driver.load("m_pbSelectConfigFile", { m_folder.path(recordNameOf(head)) });
     }
     driver.find<QSlider>("m_hSlider")->setValue(1 + round * 4);
     QVERIFY(page->isComplete());
@@ -76,23 +78,30 @@ void TestManyImports::importOnPage(QWizardPage *page, int round) const
 void TestManyImports::aHundredImportsLeaveNothingBehind()
 {
     m_photos = m_folder.addPhotos(kPhotos);
-    m_folder.write(QStringLiteral("shoot.xml"), RecordXml::row(kPhotos).bytes());
-    m_folder.write(QStringLiteral("shoot.txt"),
-                   QByteArray("op_h-angle=9\nop_shoot\n").repeated(kPhotos));
+    QVector<ShotAngles> shots;
+    for (int i = 0; i < kPhotos; ++i) {
+        shots.append({ 30.0 * i, 0.0 });
+    }
+    for (const HostHead *head : allHostHeads()) {
+        if (head->recordName != nullptr) {
+            m_folder.write(recordNameOf(*head), head->record(shots));
+        }
+    }
 
     QPluginLoader loader(modulePath());
     loader.setLoadHints({}); // unloading is to be real
     QVERIFY2(loader.load(), qPrintable(loader.errorString()));
     auto *library = interfaceOf<XIPluginLibrary>(loader.instance(), "XIPluginLibrary");
     const QList<QPointer<QObject>> plugins = library->Plugins(XIPluginLibrary::AllHeads);
-    QCOMPARE(plugins.size(), 4);
+    const int heads = static_cast<int>(allHostHeads().size());
+    QCOMPARE(plugins.size(), heads);
     for (int round = 0; round < kImportsPerPage; ++round) {
-        for (const QPointer<QObject> &plugin : plugins) {
-            auto *import = interfaceOf<XIPluginImport>(plugin, "XIPluginImport");
-            importOnPage(import->WizardPages().first(), round);
+        for (int i = 0; i < heads; ++i) {
+            auto *import = interfaceOf<XIPluginImport>(plugins.at(i), "XIPluginImport");
+            importOnPage(*allHostHeads()[i], import->WizardPages().first(), round);
         }
     }
-    QCOMPARE(fakeHost().descriptions.size(), 4 * kImportsPerPage);
+    QCOMPARE(fakeHost().descriptions.size(), heads * kImportsPerPage);
     QVERIFY(isMapped());
     QVERIFY2(loader.unload(), qPrintable(loader.errorString()));
     QVERIFY(!isMapped());

@@ -1,29 +1,21 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
 #include "hostlink/readingthread.h"
-#include "importers/clauss/uiwpclauss.h"
-#include "importers/gigapan/uiwpgigapan.h"
-#include "importers/papywizard/uiwpmerlin.h"
-#include "importers/vrdrive2/uiwpvrdrive2.h"
 #include "tests/support/dialogclicker.h"
 #include "tests/support/fakeapplication.h"
+#include "tests/support/heads.h"
 #include "tests/support/longruns.h"
-#include "tests/support/pagedriver.h"
-#include "tests/support/shootfolder.h"
 
 #include <QLabel>
 #include <QRandomGenerator>
+#include <QSlider>
 #include <QStyle>
 #include <QtTest>
 
 #include <atomic>
-#include <functional>
 #include <limits>
 #include <memory>
 #include <mutex>
-
-using Make = std::function<QWizardPage *()>;
-Q_DECLARE_METATYPE(Make)
 
 /** What a host does besides what every misbehaving host does. */
 enum class Habit {
@@ -206,9 +198,11 @@ struct Tally {
 class Run
 {
 public:
-    Run(const Make &make, const QStringList &files, const QStringList &records, quint32 seed,
+    Run(const Head &head, const QStringList &files, const QStringList &records, quint32 seed,
         Tally *tally)
-        : m_page(make())
+        : m_head(head)
+        , m_made(head.newPage())
+        , m_page(m_made.page)
         , m_driver(m_page.get())
         , m_files(files)
         , m_records(records)
@@ -310,9 +304,8 @@ private:
 
     void readRecord()
     {
-        auto *edit = m_page->findChild<QLineEdit *>(QStringLiteral("m_leConfigFile"));
-        if (edit == nullptr) {
-            return; // a page without records
+        if (m_head.recordName == nullptr) {
+            return;
         }
         // Mostly one that fits the photos: otherwise hardly any page would ever be complete.
         const int shots = m_random.bounded(4) == 0 ? m_random.bounded(9) : m_chosen.size();
@@ -322,12 +315,7 @@ private:
         DialogClicker boxes;
         boxes.pressButton();
         perhapsDeleteIn(boxes);
-        edit->setText(path);
-        if (auto *clauss = qobject_cast<UIWPClauss *>(m_page.get())) {
-            clauss->SetConfigFFilename();
-        } else {
-            QMetaObject::invokeMethod(m_page.get(), "SetConfigFFilename", Q_ARG(QString, path));
-        }
+        m_head.enterPath(m_made, path);
     }
 
     void pressNext()
@@ -339,9 +327,7 @@ private:
         boxes.pressButton();
         perhapsDeleteIn(boxes);
         const int delivered = fakeHost().descriptions.size();
-        const auto *ownGroups = dynamic_cast<const StructuredPanoramaProperties *>(m_page.get());
-        const int before = ownGroups->imageGroups.size();
-        const bool isGrid = qobject_cast<UIWPGigapan *>(m_page.get()) != nullptr;
+        const int before = m_made.description->imageGroups.size();
         const bool isAccepted = m_page->validatePage();
         if (!m_page || application().hidesInterface) {
             return;
@@ -361,7 +347,8 @@ private:
         }
         names.sort();
         // A grid takes only as many photos as it has cells.
-        const bool fits = isGrid ? toSet(m_chosen).contains(toSet(names)) : names == m_chosen;
+        const bool fits
+            = m_head.facts->isGrid() ? toSet(m_chosen).contains(toSet(names)) : names == m_chosen;
         if (!fits) {
             m_broken = QStringLiteral("Chosen was %1, handed over %2")
                            .arg(m_chosen.join(QLatin1Char(' ')), names.join(QLatin1Char(' ')));
@@ -394,6 +381,8 @@ private:
         }
     }
 
+    const Head &m_head;
+    HeadPage m_made;
     std::unique_ptr<QWizardPage> m_page;
     PageDriver m_driver;
     QStringList m_files;
@@ -422,8 +411,7 @@ private Q_SLOTS:
 private:
     ShootFolder m_folder;
     QStringList m_files;
-    QStringList m_records;
-    QStringList m_scripts;
+    QMap<const Head *, QStringList> m_records;
     QString m_style;
     QFont m_font;
 };
@@ -433,21 +421,26 @@ void TestMisbehavingHost::initTestCase()
     m_style = QApplication::style()->objectName();
     m_font = QApplication::font();
     m_files = m_folder.addPhotos(kFiles);
-    for (int shots = 0; shots <= 8; ++shots) {
-        RecordXml record = RecordXml::row(shots);
-        record.focal = QStringLiteral("24");
-        // The second record has brackets, the second script one direction only.
-        const QString name = QStringLiteral("shoot%1").arg(shots);
-        m_records.append(m_folder.write(name + QStringLiteral(".xml"), record.bytes()));
-        record.nbPicts = QString::number(shots % 4);
-        m_records.append(m_folder.write(name + QStringLiteral("b.xml"), record.bytes()));
-        m_scripts.append(m_folder.write(name + QStringLiteral(".txt"),
-                                        QByteArray("op_h-angle=5\nop_shoot\n").repeated(shots)));
-        m_scripts.append(m_folder.write(name + QStringLiteral("b.txt"),
-                                        QByteArray("op_shoot\n").repeated(shots)));
+    for (const Head *head : headsWithRecords()) {
+        QStringList &records = m_records[head];
+        const auto write = [&](int shots, const char *kind, const QByteArray &record) {
+            records.append(
+                m_folder.write(QStringLiteral("%1/%2%3 %4")
+                                   .arg(QLatin1String(head->name))
+                                   .arg(shots)
+                                   .arg(QLatin1String(kind), QLatin1String(head->recordName)),
+                               record));
+        };
+        for (int shots = 0; shots <= 8; ++shots) {
+            // The second record has brackets if it can, else one direction only.
+            write(shots, "", head->host->record(rowOf(shots)));
+            write(shots, "b",
+                  head->bracketsOf != nullptr
+                      ? head->bracketsOf(shots, shots % 4)
+                      : head->recordOf(QVector<ShotAngles>(shots, { 5.0, 0.0 })));
+        }
+        records.append(m_folder.path(QStringLiteral("nowhere")));
     }
-    m_records.append(m_folder.path(QStringLiteral("nowhere")));
-    m_scripts.append(m_folder.path(QStringLiteral("nowhere")));
 }
 
 void TestMisbehavingHost::init()
@@ -466,28 +459,19 @@ void TestMisbehavingHost::cleanup()
 
 void TestMisbehavingHost::nextIsEnabledOnlyWhenEverythingFits_data()
 {
-    QTest::addColumn<Make>("make");
-    QTest::addColumn<QStringList>("records");
+    QTest::addColumn<const Head *>("head");
     QTest::addColumn<Habit>("habit");
-    const auto addRows = [](const char *head, const Make &make, const QStringList &records) {
-        QTest::addRow("%s", head) << make << records << Habit::None;
-        QTest::addRow("%s: changes answers", head) << make << records << Habit::ChangesAnswers;
-        QTest::addRow("%s: knows nothing", head) << make << records << Habit::KnowsNothing;
-        QTest::addRow("%s: changes looks", head) << make << records << Habit::ChangesLooks;
-    };
-    addRows(
-        "Papywizard", [] { return new UIWPMerlin(nullptr); }, m_records);
-    addRows(
-        "VR Drive 2", [] { return new UIWPVRDrive2(nullptr); }, m_records);
-    addRows(
-        "Clauss", [] { return new UIWPClauss(nullptr); }, m_scripts);
-    addRows("Gigapan", [] { return new UIWPGigapan(nullptr); }, {});
+    for (const Head *head : allHeads()) {
+        QTest::addRow("%s", head->name) << head << Habit::None;
+        QTest::addRow("%s: changes answers", head->name) << head << Habit::ChangesAnswers;
+        QTest::addRow("%s: knows nothing", head->name) << head << Habit::KnowsNothing;
+        QTest::addRow("%s: changes looks", head->name) << head << Habit::ChangesLooks;
+    }
 }
 
 void TestMisbehavingHost::nextIsEnabledOnlyWhenEverythingFits()
 {
-    QFETCH(const Make, make);
-    QFETCH(const QStringList, records);
+    QFETCH(const Head *, head);
     QFETCH(const Habit, habit);
     const int runs = rounds(habit == Habit::None ? kEnough : 15, 1'000);
     application().habit = habit;
@@ -495,7 +479,7 @@ void TestMisbehavingHost::nextIsEnabledOnlyWhenEverythingFits()
     for (int seed = 1; seed <= runs; ++seed) {
         application().forgetAll();
         const QString broken
-            = Run(make, m_files, records, static_cast<quint32>(seed), &tally).play();
+            = Run(*head, m_files, m_records.value(head), static_cast<quint32>(seed), &tally).play();
         QVERIFY2(broken.isEmpty(), qPrintable(QStringLiteral("Seed %1: %2").arg(seed).arg(broken)));
     }
     qInfo("%d runs: %d times complete, %d descriptions, %d pages deleted while reading, %d in a "

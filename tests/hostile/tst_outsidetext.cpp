@@ -1,29 +1,20 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
-#include "importers/clauss/uiwpclauss.h"
 #include "importers/gigapan/gigapantospp.h"
-#include "importers/gigapan/uiwpgigapan.h"
-#include "importers/papywizard/uiwpmerlin.h"
-#include "importers/vrdrive2/uiwpvrdrive2.h"
+#include "importers/papywizard/merlintospp.h"
 #include "tests/support/desktop.h"
 #include "tests/support/dialogclicker.h"
 #include "tests/support/fakeapplication.h"
-#include "tests/support/pagedriver.h"
-#include "tests/support/shootfolder.h"
+#include "tests/support/heads.h"
 
 #include <QHelpEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QTextDocumentFragment>
 #include <QToolTip>
 #include <QtTest>
 
-#include <functional>
-#include <memory>
-
 #include <unistd.h>
-
-using Make = std::function<QWizardPage *()>;
-Q_DECLARE_METATYPE(Make)
 
 namespace
 {
@@ -126,46 +117,51 @@ void TestOutsideText::noLabelShowsTheRecordsText()
     const QString path = folder.write(QStringLiteral("shoot.xml"), record.bytes());
     const QStringList photos = folder.addPhotos(3);
 
-    UIWPMerlin papywizard(nullptr);
-    UIWPVRDrive2 vrDrive(nullptr);
-    for (QWizardPage *page :
-         { static_cast<QWizardPage *>(&papywizard), static_cast<QWizardPage *>(&vrDrive) }) {
-        const QString subtitle = page->subTitle();
-        const PageDriver driver(page);
-        driver.load("m_pbSelectImages", photos);
-        driver.load("m_pbSelectConfigFile", { path });
+    for (const Head *head : headsThat([](const Head &one) { return one.schema != nullptr; })) {
+        const HeadShoot shoot(*head);
+        const PageDriver &driver = shoot.driver;
+        const QString subtitle = shoot.page->subTitle();
+        driver.load(kSelectPhotos, photos);
+        driver.load(kSelectRecord, { path });
         QCOMPARE(driver.text("m_lbPapyLog"), QStringLiteral("2"));
-        for (const QString &shown : richTexts(*page)) {
+        for (const QString &shown : richTexts(*shoot.page)) {
             QVERIFY2(!shown.contains(text), qPrintable(shown.left(200)));
         }
-        QCOMPARE(page->subTitle(), subtitle);
+        QCOMPARE(shoot.page->subTitle(), subtitle);
         // The property is what a host reads; it is shown by way of the filter.
         auto *edit = driver.find<QLineEdit>("m_leConfigFile");
         const QString header = QStringLiteral("%1\n%1\n%1").arg(text.trimmed());
         QCOMPARE(edit->toolTip(), header);
         QCOMPARE(shownToolTip(edit), header.left(2'000));
+        if (head == &papywizard()) {
+            QCOMPARE(driver.text("m_leHeaderTitle").size(), text.trimmed().size());
+        }
     }
-    QCOMPARE(papywizard.findChild<QLineEdit *>(QStringLiteral("m_leHeaderTitle"))->text().size(),
-             text.trimmed().size());
     QVERIFY(desktop.urls().isEmpty());
 }
 
 void TestOutsideText::theErrorBoxShowsThePathPlain_data()
 {
-    noLabelShowsTheRecordsText_data();
+    QTest::addColumn<const Head *>("head");
+    QTest::addColumn<QString>("text");
+    for (const Head *head : headsThat([](const Head &one) { return one.saysUnreadable; })) {
+        int number = 0;
+        for (const QString &text : temptations()) {
+            QTest::addRow("%s: %d", head->name, ++number) << head << text;
+        }
+    }
 }
 
 void TestOutsideText::theErrorBoxShowsThePathPlain()
 {
+    QFETCH(const Head *, head);
     QFETCH(QString, text);
     text.remove(QLatin1Char('\n')).remove(QLatin1Char('\t')); // a line edit takes none
 
-    UIWPClauss page(nullptr);
-    const PageDriver driver(&page);
+    const HeadShoot shoot(*head);
     DialogClicker boxes;
     boxes.pressButton();
-    driver.find<QLineEdit>("m_leConfigFile")->setText(text);
-    page.SetConfigFFilename();
+    head->enterPath(shoot.made, text);
     QVERIFY(boxes.isSettled());
     QCOMPARE(boxes.messageBoxes().first().text, QStringLiteral("Error parse file:") + text);
     QCOMPARE(boxes.messageBoxes().first().textFormat, Qt::PlainText);
@@ -173,38 +169,28 @@ void TestOutsideText::theErrorBoxShowsThePathPlain()
 
 void TestOutsideText::oddNamesArriveByteForByte_data()
 {
-    QTest::addColumn<Make>("make");
-    QTest::addColumn<QString>("recordName"); // empty: the head writes none
-    const QString xml = QStringLiteral("shoot.xml");
-    QTest::newRow("Papywizard") << Make([] { return new UIWPMerlin(nullptr); }) << xml;
-    QTest::newRow("VR Drive 2") << Make([] { return new UIWPVRDrive2(nullptr); }) << xml;
-    QTest::newRow("Clauss") << Make([] { return new UIWPClauss(nullptr); })
-                            << QStringLiteral("<b>shoot<\u2044b>.txt");
-    QTest::newRow("Gigapan") << Make([] { return new UIWPGigapan(nullptr); }) << QString();
+    addHeads(allHeads());
 }
 
 void TestOutsideText::oddNamesArriveByteForByte()
 {
-    QFETCH(const Make, make);
-    QFETCH(const QString, recordName);
+    QFETCH(const Head *, head);
     const DesktopCatcher desktop;
-    const ShootFolder folder;
+    const HeadShoot shoot(*head);
     QStringList photos;
     for (const QString &name : oddNames()) {
-        photos.append(folder.addPhoto(name));
+        photos.append(shoot.folder.addPhoto(name));
     }
     photos.sort(Qt::CaseSensitive);
-    const std::unique_ptr<QWizardPage> page(make());
-    const PageDriver driver(page.get());
-    driver.load("m_pbSelectImages", photos);
-    if (!recordName.isEmpty()) {
-        const QByteArray record = recordName.endsWith(QLatin1String("xml"))
-            ? RecordXml::row(photos.size()).bytes()
-            : QByteArray("op_h-angle=5\nop_shoot\n").repeated(photos.size());
-        driver.load("m_pbSelectConfigFile", { folder.write(recordName, record) });
+    const QWizardPage *page = shoot.page;
+    shoot.driver.load(kSelectPhotos, photos);
+    if (head->recordName != nullptr) {
+        const QString name
+            = QStringLiteral("<b>shoot<\u2044b>") + QString::fromLatin1(head->recordName);
+        shoot.driver.load(kSelectRecord, { shoot.folder.write(name, head->record(photos.size())) });
     }
     QVERIFY(page->isComplete());
-    QVERIFY(page->validatePage());
+    QVERIFY(shoot.page->validatePage());
     QStringList delivered;
     for (const QStringList &group : fakeHost().descriptions.last().imageGroups) {
         delivered += group;

@@ -24,16 +24,6 @@
 namespace
 {
 
-Heads headsWithXml()
-{
-    return { &papywizard(), &vrDrive2() };
-}
-
-Heads headsWithLinking()
-{
-    return { &papywizard(), &vrDrive2(), &gigapan() };
-}
-
 /** \p text about the head \p name, without the address that its link leads to. */
 QString subtitle(const QString &name, const QString &colour, const QString &text)
 {
@@ -62,11 +52,11 @@ private Q_SLOTS:
     void linkingStartsWithTheReferenceLevelAndHardLinks();
     void stackChoicesAreAGroupOfTheirOwn_data() { addHeads(headsWithLinking()); }
     void stackChoicesAreAGroupOfTheirOwn();
-    void focalLengthHasItsRange_data() { addHeads(headsWithXml()); }
+    void focalLengthHasItsRange_data() { addHeads(headsWithLens()); }
     void focalLengthHasItsRange();
-    void lensTypesStartWithTheFisheye_data() { addHeads(headsWithXml()); }
+    void lensTypesStartWithTheFisheye_data() { addHeads(headsWithLens()); }
     void lensTypesStartWithTheFisheye();
-    void rotateButtonsShowTheirPictures_data() { addHeads(headsWithXml()); }
+    void rotateButtonsShowTheirPictures_data() { addHeads(headsThatTurn()); }
     void rotateButtonsShowTheirPictures();
 
     void photoListIsReadOnly_data() { addHeads(allHeads()); }
@@ -83,46 +73,23 @@ private Q_SLOTS:
 
 void TestEveryForm::titlesAndSubtitle_data()
 {
-    QTest::addColumn<const Head *>("head");
-    QTest::addColumn<QString>("windowTitle");
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<QString>("about");
-    const auto row
-        = [](const Head &head, const char *windowTitle, const char *title, const char *about) {
-              QTest::newRow(head.name) << &head << QString::fromLatin1(windowTitle)
-                                       << QString::fromLatin1(title) << QString::fromLatin1(about);
-          };
-    row(papywizard(), "Papywizard panohead control software", "Papywizard import",
-        "is a free project to drive Merlin/Orion panorama heads. The XML file format is open and "
-        "used by a wide range of motorized panorama heads.");
-    row(gigapan(), "UIWPGigapan", "Gigapan panorama import",
-        "allows users to upload, share, and explore brilliant gigapixel+ panoramas from around the "
-        "globe.");
-    row(vrDrive2(), "VR Drive II import plugin", "VR Drive 2",
-        "plug-in enables an automated HDR workflow with all parameters set for true light "
-        "rendering and easy use of Weavix software.");
-    row(clauss(), "Clauss panohead", "Clauss panohead import",
-        "provides special equipment for panoramic photography and VR applications.");
+    addHeads(allHeads());
 }
 
 void TestEveryForm::titlesAndSubtitle()
 {
     QFETCH(const Head *, head);
-    QFETCH(QString, windowTitle);
-    QFETCH(QString, title);
-    QFETCH(QString, about);
     const HeadShoot shoot(*head);
-    QCOMPARE(shoot.page->windowTitle(), windowTitle);
-    QCOMPARE(shoot.page->title(), title);
+    QCOMPARE(shoot.page->windowTitle(), head->windowTitle);
+    QCOMPARE(shoot.page->title(), head->title);
     const QColor colour = shoot.driver.preview()->palette().color(QPalette::WindowText);
     QCOMPARE(withoutAddress(shoot.page->subTitle()),
-             subtitle(QLatin1String(head->name), colour.name(), about));
+             subtitle(QLatin1String(head->name), colour.name(), head->about));
 }
 
 void TestEveryForm::subtitleFollowsTheTheme()
 {
     QFETCH(const Head *, head);
-    QFETCH(QString, about);
     const QPalette before = QApplication::palette();
     QPalette dark = before;
     dark.setColor(QPalette::WindowText, QColor(0x12, 0xab, 0xef));
@@ -131,33 +98,23 @@ void TestEveryForm::subtitleFollowsTheTheme()
     QApplication::setPalette(before);
 
     QCOMPARE(withoutAddress(shoot.page->subTitle()),
-             subtitle(QLatin1String(head->name), QStringLiteral("#12abef"), about));
+             subtitle(QLatin1String(head->name), QStringLiteral("#12abef"), head->about));
 }
 
 void TestEveryForm::pageShowsItsLogo_data()
 {
-    QTest::addColumn<const Head *>("head");
-    QTest::addColumn<QString>("picture"); // null: none
-    QTest::newRow("Papywizard") << &papywizard() << QString();
-    QTest::newRow("Gigapan") << &gigapan() << QString();
-    QTest::newRow("VR Drive 2") << &vrDrive2()
-                                << QStringLiteral(":/7A21C94E-5B20-2020-2020-B662C695C918/"
-                                                  "Resources/VRDrive2.png");
-    QTest::newRow("Clauss") << &clauss()
-                            << QStringLiteral(":/7A21C94E-5B20-2020-2020-D6D081182F97/Resources/"
-                                              "Clauss_wp.png");
+    addHeads(allHeads());
 }
 
 void TestEveryForm::pageShowsItsLogo()
 {
     QFETCH(const Head *, head);
-    QFETCH(QString, picture);
     const QImage shown = HeadShoot(*head).page->pixmap(QWizard::LogoPixmap).toImage();
-    if (picture.isNull()) {
+    if (head->logo.isEmpty()) {
         QVERIFY(shown.isNull());
         return;
     }
-    QImage logo = XuiPixmapHelper::CreateHighDpiPixmap(picture, 255, QSize(-1, -1)).toImage();
+    QImage logo = XuiPixmapHelper::CreateHighDpiPixmap(head->logo, 255, QSize(-1, -1)).toImage();
     QVERIFY(!logo.isNull());
     // The picture as it is, shown in 64 pixels of the page.
     QCOMPARE(QSizeF(shown.size()) / shown.devicePixelRatio(), QSizeF(64.0, 64.0));
@@ -176,15 +133,13 @@ void TestEveryForm::boxesAreCheckedAsWanted_data()
     for (const Head *head : allHeads()) {
         row(*head, "m_autoStart", Qt::Checked);
         row(*head, "m_noOptim", Qt::Unchecked);
+        row(*head, "m_cleanLink", head->facts->cleansLinks ? Qt::Checked : Qt::Unchecked);
+        if (head->facts->isGrid()) {
+            row(*head, "m_cbIS360", Qt::Unchecked);
+        } else {
+            row(*head, "m_GridOptim", Qt::Checked);
+        }
     }
-    for (const Head *head : headsWithRecords()) {
-        row(*head, "m_GridOptim", Qt::Checked);
-    }
-    row(papywizard(), "m_cleanLink", Qt::Unchecked);
-    row(vrDrive2(), "m_cleanLink", Qt::Checked); // unlike on the other pages
-    row(clauss(), "m_cleanLink", Qt::Unchecked);
-    row(gigapan(), "m_cleanLink", Qt::Unchecked);
-    row(gigapan(), "m_cbIS360", Qt::Unchecked);
 }
 
 void TestEveryForm::boxesAreCheckedAsWanted()
@@ -298,7 +253,7 @@ void TestEveryForm::labelsWithNumbersArePlain_data()
             row(head, label);
         }
     }
-    for (const Head *head : headsWithXml()) {
+    for (const Head *head : headsWithLens()) {
         for (const char *label : { "m_lbBracket", "m_lbFocalLength", "m_lbFocalLengthImage" }) {
             row(head, label);
         }

@@ -5,7 +5,6 @@
 #include "tests/support/gate.h"
 #include "tests/support/heads.h"
 #include "tests/support/heldphotos.h"
-#include "tests/support/pageshoot.h"
 #include "ui/xui.h"
 
 #include <QAbstractButton>
@@ -27,12 +26,7 @@ namespace
 /** Something that a user does on a page. */
 using Act = std::function<void(const HeadShoot &)>;
 /** The text of a record. */
-using Record = QByteArray (*)(int shots);
-
-QByteArray rowInThrees(int shots)
-{
-    return bracketedRow(shots, QStringLiteral("3")).bytes();
-}
+using Record = QByteArray (*)(const Head &head, int shots);
 
 void checkFreshTexts(const HeadShoot &shoot)
 {
@@ -70,6 +64,8 @@ class TestEveryPage : public QObject
 private Q_SLOTS:
     void init();
 
+    void testsKnowTheHeadAsTheHostDoes_data() { addHeads(allHeads()); }
+    void testsKnowTheHeadAsTheHostDoes();
     void newPageIsEmpty_data() { addHeads(allHeads()); }
     void newPageIsEmpty();
     void photosAreListedByNameAndCounted_data() { addHeads(allHeads()); }
@@ -90,11 +86,11 @@ private Q_SLOTS:
     void resetWhileReadingLeavesNoPhotoToCount_data() { addHeads(headsWithRecords()); }
     void resetWhileReadingLeavesNoPhotoToCount();
 
-    void allLevelsBringDetectedPoints_data() { addHeadsWithLinking(); }
+    void allLevelsBringDetectedPoints_data() { addHeads(headsWithLinking()); }
     void allLevelsBringDetectedPoints();
-    void hardLinksBringTheReferenceLevel_data() { addHeadsWithLinking(); }
+    void hardLinksBringTheReferenceLevel_data() { addHeads(headsWithLinking()); }
     void hardLinksBringTheReferenceLevel();
-    void otherRadioButtonsChangeNothingElse_data() { addHeadsWithLinking(); }
+    void otherRadioButtonsChangeNothingElse_data() { addHeads(headsWithLinking()); }
     void otherRadioButtonsChangeNothingElse();
 
     void nextHandsOverACopyWithEveryOption_data();
@@ -160,9 +156,6 @@ private Q_SLOTS:
     void pageMayGoWhilePhotosAreRead();
     void pageMayGoWhileADialogIsOpen_data() { addDialogs(); }
     void pageMayGoWhileADialogIsOpen();
-
-private:
-    static void addHeadsWithLinking() { addHeads({ &papywizard(), &gigapan(), &vrDrive2() }); }
 };
 
 void TestEveryPage::init()
@@ -170,6 +163,36 @@ void TestEveryPage::init()
     fakeHost().forget();
     fakeHost().uiSettings.useSystemFileDialog = false;
     XUI::init(fakeHost().UIInstances());
+}
+
+/** What a head is said to have decides which rows it gets: no head is left out by an oversight. */
+void TestEveryPage::testsKnowTheHeadAsTheHostDoes()
+{
+    QFETCH(const Head *, head);
+    const PanoHead::HeadFacts &facts = *head->facts;
+    const HostHead &host = *head->host;
+    QCOMPARE(facts.about->nameText(), QString::fromLatin1(host.name));
+    QCOMPARE(facts.about->uidText(), QString::fromLatin1(host.uid));
+    QCOMPARE(QByteArray(host.title), QByteArray(head->name));
+    QCOMPARE(facts.hasLens, host.hasLens);
+    QCOMPARE(facts.turnsCamera, host.turnsCamera);
+    QCOMPARE(facts.notesBrackets, head->bracketsOf != nullptr);
+    QVERIFY(!head->handsOver.empty() && !head->options.empty() && !head->chosen.empty());
+    for (const bool hasRecord :
+         { host.recordName != nullptr, host.record != nullptr, host.hostileFiles != nullptr,
+           head->recordName != nullptr, head->recordOf != nullptr, head->parse != nullptr,
+           head->enterPath != nullptr }) {
+        QCOMPARE(hasRecord, !facts.isGrid());
+    }
+    if (!facts.isGrid()) {
+        QCOMPARE(facts.ordersByTime, host.ordersByTime);
+        QCOMPARE(facts.ordersByTime, head->order != PhotoOrder::AsRead);
+        QVERIFY(facts.isRecord(QString::fromLatin1(head->recordName)));
+        PanoHead::ReadError error;
+        const auto summary = facts.summary(head->record(3), &error);
+        QVERIFY2(summary, qPrintable(error.reason));
+        QCOMPARE(summary->shotCount, 3);
+    }
 }
 
 void TestEveryPage::newPageIsEmpty()
@@ -377,41 +400,12 @@ void TestEveryPage::nextHandsOverACopyWithEveryOption_data()
     // Auto detection, clean, skip, recorded location, full turn.
     QTest::addColumn<QVector<bool>>("flags");
     QTest::addColumn<QVector<int>>("choices"); // level linking, stack linking, render mode
-    const auto row = [](const Head &head, const char *clicked, const QVector<bool> &flags,
-                        const QVector<int> &choices) {
-        QTest::addRow("%s: %s", head.name, *clicked ? clicked : "defaults")
-            << &head << QByteArray(clicked) << flags << choices;
-    };
-    row(papywizard(), "", { true, false, false, true, false }, { 0, 0, -1 });
-    row(papywizard(), "m_autoStart", { false, false, false, true, false }, { 0, 0, -1 });
-    row(papywizard(), "m_cleanLink", { true, true, false, true, false }, { 0, 0, -1 });
-    row(papywizard(), "m_noOptim", { true, false, true, true, false }, { 0, 0, -1 });
-    row(papywizard(), "m_GridOptim", { true, false, false, false, false }, { 0, 0, -1 });
-    row(papywizard(), "m_rbStackLinking1", { true, false, false, true, false }, { 0, 1, -1 });
-    row(papywizard(), "m_rbLevelLinking1", { true, false, false, true, false }, { 1, 1, -1 });
-
-    row(vrDrive2(), "", { true, true, false, true, false }, { 0, 0, 2 });
-    row(vrDrive2(), "m_autoStart", { false, true, false, true, false }, { 0, 0, 2 });
-    row(vrDrive2(), "m_cleanLink", { true, false, false, true, false }, { 0, 0, 2 });
-    row(vrDrive2(), "m_noOptim", { true, true, true, true, false }, { 0, 0, 2 });
-    row(vrDrive2(), "m_GridOptim", { true, true, false, false, false }, { 0, 0, 2 });
-    row(vrDrive2(), "m_rbStackLinking1", { true, true, false, true, false }, { 0, 1, 2 });
-    row(vrDrive2(), "m_rbLevelLinking1", { true, true, false, true, false }, { 1, 1, 2 });
-    row(vrDrive2(), "m_rbOutputMode2", { true, true, false, true, false }, { 0, 0, 3 });
-
-    row(clauss(), "", { true, false, false, true, false }, { 0, 0, -1 });
-    row(clauss(), "m_autoStart", { false, false, false, true, false }, { 0, 0, -1 });
-    row(clauss(), "m_cleanLink", { true, true, false, true, false }, { 0, 0, -1 });
-    row(clauss(), "m_noOptim", { true, false, true, true, false }, { 0, 0, -1 });
-    row(clauss(), "m_GridOptim", { true, false, false, false, false }, { 0, 0, -1 });
-
-    row(gigapan(), "", { true, false, false, true, false }, { 0, 0, -1 });
-    row(gigapan(), "m_autoStart", { false, false, false, true, false }, { 0, 0, -1 });
-    row(gigapan(), "m_cleanLink", { true, true, false, true, false }, { 0, 0, -1 });
-    row(gigapan(), "m_noOptim", { true, false, true, true, false }, { 0, 0, -1 });
-    row(gigapan(), "m_cbIS360", { true, false, false, true, true }, { 0, 0, -1 });
-    row(gigapan(), "m_rbStackLinking1", { true, false, false, true, false }, { 0, 1, -1 });
-    row(gigapan(), "m_rbLevelLinking1", { true, false, false, true, false }, { 1, 1, -1 });
+    for (const Head *head : allHeads()) {
+        for (const HandedOver &row : head->handsOver) {
+            QTest::addRow("%s: %s", head->name, *row.clicked ? row.clicked : "defaults")
+                << head << QByteArray(row.clicked) << row.flags << row.choices;
+        }
+    }
 }
 
 void TestEveryPage::nextHandsOverACopyWithEveryOption()
@@ -538,10 +532,12 @@ void TestEveryPage::pageIsCompleteWhenEverythingFits_data()
         }
     };
     for (const Head *head : headsWithRecords()) {
-        add(*head, "", head->record);
+        add(*head, "", [](const Head &of, int shots) { return of.record(shots); });
+        if (head->bracketsOf != nullptr) {
+            add(*head, ", in threes",
+                [](const Head &of, int shots) { return of.bracketsOf(shots, 3); });
+        }
     }
-    add(papywizard(), ", in threes", &rowInThrees);
-    add(vrDrive2(), ", in threes", &rowInThrees);
 }
 
 void TestEveryPage::pageIsCompleteWhenEverythingFits()
@@ -562,7 +558,7 @@ void TestEveryPage::pageIsCompleteWhenEverythingFits()
 
     if (shots >= 0) {
         const QString name = QString::fromLatin1(head->recordName);
-        shoot.driver.load(kSelectRecord, { shoot.folder.write(name, record(shots)) });
+        shoot.driver.load(kSelectRecord, { shoot.folder.write(name, record(*head, shots)) });
     }
     if (photos > 0) {
         shoot.driver.load(kSelectPhotos, files);
@@ -670,13 +666,12 @@ void TestEveryPage::actionSignalsCompleteness_data()
     const auto clickRow = [&row](const Heads &heads, const char *button) {
         row(heads, button, [button](const HeadShoot &shoot) { shoot.driver.click(button); });
     };
-    const Heads readers{ &papywizard(), &vrDrive2() }; // of XML
     clickRow(allHeads(), "m_pbReset");
-    clickRow({ &papywizard(), &clauss() }, "m_pInverseCoordinates");
-    clickRow({ &papywizard() }, "m_pbRot90");
-    clickRow({ &papywizard() }, "m_pbRot270");
-    clickRow(readers, "m_pbFLUseXML");
-    clickRow(readers, "m_pbFLUseImage");
+    for (const Head *head : allHeads()) {
+        for (const char *button : head->tellingButtons) {
+            clickRow({ head }, button);
+        }
+    }
     row(allHeads(), "zoom",
         [](const HeadShoot &shoot) { shoot.driver.find<QSlider>("m_hSlider")->setValue(20); });
     row(allHeads(), "photos", [](const HeadShoot &shoot) {
@@ -685,14 +680,16 @@ void TestEveryPage::actionSignalsCompleteness_data()
     row(headsWithRecords(), "record", [](const HeadShoot &shoot) {
         shoot.driver.chooseFiles(kSelectRecord, { shoot.writeRecord(2) });
     });
-    row({ &papywizard() }, "cancelled record dialog",
+    row(headsThat([](const Head &head) { return head.rereadsOnCancel; }), "cancelled record dialog",
         [](const HeadShoot &shoot) { shoot.driver.cancelFiles(kSelectRecord); });
-    row(readers, "typed path",
+    row(headsThat([](const Head &head) { return head.tellsWhileTyping; }), "typed path",
         [](const HeadShoot &shoot) { shoot.driver.type("m_leConfigFile", QStringLiteral("x")); });
-    row({ &clauss() }, "typed path", [](const HeadShoot &shoot) {
-        shoot.driver.type("m_leConfigFile", shoot.writeRecord(3, QStringLiteral("other/")));
-        QTest::keyClick(shoot.driver.find<QLineEdit>("m_leConfigFile"), Qt::Key_Return);
-    });
+    row(headsThat(
+            [](const Head &head) { return head.recordName != nullptr && !head.tellsWhileTyping; }),
+        "typed path", [](const HeadShoot &shoot) {
+            shoot.driver.type("m_leConfigFile", shoot.writeRecord(3, QStringLiteral("other/")));
+            QTest::keyClick(shoot.driver.find<QLineEdit>("m_leConfigFile"), Qt::Key_Return);
+        });
 }
 
 void TestEveryPage::actionSignalsCompleteness()
@@ -738,11 +735,12 @@ void TestEveryPage::goingBackStopsTheReading_data()
 {
     QTest::addColumn<const Head *>("head");
     QTest::addColumn<QString>("count"); // of the photos, as the page shows it afterwards
-    for (const Head *head : headsWithRecords()) {
-        QTest::newRow(head->name) << head << QStringLiteral("N/A");
+    for (const Head *head : allHeads()) {
+        // A grid has no record that other photos could belong to: only the reading stops.
+        QTest::newRow(head->name) << head
+                                  << (head->facts->isGrid() ? head->countText.arg(20)
+                                                            : QStringLiteral("N/A"));
     }
-    // A grid has no record that other photos could belong to: only the reading stops.
-    QTest::newRow("Gigapan") << &gigapan() << QStringLiteral("20 images in ");
 }
 
 void TestEveryPage::goingBackStopsTheReading()
@@ -792,10 +790,9 @@ void TestEveryPage::savedStateIsEmpty_data()
 {
     QTest::addColumn<const Head *>("head");
     QTest::addColumn<int>("signalCount"); // of pages whose preview tells when it is updated
-    QTest::newRow("Papywizard") << &papywizard() << 0;
-    QTest::newRow("VR Drive 2") << &vrDrive2() << 0;
-    QTest::newRow("Clauss") << &clauss() << 1;
-    QTest::newRow("Gigapan") << &gigapan() << 1;
+    for (const Head *head : allHeads()) {
+        QTest::newRow(head->name) << head << head->signalsOnRestore;
+    }
 }
 
 void TestEveryPage::savedStateIsEmpty()
@@ -936,7 +933,8 @@ void TestEveryPage::cancelledPhotoDialogChangesNothing()
 
 void TestEveryPage::cancelledRecordDialogChangesNothing_data()
 {
-    addHeads({ &vrDrive2(), &clauss() }); // the Papywizard page reads its file again
+    addHeads(headsThat(
+        [](const Head &head) { return head.recordName != nullptr && !head.rereadsOnCancel; }));
 }
 
 void TestEveryPage::cancelledRecordDialogChangesNothing()
@@ -982,9 +980,10 @@ void TestEveryPage::photosAreSortedCaseSensitively_data()
     for (const Head *head : allHeads()) {
         QTest::addRow("%s: photos", head->name) << head << QByteArray(kSelectPhotos);
     }
-    // The Clauss page keeps the order of this dialog.
-    for (const Head *head : { &papywizard(), &vrDrive2() }) {
-        QTest::addRow("%s: record", head->name) << head << QByteArray(kSelectRecord);
+    for (const Head *head : headsWithRecords()) {
+        if (!head->keepsDialogOrder) {
+            QTest::addRow("%s: record", head->name) << head << QByteArray(kSelectRecord);
+        }
     }
 }
 
@@ -1019,12 +1018,12 @@ void TestEveryPage::hostLearnsTheFirstPhoto()
     QCOMPARE(fakeHost().setLastPaths, QStringList{ shoot.folder.path(QStringLiteral("a.jpg")) });
 }
 
-// The pages for XML records open the folder instead.
+// The other pages open the folder instead.
 void TestEveryPage::controlKeyOpensTheFirstPhotoItself_data()
 {
     QTest::addColumn<const Head *>("head");
     QTest::addColumn<QString>("name");
-    for (const Head *head : { &gigapan(), &clauss() }) {
+    for (const Head *head : headsThat([](const Head &one) { return one.showsPhotoItself; })) {
         const auto row = [head](const char *name, const char *photo) {
             QTest::addRow("%s: %s", head->name, name) << head << QString::fromUtf8(photo);
         };
@@ -1066,7 +1065,7 @@ void TestEveryPage::controlKeyOpensTheLastPathItself_data()
 {
     QTest::addColumn<const Head *>("head");
     QTest::addColumn<QString>("place");
-    for (const Head *head : { &gigapan(), &clauss() }) {
+    for (const Head *head : headsThat([](const Head &one) { return one.showsPhotoItself; })) {
         QTest::addRow("%s: a photo", head->name) << head << QStringLiteral("before #1/a.jpg");
         QTest::addRow("%s: nothing any more", head->name) << head << QStringLiteral("last/place");
     }

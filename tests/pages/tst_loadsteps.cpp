@@ -3,9 +3,7 @@
 
 // What a page does, and does not do again, each time ten more photos have been read.
 #include "hostlink/readingthread.h"
-#include "importers/clauss/uiwpclauss.h"
-#include "importers/papywizard/uiwpmerlin.h"
-#include "importers/vrdrive2/uiwpvrdrive2.h"
+#include "tests/support/heads.h"
 #include "tests/support/recordshoot.h"
 #include "ui/previewlabel.h"
 #include "ui/xui.h"
@@ -24,31 +22,18 @@ constexpr int kPhotos = 60;
 constexpr int kPhotosPerSignal = 10;
 constexpr int kStepDegrees = 10;
 
-using NewPage = std::unique_ptr<QWizardPage> (*)();
-
-template <typename Page> std::unique_ptr<QWizardPage> newPage()
-{
-    return std::make_unique<Page>(nullptr);
-}
-
 /** Six rows of ten shots, so far apart that no cell touches one of another row. */
-QByteArray recordOf(bool isScript)
+QVector<ShotAngles> sixRows()
 {
-    QByteArray script;
-    RecordXml record;
+    QVector<ShotAngles> shots;
     for (int i = 0; i < kPhotos; ++i) {
-        const QString yaw = QString::number(i % kPhotosPerSignal * kStepDegrees);
-        const QString pitch = QString::number(50 - 2 * kStepDegrees * (i / kPhotosPerSignal));
-        script
-            += "op_h-angle=" + yaw.toLatin1() + "\nop_v-angle=" + pitch.toLatin1() + "\nop_shoot\n";
-        record.shots.append({ yaw, pitch });
+        shots.append({ 1.0 * (i % kPhotosPerSignal * kStepDegrees),
+                       50.0 - 2 * kStepDegrees * (i / kPhotosPerSignal) });
     }
-    return isScript ? script : record.bytes();
+    return shots;
 }
 
 } // namespace
-
-Q_DECLARE_METATYPE(NewPage)
 
 class TestLoadSteps : public QObject
 {
@@ -59,30 +44,20 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
-    void thumbnailsAreDrawnByTheSignalThatBringsThem_data() { addPages(); }
+    void thumbnailsAreDrawnByTheSignalThatBringsThem_data() { addHeads(headsWithRecords()); }
     void thumbnailsAreDrawnByTheSignalThatBringsThem();
-    void updatingThePageAgainFindsNothingToDraw_data() { addPages(); }
+    void updatingThePageAgainFindsNothingToDraw_data() { addHeads(headsWithRecords()); }
     void updatingThePageAgainFindsNothingToDraw();
-    void namesOfThePhotosAreWrittenOnce_data() { addPages(); }
+    void namesOfThePhotosAreWrittenOnce_data() { addHeads(headsWithRecords()); }
     void namesOfThePhotosAreWrittenOnce();
 
 private:
-    static void addPages();
     [[nodiscard]] QVector<int> requests() const;
 
     RecordShoot m_shoot{ kPhotos };
     std::unique_ptr<QWizardPage> m_page;
     std::unique_ptr<PageLoad> m_load;
 };
-
-void TestLoadSteps::addPages()
-{
-    QTest::addColumn<NewPage>("newPageOfHead");
-    QTest::addColumn<QString>("record");
-    QTest::newRow("Papywizard") << NewPage(newPage<UIWPMerlin>) << QStringLiteral("shoot.xml");
-    QTest::newRow("VR Drive 2") << NewPage(newPage<UIWPVRDrive2>) << QStringLiteral("shoot.xml");
-    QTest::newRow("Clauss") << NewPage(newPage<UIWPClauss>) << QStringLiteral("shoot.txt");
-}
 
 void TestLoadSteps::initTestCase()
 {
@@ -92,12 +67,11 @@ void TestLoadSteps::initTestCase()
 /** Enters the record and chooses all photos; none has been read yet. */
 void TestLoadSteps::init()
 {
-    QFETCH(const NewPage, newPageOfHead);
-    QFETCH(const QString, record);
-    m_page = newPageOfHead();
+    QFETCH(const Head *, head);
+    m_page.reset(head->newPage().page);
     m_load = std::make_unique<PageLoad>(m_page.get());
     (void)m_load->enterRecord(
-        m_shoot.write(record, recordOf(record.endsWith(QLatin1String(".txt")))));
+        m_shoot.write(QString::fromLatin1(head->recordName), head->recordOf(sixRows())));
     (void)m_load->choosePhotos(m_shoot.photos(kPhotos));
 }
 

@@ -24,38 +24,16 @@
 namespace
 {
 
-/** A head with records in the Papywizard schema: how its page differs from the other one. */
-struct SchemaHead {
-    const Head *head;
-    QString noWarning; ///< as Shoot::warning() answers it
-    QString focalWarning;
-    QString rangeOfNothing; ///< of the angles when the first record cannot be read
-    QString yawAfterFailure; ///< when one cannot be read after a row of three shots
-    QString pitchAfterFailure;
-};
-
-const QVector<const SchemaHead *> &schemaHeads()
+/** The heads with records in the Papywizard schema. */
+Heads schemaHeads()
 {
-    static const QString scanStart = QStringLiteral("3.40282e+38,-3.40282e+38");
-    static const SchemaHead papywizardHead{
-        &papywizard(), red(""),   red("Focal Length difference between EXIF and XML"),
-        scanStart,     scanStart, scanStart
-    };
-    // Keeps the ranges of the record before.
-    static const SchemaHead vrDrive2Head{ &vrDrive2(),
-                                          QString(),
-                                          red("Focal length difference between EXIF and XML"),
-                                          QStringLiteral("N/A"),
-                                          QStringLiteral("0,60"),
-                                          QStringLiteral("0,0") };
-    static const QVector<const SchemaHead *> heads{ &papywizardHead, &vrDrive2Head };
-    return heads;
+    return headsThat([](const Head &head) { return head.schema != nullptr; });
 }
 
 /** One page with the files of one shoot. */
 struct Shoot : HeadShoot {
-    explicit Shoot(const SchemaHead &schemaHead)
-        : HeadShoot(*schemaHead.head)
+    explicit Shoot(const Head &shotWith)
+        : HeadShoot(shotWith)
     {
     }
 
@@ -92,19 +70,11 @@ struct Shoot : HeadShoot {
     }
 };
 
-void addSchemaHeads()
-{
-    QTest::addColumn<const SchemaHead *>("head");
-    for (const SchemaHead *head : schemaHeads()) {
-        QTest::newRow(head->head->name) << head;
-    }
-}
-
 /** A data row of both heads, to which the caller adds what is the same for both. */
 template <typename... Values> void addToBoth(const QByteArray &name, const Values &...values)
 {
-    for (const SchemaHead *head : schemaHeads()) {
-        QTestData &row = QTest::addRow("%s: %s", head->head->name, name.constData()) << head;
+    for (const Head *head : schemaHeads()) {
+        QTestData &row = QTest::addRow("%s: %s", head->name, name.constData()) << head;
         (row << ... << values);
     }
 }
@@ -114,8 +84,6 @@ const QString kCountWarning = red("Not the same as in XML fil"); // as translati
 const QString kLensWarning = red("Lens type difference between EXIF and XML");
 
 } // namespace
-
-Q_DECLARE_METATYPE(const SchemaHead *)
 
 /** What the pages for records in the Papywizard schema do alike. */
 class TestSchemaPages : public QObject
@@ -129,45 +97,45 @@ private Q_SLOTS:
     void recordIsShownInTheLabels();
     void failedParseShowsNoShots_data();
     void failedParseShowsNoShots();
-    void failedParseOnAFreshPageShowsNoRange_data() { addSchemaHeads(); }
+    void failedParseOnAFreshPageShowsNoRange_data() { addHeads(schemaHeads()); }
     void failedParseOnAFreshPageShowsNoRange();
-    void pathIsTyped_data() { addSchemaHeads(); }
+    void pathIsTyped_data() { addHeads(schemaHeads()); }
     void pathIsTyped();
-    void typingInTheMiddleKeepsTheCursor_data() { addSchemaHeads(); }
+    void typingInTheMiddleKeepsTheCursor_data() { addHeads(schemaHeads()); }
     void typingInTheMiddleKeepsTheCursor();
-    void wizardHearsOfATypedPath_data() { addSchemaHeads(); }
+    void wizardHearsOfATypedPath_data() { addHeads(schemaHeads()); }
     void wizardHearsOfATypedPath();
     void lastRecordOfASelectionWins_data();
     void lastRecordOfASelectionWins();
-    void resetForgetsTheRecordsLens_data() { addSchemaHeads(); }
+    void resetForgetsTheRecordsLens_data() { addHeads(schemaHeads()); }
     void resetForgetsTheRecordsLens();
 
     void lastFailingTestGivesTheWarning_data();
     void lastFailingTestGivesTheWarning();
     void warningTestsHaveTheirLimits_data();
     void warningTestsHaveTheirLimits();
-    void warningAboutTheCountEndsWhereWanted_data() { addSchemaHeads(); }
+    void warningAboutTheCountEndsWhereWanted_data() { addHeads(schemaHeads()); }
     void warningAboutTheCountEndsWhereWanted();
-    void warningGoesWhenTheRecordFits_data() { addSchemaHeads(); }
+    void warningGoesWhenTheRecordFits_data() { addHeads(schemaHeads()); }
     void warningGoesWhenTheRecordFits();
-    void warningGoesWithTheReset_data() { addSchemaHeads(); }
+    void warningGoesWithTheReset_data() { addHeads(schemaHeads()); }
     void warningGoesWithTheReset();
-    void warningNeedsRecordAndPhotos_data() { addSchemaHeads(); }
+    void warningNeedsRecordAndPhotos_data() { addHeads(schemaHeads()); }
     void warningNeedsRecordAndPhotos();
 
-    void photosTellTheirFocalLength_data() { addSchemaHeads(); }
+    void photosTellTheirFocalLength_data() { addHeads(schemaHeads()); }
     void photosTellTheirFocalLength();
     void photosPresetTheLensBeforeTheRecord_data();
     void photosPresetTheLensBeforeTheRecord();
-    void focalLengthOfThePhotosIsTheirMean_data() { addSchemaHeads(); }
+    void focalLengthOfThePhotosIsTheirMean_data() { addHeads(schemaHeads()); }
     void focalLengthOfThePhotosIsTheirMean();
-    void newPhotosReplaceTheLensOfThoseBefore_data() { addSchemaHeads(); }
+    void newPhotosReplaceTheLensOfThoseBefore_data() { addHeads(schemaHeads()); }
     void newPhotosReplaceTheLensOfThoseBefore();
     void newPhotosReplaceTheLensOfThoseBeingRead_data();
     void newPhotosReplaceTheLensOfThoseBeingRead();
-    void useButtonsTakeTheirSource_data() { addSchemaHeads(); }
+    void useButtonsTakeTheirSource_data() { addHeads(schemaHeads()); }
     void useButtonsTakeTheirSource();
-    void focalLengthAndLensComeFromTheControls_data() { addSchemaHeads(); }
+    void focalLengthAndLensComeFromTheControls_data() { addHeads(schemaHeads()); }
     void focalLengthAndLensComeFromTheControls();
 
     void invertingTwiceRestoresEverything_data();
@@ -183,14 +151,14 @@ private Q_SLOTS:
     void photosThatDoNotFillTheBracketsAreRefused();
     void nextWithoutShotsAndPhotosIsHarmless_data();
     void nextWithoutShotsAndPhotosIsHarmless();
-    void pageMayGoWhileTheBoxIsOpen_data() { addSchemaHeads(); }
+    void pageMayGoWhileTheBoxIsOpen_data() { addHeads(schemaHeads()); }
     void pageMayGoWhileTheBoxIsOpen();
 
     void controlKeyOpensTheFolder_data();
     void controlKeyOpensTheFolder();
-    void toolTipKeepsTheRecordsText_data() { addSchemaHeads(); }
+    void toolTipKeepsTheRecordsText_data() { addHeads(schemaHeads()); }
     void toolTipKeepsTheRecordsText();
-    void toolTipHasALineForWhatTheRecordLeavesOut_data() { addSchemaHeads(); }
+    void toolTipHasALineForWhatTheRecordLeavesOut_data() { addHeads(schemaHeads()); }
     void toolTipHasALineForWhatTheRecordLeavesOut();
     void toolTipIsShownAsPlainText_data();
     void toolTipIsShownAsPlainText();
@@ -206,7 +174,7 @@ void TestSchemaPages::init()
 
 void TestSchemaPages::recordIsShownInTheLabels_data()
 {
-    QTest::addColumn<const SchemaHead *>("head");
+    QTest::addColumn<const Head *>("head");
     QTest::addColumn<RecordXml>("record");
     QTest::addColumn<QStringList>("shown"); // count, yaw, pitch, bracketing, focal length
     const QString none = QStringLiteral("N/A");
@@ -271,7 +239,7 @@ void TestSchemaPages::recordIsShownInTheLabels_data()
 
 void TestSchemaPages::recordIsShownInTheLabels()
 {
-    QFETCH(const SchemaHead *, head);
+    QFETCH(const Head *, head);
     QFETCH(RecordXml, record);
     QFETCH(QStringList, shown);
     const Shoot shoot(*head);
@@ -289,7 +257,7 @@ void TestSchemaPages::recordIsShownInTheLabels()
 
 void TestSchemaPages::failedParseShowsNoShots_data()
 {
-    QTest::addColumn<const SchemaHead *>("head");
+    QTest::addColumn<const Head *>("head");
     QTest::addColumn<QByteArray>("content");
     addToBoth("not XML", QByteArray("These are my photos"));
     addToBoth("cut off", RecordXml::row(3).bytes().chopped(20));
@@ -301,7 +269,7 @@ void TestSchemaPages::failedParseShowsNoShots_data()
 
 void TestSchemaPages::failedParseShowsNoShots()
 {
-    QFETCH(const SchemaHead *, head);
+    QFETCH(const Head *, head);
     QFETCH(QByteArray, content);
     const Shoot shoot(*head);
     shoot.load(rowWithLens(3, QStringLiteral("24")));
@@ -320,10 +288,10 @@ void TestSchemaPages::failedParseShowsNoShots()
     QCOMPARE(edit->text(), shoot.folder.path(QStringLiteral("bad.xml")));
     QCOMPARE(edit->toolTip(), toolTip);
     QCOMPARE(shoot.driver.text("m_lbPapyLog"), QStringLiteral("N/A"));
-    QCOMPARE(shoot.driver.text("m_lbThetaMinMax"), head->yawAfterFailure);
-    QCOMPARE(shoot.driver.text("m_lbPhiMinMax"), head->pitchAfterFailure);
+    QCOMPARE(shoot.driver.text("m_lbThetaMinMax"), head->schema->yawAfterFailure);
+    QCOMPARE(shoot.driver.text("m_lbPhiMinMax"), head->schema->pitchAfterFailure);
     QCOMPARE(shoot.driver.text("m_lbFocalLength"), QStringLiteral("N/A"));
-    QCOMPARE(shoot.warning(), head->noWarning);
+    QCOMPARE(shoot.warning(), head->schema->noWarning);
     QVERIFY(shoot.made.shots->isEmpty());
     QVERIFY(shoot.driver.picture().isNull());
     QVERIFY(!shoot.page->isComplete());
@@ -331,19 +299,19 @@ void TestSchemaPages::failedParseShowsNoShots()
 
 void TestSchemaPages::failedParseOnAFreshPageShowsNoRange()
 {
-    QFETCH(const SchemaHead *, head);
+    QFETCH(const Head *, head);
     const Shoot shoot(*head);
 
     shoot.driver.load(kSelectRecord, { shoot.folder.write(QStringLiteral("bad.xml"), "x") });
 
     QCOMPARE(shoot.driver.text("m_lbPapyLog"), QStringLiteral("N/A"));
-    QCOMPARE(shoot.driver.text("m_lbThetaMinMax"), head->rangeOfNothing);
-    QCOMPARE(shoot.driver.text("m_lbPhiMinMax"), head->rangeOfNothing);
+    QCOMPARE(shoot.driver.text("m_lbThetaMinMax"), head->schema->rangeOfNothing);
+    QCOMPARE(shoot.driver.text("m_lbPhiMinMax"), head->schema->rangeOfNothing);
 }
 
 void TestSchemaPages::pathIsTyped()
 {
-    QFETCH(const SchemaHead *, head);
+    QFETCH(const Head *, head);
     const Shoot shoot(*head);
     const QString record = shoot.write(RecordXml::row(5));
     {
@@ -351,7 +319,7 @@ void TestSchemaPages::pathIsTyped()
         shoot.driver.type("m_leConfigFile", record.chopped(1));
         QCOMPARE(shoot.driver.text("m_leConfigFile"), record.chopped(1));
         QCOMPARE(shoot.driver.text("m_lbPapyLog"), QStringLiteral("N/A"));
-        QCOMPARE(shoot.driver.text("m_lbThetaMinMax"), head->rangeOfNothing);
+        QCOMPARE(shoot.driver.text("m_lbThetaMinMax"), head->schema->rangeOfNothing);
         QTest::keyClick(shoot.driver.find<QLineEdit>("m_leConfigFile"), Qt::Key_L);
         QVERIFY(clicker.messageBoxes().isEmpty());
     }
@@ -365,7 +333,7 @@ void TestSchemaPages::pathIsTyped()
 
 void TestSchemaPages::typingInTheMiddleKeepsTheCursor()
 {
-    QFETCH(const SchemaHead *, head);
+    QFETCH(const Head *, head);
     const Shoot shoot(*head);
     auto *edit = shoot.driver.find<QLineEdit>("m_leConfigFile");
     shoot.driver.type("m_leConfigFile", QStringLiteral("/photos/shoot.xml"));
@@ -379,7 +347,7 @@ void TestSchemaPages::typingInTheMiddleKeepsTheCursor()
 
 void TestSchemaPages::wizardHearsOfATypedPath()
 {
-    QFETCH(const SchemaHead *, head);
+    QFETCH(const Head *, head);
     const Shoot shoot(*head);
     QWizard wizard;
     wizard.addPage(shoot.page);
@@ -399,7 +367,7 @@ void TestSchemaPages::wizardHearsOfATypedPath()
 
 void TestSchemaPages::lastRecordOfASelectionWins_data()
 {
-    QTest::addColumn<const SchemaHead *>("head");
+    QTest::addColumn<const Head *>("head");
     QTest::addColumn<QStringList>("chosen");
     QTest::addColumn<QString>("record");
     QTest::addColumn<QStringList>("photos"); // sorted
@@ -421,7 +389,7 @@ void TestSchemaPages::lastRecordOfASelectionWins_data()
 
 void TestSchemaPages::lastRecordOfASelectionWins()
 {
-    QFETCH(const SchemaHead *, head);
+    QFETCH(const Head *, head);
     QFETCH(QStringList, chosen);
     QFETCH(QString, record);
     QFETCH(QStringList, photos);
@@ -448,7 +416,7 @@ void TestSchemaPages::lastRecordOfASelectionWins()
 
 void TestSchemaPages::resetForgetsTheRecordsLens()
 {
-    QFETCH(const SchemaHead *, head);
+    QFETCH(const Head *, head);
     const Shoot shoot(*head);
     RecordXml record = rowWithLens(3, QStringLiteral("50"), QStringLiteral("fisheye"));
     record.nbPicts = QStringLiteral("3");
@@ -467,7 +435,7 @@ void TestSchemaPages::resetForgetsTheRecordsLens()
 // The four tests in their order; each is made to fail by itself, and every combination of them.
 void TestSchemaPages::lastFailingTestGivesTheWarning_data()
 {
-    QTest::addColumn<const SchemaHead *>("head");
+    QTest::addColumn<const Head *>("head");
     QTest::addColumn<bool>("bracketing");
     QTest::addColumn<bool>("count");
     QTest::addColumn<bool>("focal");
@@ -485,7 +453,7 @@ void TestSchemaPages::lastFailingTestGivesTheWarning_data()
 
 void TestSchemaPages::lastFailingTestGivesTheWarning()
 {
-    QFETCH(const SchemaHead *, head);
+    QFETCH(const Head *, head);
     QFETCH(bool, bracketing);
     QFETCH(bool, count);
     QFETCH(bool, focal);
@@ -499,7 +467,7 @@ void TestSchemaPages::lastFailingTestGivesTheWarning()
     shoot.load(record);
     shoot.loadPhotos(4, photoWith(24.0F));
 
-    QString expected = head->noWarning;
+    QString expected = head->schema->noWarning;
     if (bracketing) {
         expected = kBracketWarning;
     }
@@ -507,7 +475,7 @@ void TestSchemaPages::lastFailingTestGivesTheWarning()
         expected = kCountWarning;
     }
     if (focal) {
-        expected = head->focalWarning;
+        expected = head->schema->focalWarning;
     }
     if (lens) {
         expected = kLensWarning;
@@ -517,7 +485,7 @@ void TestSchemaPages::lastFailingTestGivesTheWarning()
 
 void TestSchemaPages::warningTestsHaveTheirLimits_data()
 {
-    QTest::addColumn<const SchemaHead *>("head");
+    QTest::addColumn<const Head *>("head");
     QTest::addColumn<QString>("nbPicts");
     QTest::addColumn<QString>("xmlFocal");
     QTest::addColumn<float>("photoFocal");
@@ -551,7 +519,7 @@ void TestSchemaPages::warningTestsHaveTheirLimits_data()
 
 void TestSchemaPages::warningTestsHaveTheirLimits()
 {
-    QFETCH(const SchemaHead *, head);
+    QFETCH(const Head *, head);
     QFETCH(QString, nbPicts);
     QFETCH(QString, xmlFocal);
     QFETCH(float, photoFocal);
@@ -563,12 +531,12 @@ void TestSchemaPages::warningTestsHaveTheirLimits()
     shoot.load(record);
     shoot.loadPhotos(4, photoWith(photoFocal));
 
-    QCOMPARE(shoot.warning() != head->noWarning, warned);
+    QCOMPARE(shoot.warning() != head->schema->noWarning, warned);
 }
 
 void TestSchemaPages::warningAboutTheCountEndsWhereWanted()
 {
-    QFETCH(const SchemaHead *, head);
+    QFETCH(const Head *, head);
     const Shoot shoot(*head);
 
     shoot.load(rowWithLens(5, QStringLiteral("24")));
@@ -580,7 +548,7 @@ void TestSchemaPages::warningAboutTheCountEndsWhereWanted()
 
 void TestSchemaPages::warningGoesWhenTheRecordFits()
 {
-    QFETCH(const SchemaHead *, head);
+    QFETCH(const Head *, head);
     const Shoot shoot(*head);
     shoot.loadPhotos(4);
     shoot.load(RecordXml::row(5));
@@ -588,39 +556,39 @@ void TestSchemaPages::warningGoesWhenTheRecordFits()
 
     shoot.load(RecordXml::row(4));
 
-    QCOMPARE(shoot.warning(), head->noWarning);
+    QCOMPARE(shoot.warning(), head->schema->noWarning);
 }
 
 void TestSchemaPages::warningGoesWithTheReset()
 {
-    QFETCH(const SchemaHead *, head);
+    QFETCH(const Head *, head);
     const Shoot shoot(*head);
-    QCOMPARE(shoot.warning(), head->noWarning);
+    QCOMPARE(shoot.warning(), head->schema->noWarning);
     shoot.loadEverything();
-    QCOMPARE(shoot.warning(), head->focalWarning);
+    QCOMPARE(shoot.warning(), head->schema->focalWarning);
 
     shoot.driver.click("m_pbReset");
 
-    QCOMPARE(shoot.warning(), head->noWarning);
+    QCOMPARE(shoot.warning(), head->schema->noWarning);
 }
 
 void TestSchemaPages::warningNeedsRecordAndPhotos()
 {
-    QFETCH(const SchemaHead *, head);
+    QFETCH(const Head *, head);
     const Shoot shoot(*head);
     shoot.loadPhotos(4);
-    QCOMPARE(shoot.warning(), head->noWarning);
+    QCOMPARE(shoot.warning(), head->schema->noWarning);
     shoot.load(RecordXml::row(0));
-    QCOMPARE(shoot.warning(), head->noWarning);
+    QCOMPARE(shoot.warning(), head->schema->noWarning);
 
     const Shoot without(*head);
     without.load(rowWithLens(5, QStringLiteral("24"), QStringLiteral("fisheye")));
-    QCOMPARE(without.warning(), head->noWarning);
+    QCOMPARE(without.warning(), head->schema->noWarning);
 }
 
 void TestSchemaPages::photosTellTheirFocalLength()
 {
-    QFETCH(const SchemaHead *, head);
+    QFETCH(const Head *, head);
     const Shoot shoot(*head);
 
     shoot.loadPhotos(3, photoWith(24.0F));
@@ -632,7 +600,7 @@ void TestSchemaPages::photosTellTheirFocalLength()
 void TestSchemaPages::photosPresetTheLensBeforeTheRecord_data()
 {
     constexpr float kNan = std::numeric_limits<float>::quiet_NaN();
-    QTest::addColumn<const SchemaHead *>("head");
+    QTest::addColumn<const Head *>("head");
     QTest::addColumn<float>("photoFocal");
     QTest::addColumn<int>("photoLens");
     QTest::addColumn<QString>("xmlFocal");
@@ -658,7 +626,7 @@ void TestSchemaPages::photosPresetTheLensBeforeTheRecord_data()
 
 void TestSchemaPages::photosPresetTheLensBeforeTheRecord()
 {
-    QFETCH(const SchemaHead *, head);
+    QFETCH(const Head *, head);
     QFETCH(float, photoFocal);
     QFETCH(int, photoLens);
     QFETCH(QString, xmlFocal);
@@ -678,7 +646,7 @@ void TestSchemaPages::photosPresetTheLensBeforeTheRecord()
 
 void TestSchemaPages::focalLengthOfThePhotosIsTheirMean()
 {
-    QFETCH(const SchemaHead *, head);
+    QFETCH(const Head *, head);
     const Shoot shoot(*head);
 
     shoot.driver.load(kSelectPhotos,
@@ -694,7 +662,7 @@ void TestSchemaPages::focalLengthOfThePhotosIsTheirMean()
 
 void TestSchemaPages::newPhotosReplaceTheLensOfThoseBefore()
 {
-    QFETCH(const SchemaHead *, head);
+    QFETCH(const Head *, head);
     const Shoot shoot(*head);
     shoot.loadPhotos(2, photoWith(24.0F, 1));
 
@@ -706,7 +674,7 @@ void TestSchemaPages::newPhotosReplaceTheLensOfThoseBefore()
 
 void TestSchemaPages::newPhotosReplaceTheLensOfThoseBeingRead_data()
 {
-    QTest::addColumn<const SchemaHead *>("head");
+    QTest::addColumn<const Head *>("head");
     QTest::addColumn<QByteArray>("button");
     addToBoth("record", QByteArray(kSelectRecord));
     addToBoth("photos", QByteArray(kSelectPhotos));
@@ -714,7 +682,7 @@ void TestSchemaPages::newPhotosReplaceTheLensOfThoseBeingRead_data()
 
 void TestSchemaPages::newPhotosReplaceTheLensOfThoseBeingRead()
 {
-    QFETCH(const SchemaHead *, head);
+    QFETCH(const Head *, head);
     QFETCH(QByteArray, button);
     const Shoot shoot(*head);
     shoot.loadRecord(2);
@@ -731,7 +699,7 @@ void TestSchemaPages::newPhotosReplaceTheLensOfThoseBeingRead()
 
 void TestSchemaPages::useButtonsTakeTheirSource()
 {
-    QFETCH(const SchemaHead *, head);
+    QFETCH(const Head *, head);
     const Shoot shoot(*head);
     shoot.load(rowWithLens(2, QStringLiteral("50"), QStringLiteral("fisheye")));
     shoot.loadPhotos(2, photoWith(24.0F, 0));
@@ -748,7 +716,7 @@ void TestSchemaPages::useButtonsTakeTheirSource()
 
 void TestSchemaPages::focalLengthAndLensComeFromTheControls()
 {
-    QFETCH(const SchemaHead *, head);
+    QFETCH(const Head *, head);
     const Shoot shoot(*head);
     shoot.load(rowWithLens(2, QStringLiteral("50")));
     shoot.loadPhotos(2, photoWith(24.0F, 0));
@@ -763,16 +731,16 @@ void TestSchemaPages::focalLengthAndLensComeFromTheControls()
 
 void TestSchemaPages::invertingTwiceRestoresEverything_data()
 {
-    QTest::addColumn<const SchemaHead *>("head");
+    QTest::addColumn<const Head *>("head");
     QTest::addColumn<int>("photos");
     addToBoth("with photos", 4);
     // The Papywizard page takes "no photos" for the picture that it has.
-    QTest::newRow("VR Drive 2: without photos") << schemaHeads()[1] << 0;
+    QTest::newRow("VR Drive 2: without photos") << &vrdrive2() << 0;
 }
 
 void TestSchemaPages::invertingTwiceRestoresEverything()
 {
-    QFETCH(const SchemaHead *, head);
+    QFETCH(const Head *, head);
     QFETCH(int, photos);
     const Shoot shoot(*head);
     RecordXml record;
@@ -802,7 +770,7 @@ void TestSchemaPages::invertingTwiceRestoresEverything()
 
 void TestSchemaPages::rotatingAddsQuarterTurnsWithoutWrapping_data()
 {
-    QTest::addColumn<const SchemaHead *>("head");
+    QTest::addColumn<const Head *>("head");
     QTest::addColumn<int>("turns"); // after one to the left
     QTest::addColumn<float>("degrees");
     QTest::addColumn<float>("radians");
@@ -812,7 +780,7 @@ void TestSchemaPages::rotatingAddsQuarterTurnsWithoutWrapping_data()
 
 void TestSchemaPages::rotatingAddsQuarterTurnsWithoutWrapping()
 {
-    QFETCH(const SchemaHead *, head);
+    QFETCH(const Head *, head);
     QFETCH(int, turns);
     QFETCH(float, degrees);
     QFETCH(float, radians);
@@ -833,7 +801,7 @@ void TestSchemaPages::rotatingAddsQuarterTurnsWithoutWrapping()
 
 void TestSchemaPages::bracketCountBelowTwoBecomesOne_data()
 {
-    QTest::addColumn<const SchemaHead *>("head");
+    QTest::addColumn<const Head *>("head");
     QTest::addColumn<QString>("nbPicts");
     addToBoth("not said", QString());
     for (const char *nbPicts : { "1", "0", "-3", "abc" }) {
@@ -843,7 +811,7 @@ void TestSchemaPages::bracketCountBelowTwoBecomesOne_data()
 
 void TestSchemaPages::bracketCountBelowTwoBecomesOne()
 {
-    QFETCH(const SchemaHead *, head);
+    QFETCH(const Head *, head);
     QFETCH(QString, nbPicts);
     const Shoot shoot(*head);
     shoot.load(bracketedRow(2, nbPicts));
@@ -857,25 +825,25 @@ void TestSchemaPages::bracketCountBelowTwoBecomesOne()
 
 void TestSchemaPages::twelvePhotosInThreesGiveFourStacks_data()
 {
-    QTest::addColumn<const SchemaHead *>("head");
+    QTest::addColumn<const Head *>("head");
     QTest::addColumn<QStringList>("lastStack");
     const QString ten = QStringLiteral("IMG_0010.jpg");
     const QString eleven = QStringLiteral("IMG_0011.jpg");
     const QString twelve = QStringLiteral("IMG_0012.jpg");
-    QTest::newRow("Papywizard") << schemaHeads()[0] << QStringList{ ten, eleven, twelve };
+    QTest::newRow("Papywizard") << &papywizard() << QStringList{ ten, eleven, twelve };
     // The reference of three like exposures is the last one; it comes first.
-    QTest::newRow("VR Drive 2") << schemaHeads()[1] << QStringList{ twelve, eleven, ten };
+    QTest::newRow("VR Drive 2") << &vrdrive2() << QStringList{ twelve, eleven, ten };
 }
 
 void TestSchemaPages::twelvePhotosInThreesGiveFourStacks()
 {
-    QFETCH(const SchemaHead *, head);
+    QFETCH(const Head *, head);
     QFETCH(QStringList, lastStack);
     const Shoot shoot(*head);
     shoot.load(bracketedRow(12, QStringLiteral("3")));
     shoot.loadPhotos(12);
     QVERIFY(shoot.page->isComplete());
-    QCOMPARE(shoot.warning(), head->noWarning);
+    QCOMPARE(shoot.warning(), head->schema->noWarning);
     const DialogClicker clicker;
 
     QVERIFY(shoot.page->validatePage());
@@ -890,7 +858,7 @@ void TestSchemaPages::twelvePhotosInThreesGiveFourStacks()
 
 void TestSchemaPages::photosThatDoNotFillTheBracketsAreRefused_data()
 {
-    QTest::addColumn<const SchemaHead *>("head");
+    QTest::addColumn<const Head *>("head");
     QTest::addColumn<int>("photos");
     QTest::addColumn<int>("nbPicts");
     addToBoth("4 photos in threes", 4, 3);
@@ -902,7 +870,7 @@ void TestSchemaPages::photosThatDoNotFillTheBracketsAreRefused_data()
 
 void TestSchemaPages::photosThatDoNotFillTheBracketsAreRefused()
 {
-    QFETCH(const SchemaHead *, head);
+    QFETCH(const Head *, head);
     QFETCH(int, photos);
     QFETCH(int, nbPicts);
     const Shoot shoot(*head);
@@ -932,7 +900,7 @@ void TestSchemaPages::photosThatDoNotFillTheBracketsAreRefused()
 
 void TestSchemaPages::nextWithoutShotsAndPhotosIsHarmless_data()
 {
-    QTest::addColumn<const SchemaHead *>("head");
+    QTest::addColumn<const Head *>("head");
     QTest::addColumn<QString>("nbPicts");
     addToBoth("not said", QString());
     for (const char *nbPicts : { "0", "1", "3", "2147483647", "-2147483648" }) {
@@ -942,7 +910,7 @@ void TestSchemaPages::nextWithoutShotsAndPhotosIsHarmless_data()
 
 void TestSchemaPages::nextWithoutShotsAndPhotosIsHarmless()
 {
-    QFETCH(const SchemaHead *, head);
+    QFETCH(const Head *, head);
     QFETCH(QString, nbPicts);
     const Shoot shoot(*head);
     shoot.load(bracketedRow(0, nbPicts));
@@ -957,7 +925,7 @@ void TestSchemaPages::nextWithoutShotsAndPhotosIsHarmless()
 
 void TestSchemaPages::pageMayGoWhileTheBoxIsOpen()
 {
-    QFETCH(const SchemaHead *, head);
+    QFETCH(const Head *, head);
     const Shoot shoot(*head);
     shoot.driver.load(kSelectRecord,
                       shoot.folder.addPhotos(4)
@@ -975,7 +943,7 @@ void TestSchemaPages::pageMayGoWhileTheBoxIsOpen()
 
 void TestSchemaPages::controlKeyOpensTheFolder_data()
 {
-    QTest::addColumn<const SchemaHead *>("head");
+    QTest::addColumn<const Head *>("head");
     QTest::addColumn<QString>("folder");
     addToBoth("plain", QStringLiteral("shoot"));
     addToBoth("number sign", QStringLiteral("shoot #1"));
@@ -987,7 +955,7 @@ void TestSchemaPages::controlKeyOpensTheFolder_data()
 
 void TestSchemaPages::controlKeyOpensTheFolder()
 {
-    QFETCH(const SchemaHead *, head);
+    QFETCH(const Head *, head);
     QFETCH(QString, folder);
     const Shoot shoot(*head);
     const QString record = shoot.write(RecordXml::row(1), folder + QLatin1String("/a.xml"));
@@ -1016,7 +984,7 @@ void TestSchemaPages::controlKeyOpensTheFolder()
 
 void TestSchemaPages::toolTipKeepsTheRecordsText()
 {
-    QFETCH(const SchemaHead *, head);
+    QFETCH(const Head *, head);
     const Shoot shoot(*head);
     RecordXml record = RecordXml::row(1);
     record.title = QStringLiteral("a %2 %1 %3");
@@ -1031,7 +999,7 @@ void TestSchemaPages::toolTipKeepsTheRecordsText()
 
 void TestSchemaPages::toolTipHasALineForWhatTheRecordLeavesOut()
 {
-    QFETCH(const SchemaHead *, head);
+    QFETCH(const Head *, head);
     const Shoot shoot(*head);
     const auto *edit = shoot.driver.find<QLineEdit>("m_leConfigFile");
 
@@ -1049,7 +1017,7 @@ void TestSchemaPages::toolTipHasALineForWhatTheRecordLeavesOut()
 
 void TestSchemaPages::toolTipIsShownAsPlainText_data()
 {
-    QTest::addColumn<const SchemaHead *>("head");
+    QTest::addColumn<const Head *>("head");
     QTest::addColumn<QString>("title"); // PIPE stands for the path of a named pipe
     addToBoth("bold", QStringLiteral("<b>x</b>"));
     addToBoth("ampersand", QStringLiteral("this &lt;that & more"));
@@ -1062,7 +1030,7 @@ void TestSchemaPages::toolTipIsShownAsPlainText_data()
 
 void TestSchemaPages::toolTipIsShownAsPlainText()
 {
-    QFETCH(const SchemaHead *, head);
+    QFETCH(const Head *, head);
     QFETCH(QString, title);
     const Shoot shoot(*head);
     const TrapPipe pipe(shoot.folder.path(QStringLiteral("pipe")));

@@ -84,14 +84,32 @@ private Q_SLOTS:
     void anotherRecordOverTheSamePhotosIsDrawn();
     void pictureGrowsWithThePhotos_data();
     void pictureGrowsWithThePhotos();
-    void farPositionShrinksThePicture_data() { addHeads(headsWithFractions()); }
+    void farPositionShrinksThePicture_data() { addHeads(headsWithSmallestStep()); }
     void farPositionShrinksThePicture();
 
 private:
-    /** The Papywizard page waits for the first photo: wanted. */
-    static Heads headsThatDrawWithoutPhotos() { return { &vrDrive2(), &clauss() }; }
-    /** A Clauss script knows whole degrees only. */
-    static Heads headsWithFractions() { return { &papywizard(), &vrDrive2() }; }
+    /** The others wait for the first photo: wanted. */
+    static Heads headsThatDrawWithoutPhotos()
+    {
+        return headsThat([](const Head &head) { return head.drawsWithoutPhotos; });
+    }
+    /** Without those whose records know whole degrees only. */
+    static Heads headsWithFractions()
+    {
+        return headsThat([](const Head &head) {
+            return !head.facts->isGrid() && !head.facts->notesWholeDegrees;
+        });
+    }
+    static Heads headsWithSmallestStep()
+    {
+        return headsThat([](const Head &head) { return head.layout.smallestStepDegrees == 8.0; });
+    }
+    static Heads headsWithoutSmallestStep()
+    {
+        return headsThat([](const Head &head) {
+            return !head.facts->isGrid() && head.layout.smallestStepDegrees == 0.0;
+        });
+    }
 };
 
 void TestShotPreviews::init()
@@ -217,12 +235,12 @@ void TestShotPreviews::canvasFollowsTheSmallestStep_data()
     row(all, "negative angles", { { -180, -90 }, { -90, 90 } }, 196, 292);
 
     // step 5 counts as 8, scale 12: 5 x 12 = 60
-    row(headsWithFractions(), "steps below 8 degrees", { { 0, 0 }, { 5, 0 } }, 160, 100);
+    row(headsWithSmallestStep(), "steps below 8 degrees", { { 0, 0 }, { 5, 0 } }, 160, 100);
     // step 0.1 counts as 8: 0.1 x 12 = 1.2, cut off
-    row(headsWithFractions(), "fractions are cut off", { { 0, 0 }, { 0.1, 0 } }, 101, 100);
+    row(headsWithSmallestStep(), "fractions are cut off", { { 0, 0 }, { 0.1, 0 } }, 101, 100);
     // No smallest step: 96 pixels per degree and 19.2.
-    row({ &clauss() }, "one degree", { { 0, 0 }, { 1, 0 }, { 3, 0 } }, 388, 100);
-    row({ &clauss() }, "five degrees", { { 0, 0 }, { 5, 0 } }, 196, 100);
+    row(headsWithoutSmallestStep(), "one degree", { { 0, 0 }, { 1, 0 }, { 3, 0 } }, 388, 100);
+    row(headsWithoutSmallestStep(), "five degrees", { { 0, 0 }, { 5, 0 } }, 196, 100);
 }
 
 void TestShotPreviews::canvasFollowsTheSmallestStep()
@@ -258,11 +276,11 @@ void TestShotPreviews::pictureIsZoomed_data()
     // 12 pixels per degree below 8 degrees: 4.17 x 12 + 100 = 150.04, 0.1 x 12 + 100 = 101.2
     const QVector<ShotAngles> wide{ { 0, 0 }, { 4.17, 0 } };
     const QVector<ShotAngles> narrow{ { 0, 0 }, { 0.1, 0 } };
-    row(headsWithFractions(), "1 on 150 pixels", wide, 1, QSize(1, 1));
-    row(headsWithFractions(), "33 on 150 pixels", wide, 33, QSize(49, 33));
-    row(headsWithFractions(), "99 on 150 pixels", wide, 99, QSize(148, 99));
-    row(headsWithFractions(), "100 on 150 pixels", wide, 100, QSize(150, 100));
-    row(headsWithFractions(), "50 on 101 pixels", narrow, 50, QSize(50, 50));
+    row(headsWithSmallestStep(), "1 on 150 pixels", wide, 1, QSize(1, 1));
+    row(headsWithSmallestStep(), "33 on 150 pixels", wide, 33, QSize(49, 33));
+    row(headsWithSmallestStep(), "99 on 150 pixels", wide, 99, QSize(148, 99));
+    row(headsWithSmallestStep(), "100 on 150 pixels", wide, 100, QSize(150, 100));
+    row(headsWithSmallestStep(), "50 on 101 pixels", narrow, 50, QSize(50, 50));
 }
 
 void TestShotPreviews::pictureIsZoomed()
@@ -326,21 +344,25 @@ void TestShotPreviews::photosStandInTheirOrder_data()
                         const QVector<QColor> &order) {
         QTest::addRow("%s: %s", head.name, name) << &head << times << order;
     };
-    for (const Head *head : { &papywizard(), &clauss() }) {
+    for (const Head *head : headsWithRecords()) {
+        if (head->order == PhotoOrder::AsRead) { // times mean nothing
+            row(*head, "backwards", { 4, 3, 2, 1 }, kAsRead);
+            row(*head, "two equal times", { 4, 3, 3, 0 }, kAsRead);
+            continue;
+        }
         row(*head, "as read", { 1, 2, 3, 4 }, kAsRead);
         row(*head, "backwards", { 4, 3, 2, 1 }, { kYellow, kBlue, kGreen, kRed });
         row(*head, "mixed, negative, beyond 32 bits", { 7'000'000'000, -1, 7'000'000'001, 5 },
             { kGreen, kYellow, kRed, kBlue });
         row(*head, "all equal", { 0, 0, 0, 0 }, kAsRead);
+        if (head->order == PhotoOrder::ByTime) {
+            row(*head, "equal times keep the reading order", { 5, 5, 5, 1 },
+                { kYellow, kRed, kGreen, kBlue });
+        } else { // the whole list falls back to the order of reading
+            row(*head, "two equal times", { 5, 4, 4, 1 }, kAsRead);
+            row(*head, "two equal times apart", { 5, 4, 1, 5 }, kAsRead);
+        }
     }
-    row(papywizard(), "equal times keep the reading order", { 5, 5, 5, 1 },
-        { kYellow, kRed, kGreen, kBlue });
-    // Two equal times, and the whole list falls back to the order of reading.
-    row(clauss(), "two equal times", { 5, 4, 4, 1 }, kAsRead);
-    row(clauss(), "two equal times apart", { 5, 4, 1, 5 }, kAsRead);
-    // Shot times mean nothing.
-    row(vrDrive2(), "backwards", { 4, 3, 2, 1 }, kAsRead);
-    row(vrDrive2(), "two equal times", { 4, 3, 3, 0 }, kAsRead);
 }
 
 void TestShotPreviews::photosStandInTheirOrder()
@@ -381,7 +403,7 @@ void TestShotPreviews::thumbnailsTurnWithTheRoll_data()
     QTest::addColumn<QVector<QColor>>("probes"); // left, right, top, bottom of a red | blue photo
     const QByteArray right = "m_pbRot90";
     const QByteArray left = "m_pbRot270";
-    for (const Head *head : { &papywizard(), &vrDrive2() }) {
+    for (const Head *head : headsThatTurn()) {
         const auto row = [head](const char *name, const QVector<QByteArray> &clicks,
                                 const QVector<QColor> &probes) {
             QTest::addRow("%s: %s", head->name, name) << head << clicks << probes;
@@ -470,7 +492,7 @@ void TestShotPreviews::cellWithoutThumbnailIsAnOutline()
     photo.preview = preview;
 
     shoot.load({ { 0, 0 } }, { shoot.folder.addPhoto(QStringLiteral("a.jpg"), photo) });
-    if (head->rollKnown) { // nothing to turn
+    if (head->facts->turnsCamera) { // nothing to turn
         shoot.driver.click("m_pbRot90");
     }
 
@@ -530,10 +552,12 @@ void TestShotPreviews::pictureGrowsWithThePhotos_data()
 {
     QTest::addColumn<const Head *>("head");
     QTest::addColumn<QVector<QColor>>("order");
-    const QVector<QColor> byTime{ kGreen, kRed }; // the one read later was taken earlier
-    QTest::newRow("Papywizard") << &papywizard() << byTime;
-    QTest::newRow("VR Drive 2") << &vrDrive2() << QVector<QColor>{ kRed, kGreen };
-    QTest::newRow("Clauss") << &clauss() << byTime;
+    for (const Head *head : headsWithRecords()) {
+        // The one read later was taken earlier.
+        QTest::newRow(head->name) << head
+                                  << (head->facts->ordersByTime ? QVector<QColor>{ kGreen, kRed }
+                                                                : QVector<QColor>{ kRed, kGreen });
+    }
 }
 
 void TestShotPreviews::pictureGrowsWithThePhotos()

@@ -20,22 +20,22 @@ namespace
 constexpr int kYawStep = 30; // degrees
 constexpr int kPitchStep = 24;
 
-std::vector<Redraw> shotRedraws()
+std::vector<Redraw> shotRedraws(const HostHead &head)
 {
-    return { { "zoom", [](PhotoShoot &shoot) { shoot.zoom(70); } },
-             { "inverted", [](PhotoShoot &shoot) { shoot.invert(); } } };
-}
-
-std::vector<Redraw> schemaRedraws()
-{
-    std::vector<Redraw> redraws = shotRedraws();
-    redraws.push_back({ "turned right", [](PhotoShoot &shoot) { shoot.rotate(90, "m_pbRot90"); } });
-    redraws.push_back(
-        { "turned left", [](PhotoShoot &shoot) { shoot.rotate(-90, "m_pbRot270"); } });
-    redraws.push_back(
-        { "lens of the record", [](PhotoShoot &shoot) { shoot.click("m_pbFLUseXML"); } });
-    redraws.push_back(
-        { "lens of the photos", [](PhotoShoot &shoot) { shoot.click("m_pbFLUseImage"); } });
+    std::vector<Redraw> redraws = { { "zoom", [](PhotoShoot &shoot) { shoot.zoom(70); } },
+                                    { "inverted", [](PhotoShoot &shoot) { shoot.invert(); } } };
+    if (head.turnsCamera) {
+        redraws.push_back(
+            { "turned right", [](PhotoShoot &shoot) { shoot.rotate(90, "m_pbRot90"); } });
+        redraws.push_back(
+            { "turned left", [](PhotoShoot &shoot) { shoot.rotate(-90, "m_pbRot270"); } });
+    }
+    if (head.hasLens) {
+        redraws.push_back(
+            { "lens of the record", [](PhotoShoot &shoot) { shoot.click("m_pbFLUseXML"); } });
+        redraws.push_back(
+            { "lens of the photos", [](PhotoShoot &shoot) { shoot.click("m_pbFLUseImage"); } });
+    }
     return redraws;
 }
 
@@ -57,14 +57,13 @@ std::vector<Redraw> gridRedraws()
 
 const std::vector<Head> &allHeads()
 {
-    static const std::vector<Head> heads = { { "Papywizard", "XMerlinImport", Head::Record::Xml,
-                                               Head::Order::Time, true, schemaRedraws() },
-                                             { "VR Drive 2", "XVRDrive2Import", Head::Record::Xml,
-                                               Head::Order::Reading, true, schemaRedraws() },
-                                             { "Clauss", "XClaussImport", Head::Record::Script,
-                                               Head::Order::Time, false, shotRedraws() },
-                                             { "Gigapan", "XGigapanImport", Head::Record::None,
-                                               Head::Order::Time, false, gridRedraws() } };
+    static const std::vector<Head> heads = [] {
+        std::vector<Head> all;
+        for (const HostHead *head : allHostHeads()) {
+            all.push_back({ *head, head->record == nullptr ? gridRedraws() : shotRedraws(*head) });
+        }
+        return all;
+    }();
     return heads;
 }
 
@@ -73,7 +72,7 @@ void addHeads(bool (*isWanted)(const Head &head))
     QTest::addColumn<const Head *>("head");
     for (const Head &head : allHeads()) {
         if (isWanted == nullptr || isWanted(head)) {
-            QTest::newRow(head.name) << &head;
+            QTest::newRow(head.title) << &head;
         }
     }
 }
@@ -85,7 +84,7 @@ void addRedraws(bool (*isWanted)(const Head &head))
     for (const Head &head : allHeads()) {
         for (const Redraw &redraw : head.redraws) {
             if (isWanted == nullptr || isWanted(head)) {
-                QTest::addRow("%s: %s", head.name, redraw.name) << &head << &redraw;
+                QTest::addRow("%s: %s", head.title, redraw.name) << &head << &redraw;
             }
         }
     }
@@ -137,10 +136,8 @@ void PhotoShoot::chooseFiles(const char *button, const QStringList &files) const
 
 void PhotoShoot::choose()
 {
-    if (m_head.record != Head::Record::None) {
-        const bool isXml = m_head.record == Head::Record::Xml;
-        QFile file(
-            m_folder.filePath(isXml ? QStringLiteral("shoot.xml") : QStringLiteral("shoot.txt")));
+    if (m_head.record != nullptr) {
+        QFile file(m_folder.filePath(QString::fromLatin1(m_head.recordName)));
         if (!file.open(QIODevice::WriteOnly) || file.write(record()) < 0) {
             qFatal("The record cannot be written");
         }
@@ -241,16 +238,11 @@ void PhotoShoot::rotate(int degrees, const char *button)
 
 QByteArray PhotoShoot::record() const
 {
-    QByteArray xml = "<papywizard><header><lens type=\"rectilinear\"><focal>35.0</focal></lens>"
-                     "</header><shoot>";
-    QByteArray script;
+    QVector<ShotAngles> angles;
     for (const LayoutPicture::Shot &shot : m_shots) {
-        const QByteArray yaw = QByteArray::number(shot.yaw);
-        const QByteArray pitch = QByteArray::number(shot.pitch);
-        xml += "<pict><position yaw=\"" + yaw + "\" pitch=\"" + pitch + "\"/></pict>";
-        script += "op_h-angle=" + yaw + "\nop_v-angle=" + pitch + "\nop_shoot\n";
+        angles.append({ shot.yaw, shot.pitch });
     }
-    return m_head.record == Head::Record::Xml ? xml + "</shoot></papywizard>" : script;
+    return m_head.record(angles);
 }
 
 QImage PhotoShoot::picture() const
@@ -267,7 +259,7 @@ std::vector<WatchedPhoto *> PhotoShoot::photos() const
 LayoutPicture::Thumbnails PhotoShoot::thumbnails() const
 {
     std::vector<WatchedPhoto *> photos = this->photos();
-    if (m_head.order == Head::Order::Time) {
+    if (m_head.ordersByTime) {
         // Photos without a change of time keep the order of reading on every page.
         std::stable_sort(
             photos.begin(), photos.end(),
@@ -283,7 +275,7 @@ LayoutPicture::Thumbnails PhotoShoot::thumbnails() const
 QImage PhotoShoot::expected() const
 {
     QImage whole;
-    if (m_head.record == Head::Record::None) {
+    if (m_head.record == nullptr) {
         int mode = m_mode;
         for (int i = 0; m_mode != 4 && i < 4; ++i) {
             const QByteArray button = "m_rbMode" + QByteArray::number(i);

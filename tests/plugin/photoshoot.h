@@ -3,6 +3,7 @@
 #pragma once
 
 #include "hostcontract.h"
+#include "hosthead.h"
 #include "layoutpicture.h"
 #include "photohost.h"
 
@@ -23,19 +24,8 @@ struct Redraw {
     void (*perform)(PhotoShoot &shoot);
 };
 
-/** One of the four heads, as a host knows it. */
-struct Head {
-    enum class Record { None, Xml, Script };
-    enum class Order {
-        Reading, ///< photos are shown as they are read
-        Time, ///< by their time; without any change where times are equal
-    };
-
-    const char *name;
-    const char *plugin;
-    Record record;
-    Order order;
-    bool asksLens; ///< presets focal length and lens type
+/** A head with what redraws its page. */
+struct Head : HostHead {
     std::vector<Redraw> redraws;
 };
 Q_DECLARE_METATYPE(const Head *)

@@ -60,12 +60,12 @@ constexpr int kAgainPerSignal = 100;
 
 bool ordersByTime(const Head &head)
 {
-    return head.order == Head::Order::Time;
+    return head.ordersByTime;
 }
 
 bool asksLens(const Head &head)
 {
-    return head.asksLens;
+    return head.hasLens;
 }
 
 void addMoments(bool (*isWanted)(const Head &head) = nullptr)
@@ -74,8 +74,8 @@ void addMoments(bool (*isWanted)(const Head &head) = nullptr)
     QTest::addColumn<Moment>("moment");
     for (const Head &head : allHeads()) {
         if (isWanted == nullptr || isWanted(head)) {
-            QTest::addRow("%s: next photos", head.name) << &head << Moment::NextPhotos;
-            QTest::addRow("%s: last photo", head.name) << &head << Moment::LastPhoto;
+            QTest::addRow("%s: next photos", head.title) << &head << Moment::NextPhotos;
+            QTest::addRow("%s: last photo", head.title) << &head << Moment::LastPhoto;
         }
     }
 }
@@ -305,8 +305,8 @@ void TestLatePhotos::lateFocalLengthsAreShownWithARedraw_data()
         for (const Redraw &redraw : head.redraws) {
             // A button that cannot be clicked before the photos know their lens.
             const bool isTooEarly = qstrcmp(redraw.name, "lens of the photos") == 0;
-            if (head.asksLens && !isTooEarly) {
-                QTest::addRow("%s: %s", head.name, redraw.name) << &head << &redraw;
+            if (head.hasLens && !isTooEarly) {
+                QTest::addRow("%s: %s", head.title, redraw.name) << &head << &redraw;
             }
         }
     }

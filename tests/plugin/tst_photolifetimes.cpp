@@ -294,7 +294,7 @@ void TestPhotoLifetimes::thePageMayGoWhileItHandsOver_data()
     QTest::addColumn<QByteArray>("victim");
     for (const Head &head : allHeads()) {
         for (const char *victim : { "wizard", "plug-in", "library" }) {
-            QTest::addRow("%s: %s", head.name, victim) << &head << QByteArray(victim);
+            QTest::addRow("%s: %s", head.title, victim) << &head << QByteArray(victim);
         }
     }
 }

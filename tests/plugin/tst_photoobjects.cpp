@@ -54,7 +54,7 @@ void addIncidents()
     QTest::addColumn<const Incident *>("incident");
     for (const Head &head : allHeads()) {
         for (const Incident &incident : incidents()) {
-            QTest::addRow("%s: %s", head.name, incident.name) << &head << &incident;
+            QTest::addRow("%s: %s", head.title, incident.name) << &head << &incident;
         }
     }
 }
@@ -150,8 +150,8 @@ void TestPhotoObjects::photosMayGoWhileASignalIsOnItsWay_data()
     QTest::addColumn<const Head *>("head");
     QTest::addColumn<bool>("goesOn");
     for (const Head &head : allHeads()) {
-        QTest::addRow("%s: Next", head.name) << &head << true;
-        QTest::addRow("%s: Back", head.name) << &head << false;
+        QTest::addRow("%s: Next", head.title) << &head << true;
+        QTest::addRow("%s: Back", head.title) << &head << false;
     }
 }
 
@@ -303,9 +303,9 @@ void TestPhotoObjects::newPhotosAtOldAddressesAreAskedThemselves_data()
     QTest::addColumn<const Head *>("head");
     QTest::addColumn<Leaving>("leaving");
     for (const Head &head : allHeads()) {
-        QTest::addRow("%s: reset", head.name) << &head << Leaving::Reset;
-        QTest::addRow("%s: other photos", head.name) << &head << Leaving::OtherPhotos;
-        QTest::addRow("%s: back and forward", head.name) << &head << Leaving::Back;
+        QTest::addRow("%s: reset", head.title) << &head << Leaving::Reset;
+        QTest::addRow("%s: other photos", head.title) << &head << Leaving::OtherPhotos;
+        QTest::addRow("%s: back and forward", head.title) << &head << Leaving::Back;
     }
 }
 
@@ -342,7 +342,7 @@ void TestPhotoObjects::newPhotosAtOldAddressesAreAskedThemselves()
     shoot.deliver();
     QCOMPARE(photoHost().askedWhileGone(), 0);
     QCOMPARE(shoot.wrong(), QString());
-    if (head->asksLens) {
+    if (head->hasLens) {
         QCOMPARE(shoot.find<QDoubleSpinBox>("m_spFocal")->value(), 50.0);
     }
 }
@@ -355,7 +355,7 @@ void TestPhotoObjects::newLooksAreTakenByTheNextRedraw_data()
         for (const Incident &incident : incidents()) {
             const QByteArray name = incident.name;
             if (name.startsWith("palette") || name == "font of the application") {
-                QTest::addRow("%s: %s", head.name, incident.name) << &head << &incident;
+                QTest::addRow("%s: %s", head.title, incident.name) << &head << &incident;
             }
         }
     }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialogclicker.h"
 #include "foreignhost.h"
+#include "hosthead.h"
 #include "longruns.h"
 
 #include <QApplication>
@@ -29,10 +30,7 @@ namespace
 {
 
 const QString kLibraryUid = QStringLiteral("7A21C94E-5B20-2020-2020-2D91D0DDB961");
-const QString kClaussUid = QStringLiteral("7A21C94E-5B20-2020-2020-D6D081182F97");
 const QString kGigapanUid = QStringLiteral("7A21C94E-5B20-2020-2020-6028D47773DF");
-const QString kPapywizardUid = QStringLiteral("7A21C94E-5B20-2020-2020-483181480AB7");
-const QString kVRDrive2Uid = QStringLiteral("7A21C94E-5B20-2020-2020-B662C695C918");
 
 QStringList objectNames(const QList<QPointer<QObject>> &plugins)
 {
@@ -43,14 +41,21 @@ QStringList objectNames(const QList<QPointer<QObject>> &plugins)
     return names;
 }
 
-QStringList importNames(const char *heads)
+/** The plug-ins of all heads, or of those that are made whatever kinds the host asks for. */
+QStringList importNames(bool everyKindOnly = false)
 {
     QStringList names;
-    for (const QString &head :
-         QString::fromLatin1(heads).split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
-        names.append(QStringLiteral("X%1Import").arg(head));
+    for (const HostHead *head : allHostHeads()) {
+        if (head->hasEveryKind || !everyKindOnly) {
+            names.append(QString::fromLatin1(head->plugin));
+        }
     }
     return names;
+}
+
+int headCount()
+{
+    return static_cast<int>(allHostHeads().size());
 }
 
 QString runTool(const QString &program, const QStringList &arguments)
@@ -83,6 +88,7 @@ private Q_SLOTS:
     void theTranslationOfTheHostsLocaleIsLoaded();
     void aboutDataOfTheLibrary();
 
+    void theLibraryOffersTheseHeads();
     void kindsChooseThePlugins_data();
     void kindsChooseThePlugins();
     void pluginsAccumulate();
@@ -287,12 +293,26 @@ void TestPlugin::aboutDataOfTheLibrary()
     QVERIFY(!QFile::exists(QStringLiteral(":/%1/Resources/XGigapan.png").arg(kLibraryUid)));
 }
 
+/** What this library ships; a further head adds its line. */
+void TestPlugin::theLibraryOffersTheseHeads()
+{
+    const QStringList shipped{
+        QStringLiteral("XClaussImport"),
+        QStringLiteral("XGigapanImport"),
+        QStringLiteral("XMerlinImport"),
+        QStringLiteral("XVRDrive2Import"),
+    };
+    Contract::Module module;
+    QCOMPARE(objectNames(module.library()->plugins(2)), shipped);
+    QCOMPARE(importNames(), shipped);
+}
+
 void TestPlugin::kindsChooseThePlugins_data()
 {
     QTest::addColumn<int>("kinds");
     QTest::addColumn<QStringList>("names");
-    const QStringList all = importNames("Clauss Gigapan Merlin VRDrive2");
-    const QStringList some = importNames("Gigapan Merlin");
+    const QStringList all = importNames();
+    const QStringList some = importNames(true);
     QTest::newRow("none") << 0 << QStringList();
     QTest::newRow("1") << 1 << some;
     QTest::newRow("2") << 2 << all;
@@ -321,15 +341,16 @@ void TestPlugin::pluginsAccumulate()
     Contract::Module module;
     const QList<QPointer<QObject>> first = module.library()->plugins(1);
     const QList<QPointer<QObject>> second = module.library()->plugins(1);
-    QCOMPARE(first.size(), 2);
-    QCOMPARE(second.size(), 4);
-    QCOMPARE(second.mid(0, 2), first);
-    QVERIFY(second.at(2) != first.at(0));
-    QVERIFY(second.at(3) != first.at(1));
-    QCOMPARE(objectNames(second), importNames("Gigapan Merlin Gigapan Merlin"));
+    const QStringList some = importNames(true);
+    const int count = some.size();
+    QCOMPARE(objectNames(first), some);
+    QCOMPARE(objectNames(second), some + some);
+    QCOMPARE(second.mid(0, count), first);
+    for (int i = 0; i < count; ++i) {
+        QVERIFY(second.at(count + i) != first.at(i));
+    }
     QCOMPARE(module.library()->plugins(0), second);
-    QCOMPARE(objectNames(module.library()->plugins(2)),
-             importNames("Gigapan Merlin Gigapan Merlin Clauss Gigapan Merlin VRDrive2"));
+    QCOMPARE(objectNames(module.library()->plugins(2)), some + some + importNames());
 }
 
 void TestPlugin::aDeletedPluginLeavesANullEntry()
@@ -337,13 +358,13 @@ void TestPlugin::aDeletedPluginLeavesANullEntry()
     Contract::Module module;
     delete module.library()->plugins(2).at(1).data();
     const QList<QPointer<QObject>> plugins = module.library()->plugins(0);
-    QCOMPARE(plugins.size(), 4);
+    QCOMPARE(plugins.size(), headCount());
     QVERIFY(plugins.at(1).isNull());
     QVERIFY(!plugins.at(0).isNull());
     QVERIFY(!plugins.at(2).isNull());
     host().written.clear();
     delete module.root();
-    QCOMPARE(host().written.size(), 3); // the three that were left
+    QCOMPARE(host().written.size(), headCount() - 1); // those that were left
 }
 
 void TestPlugin::theRootObjectDeletesItsPlugins()
@@ -355,7 +376,10 @@ void TestPlugin::theRootObjectDeletesItsPlugins()
         pages.append(Contract::asImport(plugin)->pages().first());
     }
     delete module.root();
-    QCOMPARE(objectNames(plugins), QStringList({ QString(), QString(), QString(), QString() }));
+    QCOMPARE(plugins.size(), headCount());
+    for (const QPointer<QObject> &plugin : plugins) {
+        QVERIFY(plugin.isNull());
+    }
     for (const QPointer<QWizardPage> &page : pages) {
         QVERIFY(page.isNull());
     }
@@ -377,7 +401,7 @@ void TestPlugin::anyOrderOfDeletionIsTolerated()
         for (const QPointer<QObject> &object : qAsConst(objects)) {
             delete object.data();
         }
-        QCOMPARE(host().written.size(), 4); // once for each plug-in, whoever deleted it
+        QCOMPARE(host().written.size(), headCount()); // once for each plug-in, whoever deleted it
         host().written.clear();
         QVERIFY(module.root() != nullptr);
     }
@@ -390,18 +414,12 @@ void TestPlugin::aboutDataOfThePlugins_data()
     QTest::addColumn<QString>("comment");
     QTest::addColumn<QString>("uid");
     QTest::addColumn<QString>("picture");
-    QTest::newRow("Clauss") << QStringLiteral("XClaussImport") << QStringLiteral("Clauss")
-                            << QStringLiteral("Clauss Rodeon import plugin") << kClaussUid
-                            << QStringLiteral("XClauss.png");
-    QTest::newRow("Gigapan") << QStringLiteral("XGigapanImport") << QStringLiteral("Gigapan")
-                             << QStringLiteral("Gigapan import plugin") << kGigapanUid
-                             << QStringLiteral("XGigapan.png");
-    QTest::newRow("Papywizard") << QStringLiteral("XMerlinImport") << QStringLiteral("Papywizard")
-                                << QStringLiteral("Papywizard XML import plugin") << kPapywizardUid
-                                << QStringLiteral("Papywizard.png");
-    QTest::newRow("VR Drive 2") << QStringLiteral("XVRDrive2Import") << QStringLiteral("VRDrive2")
-                                << QStringLiteral("VRDrive2 XML import plugin") << kVRDrive2Uid
-                                << QStringLiteral("VRDrive2.png");
+    for (const HostHead *head : allHostHeads()) {
+        QTest::newRow(head->title)
+            << QString::fromLatin1(head->plugin) << QString::fromLatin1(head->name)
+            << QString::fromLatin1(head->comment) << QString::fromLatin1(head->uid)
+            << QString::fromLatin1(head->icon);
+    }
 }
 
 void TestPlugin::aboutDataOfThePlugins()
@@ -444,10 +462,9 @@ void TestPlugin::everyPluginHasOnePage_data()
 {
     QTest::addColumn<QString>("objectName");
     QTest::addColumn<QByteArray>("pageClass");
-    QTest::newRow("Clauss") << QStringLiteral("XClaussImport") << QByteArray("UIWPClauss");
-    QTest::newRow("Gigapan") << QStringLiteral("XGigapanImport") << QByteArray("UIWPGigapan");
-    QTest::newRow("Papywizard") << QStringLiteral("XMerlinImport") << QByteArray("UIWPMerlin");
-    QTest::newRow("VR Drive 2") << QStringLiteral("XVRDrive2Import") << QByteArray("UIWPVRDrive2");
+    for (const HostHead *head : allHostHeads()) {
+        QTest::newRow(head->title) << QString::fromLatin1(head->plugin) << QByteArray(head->page);
+    }
 }
 
 void TestPlugin::everyPluginHasOnePage()
@@ -525,7 +542,7 @@ void TestPlugin::stateGoesThroughTheHostsSettings()
     };
     Contract::Module module;
     QObject *plugin = pluginCalled(module.library(), objectName);
-    QCOMPARE(host().read.size(), 4);
+    QCOMPARE(host().read.size(), headCount());
     QCOMPARE(ofThisPlugin(host().read).size(), 1);
     QVERIFY(!ofThisPlugin(host().read).first().value.isValid()); // the default it offered
     QVERIFY(host().written.isEmpty());
@@ -545,7 +562,7 @@ void TestPlugin::storedStateOfAnyKindIsAccepted()
            QVariant(QByteArray(100000, 'x')) }) {
         host().stored = stored;
         Contract::Module module;
-        QCOMPARE(module.library()->plugins(2).size(), 4);
+        QCOMPARE(module.library()->plugins(2).size(), headCount());
     }
 }
 
@@ -743,12 +760,11 @@ void TestPlugin::textsOfTheModuleOutliveIt()
         }
     }
     QVERIFY(!Contract::isMapped());
-    QCOMPARE(names,
-             QStringList(QStringLiteral("XPanoHead"))
-                 + importNames("Clauss Gigapan Merlin VRDrive2"));
-    QCOMPARE(texts.size(), 5 * 6);
-    QCOMPARE(texts.count(QStringLiteral("3.0.0.400")), 5);
-    QCOMPARE(texts.count(QStringLiteral("Orvane")), 2 * 5);
+    QCOMPARE(names, QStringList(QStringLiteral("XPanoHead")) + importNames());
+    const int objects = headCount() + 1;
+    QCOMPARE(texts.size(), objects * 6);
+    QCOMPARE(texts.count(QStringLiteral("3.0.0.400")), objects);
+    QCOMPARE(texts.count(QStringLiteral("Orvane")), 2 * objects);
     QVERIFY(texts.contains(kLibraryUid));
 }
 
@@ -775,11 +791,11 @@ void TestPlugin::theModuleLoadsAndUnloadsAgainAndAgain()
     for (int round = 0; round < loads; ++round) {
         {
             Contract::Module module;
-            QCOMPARE(module.library()->plugins(2).size(), 4);
+            QCOMPARE(module.library()->plugins(2).size(), headCount());
         }
         QVERIFY(!Contract::isMapped());
     }
-    QCOMPARE(host().written.size(), loads * 4);
+    QCOMPARE(host().written.size(), loads * headCount());
 }
 
 void TestPlugin::aHostWithoutUiSettingsIsServedToo()
@@ -813,7 +829,7 @@ void TestPlugin::aPageWhoseStateTheHostCannotReadIsNotLeftBehind()
     QVERIFY_EXCEPTION_THROWN(library->plugins(2), std::runtime_error);
     QCOMPARE(QApplication::allWidgets().size(), widgets);
     host().readsSettings = true;
-    QCOMPARE(library->plugins(2).size(), 4);
+    QCOMPARE(library->plugins(2).size(), headCount());
 }
 
 void TestPlugin::aPageWhoseStateTheHostCannotWriteIsNotLeftBehind()
@@ -827,7 +843,7 @@ void TestPlugin::aPageWhoseStateTheHostCannotWriteIsNotLeftBehind()
         delete plugins.takeFirst().data();
         delete Contract::asImport(plugins.last())->pages().first(); // its state is gone before
         delete plugins.takeLast().data();
-        delete module.root(); // and with it the other two
+        delete module.root(); // and with it the others
         for (const QPointer<QObject> &plugin : std::as_const(plugins)) {
             QVERIFY(plugin.isNull());
         }

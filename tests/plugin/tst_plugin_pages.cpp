@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialogclicker.h"
 #include "foreignhost.h"
+#include "hosthead.h"
 
 #include <QAbstractButton>
 #include <QDesktopServices>
@@ -84,11 +85,12 @@ private:
     QStringList m_opened;
 };
 
-/** The page of a new plug-in for \p head. */
-QWizardPage *newPage(Contract::Module &module, const char *head)
+/** The page of a new plug-in of class \p plugin. */
+QWizardPage *newPage(Contract::Module &module, const char *plugin)
 {
-    const QString name = QStringLiteral("X%1Import").arg(QLatin1String(head));
-    return Contract::asImport(pluginCalled(module.library(), name))->pages().first();
+    return Contract::asImport(pluginCalled(module.library(), QLatin1String(plugin)))
+        ->pages()
+        .first();
 }
 
 template <typename Widget> Widget *child(const QWidget &page, const char *name)
@@ -138,6 +140,11 @@ void clickLink(const QWizard &wizard)
     qFatal("The about text shows no link");
 }
 
+bool isGrid(const HostHead &head)
+{
+    return head.record == nullptr;
+}
+
 constexpr char kSelectRecord[] = "m_pbSelectConfigFile";
 constexpr char kSelectPhotos[] = "m_pbSelectImages";
 
@@ -149,9 +156,11 @@ class Steps : public QObject
 public:
     explicit Steps(QWizardPage &page)
         : m_page(page)
-        , m_count(page.inherits("UIWPGigapan") ? child<QLabel>(page, "m_lbImage")
-                                               : child<QLabel>(page, "m_lbImageLog"))
+        , m_count(page.findChild<QLabel *>(QStringLiteral("m_lbImageLog")))
     {
+        if (m_count == nullptr) {
+            m_count = child<QLabel>(page, "m_lbImage"); // of a grid
+        }
         connect(&page, &QWizardPage::completeChanged, this, [this] {
             noteShown();
             pageHost().steps.append(QStringLiteral("completeChanged"));
@@ -231,17 +240,17 @@ void TestPluginPages::init()
 
 void TestPluginPages::threadIsMadeAfterTheForm_data()
 {
-    QTest::addColumn<QByteArray>("head");
-    for (const char *head : { "Clauss", "Gigapan", "Merlin", "VRDrive2" }) {
-        QTest::newRow(head) << QByteArray(head);
+    QTest::addColumn<const HostHead *>("head");
+    for (const HostHead *head : allHostHeads()) {
+        QTest::newRow(head->title) << head;
     }
 }
 
 void TestPluginPages::threadIsMadeAfterTheForm()
 {
-    QFETCH(const QByteArray, head);
+    QFETCH(const HostHead *, head);
     Contract::Module module;
-    const QWizardPage *page = newPage(module, head.constData());
+    const QWizardPage *page = newPage(module, head->plugin);
 
     // Children stand in the order in which they were made.
     const int thread = page->children().indexOf(page->findChild<QThread *>());
@@ -252,22 +261,29 @@ void TestPluginPages::threadIsMadeAfterTheForm()
 
 void TestPluginPages::linkOfTheAboutTextOpensOnce_data()
 {
-    QTest::addColumn<QByteArray>("head");
+    QTest::addColumn<const HostHead *>("head");
     QTest::addColumn<QWizard::WizardStyle>("style");
-    for (const char *head : { "Clauss", "Merlin", "VRDrive2" }) {
-        QTest::addRow("%s, classic", head) << QByteArray(head) << QWizard::ClassicStyle;
-        QTest::addRow("%s, modern", head) << QByteArray(head) << QWizard::ModernStyle;
-        QTest::addRow("%s, mac", head) << QByteArray(head) << QWizard::MacStyle;
-        QTest::addRow("%s, aero", head) << QByteArray(head) << QWizard::AeroStyle;
+    const std::initializer_list<std::pair<const char *, QWizard::WizardStyle>> styles{
+        { "classic", QWizard::ClassicStyle },
+        { "modern", QWizard::ModernStyle },
+        { "mac", QWizard::MacStyle },
+        { "aero", QWizard::AeroStyle },
+    };
+    for (const HostHead *head : allHostHeads()) {
+        for (const auto &[name, style] : styles) {
+            if (!isGrid(*head)) {
+                QTest::addRow("%s, %s", head->title, name) << head << style;
+            }
+        }
     }
 }
 
 void TestPluginPages::linkOfTheAboutTextOpensOnce()
 {
-    QFETCH(const QByteArray, head);
+    QFETCH(const HostHead *, head);
     QFETCH(const QWizard::WizardStyle, style);
     Contract::Module module;
-    QWizardPage *page = newPage(module, head.constData());
+    QWizardPage *page = newPage(module, head->plugin);
     QWizard wizard;
     wizard.setWizardStyle(style);
     wizard.addPage(page);
@@ -290,7 +306,7 @@ void TestPluginPages::linkOfTheGridPageIsLeftToTheHost()
 {
     Contract::Module module;
     QWizard wizard;
-    wizard.addPage(newPage(module, "Gigapan"));
+    wizard.addPage(newPage(module, "XGigapanImport"));
     wizard.show();
     Desktop desktop;
 
@@ -302,9 +318,14 @@ void TestPluginPages::linkOfTheGridPageIsLeftToTheHost()
 void TestPluginPages::linkOpensOnItsOwnPageGoingBackAndForth()
 {
     Contract::Module module;
-    const QList<QWizardPage *> pages{ plainPage(), newPage(module, "Clauss"),
-                                      newPage(module, "Merlin"), newPage(module, "Gigapan"),
-                                      newPage(module, "VRDrive2") };
+    QList<QWizardPage *> pages{ plainPage() };
+    QSet<int> hosts{ 0 }; // the host's own links: its page's, and those of grids
+    for (const HostHead *head : allHostHeads()) {
+        if (isGrid(*head)) {
+            hosts.insert(pages.size());
+        }
+        pages.append(newPage(module, head->plugin));
+    }
     QWizard wizard;
     for (QWizardPage *page : pages) {
         wizard.addPage(page);
@@ -314,8 +335,8 @@ void TestPluginPages::linkOpensOnItsOwnPageGoingBackAndForth()
     const auto clickOn = [&](int id) {
         QCOMPARE(wizard.currentId(), id);
         clickLink(wizard);
-        const bool isTheHosts = id == 0 || id == 3;
-        QCOMPARE(desktop.take(), isTheHosts ? QStringList() : QStringList{ linkOf(pages.at(id)) });
+        QCOMPARE(desktop.take(),
+                 hosts.contains(id) ? QStringList() : QStringList{ linkOf(pages.at(id)) });
     };
 
     for (int round = 0; round < 2; ++round) {
@@ -337,8 +358,8 @@ void TestPluginPages::pagesOfOneHeadAnswerForThemselvesOnly()
 {
     Contract::Module module;
     QWizard wizard;
-    wizard.addPage(newPage(module, "Clauss"));
-    wizard.addPage(newPage(module, "Clauss"));
+    wizard.addPage(newPage(module, "XClaussImport"));
+    wizard.addPage(newPage(module, "XClaussImport"));
     wizard.show();
     Desktop desktop;
 
@@ -356,8 +377,8 @@ void TestPluginPages::pagesOfOneHeadAnswerForThemselvesOnly()
 void TestPluginPages::linkFollowsItsPageIntoAnotherWizard()
 {
     Contract::Module module;
-    QWizardPage *page = newPage(module, "Clauss");
-    QWizardPage *other = newPage(module, "Clauss");
+    QWizardPage *page = newPage(module, "XClaussImport");
+    QWizardPage *other = newPage(module, "XClaussImport");
     QWizard first;
     first.addPage(page);
     first.addPage(other);
@@ -388,7 +409,7 @@ void TestPluginPages::linkIsDeadWhenItsPageIsGone()
 {
     Contract::Module module;
     QWizard wizard;
-    wizard.addPage(newPage(module, "Clauss"));
+    wizard.addPage(newPage(module, "XClaussImport"));
     wizard.show();
     QLabel *label = aboutLabel(wizard);
     const QString link = linkOf(wizard.currentPage());
@@ -416,7 +437,7 @@ void TestPluginPages::hostThatOpensLinksItselfIsNotDisturbed()
     Contract::Module module;
     QWizard wizard;
     wizard.addPage(plainPage());
-    wizard.addPage(newPage(module, "Clauss"));
+    wizard.addPage(newPage(module, "XClaussImport"));
     wizard.show();
     QLabel *label = aboutLabel(wizard);
     if (beforeThePage) {
@@ -438,45 +459,28 @@ void TestPluginPages::hostThatOpensLinksItselfIsNotDisturbed()
 
 void TestPluginPages::buttonWithoutAChoiceTakesItsSteps_data()
 {
-    QTest::addColumn<QByteArray>("head");
+    QTest::addColumn<const HostHead *>("head");
     QTest::addColumn<QByteArray>("button");
     QTest::addColumn<bool>("control"); // else its dialog is cancelled
     QTest::addColumn<QStringList>("steps");
-    const QString asks = QStringLiteral("LastPath");
-    const QString folder = QStringLiteral("open FOLDER");
-    const QString photo = QStringLiteral("open FOLDER/a.jpg");
-    const QString shows = QStringLiteral("show");
-    const QString tells = QStringLiteral("completeChanged");
-    const auto row
-        = [](const char *head, const char *button, bool control, const QStringList &steps) {
-              QTest::addRow("%s, %s, %s", head, button, control ? "Control" : "cancelled")
-                  << QByteArray(head) << QByteArray(button) << control << steps;
-          };
-    row("Merlin", kSelectRecord, true, { asks, folder });
-    row("Merlin", kSelectRecord, false, { asks, shows, tells }); // it reads its record again
-    row("Merlin", kSelectPhotos, true, { asks, folder });
-    // On this page everything but the choice itself follows in any case.
-    row("VRDrive2", kSelectRecord, true, { asks, folder, shows, tells });
-    row("VRDrive2", kSelectRecord, false, { asks, shows, tells });
-    row("VRDrive2", kSelectPhotos, true, { asks, folder, shows, tells });
-    row("VRDrive2", kSelectPhotos, false, { asks, shows, tells });
-    row("Clauss", kSelectRecord, true, { asks, folder });
-    row("Clauss", kSelectRecord, false, { asks, shows, tells });
-    row("Clauss", kSelectPhotos, true, { asks, photo });
-    row("Clauss", kSelectPhotos, false, { asks });
-    row("Gigapan", kSelectPhotos, true, { asks, photo });
-    row("Gigapan", kSelectPhotos, false, { asks });
+    for (const HostHead *head : allHostHeads()) {
+        for (const ButtonSteps &row : head->buttonSteps) {
+            QTest::addRow("%s, %s, %s", head->title, row.button,
+                          row.control ? "Control" : "cancelled")
+                << head << QByteArray(row.button) << row.control << row.steps;
+        }
+    }
 }
 
 void TestPluginPages::buttonWithoutAChoiceTakesItsSteps()
 {
-    QFETCH(const QByteArray, head);
+    QFETCH(const HostHead *, head);
     QFETCH(const QByteArray, button);
     QFETCH(const bool, control);
     QFETCH(const QStringList, steps);
     const QTemporaryDir dir;
     Contract::Module module;
-    const Steps taken(*newPage(module, head.constData()));
+    const Steps taken(*newPage(module, head->plugin));
     pageHost().start = dir.filePath(QStringLiteral("a.jpg"));
     Desktop desktop;
     DialogClicker clicker;
@@ -495,34 +499,30 @@ void TestPluginPages::buttonWithoutAChoiceTakesItsSteps()
 
 void TestPluginPages::choiceTakesItsSteps_data()
 {
-    QTest::addColumn<QByteArray>("head");
+    QTest::addColumn<const HostHead *>("head");
     QTest::addColumn<QByteArray>("button");
     QTest::addColumn<QStringList>("files");
     QTest::addColumn<QString>("remembered"); // by the host
     const QStringList photos{ QStringLiteral("b.jpg"), QStringLiteral("a.jpg") };
-    for (const char *head : { "Merlin", "VRDrive2", "Clauss", "Gigapan" }) {
-        QTest::addRow("%s, photos", head)
-            << QByteArray(head) << QByteArray(kSelectPhotos) << photos << QStringLiteral("a.jpg");
-    }
-    const std::initializer_list<std::pair<const char *, const char *>> heads{
-        { "Merlin", "shoot.xml" }, { "VRDrive2", "shoot.xml" }, { "Clauss", "script.txt" }
-    };
-    for (const auto &[head, name] : heads) {
-        const QString record = QLatin1String(name);
-        QTest::addRow("%s, record", head)
-            << QByteArray(head) << QByteArray(kSelectRecord) << QStringList(record) << record;
-        QTest::addRow("%s, record and photos", head)
-            << QByteArray(head) << QByteArray(kSelectRecord) << (photos + QStringList(record))
-            << record;
-        QTest::addRow("%s, photos instead of a record", head)
-            << QByteArray(head) << QByteArray(kSelectRecord) << photos
-            << QStringLiteral("last/photo.jpg");
+    for (const HostHead *head : allHostHeads()) {
+        QTest::addRow("%s, photos", head->title)
+            << head << QByteArray(kSelectPhotos) << photos << QStringLiteral("a.jpg");
+        if (isGrid(*head)) {
+            continue;
+        }
+        const QString record = QString::fromLatin1(head->recordName);
+        QTest::addRow("%s, record", head->title)
+            << head << QByteArray(kSelectRecord) << QStringList(record) << record;
+        QTest::addRow("%s, record and photos", head->title)
+            << head << QByteArray(kSelectRecord) << (photos + QStringList(record)) << record;
+        QTest::addRow("%s, photos instead of a record", head->title)
+            << head << QByteArray(kSelectRecord) << photos << QStringLiteral("last/photo.jpg");
     }
 }
 
 void TestPluginPages::choiceTakesItsSteps()
 {
-    QFETCH(const QByteArray, head);
+    QFETCH(const HostHead *, head);
     QFETCH(const QByteArray, button);
     QFETCH(const QStringList, files);
     QFETCH(const QString, remembered);
@@ -531,12 +531,12 @@ void TestPluginPages::choiceTakesItsSteps()
     for (const QString &name : files) {
         QFile file(dir.filePath(name));
         QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(name.endsWith(QLatin1String("xml")) ? "<papywizard/>" : "op_shoot\n");
+        file.write(head->record == nullptr ? QByteArray() : head->record({ { 0.0, 0.0 } }));
         chosen.append(file.fileName());
     }
     QVERIFY(QDir(dir.path()).mkdir(QStringLiteral("last")));
     Contract::Module module;
-    QWizardPage *page = newPage(module, head.constData());
+    QWizardPage *page = newPage(module, head->plugin);
     const Steps taken(*page);
     pageHost().start = dir.filePath(QStringLiteral("last/photo.jpg"));
     DialogClicker clicker;
@@ -567,7 +567,7 @@ void TestPluginPages::mendedScriptIsReadOnReturn()
     };
     Contract::Module module;
     QWizard wizard;
-    wizard.addPage(newPage(module, "Clauss"));
+    wizard.addPage(newPage(module, "XClaussImport"));
     wizard.show();
     wizard.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&wizard));

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
 #include "foreignhost.h"
+#include "hosthead.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -89,13 +90,13 @@ void TestSubtitles::subtitleFitsTwoLines_data()
     QTest::addColumn<QString>("plugin");
     QTest::addColumn<QString>("language");
     QTest::addColumn<int>("style");
-    for (const char *head : { "Clauss", "Gigapan", "Merlin", "VRDrive2" }) {
+    for (const HostHead *head : allHostHeads()) {
         for (const char *language :
              { "en", "es", "zh_CN", "fr", "ja", "de", "it", "pl", "zh_TW", "ru" }) {
             const auto row = [head, language](const char *name, QWizard::WizardStyle style) {
-                QTest::addRow("%s, %s, %s", head, language, name)
-                    << QStringLiteral("X%1Import").arg(QLatin1String(head))
-                    << QString::fromLatin1(language) << static_cast<int>(style);
+                QTest::addRow("%s, %s, %s", head->title, language, name)
+                    << QString::fromLatin1(head->plugin) << QString::fromLatin1(language)
+                    << static_cast<int>(style);
             };
             row("classic", QWizard::ClassicStyle);
             row("modern", QWizard::ModernStyle);

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
+#include "tests/support/hosthead.h"
 #include "tests/support/testprogram.h"
 
 #include <QDir>
@@ -118,12 +119,11 @@ void ResourcesTest::iconsDifferAtSixteenPixelsWithoutColour_data()
 {
     QTest::addColumn<QString>("one");
     QTest::addColumn<QString>("other");
-    const QStringList icons{
-        QStringLiteral(":/7A21C94E-5B20-2020-2020-483181480AB7/Resources/Papywizard.png"),
-        QStringLiteral(":/7A21C94E-5B20-2020-2020-6028D47773DF/Resources/XGigapan.png"),
-        QStringLiteral(":/7A21C94E-5B20-2020-2020-B662C695C918/Resources/VRDrive2.png"),
-        QStringLiteral(":/7A21C94E-5B20-2020-2020-D6D081182F97/Resources/XClauss.png"),
-    };
+    QStringList icons;
+    for (const HostHead *head : allHostHeads()) {
+        icons.append(QStringLiteral(":/%1/Resources/%2")
+                         .arg(QLatin1String(head->uid), QLatin1String(head->icon)));
+    }
     for (int i = 0; i < icons.size(); ++i) {
         for (int k = i + 1; k < icons.size(); ++k) {
             QTest::addRow("%s and %s", qPrintable(QFileInfo(icons.at(i)).baseName()),
@@ -322,7 +322,7 @@ static QSet<QString> sourceFiles(const QString &pattern)
 void ResourcesTest::everyPictureIsDrawnFromItsSource()
 {
     const QSet<QString> lists = sourceFiles(QStringLiteral("pictures.list"));
-    QVERIFY(lists.size() >= 5); // four heads and the UI pack
+    QCOMPARE(lists.size(), static_cast<int>(allHostHeads().size()) + 1); // and the UI pack
     QSet<QString> pictures;
     QSet<QString> sources;
     for (const QString &listName : lists) {

@@ -6,6 +6,7 @@
 #include "host/gui/layoutpicture.h"
 #include "host/gui/resultpage.h"
 #include "tests/host/testphotos.h"
+#include "tests/support/hosthead.h"
 #include "tests/support/testprogram.h"
 
 #include <QAbstractButton>
@@ -59,6 +60,9 @@ private:
     [[nodiscard]] QStringList writePhotos(int count, const QSize &size = QSize(60, 40));
     void makeWizard();
     void fillPapywizard(int count);
+    [[nodiscard]] QListWidget *heads() const;
+    /** The row of the head \p name. */
+    [[nodiscard]] int rowOf(const char *name) const;
     [[nodiscard]] ResultPage *result() const;
     [[nodiscard]] QAbstractButton *next() const;
 
@@ -138,26 +142,45 @@ QAbstractButton *TestImportWizard::next() const
     return m_wizard->button(QWizard::NextButton);
 }
 
+QListWidget *TestImportWizard::heads() const
+{
+    return m_wizard->findChild<QListWidget *>(QStringLiteral("m_heads"));
+}
+
+int TestImportWizard::rowOf(const char *name) const
+{
+    const QListWidget *list = heads();
+    for (int row = 0; row < list->count(); ++row) {
+        if (list->item(row)->data(Qt::AccessibleTextRole) == QLatin1String(name)) {
+            return row;
+        }
+    }
+    qFatal("No head is called %s", name);
+}
+
 void TestImportWizard::headsAreOfferedWithNameAndComment()
 {
-    const auto *list = m_wizard->findChild<QListWidget *>(QStringLiteral("m_heads"));
-    QCOMPARE(list->count(), 4);
-    QCOMPARE(list->item(2)->text(), QStringLiteral("Papywizard\nPapywizard XML import plugin"));
-    QVERIFY(!list->item(2)->icon().isNull());
-    QCOMPARE(list->item(2)->data(Qt::AccessibleTextRole).toString(), QStringLiteral("Papywizard"));
+    const QListWidget *list = heads();
+    QCOMPARE(list->count(), static_cast<int>(allHostHeads().size()));
+    int row = 0;
+    for (const HostHead *head : allHostHeads()) {
+        const QListWidgetItem *item = list->item(row++);
+        const QString title = item->data(Qt::AccessibleTextRole).toString();
+        QCOMPARE(title, QString::fromLatin1(head->name));
+        QCOMPARE(item->text(), title + QLatin1Char('\n') + QLatin1String(head->comment));
+        QVERIFY(!item->icon().isNull());
+    }
 }
 
 void TestImportWizard::lastHeadIsPreselected()
 {
-    auto *list = m_wizard->findChild<QListWidget *>(QStringLiteral("m_heads"));
-    QCOMPARE(list->currentRow(), 0);
-    list->setCurrentRow(1);
+    QCOMPARE(heads()->currentRow(), 0);
+    heads()->setCurrentRow(rowOf("Gigapan"));
     next()->click();
     QVERIFY(m_wizard->currentPage()->inherits("UIWPGigapan"));
     m_wizard->reject();
     makeWizard();
-    list = m_wizard->findChild<QListWidget *>(QStringLiteral("m_heads"));
-    QCOMPARE(list->currentRow(), 1);
+    QCOMPARE(heads()->currentRow(), rowOf("Gigapan"));
 }
 
 void TestImportWizard::nextBackNextGivesNoPhotoTwice()
@@ -324,20 +347,18 @@ void TestImportWizard::droppedFilesAreFilledIn()
 
 void TestImportWizard::xmlGoesToAHeadThatReadsIt()
 {
-    auto *list = m_wizard->findChild<QListWidget *>(QStringLiteral("m_heads"));
-    list->setCurrentRow(0); // Clauss reads scripts
+    heads()->setCurrentRow(rowOf("Clauss")); // Clauss reads scripts
     m_wizard->fillIn({ writeRecord(2) });
     QVERIFY(m_wizard->currentPage()->inherits("UIWPMerlin"));
     m_wizard->back();
-    list->setCurrentRow(3);
+    heads()->setCurrentRow(rowOf("VRDrive2"));
     m_wizard->fillIn({ writeRecord(2) });
     QVERIFY(m_wizard->currentPage()->inherits("UIWPVRDrive2"));
 }
 
 void TestImportWizard::scriptGoesToAHeadThatReadsIt()
 {
-    auto *list = m_wizard->findChild<QListWidget *>(QStringLiteral("m_heads"));
-    list->setCurrentRow(2);
+    heads()->setCurrentRow(rowOf("Papywizard"));
     const QString script
         = TestPhotos::writeFile(m_folder->filePath(QStringLiteral("Script.TXT")), "");
     m_wizard->fillIn({ script });
@@ -395,10 +416,9 @@ void TestImportWizard::subtitleLinksOpenInTheBrowser()
 
 void TestImportWizard::enterMovesOnePageOnly()
 {
-    auto *list = m_wizard->findChild<QListWidget *>(QStringLiteral("m_heads"));
-    list->setCurrentRow(2);
-    list->setFocus();
-    QTest::keyClick(list, Qt::Key_Return);
+    heads()->setCurrentRow(rowOf("Papywizard"));
+    heads()->setFocus();
+    QTest::keyClick(heads(), Qt::Key_Return);
     QVERIFY(m_wizard->currentPage()->inherits("UIWPMerlin"));
     QVERIFY(!next()->isEnabled());
 }

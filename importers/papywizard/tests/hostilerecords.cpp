@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
-#include "tests/hostile/hostilefiles.h"
+#include "importers/papywizard/tests/hostilerecords.h"
+
+#include "tests/support/hostilefiles.h"
 
 #include <QRandomGenerator>
 #include <QString>
@@ -8,52 +10,6 @@
 
 namespace
 {
-
-/** The largest file that is read at all. */
-constexpr int kMostBytes = 64 * 1024 * 1024;
-
-const QByteArray kNumbers[] = { "",
-                                " ",
-                                "abc",
-                                "5abc",
-                                "0x10",
-                                "1_000",
-                                "5,5",
-                                "--5",
-                                "+5",
-                                " 5 ",
-                                "00012",
-                                "12.",
-                                ".5",
-                                "-0",
-                                "nan",
-                                "NaN",
-                                "-nan",
-                                "inf",
-                                "-inf",
-                                "INF",
-                                "infinity",
-                                "1e308",
-                                "1e309",
-                                "1e99999",
-                                "-1e308",
-                                "1e-308",
-                                "1e-45",
-                                "3.4028235e38",
-                                "-3.4028235e38",
-                                "3.5e38",
-                                "2147483647",
-                                "2147483648",
-                                "-2147483648",
-                                "99999999999",
-                                "18446744073709551616",
-                                "\xd9\xa5",
-                                "\xef\xbc\x95",
-                                "1e",
-                                "1e+",
-                                QByteArray(400, '9'),
-                                QByteArray(100'000, '9'),
-                                "0." + QByteArray(100'000, '0') + "1" };
 
 /** The parts of a record that hold a number or a text, each of them replaceable. */
 struct Record {
@@ -103,41 +59,7 @@ QByteArray withDoctype(const QByteArray &subset, const QByteArray &content)
     return "<!DOCTYPE p [" + subset + "]><p>" + content + "</p>";
 }
 
-/** \p frame with as many \p filling characters between its halves as one file may have. */
-QByteArray filledUp(const QByteArray &head, char filling, const QByteArray &tail,
-                    int size = kMostBytes)
-{
-    return head + QByteArray(size - head.size() - tail.size(), filling) + tail;
-}
-
-QByteArray numbered(int count, const std::function<QByteArray(int)> &part)
-{
-    QByteArray text;
-    for (int i = 0; i < count; ++i) {
-        text += part(i);
-    }
-    return text;
-}
-
-/** Collects files under names that say where they belong. */
-class Files
-{
-public:
-    void add(const QByteArray &name, const QByteArray &content)
-    {
-        m_files.append({ name, [content] { return content; }, false });
-    }
-    void addLarge(const QByteArray &name, const std::function<QByteArray()> &content)
-    {
-        m_files.append({ name, content, true });
-    }
-    [[nodiscard]] const QVector<HostileFile> &all() const { return m_files; }
-
-private:
-    QVector<HostileFile> m_files;
-};
-
-void addDepths(Files &files)
+void addDepths(HostileFiles &files)
 {
     for (const int depth : { 255, 256, 257, 5'000, 25'019, 100'000, 1'000'000, 8'000'000 }) {
         const QByteArray number = QByteArray::number(depth);
@@ -155,7 +77,7 @@ void addDepths(Files &files)
     files.addLarge("end tags only", [] { return "<p>" + QByteArray("</a>").repeated(1'000'000); });
 }
 
-void addSizes(Files &files)
+void addSizes(HostileFiles &files)
 {
     const auto picts = [](int count, const QByteArray &pict) {
         Record record;
@@ -252,7 +174,7 @@ void addSizes(Files &files)
                    [] { return "<p>" + QByteArray("&x;").repeated(kMostBytes / 3 - 10) + "</p>"; });
 }
 
-void addEntities(Files &files)
+void addEntities(HostileFiles &files)
 {
     const QByteArray open = QByteArray("<a>").repeated(158);
     files.add("979 bytes: open tags in an entity",
@@ -322,7 +244,7 @@ void addEntities(Files &files)
     files.add("undeclared entity", "<p>&nosuch;</p>");
 }
 
-void addEncodings(Files &files)
+void addEncodings(HostileFiles &files)
 {
     const QByteArray deep = QByteArray("<a>").repeated(30'000);
     for (const QByteArray codec : { "UTF-8", "UTF-16", "UTF-16LE", "UTF-16BE", "UTF-32", "UTF-32LE",
@@ -358,7 +280,7 @@ void addEncodings(Files &files)
     files.add("NUL behind", QByteArray("<p/>\0", 5));
 }
 
-void addBroken(Files &files)
+void addBroken(HostileFiles &files)
 {
     const QByteArray whole = Record().text();
     for (int cut = 0; cut < whole.size(); cut += 11) {
@@ -382,7 +304,7 @@ void addBroken(Files &files)
     }
 }
 
-void addNumbers(Files &files)
+void addNumbers(HostileFiles &files)
 {
     const std::pair<QByteArray, QByteArray Record::*> fields[]
         = { { "id", &Record::id },      { "bracket", &Record::bracket },
@@ -390,7 +312,7 @@ void addNumbers(Files &files)
             { "coef", &Record::coef },  { "nbPicts", &Record::nbPicts },
             { "focal", &Record::focal } };
     for (const auto &field : fields) {
-        for (const QByteArray &number : kNumbers) {
+        for (const QByteArray &number : oddNumbers()) {
             Record record;
             record.*field.second = number;
             files.add(field.first + " '" + number.left(24) + "' of "
@@ -400,7 +322,7 @@ void addNumbers(Files &files)
     }
 }
 
-void addTexts(Files &files)
+void addTexts(HostileFiles &files)
 {
     const QByteArray texts[] = {
         "<![CDATA[<img src='/dev/zero'>]]>",
@@ -430,7 +352,7 @@ void addTexts(Files &files)
     }
 }
 
-void addLayouts(Files &files)
+void addLayouts(HostileFiles &files)
 {
     const auto shots = [](const QVector<std::pair<QByteArray, QByteArray>> &angles) {
         Record record;
@@ -472,103 +394,11 @@ void addLayouts(Files &files)
     });
 }
 
-QByteArray script(std::initializer_list<QByteArray> lines)
-{
-    QByteArray text;
-    for (const QByteArray &line : lines) {
-        text += line + "\n";
-    }
-    return text;
-}
-
-void addScriptNumbers(Files &files)
-{
-    for (const QByteArray key : { "op_h-angle", "op_v-angle" }) {
-        for (const QByteArray &number : kNumbers) {
-            files.add(
-                "script " + key + "=" + number.left(24) + " of "
-                    + QByteArray::number(number.size()),
-                script({ "op_shoot", key + "=10", "op_shoot", key + "=" + number, "op_shoot" }));
-        }
-    }
-}
-
-void addScriptLines(Files &files)
-{
-    const QByteArray body = script({ "op_h-angle=30", "op_v-angle=-15", "op_shoot", "op_shoot" });
-    const auto ending
-        = [&body](const QByteArray &end) { return QByteArray(body).replace("\n", end); };
-    files.add("script with CR LF", ending("\r\n"));
-    files.add("script with CR", ending("\r"));
-    files.add("script with LF CR", ending("\n\r"));
-    files.add("script with NEL", ending("\xc2\x85"));
-    files.add("script with line separators", ending("\xe2\x80\xa8"));
-    files.add("script with VT and FF", ending("\v\f"));
-    files.add("script with NUL", QByteArray(body).insert(20, '\0'));
-    files.add("script with NUL first", QByteArray(body).insert(0, '\0'));
-    files.add("script with a byte order mark", "\xef\xbb\xbf" + body);
-    for (const QByteArray codec : { "UTF-16", "UTF-16BE", "UTF-32", "Shift_JIS" }) {
-        files.add("script in " + codec,
-                  QTextCodec::codecForName(codec)->fromUnicode(QString::fromLatin1(body)));
-    }
-    files.add("script in broken UTF-8", "\xff\xfe" + body + "\xc3\x28\n" + body);
-    files.add("empty script", "");
-    files.add("script without line end", "op_shoot");
-    files.add("script that fails after a shot", script({ "op_shoot", "op_h-angle=abc" }));
-    files.add("script that is XML", Record().text());
-    QRandomGenerator random(62);
-    for (int i = 0; i < 30; ++i) {
-        QByteArray bytes = body.repeated(3);
-        for (int k = 0; k < 6; ++k) {
-            bytes[static_cast<int>(random.bounded(bytes.size()))]
-                = static_cast<char>(random.bounded(256));
-        }
-        files.add("script with six bytes changed, " + QByteArray::number(i), bytes);
-    }
-    for (int cut = 0; cut < body.size(); cut += 3) {
-        files.add("script cut at " + QByteArray::number(cut), body.left(cut));
-    }
-}
-
-void addScriptSizes(Files &files)
-{
-    files.addLarge("script of one line", [] { return filledUp("op_h-angle=1", '0', ""); });
-    files.addLarge("script of one line of 100 MB",
-                   [] { return filledUp("op_h-angle=1", '0', "", 100'000'000); });
-    files.addLarge("script of one key", [] { return filledUp("op_shoot", 'x', "\n"); });
-    files.addLarge("script of blank lines", [] { return filledUp("", '\n', "op_shoot\n"); });
-    files.addLarge("script of carriage returns", [] { return filledUp("", '\r', "op_shoot\n"); });
-    files.addLarge("script of NUL", [] { return filledUp("op_shoot\n", '\0', ""); });
-    files.addLarge("script one byte too long",
-                   [] { return filledUp("", '\n', "", kMostBytes + 1); });
-    for (const int shots : { 70'000, 130'000, 130'001, 7'000'000 }) {
-        files.addLarge("script of " + QByteArray::number(shots) + " shots on one spot",
-                       [shots] { return QByteArray("op_shoot\n").repeated(shots); });
-    }
-    files.addLarge("script of 130,000 shots on a circle", [] {
-        return numbered(130'000, [](int i) {
-            return "op_h-angle=" + QByteArray::number(i % 360) + "\nop_shoot\n";
-        });
-    });
-    files.addLarge("script of a grid of one degree", [] {
-        return numbered(360 * 180, [](int i) {
-            return "op_h-angle=" + QByteArray::number(i % 360)
-                + "\nop_v-angle=" + QByteArray::number(i / 360) + "\nop_shoot\n";
-        });
-    });
-    files.addLarge("script of bad numbers",
-                   [] { return QByteArray("op_h-angle=x\n").repeated(5'000'000); });
-    files.add("script with a far position",
-              script({ "op_shoot", "op_h-angle=1", "op_shoot", "op_h-angle=100000", "op_shoot" }));
-    files.add("script with the farthest positions",
-              script({ "op_v-angle=3e38", "op_shoot", "op_v-angle=-3e38", "op_shoot" }));
-}
-
 } // namespace
 
 QVector<HostileFile> hostileRecords()
 {
-    Files files;
+    HostileFiles files;
     addDepths(files);
     addSizes(files);
     addEntities(files);
@@ -577,14 +407,5 @@ QVector<HostileFile> hostileRecords()
     addNumbers(files);
     addTexts(files);
     addLayouts(files);
-    return files.all();
-}
-
-QVector<HostileFile> hostileScripts()
-{
-    Files files;
-    addScriptNumbers(files);
-    addScriptLines(files);
-    addScriptSizes(files);
     return files.all();
 }
