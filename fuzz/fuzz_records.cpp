@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: MIT
+#include "fuzz/check.h"
+#include "importers/headfacts.h"
+#include "shoot/recordlimits.h"
+
+#include <cmath>
+#include <cstdint>
+
+using namespace PanoHead;
+
+/** Any bytes as a record of every head: refused with a reason, or of some use. */
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    const QByteArray bytes
+        = QByteArray::fromRawData(reinterpret_cast<const char *>(data), static_cast<int>(size));
+    for (const HeadFacts *head : allHeadFacts()) {
+        if (head->isGrid()) {
+            continue;
+        }
+        ReadError error;
+        const auto summary = head->summary(bytes, &error);
+        FUZZ_CHECK(summary.has_value() == error.reason.isEmpty());
+        if (!summary) {
+            continue;
+        }
+        FUZZ_CHECK(summary->shotCount > 0 && summary->shotCount <= kMaxRecordedShots);
+        FUZZ_CHECK(summary->bracketCount > 0);
+        FUZZ_CHECK(std::isfinite(summary->focal35mm) && summary->focal35mm >= 0.0);
+        FUZZ_CHECK(summary->lens == LensModel::NotChosen || summary->lens == LensModel::Standard
+                   || summary->lens == LensModel::Fisheye);
+    }
+    return 0;
+}
