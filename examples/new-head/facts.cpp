@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: MIT
+#include "importers/csv/facts.h"
+
+#include "importers/csv/csvreader.h"
+#include "importers/headfacts.h"
+
+namespace PanoHead
+{
+
+namespace
+{
+
+std::optional<RecordSummary> summaryOf(const QByteArray &bytes, ReadError *error)
+{
+    const auto shots = readCsv(bytes, error);
+    if (!shots) {
+        return std::nullopt;
+    }
+    if (shots->isEmpty()) {
+        *error = { QStringLiteral("no line: no shot was recorded"), 0, {} };
+        return std::nullopt;
+    }
+    RecordSummary summary;
+    summary.shotCount = shots->size();
+    return summary;
+}
+
+QByteArray csvOf(const NotedShoot &shoot)
+{
+    QByteArray csv;
+    for (int i = 0; i < shoot.shots.size(); ++i) {
+        const NotedShot &shot = shoot.shots.at(i);
+        csv += QStringLiteral("IMG_%1.jpg,%2,%3\n")
+                   .arg(i + 1, 4, 10, QLatin1Char('0'))
+                   .arg(shot.yawDegrees, 0, 'f', 3)
+                   .arg(shot.pitchDegrees, 0, 'f', 3)
+                   .toLatin1();
+    }
+    return csv;
+}
+
+HeadFacts newFacts()
+{
+    HeadFacts facts;
+    facts.about = &kCsvAbout;
+    facts.title = "CSV list";
+    facts.record = "SHOTS.csv";
+    facts.summary = &summaryOf;
+    facts.write = &csvOf;
+    return facts;
+}
+
+} // namespace
+
+const HeadFacts &csvFacts()
+{
+    static const HeadFacts facts = newFacts();
+    return facts;
+}
+
+} // namespace PanoHead
