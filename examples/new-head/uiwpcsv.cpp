@@ -3,16 +3,9 @@
 #include "importers/csv/uiwpcsv.h"
 
 #include "shoot/angles.h"
-#include "shoot/previewlayout.h"
 #include "shoot/recordedshoot.h"
 #include "ui/blocksignal.h"
-#include "ui/connectpage.h"
-#include "ui/filedialogs.h"
-#include "ui/formviews.h"
-#include "ui/handover.h"
 #include "ui/messageboxes.h"
-#include "ui/pagesetup.h"
-#include "ui/previewlabel.h"
 
 #include <QPointer>
 #include <QScopeGuard>
@@ -32,25 +25,14 @@ constexpr PhotoQuestions kCsvQuestions{ false /* lens */, true /* shot time */,
 
 UIWPCsv::UIWPCsv(QWidget *parent)
     : QWizardPage(parent)
-    , m_readingThread(nullptr)
-    , m_lowMemory{ this, tr("Warning"),
-                   tr("There is not enough memory for so many images. Close other programs and try "
-                      "again.") }
     , m_layout(kCsvLayout)
-    , m_photos(kCsvQuestions, &previewImages)
+    , m_photos(kCsvQuestions, &previewImages,
+               { this, tr("Warning"),
+                 tr("There is not enough memory for so many images. Close other programs and try "
+                    "again.") })
 {
-    setupUi(this);
-    setLogo(this, QStringLiteral(":/7A21C94E-5B20-2020-2020-3C5F0E8A41D6/Resources/Csv.png"));
-    m_readingThread = new ReadingThread(this);
-    CreateWidgets();
-    CreateConnects();
-    Reset();
-    recolourSubtitle(this, m_photos.preview());
-}
-
-UIWPCsv::~UIWPCsv()
-{
-    endReading(this, m_readingThread);
+    buildPage(*this, m_readingThread, m_photos,
+              QStringLiteral(":/7A21C94E-5B20-2020-2020-3C5F0E8A41D6/Resources/Csv.png"));
 }
 
 void UIWPCsv::CreateWidgets()
@@ -70,23 +52,10 @@ void UIWPCsv::CreateConnects()
     connect(m_readingThread, &ReadingThread::Loaded, this, &UIWPCsv::UpdatePreview);
 }
 
-void UIWPCsv::initializePage() { }
-
 void UIWPCsv::cleanupPage()
 {
     clearIfRunning(*m_readingThread);
     Reset();
-}
-
-bool UIWPCsv::isComplete() const
-{
-    return isReadAndRecorded(m_state, *m_readingThread);
-}
-
-bool UIWPCsv::validatePage()
-{
-    return handOver(
-        *this, [this] { return describe(); }, m_photos, m_lowMemory);
 }
 
 bool UIWPCsv::describe()
@@ -96,27 +65,11 @@ bool UIWPCsv::describe()
     return true;
 }
 
-QByteArray UIWPCsv::SaveState() const
-{
-    return {};
-}
-
-void UIWPCsv::RestoreState(const QByteArray &state)
-{
-    Q_UNUSED(state)
-    UpdatePreview();
-}
-
-void UIWPCsv::BrowserWeb(const QString &url)
-{
-    openInBrowser(url);
-}
-
 void UIWPCsv::ParseConfigFile(const QString &fileName)
 {
     bool isRead = false;
     const auto read = [&] { isRead = readRecord(m_state, shots, [&] { return parse(fileName); }); };
-    if (!withinMemory(m_lowMemory, read)) {
+    if (!m_photos.withinMemory(read)) {
         return;
     }
     if (!isRead) {
@@ -140,7 +93,7 @@ void UIWPCsv::SelectConfigFile()
     }
     const QStringList photos = choice->selection.photos;
     if (!photos.isEmpty() && photos != m_state.images) {
-        usePhotos(photos);
+        m_state.images = m_photos.read(photos);
     }
     UpdateUI();
 }
@@ -151,15 +104,9 @@ void UIWPCsv::SelectImages()
         = selectPhotos(this, { tr("Select images"), tr("All Files (*.*)"), tr("All Files (*.*)") },
                        m_state.images, ControlShows::Location);
     if (!photos.isEmpty()) {
-        usePhotos(photos);
+        m_state.images = m_photos.read(photos);
         UpdateUI();
     }
-}
-
-void UIWPCsv::usePhotos(const QStringList &photos)
-{
-    m_state.images = photos;
-    m_photos.read(photos);
 }
 
 void UIWPCsv::SetConfigFFilename()
@@ -223,7 +170,7 @@ void UIWPCsv::UpdatePreview()
     if (m_hSlider->value() != m_photos.preview()->zoomPercent()) {
         m_photos.drawAnew();
     }
-    m_photos.draw(m_lowMemory, [this] {
+    m_photos.draw([this] {
         if (m_photos.arrived()) {
             showPreview();
         }

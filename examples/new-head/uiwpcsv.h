@@ -3,17 +3,8 @@
 #pragma once
 
 #include "importers/csv/csvtospp.h"
-#include "shoot/previewlayout.h"
-#include "shoot/shootstate.h"
-#include "ui/pagephotos.h"
-#include "ui/shootview.h"
-#include "ui/withinmemory.h"
+#include "ui/headpage.h"
 #include "ui_uiwpcsv.h"
-
-#include <QStringList>
-#include <QWizardPage>
-
-class ReadingThread;
 
 /** The wizard page of the importer of shot lists. */
 class UIWPCsv : public QWizardPage, public CsvToSPP, public Ui::UIWPCsvClass
@@ -22,22 +13,28 @@ class UIWPCsv : public QWizardPage, public CsvToSPP, public Ui::UIWPCsvClass
 
 public:
     explicit UIWPCsv(QWidget *parent);
-    /** Stops the reading thread. */
-    ~UIWPCsv() override;
+    ~UIWPCsv() override { PanoHead::endReading(this, m_readingThread); }
+    void CreateWidgets();
+    void CreateConnects();
 
-    void initializePage() override;
+    void initializePage() override { }
     void cleanupPage() override;
-    bool validatePage() override;
-    [[nodiscard]] bool isComplete() const override;
+    bool validatePage() override { return PanoHead::handOver(*this, m_photos); }
+    [[nodiscard]] bool isComplete() const override
+    {
+        return PanoHead::isReadAndRecorded(m_state, *m_readingThread);
+    }
 
     /** Pages keep no state of their own. */
-    [[nodiscard]] QByteArray SaveState() const;
-    void RestoreState(const QByteArray &state);
+    [[nodiscard]] QByteArray SaveState() const { return {}; }
+    void RestoreState(const QByteArray & /*state*/) { UpdatePreview(); }
     /**
      * Reads the list at \p fileName; a box says when that fails. The host may delete the page
      * while the box is open.
      */
     void ParseConfigFile(const QString &fileName);
+    /** Fills the description; always true. */
+    [[nodiscard]] bool describe();
 
 public Q_SLOTS:
     void SelectImages();
@@ -46,24 +43,18 @@ public Q_SLOTS:
     void Reset();
     void UpdateUI();
     void UpdatePreview();
-    void BrowserWeb(const QString &url);
+    void BrowserWeb(const QString &url) { PanoHead::openInBrowser(url); }
     void OnInverseCoordinates();
 
 private:
-    void CreateWidgets();
-    void CreateConnects();
-    /** Fills the description; false when the user must change something first. */
-    [[nodiscard]] bool describe();
     /** Makes \p path the page's list; false when the host deleted the page meanwhile. */
     [[nodiscard]] bool readList(const QString &path);
     void showPreview();
-    void usePhotos(const QStringList &photos);
 
     PanoHead::ShootState m_state;
     QList<XIImageDef *> previewImages; ///< what the preview shows; not owned
     bool m_isReadingList = false; ///< until its error box is closed
-    ReadingThread *m_readingThread;
-    PanoHead::LowMemoryBox m_lowMemory;
+    ReadingThread *m_readingThread = nullptr;
     PanoHead::ShotLayout m_layout;
     PanoHead::PagePhotos m_photos;
     PanoHead::PhotoNames m_photoNames;

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
 #include "importers/csv/csvreader.h"
+#include "tests/support/testprogram.h"
 
 #include <QtTest>
 
@@ -51,5 +52,5 @@ void TestCsvReader::brokenListIsRefusedWithItsLine()
     QCOMPARE(error.line, line);
 }
 
-QTEST_GUILESS_MAIN(TestCsvReader)
+TEST_CLASS(TestCsvReader, QCoreApplication)
 #include "tst_csvreader.moc"
