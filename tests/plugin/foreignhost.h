@@ -4,6 +4,7 @@
 
 #include "gate.h"
 #include "hostcontract.h"
+#include "hosthead.h"
 #include "testprogram.h"
 
 #include <QApplication>
@@ -205,7 +206,8 @@ inline Host &host()
 inline QObject *pluginCalled(Contract::PluginLibrary *library, const QString &name)
 {
     const QList<QPointer<QObject>> plugins = library->plugins(2);
-    for (const QPointer<QObject> &plugin : plugins.mid(plugins.size() - 4)) {
+    const int heads = static_cast<int>(allHostHeads().size());
+    for (const QPointer<QObject> &plugin : plugins.mid(plugins.size() - heads)) {
         if (plugin->objectName() == name) {
             return plugin;
         }
