@@ -6,12 +6,10 @@
 #include "tests/support/testprogram.h"
 
 #include <QDomDocument>
-#include <QRandomGenerator>
 #include <QTest>
 #include <QTextCodec>
-#include <QXmlDefaultHandler>
 
-#include <algorithm>
+#include <vector>
 
 Q_DECLARE_METATYPE(PanoHead::XmlLimits)
 
@@ -43,6 +41,98 @@ QByteArray withDoctype(const QByteArray &subset, const QByteArray &content)
     return "<!DOCTYPE p [" + subset + "]><p>" + content + "</p>";
 }
 
+/** \p text \p count times, with 0, 1, 2... for its percent sign. */
+QByteArray numbered(const QByteArray &text, int count)
+{
+    QByteArray all;
+    for (int i = 0; i < count; ++i) {
+        all += QByteArray(text).replace('%', QByteArray::number(i));
+    }
+    return all;
+}
+
+struct Document {
+    const char *name;
+    QByteArray text;
+};
+using Documents = std::vector<Document>;
+
+Documents deepDocuments()
+{
+    return { { "257 levels", nested(257) },
+             { "30,000 levels, closed", nested(kDeadly) },
+             { "30,000 levels, open", opened(kDeadly) },
+             { "30,000 levels with attributes", QByteArray("<a b='/>'>").repeated(kDeadly) } };
+}
+
+Documents documentsWithMarkupInEntities()
+{
+    const QByteArray a158 = opened(158);
+    const QByteArray e158 = QByteArray("&e;").repeated(158);
+    const auto entity = [](const QByteArray &value, const QByteArray &content) {
+        return withDoctype("<!ENTITY e '" + value + "'>", content);
+    };
+    return {
+        { "979 bytes: open tags in an entity",
+          "<!DOCTYPE p[<!ENTITY e \"" + a158 + "\">]><p>" + e158 },
+        { "closed tags in an entity",
+          entity(opened(60) + "x" + QByteArray("</a>").repeated(60),
+                 QByteArray("&e;").repeated(500)) },
+        { "tags of character references in an entity",
+          entity(QByteArray("&#60;a>").repeated(158), e158) },
+        { "tags of hexadecimal references", entity(QByteArray("&#x0003C;a>").repeated(158), e158) },
+        { "tags of references beyond 16 bits, cut by the parser",
+          entity(QByteArray("&#65596;a>").repeated(158), e158) },
+        { "ampersand of a reference beyond 16 bits",
+          withDoctype("<!ENTITY f 'x'><!ENTITY e '&#x10026;f;'>", "&e;") },
+        { "billion laughs",
+          withDoctype("<!ENTITY a 'lol'><!ENTITY b '&a;&a;&a;'><!ENTITY c '&b;&b;&b;'>", "&c;") },
+        { "chain of entities declared backwards",
+          withDoctype("<!ENTITY a '" + QByteArray("&b;").repeated(300) + "'><!ENTITY b '"
+                          + QByteArray("&c;").repeated(300) + "'><!ENTITY c '"
+                          + QByteArray(300, 'x') + "'>",
+                      "&a;") },
+        { "chain of entities through '&#38;'",
+          withDoctype("<!ENTITY b '" + QByteArray(1'000, 'x') + "'><!ENTITY a '"
+                          + QByteArray("&#38;b;").repeated(400) + "'>",
+                      "&a;") },
+        { "entity of parameter entities",
+          withDoctype("<!ENTITY % q '" + opened(300) + "'><!ENTITY e '"
+                          + QByteArray("%q;").repeated(300) + "'>",
+                      "&e;") },
+        { "parameter entity that ends the DOCTYPE",
+          "<!DOCTYPE p[<!ENTITY e '" + a158 + "'><!ENTITY % q ']><p>'>%q;" + e158 },
+        { "parameter entity without markup", withDoctype("<!ENTITY % q 'x'>", "t") },
+    };
+}
+
+Documents documentsWithLongDoctypes()
+{
+    return {
+        { "50,000 characters x 5,000",
+          withDoctype("<!ENTITY e '" + QByteArray(50'000, 'x') + "'>",
+                      QByteArray("&e;").repeated(5'000)) },
+        { "1,000 entity declarations", withDoctype(numbered("<!ENTITY n% 'x'>", 1'000), "t") },
+        { "1,000 DOCTYPEs with one entity each",
+          numbered("<!DOCTYPE p [<!ENTITY n% 'x'>]>", 1'000) + "<p>t</p>" },
+        { "60,000 parentheses in the DTD",
+          withDoctype("<!ELEMENT p " + QByteArray(60'000, '('), "t") },
+        { "DOCTYPE of 4,097 characters",
+          "<!DOCTYPE p SYSTEM '" + QByteArray(4097 - 22, 'x') + "'><p>t</p>" },
+        { "DOCTYPE that never ends", QByteArray("<!DOCTYPE p [").append(5'000, ' ') },
+        { "DOCTYPE with an endless comment", QByteArray("<!DOCTYPE p [<!--").append(5'000, ' ') },
+        { "DOCTYPE with an endless literal",
+          QByteArray("<!DOCTYPE p SYSTEM '").append(5'000, ' ') },
+    };
+}
+
+void addRefused(const char *reason, const Documents &documents)
+{
+    for (const Document &document : documents) {
+        QTest::newRow(document.name) << document.text << QString::fromLatin1(reason);
+    }
+}
+
 /** "", or why the gate does not let the document pass. */
 QString reasonFor(const QByteArray &document, const XmlLimits &limits = {})
 {
@@ -59,154 +149,6 @@ QString parsedText(const QByteArray &document)
     }
     const QString text = dom.documentElement().text();
     return text.isNull() ? QStringLiteral("") : text;
-}
-
-/** What the parser made of a document. */
-struct DomSize {
-    int depth = 0; // the document element is at depth 1
-    int nodes = 0; // attributes included, the document and its type left out
-    int maxAttributes = 0;
-};
-
-void measure(const QDomNode &node, int depth, DomSize &size)
-{
-    for (QDomNode child = node.firstChild(); !child.isNull(); child = child.nextSibling()) {
-        if (child.isDocumentType()) {
-            continue;
-        }
-        ++size.nodes;
-        if (child.isElement()) {
-            const int attributes = child.attributes().size();
-            size.depth = std::max(size.depth, depth + 1);
-            size.nodes += attributes;
-            size.maxAttributes = std::max(size.maxAttributes, attributes);
-        }
-        measure(child, depth + 1, size);
-    }
-}
-
-QT_WARNING_PUSH
-QT_WARNING_DISABLE_DEPRECATED
-/** How deep the parser goes, also in a document that it refuses further behind. */
-class DepthMeter : public QXmlDefaultHandler
-{
-public:
-    explicit DepthMeter(const QByteArray &document)
-    {
-        QXmlInputSource source;
-        source.setData(document);
-        QXmlSimpleReader reader;
-        reader.setContentHandler(this);
-        reader.parse(source);
-    }
-
-    [[nodiscard]] int deepest() const { return m_deepest; }
-
-    bool startElement(const QString & /*uri*/, const QString & /*localName*/,
-                      const QString & /*name*/, const QXmlAttributes & /*attributes*/) override
-    {
-        m_deepest = std::max(m_deepest, ++m_depth);
-        return true;
-    }
-
-    bool endElement(const QString & /*uri*/, const QString & /*localName*/,
-                    const QString & /*name*/) override
-    {
-        --m_depth;
-        return true;
-    }
-
-private:
-    int m_depth = 0;
-    int m_deepest = 0;
-};
-QT_WARNING_POP
-
-/** Small documents with one of everything that can begin, end or hide a tag. */
-QVector<QByteArray> seeds()
-{
-    return {
-        "<p><a b='1' c=\"2\">x<d/></a><!-- <e> --><f>y</f></p>",
-        "<?xml version='1.0' encoding='UTF-8'?>\n<p><?x <a> ?><![CDATA[<b>]]>&amp;&#60;<c/></p>\n",
-        "<!DOCTYPE p [<!ENTITY e 'text'><!-- ' --><!ATTLIST p b CDATA \"q\">]><p "
-        "b='&e;'>&e;<a/></p>",
-        "<!DOCTYPE p SYSTEM 'x]>' [<?y ' ?><!ELEMENT p (a|b)*>]><p><a>]</a><b>&no;</b></p>",
-        "<!-- <p> --><p a='>' b='-->'><a><a><a/></a></a>-->]]</p><!-- ' --><?z?>"
-    };
-}
-
-/** \p document with one to four pieces put in, taken out or exchanged. */
-QByteArray mutated(const QByteArray &document, QRandomGenerator &random)
-{
-    static const QVector<QByteArray> pieces = { "<",
-                                                ">",
-                                                "/>",
-                                                "</",
-                                                "</a>",
-                                                "<a>",
-                                                "<a/>",
-                                                "<a b='",
-                                                "'",
-                                                "\"",
-                                                "<!--",
-                                                "-->",
-                                                "<!-->",
-                                                "--",
-                                                "<!--->",
-                                                "<?",
-                                                "?>",
-                                                "<?x ",
-                                                "<![CDATA[",
-                                                "]]>",
-                                                "]",
-                                                "[",
-                                                "<!",
-                                                "<!DOCTYPE p>",
-                                                "<!DOCTYPE p [",
-                                                "]>",
-                                                "<!ENTITY e '<'>",
-                                                "<!ENTITY e \"&f;\">",
-                                                "<!ENTITY f 'v'>",
-                                                "<!ENTITY % q ']><p>'>",
-                                                "%q;",
-                                                "&e;",
-                                                "&f;",
-                                                "&no;",
-                                                "&lt;",
-                                                "&#60;",
-                                                "&#x3c;",
-                                                "&#65596;",
-                                                "&",
-                                                ";",
-                                                "%",
-                                                "=",
-                                                " ",
-                                                "\n",
-                                                "\r",
-                                                "\t",
-                                                "-",
-                                                "!",
-                                                "?",
-                                                "/",
-                                                "x",
-                                                QByteArray(1, '\0'),
-                                                "\xef\xbf\xbe",
-                                                "\xef\xbf\xbf",
-                                                "\xc3\xa9",
-                                                "\xff",
-                                                "&#0;",
-                                                "<p>",
-                                                "</p>" };
-    QByteArray text = document;
-    const int changes = 1 + static_cast<int>(random.bounded(4));
-    for (int i = 0; i < changes; ++i) {
-        const int at = static_cast<int>(random.bounded(text.size() + 1));
-        const int removed = random.bounded(3) == 0 ? static_cast<int>(random.bounded(8)) : 0;
-        const bool inserts = removed == 0 || random.bounded(2) == 0;
-        const int piece = static_cast<int>(random.bounded(pieces.size()));
-        text.replace(at, removed, inserts ? pieces.at(piece) : QByteArray());
-    }
-    return text;
 }
 
 } // namespace
@@ -238,8 +180,6 @@ private Q_SLOTS:
     void refusalStopsTheScan();
     void brokenDocumentsEndTheScan_data();
     void brokenDocumentsEndTheScan();
-    void mutantsKeepGateAndParserInStep_data();
-    void mutantsKeepGateAndParserInStep();
 };
 
 void TestXmlGate::documentsWithinTheLimitsPass_data()
@@ -252,16 +192,7 @@ void TestXmlGate::documentsWithinTheLimitsPass_data()
     };
     row("plain", "<p>t</p>", "t");
     row("256 levels", "<p>" + nested(255) + "t</p>", "t");
-    row(
-        "4,096 attributes",
-        [] {
-            QByteArray document = "<p";
-            for (int i = 0; i < 4096; ++i) {
-                document += " a" + QByteArray::number(i) + "=''";
-            }
-            return document + ">t</p>";
-        }(),
-        "t");
+    row("4,096 attributes", "<p" + numbered(" a%=''", 4096) + ">t</p>", "t");
     row("DOCTYPE of 4,096 characters",
         "<!DOCTYPE p SYSTEM '" + QByteArray(4096 - 22, 'x') + "'><p>t</p>", "t");
     row("entity that is text", withDoctype("<!ENTITY e 'x'>", "&e;&e;"), "xx");
@@ -286,10 +217,7 @@ void TestXmlGate::documentsWithinTheLimitsPass_data()
     row("quote in a DTD instruction", withDoctype("<?x \" ?><!ENTITY e 'x'>", "&e;"), "x");
     row("DOCTYPE end inside its system name",
         "<!DOCTYPE p SYSTEM ']>' [<!ENTITY e 'x'>]><p>&e;</p>", "x");
-    row("instruction with two question marks",
-        "<p><?x ?"
-        "?>t</p>",
-        "t");
+    row("instruction with two question marks", "<p><?x ?\?>t</p>", "t");
     row("brackets around CDATA", "<p>[<![CDATA[<x>]]]]>]</p>", "[<x>]]]");
     row("duplicate attribute", "<p a='1' a='2'>t</p>", "t");
     row("XML version 9.9", "<?xml version='9.9'?><p>t</p>", "t");
@@ -311,104 +239,22 @@ void TestXmlGate::whatWouldHarmTheParserIsRefused_data()
     QTest::addColumn<QByteArray>("document");
     QTest::addColumn<QString>("reason");
 
-    const QString depth = QStringLiteral("nested more than 256 deep");
-    const QString entities = QStringLiteral("more than plain text");
-    const QString references = QStringLiteral("too many references");
-    const QString doctype = QStringLiteral("longer than 4096 characters");
-    const QString attributes = QStringLiteral("more than 4096 attributes");
-    const QString nodes = QStringLiteral("more than 8000000 elements");
-    const QByteArray a158 = opened(158);
-
-    QTest::newRow("257 levels") << nested(257) << depth;
-    QTest::newRow("30,000 levels, closed") << nested(kDeadly) << depth;
-    QTest::newRow("30,000 levels, open") << opened(kDeadly) << depth;
-    QTest::newRow("30,000 levels with attributes")
-        << QByteArray("<a b='/>'>").repeated(kDeadly) << depth;
-
-    const QByteArray reproducer
-        = "<!DOCTYPE p[<!ENTITY e \"" + a158 + "\">]><p>" + QByteArray("&e;").repeated(158);
-    QCOMPARE(reproducer.size(), 979);
-    QTest::newRow("979 bytes: open tags in an entity") << reproducer << entities;
-    QTest::newRow("closed tags in an entity")
-        << withDoctype("<!ENTITY e '" + opened(60) + "x" + QByteArray("</a>").repeated(60) + "'>",
-                       QByteArray("&e;").repeated(500))
-        << entities;
-    QTest::newRow("tags of character references in an entity")
-        << withDoctype("<!ENTITY e '" + QByteArray("&#60;a>").repeated(158) + "'>",
-                       QByteArray("&e;").repeated(158))
-        << entities;
-    QTest::newRow("tags of hexadecimal references")
-        << withDoctype("<!ENTITY e '" + QByteArray("&#x0003C;a>").repeated(158) + "'>",
-                       QByteArray("&e;").repeated(158))
-        << entities;
-    QTest::newRow("tags of references beyond 16 bits, cut by the parser")
-        << withDoctype("<!ENTITY e '" + QByteArray("&#65596;a>").repeated(158) + "'>",
-                       QByteArray("&e;").repeated(158))
-        << entities;
-    QTest::newRow("ampersand of a reference beyond 16 bits")
-        << withDoctype("<!ENTITY f 'x'><!ENTITY e '&#x10026;f;'>", "&e;") << entities;
-
-    QTest::newRow("50,000 characters x 5,000") << withDoctype(
-        "<!ENTITY e '" + QByteArray(50'000, 'x') + "'>", QByteArray("&e;").repeated(5'000))
-                                               << doctype;
-    QTest::newRow("4,000 characters x 50,000") << withDoctype(
-        "<!ENTITY e '" + QByteArray(4'000, 'x') + "'>", QByteArray("&e;").repeated(50'000))
-                                               << references;
-    QTest::newRow("4,000 characters x 50,000 in attributes")
-        << withDoctype("<!ENTITY e '" + QByteArray(4'000, 'x') + "'>",
-                       "<a b='" + QByteArray("&e;").repeated(50'000) + "'/>")
-        << references;
-    QTest::newRow("billion laughs")
-        << withDoctype("<!ENTITY a 'lol'><!ENTITY b '&a;&a;&a;'><!ENTITY c '&b;&b;&b;'>", "&c;")
-        << entities;
-    QTest::newRow("chain of entities declared backwards") << withDoctype(
-        "<!ENTITY a '" + QByteArray("&b;").repeated(300) + "'><!ENTITY b '"
-            + QByteArray("&c;").repeated(300) + "'><!ENTITY c '" + QByteArray(300, 'x') + "'>",
-        "&a;") << entities;
-    QTest::newRow("chain of entities through '&#38;'")
-        << withDoctype("<!ENTITY b '" + QByteArray(1'000, 'x') + "'><!ENTITY a '"
-                           + QByteArray("&#38;b;").repeated(400) + "'>",
-                       "&a;")
-        << entities;
-    QTest::newRow("entity of parameter entities") << withDoctype(
-        "<!ENTITY % q '" + opened(300) + "'><!ENTITY e '" + QByteArray("%q;").repeated(300) + "'>",
-        "&e;") << entities;
-    QTest::newRow("parameter entity that ends the DOCTYPE") << "<!DOCTYPE p[<!ENTITY e '" + a158
-            + "'><!ENTITY % q ']><p>'>%q;"
-            + QByteArray("&e;").repeated(158) << entities;
-    QTest::newRow("parameter entity without markup")
-        << withDoctype("<!ENTITY % q 'x'>", "t") << entities;
-
-    QByteArray declarations;
-    for (int i = 0; i < 1'000; ++i) {
-        declarations += "<!ENTITY n" + QByteArray::number(i) + " 'x'>";
-    }
-    QTest::newRow("1,000 entity declarations") << withDoctype(declarations, "t") << doctype;
-    QByteArray doctypes;
-    for (int i = 0; i < 1'000; ++i) {
-        doctypes += "<!DOCTYPE p [<!ENTITY n" + QByteArray::number(i) + " 'x'>]>";
-    }
-    QTest::newRow("1,000 DOCTYPEs with one entity each")
-        << doctypes + QByteArray("<p>t</p>") << doctype;
-    QTest::newRow("60,000 parentheses in the DTD")
-        << withDoctype("<!ELEMENT p " + QByteArray(60'000, '('), "t") << doctype;
-    QTest::newRow("DOCTYPE of 4,097 characters")
-        << QByteArray("<!DOCTYPE p SYSTEM '" + QByteArray(4097 - 22, 'x') + "'><p>t</p>")
-        << doctype;
-    QTest::newRow("DOCTYPE that never ends")
-        << QByteArray("<!DOCTYPE p [").append(5'000, ' ') << doctype;
-    QTest::newRow("DOCTYPE with an endless comment")
-        << QByteArray("<!DOCTYPE p [<!--").append(5'000, ' ') << doctype;
-    QTest::newRow("DOCTYPE with an endless literal")
-        << QByteArray("<!DOCTYPE p SYSTEM '").append(5'000, ' ') << doctype;
-
-    QByteArray attributed = "<p";
-    for (int i = 0; i < 4097; ++i) {
-        attributed += " a" + QByteArray::number(i) + "=''";
-    }
-    QTest::newRow("4,097 attributes") << attributed + QByteArray("/>") << attributes;
-    QTest::newRow("8,000,000 elements and their parent")
-        << "<p>" + QByteArray("<a/>").repeated(8'000'000) + "</p>" << nodes;
+    addRefused("nested more than 256 deep", deepDocuments());
+    const Documents markup = documentsWithMarkupInEntities();
+    QCOMPARE(markup.front().text.size(), 979);
+    addRefused("more than plain text", markup);
+    const QByteArray longEntity = "<!ENTITY e '" + QByteArray(4'000, 'x') + "'>";
+    const QByteArray references = QByteArray("&e;").repeated(50'000);
+    addRefused("too many references",
+               { { "4,000 characters x 50,000", withDoctype(longEntity, references) },
+                 { "4,000 characters x 50,000 in attributes",
+                   withDoctype(longEntity, "<a b='" + references + "'/>") } });
+    addRefused("longer than 4096 characters", documentsWithLongDoctypes());
+    addRefused("more than 4096 attributes",
+               { { "4,097 attributes", "<p" + numbered(" a%=''", 4097) + "/>" } });
+    addRefused("more than 8000000 elements",
+               { { "8,000,000 elements and their parent",
+                   "<p>" + QByteArray("<a/>").repeated(8'000'000) + "</p>" } });
 }
 
 void TestXmlGate::whatWouldHarmTheParserIsRefused()
@@ -429,44 +275,40 @@ void TestXmlGate::whatWouldHarmTheParserIsRefused()
 void TestXmlGate::nothingHidesATagFromTheScan_data()
 {
     QTest::addColumn<QByteArray>("prefix");
+    const auto row
+        = [](const QByteArray &name, const QByteArray &prefix) { QTest::newRow(name) << prefix; };
 
-    QTest::newRow("comment that begins with '>'") << QByteArray("<!--><a b='--><p>");
-    QTest::newRow("comment in the DTD that begins with '>'")
-        << QByteArray("<!DOCTYPE p[<!--><!ELEMENT a '-->]><p>");
-    QTest::newRow("comment that begins with '->'") << QByteArray("<!---><a b='--><p>");
-    QTest::newRow("empty comment") << QByteArray("<!----><p>");
-    QTest::newRow("comment with a quote") << QByteArray("<!-- <a b=\" --><p>");
-    QTest::newRow("comment with a CDATA start") << QByteArray("<!-- <![CDATA[ --><p>");
-    QTest::newRow("CDATA with a comment start") << QByteArray("<p><![CDATA[<!--]]>");
-    QTest::newRow("CDATA in two halves") << QByteArray("<p><![CDATA[]]]]><![CDATA[>]]>");
-    QTest::newRow("instruction with a quote") << QByteArray("<p><?x ' <a b=\" ?>");
-    QTest::newRow("instruction with a comment start") << QByteArray("<p><?x <!-- ?>");
-    QTest::newRow("instruction with two question marks") << QByteArray("<p><?x <!-- ?"
-                                                                       "?>");
-    QTest::newRow("declaration with '?>' in a value")
-        << QByteArray("<?xml version='1.0?>' encoding=\"UTF-8\"?><p>");
-    QTest::newRow("'>' in an attribute") << QByteArray("<p a='></p>' b=\"<!--\">");
-    QTest::newRow("'/>' in an attribute") << QByteArray("<p a='/>'>");
-    QTest::newRow("other quote in an attribute") << QByteArray("<p a='\"' b=\"'\">");
-    QTest::newRow("quote as text") << QByteArray("<p>' \"");
-    QTest::newRow("comment end as text") << QByteArray("<p>-- > ?> ]");
-    QTest::newRow("DOCTYPE end in a system name") << QByteArray("<!DOCTYPE p SYSTEM \"'\" []><p>");
-    QTest::newRow("DOCTYPE with '>' in a default value")
-        << QByteArray("<!DOCTYPE p [<!ATTLIST p b CDATA ']>'>]><p>");
-    QTest::newRow("DTD comment with a bracket") << QByteArray("<!DOCTYPE p [<!-- ]> -->]><p>");
-    QTest::newRow("DTD comment with a quote") << QByteArray("<!DOCTYPE p [<!-- ' -->]><p>");
-    QTest::newRow("DTD instruction with a quote") << QByteArray("<!DOCTYPE p [<?x \" ?>]><p>");
-    QTest::newRow("two DOCTYPEs") << QByteArray("<!DOCTYPE p><!DOCTYPE p []><p>");
-    QTest::newRow("closed elements before") << QByteArray("<p>").append(nested(200));
-    QTest::newRow("noncharacter as text") << QByteArray("<p>\xef\xbf\xbf<!--\xef\xbf\xbe-->");
-    QTest::newRow("entity with a bracket")
-        << QByteArray("<!DOCTYPE p[<!ENTITY e ']]'>]><p a='&e;'>&e;");
-    QTest::newRow("entity with quotes")
-        << QByteArray("<!DOCTYPE p[<!ENTITY e '&#34;&#39;'>]><p a=\"&e;\">&e;");
+    row("comment that begins with '>'", "<!--><a b='--><p>");
+    row("comment in the DTD that begins with '>'", "<!DOCTYPE p[<!--><!ELEMENT a '-->]><p>");
+    row("comment that begins with '->'", "<!---><a b='--><p>");
+    row("empty comment", "<!----><p>");
+    row("comment with a quote", "<!-- <a b=\" --><p>");
+    row("comment with a CDATA start", "<!-- <![CDATA[ --><p>");
+    row("CDATA with a comment start", "<p><![CDATA[<!--]]>");
+    row("CDATA in two halves", "<p><![CDATA[]]]]><![CDATA[>]]>");
+    row("instruction with a quote", "<p><?x ' <a b=\" ?>");
+    row("instruction with a comment start", "<p><?x <!-- ?>");
+    row("instruction with two question marks", "<p><?x <!-- ?\?>");
+    row("declaration with '?>' in a value", "<?xml version='1.0?>' encoding=\"UTF-8\"?><p>");
+    row("'>' in an attribute", "<p a='></p>' b=\"<!--\">");
+    row("'/>' in an attribute", "<p a='/>'>");
+    row("other quote in an attribute", "<p a='\"' b=\"'\">");
+    row("quote as text", "<p>' \"");
+    row("comment end as text", "<p>-- > ?> ]");
+    row("DOCTYPE end in a system name", "<!DOCTYPE p SYSTEM \"'\" []><p>");
+    row("DOCTYPE with '>' in a default value", "<!DOCTYPE p [<!ATTLIST p b CDATA ']>'>]><p>");
+    row("DTD comment with a bracket", "<!DOCTYPE p [<!-- ]> -->]><p>");
+    row("DTD comment with a quote", "<!DOCTYPE p [<!-- ' -->]><p>");
+    row("DTD instruction with a quote", "<!DOCTYPE p [<?x \" ?>]><p>");
+    row("two DOCTYPEs", "<!DOCTYPE p><!DOCTYPE p []><p>");
+    row("closed elements before", "<p>" + nested(200));
+    row("noncharacter as text", "<p>\xef\xbf\xbf<!--\xef\xbf\xbe-->");
+    row("entity with a bracket", "<!DOCTYPE p[<!ENTITY e ']]'>]><p a='&e;'>&e;");
+    row("entity with quotes", "<!DOCTYPE p[<!ENTITY e '&#34;&#39;'>]><p a=\"&e;\">&e;");
     for (const char *part : { "<![CDATA[", "<", "<!", "<!--", "<?x ", "<a b='", "</", "&#60;" }) {
         const QByteArray value = QByteArray(part).replace("'", "&#39;");
-        QTest::newRow(("entity with the part " + QByteArray(part)).constData())
-            << QByteArray("<!DOCTYPE p[<!ENTITY e \"" + value + "\">]><p>&e;!--]]>'<a b='-->?>");
+        row(QByteArray("entity with the part ") + part,
+            "<!DOCTYPE p[<!ENTITY e \"" + value + "\">]><p>&e;!--]]>'<a b='-->?>");
     }
 }
 
@@ -699,43 +541,16 @@ void TestXmlGate::brokenDocumentsEndTheScan_data()
     QTest::addColumn<QByteArray>("document");
 
     QTest::newRow("empty") << QByteArray();
-    for (const char *end : { "<",
-                             "<p",
-                             "<p a",
-                             "<p a=",
-                             "<p a='",
-                             "<p a='x",
-                             "<p a='x'",
-                             "<p>",
-                             "<p>&",
-                             "<p>&#",
-                             "<p>&x",
-                             "<p></",
-                             "<p></p",
-                             "<!",
-                             "<!-",
-                             "<!--",
-                             "<!-- -",
-                             "<!-- --",
-                             "<![",
-                             "<![CDATA[",
-                             "<![CDATA[]",
-                             "<![CDATA[]]",
-                             "<?",
-                             "<?x",
-                             "<?x ?",
-                             "<!DOCTYPE",
-                             "<!DOCTYPE p [",
-                             "<!DOCTYPE p [<!--",
-                             "<!DOCTYPE p [<?",
-                             "<!DOCTYPE p [<!ENTITY e '",
-                             "<!DOCTYPE p [<!ENTITY e 'x",
-                             "<!DOCTYPE p [<!ENTITY e '&",
-                             "<!DOCTYPE p [<!ENTITY e '&#",
-                             "<p/",
-                             "</p>",
-                             "</a></a></a><p>" }) {
-        QTest::newRow(end) << QByteArray(end);
+    const QList<QByteArray> ends
+        = QByteArray("<|<p|<p a|<p a=|<p a='|<p a='x|<p a='x'|<p>|<p>&|<p>&#|<p>&x|<p></|<p></p|"
+                     "<!|<!-|<!--|<!-- -|<!-- --|<![|<![CDATA[|<![CDATA[]|<![CDATA[]]|<?|<?x|"
+                     "<?x ?|<!DOCTYPE|<!DOCTYPE p [|<!DOCTYPE p [<!--|<!DOCTYPE p [<?|"
+                     "<!DOCTYPE p [<!ENTITY e '|<!DOCTYPE p [<!ENTITY e 'x|"
+                     "<!DOCTYPE p [<!ENTITY e '&|<!DOCTYPE p [<!ENTITY e '&#|<p/|</p>|"
+                     "</a></a></a><p>")
+              .split('|');
+    for (const QByteArray &end : ends) {
+        QTest::newRow(end.constData()) << end;
     }
 }
 
@@ -745,61 +560,6 @@ void TestXmlGate::brokenDocumentsEndTheScan()
     QFETCH(QByteArray, document);
     reasonFor(document);
     QVERIFY(!readPapywizard(document));
-}
-
-void TestXmlGate::mutantsKeepGateAndParserInStep_data()
-{
-    QTest::addColumn<QByteArray>("seed");
-    int number = 0;
-    for (const QByteArray &seed : seeds()) {
-        QTest::newRow(("document " + QByteArray::number(++number)).constData()) << seed;
-    }
-}
-
-/**
- * However far the parser gets in a document, it goes no deeper than the gate has seen. What both
- * accept must have been understood alike: the depth agrees exactly, and the parser keeps no more
- * nodes and attributes than the gate has counted.
- */
-void TestXmlGate::mutantsKeepGateAndParserInStep()
-{
-    QFETCH(QByteArray, seed);
-
-    QRandomGenerator random(20260510);
-    int parsed = 0;
-    for (int i = 0; i < 4'000; ++i) {
-        const QByteArray document = i == 0 ? seed : mutated(seed, random);
-        const QString reason = reasonFor(document);
-        if (!reason.isEmpty()) {
-            // Small documents are refused for what their entities hold, and for nothing else.
-            QVERIFY2(document.contains("<!ENTITY") && reason.contains(QLatin1String("plain text")),
-                     document.constData());
-            continue;
-        }
-        XmlLimits limits;
-        limits.maxDepth = DepthMeter(document).deepest() - 1;
-        QVERIFY2(!reasonFor(document, limits).isEmpty() || limits.maxDepth < 0,
-                 document.constData());
-        QDomDocument dom;
-        if (!dom.setContent(document)) {
-            continue;
-        }
-        ++parsed;
-        DomSize size;
-        measure(dom, 0, size);
-        limits.maxDepth = size.depth;
-        // Nothing counts behind the noncharacters at which the parser stops reading.
-        const bool cut = document.contains("\xef\xbf\xbe") || document.contains("\xef\xbf\xbf");
-        QVERIFY2(cut || reasonFor(document, limits).isEmpty(), document.constData());
-        limits = XmlLimits();
-        limits.maxNodes = size.nodes - 1;
-        QVERIFY2(!reasonFor(document, limits).isEmpty(), document.constData());
-        limits = XmlLimits();
-        limits.maxAttributes = size.maxAttributes - 1;
-        QVERIFY2(!reasonFor(document, limits).isEmpty() || size.maxAttributes == 0,
-                 document.constData());
-    }
-    QVERIFY2(parsed > 100, qPrintable(QString::number(parsed)));
 }
 
 TEST_CLASS(TestXmlGate, QCoreApplication)
