@@ -74,18 +74,6 @@ void checkErrorBox(const DialogClicker &clicker, const QString &path)
     QCOMPARE(box.buttons, QMessageBox::StandardButtons(QMessageBox::Ok));
 }
 
-QString linksOf(const StructuredPanoramaProperties &description)
-{
-    QStringList links;
-    for (const AuthorizedLink &link : description.authorizedLinks) {
-        links.append(QStringLiteral("%1:%2-%3")
-                         .arg(link.linkType)
-                         .arg(link.indices.at(0))
-                         .arg(link.indices.at(1)));
-    }
-    return links.join(QLatin1Char(' '));
-}
-
 } // namespace
 
 /** What only the page for Clauss scripts does. */
@@ -527,7 +515,8 @@ void TestUIWPClauss::nextHandsOverGroupsAnglesAndLinks()
     QCOMPARE(handed.lensModel, LensModel::NotChosen); // left to the photos
     QCOMPARE(handed.focalLength, 0.0F);
     QVERIFY(handed.roll.isEmpty());
-    QCOMPARE(linksOf(handed), QStringLiteral("0:1-2")); // 30 degrees at 24 mm; 90 are too many
+    QCOMPARE(LiteralLinks::text(handed.authorizedLinks),
+             QStringLiteral("0:1-2")); // 30 degrees at 24 mm; 90 are too many
 }
 
 void TestUIWPClauss::linksAreThoseOfThePlainLoop()
@@ -582,7 +571,7 @@ void TestUIWPClauss::identicalDirectionsAlwaysLink()
 
     QVERIFY(shoot.page.validatePage());
 
-    QCOMPARE(linksOf(fakeHost().descriptions.first()),
+    QCOMPARE(LiteralLinks::text(fakeHost().descriptions.first().authorizedLinks),
              QStringLiteral("0:0-1 0:0-2 0:0-3 0:1-2 0:1-3 0:2-3"));
 }
 
@@ -602,7 +591,8 @@ void TestUIWPClauss::linksFollowTheOrderOfReading()
     QVERIFY(shoot.page.validatePage());
 
     // 0 - 60 degrees: 0.7330 is just below 0.7338.
-    QCOMPARE(linksOf(fakeHost().descriptions.first()), QStringLiteral("0:0-1 0:0-2"));
+    QCOMPARE(LiteralLinks::text(fakeHost().descriptions.first().authorizedLinks),
+             QStringLiteral("0:0-1 0:0-2"));
 }
 
 void TestUIWPClauss::wizardHearsOfATypedPath()

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/literallinks.h"
 
+#include <QStringList>
+
 #include <algorithm>
 #include <cmath>
 #include <vector>
@@ -138,6 +140,20 @@ QVector<AuthorizedLink> LiteralLinks::close(const QVector<PhotoDirection> &photo
         }
     }
     return links;
+}
+
+QString LiteralLinks::text(const QVector<AuthorizedLink> &links)
+{
+    QStringList texts;
+    for (const AuthorizedLink &link : links) {
+        QStringList indices;
+        for (const qint32 index : link.indices) {
+            indices.append(QString::number(index));
+        }
+        texts.append(QStringLiteral("%1:%2").arg(QString::number(link.linkType),
+                                                 indices.join(QLatin1Char('-'))));
+    }
+    return texts.join(QLatin1Char(' '));
 }
 
 QString LiteralLinks::difference(const QVector<AuthorizedLink> &links,

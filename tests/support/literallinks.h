@@ -29,6 +29,8 @@ neighboursHoisted(const QVector<PanoHead::Direction> &positions, float halfField
                   const Outer &outer = {});
 [[nodiscard]] QVector<AuthorizedLink> close(const QVector<PanoHead::PhotoDirection> &photos);
 
+/** "2:0-1 1:0-2": type and indices of each link, in their order. */
+[[nodiscard]] QString text(const QVector<AuthorizedLink> &links);
 /** Empty when both lists are the same, otherwise where they part. */
 [[nodiscard]] QString difference(const QVector<AuthorizedLink> &links,
                                  const QVector<AuthorizedLink> &expected);

@@ -7,6 +7,7 @@
 #include "shoot/angles.h"
 #include "shoot/shootstate.h"
 #include "tests/support/testprogram.h"
+#include "tests/unit/shots.h"
 
 #include <QTest>
 
@@ -27,15 +28,6 @@ constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
 constexpr float kInfinity = std::numeric_limits<float>::infinity();
 
 using Shots = QVector<ShootData>;
-
-ShootData shotAt(float yaw, float pitch, float roll = 0.0F)
-{
-    ShootData shot;
-    shot.yaw = yaw;
-    shot.pitch = pitch;
-    shot.roll = roll;
-    return shot;
-}
 
 } // namespace
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "shoot/previewlayout.h"
 #include "tests/support/testprogram.h"
+#include "tests/unit/shots.h"
 
 #include <QTest>
 
@@ -31,15 +32,6 @@ constexpr LayoutRules kVRDrive2{ 8.0, Span::NegatedSumToo, Precision::Double };
 constexpr LayoutRules kClauss{ 0.0, Span::Absolute, Precision::Single };
 
 using Shots = QVector<ShootData>;
-
-ShootData shotAt(float yaw, float pitch, float roll = 0.0F)
-{
-    ShootData shot;
-    shot.yaw = yaw;
-    shot.pitch = pitch;
-    shot.roll = roll;
-    return shot;
-}
 
 /** Shots side by side at pitch 0. */
 Shots row(const QVector<float> &yaws)
