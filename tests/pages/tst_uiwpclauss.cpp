@@ -2,79 +2,17 @@
 // SPDX-License-Identifier: MIT
 #include "importers/clauss/uiwpclauss.h"
 
+#include "tests/pages/claussshoot.h"
 #include "tests/support/desktop.h"
 #include "tests/support/fakeapplication.h"
 #include "tests/support/literallinks.h"
-#include "tests/support/pageshoot.h"
 #include "ui/xui.h"
 
-#include <QAbstractItemView>
-#include <QCompleter>
-#include <QWizard>
 #include <QtTest>
 
 #include <algorithm>
-#include <functional>
 #include <limits>
 #include <random>
-
-namespace
-{
-
-constexpr char kScript[] = "m_leConfigFile";
-
-/** One page with the files of one shoot. */
-struct Shoot : PageShoot<UIWPClauss> {
-    QString writeScript(const QByteArray &script,
-                        const QString &name = QStringLiteral("script.txt")) const
-    {
-        return folder.write(name, script);
-    }
-    void loadScript(const QByteArray &script) const
-    {
-        driver.load(kSelectRecord, { writeScript(script) });
-    }
-    /** Types \p path and ends with the Return key. */
-    void enter(const QString &path) const
-    {
-        driver.type(kScript, path);
-        QTest::keyClick(page.m_leConfigFile, Qt::Key_Return);
-    }
-};
-
-QString notAvailable()
-{
-    return QStringLiteral("N/A");
-}
-
-/** Takes the focus away; the proposals, which would keep it, are closed before. */
-void leave(QLineEdit *edit, Qt::FocusReason reason = Qt::TabFocusReason)
-{
-    edit->completer()->popup()->hide();
-    QFocusEvent event(QEvent::FocusOut, reason);
-    QApplication::sendEvent(edit, &event);
-}
-
-/** Leaves a text that is the same again; without an edit the field may tell nobody. */
-void editAndLeave(QLineEdit *edit)
-{
-    QTest::keyClick(edit, Qt::Key_X);
-    QTest::keyClick(edit, Qt::Key_Backspace);
-    leave(edit);
-}
-
-void checkErrorBox(const DialogClicker &clicker, const QString &path)
-{
-    QCOMPARE(clicker.messageBoxes().size(), 1);
-    const DialogClicker::SeenMessageBox &box = clicker.messageBoxes().first();
-    QCOMPARE(box.title, QStringLiteral("Error"));
-    QCOMPARE(box.text, QLatin1String("Error parse file:") + path);
-    QCOMPARE(box.icon, QMessageBox::Critical);
-    QCOMPARE(box.textFormat, Qt::PlainText);
-    QCOMPARE(box.buttons, QMessageBox::StandardButtons(QMessageBox::Ok));
-}
-
-} // namespace
 
 /** What only the page for Clauss scripts does. */
 class TestUIWPClauss : public QObject
@@ -86,34 +24,13 @@ private Q_SLOTS:
 
     void scriptIsShownInTheLabels_data();
     void scriptIsShownInTheLabels();
-    void pathOfBeforeTheResetIsReadAgain();
     void invertingTwiceRestoresEverything();
     void invertingAnEmptyPageIsHarmless();
-
-    void badScriptShowsOneBox_data();
-    void badScriptShowsOneBox();
-    void unreadableScriptShowsOneBox_data();
-    void unreadableScriptShowsOneBox();
-    void badScriptKeepsTheRanges();
-    void badScriptOnAFreshPageShowsNotAvailable();
-    void fileNameInTheBoxIsShownAsItIs();
-
-    void typedPathIsReadWhenFinished();
-    void typedPathIsStoredWhateverTheResult();
-    void unchangedPathIsNotReadAgain();
-    void emptiedPathIsPutBack();
-    void leavingTheFieldReadsThePath();
-    void badScriptIsReadAgain_data();
-    void badScriptIsReadAgain();
-    void boxAppearsOnceForEachReading();
-    void boxForAChosenScriptReadsNothingElse();
 
     void nextHandsOverGroupsAnglesAndLinks();
     void linksAreThoseOfThePlainLoop();
     void identicalDirectionsAlwaysLink();
     void linksFollowTheOrderOfReading();
-
-    void wizardHearsOfATypedPath();
 
     void lastScriptOfASelectionWins();
     void scriptDialogKeepsThePhotosOrderWanted();
@@ -122,9 +39,6 @@ private Q_SLOTS:
 
     void controlKeyOpensTheScriptsFolder_data();
     void controlKeyOpensTheScriptsFolder();
-
-    void pageMayGoWhileTheBoxIsOpen_data();
-    void pageMayGoWhileTheBoxIsOpen();
 };
 
 void TestUIWPClauss::init()
@@ -169,7 +83,7 @@ void TestUIWPClauss::scriptIsShownInTheLabels()
 {
     QFETCH(QByteArray, script);
     QFETCH(QStringList, shown);
-    const Shoot shoot;
+    const ClaussShoot shoot;
 
     shoot.loadScript(script);
 
@@ -181,22 +95,9 @@ void TestUIWPClauss::scriptIsShownInTheLabels()
              QStringList{ shoot.folder.path(QStringLiteral("script.txt")) });
 }
 
-void TestUIWPClauss::pathOfBeforeTheResetIsReadAgain()
-{
-    const Shoot shoot;
-    const QString script = shoot.writeScript(scriptRow(2));
-    shoot.driver.load(kSelectRecord, shoot.folder.addPhotos(2) << script);
-    shoot.driver.click("m_pbReset");
-
-    shoot.enter(script);
-
-    QCOMPARE(shoot.driver.text("m_lbPapyLog"), QStringLiteral("2"));
-    QVERIFY(!shoot.page.isComplete()); // no old photo counts
-}
-
 void TestUIWPClauss::invertingTwiceRestoresEverything()
 {
-    const Shoot shoot;
+    const ClaussShoot shoot;
     shoot.loadScript("op_v-angle=-30\nop_shoot\nop_h-angle=40\nop_v-angle=60\nop_shoot\n");
     const QImage picture = shoot.driver.picture();
     QCOMPARE(shoot.driver.text("m_lbPhiMinMax"), QStringLiteral("-30,60"));
@@ -215,7 +116,7 @@ void TestUIWPClauss::invertingTwiceRestoresEverything()
 
 void TestUIWPClauss::invertingAnEmptyPageIsHarmless()
 {
-    const Shoot shoot;
+    const ClaussShoot shoot;
     shoot.driver.click("m_pInverseCoordinates");
     QCOMPARE(shoot.driver.text("m_lbPhiMinMax"), notAvailable());
 
@@ -225,280 +126,9 @@ void TestUIWPClauss::invertingAnEmptyPageIsHarmless()
     QVERIFY(shoot.driver.picture().isNull());
 }
 
-void TestUIWPClauss::badScriptShowsOneBox_data()
-{
-    QTest::addColumn<QByteArray>("script");
-    for (const char *value : { "abc", "", "nan", "inf", "-inf", "1e39", "--5", "+5", "0x10" }) {
-        QTest::addRow("angle \"%s\"", value) << QByteArray("op_h-angle=") + value + "\nop_shoot\n";
-    }
-    QTest::newRow("no equals sign") << QByteArray("op_h-angle 30\nop_shoot\n");
-    QTest::newRow("many bad numbers") << QByteArray("op_h-angle=x\nop_v-angle=y\n").repeated(100);
-    QTest::newRow("CR only") << scriptRow(2).replace("\n", "\r");
-}
-
-void TestUIWPClauss::badScriptShowsOneBox()
-{
-    QFETCH(QByteArray, script);
-    const Shoot shoot;
-    const QString path = shoot.writeScript(script);
-    DialogClicker clicker;
-    clicker.chooseFiles({ path });
-    clicker.pressButton(QMessageBox::Ok);
-
-    shoot.driver.click(kSelectRecord);
-
-    QVERIFY(clicker.isSettled());
-    checkErrorBox(clicker, path);
-    QCOMPARE(shoot.driver.text(kScript), path);
-    QCOMPARE(shoot.driver.text("m_lbPapyLog"), notAvailable());
-    QVERIFY(shoot.driver.picture().isNull());
-    QVERIFY(!shoot.page.isComplete());
-}
-
-void TestUIWPClauss::unreadableScriptShowsOneBox_data()
-{
-    QTest::addColumn<QString>("path"); // FOLDER stands for an existing folder
-    for (const char *path : { "FOLDER/missing.txt", "FOLDER", "/dev/zero", "/dev/null",
-                              "FOLDER/pipe", "FOLDER/hundred megabytes", " " }) {
-        QTest::newRow(path) << QString::fromLatin1(path);
-    }
-}
-
-void TestUIWPClauss::unreadableScriptShowsOneBox()
-{
-    QFETCH(QString, path);
-    const Shoot shoot;
-    const TrapPipe pipe(shoot.folder.path(QStringLiteral("pipe")));
-    QFile large(shoot.writeScript("op_shoot\n", QStringLiteral("hundred megabytes")));
-    QVERIFY(large.resize(100'000'000)); // of a line of NUL
-    shoot.loadScript(scriptRow(3));
-    path.replace(QLatin1String("FOLDER"), shoot.folder.path());
-    DialogClicker clicker;
-    clicker.pressButton(QMessageBox::Ok);
-
-    shoot.enter(path);
-
-    QVERIFY(clicker.isSettled());
-    checkErrorBox(clicker, path);
-    QCOMPARE(shoot.driver.text(kScript), path);
-    QCOMPARE(shoot.driver.text("m_lbPapyLog"), notAvailable());
-    QCOMPARE(shoot.driver.text("m_lbThetaMinMax"), QStringLiteral("0,60"));
-    QVERIFY(shoot.page.shots.isEmpty());
-    QVERIFY(shoot.driver.picture().isNull());
-}
-
-void TestUIWPClauss::badScriptKeepsTheRanges()
-{
-    const Shoot shoot;
-    shoot.loadScript(scriptRow(3));
-    shoot.loadPhotos(3);
-    DialogClicker clicker;
-    clicker.pressButton(QMessageBox::Ok);
-
-    shoot.enter(shoot.writeScript("op_shoot\nop_h-angle=x\nop_shoot\nop_shoot\n",
-                                  QStringLiteral("bad.txt")));
-
-    QVERIFY(clicker.isSettled());
-    QCOMPARE(shoot.driver.text("m_lbPapyLog"), notAvailable());
-    QCOMPARE(shoot.driver.text("m_lbThetaMinMax"), QStringLiteral("0,60"));
-    QCOMPARE(shoot.page.shots.size(), 3); // those of the bad script, which the page does not show
-    QVERIFY(shoot.driver.picture().isNull());
-    QVERIFY(!shoot.page.isComplete());
-}
-
-void TestUIWPClauss::badScriptOnAFreshPageShowsNotAvailable()
-{
-    const Shoot shoot;
-    DialogClicker clicker;
-    clicker.pressButton(QMessageBox::Ok);
-
-    shoot.enter(shoot.folder.path(QStringLiteral("missing.txt")));
-
-    for (const char *name : { "m_lbPapyLog", "m_lbThetaMinMax", "m_lbPhiMinMax" }) {
-        QCOMPARE(shoot.driver.text(name), notAvailable());
-    }
-}
-
-void TestUIWPClauss::fileNameInTheBoxIsShownAsItIs()
-{
-    const Shoot shoot;
-    const QString trap = shoot.folder.path(QStringLiteral("pipe"));
-    const TrapPipe pipe(trap);
-    const QString path = QStringLiteral("%1 <h1>Your licence has expired</h1> <img src='%2'> %1")
-                             .arg(QStringLiteral("%1"), trap);
-    DialogClicker clicker;
-    clicker.pressButton(QMessageBox::Ok);
-
-    shoot.enter(path);
-
-    QVERIFY(clicker.isSettled());
-    checkErrorBox(clicker, path);
-    QVERIFY(!pipe.wasOpened());
-}
-
-void TestUIWPClauss::typedPathIsReadWhenFinished()
-{
-    const Shoot shoot;
-    const QString script = shoot.writeScript(scriptRow(5));
-
-    shoot.driver.type(kScript, script);
-    QCOMPARE(shoot.driver.text("m_lbPapyLog"), notAvailable());
-    QTest::keyClick(shoot.page.m_leConfigFile, Qt::Key_Return);
-
-    QCOMPARE(shoot.driver.text(kScript), script);
-    QCOMPARE(shoot.driver.text("m_lbPapyLog"), QStringLiteral("5"));
-    QVERIFY(fakeHost().setLastPaths.isEmpty());
-    // It counts as the current file.
-    QCOMPARE(shoot.driver.cancelFiles(kSelectRecord).fileName, QStringLiteral("script.txt"));
-}
-
-void TestUIWPClauss::typedPathIsStoredWhateverTheResult()
-{
-    const Shoot shoot;
-    shoot.loadScript(scriptRow(2));
-    const QString missing = shoot.folder.path(QStringLiteral("missing.txt"));
-    {
-        DialogClicker clicker;
-        clicker.pressButton(QMessageBox::Ok);
-        shoot.enter(missing);
-        QVERIFY(clicker.isSettled());
-        checkErrorBox(clicker, missing);
-    }
-
-    QCOMPARE(shoot.driver.text(kScript), missing);
-    QCOMPARE(shoot.driver.text("m_lbPapyLog"), notAvailable());
-    QCOMPARE(shoot.driver.cancelFiles(kSelectRecord).fileName, QStringLiteral("missing.txt"));
-}
-
-void TestUIWPClauss::unchangedPathIsNotReadAgain()
-{
-    const Shoot shoot;
-    const QString script = shoot.writeScript(scriptRow(2));
-    shoot.enter(script);
-    shoot.driver.click("m_pInverseCoordinates");
-    shoot.writeScript(scriptRow(4));
-
-    QTest::keyClick(shoot.page.m_leConfigFile, Qt::Key_Return);
-    shoot.enter(script);
-
-    QCOMPARE(shoot.driver.text("m_lbPapyLog"), QStringLiteral("2"));
-    // Choosing it in the dialog reads it again.
-    shoot.driver.load(kSelectRecord, { script });
-    QCOMPARE(shoot.driver.text("m_lbPapyLog"), QStringLiteral("4"));
-}
-
-void TestUIWPClauss::emptiedPathIsPutBack()
-{
-    const Shoot shoot;
-    shoot.loadScript(scriptRow(2));
-    const DialogClicker clicker;
-
-    shoot.page.m_leConfigFile->selectAll();
-    QTest::keyClick(shoot.page.m_leConfigFile, Qt::Key_Delete);
-    QCOMPARE(shoot.driver.text(kScript), QString());
-    QTest::keyClick(shoot.page.m_leConfigFile, Qt::Key_Return);
-
-    QCOMPARE(shoot.driver.text(kScript), shoot.folder.path(QStringLiteral("script.txt")));
-    QCOMPARE(shoot.driver.text("m_lbPapyLog"), QStringLiteral("2"));
-    QVERIFY(clicker.messageBoxes().isEmpty());
-}
-
-void TestUIWPClauss::leavingTheFieldReadsThePath()
-{
-    const Shoot shoot;
-    const QString script = shoot.writeScript(scriptRow(5));
-    shoot.driver.type(kScript, script);
-
-    leave(shoot.page.m_leConfigFile);
-
-    QCOMPARE(shoot.driver.text("m_lbPapyLog"), QStringLiteral("5"));
-}
-
-void TestUIWPClauss::badScriptIsReadAgain_data()
-{
-    QTest::addColumn<bool>("typed"); // else chosen in the dialog
-    QTest::addColumn<bool>("left"); // else ended with the Return key
-    QTest::newRow("typed, Return") << true << false;
-    QTest::newRow("typed, left") << true << true;
-    QTest::newRow("chosen, Return") << false << false;
-}
-
-void TestUIWPClauss::badScriptIsReadAgain()
-{
-    QFETCH(bool, typed);
-    QFETCH(bool, left);
-    const Shoot shoot;
-    const QString script = shoot.writeScript("op_h-angle=x\nop_shoot\n");
-    DialogClicker clicker;
-    clicker.pressButton(QMessageBox::Ok);
-    if (typed) {
-        shoot.enter(script);
-    } else {
-        clicker.chooseFiles({ script });
-        shoot.driver.click(kSelectRecord);
-    }
-    checkErrorBox(clicker, script);
-    QCOMPARE(shoot.driver.text("m_lbPapyLog"), notAvailable());
-
-    shoot.writeScript(scriptRow(4)); // mended
-    if (left) {
-        editAndLeave(shoot.page.m_leConfigFile);
-    } else {
-        QTest::keyClick(shoot.page.m_leConfigFile, Qt::Key_Return);
-    }
-
-    QVERIFY(clicker.isSettled());
-    QCOMPARE(clicker.messageBoxes().size(), 1);
-    QCOMPARE(shoot.driver.text("m_lbPapyLog"), QStringLiteral("4"));
-}
-
-void TestUIWPClauss::boxAppearsOnceForEachReading()
-{
-    const Shoot shoot;
-    const QString missing = shoot.folder.path(QStringLiteral("missing.txt"));
-    const auto read = [&shoot, &missing](const std::function<void()> &finishEditing) {
-        DialogClicker clicker;
-        clicker.pressButton(QMessageBox::Ok);
-        // The box takes the focus, and the edit reports once more while the box is open.
-        clicker.beforeNextAnswer(
-            [&shoot] { leave(shoot.page.m_leConfigFile, Qt::ActiveWindowFocusReason); });
-
-        finishEditing();
-
-        QVERIFY(clicker.isSettled());
-        checkErrorBox(clicker, missing);
-    };
-    read([&] { shoot.enter(missing); });
-    read([&] { QTest::keyClick(shoot.page.m_leConfigFile, Qt::Key_Return); });
-    read([&] { editAndLeave(shoot.page.m_leConfigFile); });
-}
-
-void TestUIWPClauss::boxForAChosenScriptReadsNothingElse()
-{
-    const Shoot shoot;
-    const QString bad = shoot.writeScript("op_h-angle=x\n", QStringLiteral("bad.txt"));
-    const QString typed = shoot.writeScript(scriptRow(2));
-    DialogClicker clicker;
-    clicker.chooseFiles({ bad });
-    clicker.pressButton(QMessageBox::Ok);
-    clicker.beforeNextAnswer([&] {
-        // What stands in the field while the box comes is not what the page is reading.
-        shoot.page.m_leConfigFile->setText(typed);
-        clicker.beforeNextAnswer(
-            [&shoot] { leave(shoot.page.m_leConfigFile, Qt::ActiveWindowFocusReason); });
-    });
-
-    shoot.driver.click(kSelectRecord);
-
-    QVERIFY(clicker.isSettled());
-    checkErrorBox(clicker, bad);
-    QCOMPARE(shoot.driver.text(kScript), bad);
-    QCOMPARE(shoot.driver.text("m_lbPapyLog"), notAvailable());
-}
-
 void TestUIWPClauss::nextHandsOverGroupsAnglesAndLinks()
 {
-    Shoot shoot;
+    ClaussShoot shoot;
     shoot.loadScript("op_v-angle=90\nop_h-angle=180\nop_shoot\nop_v-angle=0\nop_shoot\n"
                      "op_h-angle=150\nop_shoot\n");
     const QStringList photos = shoot.folder.addPhotos(3);
@@ -530,7 +160,7 @@ void TestUIWPClauss::linksAreThoseOfThePlainLoop()
     };
     int linked = 0;
     for (int run = 0; run < 20; ++run) {
-        Shoot shoot;
+        ClaussShoot shoot;
         QByteArray script;
         QStringList files;
         QVector<PanoHead::PhotoDirection> photos;
@@ -563,7 +193,7 @@ void TestUIWPClauss::linksAreThoseOfThePlainLoop()
 
 void TestUIWPClauss::identicalDirectionsAlwaysLink()
 {
-    Shoot shoot;
+    ClaussShoot shoot;
     // Where rounding takes the cosine of a direction with itself above 1.
     shoot.loadScript("op_h-angle=1\nop_v-angle=17\nop_shoot\nop_shoot\nop_shoot\n"
                      "op_h-angle=361\nop_shoot\n");
@@ -577,7 +207,7 @@ void TestUIWPClauss::identicalDirectionsAlwaysLink()
 
 void TestUIWPClauss::linksFollowTheOrderOfReading()
 {
-    Shoot shoot;
+    ClaussShoot shoot;
     shoot.loadScript(scriptRow(3));
     // The wide lens belongs to the first photo, although it was taken last.
     FakePhoto wide = photoWith(24.0F);
@@ -595,29 +225,9 @@ void TestUIWPClauss::linksFollowTheOrderOfReading()
              QStringLiteral("0:0-1 0:0-2"));
 }
 
-void TestUIWPClauss::wizardHearsOfATypedPath()
-{
-    const ShootFolder folder;
-    QWizard wizard;
-    auto *page = new UIWPClauss(nullptr);
-    wizard.addPage(page);
-    wizard.addPage(new QWizardPage);
-    wizard.show();
-    const PageDriver driver(page);
-    const QAbstractButton *next = wizard.button(QWizard::NextButton);
-    driver.load(kSelectPhotos, folder.addPhotos(2));
-    driver.load(kSelectRecord, { folder.write(QStringLiteral("more.txt"), scriptRow(3)) });
-    QVERIFY(!next->isEnabled());
-
-    driver.type(kScript, folder.write(QStringLiteral("fitting.txt"), scriptRow(2)));
-    leave(page->m_leConfigFile);
-
-    QVERIFY(next->isEnabled());
-}
-
 void TestUIWPClauss::lastScriptOfASelectionWins()
 {
-    const Shoot shoot;
+    const ClaussShoot shoot;
     const QString noEnding = shoot.folder.addPhoto(QStringLiteral("notatxt"));
 
     shoot.driver.load(kSelectRecord,
@@ -631,7 +241,7 @@ void TestUIWPClauss::lastScriptOfASelectionWins()
 
 void TestUIWPClauss::scriptDialogKeepsThePhotosOrderWanted()
 {
-    const Shoot shoot;
+    const ClaussShoot shoot;
     QStringList files;
     for (const char *name : { "c.jpg", "a.jpg", "B.jpg" }) {
         files.append(shoot.folder.addPhoto(QString::fromLatin1(name)));
@@ -645,7 +255,7 @@ void TestUIWPClauss::scriptDialogKeepsThePhotosOrderWanted()
 
 void TestUIWPClauss::photosAloneKeepTheScript()
 {
-    const Shoot shoot;
+    const ClaussShoot shoot;
     const QString script = shoot.writeScript(scriptRow(2));
     shoot.driver.load(kSelectRecord, { script });
     shoot.writeScript(scriptRow(4));
@@ -660,7 +270,7 @@ void TestUIWPClauss::photosAloneKeepTheScript()
 
 void TestUIWPClauss::samePhotosFromTheScriptDialogAreNotReadAgain()
 {
-    const Shoot shoot;
+    const ClaussShoot shoot;
     QStringList photos = shoot.folder.addPhotos(3);
     shoot.driver.load(kSelectRecord, photos);
     shoot.driver.load(kSelectRecord, QStringList(photos) << shoot.writeScript(scriptRow(3)));
@@ -686,7 +296,7 @@ void TestUIWPClauss::controlKeyOpensTheScriptsFolder_data()
 void TestUIWPClauss::controlKeyOpensTheScriptsFolder()
 {
     QFETCH(QString, folder);
-    const Shoot shoot;
+    const ClaussShoot shoot;
     const QString script = shoot.writeScript(scriptRow(1), folder + QLatin1String("/a.txt"));
     shoot.driver.load(kSelectRecord, { script });
     const DesktopCatcher desktop;
@@ -697,43 +307,6 @@ void TestUIWPClauss::controlKeyOpensTheScriptsFolder()
     QCOMPARE(desktop.urls().first().toLocalFile(), shoot.folder.path(folder));
     QCOMPARE(shoot.driver.text(kScript), script);
     QCOMPARE(fakeHost().setLastPaths, QStringList{ script });
-}
-
-void TestUIWPClauss::pageMayGoWhileTheBoxIsOpen_data()
-{
-    QTest::addColumn<QString>("way");
-    for (const char *way : { "chosen", "typed", "asked for" }) {
-        QTest::newRow(way) << QString::fromLatin1(way);
-    }
-}
-
-void TestUIWPClauss::pageMayGoWhileTheBoxIsOpen()
-{
-    QFETCH(QString, way);
-    const ShootFolder folder;
-    const QString bad = folder.write(QStringLiteral("bad.txt"), "op_h-angle=x\n");
-    QPointer<UIWPClauss> page = new UIWPClauss(nullptr);
-    const PageDriver driver(page);
-    DialogClicker clicker;
-    const auto deletePage = [&page] { delete page.data(); };
-
-    if (way == QLatin1String("chosen")) {
-        clicker.chooseFiles(folder.addPhotos(2) << bad);
-        clicker.beforeNextAnswer([&clicker, deletePage] { clicker.beforeNextAnswer(deletePage); });
-        driver.click(kSelectRecord);
-    } else if (way == QLatin1String("asked for")) {
-        clicker.beforeNextAnswer(deletePage);
-        page->ParseConfigFile(bad);
-    } else {
-        clicker.beforeNextAnswer(deletePage);
-        // Not by leaving the field: no edit survives in Qt when it is deleted in its own signal.
-        page->m_leConfigFile->setText(bad);
-        page->SetConfigFFilename();
-    }
-
-    QVERIFY(page.isNull());
-    QCOMPARE(clicker.messageBoxes().size(), 1);
-    QVERIFY(fakeHost().readFiles().isEmpty());
 }
 
 TEST_CLASS(TestUIWPClauss, FakeApplication)
