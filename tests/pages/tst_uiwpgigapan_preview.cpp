@@ -2,104 +2,17 @@
 // SPDX-License-Identifier: MIT
 #include "importers/gigapan/uiwpgigapan.h"
 
+#include "tests/pages/gigapanpicture.h"
 #include "tests/support/fakeapplication.h"
-#include "tests/support/gate.h"
 #include "tests/support/literalgrid.h"
-#include "tests/support/pagedriver.h"
-#include "tests/support/shootfolder.h"
 #include "ui/xui.h"
 
-#include <QPainter>
 #include <QtTest>
 
 #include <random>
-#include <thread>
 
 namespace
 {
-
-constexpr QSize kThumbnail(160, 120);
-constexpr QSize kCell(80, 60); // half of it
-
-const QColor kBackground(0xc0, 0xc0, 0xc0); // light grey
-const QColor kOutline(Qt::black);
-const QColor kRed(0xff, 0x00, 0x00);
-const QColor kGreen(0x00, 0xff, 0x00);
-const QColor kBlue(0x00, 0x00, 0xff);
-const QColor kYellow(0xff, 0xff, 0x00);
-
-/** A colour of its own for each of the first 16 photos. */
-QColor colourOf(int photo)
-{
-    return QColor(QColor::fromHsv(photo * 22, 255, 220).rgb()); // 8 bits, as in pictures
-}
-
-/** A page at full zoom. */
-struct Shoot {
-    ShootFolder folder;
-    UIWPGigapan page{ nullptr };
-    PageDriver driver{ &page };
-
-    Shoot() { page.m_hSlider->setValue(100); }
-    QString addPhoto(const QString &name, const QColor &colour, long shotTime = 0,
-                     const QSize &size = kThumbnail) const
-    {
-        FakePhoto photo;
-        photo.colour = colour;
-        photo.shotTime = shotTime;
-        photo.size = size;
-        return folder.addPhoto(name, photo);
-    }
-    /** Photos in the order of their names and times, each in its own colour. */
-    void loadPhotos(int count) const
-    {
-        QStringList photos;
-        for (int i = 0; i < count; ++i) {
-            photos.append(addPhoto(QStringLiteral("%1.jpg").arg(i, 4, 10, QLatin1Char('0')),
-                                   colourOf(i % 16), i));
-        }
-        driver.load(kSelectPhotos, photos);
-    }
-    void choose(int mode)
-    {
-        if (mode == 4) { // has no button
-            page.OnMode4Toggled(true);
-        } else {
-            driver.click(QStringLiteral("m_rbMode%1").arg(mode).toLatin1().constData());
-        }
-    }
-    void setNumbers(int rows, int bracket, int ignored) const
-    {
-        page.m_sbIgnore->setValue(ignored);
-        page.m_sbBracket->setValue(bracket);
-        page.m_sbRow->setValue(rows);
-    }
-};
-
-struct Cell {
-    int row;
-    int column;
-    QColor colour; ///< invalid: no photo
-    QSize thumbnail = kThumbnail;
-};
-
-/** The picture of \p cells of \p size in their order, painted anew. */
-QImage painted(const QSize &canvas, const QSize &size, const QVector<Cell> &cells)
-{
-    QPixmap pixmap(canvas);
-    pixmap.fill(kBackground);
-    QPainter painter(&pixmap);
-    for (const Cell &cell : cells) {
-        const QPoint corner(4 + cell.column * (size.width() + 4),
-                            4 + cell.row * (size.height() + 4));
-        if (cell.colour.isValid()) {
-            painter.fillRect(QRect(corner, cell.thumbnail), cell.colour);
-        }
-        painter.drawRect(QRect(corner, size));
-    }
-    painter.end();
-    return pixmap.toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
-}
 
 /** Two rows of three cells: 3 x 84 + 4 by 2 x 64 + 4. */
 constexpr QSize kTwoByThree(256, 132);
@@ -118,25 +31,16 @@ const Walk kMode4{ { 0, 0, 5 }, { 1, 0, 0 }, { 0, 1, 4 }, { 1, 1, 1 }, { 0, 2, 3
 /** The picture of \p walk whose cell i shows the photo \p first + i x \p step. */
 QImage paintedWalk(const Walk &walk, int first = 0, int step = 1)
 {
-    QVector<Cell> cells;
+    QVector<DrawnCell> cells;
     for (const QVector<int> &cell : walk) {
         cells.append({ cell[0], cell[1], colourOf(first + cell[2] * step) });
     }
     return painted(kTwoByThree, kCell, cells);
 }
 
-/** Cells without photos, in any order. */
-QImage outlines(const QSize &canvas, const QSize &size, int rows, int columns)
-{
-    QVector<Cell> cells;
-    for (int cell = 0; cell < rows * columns; ++cell) {
-        cells.append({ cell / columns, cell % columns, QColor() });
-    }
-    return painted(canvas, size, cells);
-}
-
 } // namespace
 
+/** Where the cells of the grid are drawn, and how large. */
 class TestUIWPGigapanPreview : public QObject
 {
     Q_OBJECT
@@ -155,13 +59,6 @@ private Q_SLOTS:
     void thumbnailsKeepTheirSize();
     void coloursAreThoseOfNoTheme();
 
-    void photosAreOrderedByShotTime_data();
-    void photosAreOrderedByShotTime();
-    void equalTimesThatComeLateUndoTheOrder();
-    void firstThumbnailDecidesTheCellSize();
-    void earliestThumbnailIsTheFirstOne();
-    void missingThumbnailLeavesAnOutline_data();
-    void missingThumbnailLeavesAnOutline();
     void cellsAre48PixelsWithoutThumbnails_data();
     void cellsAre48PixelsWithoutThumbnails();
 
@@ -173,11 +70,6 @@ private Q_SLOTS:
     void cellsShrinkAsFarAsTheyCan();
     void gridThatDoesNotFitIsStillDrawn_data();
     void gridThatDoesNotFitIsStillDrawn();
-
-    void photosAppearAsTheyAreRead();
-    void unreadablePhotoMovesTheOthersUp();
-    void otherPhotosOfTheSameNumberAreDrawn();
-    void resetDuringReadingShowsTheFreshGrid();
 };
 
 void TestUIWPGigapanPreview::init()
@@ -189,7 +81,7 @@ void TestUIWPGigapanPreview::init()
 // Thumbnails of 160 x 120 reach over the next cells, which are drawn over them in turn.
 void TestUIWPGigapanPreview::cellsStandWhereTheGridSays()
 {
-    const Shoot shoot;
+    const ZoomedShoot shoot;
     shoot.loadPhotos(6);
 
     const QImage picture = shoot.driver.picture();
@@ -237,7 +129,7 @@ void TestUIWPGigapanPreview::modeDecidesPlacesAndDrawingOrder()
 {
     QFETCH(int, mode);
     QFETCH(Walk, walk);
-    Shoot shoot;
+    ZoomedShoot shoot;
     shoot.loadPhotos(6);
 
     shoot.choose(mode);
@@ -247,7 +139,7 @@ void TestUIWPGigapanPreview::modeDecidesPlacesAndDrawingOrder()
 
 void TestUIWPGigapanPreview::laterCellsCoverEarlierOnes()
 {
-    const Shoot shoot;
+    const ZoomedShoot shoot;
     shoot.loadPhotos(6);
 
     shoot.driver.click("m_rbMode3");
@@ -279,7 +171,7 @@ void TestUIWPGigapanPreview::cellShowsTheFirstPhotoOfItsStack()
     QFETCH(int, photos);
     QFETCH(int, bracket);
     QFETCH(int, ignored);
-    const Shoot shoot;
+    const ZoomedShoot shoot;
     shoot.loadPhotos(photos);
 
     shoot.setNumbers(2, bracket, ignored);
@@ -291,7 +183,7 @@ void TestUIWPGigapanPreview::cellShowsTheFirstPhotoOfItsStack()
 
 void TestUIWPGigapanPreview::modeFourDoesNotCountIgnoredPhotosWanted()
 {
-    Shoot shoot;
+    ZoomedShoot shoot;
     shoot.loadPhotos(14);
     shoot.setNumbers(2, 2, 2); // (14 - 2) / 2 / 2 = 3 columns
 
@@ -311,7 +203,7 @@ void TestUIWPGigapanPreview::randomGridsAreDrawnAsTheHeadSweepsThem()
         const int bracket = 1 + upTo(2);
         const int ignored = upTo(4);
         const int mode = run % 5;
-        Shoot shoot;
+        ZoomedShoot shoot;
         shoot.loadPhotos(photos);
         shoot.setNumbers(rows, bracket, ignored);
 
@@ -324,7 +216,7 @@ void TestUIWPGigapanPreview::randomGridsAreDrawnAsTheHeadSweepsThem()
             colours.insert(cell, photo < photos ? colourOf(photo % 16) : QColor());
             photo += bracket;
         }
-        QVector<Cell> cells;
+        QVector<DrawnCell> cells;
         for (const LiteralGrid::Cell &cell :
              LiteralGrid::walk(mode == 4 ? 0 : mode, rows, columns)) {
             cells.append({ cell.first, cell.second, colours.value(cell) });
@@ -336,7 +228,7 @@ void TestUIWPGigapanPreview::randomGridsAreDrawnAsTheHeadSweepsThem()
 
 void TestUIWPGigapanPreview::thumbnailsKeepTheirSize()
 {
-    const Shoot shoot;
+    const ZoomedShoot shoot;
     FakePhoto photo;
     photo.preview = FakePhoto::Preview::TwoHalves;
     photo.colour = kRed;
@@ -356,7 +248,7 @@ void TestUIWPGigapanPreview::thumbnailsKeepTheirSize()
 
 void TestUIWPGigapanPreview::coloursAreThoseOfNoTheme()
 {
-    Shoot shoot;
+    ZoomedShoot shoot;
     QPalette palette = shoot.page.palette();
     palette.setColor(QPalette::Window, kBlue);
     palette.setColor(QPalette::WindowText, kYellow);
@@ -366,141 +258,6 @@ void TestUIWPGigapanPreview::coloursAreThoseOfNoTheme()
     QCOMPARE(shoot.driver.picture(), paintedWalk(kMode0));
     shoot.page.setPalette(QPalette(kGreen));
     QCOMPARE(shoot.driver.picture(), paintedWalk(kMode0));
-}
-
-void TestUIWPGigapanPreview::photosAreOrderedByShotTime_data()
-{
-    QTest::addColumn<QVector<long>>("times"); // of the red, green, blue and yellow photo, as read
-    QTest::addColumn<QVector<QColor>>("order"); // of the cells, column by column
-    QTest::newRow("as read") << QVector<long>{ 1, 2, 3, 4 }
-                             << QVector<QColor>{ kRed, kGreen, kBlue, kYellow };
-    QTest::newRow("backwards") << QVector<long>{ 4, 3, 2, 1 }
-                               << QVector<QColor>{ kYellow, kBlue, kGreen, kRed };
-    QTest::newRow("mixed, negative, beyond 32 bits")
-        << QVector<long>{ 7'000'000'000, -1, 7'000'000'001, 5 }
-        << QVector<QColor>{ kGreen, kYellow, kRed, kBlue };
-    QTest::newRow("two equal times: as read")
-        << QVector<long>{ 5, 4, 5, 1 } << QVector<QColor>{ kRed, kGreen, kBlue, kYellow };
-    QTest::newRow("equal neighbours: as read")
-        << QVector<long>{ 9, 3, 3, 1 } << QVector<QColor>{ kRed, kGreen, kBlue, kYellow };
-    QTest::newRow("all equal") << QVector<long>{ 0, 0, 0, 0 }
-                               << QVector<QColor>{ kRed, kGreen, kBlue, kYellow };
-}
-
-void TestUIWPGigapanPreview::photosAreOrderedByShotTime()
-{
-    QFETCH(QVector<long>, times);
-    QFETCH(QVector<QColor>, order);
-    const Shoot shoot;
-
-    shoot.driver.load(kSelectPhotos,
-                      { shoot.addPhoto(QStringLiteral("a.jpg"), kRed, times[0]),
-                        shoot.addPhoto(QStringLiteral("b.jpg"), kGreen, times[1]),
-                        shoot.addPhoto(QStringLiteral("c.jpg"), kBlue, times[2]),
-                        shoot.addPhoto(QStringLiteral("d.jpg"), kYellow, times[3]) });
-
-    QCOMPARE(
-        shoot.driver.picture(),
-        painted(
-            QSize(172, 132), kCell,
-            { { 0, 0, order[0] }, { 1, 0, order[1] }, { 0, 1, order[2] }, { 1, 1, order[3] } }));
-}
-
-void TestUIWPGigapanPreview::equalTimesThatComeLateUndoTheOrder()
-{
-    Gate leave;
-    const Shoot shoot;
-    QStringList photos;
-    for (int i = 0; i < 12; ++i) {
-        FakePhoto photo;
-        photo.size = kThumbnail;
-        photo.colour = colourOf(i);
-        photo.shotTime = 100 - i;
-        if (i >= 10) {
-            photo.shotTime = 100; // as the first one
-            photo.leave = &leave;
-        }
-        photos.append(
-            shoot.folder.addPhoto(QStringLiteral("%1.jpg").arg(i, 2, 10, QLatin1Char('0')), photo));
-    }
-    // Three rows of four cells, column by column: 4 x 84 + 4 by 3 x 64 + 4.
-    const auto picture = [](const QVector<int> &order) {
-        QVector<Cell> cells;
-        for (int cell = 0; cell < 12; ++cell) {
-            const QColor colour = cell < order.size() ? colourOf(order[cell]) : QColor();
-            cells.append({ cell % 3, cell / 3, colour });
-        }
-        return painted(QSize(340, 196), kCell, cells);
-    };
-
-    shoot.driver.chooseFiles(kSelectPhotos, photos);
-    QTRY_COMPARE(shoot.driver.picture(), picture({ 9, 8, 7, 6, 5, 4, 3, 2, 1, 0 }));
-    leave.open(2);
-    shoot.driver.waitUntilRead();
-
-    QCOMPARE(shoot.driver.picture(), picture({ 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11 }));
-}
-
-void TestUIWPGigapanPreview::firstThumbnailDecidesTheCellSize()
-{
-    const Shoot shoot;
-    const QSize small(41, 20);
-
-    shoot.driver.load(kSelectPhotos,
-                      { shoot.addPhoto(QStringLiteral("a.jpg"), kRed, 1, small),
-                        shoot.addPhoto(QStringLiteral("b.jpg"), kGreen, 2),
-                        shoot.addPhoto(QStringLiteral("c.jpg"), kBlue, 3, QSize(10, 5)),
-                        shoot.addPhoto(QStringLiteral("d.jpg"), kYellow, 4) });
-
-    // Cells of 20 x 10: 2 x 24 + 4 by 2 x 14 + 4.
-    QCOMPARE(shoot.driver.picture(),
-             painted(QSize(52, 32), QSize(20, 10),
-                     { { 0, 0, kRed, small },
-                       { 1, 0, kGreen },
-                       { 0, 1, kBlue, QSize(10, 5) },
-                       { 1, 1, kYellow } }));
-}
-
-void TestUIWPGigapanPreview::earliestThumbnailIsTheFirstOne()
-{
-    const Shoot shoot;
-    const QSize small(40, 20);
-
-    shoot.driver.load(kSelectPhotos,
-                      { shoot.addPhoto(QStringLiteral("a.jpg"), kRed, 2),
-                        shoot.addPhoto(QStringLiteral("b.jpg"), kGreen, 1, small) });
-
-    QCOMPARE(shoot.driver.picture(),
-             painted(QSize(52, 18), QSize(20, 10), { { 0, 0, kGreen, small }, { 0, 1, kRed } }));
-}
-
-void TestUIWPGigapanPreview::missingThumbnailLeavesAnOutline_data()
-{
-    QTest::addColumn<int>("preview");
-    QTest::newRow("no pixmap") << static_cast<int>(FakePhoto::Preview::NullPointer);
-    QTest::newRow("pixmap without pixels") << static_cast<int>(FakePhoto::Preview::NullPixmap);
-}
-
-void TestUIWPGigapanPreview::missingThumbnailLeavesAnOutline()
-{
-    QFETCH(int, preview);
-    const Shoot shoot;
-    FakePhoto photo;
-    photo.preview = static_cast<FakePhoto::Preview>(preview);
-    const auto without = [&](const char *name, long shotTime) {
-        photo.shotTime = shotTime;
-        return shoot.folder.addPhoto(QString::fromLatin1(name), photo);
-    };
-
-    // The first usable thumbnail decides the size.
-    shoot.driver.load(kSelectPhotos,
-                      { without("a.jpg", 1), without("b.jpg", 2),
-                        shoot.addPhoto(QStringLiteral("c.jpg"), kBlue, 3), without("d.jpg", 4) });
-
-    QCOMPARE(
-        shoot.driver.picture(),
-        painted(QSize(172, 132), kCell,
-                { { 0, 0, QColor() }, { 1, 0, QColor() }, { 0, 1, kBlue }, { 1, 1, QColor() } }));
 }
 
 void TestUIWPGigapanPreview::cellsAre48PixelsWithoutThumbnails_data()
@@ -519,7 +276,7 @@ void TestUIWPGigapanPreview::cellsAre48PixelsWithoutThumbnails()
     QFETCH(int, rows);
     QFETCH(int, columns);
     QFETCH(QSize, canvas);
-    const Shoot shoot;
+    const ZoomedShoot shoot;
     FakePhoto photo;
     photo.preview = FakePhoto::Preview::NullPixmap;
 
@@ -545,7 +302,7 @@ void TestUIWPGigapanPreview::pictureIsZoomed()
 {
     QFETCH(int, zoom);
     QFETCH(QSize, size);
-    const Shoot shoot;
+    const ZoomedShoot shoot;
     shoot.page.m_hSlider->setValue(zoom);
 
     shoot.loadPhotos(6);
@@ -556,7 +313,7 @@ void TestUIWPGigapanPreview::pictureIsZoomed()
 
 void TestUIWPGigapanPreview::zoomingRedraws()
 {
-    const Shoot shoot;
+    const ZoomedShoot shoot;
     shoot.loadPhotos(6);
 
     shoot.page.m_hSlider->setValue(50);
@@ -570,13 +327,13 @@ void TestUIWPGigapanPreview::zoomingRedraws()
 
 void TestUIWPGigapanPreview::wideGridsGetSmallerCells()
 {
-    const Shoot shoot;
+    const ZoomedShoot shoot;
     shoot.loadPhotos(200);
 
     shoot.page.m_sbRow->setValue(1);
 
     // 200 x 84 + 4 = 16804 is too wide, 200 x 44 + 4 = 8804 is not.
-    QVector<Cell> cells;
+    QVector<DrawnCell> cells;
     for (int column = 0; column < 200; ++column) {
         cells.append({ 0, column, colourOf(column % 16) });
     }
@@ -601,7 +358,7 @@ void TestUIWPGigapanPreview::cellsShrinkAsFarAsTheyCan()
 {
     QFETCH(int, rows);
     QFETCH(QSize, canvas);
-    const Shoot shoot;
+    const ZoomedShoot shoot;
     shoot.loadPhotos(6);
     const QImage before = shoot.driver.picture().copy();
     QVERIFY(!before.isNull());
@@ -629,7 +386,7 @@ void TestUIWPGigapanPreview::gridThatDoesNotFitIsStillDrawn_data()
     QTest::newRow("more photos ignored than there are")
         << 1 << 1 << 99 << outlines(QSize(88, 68), kCell, 1, 1);
     // One column of eight cells for seven photos.
-    QVector<Cell> column;
+    QVector<DrawnCell> column;
     for (int row = 0; row < 8; ++row) {
         column.append({ row, 0, row < 7 ? colourOf(row) : QColor() });
     }
@@ -642,97 +399,12 @@ void TestUIWPGigapanPreview::gridThatDoesNotFitIsStillDrawn()
     QFETCH(int, bracket);
     QFETCH(int, ignored);
     QFETCH(QImage, picture);
-    const Shoot shoot;
+    const ZoomedShoot shoot;
     shoot.loadPhotos(7);
 
     shoot.setNumbers(rows, bracket, ignored);
 
     QCOMPARE(shoot.driver.picture(), picture);
-}
-
-void TestUIWPGigapanPreview::photosAppearAsTheyAreRead()
-{
-    Gate leave;
-    const Shoot shoot;
-    FakePhoto photo;
-    photo.size = kThumbnail;
-    photo.colour = kRed;
-    QStringList photos = shoot.folder.addPhotos(10, photo);
-    photo.leave = &leave;
-    photo.colour = kGreen;
-    photos.append(shoot.folder.addPhoto(QStringLiteral("Z1.jpg"), photo));
-    photos.append(shoot.folder.addPhoto(QStringLiteral("Z2.jpg"), photo));
-    const auto picture = [](int red, int green) {
-        QVector<Cell> cells;
-        for (int cell = 0; cell < 12; ++cell) {
-            const QColor colour = cell < red ? kRed : cell < red + green ? kGreen : QColor();
-            cells.append({ cell % 3, cell / 3, colour });
-        }
-        return painted(QSize(340, 196), kCell, cells);
-    };
-
-    shoot.driver.chooseFiles(kSelectPhotos, photos);
-    QTRY_COMPARE(shoot.driver.picture(), picture(10, 0));
-    QVERIFY(!shoot.page.isComplete());
-    leave.open(2);
-    shoot.driver.waitUntilRead();
-
-    QCOMPARE(shoot.driver.picture(), picture(10, 2));
-    QVERIFY(shoot.page.isComplete());
-}
-
-void TestUIWPGigapanPreview::unreadablePhotoMovesTheOthersUp()
-{
-    const Shoot shoot;
-    FakePhoto broken;
-    broken.reading = FakePhoto::Reading::Fails;
-
-    shoot.driver.load(kSelectPhotos,
-                      { shoot.addPhoto(QStringLiteral("a.jpg"), kRed, 1),
-                        shoot.folder.addPhoto(QStringLiteral("b.jpg"), broken),
-                        shoot.addPhoto(QStringLiteral("c.jpg"), kBlue, 3),
-                        shoot.addPhoto(QStringLiteral("d.jpg"), kYellow, 4) });
-
-    QCOMPARE(shoot.driver.picture(),
-             painted(QSize(172, 132), kCell,
-                     { { 0, 0, kRed }, { 1, 0, kBlue }, { 0, 1, kYellow }, { 1, 1, QColor() } }));
-}
-
-void TestUIWPGigapanPreview::otherPhotosOfTheSameNumberAreDrawn()
-{
-    const Shoot shoot;
-    shoot.loadPhotos(2);
-
-    shoot.driver.load(kSelectPhotos,
-                      { shoot.addPhoto(QStringLiteral("x.jpg"), kRed, 2, QSize(40, 20)),
-                        shoot.addPhoto(QStringLiteral("y.jpg"), kBlue, 1, QSize(40, 20)) });
-
-    QCOMPARE(shoot.driver.picture(),
-             painted(QSize(52, 18), QSize(20, 10),
-                     { { 0, 0, kBlue, QSize(40, 20) }, { 0, 1, kRed, QSize(40, 20) } }));
-}
-
-void TestUIWPGigapanPreview::resetDuringReadingShowsTheFreshGrid()
-{
-    Gate enter;
-    Gate leave;
-    Shoot shoot;
-    FakePhoto photo;
-    photo.size = kThumbnail;
-    QStringList photos = shoot.folder.addPhotos(11, photo);
-    photo.enter = &enter;
-    photo.leave = &leave;
-    photos.append(shoot.folder.addPhoto(QStringLiteral("Z.jpg"), photo));
-    shoot.driver.chooseFiles(kSelectPhotos, photos);
-    enter.pass();
-    QTRY_COMPARE(shoot.driver.picture().size(), QSize(340, 196));
-
-    // The page waits for the photo in hand, so somebody else has to let it go.
-    std::thread release([&leave] { leave.open(); });
-    shoot.driver.click("m_pbReset");
-    release.join();
-
-    QCOMPARE(shoot.driver.picture(), outlines(QSize(264, 212), QSize(48, 48), 4, 5));
 }
 
 TEST_CLASS(TestUIWPGigapanPreview, FakeApplication)
