@@ -127,6 +127,15 @@ double Bars::medianSeconds(int runs, const std::function<void()> &work)
     return median(times);
 }
 
+double Bars::leastSeconds(int runs, const std::function<void()> &work)
+{
+    double least = seconds(work);
+    for (int run = 1; run < runs; ++run) {
+        least = std::min(least, seconds(work));
+    }
+    return least;
+}
+
 double Bars::seconds(const std::function<void()> &work)
 {
     const double start = threadSeconds();

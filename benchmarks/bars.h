@@ -57,6 +57,8 @@ public:
 [[nodiscard]] double threadSeconds();
 /** The median of the CPU times of \p runs calls, seconds. */
 [[nodiscard]] double medianSeconds(int runs, const std::function<void()> &work);
+/** The least of the CPU times of \p runs calls: what comes on top is other programs'. Seconds. */
+[[nodiscard]] double leastSeconds(int runs, const std::function<void()> &work);
 [[nodiscard]] double median(std::vector<double> values);
 /** The CPU time of one call, seconds. */
 [[nodiscard]] double seconds(const std::function<void()> &work);

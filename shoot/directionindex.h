@@ -19,14 +19,13 @@ struct UnitVector {
 
 /**
  * Finds the directions near one of them. The part of the sphere that they take up is cut into bands
- * of latitude and each band into cells of longitude, both about half a search radius wide, so that
- * a search looks at a few times as many directions as it finds, on a whole sphere and in a mosaic
- * of some degrees alike. Directions that are not finite are never found.
+ * of latitude, in which they are sorted by longitude: a search looks at about twice as many
+ * directions as it finds. Directions that are not finite are never found.
  */
 class DirectionIndex
 {
 public:
-    /** \p typicalRadius, radians, fixes the size of the cells; any other radius works too. */
+    /** \p typicalRadius, radians, fixes the height of the bands; any other radius works too. */
     DirectionIndex(const QVector<UnitVector> &directions, double typicalRadius);
 
     /**
@@ -38,67 +37,46 @@ public:
     {
         const Cap cap = capAround(centre, radius);
         for (int band = cap.firstBand; band <= cap.lastBand; ++band) {
-            for (const Slots &slots : slotsIn(m_bands[band], cap)) {
-                for (int slot = slots.begin; slot < slots.end; ++slot) {
-                    visit(m_order[slot]);
+            for (const Longitudes &part : cap.parts) {
+                for (auto entry = firstIn(band, part);
+                     entry != m_bands[band].cend() && entry->longitude <= part.last; ++entry) {
+                    visit(entry->direction);
                 }
             }
         }
     }
 
 private:
-    /** Radians; the longitude counts from the first direction. Not a number: nowhere. */
+    /** Radians; not a number: nowhere. */
     struct Place {
         double latitude;
         double longitude;
     };
-    /** The cells of one band. */
-    struct Band {
-        int firstCell = 0;
-        int cells = 0; ///< 0: no direction lies in this band
-        double firstLongitude = 0.0;
-        double lastLongitude = 0.0;
-        double cellsPerRadian = 0.0;
-
-        [[nodiscard]] int cellAt(double longitude) const;
+    struct Entry {
+        double longitude;
+        int direction;
+    };
+    using Band = std::vector<Entry>; // by longitude
+    struct Longitudes {
+        double first;
+        double last; ///< below the first one: none
     };
     /** The bands and longitudes in reach of a search. */
     struct Cap {
         int firstBand;
         int lastBand; ///< below the first one: nothing is in reach
-        double longitude;
-        double halfWidth; ///< pi or more: every longitude
-    };
-    /** A part of m_order. */
-    struct Slots {
-        int begin;
-        int end;
-    };
-    /** Cells of one band, by number; none when the last one is below the first. */
-    struct Cells {
-        int first = 0;
-        int last = -1;
-
-        [[nodiscard]] bool isEmpty() const { return last < first; }
+        std::array<Longitudes, 2>
+            parts; ///< what reaches beyond half a turn goes on at the other end
     };
 
-    void findPlaces(const QVector<UnitVector> &directions);
-    void layOutBands(double typicalRadius);
-    void layOutCells();
-    void sortIntoCells();
     [[nodiscard]] int bandAt(double latitude) const;
-    [[nodiscard]] int cellOf(const Place &place) const;
     [[nodiscard]] Cap capAround(int centre, double radius) const;
-    [[nodiscard]] std::array<Slots, 2> slotsIn(const Band &band, const Cap &cap) const;
-    [[nodiscard]] static Cells cellsBetween(const Band &band, double first, double last);
-    [[nodiscard]] Slots slotsOf(const Band &band, const Cells &cells) const;
+    [[nodiscard]] Band::const_iterator firstIn(int band, const Longitudes &part) const;
 
     std::vector<Place> m_places; // by direction
     double m_firstLatitude = 0.0;
     double m_bandHeight = 0.0; // radians
     std::vector<Band> m_bands;
-    std::vector<int> m_cellStarts; // per cell, and one behind the last: place in m_order
-    std::vector<int> m_order; // indices of the directions, cell by cell
 };
 
 } // namespace PanoHead

@@ -208,7 +208,7 @@ double clampedCosine(const CloseView &a, const CloseView &b)
     return std::min(std::max(cosine, -1.0), 1.0);
 }
 
-/** Cells are cut for the middle one of the radii that an index serves. */
+/** Bands are cut for the middle one of the radii that an index serves. */
 double typicalRadius(const std::vector<CloseView> &views)
 {
     std::vector<double> radii;
