@@ -4,6 +4,7 @@
 
 #include "tests/support/literallinks.h"
 #include "tests/support/testprogram.h"
+#include "tests/unit/photonames.h"
 #include "tests/unit/shots.h"
 
 #include <QTest>

@@ -5,6 +5,7 @@
 #include "shoot/linksearch.h"
 #include "tests/support/literallinks.h"
 #include "tests/support/testprogram.h"
+#include "tests/unit/photonames.h"
 #include "tests/unit/shots.h"
 
 #include <QRandomGenerator>
