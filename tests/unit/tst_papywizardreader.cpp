@@ -2,19 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "importers/papywizard/papywizardreader.h"
 
-#include "importers/papywizard/merlintospp.h"
 #include "tests/support/testprogram.h"
+#include "tests/unit/describedrecord.h"
+#include "tests/unit/shots.h"
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <functional>
 #include <limits>
-
-#include <sys/stat.h>
-#include <unistd.h>
 
 using PanoHead::PapywizardRecord;
 using PanoHead::ReadError;
@@ -26,188 +21,58 @@ Q_DECLARE_METATYPE(Change)
 namespace
 {
 
-QString number(double value)
+void row(const char *name, const QByteArray &body, const Change &change)
 {
-    return QString::number(value, 'g', 9);
+    QTest::newRow(name) << body << change;
 }
 
-/** Everything a record says, one line per fact and per shot. */
-QString described(const PapywizardRecord &record)
+void nothing(PapywizardRecord & /*record*/) { }
+
+Change shots(const QVector<ShootData> &list)
 {
-    const auto yesNo
-        = [](bool value) { return value ? QStringLiteral("yes") : QStringLiteral("no"); };
-    QStringList lines{
-        QStringLiteral("title [%1]").arg(record.title),
-        QStringLiteral("gps [%1]").arg(record.gps),
-        QStringLiteral("comment [%1]").arg(record.comment),
-        QStringLiteral("focal %1").arg(number(record.xmlFocal)),
-        QStringLiteral("coef %1").arg(number(record.sensorCoef)),
-        QStringLiteral("photos per position %1").arg(record.nbPicts),
-        QStringLiteral("lens %1").arg(record.xmlLensType),
-        QStringLiteral("portrait %1").arg(yesNo(record.portrait)),
-        QStringLiteral("shoot %1").arg(yesNo(record.hasShoot)),
+    return [list](PapywizardRecord &record) {
+        record.shots = list;
+        record.hasShoot = true;
     };
-    for (const ShootData &shot : record.shots) {
-        // Seven digits show the angle that the file gives, not its rounding to 32 bits.
-        lines.append(
-            QStringLiteral("shot %1 bracket %2 yaw %3 pitch %4 roll %5 time %6")
-                .arg(QString::number(shot.id), QString::number(shot.bracket),
-                     QString::number(shot.yaw, 'g', 7), QString::number(shot.pitch, 'g', 7),
-                     QString::number(shot.roll, 'g', 7),
-                     shot.time.isNull() ? QStringLiteral("-") : shot.time.toString(Qt::ISODate)));
-    }
-    return lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
 }
 
-/** What `parse` has left in a generator, in the reader's form. */
-PapywizardRecord recordOf(const MerlinToSPP &generator)
+Change title(const char *text)
 {
-    PapywizardRecord record;
-    record.shots = generator.shots;
-    record.title = generator.title;
-    record.gps = generator.gps;
-    record.comment = generator.comment;
-    record.xmlFocal = generator.xmlFocal;
-    record.sensorCoef = generator.sensorCoef;
-    record.nbPicts = generator.nbPicts;
-    record.xmlLensType = generator.xmlLensType;
-    record.portrait = generator.portrait;
-    return record;
+    const QString wanted = QString::fromUtf8(text);
+    return [wanted](PapywizardRecord &record) { record.title = wanted; };
 }
 
-QString dataFile(const QString &name)
+Change focal(double value, double coef)
 {
-    return QStringLiteral(PANOHEAD_TEST_DATA "/papywizard/") + name;
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void write(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), qint64(content.size()));
-}
-
-ShootData shot(float yaw, float pitch)
-{
-    ShootData result;
-    result.yaw = yaw;
-    result.pitch = pitch;
-    return result;
-}
-
-} // namespace
-
-class TestPapywizardReader : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void recordsReadAsWritten_data();
-    void recordsReadAsWritten();
-    void elementsAndAttributes_data();
-    void elementsAndAttributes();
-    void numbersThatDoNotConvertKeepTheirDefault_data();
-    void numbersThatDoNotConvertKeepTheirDefault();
-    void anglesThatDoNotConvertAreZero_data();
-    void anglesThatDoNotConvertAreZero();
-    void anglesAreRoundedOnceTo32Bits();
-    void timesReadInTheTextFormatOnly_data();
-    void timesReadInTheTextFormatOnly();
-    void brokenDocumentsSayWhere_data();
-    void brokenDocumentsSayWhere();
-    void theErrorMayBeLeftOut();
-    void manyShotsKeepTheirOrder();
-    void parseResetsWhatAnEarlierFileLeft();
-    void parseLeavesTheDescriptionAlone();
-    void parseRefusesWhatIsNoRecordFile_data();
-    void parseRefusesWhatIsNoRecordFile();
-    void parseNeedsTheRightToRead();
-    void parseFollowsLinksAndTakesAnyName_data();
-    void parseFollowsLinksAndTakesAnyName();
-};
-
-void TestPapywizardReader::recordsReadAsWritten_data()
-{
-    QTest::addColumn<QString>("name");
-    const QStringList files
-        = QDir(dataFile(QString())).entryList({ QStringLiteral("*.xml") }, QDir::Files, QDir::Name);
-    QVERIFY(files.size() >= 4);
-    for (const QString &file : files) {
-        QTest::newRow(qPrintable(file)) << file.chopped(4);
-    }
-}
-
-void TestPapywizardReader::recordsReadAsWritten()
-{
-    QFETCH(QString, name);
-
-    const QString expected
-        = QString::fromUtf8(contentOf(dataFile(name + QStringLiteral(".expected"))));
-    ReadError error;
-    const auto record = readPapywizard(contentOf(dataFile(name + QStringLiteral(".xml"))), &error);
-    QVERIFY2(record.has_value(), qPrintable(error.reason));
-    const QString actual = described(*record);
-    if (actual != expected) {
-        write(name + QStringLiteral(".actual"), actual.toUtf8());
-    }
-    QCOMPARE(actual, expected);
-
-    MerlinToSPP generator;
-    QVERIFY(generator.parse(dataFile(name + QStringLiteral(".xml"))));
-    PapywizardRecord parsed = recordOf(generator);
-    parsed.hasShoot = record->hasShoot;
-    QCOMPARE(described(parsed), expected);
-}
-
-void TestPapywizardReader::elementsAndAttributes_data()
-{
-    QTest::addColumn<QByteArray>("body");
-    QTest::addColumn<Change>("change");
-
-    const auto row = [](const char *name, const QByteArray &body, const Change &change) {
-        QTest::newRow(name) << body << change;
+    return [value, coef](PapywizardRecord &record) {
+        record.xmlFocal = value;
+        record.sensorCoef = coef;
     };
-    const auto nothing = [](PapywizardRecord &) {};
-    const auto shots = [](const QVector<ShootData> &list) {
-        return [list](PapywizardRecord &record) {
-            record.shots = list;
-            record.hasShoot = true;
-        };
+}
+
+Change lens(int type)
+{
+    return [type](PapywizardRecord &record) {
+        record.xmlFocal = 0.0;
+        record.xmlLensType = type;
     };
-    const auto title = [](const char *text) {
-        const QString wanted = QString::fromUtf8(text);
-        return [wanted](PapywizardRecord &record) { record.title = wanted; };
-    };
-    const auto focal = [](double value, double coef) {
-        return [value, coef](PapywizardRecord &record) {
-            record.xmlFocal = value;
-            record.sensorCoef = coef;
-        };
-    };
-    const auto lens = [](int type) {
-        return [type](PapywizardRecord &record) {
-            record.xmlFocal = 0.0;
-            record.xmlLensType = type;
-        };
-    };
-    const auto portrait
-        = [](bool is) { return [is](PapywizardRecord &record) { record.portrait = is; }; };
-    const auto picts
-        = [](int count) { return [count](PapywizardRecord &record) { record.nbPicts = count; }; };
+}
+
+Change portrait(bool is)
+{
+    return [is](PapywizardRecord &record) { record.portrait = is; };
+}
+
+Change picts(int count)
+{
+    return [count](PapywizardRecord &record) { record.nbPicts = count; };
+}
+
+void addShootRows()
+{
     ShootData numbered;
     numbered.id = 12;
     numbered.bracket = 3;
-
-    row("nothing at all", "", nothing);
-    row("empty header", "<header/>", nothing);
-    row("header without what is read", "<header><other><title>t</title></other></header>", nothing);
-
     row("shoot without pictures", "<shoot/>", shots({}));
     row("header but no shoot", "<header/><pict/>", nothing);
     row("pict", "<shoot><pict/></shoot>", shots({ ShootData() }));
@@ -221,38 +86,41 @@ void TestPapywizardReader::elementsAndAttributes_data()
     row("id and bracket as hexadecimal numbers", "<shoot><pict id='0x10' bracket='1_0'/></shoot>",
         shots({ ShootData() }));
     row("position", "<shoot><pict><position yaw='10.5' pitch='-3.25'/></pict></shoot>",
-        shots({ shot(10.5F, -3.25F) }));
+        shots({ shotAt(10.5F, -3.25F) }));
     row("position without attributes", "<shoot><pict><position/></pict></shoot>",
         shots({ ShootData() }));
     row("angles as attributes of the picture count for nothing",
         "<shoot><pict yaw='1' pitch='2'/></shoot>", shots({ ShootData() }));
     row("roll is passed over",
         "<shoot><pict><position yaw='1' pitch='2' roll='45'/></pict></shoot>",
-        shots({ shot(1.0F, 2.0F) }));
+        shots({ shotAt(1.0F, 2.0F) }));
     row("any number of turns", "<shoot><pict><position yaw='1085' pitch='-400'/></pict></shoot>",
-        shots({ shot(1085.0F, -400.0F) }));
+        shots({ shotAt(1085.0F, -400.0F) }));
     row("only the first position",
         "<shoot><pict><position yaw='1'/><position yaw='2' pitch='2'/></pict></shoot>",
-        shots({ shot(1.0F, 0.0F) }));
+        shots({ shotAt(1.0F, 0.0F) }));
     row("the first position of each picture",
         "<shoot><pict><position yaw='1'/><position yaw='2'/></pict>"
         "<pict><position yaw='3'/><position yaw='4'/></pict></shoot>",
-        shots({ shot(1.0F, 0.0F), shot(3.0F, 0.0F) }));
+        shots({ shotAt(1.0F, 0.0F), shotAt(3.0F, 0.0F) }));
     row("a picture in a picture is none, nor is its position",
         "<shoot><pict><pict><position yaw='1'/></pict><position yaw='2'/></pict></shoot>",
-        shots({ shot(2.0F, 0.0F) }));
+        shots({ shotAt(2.0F, 0.0F) }));
     row("the last of two attributes of one name",
-        "<shoot><pict><position yaw='1' yaw='2'/></pict></shoot>", shots({ shot(2.0F, 0.0F) }));
+        "<shoot><pict><position yaw='1' yaw='2'/></pict></shoot>", shots({ shotAt(2.0F, 0.0F) }));
     row("pictures in file order, others between them",
         "<shoot><pict><position yaw='2'/></pict><x/>t<!-- --><pict><position "
         "yaw='1'/></pict></shoot>",
-        shots({ shot(2.0F, 0.0F), shot(1.0F, 0.0F) }));
+        shots({ shotAt(2.0F, 0.0F), shotAt(1.0F, 0.0F) }));
     row("only the first shoot", "<shoot><pict/></shoot><shoot><pict/><pict/></shoot>",
         shots({ ShootData() }));
     row("a picture further down is none", "<shoot><group><pict/></group></shoot>", shots({}));
     row("names keep their case", "<shoot><Pict/><PICT/></shoot><Header/>", shots({}));
     row("prefixed names are other names", "<shoot xmlns:a='b'><a:pict/></shoot>", shots({}));
+}
 
+void addTextRows()
+{
     row("title", "<header><general><title>t</title></general></header>", title("t"));
     row("title is trimmed", "<header><general><title>\n\t a  b \n</title></general></header>",
         title("a  b"));
@@ -273,7 +141,10 @@ void TestPapywizardReader::elementsAndAttributes_data()
     row("only the first header", "<header/><header><general><title>2</title></general></header>",
         nothing);
     row("title outside general", "<title>t</title><header><title>t</title></header>", nothing);
+}
 
+void addFocalRows()
+{
     row("no lens", "<header><camera><sensor coef='2'/></camera></header>", focal(-1.0, 2.0));
     row("lens without focal", "<header><lens/></header>", focal(0.0, 1.0));
     row("lens without focal, with a sensor",
@@ -299,7 +170,10 @@ void TestPapywizardReader::elementsAndAttributes_data()
         focal(-8.0, 1.0));
     row("focal as an attribute counts for nothing", "<header><lens focal='10'/></header>",
         focal(0.0, 1.0));
+}
 
+void addCameraRows()
+{
     row("bracketing without a count", "<header><camera><bracketing/></camera></header>", picts(0));
     row("bracketing", "<header><camera><bracketing nbPicts='3'/></camera></header>", picts(3));
     row("bracketing 0", "<header><camera><bracketing nbPicts='0'/></camera></header>", picts(0));
@@ -325,6 +199,42 @@ void TestPapywizardReader::elementsAndAttributes_data()
         "<header><shooting><cameraOrientation>landscape</cameraOrientation></shooting></header>",
         portrait(false));
     row("no orientation", "<header><shooting/></header>", portrait(false));
+}
+
+} // namespace
+
+class TestPapywizardReader : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void elementsAndAttributes_data();
+    void elementsAndAttributes();
+    void numbersThatDoNotConvertKeepTheirDefault_data();
+    void numbersThatDoNotConvertKeepTheirDefault();
+    void anglesThatDoNotConvertAreZero_data();
+    void anglesThatDoNotConvertAreZero();
+    void anglesAreRoundedOnceTo32Bits();
+    void timesReadInTheTextFormatOnly_data();
+    void timesReadInTheTextFormatOnly();
+    void brokenDocumentsSayWhere_data();
+    void brokenDocumentsSayWhere();
+    void theErrorMayBeLeftOut();
+    void manyShotsKeepTheirOrder();
+};
+
+void TestPapywizardReader::elementsAndAttributes_data()
+{
+    QTest::addColumn<QByteArray>("body");
+    QTest::addColumn<Change>("change");
+
+    row("nothing at all", "", nothing);
+    row("empty header", "<header/>", nothing);
+    row("header without what is read", "<header><other><title>t</title></other></header>", nothing);
+    addShootRows();
+    addTextRows();
+    addFocalRows();
+    addCameraRows();
 }
 
 void TestPapywizardReader::elementsAndAttributes()
@@ -529,148 +439,6 @@ void TestPapywizardReader::manyShotsKeepTheirOrder()
         QVERIFY(found.id == i && found.yaw == static_cast<float>(i)
                 && found.pitch == static_cast<float>(-i));
     }
-}
-
-void TestPapywizardReader::parseResetsWhatAnEarlierFileLeft()
-{
-    const QTemporaryDir folder;
-    const QString empty = folder.filePath(QStringLiteral("empty.xml"));
-    write(empty, "<p/>");
-
-    MerlinToSPP generator;
-    QVERIFY(generator.parse(dataFile(QStringLiteral("brackets-portrait.xml"))));
-    QCOMPARE(generator.shots.size(), 6);
-    QVERIFY(generator.portrait);
-    QVERIFY(generator.parse(empty));
-    QCOMPARE(described(recordOf(generator)), described(PapywizardRecord()));
-
-    QVERIFY(generator.parse(dataFile(QStringLiteral("mosaic.xml"))));
-    QCOMPARE(generator.shots.size(), 6);
-    QVERIFY(!generator.parse(folder.filePath(QStringLiteral("missing.xml"))));
-    QCOMPARE(described(recordOf(generator)), described(PapywizardRecord()));
-
-    QVERIFY(generator.parse(dataFile(QStringLiteral("mosaic.xml"))));
-    write(empty, "<p>");
-    QVERIFY(!generator.parse(empty));
-    QCOMPARE(described(recordOf(generator)), described(PapywizardRecord()));
-}
-
-void TestPapywizardReader::parseLeavesTheDescriptionAlone()
-{
-    MerlinToSPP generator;
-    generator.imageGroups = { { QStringLiteral("/a.jpg") } };
-    generator.authorizedLinks = { { 2, { 0, 1 } } };
-    generator.yaw = { 1.0F };
-    generator.pitch = { 2.0F };
-    generator.roll = { 3.0F };
-    generator.focalLength = 35.0F;
-    generator.lensModel = LensModel::Fisheye;
-    generator.overlap = 12.0;
-    for (const QString &name : { QStringLiteral("mosaic.xml"), QStringLiteral("missing.xml") }) {
-        generator.parse(dataFile(name));
-        QCOMPARE(generator.imageGroups.size(), 1);
-        QCOMPARE(generator.authorizedLinks.size(), 1);
-        QCOMPARE(generator.yaw, QVector<float>({ 1.0F }));
-        QCOMPARE(generator.pitch, QVector<float>({ 2.0F }));
-        QCOMPARE(generator.roll, QVector<float>({ 3.0F }));
-        QCOMPARE(generator.focalLength, 35.0F);
-        QCOMPARE(generator.lensModel, LensModel::Fisheye);
-        QCOMPARE(generator.overlap, 12.0);
-    }
-}
-
-void TestPapywizardReader::parseRefusesWhatIsNoRecordFile_data()
-{
-    QTest::addColumn<QString>("path");
-
-    QTest::newRow("empty path") << QString();
-    QTest::newRow("missing") << QStringLiteral("missing.xml");
-    QTest::newRow("folder") << QStringLiteral(".");
-    QTest::newRow("named pipe that nobody writes") << QStringLiteral("pipe.xml");
-    QTest::newRow("endless device") << QStringLiteral("/dev/zero");
-    QTest::newRow("empty device") << QStringLiteral("/dev/null");
-    QTest::newRow("link to nowhere") << QStringLiteral("dangling.xml");
-    QTest::newRow("link to itself") << QStringLiteral("loop.xml");
-    QTest::newRow("link to a device") << QStringLiteral("device.xml");
-    QTest::newRow("path that goes on behind a NUL")
-        << QStringLiteral("good.xml") + QChar(QChar::Null) + QStringLiteral(".xml");
-    QTest::newRow("path below a file") << QStringLiteral("good.xml/x");
-    QTest::newRow("name that is too long") << QString(5'000, QLatin1Char('x'));
-    QTest::newRow("empty file") << QStringLiteral("empty.xml");
-    QTest::newRow("64 MiB and a byte") << QStringLiteral("large.xml");
-}
-
-void TestPapywizardReader::parseRefusesWhatIsNoRecordFile()
-{
-    QFETCH(QString, path);
-
-    const QTemporaryDir folder;
-    const auto encoded
-        = [&folder](const QString &name) { return QFile::encodeName(folder.filePath(name)); };
-    write(folder.filePath(QStringLiteral("good.xml")), "<p/>");
-    write(folder.filePath(QStringLiteral("empty.xml")), QByteArray());
-    QCOMPARE(::mkfifo(encoded(QStringLiteral("pipe.xml")).constData(), 0600), 0);
-    QCOMPARE(::symlink("nowhere.xml", encoded(QStringLiteral("dangling.xml")).constData()), 0);
-    QCOMPARE(::symlink("loop.xml", encoded(QStringLiteral("loop.xml")).constData()), 0);
-    QCOMPARE(::symlink("/dev/zero", encoded(QStringLiteral("device.xml")).constData()), 0);
-    QFile large(folder.filePath(QStringLiteral("large.xml")));
-    QVERIFY(large.open(QIODevice::WriteOnly));
-    QVERIFY(large.write("<p/>") == 4 && large.resize(64LL * 1024 * 1024 + 1));
-    large.close();
-
-    MerlinToSPP generator;
-    const bool isPath = path.isEmpty() || QDir::isAbsolutePath(path);
-    QVERIFY(!generator.parse(isPath ? path : folder.filePath(path)));
-    QCOMPARE(described(recordOf(generator)), described(PapywizardRecord()));
-}
-
-void TestPapywizardReader::parseNeedsTheRightToRead()
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("secret.xml"));
-    write(path, "<p/>");
-    QVERIFY(::chmod(QFile::encodeName(folder.path()).constData(), 0755) == 0);
-    QVERIFY(::chmod(QFile::encodeName(path).constData(), 0000) == 0);
-
-    // Root may read everything: the test then asks as somebody else.
-    constexpr uid_t kNobody = 65'534;
-    const uid_t self = ::geteuid();
-    QVERIFY(self != 0 || ::seteuid(kNobody) == 0);
-    MerlinToSPP generator;
-    const bool parsed = generator.parse(path);
-    QVERIFY(self != 0 || ::seteuid(self) == 0);
-    QVERIFY(!parsed);
-
-    QVERIFY(::chmod(QFile::encodeName(path).constData(), 0644) == 0);
-    QVERIFY(generator.parse(path));
-}
-
-void TestPapywizardReader::parseFollowsLinksAndTakesAnyName_data()
-{
-    QTest::addColumn<QString>("name");
-
-    QTest::newRow("plain") << QStringLiteral("a.xml");
-    QTest::newRow("no ending") << QStringLiteral("record");
-    QTest::newRow("link") << QStringLiteral("link.xml");
-    QTest::newRow("blanks and signs") << QStringLiteral("a b #?%41&'\"<i>.xml");
-    QTest::newRow("letters beyond ASCII") << QString::fromUtf8("\u00e9\u65e5.xml");
-    QTest::newRow("line break") << QStringLiteral("a\nb.xml");
-}
-
-void TestPapywizardReader::parseFollowsLinksAndTakesAnyName()
-{
-    QFETCH(QString, name);
-
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(name);
-    if (name == QLatin1String("link.xml")) {
-        QVERIFY(QFile::link(dataFile(QStringLiteral("mosaic.xml")), path));
-    } else {
-        QVERIFY(QFile::copy(dataFile(QStringLiteral("mosaic.xml")), path));
-    }
-    MerlinToSPP generator;
-    QVERIFY(generator.parse(path));
-    QCOMPARE(generator.shots.size(), 6);
 }
 
 TEST_CLASS(TestPapywizardReader, QCoreApplication)
