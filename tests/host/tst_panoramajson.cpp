@@ -1,228 +1,24 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/core/panoramajson.h"
+#include "tests/host/testpanoramas.h"
 #include "tests/support/testprogram.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
 #include <QTemporaryDir>
 #include <QtTest>
 
 #include <cmath>
 #include <cstring>
-#include <limits>
 #include <random>
 
 using namespace PanoHost;
-
-namespace
-{
-
-const QString kFolder = QStringLiteral("/work/pano");
-
-Panorama sample()
-{
-    Panorama panorama;
-    panorama.source = { QStringLiteral("7A21C94E-5B20-2020-2020-483181480AB7"),
-                        QStringLiteral("Papywizard import"), kFolder + QStringLiteral("/pano.xml"),
-                        QStringLiteral("1.0") };
-    panorama.focal35mm = 24.0;
-    panorama.lens = LensModel::Standard;
-    StructuredPanoramaProperties &d = panorama.description;
-    d.positionsKnown = true;
-    d.rollKnown = true;
-    d.focalLength = 24.0F;
-    d.lensModel = LensModel::Standard;
-    d.autoDetection = true;
-    d.levelLinking = 1;
-    d.cleanWrongLinks = true;
-    d.yaw = { 0.0F, 0.628318548F };
-    d.pitch = { 0.785398185F, -0.785398185F };
-    d.roll = { 0.0F, 1.57079637F };
-    AuthorizedLink link;
-    link.linkType = 2;
-    link.indices = { 0, 1 };
-    d.authorizedLinks = { link };
-    for (int i = 0; i < 2; ++i) {
-        Position position;
-        position.yawDegrees = 36.0 * i;
-        position.pitchDegrees = i == 0 ? 45.0 : -45.0;
-        position.rollDegrees = 90.0 * i;
-        PhotoInfo photo;
-        photo.path = kFolder + QStringLiteral("/img_000%1.jpg").arg(i + 1);
-        photo.storedSize = QSize(1200, 800);
-        photo.orientation = i == 0 ? 1 : 6;
-        if (i == 0) {
-            photo.exposureValue = 12.643856189774724;
-            photo.timeText = QStringLiteral("2024-05-01T10:00:00");
-            photo.timeMs = 1714557600000;
-        }
-        position.photos = { photo };
-        panorama.positions.append(position);
-        d.imageGroups.append({ photo.path });
-    }
-    panorama.project = ProjectReference{ kFolder + QStringLiteral("/pano.pto"), 356.0 };
-    panorama.warnings = QStringList(QStringLiteral("a \"warning\"\nof two lines"));
-    return panorama;
-}
-
-/** A description full of odd values, different for each \p seed. */
-Panorama randomPanorama(unsigned seed)
-{
-    std::mt19937 random(seed);
-    std::uniform_real_distribution<double> angle(-1e4, 1e4);
-    std::uniform_int_distribution<int> count(0, 5);
-    Panorama panorama = sample();
-    StructuredPanoramaProperties &d = panorama.description;
-    d = StructuredPanoramaProperties();
-    panorama.positions.clear();
-    const int positions = count(random);
-    for (int i = 0; i < positions; ++i) {
-        Position position;
-        position.yawDegrees = angle(random);
-        position.pitchDegrees = angle(random) / 1e7;
-        position.rollDegrees = angle(random);
-        const int photos = 1 + count(random);
-        for (int k = 0; k < photos; ++k) {
-            PhotoInfo photo;
-            photo.path = kFolder + QString::fromUtf8("/ä\"b\\c %1 $(id)\t.jpg").arg(k);
-            photo.storedSize = QSize(count(random), count(random));
-            photo.orientation = 1 + count(random);
-            if (count(random) > 2) {
-                photo.exposureValue = angle(random) / 1000.0;
-                photo.timeText = QStringLiteral("2024-03-31T02:30:00.125");
-            }
-            position.photos.append(photo);
-            // any bits that make a 32-bit float, finite or not
-            const auto bits = static_cast<quint32>(random());
-            float value = 0.0F;
-            std::memcpy(&value, &bits, sizeof value);
-            d.yaw.append(value);
-            d.pitch.append(float(angle(random)));
-        }
-        panorama.positions.append(position);
-    }
-    d.gridRows = count(random);
-    d.gridMode = count(random);
-    d.overlap = angle(random);
-    d.renderMode = count(random) - 1;
-    d.reservedValues = { { -1, 2147483647, int(-2147483647 - 1) } };
-    d.reservedText1 = QString::fromUtf8("全景");
-    if (count(random) > 2) {
-        panorama.project.reset();
-    }
-    return panorama;
-}
-
-// A validator for the part of JSON Schema (draft 7) that the schema file uses.
-
-QString typeOf(const QJsonValue &value)
-{
-    switch (value.type()) {
-    case QJsonValue::Null:
-        return QStringLiteral("null");
-    case QJsonValue::Bool:
-        return QStringLiteral("boolean");
-    case QJsonValue::Double:
-        return std::floor(value.toDouble()) == value.toDouble() ? QStringLiteral("integer")
-                                                                : QStringLiteral("number");
-    case QJsonValue::String:
-        return QStringLiteral("string");
-    case QJsonValue::Array:
-        return QStringLiteral("array");
-    default:
-        return QStringLiteral("object");
-    }
-}
-
-bool hasType(const QJsonValue &value, const QJsonValue &wanted)
-{
-    const QJsonArray types = wanted.isArray() ? wanted.toArray() : QJsonArray{ wanted };
-    const QString type = typeOf(value);
-    return types.contains(type)
-        || (type == QLatin1String("integer") && types.contains(QStringLiteral("number")));
-}
-
-QString validate(const QJsonValue &value, const QJsonObject &schema, const QString &path);
-
-QString validateObject(const QJsonObject &object, const QJsonObject &schema, const QString &path)
-{
-    const QJsonArray required = schema[QLatin1String("required")].toArray();
-    for (const QJsonValue &key : required) {
-        if (!object.contains(key.toString())) {
-            return path + QStringLiteral(": lacks ") + key.toString();
-        }
-    }
-    const QJsonObject properties = schema[QLatin1String("properties")].toObject();
-    const QStringList keys = object.keys();
-    for (const QString &key : keys) {
-        if (!properties.contains(key)) {
-            return path + QStringLiteral(": must not have ") + key;
-        }
-        const QString problem
-            = validate(object[key], properties[key].toObject(), path + QLatin1Char('/') + key);
-        if (!problem.isEmpty()) {
-            return problem;
-        }
-    }
-    return {};
-}
-
-QString validateArray(const QJsonArray &array, const QJsonObject &schema, const QString &path)
-{
-    const int least = schema[QLatin1String("minItems")].toInt(0);
-    const int most = schema[QLatin1String("maxItems")].toInt(std::numeric_limits<int>::max());
-    if (array.size() < least || array.size() > most) {
-        return path + QStringLiteral(": number of items");
-    }
-    for (int i = 0; i < array.size(); ++i) {
-        const QString problem = validate(array[i], schema[QLatin1String("items")].toObject(),
-                                         path + QStringLiteral("[%1]").arg(i));
-        if (!problem.isEmpty()) {
-            return problem;
-        }
-    }
-    return {};
-}
-
-/** Empty when \p value fits \p schema, else where and why not. */
-QString validate(const QJsonValue &value, const QJsonObject &schema, const QString &path)
-{
-    if (schema.contains(QLatin1String("type")) && !hasType(value, schema[QLatin1String("type")])) {
-        return path + QStringLiteral(": is of type ") + typeOf(value);
-    }
-    const bool listed = !schema.contains(QLatin1String("enum"))
-        || schema[QLatin1String("enum")].toArray().contains(value);
-    const bool constant
-        = !schema.contains(QLatin1String("const")) || schema[QLatin1String("const")] == value;
-    const bool inRange = !value.isDouble()
-        || (value.toDouble() >= schema[QLatin1String("minimum")].toDouble(-1e300)
-            && value.toDouble() <= schema[QLatin1String("maximum")].toDouble(1e300));
-    const bool longEnough = !value.isString()
-        || value.toString().size() >= schema[QLatin1String("minLength")].toInt(0);
-    if (!listed || !constant || !inRange || !longEnough) {
-        return path + QStringLiteral(": has a value that is not allowed");
-    }
-    if (value.isObject()) {
-        return validateObject(value.toObject(), schema, path);
-    }
-    return value.isArray() ? validateArray(value.toArray(), schema, path) : QString();
-}
-
-QJsonObject schema()
-{
-    QFile file(QStringLiteral(PANOHOST_SCHEMA));
-    if (!file.open(QIODevice::ReadOnly)) {
-        qFatal("cannot open the schema");
-    }
-    return QJsonDocument::fromJson(file.readAll()).object();
-}
-
-} // namespace
+using TestPanoramas::kFolder;
+using TestPanoramas::randomPanorama;
+using TestPanoramas::sample;
 
 class PanoramaJsonTest : public QObject
 {
@@ -234,9 +30,6 @@ private Q_SLOTS:
     void everyPanoramaComesBackByteForByte();
     void fieldOfViewBelongsToTheFocalLengthWritten();
     void everyAngleKeepsItsBits();
-    void outputFitsTheSchema();
-    void schemaCheckFindsWhatIsWrong_data();
-    void schemaCheckFindsWhatIsWrong();
     void unknownKeysAreIgnored();
     void missingKeysAreDefaults();
     void pathsFollowTheFolder();
@@ -363,49 +156,6 @@ void PanoramaJsonTest::everyAngleKeepsItsBits()
                         panorama.description.yaw.constData(),
                         size_t(panorama.description.yaw.size()) * sizeof(float))
             == 0);
-}
-
-void PanoramaJsonTest::outputFitsTheSchema()
-{
-    const QJsonObject rules = schema();
-    QVERIFY(rules.contains(QLatin1String("properties")));
-    const auto problem = [&rules](const Panorama &panorama) {
-        return validate(QJsonDocument::fromJson(panoramaToJson(panorama, kFolder)).object(), rules,
-                        {});
-    };
-    QCOMPARE(problem(sample()), QString());
-    QCOMPARE(problem(Panorama()), QString());
-    for (unsigned seed = 0; seed < 100; ++seed) {
-        const QString found = problem(randomPanorama(seed));
-        QVERIFY2(found.isEmpty(), qPrintable(found));
-    }
-}
-
-void PanoramaJsonTest::schemaCheckFindsWhatIsWrong_data()
-{
-    QTest::addColumn<QByteArray>("from");
-    QTest::addColumn<QByteArray>("to");
-    QTest::newRow("schema 2") << QByteArray("\"schema\": 1") << QByteArray("\"schema\": 2");
-    QTest::newRow("renamed key") << QByteArray("\"links\"") << QByteArray("\"Links\"");
-    QTest::newRow("text for a number")
-        << QByteArray("\"focal35mm\": 24") << QByteArray("\"focal35mm\": \"24\"");
-    QTest::newRow("fraction for a count")
-        << QByteArray("\"width\": 1200") << QByteArray("\"width\": 1200.5");
-    QTest::newRow("orientation 9")
-        << QByteArray("\"orientation\": 6") << QByteArray("\"orientation\": 9");
-    QTest::newRow("unknown lens") << QByteArray("\"standard\"") << QByteArray("\"round\"");
-    QTest::newRow("extra key") << QByteArray("{\"type\": 2,")
-                               << QByteArray("{\"x\": 1, \"type\": 2,");
-}
-
-void PanoramaJsonTest::schemaCheckFindsWhatIsWrong()
-{
-    QFETCH(QByteArray, from);
-    QFETCH(QByteArray, to);
-    QByteArray text = panoramaToJson(sample(), kFolder);
-    QVERIFY(text.contains(from));
-    text.replace(from, to);
-    QVERIFY(!validate(QJsonDocument::fromJson(text).object(), schema(), {}).isEmpty());
 }
 
 void PanoramaJsonTest::unknownKeysAreIgnored()

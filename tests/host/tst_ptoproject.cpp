@@ -1,55 +1,20 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/core/ptoproject.h"
+#include "tests/host/testpanoramas.h"
 #include "tests/support/testprogram.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include <cmath>
 
 using namespace PanoHost;
+using TestPanoramas::photoNamed;
+using TestPanoramas::positionAt;
+using TestPanoramas::row;
 
 namespace
 {
-
-PhotoInfo photoNamed(const QString &name)
-{
-    PhotoInfo photo;
-    photo.path = QStringLiteral("/photos/") + name;
-    photo.storedSize = QSize(1200, 800);
-    photo.exposureValue = 12.643856189774724;
-    return photo;
-}
-
-Position positionAt(double yaw, double pitch, const QVector<PhotoInfo> &photos)
-{
-    Position position;
-    position.yawDegrees = yaw;
-    position.pitchDegrees = pitch;
-    position.photos = photos;
-    return position;
-}
-
-/** One row of \p count stacks of \p each photos all around: 1.jpg, 2.jpg, ... */
-Panorama row(int count, int each = 1)
-{
-    Panorama panorama;
-    panorama.focal35mm = 24.0;
-    panorama.description.positionsKnown = true;
-    int number = 0;
-    for (int i = 0; i < count; ++i) {
-        QVector<PhotoInfo> photos;
-        for (int k = 0; k < each; ++k) {
-            photos.append(photoNamed(QStringLiteral("%1.jpg").arg(++number)));
-        }
-        panorama.positions.append(positionAt(i * 360.0 / count, 0.0, photos));
-    }
-    return panorama;
-}
 
 /** Out of line, else GCC 12 takes the assignment for one to the empty vector's shared block. */
 Q_NEVER_INLINE void setExposure(PhotoInfo &photo, std::optional<double> exposure)
@@ -127,18 +92,6 @@ private Q_SLOTS:
     void widthCanBeChosen();
     void outputFollowsStacksAndMode_data();
     void outputFollowsStacksAndMode();
-    void namesAreRelativeToTheProject_data();
-    void namesAreRelativeToTheProject();
-    void nameThatTheFormatCannotHoldIsRefused_data();
-    void nameThatTheFormatCannotHoldIsRefused();
-    void missingNumbersAreRefused();
-    void angleThatIsNoNumberIsRefused_data();
-    void angleThatIsNoNumberIsRefused();
-    void hugeNumbersStayNumbers();
-    void focalLengthOfNoLensIsRefused_data();
-    void focalLengthOfNoLensIsRefused();
-    void projectIsWrittenNextToThePhotos();
-    void failedWriteLeavesTheOldProject();
 };
 
 void PtoProjectTest::singlePhotoIsWrittenWordForWord()
@@ -453,192 +406,6 @@ void PtoProjectTest::outputFollowsStacksAndMode()
     QCOMPARE(comments.takeFirst(), QByteArray("# hugin project file"));
     QCOMPARE(comments.takeFirst(), QByteArray("#hugin_ptoversion 2"));
     QCOMPARE(comments, expected);
-}
-
-void PtoProjectTest::namesAreRelativeToTheProject_data()
-{
-    QTest::addColumn<QString>("photo");
-    QTest::addColumn<QString>("folder");
-    QTest::addColumn<QString>("written");
-    QTest::newRow("same folder") << "/a/b/x.jpg"
-                                 << "/a/b"
-                                 << "x.jpg";
-    QTest::newRow("below") << "/a/b/photos/x.jpg"
-                           << "/a/b"
-                           << "photos/x.jpg";
-    QTest::newRow("beside") << "/a/c/x.jpg"
-                            << "/a/b"
-                            << "../c/x.jpg";
-    QTest::newRow("no folder") << "/a/b/x.jpg"
-                               << ""
-                               << "/a/b/x.jpg";
-    QTest::newRow("blanks") << "/a/b/x y.jpg"
-                            << "/a/b"
-                            << "x y.jpg";
-    QTest::newRow("umlaut") << QString::fromUtf8("/a/b/Höhe.jpg") << "/a/b"
-                            << QString::fromUtf8("Höhe.jpg");
-    QTest::newRow("placeholder") << "/a/b/%1.jpg"
-                                 << "/a/b"
-                                 << "%1.jpg";
-    QTest::newRow("apostrophe") << "/a/b/it's $(id).jpg"
-                                << "/a/b"
-                                << "it's $(id).jpg";
-}
-
-void PtoProjectTest::namesAreRelativeToTheProject()
-{
-    QFETCH(QString, photo);
-    QFETCH(QString, folder);
-    QFETCH(QString, written);
-    Panorama panorama = row(1);
-    panorama.positions[0].photos[0].path = photo;
-    PtoOptions options;
-    options.projectFolder = folder;
-    const auto project = makePtoProject(panorama, options);
-    QVERIFY(project.ok());
-    QVERIFY(project.value().text.contains(" Vm5 n\"" + written.toUtf8() + "\"\n"));
-}
-
-void PtoProjectTest::nameThatTheFormatCannotHoldIsRefused_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::newRow("quotation mark") << "a\"b.jpg";
-    QTest::newRow("line end") << "a\nb.jpg";
-    QTest::newRow("carriage return") << "a\rb.jpg";
-    QTest::newRow("NUL") << QStringLiteral("a") + QChar(QChar::Null) + QStringLiteral("b.jpg");
-}
-
-void PtoProjectTest::nameThatTheFormatCannotHoldIsRefused()
-{
-    QFETCH(QString, name);
-    Panorama panorama = row(2);
-    panorama.positions[1].photos[0].path = QStringLiteral("/photos/") + name;
-    static int messages = 0;
-    messages = 0;
-    const auto handler = qInstallMessageHandler(
-        [](QtMsgType, const QMessageLogContext &, const QString &) { ++messages; });
-    const auto project = makePtoProject(panorama);
-    qInstallMessageHandler(handler);
-    QCOMPARE(messages, 0); // Qt is not asked about names that cannot be
-    QVERIFY(!project.ok());
-    QCOMPARE(project.error().what, QStringLiteral("/photos/") + name);
-    QCOMPARE(project.error().tryThis, QStringLiteral("rename the file"));
-    QCOMPARE(project.error().code, ExitCode::InputRefused);
-    QVERIFY(!errorLine(project.error()).contains(QLatin1Char('\n')));
-}
-
-void PtoProjectTest::missingNumbersAreRefused()
-{
-    Panorama panorama = row(2);
-    panorama.focal35mm = 0.0;
-    QCOMPARE(makePtoProject(panorama).error().text(),
-             QStringLiteral("focal length: neither the record nor the photos name it; give it "
-                            "with --focal"));
-    panorama = row(2);
-    panorama.positions[1].photos[0].storedSize = QSize();
-    QCOMPARE(makePtoProject(panorama).error().text(),
-             QStringLiteral("/photos/2.jpg: its size in pixels is not known; can another program "
-                            "open it? leave it out if not"));
-    panorama = row(0);
-    QVERIFY(!makePtoProject(panorama).ok());
-}
-
-void PtoProjectTest::angleThatIsNoNumberIsRefused_data()
-{
-    QTest::addColumn<double>("yaw");
-    QTest::addColumn<double>("pitch");
-    QTest::newRow("yaw not a number") << qQNaN() << 0.0;
-    QTest::newRow("pitch not a number") << 0.0 << qQNaN();
-    QTest::newRow("yaw infinite") << qInf() << 0.0;
-    QTest::newRow("pitch infinite") << 0.0 << -qInf();
-}
-
-void PtoProjectTest::angleThatIsNoNumberIsRefused()
-{
-    QFETCH(double, yaw);
-    QFETCH(double, pitch);
-    Panorama panorama = row(2);
-    panorama.positions[1].yawDegrees = yaw;
-    panorama.positions[1].pitchDegrees = pitch;
-    const auto project = makePtoProject(panorama);
-    QVERIFY(!project.ok());
-    QCOMPARE(project.error().text(),
-             QStringLiteral("/photos/2.jpg: its direction is not a number; correct the record"));
-}
-
-void PtoProjectTest::hugeNumbersStayNumbers()
-{
-    Panorama panorama = row(2);
-    panorama.positions[1].yawDegrees = 1e30;
-    panorama.positions[1].pitchDegrees = -1e30;
-    panorama.positions[1].photos[0].storedSize = QSize(2147483647, 2147483647);
-    panorama.focal35mm = 50000.0;
-    const auto project = makePtoProject(panorama);
-    QVERIFY(project.ok());
-    QVERIFY(project.value().canvas.width() > 0);
-    QVERIFY(project.value().canvas.height() > 0);
-    QVERIFY(project.value().crop.height() > 0);
-    QVERIFY(!project.value().text.contains("nan"));
-    QVERIFY(!project.value().text.contains("inf"));
-}
-
-void PtoProjectTest::focalLengthOfNoLensIsRefused_data()
-{
-    QTest::addColumn<double>("focal");
-    QTest::newRow("tiny") << 1e-30;
-    QTest::newRow("half a millimetre") << 0.5;
-    QTest::newRow("a hundred metres") << 100000.0;
-    QTest::newRow("huge") << 1e30;
-}
-
-void PtoProjectTest::focalLengthOfNoLensIsRefused()
-{
-    QFETCH(double, focal);
-    Panorama panorama = row(2);
-    panorama.focal35mm = focal;
-    const auto project = makePtoProject(panorama);
-    QVERIFY(!project.ok());
-    QCOMPARE(project.error().what, QStringLiteral("focal length"));
-    QCOMPARE(project.error().tryThis, QStringLiteral("give it with --focal"));
-}
-
-void PtoProjectTest::projectIsWrittenNextToThePhotos()
-{
-    QTemporaryDir folder;
-    Panorama panorama = row(2);
-    panorama.positions[0].photos[0].path = folder.filePath(QStringLiteral("photos/1.jpg"));
-    panorama.positions[1].photos[0].path = folder.filePath(QStringLiteral("2.jpg"));
-    const QString path = folder.filePath(QStringLiteral("pano.pto"));
-    const auto project = writePtoProject(panorama, path);
-    QVERIFY(project.ok());
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QByteArray written = file.readAll();
-    QCOMPARE(written, project.value().text);
-    QVERIFY(written.contains("n\"photos/1.jpg\""));
-    QVERIFY(written.contains("n\"2.jpg\""));
-}
-
-void PtoProjectTest::failedWriteLeavesTheOldProject()
-{
-    QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("pano.pto"));
-    QVERIFY(writePtoProject(row(2), path).ok());
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QByteArray before = file.readAll();
-    file.close();
-    Panorama panorama = row(2);
-    panorama.positions[1].yawDegrees = qQNaN();
-    QVERIFY(!writePtoProject(panorama, path).ok());
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), before);
-    QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList{ QStringLiteral("pano.pto") });
-
-    const auto nowhere = writePtoProject(row(2), folder.filePath(QStringLiteral("no/pano.pto")));
-    QVERIFY(!nowhere.ok());
-    QVERIFY(nowhere.error().why.contains(QStringLiteral("does not exist")));
-    QVERIFY(!QFileInfo::exists(folder.filePath(QStringLiteral("no"))));
 }
 
 TEST_CLASS(PtoProjectTest, QCoreApplication)

@@ -1,0 +1,228 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/core/photofile.h"
+#include "tests/host/testphotos.h"
+#include "tests/support/testprogram.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QGuiApplication>
+#include <QImageWriter>
+#include <QTemporaryDir>
+#include <QtEndian>
+#include <QtTest>
+
+#include <cmath>
+#include <random>
+
+#include <sys/stat.h>
+
+using namespace PanoHost;
+using TestPhotos::Exif;
+
+namespace
+{
+
+/** The highest resident memory of this process so far, bytes. */
+qint64 peakMemory()
+{
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (!status.open(QIODevice::ReadOnly)) {
+        return -1;
+    }
+    const QByteArray all = status.readAll();
+    const int at = all.indexOf("VmHWM:");
+    return all.mid(at + 6).simplified().split(' ').first().toLongLong() * 1024;
+}
+
+/** A PNG that ends after its header. */
+QByteArray pngHeader(quint32 width, quint32 height)
+{
+    QByteArray body("IHDR");
+    for (const quint32 number : { width, height }) {
+        quint32 big = qToBigEndian(number);
+        body.append(reinterpret_cast<const char *>(&big), 4);
+    }
+    body.append("\x08\x06\x00\x00\x00", 5);
+    quint32 crc = 0xFFFFFFFFU;
+    for (const char byte : qAsConst(body)) {
+        crc ^= static_cast<unsigned char>(byte);
+        for (int bit = 0; bit < 8; ++bit) {
+            crc = (crc >> 1) ^ ((crc & 1U) != 0 ? 0xEDB88320U : 0U);
+        }
+    }
+    const quint32 bigCrc = qToBigEndian(~crc);
+    return QByteArray("\x89PNG\r\n\x1a\n\x00\x00\x00\x0d", 12) + body
+        + QByteArray(reinterpret_cast<const char *>(&bigCrc), 4);
+}
+
+/** \p jpeg with a first scan that holds one component only. */
+QByteArray withOneComponentScans(QByteArray jpeg)
+{
+    const int scan = jpeg.indexOf("\xFF\xDA");
+    if (scan < 0) {
+        qFatal("no scan");
+    }
+    // length 8: itself, one component with its tables, three bytes for the spectrum
+    jpeg.replace(scan + 2, 3, QByteArray("\x00\x08\x01", 3));
+    return jpeg;
+}
+
+/** A JPEG whose frame header claims \p width x \p height. */
+QByteArray jpegClaiming(quint16 width, quint16 height, bool progressive)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QImageWriter writer(&buffer, "jpeg");
+    writer.setProgressiveScanWrite(progressive);
+    writer.write(TestPhotos::quarters({ 64, 64 }));
+    const QByteArray marker = progressive ? QByteArray("\xFF\xC2") : QByteArray("\xFF\xC0");
+    const int frame = bytes.indexOf(marker);
+    if (frame < 0) {
+        qFatal("no frame header");
+    }
+    qToBigEndian(height, bytes.data() + frame + 5);
+    qToBigEndian(width, bytes.data() + frame + 7);
+    return bytes;
+}
+
+} // namespace
+
+/** Files that are no photos, are damaged or claim too much. */
+class PhotoFileRefusedTest : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** Before the application. */
+    static void initMain() { initializePhotoReading(); }
+
+private Q_SLOTS:
+    void whatIsNoPhotoIsRefused_data();
+    void whatIsNoPhotoIsRefused();
+    void pipesAndDevicesAreNeverRead_data();
+    void pipesAndDevicesAreNeverRead();
+    void hugeClaimsTakeNoMemory_data();
+    void hugeClaimsTakeNoMemory();
+    void damagedPhotosAreReadOrRefused();
+
+private:
+    [[nodiscard]] QString at(const QString &name) const { return m_folder.filePath(name); }
+    QTemporaryDir m_folder;
+};
+
+void PhotoFileRefusedTest::whatIsNoPhotoIsRefused_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    const QByteArray jpeg = TestPhotos::jpegBytes(TestPhotos::quarters({ 60, 40 }));
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("words") << QByteArray("This is not a photo.\n");
+    QTest::newRow("a record") << QByteArray("<?xml version='1.0'?><papywizard/>");
+    QTest::newRow("cut after two bytes") << jpeg.left(2);
+    QTest::newRow("cut in the header") << jpeg.left(100);
+    QTest::newRow("a drawing") << QByteArray(
+        "<svg xmlns='http://www.w3.org/2000/svg' width='60' height='40'><rect/></svg>");
+    QTest::newRow("zeros") << QByteArray(100000, 0);
+}
+
+void PhotoFileRefusedTest::whatIsNoPhotoIsRefused()
+{
+    QFETCH(QByteArray, content);
+    const QString path = TestPhotos::writeFile(at(QStringLiteral("IMG_0012.jpg")), content);
+    const auto reading = readPhoto(path);
+    QVERIFY(!reading.ok());
+    QCOMPARE(reading.error().what, path);
+    QCOMPARE(reading.error().why, QStringLiteral("cannot read (not a photo?)"));
+    QCOMPARE(reading.error().code, ExitCode::InputRefused);
+    QVERIFY(!readPhotoInfo(path).ok());
+}
+
+void PhotoFileRefusedTest::pipesAndDevicesAreNeverRead_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("why");
+    const QString pipe = at(QStringLiteral("pipe.jpg"));
+    QFile::remove(pipe);
+    QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    QTest::newRow("pipe") << pipe << "is not a regular file";
+    QTest::newRow("device") << "/dev/zero"
+                            << "is not a regular file";
+    QTest::newRow("folder") << m_folder.path() << "is a folder";
+    QTest::newRow("missing") << at(QStringLiteral("missing.jpg")) << "no such file";
+}
+
+void PhotoFileRefusedTest::pipesAndDevicesAreNeverRead()
+{
+    QFETCH(QString, path);
+    QFETCH(QString, why);
+    const auto reading = readPhoto(path);
+    QVERIFY(!reading.ok());
+    QCOMPARE(reading.error().what, path);
+    QCOMPARE(reading.error().why, why);
+    QVERIFY(!readPhotoInfo(path).ok());
+}
+
+void PhotoFileRefusedTest::hugeClaimsTakeNoMemory_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("PNG of 3.6 gigapixels") << pngHeader(60000, 60000);
+    QTest::newRow("progressive JPEG of 4.3 gigapixels") << jpegClaiming(65500, 65500, true);
+    QTest::newRow("JPEG of 4.3 gigapixels in a scan per component")
+        << withOneComponentScans(jpegClaiming(65500, 65500, false));
+    QTest::newRow("JPEG of 4.3 gigapixels") << jpegClaiming(65500, 65500, false);
+}
+
+void PhotoFileRefusedTest::hugeClaimsTakeNoMemory()
+{
+    QFETCH(QByteArray, content);
+    const QString path = TestPhotos::writeFile(at(QStringLiteral("huge.jpg")), content);
+    const qint64 before = peakMemory();
+    const auto reading = readPhoto(path);
+    const qint64 taken = peakMemory() - before;
+    QVERIFY2(taken < 512LL * 1024 * 1024, qPrintable(QString::number(taken)));
+    if (reading.ok()) {
+        QVERIFY(reading.value().thumbnail.width() <= kThumbnailSide);
+        QVERIFY(reading.value().thumbnail.height() <= kThumbnailSide);
+    }
+}
+
+void PhotoFileRefusedTest::damagedPhotosAreReadOrRefused()
+{
+    Exif exif = TestPhotos::ordinaryExif();
+    exif["Exif.Image.Orientation"] = "6";
+    QFile file(TestPhotos::writeJpeg(at(QStringLiteral("whole.jpg")),
+                                     TestPhotos::quarters({ 60, 40 }), exif));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray jpeg = file.readAll();
+    const QByteArray raw = TestPhotos::rawFile({ 6000, 4000 }, 6, jpeg);
+    std::mt19937 random(11);
+    int readable = 0;
+    constexpr int kRounds = 400;
+    for (int i = 0; i < kRounds; ++i) {
+        QByteArray bytes = i % 2 == 0 ? jpeg : raw;
+        // The headers lie in front: damage goes there.
+        const uint front = std::min(uint(bytes.size()), 800U);
+        for (int k = 0; k < 4; ++k) {
+            bytes[int(random() % front)] = static_cast<char>(random());
+        }
+        const auto reading
+            = readPhoto(TestPhotos::writeFile(at(QStringLiteral("damaged.jpg")), bytes));
+        if (reading.ok()) {
+            ++readable;
+            const PhotoInfo &info = reading.value().info;
+            QVERIFY(!info.storedSize.isEmpty());
+            QVERIFY(info.orientation >= 1 && info.orientation <= 8);
+            QVERIFY(std::isfinite(info.focal35mm) && info.focal35mm >= 0.0);
+            QVERIFY(!info.exposureValue || std::isfinite(*info.exposureValue));
+            QVERIFY(!reading.value().thumbnail.isNull());
+            QVERIFY(reading.value().thumbnail.width() <= kThumbnailSide);
+            QVERIFY(reading.value().thumbnail.height() <= kThumbnailSide);
+        }
+    }
+    QVERIFY(readable > kRounds / 10);
+    QVERIFY(readable < kRounds);
+}
+
+TEST_CLASS(PhotoFileRefusedTest, QGuiApplication)
+#include "tst_photofile_refused.moc"
