@@ -21,6 +21,9 @@ QQueue<QString> withoutDuplicates(QStringList files)
     files.removeDuplicates();
     QQueue<QString> queue;
     queue.append(files);
+    // The thread would copy a shared list when it takes the first file, and end the process when
+    // there is no memory for that.
+    queue.detach();
     return queue;
 }
 
