@@ -11,43 +11,34 @@
 namespace
 {
 
-const QVector<FormRow> kRows{
-    { "tabWidget", "QTabWidget", "" },
-    { "General", "QWidget", "General" },
-    { "label", "QLabel", "Script file:" },
-    { "m_leConfigFile", "QLineEdit", "" },
-    { "m_pbSelectConfigFile", "QPushButton", "..." },
-    { "m_pbReset", "QPushButton", "Reset" },
-    { "label_5", "QLabel", "Number of shoot:" },
-    { "m_lbPapyLog", "QLabel", "N/A" },
-    { "label_6", "QLabel", "Theta:" },
-    { "m_lbThetaMinMax", "QLabel", "N/A" },
-    { "label_9", "QLabel", "Phi:" },
-    { "m_lbPhiMinMax", "QLabel", "N/A" },
-    { "m_pInverseCoordinates", "QPushButton", "Inverse Y coordinates" },
-    { "m_lbImage_2", "QLabel", "Images:" },
-    { "m_leImage", "QLineEdit", "" },
-    { "m_pbSelectImages", "QPushButton", "..." },
-    { "label_10", "QLabel", "Number of image:" },
-    { "m_lbImageLog", "QLabel", "N/A" },
-    { "tab_2", "QWidget", "Options" },
-    { "m_autoStart", "QCheckBox", "Auto detection" },
-    { "m_cleanLink", "QCheckBox", "Clean wrong link" },
-    { "m_noOptim", "QCheckBox", "Skip optimization" },
-    { "m_GridOptim", "QCheckBox", "Guided optimization" },
-    { "groupBox", "QGroupBox", "Preview" },
-    { "m_saPreview", "QScrollArea", "" },
-    { "label_2", "QLabel", "Zoom" },
-    { "m_hSlider", "QSlider", "" },
-};
-
-const std::vector<FormPlace> kPlaces{
-    { "General",
-      { "label", "m_leConfigFile", "m_pbSelectConfigFile", "m_pbReset", "label_5", "m_lbPapyLog",
-        "label_6", "m_lbThetaMinMax", "label_9", "m_lbPhiMinMax", "m_pInverseCoordinates",
-        "m_lbImage_2", "m_leImage", "m_pbSelectImages", "label_10", "m_lbImageLog" } },
-    { "Options", { "m_autoStart", "m_cleanLink", "m_noOptim", "m_GridOptim" } },
-    { "Preview", { "m_saPreview", "label_2", "m_hSlider" } },
+const Form kForm{
+    { { "tabWidget", "QTabWidget", "" }, {} },
+    { { "General", "QWidget", "General" },
+      { { "label", "QLabel", "Script file:" },
+        { "m_leConfigFile", "QLineEdit", "" },
+        { "m_pbSelectConfigFile", "QPushButton", "..." },
+        { "m_pbReset", "QPushButton", "Reset" },
+        { "label_5", "QLabel", "Number of shoot:" },
+        { "m_lbPapyLog", "QLabel", "N/A" },
+        { "label_6", "QLabel", "Theta:" },
+        { "m_lbThetaMinMax", "QLabel", "N/A" },
+        { "label_9", "QLabel", "Phi:" },
+        { "m_lbPhiMinMax", "QLabel", "N/A" },
+        { "m_pInverseCoordinates", "QPushButton", "Inverse Y coordinates" },
+        { "m_lbImage_2", "QLabel", "Images:" },
+        { "m_leImage", "QLineEdit", "" },
+        { "m_pbSelectImages", "QPushButton", "..." },
+        { "label_10", "QLabel", "Number of image:" },
+        { "m_lbImageLog", "QLabel", "N/A" } } },
+    { { "tab_2", "QWidget", "Options" },
+      { { "m_autoStart", "QCheckBox", "Auto detection" },
+        { "m_cleanLink", "QCheckBox", "Clean wrong link" },
+        { "m_noOptim", "QCheckBox", "Skip optimization" },
+        { "m_GridOptim", "QCheckBox", "Guided optimization" } } },
+    { { "groupBox", "QGroupBox", "Preview" },
+      { { "m_saPreview", "QScrollArea", "" },
+        { "label_2", "QLabel", "Zoom" },
+        { "m_hSlider", "QSlider", "" } } },
 };
 
 } // namespace
@@ -58,11 +49,11 @@ class TestUIWPClaussForm : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void widgetHasItsKindAndText_data() { addFormRows(kRows); }
+    void widgetHasItsKindAndText_data() { addFormRows(kForm); }
     void widgetHasItsKindAndText() { checkFormRow(UIWPClauss(nullptr)); }
     void formHoldsNothingElse();
     void tabsStandInTheirOrder();
-    void widgetStandsOnItsTab_data() { addFormPlaces(kPlaces); }
+    void widgetStandsOnItsTab_data() { addFormPlaces(kForm); }
     void widgetStandsOnItsTab() { checkFormPlace(UIWPClauss(nullptr)); }
     void tabKeyFollowsTheTable();
     void labelsNameTheirFields();
@@ -71,7 +62,7 @@ private Q_SLOTS:
 
 void TestUIWPClaussForm::formHoldsNothingElse()
 {
-    QCOMPARE(formNames(UIWPClauss(nullptr)), rowNames(kRows));
+    QCOMPARE(formNames(UIWPClauss(nullptr)), rowNames(kForm));
 }
 
 void TestUIWPClaussForm::tabsStandInTheirOrder()

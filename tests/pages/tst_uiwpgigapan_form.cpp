@@ -12,66 +12,51 @@
 namespace
 {
 
-const QVector<FormRow> kRows{
-    { "tabWidget", "QTabWidget", "" },
-    { "General", "QWidget", "General" },
-    { "label_6", "QLabel", "Images :" },
-    { "m_leImage", "QLineEdit", "" },
-    { "m_pbSelectImages", "QPushButton", "..." },
-    { "m_pbReset", "QPushButton", "Reset" },
-    { "m_lbImage", "QLabel", "0 images in " }, // "# Images in" until the page first counts
-    { "m_sbRow", "QSpinBox", "4" },
-    { "label_3", "QLabel", "rows and" },
-    { "m_sbColumn", "QSpinBox", "5" },
-    { "label_2", "QLabel", "columns." },
-    { "label", "QLabel", "Ignore N files " },
-    { "m_sbIgnore", "QSpinBox", "0" },
-    { "label_4", "QLabel", "Nb image per location ( bracketing )" },
-    { "m_sbBracket", "QSpinBox", "1" },
-    { "tab_4", "QWidget", "Shoot layout" },
-    { "m_rbMode0", "QRadioButton", "Columns (default)" },
-    { "m_rbMode3", "QRadioButton", "Columns: to left" },
-    { "m_rbMode1", "QRadioButton", "Rows: downward" },
-    { "m_rbMode2", "QRadioButton", "Rows: upward" },
-    { "label_11", "QLabel", "" },
-    { "label_8", "QLabel", "" },
-    { "label_12", "QLabel", "" },
-    { "label_9", "QLabel", "" },
-    { "label_10", "QLabel", "" },
-    { "tab_5", "QWidget", "Shoot setup" },
-    { "m_cbIS360", "QCheckBox", "Force 360° panorama" },
-    { "label_14", "QLabel", "Overlapping" },
-    { "m_dsbOverlapping", "QDoubleSpinBox", "40.00" },
-    { "tab_3", "QWidget", "Stack" },
-    { "label_13", "QLabel", "Detect links in:" },
-    { "m_rbLevelLinking0", "QRadioButton", "The reference level" },
-    { "m_rbLevelLinking1", "QRadioButton", "All stack levels" },
-    { "label_5", "QLabel", "For a stack:" },
-    { "m_rbStackLinking0", "QRadioButton", "Use hard links" },
-    { "m_rbStackLinking1", "QRadioButton", "Detect control points" },
-    { "tab_2", "QWidget", "Detection options" },
-    { "m_autoStart", "QCheckBox", "Auto detection" },
-    { "m_cleanLink", "QCheckBox", "Clean wrong link" },
-    { "m_noOptim", "QCheckBox", "Skip optimization" },
-    { "groupBox", "QGroupBox", "Preview" },
-    { "m_saPreview", "QScrollArea", "" },
-    { "label_7", "QLabel", "Zoom" },
-    { "m_hSlider", "QSlider", "" },
-};
-
-const std::vector<FormPlace> kPlaces{
-    { "General",
-      { "label_6", "m_leImage", "m_pbSelectImages", "m_pbReset", "m_lbImage", "m_sbRow", "label_3",
-        "m_sbColumn", "label_2", "label", "m_sbIgnore", "label_4", "m_sbBracket" } },
-    { "Shoot layout",
-      { "m_rbMode0", "m_rbMode1", "m_rbMode2", "m_rbMode3", "label_8", "label_9", "label_10",
-        "label_11", "label_12" } },
-    { "Shoot setup", { "m_cbIS360", "label_14", "m_dsbOverlapping" } },
-    { "Stack",
-      { "label_13", "m_rbLevelLinking0", "m_rbLevelLinking1", "label_5", "m_rbStackLinking0",
-        "m_rbStackLinking1" } },
-    { "Detection options", { "m_autoStart", "m_cleanLink", "m_noOptim" } },
-    { "Preview", { "m_saPreview", "label_7", "m_hSlider" } },
+const Form kForm{
+    { { "tabWidget", "QTabWidget", "" }, {} },
+    { { "General", "QWidget", "General" },
+      { { "label_6", "QLabel", "Images :" },
+        { "m_leImage", "QLineEdit", "" },
+        { "m_pbSelectImages", "QPushButton", "..." },
+        { "m_pbReset", "QPushButton", "Reset" },
+        { "m_lbImage", "QLabel", "0 images in " }, // "# Images in" until the page first counts
+        { "m_sbRow", "QSpinBox", "4" },
+        { "label_3", "QLabel", "rows and" },
+        { "m_sbColumn", "QSpinBox", "5" },
+        { "label_2", "QLabel", "columns." },
+        { "label", "QLabel", "Ignore N files " },
+        { "m_sbIgnore", "QSpinBox", "0" },
+        { "label_4", "QLabel", "Nb image per location ( bracketing )" },
+        { "m_sbBracket", "QSpinBox", "1" } } },
+    { { "tab_4", "QWidget", "Shoot layout" },
+      { { "m_rbMode0", "QRadioButton", "Columns (default)" },
+        { "m_rbMode3", "QRadioButton", "Columns: to left" },
+        { "m_rbMode1", "QRadioButton", "Rows: downward" },
+        { "m_rbMode2", "QRadioButton", "Rows: upward" },
+        { "label_11", "QLabel", "" },
+        { "label_8", "QLabel", "" },
+        { "label_12", "QLabel", "" },
+        { "label_9", "QLabel", "" },
+        { "label_10", "QLabel", "" } } },
+    { { "tab_5", "QWidget", "Shoot setup" },
+      { { "m_cbIS360", "QCheckBox", "Force 360° panorama" },
+        { "label_14", "QLabel", "Overlapping" },
+        { "m_dsbOverlapping", "QDoubleSpinBox", "40.00" } } },
+    { { "tab_3", "QWidget", "Stack" },
+      { { "label_13", "QLabel", "Detect links in:" },
+        { "m_rbLevelLinking0", "QRadioButton", "The reference level" },
+        { "m_rbLevelLinking1", "QRadioButton", "All stack levels" },
+        { "label_5", "QLabel", "For a stack:" },
+        { "m_rbStackLinking0", "QRadioButton", "Use hard links" },
+        { "m_rbStackLinking1", "QRadioButton", "Detect control points" } } },
+    { { "tab_2", "QWidget", "Detection options" },
+      { { "m_autoStart", "QCheckBox", "Auto detection" },
+        { "m_cleanLink", "QCheckBox", "Clean wrong link" },
+        { "m_noOptim", "QCheckBox", "Skip optimization" } } },
+    { { "groupBox", "QGroupBox", "Preview" },
+      { { "m_saPreview", "QScrollArea", "" },
+        { "label_7", "QLabel", "Zoom" },
+        { "m_hSlider", "QSlider", "" } } },
 };
 
 } // namespace
@@ -82,11 +67,11 @@ class TestUIWPGigapanForm : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void widgetHasItsKindAndText_data() { addFormRows(kRows); }
+    void widgetHasItsKindAndText_data() { addFormRows(kForm); }
     void widgetHasItsKindAndText() { checkFormRow(UIWPGigapan(nullptr)); }
     void formHoldsNothingElse();
     void tabsStandInTheirOrder();
-    void widgetStandsOnItsTab_data() { addFormPlaces(kPlaces); }
+    void widgetStandsOnItsTab_data() { addFormPlaces(kForm); }
     void widgetStandsOnItsTab() { checkFormPlace(UIWPGigapan(nullptr)); }
     void tabKeyFollowsTheTable();
     void labelsNameTheirFields();
@@ -103,7 +88,7 @@ private Q_SLOTS:
 
 void TestUIWPGigapanForm::formHoldsNothingElse()
 {
-    QCOMPARE(formNames(UIWPGigapan(nullptr)), rowNames(kRows));
+    QCOMPARE(formNames(UIWPGigapan(nullptr)), rowNames(kForm));
 }
 
 void TestUIWPGigapanForm::tabsStandInTheirOrder()

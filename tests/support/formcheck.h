@@ -6,7 +6,6 @@
 #include <QString>
 #include <QStringList>
 #include <QTranslator>
-#include <QVector>
 
 #include <initializer_list>
 #include <vector>
@@ -19,14 +18,17 @@ class QWizardPage;
 struct FormRow {
     const char *name;
     const char *kind; ///< class name
-    const char *text; ///< text, title of a tab or group; "" where there is none
+    const char *text; ///< text, title of a tab or group; "": there is none; null: any
 };
 
-/** Widgets that stand on one tab, or in the group below the tabs. */
+/** A tab, or the group below the tabs, and the widgets that stand on it. */
 struct FormPlace {
-    const char *title; ///< of the tab or group
-    std::vector<const char *> names;
+    FormRow place;
+    std::vector<FormRow> widgets;
 };
+
+/** The whole form. The tab widget itself is a place without widgets. */
+using Form = std::vector<FormPlace>;
 
 /** Marks every text of one context: "text" becomes "<text>". */
 class MarkingTranslator : public QTranslator
@@ -45,20 +47,20 @@ private:
 /** The names as strings. */
 [[nodiscard]] QStringList list(std::initializer_list<const char *> names);
 
-/** Adds the rows as test data: "name", "kind" and "text". */
-void addFormRows(const QVector<FormRow> &rows);
+/** Adds all places and widgets as test data: "name", "kind" and "text". */
+void addFormRows(const Form &form);
 /** Compares the widget of the current data row with the one of \p page. */
 void checkFormRow(const QWizardPage &page);
 
-/** Adds the widgets of all places as test data: row name and "title". */
-void addFormPlaces(const std::vector<FormPlace> &places);
+/** Adds the widgets of all places as test data: row name and "title" of the place. */
+void addFormPlaces(const Form &form);
 /** Finds the widget of the current data row of \p page in its place. */
 void checkFormPlace(const QWizardPage &page);
 
 /** The names of the form's widgets, sorted; Qt's own parts of widgets left out. */
 [[nodiscard]] QStringList formNames(const QWizardPage &page);
-/** The names in \p rows, sorted. */
-[[nodiscard]] QStringList rowNames(const QVector<FormRow> &rows);
+/** The names of all places and widgets, sorted. */
+[[nodiscard]] QStringList rowNames(const Form &form);
 /** What the tab key visits, one after the other, from the first widget of the form on. */
 [[nodiscard]] QStringList tabOrder(const QWizardPage &page);
 /** "label > widget" for every label with a buddy, sorted. */
