@@ -105,6 +105,98 @@ ShootData scattered(Scatter scatter, const QVector<ShootData> &before, QRandomGe
     return {};
 }
 
+constexpr char kNone[] = "";
+constexpr char kRight[] = "2:0-1";
+constexpr char kLeft[] = "2:1-0";
+constexpr char kBelow[] = "1:0-1";
+constexpr char kAbove[] = "1:1-0";
+constexpr char kBoth[] = "2:0-1 2:1-0";
+
+void row(const char *name, const QVector<ShootData> &shots, double focal, const char *links)
+{
+    QTest::newRow(name) << shots << focal << QString::fromLatin1(links);
+}
+
+void addDirections()
+{
+    // h(24 mm) = atan(43.2666 / 48) = 0.7336; 0.65 x 30 deg = 0.65 x 0.5236 = 0.3403
+    row("30 degrees beside", { shotAt(0, 0), shotAt(30, 0) }, 24.0, kRight);
+    row("the same from the other side", { shotAt(30, 0), shotAt(0, 0) }, 24.0, kLeft);
+    // 0.65 as 32-bit number is 0.64999998: the limit h / 0.65 lies 4e-8 rad further out. 64.75 deg
+    // = 1.13010073 rad; less 0.0867506 deg = 0.00151408 rad that is 1.12858664, between 0.73358130
+    // / 0.65 = 1.12858662 and 0.73358130 / 0.64999998 = 1.12858666
+    row("reach factor of 32 bits", { shotAt(0.0867506F, 0), shotAt(64.75F, 0) }, 24.0, kRight);
+    row("just beyond it", { shotAt(0.0867472F, 0), shotAt(64.75F, 0) }, 24.0, kNone);
+    row("one position", { shotAt(0, 0) }, 24.0, kNone);
+    // 0.65 x 64 deg = 0.65 x 1.1170 = 0.7261 < 0.7336 < 0.65 x 65 deg = 0.65 x 1.1345 = 0.7374
+    row("64 degrees are near enough", { shotAt(0, 0), shotAt(64, 0) }, 24.0, kRight);
+    row("65 degrees are not", { shotAt(0, 0), shotAt(65, 0) }, 24.0, kNone);
+    row("64 degrees below", { shotAt(0, 32), shotAt(0, -32) }, 24.0, kBelow);
+    row("65 degrees below are too far", { shotAt(0, 32), shotAt(0, -33) }, 24.0, kNone);
+    // 350 to 10: the step of -340 degrees wraps to +20
+    row("over the seam", { shotAt(350, 0), shotAt(10, 0) }, 24.0, kRight);
+    row("over the seam, backwards", { shotAt(10, 0), shotAt(350, 0) }, 24.0, kLeft);
+    row("straight below", { shotAt(40, 0), shotAt(40, -30) }, 24.0, kBelow);
+    row("straight above", { shotAt(40, 0), shotAt(40, 30) }, 24.0, kAbove);
+    // Steps (20, -20): atan2 gives exactly -pi/4, from the other side 3 pi/4
+    row("exactly -pi/4 is below", { shotAt(0, 0), shotAt(20, -20) }, 24.0, kBelow);
+    // Steps (20, 20): exactly pi/4; from the other side exactly -3 pi/4, which is nothing
+    row("exactly pi/4 is beside, exactly -3 pi/4 nothing", { shotAt(0, 0), shotAt(20, 20) }, 24.0,
+        kRight);
+    row("exactly pi/4, the other way round", { shotAt(20, 20), shotAt(0, 0) }, 24.0, kLeft);
+    row("a little steeper than pi/4", { shotAt(0, 0), shotAt(20, 21) }, 24.0, kAbove);
+    row("a little steeper than -pi/4", { shotAt(0, 0), shotAt(20, -21) }, 24.0, kBelow);
+    row("a little flatter than -pi/4", { shotAt(0, 0), shotAt(21, -20) }, 24.0, kRight);
+
+    // Ascending first index, then ascending second one
+    row("a row of three", { shotAt(0, 0), shotAt(30, 0), shotAt(60, 0) }, 24.0,
+        "2:0-1 2:0-2 2:1-2");
+    // 0..30 beside, -30 below; the diagonals of 30 and -30 are exactly -pi/4 and -3 pi/4
+    row("two by two", { shotAt(0, 0), shotAt(30, 0), shotAt(0, -30), shotAt(30, -30) }, 24.0,
+        "2:0-1 1:0-2 1:0-3 1:1-3 2:2-1 2:2-3");
+}
+
+void addTurnsAndPoles()
+{
+    // Cosine exactly 1, distance 0, no step: beside, seen from both
+    row("the same direction", { shotAt(0, 0), shotAt(0, 0) }, 24.0, kBoth);
+    // 0 - -0 is 0, but -0 - 0 is -0, and the direction of a step (-0, 0) is pi
+    row("yaw 0 and yaw -0", { shotAt(0, 0), shotAt(-0.0F, 0) }, 24.0, kLeft);
+    // The wrapped step is +-360 degrees - 2 pi, which is exactly 0 in 32 bits
+    row("a full turn apart", { shotAt(0, 0), shotAt(360, 0) }, 24.0, kBoth);
+    // 20 degrees apart over the zenith. The step is pi as 32-bit number, which exceeds pi: minus
+    // 2 pi it falls below -pi and is taken back, so that both see the other to the right.
+    row("half a turn apart, over the pole", { shotAt(0, 80), shotAt(180, 80) }, 24.0, kBoth);
+    // One wrap only: +740 becomes +380, still to the right; -700 becomes -340, to the left
+    row("two turns and 20 degrees", { shotAt(0, 0), shotAt(740, 0) }, 24.0, kRight);
+    row("two turns less 20 degrees", { shotAt(0, 0), shotAt(-700, 0) }, 24.0, kLeft);
+    row("both many turns away", { shotAt(3600, 0), shotAt(3630, 0) }, 24.0, kRight);
+    // At the pole every yaw is the same direction, but the steps of the yaw decide
+    row("at the zenith", { shotAt(0, 90), shotAt(90, 90) }, 24.0, kRight);
+}
+
+void addFocalLengths()
+{
+    // 1 / 0: h = pi/2 = 1.5708; 0.65 x 138 deg = 1.5656, 0.65 x 139 deg = 1.5769
+    row("focal 0, 138 degrees", { shotAt(0, 0), shotAt(138, 0) }, 0.0, kRight);
+    row("focal 0, 139 degrees", { shotAt(0, 0), shotAt(139, 0) }, 0.0, kNone);
+    row("focal minus 0", { shotAt(0, 0), shotAt(30, 0) }, -0.0, kNone);
+    row("no focal in the record", { shotAt(0, 0), shotAt(30, 0) }, -1.0, kNone);
+    row("focal not a number", { shotAt(0, 0), shotAt(30, 0) },
+        std::numeric_limits<double>::quiet_NaN(), kNone);
+    row("focal infinite", { shotAt(0, 0), shotAt(30, 0) }, std::numeric_limits<double>::infinity(),
+        kNone);
+    row("twins on an infinite focal length", { shotAt(0, 0), shotAt(0, 0) },
+        std::numeric_limits<double>::infinity(), kNone);
+    // h(1 mm) = atan(43.2666 / 2) = 1.5246; 0.65 x 134 deg = 1.5202, 0.65 x 135 deg = 1.5315
+    row("1 mm, 134 degrees", { shotAt(0, 0), shotAt(134, 0) }, 1.0, kRight);
+    row("1 mm, 135 degrees", { shotAt(0, 0), shotAt(135, 0) }, 1.0, kNone);
+
+    row("yaw not a number", { shotAt(0, 0), shotAt(kNaN, 0) }, 24.0, kNone);
+    row("pitch infinite", { shotAt(0, 0), shotAt(0, kInfinity) }, 24.0, kNone);
+    row("both infinite", { shotAt(kInfinity, 0), shotAt(kInfinity, 0) }, 24.0, kNone);
+}
+
 } // namespace
 
 Q_DECLARE_METATYPE(ShootData)
@@ -143,86 +235,9 @@ void TestMerlinToSPPLinks::linksOfHandWorkedPositions_data()
     QTest::addColumn<double>("focal");
     QTest::addColumn<QString>("links");
 
-    const auto row
-        = [](const char *name, const QVector<ShootData> &shots, double focal, const char *links) {
-              QTest::newRow(name) << shots << focal << QString::fromLatin1(links);
-          };
-    const QVector<ShootData> pair30{ shotAt(0, 0), shotAt(30, 0) };
-    constexpr char none[] = "";
-    constexpr char right[] = "2:0-1";
-    constexpr char left[] = "2:1-0";
-    constexpr char below[] = "1:0-1";
-    constexpr char above[] = "1:1-0";
-    constexpr char both[] = "2:0-1 2:1-0";
-
-    // h(24 mm) = atan(43.2666 / 48) = 0.7336; 0.65 x 30 deg = 0.65 x 0.5236 = 0.3403
-    row("30 degrees beside", pair30, 24.0, right);
-    row("the same from the other side", { shotAt(30, 0), shotAt(0, 0) }, 24.0, left);
-    // 0.65 as 32-bit number is 0.64999998: the limit h / 0.65 lies 4e-8 rad further out. 64.75 deg
-    // = 1.13010073 rad; less 0.0867506 deg = 0.00151408 rad that is 1.12858664, between 0.73358130
-    // / 0.65 = 1.12858662 and 0.73358130 / 0.64999998 = 1.12858666
-    row("reach factor of 32 bits", { shotAt(0.0867506F, 0), shotAt(64.75F, 0) }, 24.0, right);
-    row("just beyond it", { shotAt(0.0867472F, 0), shotAt(64.75F, 0) }, 24.0, none);
-    row("one position", { shotAt(0, 0) }, 24.0, none);
-    // 0.65 x 64 deg = 0.65 x 1.1170 = 0.7261 < 0.7336 < 0.65 x 65 deg = 0.65 x 1.1345 = 0.7374
-    row("64 degrees are near enough", { shotAt(0, 0), shotAt(64, 0) }, 24.0, right);
-    row("65 degrees are not", { shotAt(0, 0), shotAt(65, 0) }, 24.0, none);
-    row("64 degrees below", { shotAt(0, 32), shotAt(0, -32) }, 24.0, below);
-    row("65 degrees below are too far", { shotAt(0, 32), shotAt(0, -33) }, 24.0, none);
-    // 350 to 10: the step of -340 degrees wraps to +20
-    row("over the seam", { shotAt(350, 0), shotAt(10, 0) }, 24.0, right);
-    row("over the seam, backwards", { shotAt(10, 0), shotAt(350, 0) }, 24.0, left);
-    row("straight below", { shotAt(40, 0), shotAt(40, -30) }, 24.0, below);
-    row("straight above", { shotAt(40, 0), shotAt(40, 30) }, 24.0, above);
-    // Steps (20, -20): atan2 gives exactly -pi/4, from the other side 3 pi/4
-    row("exactly -pi/4 is below", { shotAt(0, 0), shotAt(20, -20) }, 24.0, below);
-    // Steps (20, 20): exactly pi/4; from the other side exactly -3 pi/4, which is nothing
-    row("exactly pi/4 is beside, exactly -3 pi/4 nothing", { shotAt(0, 0), shotAt(20, 20) }, 24.0,
-        right);
-    row("exactly pi/4, the other way round", { shotAt(20, 20), shotAt(0, 0) }, 24.0, left);
-    row("a little steeper than pi/4", { shotAt(0, 0), shotAt(20, 21) }, 24.0, above);
-    row("a little steeper than -pi/4", { shotAt(0, 0), shotAt(20, -21) }, 24.0, below);
-    row("a little flatter than -pi/4", { shotAt(0, 0), shotAt(21, -20) }, 24.0, right);
-
-    // Cosine exactly 1, distance 0, no step: beside, seen from both
-    row("the same direction", { shotAt(0, 0), shotAt(0, 0) }, 24.0, both);
-    // 0 - -0 is 0, but -0 - 0 is -0, and the direction of a step (-0, 0) is pi
-    row("yaw 0 and yaw -0", { shotAt(0, 0), shotAt(-0.0F, 0) }, 24.0, left);
-    // The wrapped step is +-360 degrees - 2 pi, which is exactly 0 in 32 bits
-    row("a full turn apart", { shotAt(0, 0), shotAt(360, 0) }, 24.0, both);
-    // 20 degrees apart over the zenith. The step is pi as 32-bit number, which exceeds pi: minus
-    // 2 pi it falls below -pi and is taken back, so that both see the other to the right.
-    row("half a turn apart, over the pole", { shotAt(0, 80), shotAt(180, 80) }, 24.0, both);
-    // One wrap only: +740 becomes +380, still to the right; -700 becomes -340, to the left
-    row("two turns and 20 degrees", { shotAt(0, 0), shotAt(740, 0) }, 24.0, right);
-    row("two turns less 20 degrees", { shotAt(0, 0), shotAt(-700, 0) }, 24.0, left);
-    row("both many turns away", { shotAt(3600, 0), shotAt(3630, 0) }, 24.0, right);
-    // At the pole every yaw is the same direction, but the steps of the yaw decide
-    row("at the zenith", { shotAt(0, 90), shotAt(90, 90) }, 24.0, right);
-
-    // Ascending first index, then ascending second one
-    row("a row of three", { shotAt(0, 0), shotAt(30, 0), shotAt(60, 0) }, 24.0,
-        "2:0-1 2:0-2 2:1-2");
-    // 0..30 beside, -30 below; the diagonals of 30 and -30 are exactly -pi/4 and -3 pi/4
-    row("two by two", { shotAt(0, 0), shotAt(30, 0), shotAt(0, -30), shotAt(30, -30) }, 24.0,
-        "2:0-1 1:0-2 1:0-3 1:1-3 2:2-1 2:2-3");
-
-    // 1 / 0: h = pi/2 = 1.5708; 0.65 x 138 deg = 1.5656, 0.65 x 139 deg = 1.5769
-    row("focal 0, 138 degrees", { shotAt(0, 0), shotAt(138, 0) }, 0.0, right);
-    row("focal 0, 139 degrees", { shotAt(0, 0), shotAt(139, 0) }, 0.0, none);
-    row("focal minus 0", pair30, -0.0, none);
-    row("no focal in the record", pair30, -1.0, none);
-    row("focal not a number", pair30, std::numeric_limits<double>::quiet_NaN(), none);
-    row("focal infinite", pair30, std::numeric_limits<double>::infinity(), none);
-    row("twins on an infinite focal length", { shotAt(0, 0), shotAt(0, 0) },
-        std::numeric_limits<double>::infinity(), none);
-    // h(1 mm) = atan(43.2666 / 2) = 1.5246; 0.65 x 134 deg = 1.5202, 0.65 x 135 deg = 1.5315
-    row("1 mm, 134 degrees", { shotAt(0, 0), shotAt(134, 0) }, 1.0, right);
-    row("1 mm, 135 degrees", { shotAt(0, 0), shotAt(135, 0) }, 1.0, none);
-
-    row("yaw not a number", { shotAt(0, 0), shotAt(kNaN, 0) }, 24.0, none);
-    row("pitch infinite", { shotAt(0, 0), shotAt(0, kInfinity) }, 24.0, none);
-    row("both infinite", { shotAt(kInfinity, 0), shotAt(kInfinity, 0) }, 24.0, none);
+    addDirections();
+    addTurnsAndPoles();
+    addFocalLengths();
 }
 
 void TestMerlinToSPPLinks::linksOfHandWorkedPositions()
