@@ -152,7 +152,9 @@ CellParts CellPainter::partsIn(const QRect &rect, const PreviewScene &scene, int
         const QRectF inside = asked.box.adjusted(kSpill, kSpill, -kSpill, -kSpill);
         parts.outline = !inside.isValid() || !inside.contains(QRectF(rect));
         parts.caption = isFitted && captionFor(asked, cell, font).rect().intersects(rect);
-    } else if (isFitted) {
+    }
+    // A photo that cannot be seen is not asked for its thumbnail.
+    if (isFitted && !asked.box.toRect().intersects(rect)) {
         return parts;
     }
     const QPixmap *thumbnail = thumbnailOf(scene, asked);
@@ -167,15 +169,11 @@ QRect CellPainter::hiddenBehind(const PreviewScene &scene, const PreviewCell &ce
     if (thumbnail == nullptr || thumbnail->hasAlphaChannel()) {
         return {};
     }
-    const QRect photo = photoRect(scene.style, cell, thumbnail->size());
-    if (scene.style == CellStyle::UnscaledPhoto) {
-        return photo;
-    }
     // Turned by other angles, a photo has see-through corners.
-    const bool isUpright = isUnturned(cell) || std::abs(cell.roll) == 90.0F
-        || std::abs(cell.roll) == 180.0F || std::abs(cell.roll) == 270.0F;
-    // Scaling may leave out the last row or column.
-    return isUpright ? photo.adjusted(0, 0, -1, -1) : QRect();
+    const float roll = std::abs(cell.roll);
+    const bool isWhole = scene.style == CellStyle::UnscaledPhoto || isUnturned(cell)
+        || roll == 90.0F || roll == 180.0F || roll == 270.0F;
+    return isWhole ? photoRect(scene.style, cell, thumbnail->size()) : QRect();
 }
 
 const Caption &CellPainter::captionFor(const PreviewCell &cell, int number, const QFont &font)

@@ -288,6 +288,7 @@ void TestPreviewCanvas::pictureIsTheLiteralOneAtEveryStep_data()
     QTest::newRow("at halves") << grid(9, 7, 96, 95.5, 2.5) << plain << false;
     QTest::newRow("far apart") << grid(9, 5, 96, 140.4) << plain << false;
     QTest::newRow("overlapping 44-fold") << grid(14, 10, 96, 14.4) << plain << false;
+    QTest::newRow("overlapping at halves") << grid(14, 10, 96, 14.5, 2.5) << plain << false;
     QTest::newRow("turned") << turned << plain << false;
     QTest::newRow("brackets on the same place") << brackets << plain << false;
     QTest::newRow("anywhere") << random << plain << false;
