@@ -4,7 +4,7 @@
 // The search for links against plain double loops.
 #include "benchmarks/bars.h"
 #include "shoot/linksearch.h"
-#include "tests/support/literallinks.h"
+#include "tests/support/plainlinks.h"
 
 #include <algorithm>
 #include <cmath>
@@ -79,7 +79,7 @@ QVector<AuthorizedLink> found(const Shoot &shoot, float halfField)
 
 /** The links of \p links that start at the sampled positions. */
 QVector<AuthorizedLink> sampled(const QVector<AuthorizedLink> &links,
-                                const LiteralLinks::Outer &outer)
+                                const PlainLinks::Outer &outer)
 {
     QVector<AuthorizedLink> sample;
     for (const AuthorizedLink &link : links) {
@@ -91,7 +91,7 @@ QVector<AuthorizedLink> sampled(const QVector<AuthorizedLink> &links,
 }
 
 using Loop
-    = QVector<AuthorizedLink> (*)(const QVector<Direction> &, float, const LiteralLinks::Outer &);
+    = QVector<AuthorizedLink> (*)(const QVector<Direction> &, float, const PlainLinks::Outer &);
 
 /**
  * How many times faster the search is than \p loop. The loop runs over every \p sampleStep -th
@@ -99,8 +99,8 @@ using Loop
  */
 Bars::Figure speedUp(const Shoot &shoot, Loop loop, int sampleStep)
 {
-    const float halfField = LiteralLinks::halfField(shoot.focalMm(0.65));
-    const LiteralLinks::Outer outer{ sampleStep / 2, sampleStep };
+    const float halfField = PlainLinks::halfField(shoot.focalMm(0.65));
+    const PlainLinks::Outer outer{ sampleStep / 2, sampleStep };
     QVector<AuthorizedLink> expected;
     const double loopSeconds = sampleStep
         * Bars::medianSeconds(1, [&] { expected = loop(shoot.positions, halfField, outer); });
@@ -112,15 +112,15 @@ Bars::Figure speedUp(const Shoot &shoot, Loop loop, int sampleStep)
                         sampleStep > 1
                             ? Bars::text(", loop over every %dth position", sampleStep).c_str()
                             : ""),
-             LiteralLinks::difference(sampled(links, outer), expected).toStdString() };
+             PlainLinks::difference(sampled(links, outer), expected).toStdString() };
 }
 
 Bars::Figure growth(int small, int large)
 {
     const Shoot few = sphere(small);
     const Shoot many = sphere(large);
-    const float fewField = LiteralLinks::halfField(few.focalMm(0.65));
-    const float manyField = LiteralLinks::halfField(many.focalMm(0.65));
+    const float fewField = PlainLinks::halfField(few.focalMm(0.65));
+    const float manyField = PlainLinks::halfField(many.focalMm(0.65));
     const Bars::KeptMemory kept;
     // Other programs and their use of the caches only make both slower, for a while.
     double fewSeconds = std::numeric_limits<double>::infinity();
@@ -137,9 +137,8 @@ Bars::Figure growth(int small, int large)
 Bars::Figure wideField(int count, float focalMm)
 {
     const Shoot shoot = sphere(count);
-    const float halfField = LiteralLinks::halfField(focalMm);
-    const QVector<AuthorizedLink> expected
-        = LiteralLinks::neighbours(shoot.positions, halfField, {});
+    const float halfField = PlainLinks::halfField(focalMm);
+    const QVector<AuthorizedLink> expected = PlainLinks::neighbours(shoot.positions, halfField, {});
     QVector<AuthorizedLink> links;
     std::vector<double> searching;
     std::vector<double> appending;
@@ -158,7 +157,7 @@ Bars::Figure wideField(int count, float focalMm)
     const double append = Bars::median(appending);
     return { search / append,
              Bars::text("%d links: %.3g s, appending them %.3g s", links.size(), search, append),
-             LiteralLinks::difference(links, expected).toStdString() };
+             PlainLinks::difference(links, expected).toStdString() };
 }
 
 /** The worst ratio of the search's time to the loop's, over many sizes and lenses. */
@@ -168,7 +167,7 @@ Bars::Figure worstLoss(Loop loop)
     for (const int count : { 50, 56, 63, 64, 70, 80, 100, 150, 300, 700, 1500 }) {
         const Shoot shoot = sphere(count);
         for (const float focalMm : { 8.0F, 24.0F, 50.0F, 63.0F, 64.0F, 70.0F, 100.0F, 800.0F }) {
-            const float halfField = LiteralLinks::halfField(focalMm);
+            const float halfField = PlainLinks::halfField(focalMm);
             const int runs = count < 200 ? 101 : 11;
             const double search = Bars::medianSeconds(runs, [&] { found(shoot, halfField); });
             const double plain
@@ -179,8 +178,8 @@ Bars::Figure worstLoss(Loop loop)
                                           static_cast<double>(focalMm), search * 1e6, plain * 1e6);
             }
             if (worst.mistake.empty()) {
-                worst.mistake = LiteralLinks::difference(found(shoot, halfField),
-                                                         loop(shoot.positions, halfField, {}))
+                worst.mistake = PlainLinks::difference(found(shoot, halfField),
+                                                       loop(shoot.positions, halfField, {}))
                                     .toStdString();
             }
         }
@@ -209,7 +208,7 @@ Bars::Figure closeSpeedUp(const QVector<PhotoDirection> &photos)
 {
     QVector<AuthorizedLink> expected;
     const double loopSeconds
-        = Bars::medianSeconds(1, [&] { expected = LiteralLinks::close(photos); });
+        = Bars::medianSeconds(1, [&] { expected = PlainLinks::close(photos); });
     QVector<AuthorizedLink> links;
     const double seconds = Bars::leastSeconds(15, [&] {
         links = {};
@@ -218,7 +217,7 @@ Bars::Figure closeSpeedUp(const QVector<PhotoDirection> &photos)
     return { loopSeconds / seconds,
              Bars::text("%.4g s -> %.4g ms, %.2f links each", loopSeconds, seconds * 1e3,
                         static_cast<double>(links.size()) / photos.size()),
-             LiteralLinks::difference(links, expected).toStdString() };
+             PlainLinks::difference(links, expected).toStdString() };
 }
 
 } // namespace
@@ -231,21 +230,21 @@ int main(int argc, char **argv)
         return Bars::Bar{ Need::AtMost, limit, unit };
     };
     Bars::add("Papywizard links/10,000, four neighbours each/faster than the double loop",
-              atLeast(1000), [] { return speedUp(sphere(10'000), LiteralLinks::neighbours, 1); });
+              atLeast(1000), [] { return speedUp(sphere(10'000), PlainLinks::neighbours, 1); });
     Bars::add("Papywizard links/10,000 in a mosaic of 14 x 7 degrees/faster than the double loop",
               atLeast(1000),
-              [] { return speedUp(mosaic(10'000, 0.1), LiteralLinks::neighbours, 1); });
+              [] { return speedUp(mosaic(10'000, 0.1), PlainLinks::neighbours, 1); });
     Bars::add("Papywizard links/50,000/faster than the double loop", atLeast(1500),
-              [] { return speedUp(sphere(50'000), LiteralLinks::neighbours, 50); });
+              [] { return speedUp(sphere(50'000), PlainLinks::neighbours, 50); });
     Bars::add("Papywizard links/70,000/faster than a double loop with hoisted trigonometry",
               atLeast(200),
-              [] { return speedUp(sphere(70'000), LiteralLinks::neighboursHoisted, 50); });
+              [] { return speedUp(sphere(70'000), PlainLinks::neighboursHoisted, 50); });
     Bars::add("Papywizard links/10,000 at 24 mm/time of appending the same list", atMost(3.0),
               [] { return wideField(10'000, 24.0F); });
     Bars::add("Papywizard links/50 positions and more/worst time of the double loop", atMost(1.0),
-              [] { return worstLoss(LiteralLinks::neighbours); });
+              [] { return worstLoss(PlainLinks::neighbours); });
     Bars::add("Papywizard links/50 and more/worst time of a double loop with hoisted trigonometry",
-              atMost(1.0), [] { return worstLoss(LiteralLinks::neighboursHoisted); });
+              atMost(1.0), [] { return worstLoss(PlainLinks::neighboursHoisted); });
     Bars::add("Clauss links/20,000 photos/faster than the double loop", atLeast(500),
               [] { return closeSpeedUp(photosOf(sphere(20'000), 1, false)); });
     Bars::add("Clauss links/20,000 photos, mixed focal lengths/faster than the double loop",

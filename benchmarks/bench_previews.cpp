@@ -13,7 +13,7 @@
 #include "importers/papywizard/uiwpmerlin.h"
 #include "importers/vrdrive2/uiwpvrdrive2.h"
 #include "tests/support/allocations.h"
-#include "tests/support/literalpreview.h"
+#include "tests/support/plainpreview.h"
 #include "tests/support/recordshoot.h"
 #include "ui/previewlabel.h"
 #include "ui/xui.h"
@@ -141,9 +141,9 @@ Reference referenceFor(const PreviewScene &scene, const PreviewColours &colours)
     canvas.fill(colours.background.color()); // all its pages are there from now on
     QPainter painter(&canvas);
     reference.cellsSeconds
-        = Bars::leastSeconds(5, [&] { drawLiteralCells(painter, scene, colours.caption); });
+        = Bars::leastSeconds(5, [&] { drawPlainCells(painter, scene, colours.caption); });
     reference.redrawSeconds = Bars::leastSeconds(
-        2, [&] { reference.shown = literalZoom(literalPicture(scene, colours), kZoom); });
+        2, [&] { reference.shown = plainZoom(plainPicture(scene, colours), kZoom); });
     return reference;
 }
 
@@ -204,7 +204,7 @@ Load measureOnce(Head head, int count)
     scene.layout = layoutOf(head, count);
     scene.images = page->findChild<ReadingThread *>()->XIImageDefs();
     scene.style = head == Head::Gigapan ? CellStyle::UnscaledPhoto : CellStyle::FittedWithCaption;
-    load.reference = referenceFor(scene, literalColours(scene.style, *pageLoad.driver().preview()));
+    load.reference = referenceFor(scene, plainColours(scene.style, *pageLoad.driver().preview()));
     load.mistake = pixelDifference(pageLoad.driver().picture(), load.reference.shown).toStdString();
     if (scene.images.size() != count || !page->isComplete()) {
         load.mistake = "photos were lost";

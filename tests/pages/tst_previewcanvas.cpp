@@ -3,7 +3,7 @@
 #include "ui/previewcanvas.h"
 
 #include "tests/support/fakeimage.h"
-#include "tests/support/literalpreview.h"
+#include "tests/support/plainpreview.h"
 #include "tests/support/sanitized.h"
 #include "tests/support/testprogram.h"
 
@@ -184,10 +184,10 @@ class TestPreviewCanvas : public QObject
 
 private Q_SLOTS:
     void initTestCase();
-    void pictureIsTheLiteralOneAtEveryStep_data();
-    void pictureIsTheLiteralOneAtEveryStep();
-    void pictureOfAGridIsTheLiteralOneAtEveryStep_data();
-    void pictureOfAGridIsTheLiteralOneAtEveryStep();
+    void pictureIsThePlainOneAtEveryStep_data();
+    void pictureIsThePlainOneAtEveryStep();
+    void pictureOfAGridIsThePlainOneAtEveryStep_data();
+    void pictureOfAGridIsThePlainOneAtEveryStep();
     void changeNamesThePixelsThatChange();
     void onlyCellsThatChangeAreAskedForTheirPhotos();
     void thumbnailsAreDrawnAsThePainterScalesThem_data();
@@ -225,7 +225,7 @@ void TestPreviewCanvas::follow(PreviewScene scene, const PreviewColours &colours
         canvas.update(scene, colours, change);
         patches += change.everything || change.isNone() ? 0 : 1;
 
-        const QString apart = pixelDifference(canvas.image(), literalPicture(scene, colours));
+        const QString apart = pixelDifference(canvas.image(), plainPicture(scene, colours));
         QVERIFY2(apart.isEmpty(),
                  qPrintable(QStringLiteral("step %1: %2").arg(QString::number(step), apart)));
         PreviewCanvas fresh;
@@ -248,7 +248,7 @@ void TestPreviewCanvas::follow(PreviewScene scene, const PreviewColours &colours
     QVERIFY(patches > 0 || colours.background.gradient() != nullptr);
 }
 
-void TestPreviewCanvas::pictureIsTheLiteralOneAtEveryStep_data()
+void TestPreviewCanvas::pictureIsThePlainOneAtEveryStep_data()
 {
     QTest::addColumn<PreviewLayout>("layout");
     QTest::addColumn<PreviewColours>("colours");
@@ -317,7 +317,7 @@ void TestPreviewCanvas::pictureIsTheLiteralOneAtEveryStep_data()
         << PreviewColours{ plain.background, { QPen(QColor(9, 9, 9, 99)), {} } } << false;
 }
 
-void TestPreviewCanvas::pictureIsTheLiteralOneAtEveryStep()
+void TestPreviewCanvas::pictureIsThePlainOneAtEveryStep()
 {
     QFETCH(const PreviewLayout, layout);
     QFETCH(const PreviewColours, colours);
@@ -349,7 +349,7 @@ void TestPreviewCanvas::pictureIsTheLiteralOneAtEveryStep()
     }
 }
 
-void TestPreviewCanvas::pictureOfAGridIsTheLiteralOneAtEveryStep_data()
+void TestPreviewCanvas::pictureOfAGridIsThePlainOneAtEveryStep_data()
 {
     QTest::addColumn<QVector<QSize>>("sizes");
     QTest::newRow("twice the cells") << QVector<QSize>{ { 80, 60 } };
@@ -362,7 +362,7 @@ void TestPreviewCanvas::pictureOfAGridIsTheLiteralOneAtEveryStep_data()
                            { 10, 10 }, { 10, 10 }, { 10, 10 }, { 400, 300 } };
 }
 
-void TestPreviewCanvas::pictureOfAGridIsTheLiteralOneAtEveryStep()
+void TestPreviewCanvas::pictureOfAGridIsThePlainOneAtEveryStep()
 {
     QFETCH(const QVector<QSize>, sizes);
     PreviewScene scene;
@@ -496,9 +496,9 @@ void TestPreviewCanvas::thumbnailsAreDrawnAsThePainterScalesThem()
         }
         PreviewCanvas fresh;
         fresh.update(scene, plainColours(), fresh.changeTo(scene, plainColours()));
-        const QImage literal = literalPicture(scene, plainColours());
-        QString apart = pixelDifference(canvas.image(), literal);
-        apart += pixelDifference(fresh.image(), literal);
+        const QImage plain = plainPicture(scene, plainColours());
+        QString apart = pixelDifference(canvas.image(), plain);
+        apart += pixelDifference(fresh.image(), plain);
         const QRectF box = scene.layout.cells[0].box;
         QVERIFY2(apart.isEmpty(),
                  qPrintable(QStringLiteral("at %1,%2, side %3: %4")
@@ -520,7 +520,7 @@ void TestPreviewCanvas::anotherLayoutRedrawsEverything()
     const PreviewCanvas::Change change = canvas.changeTo(scene, plainColours());
     QVERIFY(change.everything);
     canvas.update(scene, plainColours(), change);
-    QCOMPARE(pixelDifference(canvas.image(), literalPicture(scene, plainColours())), QString());
+    QCOMPARE(pixelDifference(canvas.image(), plainPicture(scene, plainColours())), QString());
 }
 
 void TestPreviewCanvas::otherColoursRedrawEverything()
@@ -535,7 +535,7 @@ void TestPreviewCanvas::otherColoursRedrawEverything()
         const PreviewCanvas::Change change = canvas.changeTo(scene, colours);
         QVERIFY(change.everything);
         canvas.update(scene, colours, change);
-        QCOMPARE(pixelDifference(canvas.image(), literalPicture(scene, colours)), QString());
+        QCOMPARE(pixelDifference(canvas.image(), plainPicture(scene, colours)), QString());
     }
 }
 
@@ -553,7 +553,7 @@ void TestPreviewCanvas::invalidatingRedrawsEverything()
     const PreviewCanvas::Change change = canvas.changeTo(scene, plainColours());
     QVERIFY(change.everything);
     canvas.update(scene, plainColours(), change);
-    QCOMPARE(pixelDifference(canvas.image(), literalPicture(scene, plainColours())), QString());
+    QCOMPARE(pixelDifference(canvas.image(), plainPicture(scene, plainColours())), QString());
     QApplication::setFont(before);
 }
 

@@ -4,7 +4,7 @@
 
 #include "tests/support/allocations.h"
 #include "tests/support/fakeimage.h"
-#include "tests/support/literalpreview.h"
+#include "tests/support/plainpreview.h"
 #include "tests/support/testprogram.h"
 
 #include <QApplication>
@@ -110,9 +110,8 @@ QImage shownBy(const QLabel &label)
 
 QString differenceFrom(const QLabel &label, const PreviewScene &scene, int zoom)
 {
-    return pixelDifference(
-        shownBy(label),
-        literalZoom(literalPicture(scene, literalColours(scene.style, label)), zoom));
+    return pixelDifference(shownBy(label),
+                           plainZoom(plainPicture(scene, plainColours(scene.style, label)), zoom));
 }
 
 } // namespace
@@ -124,8 +123,8 @@ class TestPreviewLabel : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void pictureIsTheLiteralOneAtEveryZoom_data();
-    void pictureIsTheLiteralOneAtEveryZoom();
+    void pictureIsThePlainOneAtEveryZoom_data();
+    void pictureIsThePlainOneAtEveryZoom();
     void zoomMayChangeWithThePhotos();
     void gridsAreLightGreyWhateverThePalette();
     void pictureKeepsItsLooksUntilTheNextCall_data();
@@ -143,7 +142,7 @@ private Q_SLOTS:
     void updatesAllocateNoFurtherPicture();
 };
 
-void TestPreviewLabel::pictureIsTheLiteralOneAtEveryZoom_data()
+void TestPreviewLabel::pictureIsThePlainOneAtEveryZoom_data()
 {
     QTest::addColumn<int>("zoom");
     QTest::addColumn<double>("step");
@@ -154,7 +153,7 @@ void TestPreviewLabel::pictureIsTheLiteralOneAtEveryZoom_data()
     }
 }
 
-void TestPreviewLabel::pictureIsTheLiteralOneAtEveryZoom()
+void TestPreviewLabel::pictureIsThePlainOneAtEveryZoom()
 {
     QFETCH(const int, zoom);
     QFETCH(const double, step);
@@ -199,7 +198,7 @@ void TestPreviewLabel::gridsAreLightGreyWhateverThePalette()
     for (int count = 0; count <= 36; count += 4) {
         label.showScene(shoot.with(count), 50);
         QCOMPARE(pixelDifference(shownBy(label),
-                                 literalZoom(literalPicture(shoot.with(count), colours), 50)),
+                                 plainZoom(plainPicture(shoot.with(count), colours), 50)),
                  QString());
     }
 }

@@ -5,7 +5,7 @@
 #include "importers/gigapan/gridlayout.h"
 #include "tests/support/allocations.h"
 #include "tests/support/heads.h"
-#include "tests/support/literalpreview.h"
+#include "tests/support/plainpreview.h"
 #include "tests/support/recordshoot.h"
 #include "tests/support/sanitized.h"
 #include "ui/xui.h"
@@ -70,8 +70,8 @@ QImage drawnFromScratch(const Head &head, const QWizardPage &page, const QWidget
     scene.layout = layoutOf(head);
     scene.images = page.findChild<ReadingThread *>()->XIImageDefs();
     scene.style = head.facts->isGrid() ? CellStyle::UnscaledPhoto : CellStyle::FittedWithCaption;
-    const PreviewColours colours = literalColours(scene.style, preview);
-    return literalZoom(literalPicture(scene, colours), kZoom);
+    const PreviewColours colours = plainColours(scene.style, preview);
+    return plainZoom(plainPicture(scene, colours), kZoom);
 }
 
 double megabytes(std::int64_t bytes)

@@ -5,7 +5,7 @@
 #include "tests/pages/claussshoot.h"
 #include "tests/support/desktop.h"
 #include "tests/support/fakeapplication.h"
-#include "tests/support/literallinks.h"
+#include "tests/support/plainlinks.h"
 #include "ui/xui.h"
 
 #include <QtTest>
@@ -145,7 +145,7 @@ void TestUIWPClauss::nextHandsOverGroupsAnglesAndLinks()
     QCOMPARE(handed.lensModel, LensModel::NotChosen); // left to the photos
     QCOMPARE(handed.focalLength, 0.0F);
     QVERIFY(handed.roll.isEmpty());
-    QCOMPARE(LiteralLinks::text(handed.authorizedLinks),
+    QCOMPARE(PlainLinks::text(handed.authorizedLinks),
              QStringLiteral("0:1-2")); // 30 degrees at 24 mm; 90 are too many
 }
 
@@ -185,7 +185,7 @@ void TestUIWPClauss::linksAreThoseOfThePlainLoop()
         QVERIFY(shoot.page.validatePage());
 
         const QVector<AuthorizedLink> &links = fakeHost().descriptions.last().authorizedLinks;
-        QCOMPARE(LiteralLinks::difference(links, LiteralLinks::close(photos)), QString());
+        QCOMPARE(PlainLinks::difference(links, PlainLinks::close(photos)), QString());
         linked += links.size();
     }
     QVERIFY(linked > 0);
@@ -201,7 +201,7 @@ void TestUIWPClauss::identicalDirectionsAlwaysLink()
 
     QVERIFY(shoot.page.validatePage());
 
-    QCOMPARE(LiteralLinks::text(fakeHost().descriptions.first().authorizedLinks),
+    QCOMPARE(PlainLinks::text(fakeHost().descriptions.first().authorizedLinks),
              QStringLiteral("0:0-1 0:0-2 0:0-3 0:1-2 0:1-3 0:2-3"));
 }
 
@@ -221,7 +221,7 @@ void TestUIWPClauss::linksFollowTheOrderOfReading()
     QVERIFY(shoot.page.validatePage());
 
     // 0 - 60 degrees: 0.7330 is just below 0.7338.
-    QCOMPARE(LiteralLinks::text(fakeHost().descriptions.first().authorizedLinks),
+    QCOMPARE(PlainLinks::text(fakeHost().descriptions.first().authorizedLinks),
              QStringLiteral("0:0-1 0:0-2"));
 }
 

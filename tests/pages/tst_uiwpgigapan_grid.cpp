@@ -6,7 +6,7 @@
 #include "tests/support/fakeapplication.h"
 #include "tests/support/formcheck.h"
 #include "tests/support/heldphotos.h"
-#include "tests/support/literalgrid.h"
+#include "tests/support/plaingrid.h"
 #include "ui/xui.h"
 
 #include <QtTest>
@@ -279,7 +279,7 @@ void TestUIWPGigapanGrid::randomGridsAreHandedOverAsTheHeadSweepsThem()
             stacks.append(photos.mid(ignored + cell * bracket, bracket));
         }
         QCOMPARE(handed.imageGroups, stacks);
-        QCOMPARE(LiteralGrid::linksOf(handed), LiteralGrid::neighbours(mode, rows, columns, is360));
+        QCOMPARE(PlainGrid::linksOf(handed), PlainGrid::neighbours(mode, rows, columns, is360));
         QCOMPARE(handed.gridMode, mode);
         QCOMPARE(handed.gridRows, rows);
         QCOMPARE(handed.gridBracketCount, bracket);
@@ -302,7 +302,7 @@ void TestUIWPGigapanGrid::moreCellsThanPhotosKeepTheirLinks()
         const StructuredPanoramaProperties &handed = fakeHost().descriptions.last();
         QCOMPARE(handed.imageGroups.size(), 4); // the last one of what is there
         QCOMPARE(namesOf(handed.imageGroups.last()), list({ "IMG_0007.jpg" }));
-        QCOMPARE(LiteralGrid::linksOf(handed), LiteralGrid::neighbours(mode, 3, 4, false));
+        QCOMPARE(PlainGrid::linksOf(handed), PlainGrid::neighbours(mode, 3, 4, false));
     }
 }
 

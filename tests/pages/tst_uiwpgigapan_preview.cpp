@@ -4,7 +4,7 @@
 
 #include "tests/pages/gigapanpicture.h"
 #include "tests/support/fakeapplication.h"
-#include "tests/support/literalgrid.h"
+#include "tests/support/plaingrid.h"
 #include "ui/xui.h"
 
 #include <QtTest>
@@ -210,15 +210,14 @@ void TestUIWPGigapanPreview::randomGridsAreDrawnAsTheHeadSweepsThem()
         shoot.choose(mode);
 
         const int columns = shoot.page.m_sbColumn->value();
-        QMap<LiteralGrid::Cell, QColor> colours;
+        QMap<PlainGrid::Cell, QColor> colours;
         int photo = mode == 4 ? 0 : ignored;
-        for (const LiteralGrid::Cell &cell : LiteralGrid::walk(mode, rows, columns)) {
+        for (const PlainGrid::Cell &cell : PlainGrid::walk(mode, rows, columns)) {
             colours.insert(cell, photo < photos ? colourOf(photo % 16) : QColor());
             photo += bracket;
         }
         QVector<DrawnCell> cells;
-        for (const LiteralGrid::Cell &cell :
-             LiteralGrid::walk(mode == 4 ? 0 : mode, rows, columns)) {
+        for (const PlainGrid::Cell &cell : PlainGrid::walk(mode == 4 ? 0 : mode, rows, columns)) {
             cells.append({ cell.first, cell.second, colours.value(cell) });
         }
         QCOMPARE(shoot.driver.picture(),

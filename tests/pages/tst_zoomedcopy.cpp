@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/zoomedcopy.h"
 
-#include "tests/support/literalpreview.h"
+#include "tests/support/plainpreview.h"
 #include "tests/support/testprogram.h"
 
 #include <QApplication>
@@ -76,7 +76,7 @@ void TestZoomedCopy::copyIsWhatFastScalingMakes()
     const QImage picture = noise(size, 1);
     for (int percent = 1; percent <= 100; ++percent) {
         ZoomedCopy copy;
-        QCOMPARE(copy.make(picture, percent), literalZoom(picture, percent));
+        QCOMPARE(copy.make(picture, percent), plainZoom(picture, percent));
         QCOMPARE(copy.percent(), percent);
     }
 }
@@ -128,7 +128,7 @@ void TestZoomedCopy::patchedCopyIsWhatScalingTheNewPictureMakes()
         }
         const QImage before = shown.toImage().copy();
         const QRegion patched = copy.patch(&shown, picture, region);
-        QCOMPARE(pixelDifference(shown.toImage(), literalZoom(picture, percent)), QString());
+        QCOMPARE(pixelDifference(shown.toImage(), plainZoom(picture, percent)), QString());
         QCOMPARE(pixelDifference(outside(shown.toImage(), patched), outside(before, patched)),
                  QString());
     }

@@ -31,21 +31,21 @@ QByteArray lines(const char *text)
     return QByteArray(text).replace(' ', '\n');
 }
 
-struct LiteralScript {
+struct PlainScript {
     QVector<ShootData> shots;
     bool isSound = true;
     int firstBadLine = 0;
 };
 
 /** Word by word: the bytes up to the first NUL as text, a regular expression on every line. */
-LiteralScript readLiterally(const QByteArray &bytes)
+PlainScript readPlainly(const QByteArray &bytes)
 {
     static const QRegularExpression command(
         QStringLiteral("([\\w\\d-]*)=?([\\w\\d-]*)")); // no Unicode properties
     QByteArray head = bytes.left(static_cast<int>(qstrnlen(bytes.constData(), bytes.size())));
     head.replace('\r', ""); // as reading in text mode does
     const QStringList texts = QString::fromUtf8(head).split(QLatin1Char('\n'));
-    LiteralScript script;
+    PlainScript script;
     float horizontal = 0.0F;
     float vertical = 0.0F;
     const auto read = [&script](const QString &value, int line) {
@@ -78,18 +78,18 @@ LiteralScript readLiterally(const QByteArray &bytes)
     return script;
 }
 
-void compareWithLiteral(const QByteArray &bytes)
+void compareWithPlain(const QByteArray &bytes)
 {
     const ClaussScript script = readClaussScript(bytes);
-    const LiteralScript literal = readLiterally(bytes);
+    const PlainScript plain = readPlainly(bytes);
     const QByteArray shown = bytes.toPercentEncoding(" =\n-");
-    QVERIFY2(script.isSound == literal.isSound, shown.constData());
-    QVERIFY2(script.firstError.line == literal.firstBadLine, shown.constData());
-    QVERIFY2(script.shots.size() == literal.shots.size(), shown.constData());
+    QVERIFY2(script.isSound == plain.isSound, shown.constData());
+    QVERIFY2(script.firstError.line == plain.firstBadLine, shown.constData());
+    QVERIFY2(script.shots.size() == plain.shots.size(), shown.constData());
     for (int i = 0; i < script.shots.size(); ++i) {
-        QVERIFY2(script.shots.at(i).yaw == literal.shots.at(i).yaw, shown.constData());
-        QVERIFY2(script.shots.at(i).pitch == literal.shots.at(i).pitch, shown.constData());
-        QVERIFY2(script.shots.at(i).id == literal.shots.at(i).id, shown.constData());
+        QVERIFY2(script.shots.at(i).yaw == plain.shots.at(i).yaw, shown.constData());
+        QVERIFY2(script.shots.at(i).pitch == plain.shots.at(i).pitch, shown.constData());
+        QVERIFY2(script.shots.at(i).id == plain.shots.at(i).id, shown.constData());
     }
 }
 
@@ -470,7 +470,7 @@ void TestClaussScript::readsLikeTheRegularExpression()
         for (int i = 0; i < count; ++i) {
             script += pieces.at(random.bounded(pieces.size()));
         }
-        compareWithLiteral(script);
+        compareWithPlain(script);
     }
 }
 

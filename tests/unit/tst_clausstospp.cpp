@@ -66,7 +66,7 @@ QString linksOf(const ClaussToSPP &generator)
 }
 
 /** Every pair, word by word, in double where the text says nothing else. */
-QString literalLinks(const Views &views)
+QString plainLinks(const Views &views)
 {
     struct Direction {
         double x;
@@ -319,7 +319,7 @@ void TestClaussToSPP::closePhotosAreLinked()
     QFETCH(Views, views);
     QFETCH(QString, links);
     QCOMPARE(linksOf(generated(views)), links);
-    QCOMPARE(literalLinks(views), links);
+    QCOMPARE(plainLinks(views), links);
 }
 
 void TestClaussToSPP::identicalDirectionsAlwaysLink_data()
@@ -349,7 +349,7 @@ void TestClaussToSPP::limitIsWhereTheArithmeticSays()
     int linked = 0;
     for (int i = 0; i <= 2000; ++i) {
         const Views views{ { 0, 0, 24 }, { 60.0F + static_cast<float>(i) * 1e-4F, 0, 24 } };
-        QCOMPARE(linksOf(generated(views)), literalLinks(views));
+        QCOMPARE(linksOf(generated(views)), plainLinks(views));
         linked += generated(views).authorizedLinks.size();
     }
     QVERIFY2(linked > 100 && linked < 1900, qPrintable(QString::number(linked)));
@@ -389,7 +389,7 @@ void TestClaussToSPP::linksAreThoseOfThePlainLoop()
             views.append(view);
         }
         const ClaussToSPP generator = generated(views);
-        QCOMPARE(linksOf(generator), literalLinks(views));
+        QCOMPARE(linksOf(generator), plainLinks(views));
         linked += generator.authorizedLinks.size();
     }
     QVERIFY(linked > 0);

@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "importers/gigapan/gigapantospp.h"
 #include "importers/gigapan/gridguess.h"
-#include "tests/support/literalgrid.h"
+#include "tests/support/plaingrid.h"
 #include "tests/support/testprogram.h"
 
 #include <QtTest>
 
 #include <random>
 
-using namespace LiteralGrid;
+using namespace PlainGrid;
 
 namespace
 {

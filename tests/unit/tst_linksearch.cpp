@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "shoot/linksearch.h"
 
-#include "tests/support/literallinks.h"
+#include "tests/support/plainlinks.h"
 #include "tests/support/testprogram.h"
 
 #include <QtTest>
@@ -251,8 +251,8 @@ void TestLinkSearch::compareNeighbourLinks(const QVector<Direction> &positions, 
 {
     QVector<AuthorizedLink> links;
     appendNeighbourLinks(links, positions, halfField);
-    const QVector<AuthorizedLink> expected = LiteralLinks::neighbours(positions, halfField);
-    const QString where = LiteralLinks::difference(links, expected);
+    const QVector<AuthorizedLink> expected = PlainLinks::neighbours(positions, halfField);
+    const QString where = PlainLinks::difference(links, expected);
     QVERIFY2(where.isEmpty(),
              qPrintable(QStringLiteral("%1 positions, half field %2: %3")
                             .arg(QString::number(positions.size()),
@@ -265,8 +265,8 @@ void TestLinkSearch::compareCloseLinks(const QVector<PhotoDirection> &photos)
 {
     QVector<AuthorizedLink> links;
     appendCloseLinks(links, photos);
-    const QVector<AuthorizedLink> expected = LiteralLinks::close(photos);
-    const QString where = LiteralLinks::difference(links, expected);
+    const QVector<AuthorizedLink> expected = PlainLinks::close(photos);
+    const QString where = PlainLinks::difference(links, expected);
     QVERIFY2(
         where.isEmpty(),
         qPrintable(QStringLiteral("%1 photos: %2").arg(QString::number(photos.size()), where)));
@@ -287,7 +287,7 @@ void TestLinkSearch::halfFieldOfViewIsRoundedOnce()
 {
     QFETCH(const float, focalMm);
     const float half = halfFieldOfView(focalMm);
-    const float expected = LiteralLinks::halfField(focalMm);
+    const float expected = PlainLinks::halfField(focalMm);
     QVERIFY(half == expected || (std::isnan(half) && std::isnan(expected)));
 }
 
@@ -315,8 +315,8 @@ void TestLinkSearch::neighbourLinksAreThoseOfTheDoubleLoop()
     for (int round = 0; round < 3; ++round) {
         for (int count = 2; count <= 70; ++count) {
             const auto positions = asDirections(shoots.angles(static_cast<Layout>(layout), count));
-            compareNeighbourLinks(positions, LiteralLinks::halfField(shoots.focalMm()));
-            compareNeighbourLinks(positions, LiteralLinks::halfField(shoots.usefulFocalMm()));
+            compareNeighbourLinks(positions, PlainLinks::halfField(shoots.focalMm()));
+            compareNeighbourLinks(positions, PlainLinks::halfField(shoots.usefulFocalMm()));
             if (QTest::currentTestFailed()) {
                 return;
             }
@@ -325,8 +325,8 @@ void TestLinkSearch::neighbourLinksAreThoseOfTheDoubleLoop()
     for (int round = 0; round < 5; ++round) {
         const auto positions
             = asDirections(shoots.angles(static_cast<Layout>(layout), shoots.count(71, 400)));
-        compareNeighbourLinks(positions, LiteralLinks::halfField(shoots.focalMm()));
-        compareNeighbourLinks(positions, LiteralLinks::halfField(shoots.usefulFocalMm()));
+        compareNeighbourLinks(positions, PlainLinks::halfField(shoots.focalMm()));
+        compareNeighbourLinks(positions, PlainLinks::halfField(shoots.usefulFocalMm()));
         // Tiny fields: only directions that are the same up to rounding are near.
         compareNeighbourLinks(positions, std::ldexp(1.0F, -shoots.count(10, 40)));
         if (QTest::currentTestFailed()) {
@@ -342,7 +342,7 @@ void TestLinkSearch::neighbourLinksOfManyPositionsAreThoseOfTheDoubleLoop()
         const auto positions
             = asDirections(shoots.angles(static_cast<Layout>(layout), shoots.count(500, 700)));
         for (const float focalMm : { 24.0F, 63.4F, 63.6F, 200.0F, 1500.0F }) {
-            compareNeighbourLinks(positions, LiteralLinks::halfField(focalMm));
+            compareNeighbourLinks(positions, PlainLinks::halfField(focalMm));
             if (QTest::currentTestFailed()) {
                 return;
             }
@@ -407,10 +407,10 @@ void TestLinkSearch::linksAreAppended()
     const AuthorizedLink earlier{ 7, { 5, 6 } };
     QVector<AuthorizedLink> neighbours{ earlier };
     appendNeighbourLinks(neighbours, { { 0.0F, 0.0F }, { 0.1F, 0.0F } }, 0.5F);
-    QCOMPARE(LiteralLinks::difference(neighbours, { earlier, { 2, { 0, 1 } } }), QString());
+    QCOMPARE(PlainLinks::difference(neighbours, { earlier, { 2, { 0, 1 } } }), QString());
     QVector<AuthorizedLink> close{ earlier };
     appendCloseLinks(close, { { 0.0F, 0.0F, 50.0F }, { 5.0F, 0.0F, 50.0F } });
-    QCOMPARE(LiteralLinks::difference(close, { earlier, { 0, { 0, 1 } } }), QString());
+    QCOMPARE(PlainLinks::difference(close, { earlier, { 0, { 0, 1 } } }), QString());
 }
 
 void TestLinkSearch::duplicatesGetNoneOrTwoNeighbourLinks_data()

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "importers/papywizard/merlintospp.h"
 
-#include "tests/support/literallinks.h"
+#include "tests/support/plainlinks.h"
 #include "tests/support/testprogram.h"
 #include "tests/unit/photonames.h"
 #include "tests/unit/shots.h"
@@ -270,7 +270,7 @@ void TestMerlinToSPP::aSecondCallAppendsEverythingAgain()
     QCOMPARE(generator.pitch.size(), 8);
     QCOMPARE(generator.roll.size(), 8);
     // Indices count the positions of the call, not of the list.
-    QCOMPARE(LiteralLinks::text(generator.authorizedLinks), QStringLiteral("2:0-1 2:0-1"));
+    QCOMPARE(PlainLinks::text(generator.authorizedLinks), QStringLiteral("2:0-1 2:0-1"));
     QCOMPARE(generator.focalLength, 35.0F);
 
     generator.generateSPP(photoNames(4), 35.0, LensModel::Fisheye);
@@ -351,7 +351,7 @@ void TestMerlinToSPP::aCopyIsIndependent()
     copy.authorizedLinks[0].indices[0] = 7;
     copy.yaw[0] = 1.0F;
     QCOMPARE(generator.imageGroups.at(0).at(0), QStringLiteral("/0.jpg"));
-    QCOMPARE(LiteralLinks::text(generator.authorizedLinks), QStringLiteral("2:0-1"));
+    QCOMPARE(PlainLinks::text(generator.authorizedLinks), QStringLiteral("2:0-1"));
     QCOMPARE(generator.yaw.at(0), 0.0F);
 }
 

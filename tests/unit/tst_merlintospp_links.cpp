@@ -3,7 +3,7 @@
 #include "importers/papywizard/merlintospp.h"
 
 #include "shoot/linksearch.h"
-#include "tests/support/literallinks.h"
+#include "tests/support/plainlinks.h"
 #include "tests/support/testprogram.h"
 #include "tests/unit/photonames.h"
 #include "tests/unit/shots.h"
@@ -49,13 +49,13 @@ double cosineBetween(const ShootData &a, const ShootData &b)
 }
 
 /** The links by the rule, between positions of \p nbPicts shots each. */
-QVector<AuthorizedLink> literalLinks(const QVector<ShootData> &shots, int nbPicts, double focal)
+QVector<AuthorizedLink> plainLinks(const QVector<ShootData> &shots, int nbPicts, double focal)
 {
     QVector<PanoHead::Direction> positions;
     for (int i = 0; i < shots.size(); i += nbPicts) {
         positions.append({ radians(shots.at(i).yaw), radians(shots.at(i).pitch) });
     }
-    return LiteralLinks::neighbours(positions, LiteralLinks::halfField(static_cast<float>(focal)));
+    return PlainLinks::neighbours(positions, PlainLinks::halfField(static_cast<float>(focal)));
 }
 
 /** Ways to scatter positions; each shows another trap. */
@@ -212,9 +212,9 @@ private Q_SLOTS:
     void linksOfHandWorkedPositions();
     void twinsWithACosineAboveOneGetNoLink();
     void positionsPointWhereTheirFirstExposurePoints();
-    void linksEqualTheLiteralLoop_data();
-    void linksEqualTheLiteralLoop();
-    void linksOfBracketsEqualTheLiteralLoop();
+    void linksEqualThePlainLoop_data();
+    void linksEqualThePlainLoop();
+    void linksOfBracketsEqualThePlainLoop();
     void halfFieldOfViewIsHalfTheDiagonal_data();
     void halfFieldOfViewIsHalfTheDiagonal();
 };
@@ -226,7 +226,7 @@ void TestMerlinToSPPLinks::fisheyeLensesKeepTheLinksThatWereThere()
     generator.authorizedLinks = { { 2, { 4, 5 } } };
     generator.shots = { shotAt(0.0F, 0.0F), shotAt(30.0F, 0.0F) };
     generator.generateSPP(photoNames(2), 24.0, LensModel::Fisheye);
-    QCOMPARE(LiteralLinks::text(generator.authorizedLinks), QStringLiteral("2:4-5"));
+    QCOMPARE(PlainLinks::text(generator.authorizedLinks), QStringLiteral("2:4-5"));
 }
 
 void TestMerlinToSPPLinks::linksOfHandWorkedPositions_data()
@@ -244,7 +244,7 @@ void TestMerlinToSPPLinks::linksOfHandWorkedPositions()
 {
     QFETCH(QVector<ShootData>, shots);
     QFETCH(double, focal);
-    QTEST(LiteralLinks::text(generatedLinks(shots, focal)), "links");
+    QTEST(PlainLinks::text(generatedLinks(shots, focal)), "links");
 }
 
 void TestMerlinToSPPLinks::twinsWithACosineAboveOneGetNoLink()
@@ -256,7 +256,7 @@ void TestMerlinToSPPLinks::twinsWithACosineAboveOneGetNoLink()
             const ShootData shot = shotAt(static_cast<float>(yaw), static_cast<float>(pitch));
             const bool isAbove = cosineBetween(shot, shot) > 1.0;
             ++(isAbove ? above : notAbove);
-            QCOMPARE(LiteralLinks::text(generatedLinks({ shot, shot }, 24.0)),
+            QCOMPARE(PlainLinks::text(generatedLinks({ shot, shot }, 24.0)),
                      isAbove ? QString() : QStringLiteral("2:0-1 2:1-0"));
         }
     }
@@ -272,12 +272,12 @@ void TestMerlinToSPPLinks::positionsPointWhereTheirFirstExposurePoints()
     generator.shots = { shotAt(0, 0),  shotAt(170, 80), shotAt(90, -80),
                         shotAt(30, 0), shotAt(100, 40), shotAt(0, 0) };
     generator.generateSPP(photoNames(6), 24.0, LensModel::Standard);
-    QCOMPARE(LiteralLinks::text(generator.authorizedLinks), QStringLiteral("2:0-1"));
+    QCOMPARE(PlainLinks::text(generator.authorizedLinks), QStringLiteral("2:0-1"));
     QCOMPARE(generator.imageGroups.size(), 2);
     QCOMPARE(generator.yaw.size(), 6);
 }
 
-void TestMerlinToSPPLinks::linksEqualTheLiteralLoop_data()
+void TestMerlinToSPPLinks::linksEqualThePlainLoop_data()
 {
     QTest::addColumn<int>("scatter");
     QTest::addColumn<quint32>("seed");
@@ -303,7 +303,7 @@ void TestMerlinToSPPLinks::linksEqualTheLiteralLoop_data()
     }
 }
 
-void TestMerlinToSPPLinks::linksEqualTheLiteralLoop()
+void TestMerlinToSPPLinks::linksEqualThePlainLoop()
 {
     QFETCH(int, scatter);
     QFETCH(quint32, seed);
@@ -322,14 +322,14 @@ void TestMerlinToSPPLinks::linksEqualTheLiteralLoop()
     generator.xmlFocal = focal;
     generator.generateSPP(photoNames(kPositions), focal, LensModel::Standard);
 
-    const QVector<AuthorizedLink> expected = literalLinks(shots, 1, focal);
-    QCOMPARE(LiteralLinks::difference(generator.authorizedLinks, expected), QString());
+    const QVector<AuthorizedLink> expected = plainLinks(shots, 1, focal);
+    QCOMPARE(PlainLinks::difference(generator.authorizedLinks, expected), QString());
     // The test compares something wherever the lens sees anything at all.
     const bool sees = std::isfinite(focal) && !std::signbit(focal);
     QCOMPARE(!expected.isEmpty(), sees);
 }
 
-void TestMerlinToSPPLinks::linksOfBracketsEqualTheLiteralLoop()
+void TestMerlinToSPPLinks::linksOfBracketsEqualThePlainLoop()
 {
     constexpr int kPositions = 120;
     constexpr int kExposures = 5;
@@ -345,9 +345,9 @@ void TestMerlinToSPPLinks::linksOfBracketsEqualTheLiteralLoop()
     generator.shots = shots;
     generator.nbPicts = kExposures;
     generator.generateSPP(photoNames(shots.size()), 24.0, LensModel::Standard);
-    const QVector<AuthorizedLink> expected = literalLinks(shots, kExposures, 24.0);
+    const QVector<AuthorizedLink> expected = plainLinks(shots, kExposures, 24.0);
     QVERIFY(!expected.isEmpty());
-    QCOMPARE(LiteralLinks::difference(generator.authorizedLinks, expected), QString());
+    QCOMPARE(PlainLinks::difference(generator.authorizedLinks, expected), QString());
 }
 
 void TestMerlinToSPPLinks::halfFieldOfViewIsHalfTheDiagonal_data()

@@ -108,7 +108,7 @@ void generate(VRDrive2ToSPP &generator, int nbPicts, const QVector<float> &expos
 }
 
 /** The reference, step by step: sort a copy, drop both ends while three are left, look it up. */
-int literalReference(const QVector<double> &exposures)
+int plainReference(const QVector<double> &exposures)
 {
     QVector<double> copy = exposures;
     std::sort(copy.begin(), copy.end());
@@ -137,7 +137,7 @@ private Q_SLOTS:
 
     void referenceIsTheLastMedian_data();
     void referenceIsTheLastMedian();
-    void referenceIsThatOfTheLiteralSteps();
+    void referenceIsThatOfThePlainSteps();
     void referenceSurvivesWhatIsNoNumber_data();
     void referenceSurvivesWhatIsNoNumber();
 
@@ -202,7 +202,7 @@ void TestVRDrive2ToSPP::referenceIsTheLastMedian()
     QCOMPARE(PanoHead::referenceIndex(exposures), index);
 }
 
-void TestVRDrive2ToSPP::referenceIsThatOfTheLiteralSteps()
+void TestVRDrive2ToSPP::referenceIsThatOfThePlainSteps()
 {
     QRandomGenerator random(20260104);
     for (int round = 0; round < 5000; ++round) {
@@ -210,7 +210,7 @@ void TestVRDrive2ToSPP::referenceIsThatOfTheLiteralSteps()
         for (double &exposure : exposures) {
             exposure = random.bounded(-4, 5) / 3.0; // few values: many repeat
         }
-        QCOMPARE(PanoHead::referenceIndex(exposures), literalReference(exposures));
+        QCOMPARE(PanoHead::referenceIndex(exposures), plainReference(exposures));
     }
 }
 

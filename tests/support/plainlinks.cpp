@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
-#include "tests/support/literallinks.h"
+#include "tests/support/plainlinks.h"
 
 #include <QStringList>
 
@@ -51,14 +51,14 @@ View viewOf(const PhotoDirection &photo)
 
 } // namespace
 
-float LiteralLinks::halfField(float focalMm)
+float PlainLinks::halfField(float focalMm)
 {
     const float twice = focalMm + focalMm;
     return static_cast<float>(std::atan(43.266615305567875 / static_cast<double>(twice)));
 }
 
-QVector<AuthorizedLink> LiteralLinks::neighbours(const QVector<Direction> &positions,
-                                                 float halfField, const Outer &outer)
+QVector<AuthorizedLink> PlainLinks::neighbours(const QVector<Direction> &positions, float halfField,
+                                               const Outer &outer)
 {
     QVector<AuthorizedLink> links;
     const auto h = static_cast<double>(halfField);
@@ -85,8 +85,8 @@ QVector<AuthorizedLink> LiteralLinks::neighbours(const QVector<Direction> &posit
     return links;
 }
 
-QVector<AuthorizedLink> LiteralLinks::neighboursHoisted(const QVector<Direction> &positions,
-                                                        float halfField, const Outer &outer)
+QVector<AuthorizedLink> PlainLinks::neighboursHoisted(const QVector<Direction> &positions,
+                                                      float halfField, const Outer &outer)
 {
     struct Terms {
         double sinYaw;
@@ -120,7 +120,7 @@ QVector<AuthorizedLink> LiteralLinks::neighboursHoisted(const QVector<Direction>
     return links;
 }
 
-QVector<AuthorizedLink> LiteralLinks::close(const QVector<PhotoDirection> &photos)
+QVector<AuthorizedLink> PlainLinks::close(const QVector<PhotoDirection> &photos)
 {
     QVector<AuthorizedLink> links;
     for (int i = 0; i < photos.size(); ++i) {
@@ -142,7 +142,7 @@ QVector<AuthorizedLink> LiteralLinks::close(const QVector<PhotoDirection> &photo
     return links;
 }
 
-QString LiteralLinks::text(const QVector<AuthorizedLink> &links)
+QString PlainLinks::text(const QVector<AuthorizedLink> &links)
 {
     QStringList texts;
     for (const AuthorizedLink &link : links) {
@@ -156,8 +156,8 @@ QString LiteralLinks::text(const QVector<AuthorizedLink> &links)
     return texts.join(QLatin1Char(' '));
 }
 
-QString LiteralLinks::difference(const QVector<AuthorizedLink> &links,
-                                 const QVector<AuthorizedLink> &expected)
+QString PlainLinks::difference(const QVector<AuthorizedLink> &links,
+                               const QVector<AuthorizedLink> &expected)
 {
     const auto text = [](const QVector<AuthorizedLink> &list, int place) {
         if (place >= list.size()) {

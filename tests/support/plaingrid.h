@@ -11,7 +11,7 @@
  * The grids of sweeping heads once more, written down cell by cell: what generator, page and
  * preview are compared with.
  */
-namespace LiteralGrid
+namespace PlainGrid
 {
 
 using Cell = QPair<int, int>; ///< row from the top, column from the left
@@ -24,4 +24,4 @@ using Links = QVector<QVector<int>>; ///< kind, first and second index of each l
 /** The links of \p description in the same form, from link \p first on. */
 [[nodiscard]] Links linksOf(const StructuredPanoramaProperties &description, int first = 0);
 
-} // namespace LiteralGrid
+} // namespace PlainGrid

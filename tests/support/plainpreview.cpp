@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
-#include "tests/support/literalpreview.h"
+#include "tests/support/plainpreview.h"
 
 #include "hostlink/xiimagedef.h"
 
@@ -43,7 +43,7 @@ void drawCaption(QPainter &painter, const PreviewCell &cell, const CaptionColour
 
 } // namespace
 
-void drawLiteralCells(QPainter &painter, const PreviewScene &scene, const CaptionColours &caption)
+void drawPlainCells(QPainter &painter, const PreviewScene &scene, const CaptionColours &caption)
 {
     const QPen outline = painter.pen();
     const bool isUnscaled = scene.style == CellStyle::UnscaledPhoto;
@@ -67,7 +67,7 @@ void drawLiteralCells(QPainter &painter, const PreviewScene &scene, const Captio
     }
 }
 
-QImage literalPicture(const PreviewScene &scene, const PreviewColours &colours)
+QImage plainPicture(const PreviewScene &scene, const PreviewColours &colours)
 {
     if (scene.layout.canvas.isEmpty()) {
         return {};
@@ -78,12 +78,12 @@ QImage literalPicture(const PreviewScene &scene, const PreviewColours &colours)
     }
     QPainter painter(&pixmap);
     painter.fillRect(pixmap.rect(), colours.background);
-    drawLiteralCells(painter, scene, colours.caption);
+    drawPlainCells(painter, scene, colours.caption);
     painter.end();
     return pixmap.toImage();
 }
 
-PreviewColours literalColours(CellStyle style, const QWidget &label)
+PreviewColours plainColours(CellStyle style, const QWidget &label)
 {
     if (style == CellStyle::UnscaledPhoto) {
         return { QBrush(Qt::lightGray), { QPen(Qt::black), {} } };
@@ -96,7 +96,7 @@ PreviewColours literalColours(CellStyle style, const QWidget &label)
     return { window, { QPen(text), isDarkTheme ? QBrush(ground) : QBrush() } };
 }
 
-QImage literalZoom(const QImage &picture, int percent)
+QImage plainZoom(const QImage &picture, int percent)
 {
     const QSize size(picture.width() * percent / 100, picture.height() * percent / 100);
     if (size.isEmpty()) {

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
-#include "tests/support/literalgrid.h"
+#include "tests/support/plaingrid.h"
 
 #include <QMap>
 
-QVector<LiteralGrid::Cell> LiteralGrid::walk(int mode, int rows, int columns)
+QVector<PlainGrid::Cell> PlainGrid::walk(int mode, int rows, int columns)
 {
     QVector<Cell> cells;
     const auto column = [&](int c) {
@@ -37,7 +37,7 @@ QVector<LiteralGrid::Cell> LiteralGrid::walk(int mode, int rows, int columns)
     return cells;
 }
 
-LiteralGrid::Links LiteralGrid::neighbours(int mode, int rows, int columns, bool is360)
+PlainGrid::Links PlainGrid::neighbours(int mode, int rows, int columns, bool is360)
 {
     const QVector<Cell> cells = walk(mode, rows, columns);
     QMap<Cell, int> shot;
@@ -65,7 +65,7 @@ LiteralGrid::Links LiteralGrid::neighbours(int mode, int rows, int columns, bool
     return links;
 }
 
-LiteralGrid::Links LiteralGrid::linksOf(const StructuredPanoramaProperties &description, int first)
+PlainGrid::Links PlainGrid::linksOf(const StructuredPanoramaProperties &description, int first)
 {
     Links links;
     for (const AuthorizedLink &link : description.authorizedLinks.mid(first)) {

@@ -10,7 +10,7 @@
  * The rules for links once more: one pair after the other, every term worked out anew for every
  * pair. What the search must find, and what it is measured against.
  */
-namespace LiteralLinks
+namespace PlainLinks
 {
 
 [[nodiscard]] float halfField(float focalMm);
@@ -35,4 +35,4 @@ neighboursHoisted(const QVector<PanoHead::Direction> &positions, float halfField
 [[nodiscard]] QString difference(const QVector<AuthorizedLink> &links,
                                  const QVector<AuthorizedLink> &expected);
 
-} // namespace LiteralLinks
+} // namespace PlainLinks
