@@ -16,7 +16,6 @@ namespace
 
 constexpr int kBucketSide = 128; // pixels
 constexpr int kStripRows = 32;
-constexpr int kSpill = 2; // outlines and rounding around a cell, pixels
 // When more than this part of the cells changes, one redraw is cheaper than many patches.
 constexpr int kWorthPatching = 4;
 constexpr int kKeptPart = 8; // what the painter keeps may take this part of the picture's memory
@@ -250,9 +249,8 @@ void PreviewCanvas::notePhoto(int cell)
 /** All pixels that \p cell may touch, whichever photo it shows. */
 QRect PreviewCanvas::paintedRect(int cell) const
 {
-    const QRectF &box = m_scene.layout.cells.at(cell).box;
-    const QRect own = box.toAlignedRect().adjusted(-kSpill, -kSpill, kSpill, kSpill);
-    return own | QRect(box.topLeft().toPoint(), m_largestPhoto);
+    const PreviewCell &painted = m_scene.layout.cells.at(cell);
+    return outlineRect(painted) | QRect(painted.box.topLeft().toPoint(), m_largestPhoto);
 }
 
 /** In drawing order. */

@@ -18,7 +18,6 @@ namespace PanoHead
 namespace
 {
 
-constexpr int kSpill = 2; // outlines and rounding around a cell, pixels
 constexpr qint64 kCaptionBytes = 768; // about
 constexpr qint64 kLeastCaptions = 256 * 1024; // kept in any case, bytes
 // Some ten rows of the largest shoots; more are not drawn again and again.
@@ -144,10 +143,9 @@ CellParts CellPainter::partsIn(const QRect &rect, const PreviewScene &scene, int
                                const QFont &font)
 {
     const PreviewCell &asked = scene.layout.cells.at(cell);
-    const QRect around = asked.box.toAlignedRect().adjusted(-kSpill, -kSpill, kSpill, kSpill);
     const bool isFitted = scene.style == CellStyle::FittedWithCaption;
     CellParts parts;
-    if (around.intersects(rect)) {
+    if (outlineRect(asked).intersects(rect)) {
         // Tiny cells have no inside; turned inside out, it would hold pixels all the same.
         const QRectF inside = asked.box.adjusted(kSpill, kSpill, -kSpill, -kSpill);
         parts.outline = !inside.isValid() || !inside.contains(QRectF(rect));

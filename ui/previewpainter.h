@@ -37,6 +37,15 @@ struct PreviewScene {
 /** The pixels in which \p cell shows a thumbnail of \p size. */
 [[nodiscard]] QRect photoRect(CellStyle style, const PreviewCell &cell, const QSize &size);
 
+/** How far a cell's outline, with roundings, may reach into and around its box, pixels. */
+constexpr int kSpill = 2;
+
+/** All pixels that the outline of \p cell may touch. */
+[[nodiscard]] inline QRect outlineRect(const PreviewCell &cell)
+{
+    return cell.box.toAlignedRect().adjusted(-kSpill, -kSpill, kSpill, kSpill);
+}
+
 /** What of a cell is to be drawn. */
 struct CellParts {
     bool photo = false;
