@@ -19,9 +19,9 @@ namespace
 {
 
 constexpr qint64 kCaptionBytes = 768; // about
-constexpr qint64 kLeastCaptions = 256 * 1024; // kept in any case, bytes
+constexpr qint64 kLeastCaptions = 256LL * 1024; // kept in any case, bytes
 // Some ten rows of the largest shoots; more are not drawn again and again.
-constexpr qint64 kMostCaptions = 4 * 1024 * 1024;
+constexpr qint64 kMostCaptions = 4LL * 1024 * 1024;
 
 bool isUnturned(const PreviewCell &cell)
 {
@@ -174,14 +174,14 @@ QRect CellPainter::hiddenBehind(const PreviewScene &scene, const PreviewCell &ce
     return isWhole ? photoRect(scene.style, cell, thumbnail->size()) : QRect();
 }
 
-const Caption &CellPainter::captionFor(const PreviewCell &cell, int number, const QFont &font)
+Caption CellPainter::captionFor(const PreviewCell &cell, int number, const QFont &font)
 {
     if (const Caption *kept = m_captions.object(number)) {
         return *kept;
     }
-    auto *made = new Caption(cell, font);
-    m_captions.insert(number, made, kCaptionBytes);
-    return *made;
+    Caption made(cell, font);
+    m_captions.insert(number, new Caption(made), kCaptionBytes);
+    return made;
 }
 
 } // namespace PanoHead

@@ -75,7 +75,7 @@ public:
     void reset(qint64 bytes);
 
 private:
-    const Caption &captionFor(const PreviewCell &cell, int number, const QFont &font);
+    Caption captionFor(const PreviewCell &cell, int number, const QFont &font);
 
     QCache<int, Caption> m_captions{ 0 }; // by cell, cost in bytes
 };
