@@ -36,7 +36,7 @@ public:
     const QStringList &read(const QStringList &files);
 
     /** Does \p step. False when memory ran out in it, which the box says. */
-    template <typename Step> bool withinMemory(const Step &step) const
+    template <typename Step> [[nodiscard]] bool withinMemory(const Step &step) const
     {
         return PanoHead::withinMemory(m_box, step);
     }

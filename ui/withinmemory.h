@@ -28,7 +28,7 @@ struct LowMemoryBox {
  * Does \p step. When memory runs out, \p box says so and the answer is false; Qt's event loop does
  * not survive an exception. Bringing back what was before is the caller's.
  */
-template <typename Step> bool withinMemory(const LowMemoryBox &box, const Step &step)
+template <typename Step> [[nodiscard]] bool withinMemory(const LowMemoryBox &box, const Step &step)
 {
     try {
         step();

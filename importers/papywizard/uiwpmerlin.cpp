@@ -50,9 +50,8 @@ bool UIWPMerlin::describe()
 void UIWPMerlin::ParseConfigFile(const QString &path)
 {
     bool isRead = false;
-    m_photos.withinMemory(
-        [&] { isRead = readRecord(m_state, shots, [&] { return parse(path); }); });
-    if (!isRead) {
+    const auto read = [&] { isRead = readRecord(m_state, shots, [&] { return parse(path); }); };
+    if (!m_photos.withinMemory(read) || !isRead) {
         // The ranges say that nothing was found; other pages keep those of the record before.
         m_state.setExtents({ AngleRange::scanStart(), AngleRange::scanStart() });
         return;

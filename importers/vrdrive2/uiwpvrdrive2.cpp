@@ -63,9 +63,8 @@ bool UIWPVRDrive2::describe()
 void UIWPVRDrive2::ParseConfigFile(const QString &fileName)
 {
     bool isRead = false;
-    m_photos.withinMemory(
-        [&] { isRead = readRecord(m_state, shots, [&] { return parse(fileName); }); });
-    if (isRead) {
+    const auto read = [&] { isRead = readRecord(m_state, shots, [&] { return parse(fileName); }); };
+    if (m_photos.withinMemory(read) && isRead) {
         m_leConfigFile->setToolTip(headerText(VRDrive2ToSPP::title, gps, comment));
     }
 }
