@@ -36,13 +36,13 @@ template <typename Form> LinkingChoices linkingChoicesOf(const Form &form)
 }
 
 /** "All stack levels" was clicked. */
-template <typename Form> void linkAllLevels(const Form &form, bool checked)
+template <typename Form> void linkAllLevels(Form &form, bool checked)
 {
     onAllLevelsClicked(linkingChoicesOf(form), checked);
 }
 
 /** "Use hard links" was clicked. */
-template <typename Form> void linkHard(const Form &form, bool checked)
+template <typename Form> void linkHard(Form &form, bool checked)
 {
     onHardLinksClicked(linkingChoicesOf(form), checked);
 }
