@@ -114,13 +114,15 @@ QPointF LayoutPicture::onScreen(const QPointF &place) const
 
 void LayoutPicture::paintGrid(QPainter &painter) const
 {
-    constexpr double kStep = 30.0;
+    constexpr int kStep = 30;
+    constexpr int kEast = static_cast<int>(kYawSpan) / 2;
+    constexpr int kTop = static_cast<int>(kPitchSpan) / 2;
     painter.setPen(faint(palette().color(QPalette::Text), 0.12));
-    for (double yaw = -kYawSpan / 2.0; yaw <= kYawSpan / 2.0; yaw += kStep) {
-        painter.drawLine(onScreen({ yaw, -kPitchSpan / 2.0 }), onScreen({ yaw, kPitchSpan / 2.0 }));
+    for (int yaw = -kEast; yaw <= kEast; yaw += kStep) {
+        painter.drawLine(onScreen(QPointF(yaw, -kTop)), onScreen(QPointF(yaw, kTop)));
     }
-    for (double pitch = -kPitchSpan / 2.0; pitch <= kPitchSpan / 2.0; pitch += kStep) {
-        painter.drawLine(onScreen({ -kYawSpan / 2.0, pitch }), onScreen({ kYawSpan / 2.0, pitch }));
+    for (int pitch = -kTop; pitch <= kTop; pitch += kStep) {
+        painter.drawLine(onScreen(QPointF(-kEast, pitch)), onScreen(QPointF(kEast, pitch)));
     }
 }
 
