@@ -100,13 +100,13 @@ void TestUIWPMerlin::cancelledRecordDialogReadsTheFileAgain()
     shoot.loadPhotos(2);
     shoot.driver.click("m_pbRot90");
     const QStringList told = fakeHost().setLastPaths;
-    shoot.writeRecord(RecordXml::row(4));
+    const QString record = shoot.writeRecord(RecordXml::row(4));
 
     shoot.driver.cancelFiles(kSelectRecord);
 
     QCOMPARE(shoot.driver.text("m_lbPapyLog"), QStringLiteral("4"));
     QCOMPARE(rollsOf(shoot.page.shots), (QVector<float>{ 0.0F, 0.0F, 0.0F, 0.0F }));
-    QCOMPARE(shoot.driver.text("m_leConfigFile"), shoot.folder.path(QStringLiteral("shoot.xml")));
+    QCOMPARE(shoot.driver.text("m_leConfigFile"), record);
     QCOMPARE(shoot.driver.text("m_lbImageLog"), QStringLiteral("2"));
     QCOMPARE(fakeHost().setLastPaths, told);
 }

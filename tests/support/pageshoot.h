@@ -15,8 +15,8 @@ template <typename Page> struct PageShoot {
     Page page{ nullptr };
     PageDriver driver{ &page };
 
-    QString writeRecord(const RecordXml &record,
-                        const QString &name = QStringLiteral("shoot.xml")) const
+    [[nodiscard]] QString writeRecord(const RecordXml &record,
+                                      const QString &name = QStringLiteral("shoot.xml")) const
     {
         return folder.write(name, record.bytes());
     }

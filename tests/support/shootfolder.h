@@ -23,11 +23,13 @@ public:
     /** Full path of \p name, whether it exists or not. */
     [[nodiscard]] QString path(const QString &name = {}) const;
     /** Writes a file and answers its full path; folders in \p name are made. */
+    // NOLINTNEXTLINE(modernize-use-nodiscard): often the file alone is wanted
     QString write(const QString &name, const QByteArray &content) const;
     /** A photo that the host reads as \p photo. */
+    // NOLINTNEXTLINE(modernize-use-nodiscard)
     QString addPhoto(const QString &name, const FakePhoto &photo = {}) const;
     /** The photos "IMG_0001.jpg", "IMG_0002.jpg"... */
-    QStringList addPhotos(int count, const FakePhoto &photo = {}) const;
+    [[nodiscard]] QStringList addPhotos(int count, const FakePhoto &photo = {}) const;
 
 private:
     QTemporaryDir m_folder;

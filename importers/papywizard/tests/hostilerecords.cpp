@@ -330,8 +330,7 @@ void addTexts(HostileFiles &files)
         "<![CDATA[" + QByteArray("<table><tr><td>").repeated(60) + "]]>",
         "<![CDATA[<a href='file:///etc/passwd'>click</a>]]>",
         "a %1 %2 %3 %99",
-        "\xe2\x80\xae"
-        "evil\xe2\x80\xac",
+        "\u202eevil\u202c",
         QByteArray("\n").repeated(10'000),
         QByteArray("x").repeated(10'000'000),
         QByteArray("\xcc\x81").repeated(100'000),
