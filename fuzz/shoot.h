@@ -17,7 +17,7 @@
 #include <vector>
 
 /** Memory that a fuzzer's canvas may take; so small that thousands are drawn in a second. */
-constexpr qint64 kFuzzCanvasBytes = 16 * 1024 * 1024;
+constexpr qint64 kFuzzCanvasBytes = 16LL * 1024 * 1024;
 
 /** A regular file in memory whose content changes with every input. */
 class MemoryFile

@@ -187,8 +187,8 @@ struct CloseView {
                    std::atan(kFullFrameDiagonalMm / (2.0 * static_cast<double>(photo.focalMm))))),
                kCloseFactor)
     {
-        const double yaw = static_cast<double>(photo.yawDegrees * kPiSingle / 180.0F);
-        const double pitch = static_cast<double>(photo.pitchDegrees * kPiSingle / 180.0F);
+        const auto yaw = static_cast<double>(photo.yawDegrees * kPiSingle / 180.0F);
+        const auto pitch = static_cast<double>(photo.pitchDegrees * kPiSingle / 180.0F);
         direction.x = std::sin(yaw) * std::cos(pitch);
         direction.y = std::cos(yaw) * std::cos(pitch);
         direction.z = -std::sin(pitch);

@@ -66,7 +66,7 @@ QString tooLarge()
  */
 std::optional<QByteArray> readToEnd(int fd, qint64 expected, ReadError *error)
 {
-    constexpr qint64 kLeastRoom = 64 * 1024;
+    constexpr qint64 kLeastRoom = 64LL * 1024;
     constexpr qint64 kMostRoom = kMaxRecordBytes + kLeastRoom;
     QByteArray bytes(static_cast<int>(std::max(expected + 1, kLeastRoom)), Qt::Uninitialized);
     int have = 0;

@@ -10,7 +10,7 @@ namespace PanoHead
 // What a record may hold; docs/security.md promises it. Whatever keeps within these limits is read
 // and drawn within seconds, and never takes more than 1 GB meanwhile.
 
-constexpr qint64 kMaxRecordBytes = 64 * 1024 * 1024;
+constexpr qint64 kMaxRecordBytes = 64LL * 1024 * 1024;
 
 /** Shots of one record: 31,000 positions with 3 exposures each, and room. */
 constexpr int kMaxRecordedShots = 130'000;

@@ -34,7 +34,7 @@ QStringList askForFiles(QWidget *page, const FileQuestion &question, const QStri
     dialog->setSupportedSchemes({ QStringLiteral("file") });
     dialog->selectNameFilter(question.selectedFilter);
     const bool accepted = dialog->exec() == QDialog::Accepted && !dialog.isNull();
-    const QStringList files = accepted ? dialog->selectedFiles() : QStringList();
+    QStringList files = accepted ? dialog->selectedFiles() : QStringList();
     delete dialog.data();
     return files;
 }
@@ -82,7 +82,7 @@ QStringList selectPhotos(QWidget *page, const FileQuestion &question, const QStr
         return {};
     }
     const QPointer<QWidget> guard(page);
-    const QStringList photos = sortedPhotos(askForFiles(page, question, start));
+    QStringList photos = sortedPhotos(askForFiles(page, question, start));
     if (guard.isNull() || photos.isEmpty()) {
         return {};
     }

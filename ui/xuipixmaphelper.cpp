@@ -5,6 +5,7 @@
 #include <QIcon>
 #include <QPainter>
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): a fixed signature
 QPixmap XuiPixmapHelper::CreateHighDpiPixmap(QString path, int alpha, QSize size)
 {
     const QIcon icon(path);

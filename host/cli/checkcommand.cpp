@@ -112,7 +112,7 @@ QString gapText(const QVector<PhotoInfo> &photos)
     if (pauses.isEmpty()) {
         return QStringLiteral("none");
     }
-    const auto longest = std::max_element(pauses.begin(), pauses.end());
+    const auto *longest = std::max_element(pauses.cbegin(), pauses.cend());
     QVector<qint64> sorted = pauses;
     std::sort(sorted.begin(), sorted.end());
     constexpr qint64 kNotableFactor = 4;
@@ -121,7 +121,7 @@ QString gapText(const QVector<PhotoInfo> &photos)
     if (*longest < std::max(kNotableMs, usual * kNotableFactor)) {
         return QStringLiteral("none");
     }
-    const int before = static_cast<int>(longest - pauses.begin());
+    const int before = static_cast<int>(longest - pauses.cbegin());
     return QStringLiteral("%1 s after %2 (usually %3 s)")
         .arg(QString::number(*longest / 1000), QFileInfo(photos.at(before).path).fileName(),
              QString::number(usual / 1000));

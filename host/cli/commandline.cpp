@@ -186,7 +186,7 @@ QString CommandLine::errorText() const
     if (unknown.isEmpty()) {
         return withoutFullStop(m_parser.errorText());
     }
-    const QString name = unknown.first();
+    const QString &name = unknown.first();
     const QString closest = closestWord(name, longNames());
     return QStringLiteral("unknown option '%1%2'; %3")
         .arg(QLatin1String(name.size() == 1 ? "-" : "--"), name,

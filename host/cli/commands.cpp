@@ -31,11 +31,11 @@ QStringList commandNames()
 
 const CommandRow *commandNamed(const QString &name)
 {
-    const auto row
+    const auto *row
         = std::find_if(commands().begin(), commands().end(), [&name](const CommandRow &command) {
               return name == QLatin1String(command.name);
           });
-    return row == commands().end() ? nullptr : &*row;
+    return row == commands().end() ? nullptr : row;
 }
 
 CommandLine generalLine()

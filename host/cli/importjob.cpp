@@ -84,7 +84,7 @@ QStringList ImportJob::namesForPage()
         return m_photos;
     }
     QString error;
-    const QStringList links = m_aliases.create(m_photos, &error);
+    QStringList links = m_aliases.create(m_photos, &error);
     if (links.isEmpty()) {
         throw CommandError({ ExitCode::ToolFailed, QStringLiteral("temporary links to the photos"),
                              error, QStringLiteral("is the temporary folder full? set TMPDIR") });

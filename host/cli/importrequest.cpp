@@ -289,7 +289,7 @@ CommandLine importingLine(CommandHelp help, const QVector<OptionRow> &ownOptions
         const QByteArray record = head->isGrid() ? "" : head->record + QByteArray(" ");
         help.about += "\n  " + head->name().toLatin1().leftJustified(11) + record + "PHOTO...";
     }
-    return CommandLine(std::move(help), ownOptions + importOptions());
+    return { std::move(help), ownOptions + importOptions() };
 }
 
 ImportRequest importRequest(const CommandLine &line)

@@ -34,7 +34,7 @@ CommandLine previewLine()
 
 QByteArray formatOf(const QString &path)
 {
-    const QByteArray format = QFileInfo(path).suffix().toLower().toLatin1();
+    QByteArray format = QFileInfo(path).suffix().toLower().toLatin1();
     if (!QImageWriter::supportedImageFormats().contains(format)) {
         throw usageError(QStringLiteral("-o %1: no picture format").arg(displayName(path)),
                          QStringLiteral("end the name in .png or .jpg"));

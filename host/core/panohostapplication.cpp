@@ -43,7 +43,7 @@ PanoHostApplication *PanoHostApplication::instance()
 
 QString PanoHostApplication::LastPath()
 {
-    const QString path = m_settings->value(lastPathKey()).toString();
+    QString path = m_settings->value(lastPathKey()).toString();
     if (!path.isEmpty() && QFileInfo(path).isDir()) {
         return path;
     }

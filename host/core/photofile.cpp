@@ -26,7 +26,7 @@ namespace
 /** Formats that cannot be scaled while they are decoded are decoded up to this size only. */
 constexpr qint64 kMostDecodedBytes = 384LL * 1024 * 1024;
 /** Embedded previews are JPEGs; a larger one is no preview. */
-constexpr size_t kMostPreviewBytes = 64U * 1024 * 1024;
+constexpr size_t kMostPreviewBytes = size_t{ 64 } * 1024 * 1024;
 /** Manual lenses report no aperture; any fixed value keeps the differences of a shoot right. */
 constexpr double kAssumedFNumber = 3.5;
 constexpr double kAssumedIso = 100.0;
@@ -368,7 +368,7 @@ QImage previewThumbnail(const QString &path, int orientation)
     if (!isPhotoFormat(reader.format())) {
         return {};
     }
-    const QImage picture = decodedThumbnail(reader);
+    QImage picture = decodedThumbnail(reader);
     if (reader.transformation() != QImageIOHandler::TransformationNone) {
         return picture;
     }

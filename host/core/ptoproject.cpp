@@ -57,7 +57,7 @@ std::optional<double> medianExposure(QVector<double> known)
     if (known.isEmpty()) {
         return {};
     }
-    const auto middle = known.begin() + (known.size() - 1) / 2;
+    auto *const middle = known.begin() + (known.size() - 1) / 2;
     std::nth_element(known.begin(), middle, known.end());
     return *middle;
 }
@@ -87,9 +87,9 @@ public:
     Result<PtoProject> make();
 
 private:
-    std::optional<Failure> checkFocalLength() const;
-    std::optional<Failure> collectImages();
-    std::optional<Failure> nameImage(Image &image) const;
+    [[nodiscard]] std::optional<Failure> checkFocalLength() const;
+    [[nodiscard]] std::optional<Failure> collectImages();
+    [[nodiscard]] std::optional<Failure> nameImage(Image &image) const;
     void findExposures();
     void layOutCanvas();
     void appendHeader();
@@ -178,7 +178,7 @@ std::optional<Failure> ProjectMaker::collectImages()
                 return refused(photo.path, QStringLiteral("its direction is not a number"),
                                QStringLiteral("correct the record"));
             }
-            if (const auto failure = nameImage(image)) {
+            if (auto failure = nameImage(image)) {
                 return failure;
             }
             m_images.append(image);

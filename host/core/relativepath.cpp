@@ -14,11 +14,11 @@ QString relativePath(const QString &path, const QString &folder)
         return path;
     }
     const QFileInfo info(path);
-    const QString absolute = QDir::cleanPath(info.absoluteFilePath());
+    QString absolute = QDir::cleanPath(info.absoluteFilePath());
     if (folder.isEmpty()) {
         return absolute;
     }
-    const QString relative = QDir(folder).relativeFilePath(absolute);
+    QString relative = QDir(folder).relativeFilePath(absolute);
     if (!relative.startsWith(QStringLiteral("../"))) {
         return relative;
     }

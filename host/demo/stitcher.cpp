@@ -64,7 +64,7 @@ Result<QImage> blend(const StitchJob &job, const QString &verdandi, const QStrin
 /** What a helper program says or does that finds no room tells nobody so. */
 Failure orLackOfRoom(const Failure &failure, const QString &folder)
 {
-    constexpr qint64 kMegabyte = 1024 * 1024;
+    constexpr qint64 kMegabyte = 1024LL * 1024;
     constexpr qint64 kHardlyAnyMegabytes = 16; // a warped photo may take as much
     const qint64 megabytes = QStorageInfo(folder).bytesAvailable() / kMegabyte;
     if (failure.code != ExitCode::ToolFailed || megabytes >= kHardlyAnyMegabytes) {

@@ -57,7 +57,7 @@ int headFor(const FilledFiles &files, const QVector<ImportPlugin> &plugins, int 
     if (files.record.isEmpty() || (chosen >= 0 && reads(plugins.at(chosen)))) {
         return chosen;
     }
-    const auto found = std::find_if(plugins.begin(), plugins.end(), reads);
+    const auto *found = std::find_if(plugins.begin(), plugins.end(), reads);
     return found == plugins.end() ? chosen : static_cast<int>(found - plugins.begin());
 }
 

@@ -28,6 +28,7 @@ bool ClaussToSPP::parse(const QString &fileName)
     return script.isSound;
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): a fixed signature
 void ClaussToSPP::generateSPP(QStringList &images, QList<XIImageDef *> imageDefs)
 {
     for (const QString &image : qAsConst(images)) {

@@ -10,7 +10,7 @@
 class GigapanToSPP : public StructuredPanoramaProperties
 {
 public:
-    GigapanToSPP(int rows, int columns, int mode, int bracketCount, int ignoredCount);
+    GigapanToSPP(int rowCount, int columnCount, int gridOrder, int bracket, int ignored);
 
     /**
      * Appends one stack per grid cell in shooting order, as far as \p images (full paths, shooting

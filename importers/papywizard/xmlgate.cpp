@@ -256,7 +256,7 @@ private:
         if (m_refusal) {
             return;
         }
-        const auto end = m_text.cbegin() + std::min(m_pos, m_text.size());
+        const auto *end = m_text.cbegin() + std::min(m_pos, m_text.size());
         const auto line = std::count(m_text.cbegin(), end, QLatin1Char('\n'));
         m_refusal = ReadError{ reason, static_cast<int>(line) + 1 };
     }
