@@ -3,6 +3,7 @@
 #include "tests/pages/everyshoot.h"
 #include "tests/support/desktop.h"
 #include "tests/support/fakeapplication.h"
+#include "tests/support/heads.h"
 #include "ui/xui.h"
 
 #include <QtTest>

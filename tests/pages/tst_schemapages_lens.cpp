@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/pages/schemashoot.h"
 #include "tests/support/fakeapplication.h"
+#include "tests/support/heads.h"
 #include "tests/support/heldphotos.h"
 #include "ui/xui.h"
 
