@@ -48,28 +48,28 @@ constexpr size_t indexOf(Part part)
 }
 
 struct PartRow {
-    Part parent;
     const char *name;
+    Part parent;
     Part part;
 };
 
 constexpr PartRow kParts[] = {
-    { Part::Root, "shoot", Part::Shoot },
-    { Part::Root, "header", Part::Header },
-    { Part::Shoot, "pict", Part::Pict },
-    { Part::Pict, "position", Part::Position },
-    { Part::Pict, "time", Part::Time },
-    { Part::Header, "general", Part::General },
-    { Part::General, "title", Part::Title },
-    { Part::General, "gps", Part::Gps },
-    { Part::General, "comment", Part::Comment },
-    { Part::Header, "camera", Part::Camera },
-    { Part::Camera, "sensor", Part::Sensor },
-    { Part::Camera, "bracketing", Part::Bracketing },
-    { Part::Header, "lens", Part::Lens },
-    { Part::Lens, "focal", Part::Focal },
-    { Part::Header, "shooting", Part::Shooting },
-    { Part::Shooting, "cameraOrientation", Part::Orientation },
+    { "shoot", Part::Root, Part::Shoot },
+    { "header", Part::Root, Part::Header },
+    { "pict", Part::Shoot, Part::Pict },
+    { "position", Part::Pict, Part::Position },
+    { "time", Part::Pict, Part::Time },
+    { "general", Part::Header, Part::General },
+    { "title", Part::General, Part::Title },
+    { "gps", Part::General, Part::Gps },
+    { "comment", Part::General, Part::Comment },
+    { "camera", Part::Header, Part::Camera },
+    { "sensor", Part::Camera, Part::Sensor },
+    { "bracketing", Part::Camera, Part::Bracketing },
+    { "lens", Part::Header, Part::Lens },
+    { "focal", Part::Lens, Part::Focal },
+    { "shooting", Part::Header, Part::Shooting },
+    { "cameraOrientation", Part::Shooting, Part::Orientation },
 };
 
 Part partOf(Part parent, const QString &name)
