@@ -48,6 +48,15 @@ public:
             showNothing();
         }
     }
+    /** The same for what has arrived, which \p show shows; nothing after `letGo`. */
+    template <typename Show> void drawArrived(const Show &show)
+    {
+        draw([&] {
+            if (arrived()) {
+                show();
+            }
+        });
+    }
     /** The thread has signalled: new photos are asked, and those that lacked an answer again, all
      * of them at the end of the work. False, and nothing to be done, after `letGo`. */
     [[nodiscard]] bool arrived();

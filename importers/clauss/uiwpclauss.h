@@ -3,7 +3,7 @@
 #pragma once
 
 #include "importers/clauss/clausstospp.h"
-#include "ui/headpage.h"
+#include "ui/recordpage.h"
 #include "ui_uiwpclauss.h"
 
 /** The wizard page of the Clauss Rodeon importer. */
@@ -14,8 +14,8 @@ class UIWPClauss : public QWizardPage, public ClaussToSPP, public Ui::UIWPClauss
 public:
     explicit UIWPClauss(QWidget *parent);
     ~UIWPClauss() override { PanoHead::endReading(this, m_readingThread); }
-    void CreateWidgets();
-    void CreateConnects();
+    void CreateWidgets() { PanoHead::prepareRecordPage(*this, m_readingThread, m_photos); }
+    void CreateConnects() { PanoHead::connectPlainPage(this, m_readingThread); }
 
     void initializePage() override { }
     void cleanupPage() override;
@@ -47,13 +47,11 @@ public Q_SLOTS:
     void OnInverseCoordinates();
 
 private:
-    /** Makes \p path the page's script; false when the host deleted the page meanwhile. */
-    [[nodiscard]] bool readScript(const QString &path);
     void showPreview();
 
     PanoHead::ShootState m_state;
     QList<XIImageDef *> previewImages; ///< what the preview shows; not owned
-    bool m_isReadingScript = false; ///< until its error box is closed
+    PanoHead::PlainRecord m_record;
     ReadingThread *m_readingThread = nullptr;
     PanoHead::ShotLayout m_layout;
     PanoHead::PagePhotos m_photos;

@@ -155,11 +155,7 @@ void UIWPGigapan::UpdateUI()
 void UIWPGigapan::UpdatePreview()
 {
     const XNoEvent noEvent(m_isUpdating);
-    m_photos.draw([this] {
-        if (m_photos.arrived()) {
-            showPreview();
-        }
-    });
+    m_photos.drawArrived([this] { showPreview(); });
     Q_EMIT completeChanged();
 }
 

@@ -2,16 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shoot/angles.h"
 #include "shoot/displaytexts.h"
-#include "shoot/recordedshoot.h"
-#include "ui/blocksignal.h"
-#include "ui/headpage.h"
-#include "ui/messageboxes.h"
 #include "ui/plaintooltip.h"
-
-#include <QLineEdit>
-#include <QSlider>
+#include "ui/recordpage.h"
 
 #include <algorithm>
 
@@ -25,9 +18,7 @@ template <typename Page>
 void prepareSchemaPage(Page &page, ReadingThread *thread, PagePhotos &photos,
                        const QStringList &lensNames)
 {
-    photos.place(page.m_saPreview, thread);
-    completePaths(page.m_leConfigFile);
-    liftLengthLimit(page.m_leImage);
+    prepareRecordPage(page, thread, photos);
     fillLensTypes(page.m_cbLensType, lensNames);
     new PlainToolTip(page.m_leConfigFile);
 }
@@ -54,16 +45,6 @@ template <typename Page> void takeRecord(Page &page, ShootState &state, const QS
     page.ParseConfigFile(path);
     page.UpdateUI();
     Q_EMIT page.completeChanged();
-}
-
-/** Neither record nor photos; the picture is not drawn yet. */
-template <typename Page>
-void forgetShoot(Page &page, ShootState &state, ReadingThread &thread, PagePhotos &photos)
-{
-    page.forgetRecord();
-    state = ShootState();
-    photos.forget();
-    thread.Clear();
 }
 
 /** The description counts at least one photo per position; \p box warns, and the answer is false,

@@ -91,11 +91,9 @@ void UIWPMerlin::SelectConfigFile()
 
 void UIWPMerlin::SelectImages()
 {
-    const QStringList photos
-        = selectPhotos(this, { tr("Select images"), tr("All Files (*.*)"), tr("All Files (*.*)") },
-                       m_state.images, ControlShows::Folder);
-    if (!photos.isEmpty()) {
-        m_state.images = m_photos.read(photos);
+    if (choosePhotos(*this, m_state, m_photos,
+                     { tr("Select images"), tr("All Files (*.*)"), tr("All Files (*.*)") },
+                     ControlShows::Folder)) {
         UpdateUI();
         Q_EMIT completeChanged();
     }
@@ -103,7 +101,8 @@ void UIWPMerlin::SelectImages()
 
 void UIWPMerlin::Reset()
 {
-    forgetShoot(*this, m_state, *m_readingThread, m_photos);
+    forgetRecord();
+    forgetShoot(m_state, *m_readingThread, m_photos);
     redrawAll();
 }
 
@@ -123,8 +122,7 @@ void UIWPMerlin::useLens(const LensFacts &lens)
 
 void UIWPMerlin::OnInverseCoordinates()
 {
-    invertPitch(shots);
-    m_state.invertPitchRange();
+    invertShoot(*this, m_state);
     redrawAll();
 }
 

@@ -113,7 +113,8 @@ void UIWPVRDrive2::SelectImages()
 
 void UIWPVRDrive2::Reset()
 {
-    forgetShoot(*this, m_state, *m_readingThread, m_photos);
+    forgetRecord();
+    forgetShoot(m_state, *m_readingThread, m_photos);
     redrawAll();
     Q_EMIT completeChanged();
 }
@@ -135,8 +136,7 @@ void UIWPVRDrive2::OnZoomChanged()
 
 void UIWPVRDrive2::OnInverseCoordinates()
 {
-    invertPitch(shots);
-    m_state.invertPitchRange();
+    invertShoot(*this, m_state);
     redrawAll();
 }
 
