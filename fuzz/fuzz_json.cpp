@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
 #include "fuzz/check.h"
-#include "host/core/panoramajson.h"
+#include "host/model/panoramajson.h"
 
 #include <cstdint>
 

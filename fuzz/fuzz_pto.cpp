@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "fuzz/bytesource.h"
 #include "fuzz/check.h"
-#include "host/core/panorama.h"
-#include "host/core/ptoproject.h"
+#include "host/model/panorama.h"
+#include "host/model/ptoproject.h"
 
 using namespace PanoHost;
 

@@ -1,12 +1,13 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "host/cli/commanderror.h"
 #include "host/cli/commands.h"
-#include "host/cli/displayname.h"
-#include "host/cli/importjob.h"
-#include "host/cli/inputcheck.h"
-#include "host/cli/lenschoice.h"
-#include "host/core/panorama.h"
+#include "host/cli/requestline.h"
+#include "host/import/importjob.h"
+#include "host/import/inputcheck.h"
+#include "host/import/lenschoice.h"
+#include "host/model/commanderror.h"
+#include "host/model/displayname.h"
+#include "host/model/panorama.h"
 
 #include <QFileInfo>
 
@@ -147,17 +148,18 @@ ExitCode runCheck(Session &session, const QStringList &arguments)
         return ExitCode::Done;
     }
     applyCommonOptions(session, line);
-    const ImportRequest request = importRequest(line);
+    const ImportRequest request = importRequest(session, line);
     if (request.head->isGrid()) {
         printGrid(*request.grid, request.photos.size());
     } else {
         printRecord(request.record, readRecord(*request.head, request.record));
     }
     requirePhotoFiles(request.photos);
-    const QStringList photos = orderedPhotos(session, request.photos, request.order);
+    const QStringList photos
+        = orderedPhotos(session.app, request.photos, request.order, session.watch());
     printPhotos(readableInfos(session, photos), photos.size());
 
-    ImportJob job(session, request);
+    ImportJob job(session.app, request, session.watch());
     job.checkInputs();
     job.preparePage();
     printRow("result", QStringLiteral("can be imported"));

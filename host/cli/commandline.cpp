@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/cli/commandline.h"
 
-#include "host/cli/commanderror.h"
-#include "host/cli/wordsuggestion.h"
+#include "host/model/commanderror.h"
+#include "host/model/wordsuggestion.h"
 
 #include <QCoreApplication>
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "host/core/messages.h"
+#include "host/model/messages.h"
 
 #include <QElapsedTimer>
 #include <QString>

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "host/cli/commanderror.h"
 #include "host/cli/commands.h"
-#include "host/cli/displayname.h"
-#include "host/cli/importjob.h"
-#include "host/cli/wordsuggestion.h"
 #include "host/demo/demo.h"
+#include "host/import/importjob.h"
+#include "host/model/commanderror.h"
+#include "host/model/displayname.h"
+#include "host/model/wordsuggestion.h"
 
 #include <QDir>
 #include <QProcess>
@@ -66,9 +66,10 @@ DemoImport importThroughPage(Session &session, const HeadFacts &head, const QStr
         request.grid->rows = kDemoGrid.rows;
         request.grid->overlapPercent = kDemoGrid.overlapPercent;
     }
+    request.pluginPath = session.pluginPath;
     request.record = record;
     request.photos = photos;
-    ImportJob job(session, request);
+    ImportJob job(session.app, request, session.watch());
     job.checkInputs();
     job.preparePage();
     const QImage layout = job.layout().toImage();
@@ -140,12 +141,7 @@ ExitCode runDemoCommand(Session &session, const QStringList &arguments)
         = [&session](const HeadFacts &head, const QString &record, const QStringList &photos) {
               return importThroughPage(session, head, record, photos);
           };
-    JobWatch watch;
-    watch.progress = [&session](int done, int total, const QString &text) {
-        session.console.progress(done, total, text);
-    };
-    watch.interrupted = &Interrupt::requested;
-    const DemoReport made = valueOrThrow(runDemo(options, importer, watch));
+    const DemoReport made = valueOrThrow(runDemo(options, importer, session.watch()));
     session.console.endProgress();
     const ExitCode code = report(session, made);
     if (line.isSet(QStringLiteral("open"))) {

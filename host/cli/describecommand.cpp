@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "host/cli/commanderror.h"
 #include "host/cli/commands.h"
-#include "host/cli/importjob.h"
 #include "host/cli/panoramatable.h"
-#include "host/core/panoramajson.h"
+#include "host/cli/requestline.h"
+#include "host/import/importjob.h"
+#include "host/model/commanderror.h"
+#include "host/model/panoramajson.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -54,8 +55,9 @@ ExitCode runDescribe(Session &session, const QStringList &arguments)
     const QStringList words = line.positional();
     const bool fromFile = isJsonFile(words);
     const QString folder = fromFile ? QFileInfo(words.first()).absolutePath() : QDir::currentPath();
-    const Panorama panorama = fromFile ? valueOrThrow(readPanoramaJson(words.first()))
-                                       : importPanorama(session, importRequest(line));
+    const Panorama panorama = fromFile
+        ? valueOrThrow(readPanoramaJson(words.first()))
+        : valueOrThrow(importShoot(session.app, importRequest(session, line), session.watch()));
     if (line.isSet(QStringLiteral("text"))) {
         printOut(panoramaTable(panorama, folder));
     } else {

@@ -3,6 +3,7 @@
 #include "host/cli/environment.h"
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QtGlobal>
@@ -84,6 +85,12 @@ Environment::Environment(Use use)
             qputenv("XDG_RUNTIME_DIR", folder);
         }
     }
+}
+
+void Environment::prepareWindow()
+{
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
 }
 
 bool Environment::hasDisplay()

@@ -28,6 +28,8 @@ public:
     };
     explicit Environment(Use use);
 
+    /** What a window needs settled besides, before the application object exists. */
+    static void prepareWindow();
     /** False when a window cannot be shown. */
     [[nodiscard]] static bool hasDisplay();
 

@@ -1,12 +1,13 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "host/cli/commanderror.h"
 #include "host/cli/commands.h"
-#include "host/cli/displayname.h"
-#include "host/cli/importjob.h"
-#include "host/cli/inputcheck.h"
-#include "host/core/panoramajson.h"
-#include "host/core/ptoproject.h"
+#include "host/cli/requestline.h"
+#include "host/import/importjob.h"
+#include "host/import/inputcheck.h"
+#include "host/model/commanderror.h"
+#include "host/model/displayname.h"
+#include "host/model/panoramajson.h"
+#include "host/model/ptoproject.h"
 
 #include <QDir>
 
@@ -102,11 +103,11 @@ ExitCode runImport(Session &session, const QStringList &arguments)
         return ExitCode::Done;
     }
     applyCommonOptions(session, line);
-    const ImportRequest request = importRequest(line);
+    const ImportRequest request = importRequest(session, line);
     const Outputs outputs = outputsFrom(line);
     requireWritableOutputs(outputs, request);
 
-    Panorama panorama = importPanorama(session, request);
+    Panorama panorama = valueOrThrow(importShoot(session.app, request, session.watch()));
     Interrupt::check();
     if (!outputs.project.isEmpty()) {
         writeProject(session, panorama, outputs.project, request);

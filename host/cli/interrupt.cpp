@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/cli/interrupt.h"
 
-#include "host/cli/commanderror.h"
+#include "host/model/jobwatch.h"
 
 #include <QSocketNotifier>
 
@@ -78,7 +78,7 @@ bool Interrupt::requested()
 void Interrupt::check()
 {
     if (requested()) {
-        throw CommandError({ ExitCode::Interrupted, {}, {}, {} });
+        throw CommandError(interruption());
     }
 }
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/cli/panoramatable.h"
 
-#include "host/cli/displayname.h"
+#include "host/model/displayname.h"
 
 #include <QDir>
 

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "host/cli/commanderror.h"
 #include "host/cli/commands.h"
-#include "host/core/pluginlibrary.h"
+#include "host/model/commanderror.h"
+#include "host/plugin/pluginlibrary.h"
 #include "hostlink/xiabout.h"
 
 namespace PanoHost

@@ -1,17 +1,18 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "host/cli/commanderror.h"
 #include "host/cli/commands.h"
-#include "host/cli/displayname.h"
-#include "host/cli/importjob.h"
-#include "host/cli/inputcheck.h"
+#include "host/cli/requestline.h"
+#include "host/import/importjob.h"
+#include "host/import/inputcheck.h"
+#include "host/model/commanderror.h"
+#include "host/model/displayname.h"
 
 #include <QBuffer>
 #include <QDir>
 #include <QFileInfo>
 #include <QImageWriter>
 
-#include "host/core/safefile.h"
+#include "host/model/safefile.h"
 
 namespace PanoHost
 {
@@ -51,7 +52,7 @@ ExitCode runPreview(Session &session, const QStringList &arguments)
         return ExitCode::Done;
     }
     applyCommonOptions(session, line);
-    const ImportRequest request = importRequest(line);
+    const ImportRequest request = importRequest(session, line);
     if (!line.isSet(QStringLiteral("output"))) {
         throw usageError(QStringLiteral("no picture named"), QStringLiteral("add -o LAYOUT.png"));
     }
@@ -59,7 +60,7 @@ ExitCode runPreview(Session &session, const QStringList &arguments)
     const QByteArray format = formatOf(path);
     requireWritable(path, QStringList(request.record) + request.photos);
 
-    ImportJob job(session, request);
+    ImportJob job(session.app, request, session.watch());
     job.checkInputs();
     job.preparePage();
     const QPixmap layout = job.layout();

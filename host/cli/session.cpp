@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/cli/session.h"
 
-#include "host/cli/commanderror.h"
 #include "host/cli/commandline.h"
+#include "host/model/commanderror.h"
 
 #include <QDir>
 #include <QLocale>
@@ -41,6 +41,26 @@ Console::Color colorOf(const QString &word)
 }
 
 } // namespace
+
+JobWatch Session::watch() const
+{
+    JobWatch watch;
+    watch.progress = [&console = console](int done, int total, const QString &text) {
+        console.progress(done, total, text);
+        if (done == total) {
+            console.endProgress();
+        }
+    };
+    watch.interrupted = &Interrupt::requested;
+    watch.log = [&console = console](JobWatch::Note note, const QString &text) {
+        if (note == JobWatch::Note::Warning) {
+            console.warning(text);
+        } else {
+            console.detail(text);
+        }
+    };
+    return watch;
+}
 
 void applyCommonOptions(Session &session, const CommandLine &line)
 {

@@ -4,7 +4,8 @@
 
 #include "host/cli/console.h"
 #include "host/cli/interrupt.h"
-#include "host/core/panohostapplication.h"
+#include "host/model/jobwatch.h"
+#include "host/plugin/panohostapplication.h"
 
 namespace PanoHost
 {
@@ -17,6 +18,9 @@ struct Session {
     Console &console;
     Interrupt &interrupt;
     QString pluginPath; ///< file or folder of `--plugin`; empty: the usual places
+
+    /** Shows on the console what a job says, and stops it at Ctrl-C. */
+    [[nodiscard]] JobWatch watch() const;
 };
 
 /** Takes over the options that all commands share; throws the usage error for a wrong value. */

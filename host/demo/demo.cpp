@@ -2,14 +2,16 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/demo/demo.h"
 
-#include "host/core/panoramajson.h"
-#include "host/core/ptoproject.h"
-#include "host/core/safefile.h"
 #include "host/demo/exifwriter.h"
 #include "host/demo/nearestphoto.h"
+#include "host/demo/ordercheck.h"
 #include "host/demo/photoshoot.h"
-#include "host/demo/projectcheck.h"
-#include "host/demo/stitcher.h"
+#include "host/model/panoramajson.h"
+#include "host/model/ptoproject.h"
+#include "host/model/safefile.h"
+#include "host/stitch/projectcheck.h"
+#include "host/stitch/stitcher.h"
+#include "host/stitch/toolrun.h"
 
 #include <QBuffer>
 #include <QDir>

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "host/core/panorama.h"
 #include "host/demo/demohead.h"
 #include "host/demo/psnr.h"
-#include "host/demo/toolrun.h"
+#include "host/model/jobwatch.h"
+#include "host/model/panorama.h"
 
 #include <QImage>
 #include <QVector>

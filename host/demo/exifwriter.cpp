@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/demo/exifwriter.h"
 
-#include "host/core/safefile.h"
+#include "host/model/safefile.h"
 
 #include <QBuffer>
 

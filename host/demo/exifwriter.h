@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "host/core/result.h"
 #include "host/demo/shootplan.h"
+#include "host/model/result.h"
 
 #include <QImage>
 #include <QRect>

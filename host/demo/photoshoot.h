@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "host/core/result.h"
 #include "host/demo/scene.h"
 #include "host/demo/shootplan.h"
-#include "host/demo/toolrun.h"
+#include "host/model/jobwatch.h"
+#include "host/model/result.h"
 
 #include <QStringList>
 

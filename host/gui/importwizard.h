@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "host/core/delivery.h"
-#include "host/core/panohostapplication.h"
-#include "host/core/panorama.h"
-#include "host/core/pluginlibrary.h"
+#include "host/model/delivery.h"
+#include "host/model/panorama.h"
+#include "host/plugin/panohostapplication.h"
+#include "host/plugin/pluginlibrary.h"
 
 #include <QMessageBox>
 #include <QWizard>

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/gui/pagefiller.h"
 
-#include "host/cli/dialogcatcher.h"
-#include "host/cli/heads.h"
-#include "host/cli/photoaliases.h"
+#include "host/import/dialogcatcher.h"
+#include "host/import/heads.h"
+#include "host/import/photoaliases.h"
 
 #include <QAbstractButton>
 #include <QDir>

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "host/core/panohostapplication.h"
-#include "host/core/pluginlibrary.h"
+#include "host/plugin/panohostapplication.h"
+#include "host/plugin/pluginlibrary.h"
 
 #include <QStringList>
 

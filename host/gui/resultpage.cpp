@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/gui/resultpage.h"
 
-#include "host/core/panoramajson.h"
-#include "host/core/ptoproject.h"
 #include "host/gui/importwizard.h"
 #include "host/gui/layoutpicture.h"
+#include "host/model/panoramajson.h"
+#include "host/model/ptoproject.h"
 
 #include <QFileDialog>
 #include <QFileInfo>

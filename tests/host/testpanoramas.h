@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "host/core/panorama.h"
+#include "host/model/panorama.h"
 
 #include <QString>
 #include <QVector>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "host/core/coverage.h"
+#include "host/model/coverage.h"
 #include "tests/support/testprogram.h"
 
 #include <QtTest>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "host/core/hostimage.h"
+#include "host/plugin/hostimage.h"
 #include "tests/host/testphotos.h"
 #include "tests/support/testprogram.h"
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "host/core/messages.h"
-#include "host/core/result.h"
+#include "host/model/messages.h"
+#include "host/model/result.h"
 #include "tests/support/testprogram.h"
 
 #include <QtTest>

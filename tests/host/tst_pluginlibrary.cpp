@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "host/core/panohostapplication.h"
-#include "host/core/pluginlibrary.h"
+#include "host/plugin/panohostapplication.h"
+#include "host/plugin/pluginlibrary.h"
 #include "hostlink/xiabout.h"
 #include "hostlink/xipluginimport.h"
 #include "tests/host/testphotos.h"

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "host/core/ptoproject.h"
+#include "host/model/ptoproject.h"
 #include "tests/host/testpanoramas.h"
 #include "tests/support/testprogram.h"
 

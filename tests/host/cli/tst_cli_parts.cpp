@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "host/cli/commanderror.h"
 #include "host/cli/invocation.h"
-#include "host/cli/lenschoice.h"
-#include "host/cli/photoaliases.h"
-#include "host/cli/wordsuggestion.h"
+#include "host/cli/requestline.h"
+#include "host/import/lenschoice.h"
+#include "host/import/photoaliases.h"
+#include "host/model/commanderror.h"
+#include "host/model/wordsuggestion.h"
 #include "tests/host/testphotos.h"
 #include "tests/support/testprogram.h"
 

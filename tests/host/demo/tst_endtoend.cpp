@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "host/core/panoramajson.h"
-#include "host/core/photofile.h"
 #include "host/demo/demohead.h"
 #include "host/demo/photoshoot.h"
 #include "host/demo/psnr.h"
-#include "host/demo/stitcher.h"
+#include "host/model/panoramajson.h"
+#include "host/model/photofile.h"
+#include "host/stitch/stitcher.h"
 #include "tests/support/testprogram.h"
 
 #include <QDir>

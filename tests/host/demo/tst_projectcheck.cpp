@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/demo/demohead.h"
-#include "host/demo/projectcheck.h"
+#include "host/demo/ordercheck.h"
+#include "host/stitch/projectcheck.h"
 #include "tests/support/testprogram.h"
 
 #include <QFile>

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "host/demo/stitcher.h"
+#include "host/stitch/stitcher.h"
 #include "tests/support/testprogram.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QGuiApplication>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -259,5 +259,5 @@ void TestStitcher::badEndsAreExplained()
     }
 }
 
-TEST_CLASS(TestStitcher, QApplication)
+TEST_CLASS(TestStitcher, QGuiApplication)
 #include "tst_stitcher.moc"

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "host/cli/dialogcatcher.h"
 #include "host/gui/choicepage.h"
 #include "host/gui/importwizard.h"
 #include "host/gui/layoutpicture.h"
 #include "host/gui/resultpage.h"
+#include "host/import/dialogcatcher.h"
 #include "tests/host/testphotos.h"
 #include "tests/support/hosthead.h"
 #include "tests/support/testprogram.h"

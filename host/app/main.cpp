@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/app/window.h"
+#include "host/cli/environment.h"
+#include "host/cli/invocation.h"
+#include "host/model/commanderror.h"
+#include "host/model/photofile.h"
+#include "host/model/wordsuggestion.h"
+
+#include <new>
+
+using namespace PanoHost;
+
+namespace
+{
+
+ExitCode dispatch(Session &session, const Invocation &invocation)
+{
+    switch (invocation.kind) {
+    case Invocation::Kind::Window:
+        return runWindow(session, invocation.arguments);
+    case Invocation::Kind::Command:
+        return invocation.command->run(session, invocation.arguments);
+    case Invocation::Kind::General:
+        (void)generalLine().parse(invocation.arguments);
+        return ExitCode::Done;
+    case Invocation::Kind::Unknown:
+        break;
+    }
+    throw usageError(QStringLiteral("'%1' is neither a command nor a file%2")
+                         .arg(invocation.word, suggestion(invocation.word, commandNames())),
+                     QStringLiteral("see 'panohost --help'"));
+}
+
+ExitCode run(Session &session, const Invocation &invocation)
+{
+    try {
+        return dispatch(session, invocation);
+    } catch (const CommandError &error) {
+        session.console.endProgress();
+        if (error.failure().code == ExitCode::Interrupted) {
+            session.console.info(QStringLiteral("stopped; your files are as they were, and no "
+                                                "unfinished result is left"));
+        } else {
+            session.console.error(error.failure());
+        }
+        return error.failure().code;
+    } catch (const std::bad_alloc &) {
+        const Failure failure{ ExitCode::InputRefused,
+                               QStringLiteral("not enough memory"),
+                               {},
+                               QStringLiteral("close other programs, or import fewer photos") };
+        session.console.error(failure);
+        return failure.code;
+    }
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const Invocation invocation = Invocation::of(Environment::decodeArguments(argc, argv));
+    const bool window = invocation.kind == Invocation::Kind::Window;
+    Console console;
+    if (window && !Environment::hasDisplay()) {
+        console.error({ ExitCode::Usage,
+                        QStringLiteral("no display to show the window on"),
+                        {},
+                        QStringLiteral("the commands work without one: see 'panohost --help'") });
+        return static_cast<int>(ExitCode::Usage);
+    }
+    const Environment environment(window ? Environment::Use::Window : Environment::Use::Command);
+    initializePhotoReading();
+    if (window) {
+        Environment::prepareWindow();
+    }
+    // Qt takes some options for its own, --plugin among them: it gets the program's name alone.
+    int qtArgumentCount = 1;
+    PanoHostApplication app(qtArgumentCount, argv);
+    QCoreApplication::setApplicationVersion(QStringLiteral(PANOHOST_VERSION));
+    Interrupt interrupt;
+    Session session{ app, console, interrupt, {} };
+    return static_cast<int>(run(session, invocation));
+}

@@ -1,0 +1,308 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/cli/environment.h"
+#include "host/demo/demohead.h"
+#include "host/demo/photoshoot.h"
+#include "host/gui/importwizard.h"
+#include "host/model/photofile.h"
+#include "host/plugin/pluginlibrary.h"
+
+#include <QAbstractButton>
+#include <QCommandLineParser>
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QFont>
+#include <QLabel>
+#include <QListWidget>
+#include <QSlider>
+#include <QStyleFactory>
+#include <QTabWidget>
+#include <QTextStream>
+
+#include <array>
+#include <functional>
+
+/*
+ * Photographs the wizard: every tab of every import page, filled with a shoot of the demo's scene,
+ * and the host's own pages. scripts/screenshots runs it for all themes, scales and languages.
+ */
+
+using namespace PanoHost;
+
+namespace
+{
+
+struct WindowSize {
+    const char *name;
+    QSize size;
+};
+
+// A window frame around the small one fits a screen of 800 x 600.
+constexpr std::array<WindowSize, 2> kSizes{ { { "small", { 790, 570 } },
+                                              { "large", { 1000, 780 } } } };
+// The demo's layout pictures fit without scroll bars.
+constexpr WindowSize kWholePreview{ "large", { 900, 920 } };
+constexpr QSize kPhotoSize(360, 240);
+
+[[noreturn]] void fail(const QString &what)
+{
+    QTextStream(stderr) << "pagepictures: " << what << '\n';
+    std::exit(1);
+}
+
+void waitFor(const std::function<bool()> &condition, const QString &what)
+{
+    const QDeadlineTimer deadline(std::chrono::minutes(1));
+    while (!condition()) {
+        if (deadline.hasExpired()) {
+            fail(what);
+        }
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+    }
+}
+
+/** Brackets end with the reference exposure: the last photo of a position is seen on top. */
+ShootPlan planOf(const HeadFacts &head)
+{
+    ShootPlan plan = demoPlan(head, kPhotoSize);
+    if (plan.stops.size() > 1) {
+        plan.stops = { -2.0, 2.0, 0.0 };
+    }
+    return plan;
+}
+
+/** Takes the photos of \p head and writes its record, unless an earlier run has done so. */
+QStringList shoot(const HeadFacts &head, const QString &folder)
+{
+    const QDir dir(folder);
+    const ShootPlan plan = planOf(head);
+    QStringList files;
+    for (const PlannedShot &shot : shotsOf(plan)) {
+        files += dir.absoluteFilePath(shot.fileName);
+    }
+    if (!QFile::exists(files.last())) {
+        dir.mkpath(QStringLiteral("."));
+        const Result<QStringList> taken = takePhotos(Scene(), plan, dir.absolutePath(), {});
+        if (!taken) {
+            fail(taken.error().text());
+        }
+    }
+    if (!head.isGrid()) {
+        QFile record(dir.absoluteFilePath(demoRecordFile(head)));
+        if (!record.open(QIODevice::WriteOnly) || record.write(demoRecord(head, plan)) < 0) {
+            fail(record.fileName() + QStringLiteral(": cannot be written"));
+        }
+        files += record.fileName();
+    }
+    return files;
+}
+
+QPalette darkPalette()
+{
+    const QColor window(0x2b, 0x2e, 0x31);
+    const QColor text(0xec, 0xec, 0xec);
+    QPalette palette(window, window);
+    for (const auto role : { QPalette::WindowText, QPalette::Text, QPalette::ButtonText }) {
+        palette.setColor(role, text);
+        palette.setColor(QPalette::Disabled, role, QColor(0x80, 0x83, 0x86));
+    }
+    palette.setColor(QPalette::Base, QColor(0x1d, 0x1f, 0x21));
+    palette.setColor(QPalette::AlternateBase, QColor(0x31, 0x35, 0x38));
+    palette.setColor(QPalette::Highlight, QColor(0x3d, 0x8e, 0xc9));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, QColor(0x6c, 0xb4, 0xe8));
+    palette.setColor(QPalette::LinkVisited, QColor(0xb0, 0x95, 0xd8));
+    palette.setColor(QPalette::ToolTipBase, window);
+    palette.setColor(QPalette::ToolTipText, text);
+    palette.setColor(QPalette::PlaceholderText, QColor(0x90, 0x93, 0x96));
+    return palette;
+}
+
+/** Takes the pictures of one run, all under one folder. */
+class Photographer
+{
+public:
+    Photographer(PanoHostApplication &app, const PluginLibrary &library, const QString &folder)
+        : m_app(app)
+        , m_library(library)
+        , m_folder(folder)
+    {
+        m_folder.mkpath(QStringLiteral("."));
+    }
+
+    void everything(const HeadFacts &head, const QStringList &files);
+    void smallTabs(const HeadFacts &head, const QStringList &files);
+    void choicePage();
+
+private:
+    void picture(ImportWizard &wizard, const QString &name, const WindowSize &size) const;
+    void bothSizes(ImportWizard &wizard, const QString &name) const;
+    void open(ImportWizard &wizard, const QString &head) const;
+    static void fill(ImportWizard &wizard, const QStringList &files);
+    void misfit(ImportWizard &wizard, const QString &head, QStringList files) const;
+
+    PanoHostApplication &m_app;
+    const PluginLibrary &m_library;
+    QDir m_folder;
+};
+
+void Photographer::picture(ImportWizard &wizard, const QString &name, const WindowSize &size) const
+{
+    wizard.resize(size.size);
+    // The layout settles in the event loop, that of the hidden scroll bars in the turn after.
+    for (int turn = 0; turn < 3; ++turn) {
+        QCoreApplication::processEvents();
+    }
+    const QString file
+        = m_folder.filePath(QStringLiteral("%1-%2.png").arg(name, QLatin1String(size.name)));
+    if (!wizard.grab().save(file)) {
+        fail(file + QStringLiteral(": cannot be written"));
+    }
+}
+
+void Photographer::bothSizes(ImportWizard &wizard, const QString &name) const
+{
+    for (const WindowSize &size : kSizes) {
+        picture(wizard, name, size);
+    }
+}
+
+void Photographer::open(ImportWizard &wizard, const QString &head) const
+{
+    wizard.show();
+    auto *list = wizard.findChild<QListWidget *>(QStringLiteral("m_heads"));
+    for (int i = 0; i < m_library.plugins().size(); ++i) {
+        if (m_library.plugins().at(i).head() == head) {
+            list->setCurrentRow(i);
+        }
+    }
+    wizard.next();
+}
+
+void Photographer::fill(ImportWizard &wizard, const QStringList &files)
+{
+    wizard.fillIn(files);
+    waitFor([&wizard] { return wizard.button(QWizard::NextButton)->isEnabled(); },
+            QStringLiteral("the page did not accept its photos"));
+}
+
+/** The page with a photo too few, which it warns of. */
+void Photographer::misfit(ImportWizard &wizard, const QString &head, QStringList files) const
+{
+    files.removeFirst();
+    wizard.fillIn(files);
+    waitFor([&wizard] { return !wizard.button(QWizard::NextButton)->isEnabled(); },
+            QStringLiteral("the page accepted a photo too few"));
+    bothSizes(wizard, head + QStringLiteral("-misfit"));
+}
+
+void Photographer::everything(const HeadFacts &head, const QStringList &files)
+{
+    const QString name = head.name();
+    ImportWizard wizard(m_app, m_library);
+    open(wizard, name);
+    bothSizes(wizard, name + QStringLiteral("-empty"));
+    fill(wizard, files);
+    auto *tabs = wizard.currentPage()->findChild<QTabWidget *>();
+    for (int tab = 0; tab < tabs->count(); ++tab) {
+        tabs->setCurrentIndex(tab);
+        bothSizes(wizard, QStringLiteral("%1-tab%2").arg(name).arg(tab + 1));
+    }
+    tabs->setCurrentIndex(0);
+    wizard.next();
+    bothSizes(wizard, name + QStringLiteral("-result"));
+    wizard.back();
+    // Reduced thumbnails lose pixels; here they are seen as they are.
+    wizard.currentPage()->findChild<QSlider *>(QStringLiteral("m_hSlider"))->setValue(100);
+    picture(wizard, name + QStringLiteral("-whole"), kWholePreview);
+    if (!head.isGrid()) {
+        misfit(wizard, name, files);
+    }
+    wizard.reject();
+}
+
+void Photographer::smallTabs(const HeadFacts &head, const QStringList &files)
+{
+    const QString name = head.name();
+    ImportWizard wizard(m_app, m_library);
+    open(wizard, name);
+    fill(wizard, files);
+    auto *tabs = wizard.currentPage()->findChild<QTabWidget *>();
+    for (int tab = 0; tab < tabs->count(); ++tab) {
+        tabs->setCurrentIndex(tab);
+        picture(wizard, QStringLiteral("%1-tab%2").arg(name).arg(tab + 1), kSizes.front());
+    }
+    wizard.reject();
+}
+
+void Photographer::choicePage()
+{
+    ImportWizard wizard(m_app, m_library);
+    wizard.show();
+    bothSizes(wizard, QStringLiteral("choice"));
+    wizard.reject();
+}
+
+void addOptions(QCommandLineParser &line)
+{
+    line.setApplicationDescription(QStringLiteral("Photographs the import wizard and its pages."));
+    line.addHelpOption();
+    line.addPositionalArgument(QStringLiteral("FOLDER"), QStringLiteral("for the pictures"));
+    line.addOptions({
+        { QStringLiteral("plugin"), QStringLiteral("the plug-in library"), QStringLiteral("FILE") },
+        { QStringLiteral("shoots"), QStringLiteral("for the photos; those there are used again"),
+          QStringLiteral("FOLDER"), QStringLiteral("shoots") },
+        { QStringLiteral("dark"), QStringLiteral("dark theme") },
+        { QStringLiteral("lang"), QStringLiteral("only the small tabs, in this language"),
+          QStringLiteral("CODE") },
+    });
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QStringList words = Environment::decodeArguments(argc, argv);
+    const Environment environment(Environment::Use::Command);
+    initializePhotoReading();
+    Environment::prepareWindow();
+    int qtArgumentCount = 1;
+    PanoHostApplication app(qtArgumentCount, argv);
+    QCommandLineParser line;
+    addOptions(line);
+    line.process(QStringList{ QStringLiteral("pagepictures") } + words);
+    if (line.positionalArguments().size() != 1) {
+        line.showHelp(2);
+    }
+
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("fusion")));
+    // Desktops have fonts of 9 to 11 points; without one Qt takes 12.
+    QFont font = QApplication::font();
+    font.setPointSize(10);
+    QApplication::setFont(font);
+    if (line.isSet(QStringLiteral("dark"))) {
+        QApplication::setPalette(darkPalette());
+    }
+    app.setLocale(QLocale(line.value(QStringLiteral("lang")).isEmpty()
+                              ? QStringLiteral("en")
+                              : line.value(QStringLiteral("lang"))));
+    auto opened = PluginLibrary::open(line.value(QStringLiteral("plugin")));
+    if (!opened) {
+        fail(opened.error().text());
+    }
+    const auto library = std::move(opened).value();
+    Photographer photographer(app, *library, line.positionalArguments().constFirst());
+    for (const HeadFacts *head : PanoHead::allHeadFacts()) {
+        const QStringList files
+            = shoot(*head, QDir(line.value(QStringLiteral("shoots"))).filePath(head->name()));
+        if (line.isSet(QStringLiteral("lang"))) {
+            photographer.smallTabs(*head, files);
+        } else {
+            photographer.everything(*head, files);
+        }
+    }
+    if (!line.isSet(QStringLiteral("lang"))) {
+        photographer.choicePage();
+    }
+    return 0;
+}

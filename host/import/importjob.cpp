@@ -1,0 +1,177 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/import/importjob.h"
+
+#include "host/import/inputcheck.h"
+#include "host/import/lenschoice.h"
+#include "host/model/commanderror.h"
+#include "host/model/displayname.h"
+#include "hostlink/xiabout.h"
+
+#include <QDir>
+#include <QWizardPage>
+
+namespace PanoHost
+{
+
+ImportJob::ImportJob(PanoHostApplication &app, ImportRequest request, JobWatch watch)
+    : m_app(app)
+    , m_request(std::move(request))
+    , m_watch(std::move(watch))
+{
+}
+
+ImportJob::~ImportJob()
+{
+    m_app.clearPathAliases();
+}
+
+void ImportJob::checkInputs()
+{
+    const bool hasRecord = !m_request.head->isGrid();
+    if (hasRecord) {
+        m_record = readRecord(*m_request.head, m_request.record);
+    }
+    requirePhotoFiles(m_request.photos);
+    for (const QString &remark : qAsConst(m_record.remarks)) {
+        m_watch.note(JobWatch::Note::Warning,
+                     QStringLiteral("%1: %2").arg(displayName(m_request.record), remark));
+    }
+    if (hasRecord) {
+        requireMatchingCounts(displayName(m_request.record), m_record, m_request.photos.size());
+    } else {
+        requireFullGrid(*m_request.grid, m_request.photos.size());
+    }
+    m_photos = orderedPhotos(m_app, m_request.photos, m_request.order, m_watch);
+}
+
+void ImportJob::preparePage()
+{
+    const ImportPlugin &plugin = openPlugin();
+    m_page = std::make_unique<PageDriver>(plugin.page(), m_app, m_watch);
+    if (!m_request.record.isEmpty()) {
+        m_page->enterRecord(m_request.record);
+    }
+    m_page->choosePhotos(namesForPage());
+    chooseLensFor(photoInfos());
+    if (m_request.grid) {
+        enterGrid(*m_page, *m_request.grid);
+    }
+    turnCamera();
+    pressButtons();
+}
+
+const ImportPlugin &ImportJob::openPlugin()
+{
+    // Qt's own dialog is the one that can be filled in; and it would list the user's last folder.
+    m_app.setUseSystemFileDialog(false);
+    m_app.SetLastPath(QDir::tempPath());
+    m_library = valueOrThrow(PluginLibrary::open(m_request.pluginPath));
+    m_watch.note(JobWatch::Note::Detail, QStringLiteral("using %1").arg(m_library->path()));
+    const QString head = m_request.head->name();
+    const ImportPlugin *plugin = m_library->find(head);
+    if (plugin == nullptr || plugin->page() == nullptr) {
+        throw CommandError({ ExitCode::NoPlugin, m_library->path(),
+                             QStringLiteral("has no import plug-in for %1").arg(head),
+                             QStringLiteral("set --plugin to another library") });
+    }
+    m_source = plugin->source(m_request.record);
+    return *plugin;
+}
+
+QStringList ImportJob::namesForPage()
+{
+    if (!PhotoAliases::areNeeded(m_photos)) {
+        return m_photos;
+    }
+    QString error;
+    QStringList links = m_aliases.create(m_photos, &error);
+    if (links.isEmpty()) {
+        throw CommandError({ ExitCode::ToolFailed, QStringLiteral("temporary links to the photos"),
+                             error, QStringLiteral("is the temporary folder full? set TMPDIR") });
+    }
+    for (const QString &link : links) {
+        m_app.addPathAlias(link, m_aliases.truePaths().value(link));
+    }
+    return links;
+}
+
+QVector<PhotoInfo> ImportJob::photoInfos() const
+{
+    QVector<PhotoInfo> infos;
+    infos.reserve(m_photos.size());
+    for (const QString &photo : m_photos) {
+        infos += valueOrThrow(m_app.photoInfo(photo));
+    }
+    return infos;
+}
+
+void ImportJob::chooseLensFor(const QVector<PhotoInfo> &photos)
+{
+    const KnownLens recordFacts{ m_record.focal35mm, m_record.lens };
+    const LensChoice choice = chooseLens(m_request, knownLensOf(photos), recordFacts);
+    m_warnings += choice.warnings;
+    if (!m_request.head->hasLens) {
+        m_warnings += focalSpreadWarnings(m_request, photos);
+        m_wishes.ignoreExifRotation = m_request.ignoreExifRotation;
+        m_wishes.focal35mm = m_request.focal35mm;
+        m_wishes.lens
+            = m_request.lensSource == ValueSource::Given ? choice.lens : LensModel::NotChosen;
+        return;
+    }
+    m_page->setNumber(QStringLiteral("m_spFocal"), choice.focal35mm);
+    m_page->setIndex(QStringLiteral("m_cbLensType"), static_cast<int>(choice.lens));
+}
+
+void ImportJob::turnCamera()
+{
+    if (m_request.invertPitch) {
+        m_page->click(QStringLiteral("m_pInverseCoordinates"));
+    }
+    const QString button
+        = m_request.clockwiseTurns > 0 ? QStringLiteral("m_pbRot90") : QStringLiteral("m_pbRot270");
+    for (int turn = std::abs(m_request.clockwiseTurns); turn > 0; --turn) {
+        m_page->click(button);
+    }
+}
+
+void ImportJob::pressButtons()
+{
+    for (const ButtonState &button : m_request.buttons) {
+        m_page->setChecked(button.name, button.checked);
+    }
+}
+
+QPixmap ImportJob::layout()
+{
+    return m_page->layout();
+}
+
+Panorama ImportJob::handOver()
+{
+    const StructuredPanoramaProperties description = m_page->handOver();
+    Panorama panorama = valueOrThrow(joinPanorama(
+        description, m_source, [this](const QString &path) { return m_app.photoInfo(path); },
+        m_wishes));
+    panorama.warnings = m_warnings + panorama.warnings;
+    for (const QString &warning : qAsConst(panorama.warnings)) {
+        m_watch.note(JobWatch::Note::Warning, warning);
+    }
+    panorama.warnings = m_record.remarks + panorama.warnings; // those were said at the start
+    return panorama;
+}
+
+Result<Panorama> importShoot(PanoHostApplication &app, const ImportRequest &request,
+                             const JobWatch &watch)
+{
+    try {
+        ImportJob job(app, request, watch);
+        job.checkInputs();
+        job.preparePage();
+        return job.handOver();
+    } catch (const CommandError &error) {
+        return error.failure();
+    }
+}
+
+} // namespace PanoHost

@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "host/import/importrequest.h"
+#include "host/import/pagedriver.h"
+#include "host/import/photoaliases.h"
+#include "host/model/panorama.h"
+#include "host/plugin/pluginlibrary.h"
+
+#include <QPixmap>
+
+#include <memory>
+
+namespace PanoHost
+{
+
+/**
+ * One import through the real page of the loaded library: from files and options to a panorama.
+ * Each step throws the CommandError that says why it cannot be done.
+ */
+class ImportJob
+{
+public:
+    ImportJob(PanoHostApplication &app, ImportRequest request, JobWatch watch);
+    ~ImportJob();
+    ImportJob(const ImportJob &) = delete;
+    ImportJob &operator=(const ImportJob &) = delete;
+
+    /** Reads the record and looks at the photo files: what can be said before they are decoded. */
+    void checkInputs();
+    /** Loads the library, fills its page, waits for the photos and sets the options. */
+    void preparePage();
+    /** After `preparePage`: the page's layout picture in full size. */
+    [[nodiscard]] QPixmap layout();
+    /** After `preparePage`: presses Next and joins what was delivered with the photos' data. */
+    [[nodiscard]] Panorama handOver();
+
+    /** After `checkInputs`. */
+    [[nodiscard]] const RecordSummary &record() const { return m_record; }
+    /** After `checkInputs`: the photos in the order of the shots. */
+    [[nodiscard]] const QStringList &photos() const { return m_photos; }
+
+private:
+    [[nodiscard]] const ImportPlugin &openPlugin();
+    [[nodiscard]] QStringList namesForPage();
+    void chooseLensFor(const QVector<PhotoInfo> &photos);
+    [[nodiscard]] QVector<PhotoInfo> photoInfos() const;
+    void turnCamera();
+    void pressButtons();
+
+    PanoHostApplication &m_app;
+    ImportRequest m_request;
+    JobWatch m_watch;
+    RecordSummary m_record;
+    QStringList m_photos;
+    PhotoAliases m_aliases;
+    QStringList m_warnings;
+    JoinWishes m_wishes;
+    std::unique_ptr<PluginLibrary> m_library;
+    SourceInfo m_source;
+    std::unique_ptr<PageDriver> m_page; ///< before the library: goes first
+};
+
+/** All steps in one: the panorama that \p request describes, or why there is none. */
+[[nodiscard]] Result<Panorama> importShoot(PanoHostApplication &app, const ImportRequest &request,
+                                           const JobWatch &watch);
+
+} // namespace PanoHost

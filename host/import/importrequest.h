@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "host/import/gridchoice.h"
+#include "host/import/heads.h"
+
+#include <optional>
+
+namespace PanoHost
+{
+
+/** Where a page field takes its value from. */
+enum class ValueSource {
+    Default, ///< the photos where they say it, else the record
+    Photos,
+    Record,
+    Given,
+};
+
+enum class PhotoOrder { ByName, ByTime, AsGiven };
+
+/** A check box or radio button of the page and the state that the user wants. */
+struct ButtonState {
+    QString name;
+    bool checked;
+};
+
+/** One import as the user wants it. */
+struct ImportRequest {
+    const HeadFacts *head = nullptr;
+    QString record; ///< absolute path; empty for heads without one
+    QStringList photos; ///< absolute paths, in the order given
+    PhotoOrder order = PhotoOrder::ByName;
+    ValueSource focalSource = ValueSource::Default;
+    double focal35mm = 0.0; ///< when given
+    ValueSource lensSource = ValueSource::Default;
+    LensModel lens = LensModel::Standard; ///< when given
+    int clockwiseTurns = 0; ///< quarter turns of the camera; negative: to the left
+    bool invertPitch = false;
+    std::optional<GridChoice> grid; ///< of heads without a record
+    QVector<ButtonState> buttons; ///< in the order in which they are pressed
+    bool ignoreExifRotation = false;
+    QString pluginPath; ///< file or folder of the library; empty: the usual places
+};
+
+} // namespace PanoHost

@@ -1,0 +1,136 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/import/lenschoice.h"
+
+#include "host/model/commanderror.h"
+#include "host/model/panorama.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace PanoHost
+{
+
+namespace
+{
+
+/** A larger part than this is more than rounding and crop factors explain. */
+constexpr double kNotableDifference = 0.1;
+
+double givenOrThrow(double focal35mm, const char *where)
+{
+    if (!(focal35mm > 0.0)) {
+        throw inputRefused(QStringLiteral("focal length"),
+                           QStringLiteral("not known from %1").arg(QString::fromLatin1(where)),
+                           QStringLiteral("give it with --focal MM (35 mm equivalent)"));
+    }
+    return focal35mm;
+}
+
+double chooseFocal(const ImportRequest &request, const KnownLens &photos, const KnownLens &record)
+{
+    switch (request.focalSource) {
+    case ValueSource::Given:
+        return request.focal35mm;
+    case ValueSource::Photos:
+        return givenOrThrow(photos.focal35mm, "the photos' EXIF data");
+    case ValueSource::Record:
+        return givenOrThrow(record.focal35mm, "the record");
+    case ValueSource::Default:
+        break;
+    }
+    const bool photosAlone = request.head != nullptr && !request.head->hasLens;
+    return givenOrThrow(photos.focal35mm > 0.0 ? photos.focal35mm : record.focal35mm,
+                        photosAlone ? "the photos' EXIF data"
+                                    : "the photos' EXIF data or the record");
+}
+
+LensModel chooseLensModel(const ImportRequest &request, const KnownLens &photos,
+                          const KnownLens &record)
+{
+    if (request.lensSource == ValueSource::Given) {
+        return request.lens;
+    }
+    const bool askPhotos
+        = request.lensSource == ValueSource::Default && photos.lens != LensModel::NotChosen;
+    const LensModel lens = askPhotos ? photos.lens : record.lens;
+    return lens == LensModel::NotChosen ? LensModel::Standard : lens;
+}
+
+QString millimetres(double focal35mm)
+{
+    return QStringLiteral("%1 mm").arg(QString::number(focal35mm, 'g', 4));
+}
+
+} // namespace
+
+KnownLens knownLensOf(const QVector<PhotoInfo> &photos)
+{
+    KnownLens facts;
+    double sum = 0.0;
+    int count = 0;
+    for (const PhotoInfo &photo : photos) {
+        if (photo.focal35mm > 0.0) {
+            sum += photo.focal35mm;
+            ++count;
+        }
+        if (photo.lens != LensModel::NotChosen) {
+            facts.lens = photo.lens;
+        }
+    }
+    facts.focal35mm = count > 0 ? sum / count : 0.0;
+    facts.withoutFocal = photos.size() - count;
+    return facts;
+}
+
+LensChoice chooseLens(const ImportRequest &request, const KnownLens &photos,
+                      const KnownLens &record)
+{
+    LensChoice choice;
+    choice.focal35mm = chooseFocal(request, photos, record);
+    choice.lens = chooseLensModel(request, photos, record);
+    if (request.focalSource != ValueSource::Default) {
+        return choice;
+    }
+    const bool both = photos.focal35mm > 0.0 && record.focal35mm > 0.0;
+    if (both
+        && std::abs(photos.focal35mm - record.focal35mm) > kNotableDifference * photos.focal35mm) {
+        choice.warnings
+            += QStringLiteral("focal length %1 (EXIF) against %2 (record); using EXIF; choose "
+                              "with --focal")
+                   .arg(millimetres(photos.focal35mm), millimetres(record.focal35mm));
+    }
+    if (photos.focal35mm > 0.0 && photos.withoutFocal > 0) {
+        choice.warnings += QStringLiteral("%1 of the photos name no focal length; using that "
+                                          "of the others; choose with --focal")
+                               .arg(photos.withoutFocal);
+    }
+    if (request.lensSource == ValueSource::Default && photos.lens != LensModel::NotChosen
+        && record.lens != LensModel::NotChosen && photos.lens != record.lens) {
+        choice.warnings += QStringLiteral("%1 lens (EXIF) against %2 (record); using EXIF; choose "
+                                          "with --lens")
+                               .arg(lensName(photos.lens), lensName(record.lens));
+    }
+    return choice;
+}
+
+QStringList focalSpreadWarnings(const ImportRequest &request, const QVector<PhotoInfo> &photos)
+{
+    double shortest = 0.0;
+    double longest = 0.0;
+    for (const PhotoInfo &photo : photos) {
+        if (photo.focal35mm > 0.0) {
+            shortest = shortest > 0.0 ? std::min(shortest, photo.focal35mm) : photo.focal35mm;
+            longest = std::max(longest, photo.focal35mm);
+        }
+    }
+    if (request.focalSource == ValueSource::Given
+        || longest - shortest <= kNotableDifference * shortest) {
+        return {};
+    }
+    return { QStringLiteral("the photos name focal lengths from %1 to %2; using their median; "
+                            "choose with --focal")
+                 .arg(millimetres(shortest), millimetres(longest)) };
+}
+
+} // namespace PanoHost

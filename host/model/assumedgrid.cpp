@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/model/assumedgrid.h"
+
+#include "host/model/panorama.h"
+
+#include <QtMath>
+
+#include <algorithm>
+#include <cmath>
+
+namespace PanoHost
+{
+
+namespace
+{
+
+constexpr double kSteepestPitchDegrees = 85.0;
+
+struct Cell {
+    int row = 0;
+    int column = 0;
+};
+
+/** The cell that was shot as number \p shot, in the order \p mode. */
+Cell cellOfShot(int shot, int mode, int rows, int columns)
+{
+    switch (mode) {
+    case 1:
+        return { shot / columns, shot % columns };
+    case 2:
+        return { rows - 1 - shot / columns, shot % columns };
+    case 3:
+        return { shot % rows, columns - 1 - shot / rows };
+    case 4: {
+        const int level = shot / columns;
+        const int along = shot % columns;
+        return { rows - 1 - level, level % 2 == 0 ? along : columns - 1 - along };
+    }
+    default:
+        return { shot % rows, shot / rows };
+    }
+}
+
+double verticalFovDegrees(const QSize &frame, double horizontalDegrees, LensModel lens)
+{
+    const double ratio = double(frame.height()) / frame.width();
+    if (lens == LensModel::Fisheye) {
+        return horizontalDegrees * ratio;
+    }
+    return qRadiansToDegrees(
+        2.0 * std::atan(std::tan(qDegreesToRadians(horizontalDegrees) / 2.0) * ratio));
+}
+
+} // namespace
+
+AssumedGrid assumedGrid(const StructuredPanoramaProperties &description, const QSize &frame,
+                        double focal35mm, LensModel lens)
+{
+    AssumedGrid layout;
+    const int positions = description.imageGroups.size();
+    if (positions == 0 || frame.isEmpty()) {
+        return layout;
+    }
+    const int rows = std::clamp(description.gridRows, 1, positions);
+    layout.columns = (positions + rows - 1) / rows;
+    const double fov = horizontalFovDegrees(frame, focal35mm, lens);
+    const double step = 1.0 - std::clamp(description.overlap, 0.0, 95.0) / 100.0;
+    const double yawStep = description.gridWrap360 ? 360.0 / layout.columns : fov * step;
+    const double pitchStep = verticalFovDegrees(frame, fov, lens) * step;
+
+    bool clamped = false;
+    layout.directions.reserve(positions);
+    for (int shot = 0; shot < positions; ++shot) {
+        const Cell cell = cellOfShot(shot, description.gridMode, rows, layout.columns);
+        const double pitch = ((rows - 1) / 2.0 - cell.row) * pitchStep;
+        clamped = clamped || std::abs(pitch) > kSteepestPitchDegrees;
+        layout.directions.append(
+            { (cell.column - (layout.columns - 1) / 2.0) * yawStep,
+              std::clamp(pitch, -kSteepestPitchDegrees, kSteepestPitchDegrees) });
+    }
+    if (clamped || (layout.columns - 1) * yawStep >= 360.0) {
+        layout.warnings.append(QStringLiteral(
+            "the grid reaches around the sphere: overlap or rows do not fit this lens"));
+    }
+    return layout;
+}
+
+} // namespace PanoHost

@@ -1,0 +1,377 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/model/ptoproject.h"
+
+#include "host/model/coverage.h"
+#include "host/model/relativepath.h"
+#include "host/model/safefile.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+#include <QtMath>
+
+#include <algorithm>
+#include <cmath>
+
+namespace PanoHost
+{
+
+namespace
+{
+
+/** For projects in which no photo names its exposure: bright daylight, the same for all. */
+constexpr double kAssumedExposureValue = 12.0;
+/** A full turn whose zenith and nadir are open by less stays an uncropped 2:1 picture. */
+constexpr double kOpenCapDegrees = 15.0;
+/** 35 mm equivalents that no lens goes beyond. */
+constexpr double kShortestFocalMm = 1.0;
+constexpr double kLongestFocalMm = 50000.0;
+/** No canvas side is longer, whatever the photos claim; pixels. */
+constexpr double kLongestSide = 1e9;
+/** stackLinking of the description */
+constexpr qint32 kHardLinks = 0;
+
+Failure refused(const QString &what, const QString &why, const QString &tryThis = {})
+{
+    return { ExitCode::InputRefused, what, why, tryThis };
+}
+
+QByteArray number(double value, int decimals)
+{
+    return QByteArray::number(value, 'f', decimals);
+}
+
+/** \p degrees in [-180, 180), also after it is written with 6 decimals. */
+double wrapped(double degrees)
+{
+    double turn = std::remainder(degrees, 360.0);
+    turn = std::round(turn * 1e6) / 1e6;
+    // Adding zero makes -0 a plain 0.
+    return (turn >= 180.0 ? turn - 360.0 : turn) + 0.0;
+}
+
+/** Median of the exposure values known; the middle pair's lower one, so that it is a real one. */
+std::optional<double> medianExposure(QVector<double> known)
+{
+    if (known.isEmpty()) {
+        return {};
+    }
+    auto *const middle = known.begin() + (known.size() - 1) / 2;
+    std::nth_element(known.begin(), middle, known.end());
+    return *middle;
+}
+
+/** One i-line in the making. */
+struct Image {
+    const PhotoInfo *photo = nullptr;
+    int stackMaster = -1; ///< the image that this one's stack begins with; -1: itself
+    int lensMaster = -1; ///< the image whose lens variables these are; -1: itself
+    double yawDegrees = 0.0;
+    double pitchDegrees = 0.0;
+    double rollDegrees = 0.0;
+    QByteArray name;
+};
+
+/** Writes the project step by step; `make` is the order of things. */
+class ProjectMaker
+{
+public:
+    ProjectMaker(const Panorama &panorama, const PtoOptions &options)
+        : m_panorama(panorama)
+        , m_options(options)
+        , m_hardLinks(panorama.description.stackLinking == kHardLinks)
+    {
+    }
+
+    Result<PtoProject> make();
+
+private:
+    [[nodiscard]] std::optional<Failure> checkFocalLength() const;
+    [[nodiscard]] std::optional<Failure> collectImages();
+    [[nodiscard]] std::optional<Failure> nameImage(Image &image) const;
+    void findExposures();
+    void layOutCanvas();
+    void appendHeader();
+    void appendImage(int index);
+    void appendVariables();
+    void appendOutputs();
+
+    [[nodiscard]] double fov(const Image &image) const
+    {
+        return horizontalFovDegrees(image.photo->storedSize, m_panorama.focal35mm, m_panorama.lens);
+    }
+    [[nodiscard]] bool isLinked(const Image &image) const
+    {
+        return m_hardLinks && image.stackMaster >= 0;
+    }
+
+    const Panorama &m_panorama;
+    const PtoOptions &m_options;
+    const bool m_hardLinks;
+    QVector<Image> m_images;
+    bool m_hasStacks = false;
+    double m_missingExposure = kAssumedExposureValue;
+    double m_referenceExposure = kAssumedExposureValue;
+    PtoProject m_project;
+};
+
+Result<PtoProject> ProjectMaker::make()
+{
+    if (const auto failure = checkFocalLength()) {
+        return *failure;
+    }
+    if (const auto failure = collectImages()) {
+        return *failure;
+    }
+    findExposures();
+    layOutCanvas();
+    appendHeader();
+    for (int i = 0; i < m_images.size(); ++i) {
+        appendImage(i);
+    }
+    appendVariables();
+    return m_project;
+}
+
+std::optional<Failure> ProjectMaker::checkFocalLength() const
+{
+    const double focal = m_panorama.focal35mm;
+    const QString what = QStringLiteral("focal length");
+    const QString tryThis = QStringLiteral("give it with --focal");
+    if (!(focal > 0.0) || !std::isfinite(focal)) {
+        return refused(what, QStringLiteral("neither the record nor the photos name it"), tryThis);
+    }
+    if (focal < kShortestFocalMm || focal > kLongestFocalMm) {
+        return refused(what, QStringLiteral("no lens has %1 mm").arg(focal), tryThis);
+    }
+    return {};
+}
+
+std::optional<Failure> ProjectMaker::collectImages()
+{
+    QHash<QPair<int, int>, int> lensMasters;
+    for (const Position &position : m_panorama.positions) {
+        const int stackMaster = m_images.size();
+        m_hasStacks = m_hasStacks || position.photos.size() > 1;
+        for (const PhotoInfo &photo : position.photos) {
+            if (photo.storedSize.isEmpty()) {
+                return refused(photo.path, QStringLiteral("its size in pixels is not known"),
+                               QStringLiteral("can another program open it? leave it out if not"));
+            }
+            Image image;
+            image.photo = &photo;
+            const int index = m_images.size();
+            image.stackMaster = index == stackMaster ? -1 : stackMaster;
+            const auto size = qMakePair(photo.storedSize.width(), photo.storedSize.height());
+            image.lensMaster = lensMasters.value(size, -1);
+            if (image.lensMaster < 0) {
+                lensMasters.insert(size, index);
+            }
+            const int turned
+                = m_options.ignoreExifRotation ? 0 : clockwiseDegrees(photo.orientation);
+            image.yawDegrees = position.yawDegrees;
+            image.pitchDegrees = position.pitchDegrees;
+            image.rollDegrees = position.rollDegrees + turned + m_options.extraRollDegrees;
+            if (!std::isfinite(image.yawDegrees) || !std::isfinite(image.pitchDegrees)
+                || !std::isfinite(image.rollDegrees)) {
+                return refused(photo.path, QStringLiteral("its direction is not a number"),
+                               QStringLiteral("correct the record"));
+            }
+            if (auto failure = nameImage(image)) {
+                return failure;
+            }
+            m_images.append(image);
+        }
+    }
+    if (m_images.isEmpty()) {
+        return refused(QStringLiteral("the description"), QStringLiteral("holds no photos"));
+    }
+    if (lensMasters.size() > 1) {
+        m_project.warnings.append(
+            QStringLiteral("the photos have %1 different sizes in pixels").arg(lensMasters.size()));
+    }
+    return {};
+}
+
+std::optional<Failure> ProjectMaker::nameImage(Image &image) const
+{
+    const QString &path = image.photo->path;
+    const auto isUnfit
+        = [](QChar c) { return c == QLatin1Char('"') || c.category() == QChar::Other_Control; };
+    // Names with a NUL are no names: nothing may ask the system about them.
+    const QString name
+        = path.contains(QChar::Null) ? path : relativePath(path, m_options.projectFolder);
+    if (std::any_of(name.cbegin(), name.cend(), isUnfit)) {
+        return refused(path,
+                       QStringLiteral("a Hugin project cannot hold a file name with quotation "
+                                      "marks or line ends"),
+                       QStringLiteral("rename the file"));
+    }
+    image.name = QFile::encodeName(name);
+    return {};
+}
+
+void ProjectMaker::findExposures()
+{
+    QVector<double> all;
+    QVector<double> reference;
+    for (const Image &image : qAsConst(m_images)) {
+        const auto &exposure = image.photo->exposureValue;
+        if (exposure && std::isfinite(*exposure)) {
+            all.append(*exposure);
+            if (image.stackMaster < 0) {
+                reference.append(*exposure);
+            }
+        }
+    }
+    m_missingExposure = medianExposure(all).value_or(kAssumedExposureValue);
+    m_referenceExposure = medianExposure(reference).value_or(m_missingExposure);
+    const int unknown = m_images.size() - all.size();
+    if (unknown > 0) {
+        m_project.warnings.append(QStringLiteral("%1 of %2 photos name no exposure; %3 is assumed")
+                                      .arg(unknown)
+                                      .arg(m_images.size())
+                                      .arg(m_missingExposure));
+    }
+}
+
+void ProjectMaker::layOutCanvas()
+{
+    QVector<Frame> frames;
+    frames.reserve(m_images.size());
+    double focal = 0.0;
+    for (const Image &image : qAsConst(m_images)) {
+        const QSize size = image.photo->storedSize;
+        const double pixels = focalPixels(size, m_panorama.focal35mm);
+        focal = std::max(focal, pixels);
+        if (!isLinked(image)) {
+            frames.append({ size, pixels, m_panorama.lens, image.yawDegrees, image.pitchDegrees,
+                            image.rollDegrees });
+        }
+    }
+    const Coverage covered = coverageOf(frames);
+    const bool partial = covered.yawSpanDegrees < 359.0;
+    const double span = partial ? std::ceil(covered.yawSpanDegrees) + 1.0 : 360.0;
+    m_project.horizontalFovDegrees = span >= 360.0 ? 360.0 : span;
+    const double fov = m_project.horizontalFovDegrees;
+    m_project.yawCentreDegrees = fov < 360.0 ? covered.yawCentreDegrees : 0.0;
+
+    const double wanted = m_options.width > 0 ? m_options.width : qDegreesToRadians(fov) * focal;
+    const double width = std::min(wanted, kLongestSide * std::min(1.0, fov / 180.0));
+    const int w = 2 * std::max(1, qRound(width / 2.0));
+    const int h = std::max(1, qRound(180.0 * w / fov));
+    m_project.canvas = QSize(w, h);
+    const bool openCaps = covered.highestPitchDegrees < 90.0 - kOpenCapDegrees
+        || covered.lowestPitchDegrees > -90.0 + kOpenCapDegrees;
+    if (fov < 360.0 || openCaps) {
+        const double scale = w / fov;
+        const int top
+            = std::clamp(int(std::floor(h / 2.0 - covered.highestPitchDegrees * scale)), 0, h - 1);
+        const int bottom
+            = std::clamp(int(std::ceil(h / 2.0 - covered.lowestPitchDegrees * scale)), top + 1, h);
+        m_project.crop = QRect(QPoint(0, top), QSize(w, bottom - top));
+    }
+}
+
+void ProjectMaker::appendHeader()
+{
+    QByteArray &text = m_project.text;
+    text += "# hugin project file\n#hugin_ptoversion 2\np f2 w"
+        + QByteArray::number(m_project.canvas.width()) + " h"
+        + QByteArray::number(m_project.canvas.height()) + " v"
+        + QByteArray::number(m_project.horizontalFovDegrees, 'g', 9) + " k0 E"
+        + number(m_referenceExposure, 6) + " R0 ";
+    const QRect &crop = m_project.crop;
+    if (!crop.isNull()) {
+        text += 'S' + QByteArray::number(crop.left()) + ',' + QByteArray::number(crop.width()) + ','
+            + QByteArray::number(crop.top()) + ',' + QByteArray::number(crop.top() + crop.height())
+            + ' ';
+    }
+    text += "n\"TIFF_m c:LZW r:CROP\"\nm i0\n";
+    appendOutputs();
+}
+
+void ProjectMaker::appendOutputs()
+{
+    constexpr qint32 kHdrRadiance = 3;
+    if (m_panorama.description.renderMode == kHdrRadiance) {
+        m_project.text += "#hugin_outputLDRBlended false\n#hugin_outputHDRBlended true\n";
+    } else if (m_hasStacks) {
+        m_project.text += "#hugin_outputLDRBlended false\n#hugin_outputLDRExposureBlended true\n";
+    }
+}
+
+void ProjectMaker::appendImage(int index)
+{
+    const Image &image = m_images[index];
+    QByteArray &text = m_project.text;
+    text += "i w" + QByteArray::number(image.photo->storedSize.width()) + " h"
+        + QByteArray::number(image.photo->storedSize.height())
+        + (m_panorama.lens == LensModel::Fisheye ? " f3" : " f0");
+    if (image.lensMaster < 0) {
+        text += " v" + number(fov(image), 10)
+            + " Ra0 Rb0 Rc0 Rd0 Re0 a0 b0 c0 d0 e0 g0 t0 Va1 Vb0 Vc0 Vd0 Vx0 Vy0";
+    } else {
+        const QByteArray master = '=' + QByteArray::number(image.lensMaster);
+        for (const char *const variable : { "v", "Ra", "Rb", "Rc", "Rd", "Re", "a", "b", "c", "d",
+                                            "e", "g", "t", "Va", "Vb", "Vc", "Vd", "Vx", "Vy" }) {
+            text += QByteArray(" ") + variable + master;
+        }
+    }
+    const auto &exposure = image.photo->exposureValue;
+    const bool known = exposure && std::isfinite(*exposure);
+    text += " Eev" + number(known ? *exposure : m_missingExposure, 6) + " Er1 Eb1";
+    const QByteArray stack = '=' + QByteArray::number(image.stackMaster);
+    if (isLinked(image)) {
+        for (const char *const variable : { "r", "p", "y", "TrX", "TrY", "TrZ", "Tpy", "Tpp" }) {
+            text += QByteArray(" ") + variable + stack;
+        }
+    } else {
+        text += " r" + number(wrapped(image.rollDegrees), 6) + " p" + number(image.pitchDegrees, 6)
+            + " y" + number(wrapped(image.yawDegrees - m_project.yawCentreDegrees), 6)
+            + " TrX0 TrY0 TrZ0 Tpy0 Tpp0";
+    }
+    text += " j" + (image.stackMaster >= 0 ? stack : QByteArray("0")) + "  Vm5 n\"" + image.name
+        + "\"\n";
+}
+
+void ProjectMaker::appendVariables()
+{
+    QByteArray &text = m_project.text;
+    if (!m_panorama.description.skipOptimization) {
+        for (int i = 0; i < m_images.size(); ++i) {
+            const QByteArray n = QByteArray::number(i) + '\n';
+            if (m_images[i].lensMaster < 0) {
+                text += "v v" + n;
+            }
+            if (i > 0 && !isLinked(m_images[i])) {
+                text += "v y" + n + "v p" + n + "v r" + n;
+            }
+        }
+    }
+    text += "v\n";
+}
+
+} // namespace
+
+Result<PtoProject> makePtoProject(const Panorama &panorama, const PtoOptions &options)
+{
+    return ProjectMaker(panorama, options).make();
+}
+
+Result<PtoProject> writePtoProject(const Panorama &panorama, const QString &path,
+                                   PtoOptions options)
+{
+    options.projectFolder = QFileInfo(path).absolutePath();
+    auto project = makePtoProject(panorama, options);
+    if (project) {
+        const auto written = writeFileAtomically(path, project.value().text);
+        if (!written) {
+            return written.error();
+        }
+    }
+    return project;
+}
+
+} // namespace PanoHost

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "host/model/result.h"
+
+#include <QByteArray>
+#include <QFile>
+#include <QString>
+
+#include <memory>
+
+namespace PanoHost
+{
+
+/**
+ * Opens \p path for reading when it is a regular file, and only then: a pipe never blocks and a
+ * device is never read.
+ */
+[[nodiscard]] Result<std::unique_ptr<QFile>> openRegularFile(const QString &path);
+
+/** Reads all of a regular file of at most \p maxBytes. */
+[[nodiscard]] Result<QByteArray> readRegularFile(const QString &path, qint64 maxBytes);
+
+/**
+ * Writes \p content to \p path at once: afterwards the file is complete, or what was there before
+ * is untouched. Answers the path written.
+ */
+[[nodiscard]] Result<QString> writeFileAtomically(const QString &path, const QByteArray &content);
+
+} // namespace PanoHost
