@@ -1,13 +1,12 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/check/findings.h"
 #include "host/cli/commands.h"
 #include "host/cli/requestline.h"
 #include "host/import/importjob.h"
 #include "host/import/inputcheck.h"
-#include "host/import/lenschoice.h"
 #include "host/model/commanderror.h"
 #include "host/model/displayname.h"
-#include "host/model/panorama.h"
 
 #include <QFileInfo>
 
@@ -29,114 +28,102 @@ CommandLine checkLine()
           "panohost check papywizard shoot.xml IMG_*.jpg\n"
           "# do 6 rows of brackets of 3 come out even?\n"
           "panohost check gigapan IMG_*.jpg --rows 6 --bracket 3" },
-        {});
+        QVector<OptionRow>{ { "--json", nullptr, "the same as JSON, for other programs" } });
 }
 
-void printRow(const char *name, const QString &text)
+/** The findings so far, told as they come unless they are to be JSON. */
+class Report
 {
-    printOut(QStringLiteral("%1 %2\n").arg(QString::fromLatin1(name), -8).arg(onOneLine(text)));
-}
+public:
+    explicit Report(bool isJson)
+        : m_isJson(isJson)
+    {
+    }
 
-QString millimetres(double focal35mm)
-{
-    return focal35mm > 0.0 ? QStringLiteral("%1 mm").arg(QString::number(focal35mm, 'g', 4))
-                           : QStringLiteral("not known");
-}
+    void add(const Finding &finding)
+    {
+        m_findings += finding;
+        if (!m_isJson) {
+            printOut(QStringLiteral("%1 %2\n").arg(finding.topic, -8).arg(onOneLine(finding.text)));
+        }
+    }
+    void accept()
+    {
+        add({ topic(), QStringLiteral("can be imported"), Finding::Kind::Fact, {} });
+        end(true);
+    }
+    /** Whoever reads the text finds \p failure among the messages. */
+    void refuse(const Failure &failure)
+    {
+        if (m_isJson) {
+            add({ topic(), failure.text(), Finding::Kind::Trouble, {} });
+            end(false);
+        }
+    }
 
-QString lensOrUnknown(LensModel lens)
-{
-    return lens == LensModel::NotChosen ? QStringLiteral("not known") : lensName(lens);
-}
+private:
+    [[nodiscard]] static QString topic() { return QStringLiteral("result"); }
+    void end(bool importable) const
+    {
+        if (m_isJson) {
+            printOut(QString::fromUtf8(findingsToJson(m_findings, importable)));
+        }
+    }
 
-void printRecord(const QString &path, const RecordSummary &record)
-{
-    printRow("record",
-             QStringLiteral("%1: %2, bracket %3, focal %4, lens %5")
-                 .arg(displayName(path), counted(record.shotCount, "shot"),
-                      QString::number(record.bracketCount), millimetres(record.focal35mm),
-                      lensOrUnknown(record.lens)));
-}
+    bool m_isJson;
+    QVector<Finding> m_findings;
+};
 
-void printGrid(const GridChoice &grid, int photoCount)
+Finding gridFinding(const GridChoice &grid, int photoCount)
 {
     const int used = std::max(photoCount - grid.ignoredCount, 0);
-    printRow("grid",
+    return { QStringLiteral("grid"),
              QStringLiteral("%1, %2, bracket %3, %4 ignored")
                  .arg(counted(grid.rows, "row"),
                       counted(used / grid.bracketCount / grid.rows, "column"),
-                      QString::number(grid.bracketCount), QString::number(grid.ignoredCount)));
+                      QString::number(grid.bracketCount), QString::number(grid.ignoredCount)),
+             Finding::Kind::Fact,
+             {} };
 }
 
 /** The photos that can be read; names the others. */
-QVector<PhotoInfo> readableInfos(Session &session, const QStringList &photos)
+QVector<PhotoInfo> readableInfos(Session &session, const QStringList &photos, Report &report)
 {
+    const JobWatch watch = session.watch();
     QVector<PhotoInfo> infos;
     for (const QString &photo : photos) {
-        Interrupt::check();
+        watch.check();
         const Result<PhotoInfo> info = session.app.photoInfo(photo);
         if (info) {
             infos += info.value();
         } else {
-            printRow("bad", QStringLiteral("%1: %2").arg(displayName(photo), info.error().why));
+            report.add(badPhotoFinding(photo, info.error().why));
         }
-        session.console.progress(infos.size(), photos.size(),
-                                 QStringLiteral("reading %1").arg(QFileInfo(photo).fileName()));
+        watch.report(infos.size(), photos.size(),
+                     QStringLiteral("reading %1").arg(QFileInfo(photo).fileName()));
     }
     session.console.endProgress();
     return infos;
 }
 
-/** Whether the photos, in the order of the shots, were taken one after the other. */
-QString orderText(const QVector<PhotoInfo> &photos)
+void check(Session &session, const ImportRequest &request, Report &report)
 {
-    for (int i = 1; i < photos.size(); ++i) {
-        const PhotoInfo &before = photos.at(i - 1);
-        const PhotoInfo &photo = photos.at(i);
-        if (before.timeMs == 0 || photo.timeMs == 0) {
-            return QStringLiteral("not all photos have a capture time");
-        }
-        if (photo.timeMs < before.timeMs) {
-            return QStringLiteral("%1 was taken before %2; try --order time")
-                .arg(QFileInfo(photo.path).fileName(), QFileInfo(before.path).fileName());
-        }
+    if (request.grid) {
+        report.add(gridFinding(*request.grid, request.photos.size()));
     }
-    return QStringLiteral("capture times agree");
-}
-
-/** The longest pause between two photos, when it stands out. */
-QString gapText(const QVector<PhotoInfo> &photos)
-{
-    QVector<qint64> pauses;
-    for (int i = 1; i < photos.size(); ++i) {
-        pauses += photos.at(i).timeMs - photos.at(i - 1).timeMs;
+    ImportJob job(session.app, request, session.watch());
+    job.openRecord();
+    if (!request.grid) {
+        report.add(recordFinding(request.record, job.record()));
     }
-    if (pauses.isEmpty()) {
-        return QStringLiteral("none");
+    job.findPhotos();
+    job.orderPhotos();
+    const QVector<PhotoInfo> photos = readableInfos(session, job.photos(), report);
+    for (const Finding &finding : photoFindings(photos, job.photos().size())) {
+        report.add(finding);
     }
-    const auto *longest = std::max_element(pauses.cbegin(), pauses.cend());
-    QVector<qint64> sorted = pauses;
-    std::sort(sorted.begin(), sorted.end());
-    constexpr qint64 kNotableFactor = 4;
-    constexpr qint64 kNotableMs = 5000;
-    const qint64 usual = sorted.at(sorted.size() / 2);
-    if (*longest < std::max(kNotableMs, usual * kNotableFactor)) {
-        return QStringLiteral("none");
-    }
-    const int before = static_cast<int>(longest - pauses.cbegin());
-    return QStringLiteral("%1 s after %2 (usually %3 s)")
-        .arg(QString::number(*longest / 1000), QFileInfo(photos.at(before).path).fileName(),
-             QString::number(usual / 1000));
-}
-
-void printPhotos(const QVector<PhotoInfo> &photos, int given)
-{
-    const KnownLens facts = knownLensOf(photos);
-    printRow("photos",
-             QStringLiteral("%1 given, %2 readable, focal %3, lens %4")
-                 .arg(QString::number(given), QString::number(photos.size()),
-                      millimetres(facts.focal35mm), lensOrUnknown(facts.lens)));
-    printRow("order", orderText(photos));
-    printRow("gaps", gapText(photos));
+    job.checkCounts();
+    job.preparePage();
 }
 
 } // namespace
@@ -149,20 +136,16 @@ ExitCode runCheck(Session &session, const QStringList &arguments)
     }
     applyCommonOptions(session, line);
     const ImportRequest request = importRequest(session, line);
-    if (request.head->isGrid()) {
-        printGrid(*request.grid, request.photos.size());
-    } else {
-        printRecord(request.record, readRecord(*request.head, request.record));
+    Report report(line.isSet(QStringLiteral("json")));
+    try {
+        check(session, request, report);
+    } catch (const CommandError &error) {
+        if (error.failure().code == ExitCode::InputRefused) {
+            report.refuse(error.failure());
+        }
+        throw;
     }
-    requirePhotoFiles(request.photos);
-    const QStringList photos
-        = orderedPhotos(session.app, request.photos, request.order, session.watch());
-    printPhotos(readableInfos(session, photos), photos.size());
-
-    ImportJob job(session.app, request, session.watch());
-    job.checkInputs();
-    job.preparePage();
-    printRow("result", QStringLiteral("can be imported"));
+    report.accept();
     return ExitCode::Done;
 }
 

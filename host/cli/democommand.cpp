@@ -69,11 +69,9 @@ DemoImport importThroughPage(Session &session, const HeadFacts &head, const QStr
     request.pluginPath = session.pluginPath;
     request.record = record;
     request.photos = photos;
-    ImportJob job(session.app, request, session.watch());
-    job.checkInputs();
-    job.preparePage();
-    const QImage layout = job.layout().toImage();
-    return { job.handOver(), layout };
+    DemoImport made;
+    made.panorama = valueOrThrow(importShoot(session.app, request, session.watch(), &made.layout));
+    return made;
 }
 
 void showPicture(Session &session, const QString &path)

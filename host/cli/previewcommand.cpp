@@ -52,7 +52,8 @@ ExitCode runPreview(Session &session, const QStringList &arguments)
         return ExitCode::Done;
     }
     applyCommonOptions(session, line);
-    const ImportRequest request = importRequest(session, line);
+    ImportRequest request = importRequest(session, line);
+    request.wantsLayout = true;
     if (!line.isSet(QStringLiteral("output"))) {
         throw usageError(QStringLiteral("no picture named"), QStringLiteral("add -o LAYOUT.png"));
     }

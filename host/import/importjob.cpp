@@ -19,30 +19,59 @@ ImportJob::ImportJob(PanoHostApplication &app, ImportRequest request, JobWatch w
     , m_request(std::move(request))
     , m_watch(std::move(watch))
 {
+    m_app.photos().setReadsPictures(m_request.wantsLayout);
 }
 
 ImportJob::~ImportJob()
 {
+    m_app.photos().stop();
     m_app.clearPathAliases();
 }
 
-void ImportJob::checkInputs()
+void ImportJob::openRecord()
 {
-    const bool hasRecord = !m_request.head->isGrid();
-    if (hasRecord) {
-        m_record = readRecord(*m_request.head, m_request.record);
+    if (m_request.head->isGrid()) {
+        return;
     }
-    requirePhotoFiles(m_request.photos);
+    m_record = readRecord(*m_request.head, m_request.record);
     for (const QString &remark : qAsConst(m_record.remarks)) {
         m_watch.note(JobWatch::Note::Warning,
                      QStringLiteral("%1: %2").arg(displayName(m_request.record), remark));
     }
-    if (hasRecord) {
-        requireMatchingCounts(displayName(m_request.record), m_record, m_request.photos.size());
-    } else {
-        requireFullGrid(*m_request.grid, m_request.photos.size());
+}
+
+void ImportJob::findPhotos()
+{
+    requirePhotoFiles(m_request.photos);
+    m_photos = m_request.photos;
+    if (m_request.order == PhotoOrder::ByName) {
+        m_photos.sort(Qt::CaseSensitive);
     }
-    m_photos = orderedPhotos(m_app, m_request.photos, m_request.order, m_watch);
+    m_app.photos().readAhead(m_photos);
+}
+
+void ImportJob::orderPhotos()
+{
+    if (m_request.order == PhotoOrder::ByTime) {
+        m_photos = orderedByTime(m_app, m_photos, m_watch);
+    }
+}
+
+void ImportJob::checkCounts() const
+{
+    if (m_request.head->isGrid()) {
+        requireFullGrid(*m_request.grid, m_request.photos.size());
+    } else {
+        requireMatchingCounts(displayName(m_request.record), m_record, m_request.photos.size());
+    }
+}
+
+void ImportJob::checkInputs()
+{
+    openRecord();
+    findPhotos();
+    checkCounts();
+    orderPhotos();
 }
 
 void ImportJob::preparePage()
@@ -162,12 +191,17 @@ Panorama ImportJob::handOver()
 }
 
 Result<Panorama> importShoot(PanoHostApplication &app, const ImportRequest &request,
-                             const JobWatch &watch)
+                             const JobWatch &watch, QImage *layout)
 {
     try {
-        ImportJob job(app, request, watch);
+        ImportRequest wanted = request;
+        wanted.wantsLayout = layout != nullptr;
+        ImportJob job(app, wanted, watch);
         job.checkInputs();
         job.preparePage();
+        if (layout != nullptr) {
+            *layout = job.layout().toImage();
+        }
         return job.handOver();
     } catch (const CommandError &error) {
         return error.failure();

@@ -27,8 +27,14 @@ public:
     ImportJob(const ImportJob &) = delete;
     ImportJob &operator=(const ImportJob &) = delete;
 
-    /** Reads the record and looks at the photo files: what can be said before they are decoded. */
+    /** Everything that can be said before the page gets record and photos: the next four. */
     void checkInputs();
+    void openRecord();
+    /** Whether the files are there, which are then read ahead. */
+    void findPhotos();
+    /** After `openRecord`: whether the photos are as many as there are shots. */
+    void checkCounts() const;
+    void orderPhotos();
     /** Loads the library, fills its page, waits for the photos and sets the options. */
     void preparePage();
     /** After `preparePage`: the page's layout picture in full size. */
@@ -36,9 +42,9 @@ public:
     /** After `preparePage`: presses Next and joins what was delivered with the photos' data. */
     [[nodiscard]] Panorama handOver();
 
-    /** After `checkInputs`. */
+    /** After `openRecord`; empty for heads without one. */
     [[nodiscard]] const RecordSummary &record() const { return m_record; }
-    /** After `checkInputs`: the photos in the order of the shots. */
+    /** After `orderPhotos`: the photos in the order of the shots. */
     [[nodiscard]] const QStringList &photos() const { return m_photos; }
 
 private:
@@ -62,8 +68,11 @@ private:
     std::unique_ptr<PageDriver> m_page; ///< before the library: goes first
 };
 
-/** All steps in one: the panorama that \p request describes, or why there is none. */
+/**
+ * All steps in one: the panorama that \p request describes, or why there is none. \p layout becomes
+ * the page's layout picture where it is not null.
+ */
 [[nodiscard]] Result<Panorama> importShoot(PanoHostApplication &app, const ImportRequest &request,
-                                           const JobWatch &watch);
+                                           const JobWatch &watch, QImage *layout = nullptr);
 
 } // namespace PanoHost

@@ -41,6 +41,7 @@ struct ImportRequest {
     std::optional<GridChoice> grid; ///< of heads without a record
     QVector<ButtonState> buttons; ///< in the order in which they are pressed
     bool ignoreExifRotation = false;
+    bool wantsLayout = false; ///< the layout picture too, for which photos are decoded
     QString pluginPath; ///< file or folder of the library; empty: the usual places
 };
 

@@ -24,33 +24,6 @@ bool isSameFile(const QFileInfo &a, const QFileInfo &b)
     return a.exists() && a.canonicalFilePath() == b.canonicalFilePath();
 }
 
-QStringList orderedByTime(PanoHostApplication &app, const QStringList &photos,
-                          const JobWatch &watch)
-{
-    std::vector<std::pair<qint64, QString>> timed;
-    timed.reserve(static_cast<size_t>(photos.size()));
-    for (const QString &photo : photos) {
-        watch.check();
-        const PhotoInfo info = valueOrThrow(app.photoInfo(photo));
-        if (info.timeMs == 0) {
-            throw inputRefused(QFileInfo(photo).fileName(),
-                               QStringLiteral("has no capture time to order by"),
-                               QStringLiteral("use --order name or --order given"));
-        }
-        timed.emplace_back(info.timeMs, photo);
-        watch.report(static_cast<int>(timed.size()), photos.size(),
-                     QStringLiteral("capture time of %1").arg(QFileInfo(photo).fileName()));
-    }
-    // Photos of the same second keep the order of their names.
-    std::sort(timed.begin(), timed.end());
-    QStringList ordered;
-    ordered.reserve(photos.size());
-    for (const auto &[time, photo] : timed) {
-        ordered += photo;
-    }
-    return ordered;
-}
-
 } // namespace
 
 void requireWritable(const QString &path, const QStringList &inputs)
@@ -142,15 +115,29 @@ void requireMatchingCounts(const QString &recordName, const RecordSummary &recor
     }
 }
 
-QStringList orderedPhotos(PanoHostApplication &app, const QStringList &photos, PhotoOrder order,
+QStringList orderedByTime(PanoHostApplication &app, const QStringList &photos,
                           const JobWatch &watch)
 {
-    if (order == PhotoOrder::ByTime) {
-        return orderedByTime(app, photos, watch);
+    std::vector<std::pair<qint64, QString>> timed;
+    timed.reserve(static_cast<size_t>(photos.size()));
+    for (const QString &photo : photos) {
+        watch.check();
+        const PhotoInfo info = valueOrThrow(app.photoInfo(photo));
+        if (info.timeMs == 0) {
+            throw inputRefused(QFileInfo(photo).fileName(),
+                               QStringLiteral("has no capture time to order by"),
+                               QStringLiteral("use --order name or --order given"));
+        }
+        timed.emplace_back(info.timeMs, photo);
+        watch.report(static_cast<int>(timed.size()), photos.size(),
+                     QStringLiteral("capture time of %1").arg(QFileInfo(photo).fileName()));
     }
-    QStringList ordered = photos;
-    if (order == PhotoOrder::ByName) {
-        ordered.sort(Qt::CaseSensitive);
+    // Photos of the same second keep the order of their names.
+    std::sort(timed.begin(), timed.end());
+    QStringList ordered;
+    ordered.reserve(photos.size());
+    for (const auto &[time, photo] : timed) {
+        ordered += photo;
     }
     return ordered;
 }

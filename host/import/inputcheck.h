@@ -23,8 +23,8 @@ void requirePhotoFiles(const QStringList &photos);
 /** Throws unless the photos are as many as the record's shots and fill its brackets. */
 void requireMatchingCounts(const QString &recordName, const RecordSummary &record, int photoCount);
 
-/** The photos in the order in which they belong to the shots; throws when one has no time. */
-[[nodiscard]] QStringList orderedPhotos(PanoHostApplication &app, const QStringList &photos,
-                                        PhotoOrder order, const JobWatch &watch);
+/** \p photos in the order of their capture times; throws when one has none. */
+[[nodiscard]] QStringList orderedByTime(PanoHostApplication &app, const QStringList &photos,
+                                        const JobWatch &watch);
 
 } // namespace PanoHost

@@ -57,31 +57,7 @@ LensModel chooseLensModel(const ImportRequest &request, const KnownLens &photos,
     return lens == LensModel::NotChosen ? LensModel::Standard : lens;
 }
 
-QString millimetres(double focal35mm)
-{
-    return QStringLiteral("%1 mm").arg(QString::number(focal35mm, 'g', 4));
-}
-
 } // namespace
-
-KnownLens knownLensOf(const QVector<PhotoInfo> &photos)
-{
-    KnownLens facts;
-    double sum = 0.0;
-    int count = 0;
-    for (const PhotoInfo &photo : photos) {
-        if (photo.focal35mm > 0.0) {
-            sum += photo.focal35mm;
-            ++count;
-        }
-        if (photo.lens != LensModel::NotChosen) {
-            facts.lens = photo.lens;
-        }
-    }
-    facts.focal35mm = count > 0 ? sum / count : 0.0;
-    facts.withoutFocal = photos.size() - count;
-    return facts;
-}
 
 LensChoice chooseLens(const ImportRequest &request, const KnownLens &photos,
                       const KnownLens &record)

@@ -2,18 +2,11 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "host/check/knownlens.h"
 #include "host/import/importrequest.h"
-#include "host/model/photofile.h"
 
 namespace PanoHost
 {
-
-/** What one source says about the lens. */
-struct KnownLens {
-    double focal35mm = 0.0; ///< 0: not known
-    LensModel lens = LensModel::NotChosen; ///< `NotChosen`: not known
-    int withoutFocal = 0; ///< photos that do not name a focal length
-};
 
 /** The focal length and lens that an import uses. */
 struct LensChoice {
@@ -21,9 +14,6 @@ struct LensChoice {
     LensModel lens = LensModel::Standard;
     QStringList warnings;
 };
-
-/** The mean focal length of the photos that name one, and the lens of the last that names one. */
-[[nodiscard]] KnownLens knownLensOf(const QVector<PhotoInfo> &photos);
 
 /**
  * Chooses between what the user gave, the photos and the record: without a wish the photos win

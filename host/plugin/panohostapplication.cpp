@@ -96,20 +96,13 @@ void PanoHostApplication::LoadTranslation(const QString &fileName)
 XIImageDef *PanoHostApplication::CreateImageDef(const QString &fileName)
 {
     const QString path = truePath(fileName);
-    std::shared_ptr<const PhotoData> data = cached(path);
-    if (!data) {
-        const QFileInfo before(path);
-        const Result<PhotoReading> reading = readPhoto(path);
-        if (!reading) {
-            rememberUnreadable(path, reading.error().why);
-            Q_EMIT photoRead(path, false);
-            return nullptr;
-        }
-        data = std::make_shared<PhotoData>(m_thumbnails, reading.value());
-        const QMutexLocker locker(&m_photoMutex);
-        m_photos.insert(path, { before.lastModified(), before.size(), data });
+    const PhotoReader::Answer answer = m_photos.read(path);
+    if (!answer) {
+        rememberUnreadable(path, answer.error().why);
+        Q_EMIT photoRead(path, false);
+        return nullptr;
     }
-    auto image = std::make_unique<HostImage>(m_thumbnails, std::move(data));
+    auto image = std::make_unique<HostImage>(m_thumbnails, answer.value());
     HostImage *const made = image.get();
     {
         const QMutexLocker locker(&m_photoMutex);
@@ -161,11 +154,11 @@ QString PanoHostApplication::truePath(const QString &path) const
 
 Result<PhotoInfo> PanoHostApplication::photoInfo(const QString &path)
 {
-    const std::shared_ptr<const PhotoData> data = cached(path);
-    if (data) {
-        return data->info();
+    const PhotoReader::Answer answer = m_photos.read(path);
+    if (!answer) {
+        return answer.error();
     }
-    return readPhotoInfo(path);
+    return answer.value()->info();
 }
 
 QVector<UnreadablePhoto> PanoHostApplication::unreadablePhotos() const
@@ -187,22 +180,11 @@ void PanoHostApplication::releaseLibraryHold()
         removeTranslator(translator.get());
     }
     m_translators.clear();
-    const QMutexLocker locker(&m_photoMutex);
-    m_images.clear();
-    m_photos.clear();
-}
-
-std::shared_ptr<const PhotoData> PanoHostApplication::cached(const QString &path) const
-{
-    CachedPhoto photo;
     {
         const QMutexLocker locker(&m_photoMutex);
-        photo = m_photos.value(path);
+        m_images.clear();
     }
-    const QFileInfo now(path);
-    const bool same = photo.data && now.exists() && now.lastModified() == photo.modified
-        && now.size() == photo.bytes;
-    return same ? photo.data : nullptr;
+    m_photos.forget();
 }
 
 void PanoHostApplication::rememberUnreadable(const QString &path, const QString &why)

@@ -4,13 +4,13 @@
 
 #include "host/model/result.h"
 #include "host/plugin/hostimage.h"
+#include "host/plugin/photoreader.h"
 #include "host/plugin/thumbnailstore.h"
 #include "hostlink/xiapplication.h"
 #include "hostlink/xuiinstances.h"
 #include "model/structuredpanoramaproperties.h"
 
 #include <QApplication>
-#include <QDateTime>
 #include <QHash>
 #include <QLocale>
 #include <QMutex>
@@ -89,10 +89,7 @@ public:
     /** How many descriptions have arrived. */
     [[nodiscard]] int deliveryCount() const { return m_deliveryCount; }
 
-    /**
-     * What is known about the photo \p path: from the image made for it, or read now when there
-     * is none or the file has changed since. Any thread.
-     */
+    /** What is known about the photo \p path. Any thread. */
     [[nodiscard]] Result<PhotoInfo> photoInfo(const QString &path);
 
     /** The photos that could not be read, oldest first, each once. Any thread. */
@@ -100,6 +97,8 @@ public:
     void clearUnreadablePhotos();
 
     [[nodiscard]] const ThumbnailStore &thumbnails() const { return m_thumbnails; }
+    /** Reads the photos that pages and commands ask for. */
+    [[nodiscard]] PhotoReader &photos() { return m_photos; }
 
     /**
      * Before a library is unloaded, after its pages are gone: removes the translators, whose data
@@ -114,13 +113,6 @@ Q_SIGNALS:
     void photoRead(const QString &path, bool readable);
 
 private:
-    struct CachedPhoto {
-        QDateTime modified;
-        qint64 bytes = 0;
-        std::shared_ptr<const PhotoData> data;
-    };
-
-    [[nodiscard]] std::shared_ptr<const PhotoData> cached(const QString &path) const;
     void rememberUnreadable(const QString &path, const QString &why);
 
     std::unique_ptr<QSettings> m_settings;
@@ -132,9 +124,9 @@ private:
     int m_deliveryCount = 0;
 
     ThumbnailStore m_thumbnails;
+    PhotoReader m_photos{ m_thumbnails };
     mutable QMutex m_photoMutex; ///< guards what follows
     QHash<QString, QString> m_aliases;
-    QHash<QString, CachedPhoto> m_photos;
     QVector<UnreadablePhoto> m_unreadable;
     QSet<QString> m_unreadablePaths; ///< those of `m_unreadable`
     std::vector<std::unique_ptr<HostImage>> m_images;

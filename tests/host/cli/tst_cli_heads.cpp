@@ -511,6 +511,17 @@ void TestCliHeads::checkReports()
     QVERIFY2(run.exitCode == 0, qPrintable(run.err));
     QVERIFY2(run.out.startsWith(start), qPrintable(run.out));
     QVERIFY(run.out.endsWith(QLatin1String("result   can be imported\n")));
+
+    const CliBench::Run json = m_bench.run(words("check --json") + line);
+    const QJsonObject object = QJsonDocument::fromJson(json.out.toUtf8()).object();
+    QVERIFY(object.value(QStringLiteral("importable")).toBool());
+    QString same;
+    for (const QJsonValue &row : object.value(QStringLiteral("findings")).toArray()) {
+        same += QStringLiteral("%1 %2\n")
+                    .arg(row[QStringLiteral("topic")].toString(), -8)
+                    .arg(row[QStringLiteral("text")].toString());
+    }
+    QCOMPARE(same, run.out);
 }
 
 void TestCliHeads::projectIsAcceptedByCheckpto_data()

@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "host/model/result.h"
+#include "host/plugin/hostimage.h"
+
+#include <QHash>
+#include <QMutex>
+#include <QStringList>
+#include <QThreadPool>
+#include <QWaitCondition>
+
+#include <memory>
+
+namespace PanoHost
+{
+
+/**
+ * Reads photos, each once, and ahead of whoever asks for them. An answer, a refusal too, counts
+ * until the file changes. Any thread.
+ */
+class PhotoReader
+{
+public:
+    using Answer = Result<std::shared_ptr<const PhotoData>>;
+
+    /** \p store outlives the reader. */
+    explicit PhotoReader(ThumbnailStore &store);
+    ~PhotoReader();
+    PhotoReader(const PhotoReader &) = delete;
+    PhotoReader &operator=(const PhotoReader &) = delete;
+
+    /** Whether pictures are read besides the facts, which take a tenth of the time. They are, at
+     * first. */
+    void setReadsPictures(bool reads);
+
+    /** Reads \p paths in this order on threads of its own, in place of what is left of an earlier
+     * call. */
+    void readAhead(const QStringList &paths);
+    /** No photo is begun any more that nobody asks for; does not wait for those that are. */
+    void stop();
+
+    /** What is known of the photo \p path; waits for it when it is being read. */
+    [[nodiscard]] Answer read(const QString &path);
+
+    /** Gives all memory back. */
+    void forget();
+
+private:
+    /** Tells one state of a file from the next. */
+    struct Stamp {
+        qint64 modifiedMs = -1; ///< -1: no such file
+        qint64 bytes = -1;
+
+        [[nodiscard]] static Stamp of(const QString &path);
+        bool operator==(const Stamp &other) const
+        {
+            return modifiedMs == other.modifiedMs && bytes == other.bytes;
+        }
+    };
+    struct Entry {
+        Stamp stamp;
+        std::shared_ptr<const Answer> answer; ///< null while it is being read
+    };
+
+    void work();
+    [[nodiscard]] QString takeNext();
+    [[nodiscard]] Answer readNow(const QString &path, bool withPicture) const;
+
+    ThumbnailStore &m_store;
+    QMutex m_mutex; ///< guards what follows
+    QWaitCondition m_wasRead;
+    QHash<QString, Entry> m_entries;
+    QStringList m_ahead;
+    int m_next = 0; ///< of m_ahead
+    int m_workers = 0;
+    bool m_readsPictures = true;
+
+    QThreadPool m_pool; ///< goes first
+};
+
+} // namespace PanoHost
