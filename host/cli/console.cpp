@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/cli/console.h"
 
+#include "host/model/pace.h"
+
 #include <cstdio>
 #include <unistd.h>
 
@@ -66,9 +68,9 @@ void Console::progress(int done, int total, const QString &text)
         return;
     }
     const int digits = QString::number(total).size();
-    const QByteArray line = QStringLiteral("[%1/%2] %3")
+    const QByteArray line = QStringLiteral("[%1/%2] %3%4")
                                 .arg(done, digits)
-                                .arg(QString::number(total), onOneLine(text))
+                                .arg(QString::number(total), onOneLine(text), timeLeft(done, total))
                                 .toUtf8();
     const bool plain = m_progress == Progress::Plain;
     if (!plain && !progressIsDue()) {
@@ -76,6 +78,18 @@ void Console::progress(int done, int total, const QString &text)
     }
     m_progressShown = !plain && m_terminal;
     writeError(m_progressShown ? QByteArray(kEraseLine) + line : line + '\n');
+}
+
+/** ", 7 s left"; empty while nobody knows. */
+QString Console::timeLeft(int done, int total)
+{
+    if (!m_sinceStart.isValid() || total != m_total || done < m_done) {
+        m_sinceStart.start();
+    }
+    m_done = done;
+    m_total = total;
+    const auto left = Pace{ done, total, std::chrono::milliseconds(m_sinceStart.elapsed()) }.left();
+    return left ? QStringLiteral(", ") + timeLeftText(*left) : QString();
 }
 
 bool Console::progressIsDue()

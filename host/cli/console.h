@@ -34,12 +34,13 @@ public:
     void info(const QString &text);
     /** What is being done; shown when verbose. */
     void detail(const QString &text);
-    /** "[ 12/96] reading IMG_0012.jpg"; \p total of at least 1. */
+    /** "[ 12/96] reading IMG_0012.jpg, 7 s left"; \p total of at least 1. */
     void progress(int done, int total, const QString &text);
     /** Takes a progress line off the terminal. */
     void endProgress();
 
 private:
+    [[nodiscard]] QString timeLeft(int done, int total);
     [[nodiscard]] bool progressIsDue();
     void writeLine(const QString &line, const char *color);
 
@@ -49,6 +50,9 @@ private:
     bool m_colored = false;
     bool m_progressShown = false;
     QElapsedTimer m_sinceLastProgress;
+    int m_done = 0; ///< of the job that reports, to see where the next begins
+    int m_total = 0;
+    QElapsedTimer m_sinceStart;
 };
 
 } // namespace PanoHost

@@ -3,16 +3,25 @@
 #include "host/gui/importwizard.h"
 
 #include "host/gui/choicepage.h"
-#include "host/gui/pagefiller.h"
+#include "host/gui/readingbar.h"
 #include "host/gui/resultpage.h"
+#include "host/import/givenfiles.h"
+#include "host/import/importjob.h"
+#include "host/import/pagedriver.h"
 
 #include <QAbstractButton>
 #include <QDropEvent>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLayout>
+#include <QLineEdit>
 #include <QMimeData>
 #include <QShortcut>
+#include <QThread>
 #include <QUrl>
+
+#include <algorithm>
+#include <iterator>
 
 namespace PanoHost
 {
@@ -57,6 +66,7 @@ ImportWizard::ImportWizard(PanoHostApplication &app, const PluginLibrary &librar
     , m_library(library)
     , m_choicePage(new ChoicePage(library.plugins()))
     , m_resultPage(new ResultPage(app))
+    , m_readingBar(new ReadingBar(this))
 {
     setWindowTitle(tr("Import a panorama"));
     setWizardStyle(QWizard::ModernStyle);
@@ -80,7 +90,11 @@ ImportWizard::ImportWizard(PanoHostApplication &app, const PluginLibrary &librar
     }
     resize(kFirstSize);
     restoreGeometry(app.ReadSetting(settingsGroup(), geometryKey(), QByteArray()).toByteArray());
-    connect(&app, &PanoHostApplication::delivered, this, &ImportWizard::takeDelivery);
+    // Photos are read on the pages' threads.
+    connect(&app, &PanoHostApplication::photoRead, m_readingBar, &ReadingBar::advance,
+            Qt::QueuedConnection);
+    m_readingBar->installEventFilter(this);
+    qApp->installEventFilter(this);
     connect(this, &QWizard::currentIdChanged, this, &ImportWizard::setUpSubtitle);
     connect(this, &QWizard::currentIdChanged, this, [this] {
         // Its size was asked for before it was shown, when fonts and styles had not settled.
@@ -121,24 +135,46 @@ int ImportWizard::nextId() const
 
 void ImportWizard::fillIn(const QStringList &files)
 {
-    const FilledFiles filled = sortFiles(files);
+    const GivenFiles given = sortFiles(files);
     if (currentId() == kChoiceId) {
-        m_choicePage->choose(headFor(filled, m_library.plugins(), m_choicePage->chosen()));
+        m_choicePage->choose(headFor(given, m_library.plugins(), m_choicePage->chosen()));
         next();
     }
     if (pluginOf(currentId()) == nullptr) {
         return;
     }
-    const QString problem = fillPage(m_app, currentPage(), filled);
-    if (!problem.isEmpty()) {
-        showMessage(QMessageBox::Warning, tr("Files not taken"), problem);
+    // Sorted as they are, only their names can be in the way.
+    if (PhotoAliases::areNeeded(given.photos)) {
+        showMessage(QMessageBox::Warning, tr("Files not taken"),
+                    tr("The name of a photo holds a double quote or a line end, which file dialogs "
+                       "cannot take. "
+                       "Rename it, or use \"panohost import\" on the command line."));
+        return;
+    }
+    try {
+        const JobWatch watch;
+        PageDriver driver(currentPage(), m_app, watch);
+        if (!given.record.isEmpty()
+            && currentPage()->findChild<QLineEdit *>(QStringLiteral("m_leConfigFile")) != nullptr) {
+            driver.enterRecord(given.record);
+        }
+        if (!given.photos.isEmpty()) {
+            driver.offerPhotos(given.photos);
+        }
+    } catch (const CommandError &error) {
+        showMessage(QMessageBox::Warning, tr("Files not taken"), error.failure().text());
     }
 }
 
 bool ImportWizard::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::LayoutRequest) {
+    if (watched == m_readingBar
+        && (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent)) {
+        makeRoom();
+    } else if (event->type() == QEvent::LayoutRequest && watched == content()) {
         fitPages();
+    } else if (event->type() == QEvent::Show) {
+        followPhotoDialogs(watched);
     }
     return QWizard::eventFilter(watched, event);
 }
@@ -148,10 +184,72 @@ void ImportWizard::fitPages()
 {
     // The base class asks a page for its size only when it comes to the front, but texts grow when
     // a record is read. All of the wizard's parts lie in one widget, its buttons too.
-    QWidget *content = button(QWizard::CancelButton)->parentWidget();
-    content->installEventFilter(this);
-    if (content->layout() != nullptr) {
-        setMinimumSize(content->layout()->totalMinimumSize());
+    if (content()->layout() != nullptr) {
+        const bool isReading = m_readingBar->isVisibleTo(this);
+        setMinimumSize(content()->layout()->totalMinimumSize()
+                       + QSize(0, isReading ? m_readingBar->sizeHint().height() : 0));
+    }
+}
+
+QWidget *ImportWizard::content() const
+{
+    return button(QWizard::CancelButton)->parentWidget();
+}
+
+/** The bar stands below all that the base class has laid out. */
+void ImportWizard::makeRoom()
+{
+    const int height = m_readingBar->isVisibleTo(this) ? m_readingBar->sizeHint().height() : 0;
+    fitPages();
+    content()->resize(width(), this->height() - height);
+    m_readingBar->setGeometry(0, this->height() - height, width(), height);
+}
+
+void ImportWizard::resizeEvent(QResizeEvent *event)
+{
+    QWizard::resizeEvent(event);
+    if (m_readingBar->isVisibleTo(this)) {
+        makeRoom();
+    }
+}
+
+/** Whoever shows a file dialog of the page: its photos can be read before the page asks. */
+void ImportWizard::followPhotoDialogs(QObject *watched)
+{
+    auto *dialog = qobject_cast<QFileDialog *>(watched);
+    const QWidget *page = currentPage();
+    if (dialog == nullptr || pluginOf(currentId()) == nullptr
+        || !page->findChildren<QFileDialog *>().contains(dialog)) {
+        return;
+    }
+    connect(dialog, &QFileDialog::filesSelected, this, &ImportWizard::beginReading,
+            Qt::UniqueConnection);
+}
+
+void ImportWizard::beginReading(const QStringList &files)
+{
+    QStringList photos;
+    std::remove_copy_if(files.begin(), files.end(), std::back_inserter(photos), &isRecord);
+    if (photos.isEmpty()) {
+        return;
+    }
+    photos.sort(Qt::CaseSensitive); // as the pages do
+    m_app.photos().readAhead(photos);
+    m_readingBar->begin(photos.size());
+    for (QThread *reader : currentPage()->findChildren<QThread *>()) {
+        connect(reader, &QThread::finished, this, &ImportWizard::endReading, Qt::UniqueConnection);
+    }
+}
+
+/** Unless the page has been given other photos since. */
+void ImportWizard::endReading()
+{
+    const auto *page = currentPage();
+    const QList<QThread *> readers
+        = page == nullptr ? QList<QThread *>() : page->findChildren<QThread *>();
+    if (std::none_of(readers.begin(), readers.end(),
+                     [](const QThread *reader) { return reader->isRunning(); })) {
+        m_readingBar->end();
     }
 }
 
@@ -170,18 +268,23 @@ void ImportWizard::dropEvent(QDropEvent *event)
 
 void ImportWizard::done(int result)
 {
+    m_app.photos().stop();
     m_app.WriteSetting(settingsGroup(), geometryKey(), saveGeometry());
     QWizard::done(result);
 }
 
-void ImportWizard::takeDelivery()
+bool ImportWizard::validateCurrentPage()
 {
     const ImportPlugin *plugin = pluginOf(currentId());
     if (plugin == nullptr) {
-        return;
+        return QWizard::validateCurrentPage();
     }
-    m_description = m_deliveries.take(currentPage(), m_app.delivery());
-    m_source = plugin->source(recordPath(currentPage()));
+    const int before = m_app.deliveryCount();
+    ImportRequest request;
+    request.filled
+        = FilledPage{ currentPage(), plugin->source(recordPath(currentPage())), &m_deliveries };
+    m_panorama = importShoot(m_app, request, {});
+    return m_app.deliveryCount() != before;
 }
 
 /** The page itself opens the links of its subtitle. */

@@ -14,6 +14,7 @@ namespace PanoHost
 {
 
 class ChoicePage;
+class ReadingBar;
 class ResultPage;
 
 /**
@@ -38,18 +39,23 @@ public:
      */
     void fillIn(const QStringList &files);
 
-    /** What the last Next of a plug-in's page added, and which plug-in it was. */
-    [[nodiscard]] const StructuredPanoramaProperties &description() const { return m_description; }
-    [[nodiscard]] const SourceInfo &source() const { return m_source; }
+    [[nodiscard]] bool validateCurrentPage() override;
+    /** What the last Next of a plug-in's page made; the reason when it cannot be used. */
+    [[nodiscard]] const Result<Panorama> &panorama() const { return m_panorama; }
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     void done(int result) override;
 
 private:
-    void takeDelivery();
+    void followPhotoDialogs(QObject *watched);
+    void beginReading(const QStringList &files);
+    void endReading();
+    void makeRoom();
+    [[nodiscard]] QWidget *content() const;
     void setUpSubtitle();
     void fitPages();
     void rememberChoice(int id);
@@ -62,8 +68,8 @@ private:
     ChoicePage *m_choicePage;
     ResultPage *m_resultPage;
     DeliveryLog m_deliveries;
-    StructuredPanoramaProperties m_description;
-    SourceInfo m_source;
+    Result<Panorama> m_panorama = Failure();
+    ReadingBar *m_readingBar;
 };
 
 } // namespace PanoHost

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/gui/resultpage.h"
 
+#include "host/check/findings.h"
 #include "host/gui/importwizard.h"
 #include "host/gui/layoutpicture.h"
 #include "host/model/panoramajson.h"
@@ -62,6 +63,22 @@ QString optimizationText(const StructuredPanoramaProperties &description)
     return description.useRecordedLocation
         ? ResultPage::tr("Optimization: starts from the recorded location")
         : ResultPage::tr("Optimization: starts without the recorded location");
+}
+
+/** What the photos say against the shoot. */
+QStringList troubles(const Panorama &panorama)
+{
+    QVector<PhotoInfo> photos;
+    for (const Position &position : panorama.positions) {
+        photos += position.photos;
+    }
+    QStringList texts;
+    for (const Finding &finding : photoFindings(photos, photos.size())) {
+        if (finding.kind == Finding::Kind::Trouble) {
+            texts += QStringLiteral("%1: %2").arg(finding.topic, finding.text);
+        }
+    }
+    return texts;
 }
 
 QString summary(const Panorama &panorama)
@@ -135,8 +152,7 @@ void ResultPage::initializePage()
     m_saved->clear();
     m_openHugin->setVisible(!QStandardPaths::findExecutable(QStringLiteral("hugin")).isEmpty());
     m_openHugin->setEnabled(false);
-    showPanorama(joinPanorama(import->description(), import->source(),
-                              [this](const QString &path) { return m_app.photoInfo(path); }));
+    showPanorama(import->panorama());
 }
 
 bool ResultPage::validatePage()
@@ -159,8 +175,9 @@ void ResultPage::showPanorama(const Result<Panorama> &panorama)
     if (panorama) {
         m_panorama = panorama.value();
     }
-    const QString warnings
-        = panorama ? panorama.value().warnings.join(QLatin1Char('\n')) : panorama.error().text();
+    const QString warnings = panorama
+        ? (panorama.value().warnings + troubles(panorama.value())).join(QLatin1Char('\n'))
+        : panorama.error().text();
     const int iconSide = style()->pixelMetric(QStyle::PM_SmallIconSize);
     m_warningIcon->setPixmap(
         style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(iconSide, iconSide));

@@ -77,6 +77,7 @@ void ImportJob::checkInputs()
 void ImportJob::preparePage()
 {
     const ImportPlugin &plugin = openPlugin();
+    plugin.page()->initializePage();
     m_page = std::make_unique<PageDriver>(plugin.page(), m_app, m_watch);
     if (!m_request.record.isEmpty()) {
         m_page->enterRecord(m_request.record);
@@ -92,8 +93,7 @@ void ImportJob::preparePage()
 
 const ImportPlugin &ImportJob::openPlugin()
 {
-    // Qt's own dialog is the one that can be filled in; and it would list the user's last folder.
-    m_app.setUseSystemFileDialog(false);
+    // Where dialogs begin: they would list the user's last folder.
     m_app.SetLastPath(QDir::tempPath());
     m_library = valueOrThrow(PluginLibrary::open(m_request.pluginPath));
     m_watch.note(JobWatch::Note::Detail, QStringLiteral("using %1").arg(m_library->path()));
@@ -190,9 +190,31 @@ Panorama ImportJob::handOver()
     return panorama;
 }
 
+namespace
+{
+
+/** From the page that the user has filled in. */
+Result<Panorama> importFilled(PanoHostApplication &app, const FilledPage &filled)
+{
+    const int before = app.deliveryCount();
+    if (!filled.page->validatePage() || app.deliveryCount() == before) {
+        return Failure{ ExitCode::InputRefused,
+                        QStringLiteral("photos"),
+                        QStringLiteral("the page refuses them"),
+                        {} };
+    }
+    return joinPanorama(filled.deliveries->take(filled.page, app.delivery()), filled.source,
+                        [&app](const QString &path) { return app.photoInfo(path); });
+}
+
+} // namespace
+
 Result<Panorama> importShoot(PanoHostApplication &app, const ImportRequest &request,
                              const JobWatch &watch, QImage *layout)
 {
+    if (request.filled) {
+        return importFilled(app, *request.filled);
+    }
     try {
         ImportRequest wanted = request;
         wanted.wantsLayout = layout != nullptr;

@@ -4,6 +4,8 @@
 
 #include "host/import/gridchoice.h"
 #include "host/import/heads.h"
+#include "host/model/delivery.h"
+#include "host/model/panorama.h"
 
 #include <optional>
 
@@ -26,8 +28,16 @@ struct ButtonState {
     bool checked;
 };
 
+/** A page on which the user has chosen record, photos and options. */
+struct FilledPage {
+    QWizardPage *page = nullptr;
+    SourceInfo source;
+    DeliveryLog *deliveries = nullptr; ///< of all hand-overs of the page
+};
+
 /** One import as the user wants it. */
 struct ImportRequest {
+    std::optional<FilledPage> filled; ///< nothing else counts then
     const HeadFacts *head = nullptr;
     QString record; ///< absolute path; empty for heads without one
     QStringList photos; ///< absolute paths, in the order given

@@ -20,6 +20,8 @@
 #include <QTimer>
 #include <QWizardPage>
 
+#include <utility>
+
 namespace PanoHost
 {
 
@@ -28,7 +30,6 @@ PageDriver::PageDriver(QWizardPage *page, PanoHostApplication &app, const JobWat
     , m_app(app)
     , m_watch(watch)
 {
-    m_page->initializePage();
 }
 
 namespace
@@ -76,10 +77,6 @@ void PageDriver::enterRecord(const QString &path)
 
 void PageDriver::choosePhotos(const QStringList &names)
 {
-    m_app.clearUnreadablePhotos();
-    m_dialogs.answerNextFileDialog(names);
-    auto *button = widget<QAbstractButton>(QStringLiteral("m_pbSelectImages"));
-
     QEventLoop loop;
     int read = 0;
     // The application reports from the page's reading thread.
@@ -101,19 +98,30 @@ void PageDriver::choosePhotos(const QStringList &names)
         }
     });
     stopWatch.start(kStopWatchMs);
-    button->click();
-    throwOnMessage();
-    if (!m_dialogs.fileDialogAnswered()) {
-        throw CommandError({ ExitCode::NoPlugin, QStringLiteral("plug-in page"),
-                             QStringLiteral("its photo button opens no file dialog"),
-                             QStringLiteral("set --plugin to another library") });
-    }
+    offerPhotos(names);
     if (read < names.size() && !m_watch.stopWanted()) {
         loop.exec();
     }
     m_watch.check();
     requireReadable(names);
     requireComplete();
+}
+
+void PageDriver::offerPhotos(const QStringList &names)
+{
+    m_app.clearUnreadablePhotos();
+    m_dialogs.answerNextFileDialog(names);
+    // Qt's own dialog is the one that can be filled in.
+    XUISettings &settings = *m_app.UIInstances()->settings;
+    const bool usesSystemDialog = std::exchange(settings.useSystemFileDialog, false);
+    widget<QAbstractButton>(QStringLiteral("m_pbSelectImages"))->click();
+    settings.useSystemFileDialog = usesSystemDialog;
+    throwOnMessage();
+    if (!m_dialogs.fileDialogAnswered()) {
+        throw CommandError({ ExitCode::NoPlugin, QStringLiteral("plug-in page"),
+                             QStringLiteral("its photo button opens no file dialog"),
+                             QStringLiteral("set --plugin to another library") });
+    }
 }
 
 void PageDriver::requireReadable(const QStringList &names) const

@@ -18,9 +18,9 @@ namespace PanoHost
  * Works a plug-in's page the way a user does: widgets are found by object name, buttons clicked,
  * dialogs answered. The page is never cast to a class of the library.
  *
- * Order of use: `enterRecord`, `choosePhotos`, options, `handOver` or `layout`. Each throws a
- * CommandError: a message box of the page refuses the input (its text is the reason), a missing
- * widget means a library of another make, Ctrl-C interrupts.
+ * The page has been entered. Order of use: `enterRecord`, `choosePhotos`, options, `handOver` or
+ * `layout`. Each throws a CommandError: a message box of the page refuses the input (its text is
+ * the reason), a missing widget means a library of another make, Ctrl-C interrupts.
  */
 class PageDriver
 {
@@ -37,6 +37,8 @@ public:
      * \param names absolute paths that PhotoAliases::areNeeded would let pass
      */
     void choosePhotos(const QStringList &names);
+    /** The same without waiting: the page goes on reading. */
+    void offerPhotos(const QStringList &names);
 
     void click(const QString &button);
     /** Clicks the check box or radio button \p button unless it is \p checked already. */

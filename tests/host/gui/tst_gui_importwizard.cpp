@@ -3,6 +3,7 @@
 #include "host/gui/choicepage.h"
 #include "host/gui/importwizard.h"
 #include "host/gui/layoutpicture.h"
+#include "host/gui/readingbar.h"
 #include "host/gui/resultpage.h"
 #include "host/import/dialogcatcher.h"
 #include "tests/host/testphotos.h"
@@ -42,6 +43,7 @@ private Q_SLOTS:
     void closingWhilePhotosLoadEndsAtOnce();
     void unloadingAfterUseWorks();
     void resultIsSummedUp();
+    void photosOutOfOrderAreNamed();
     void resultIsSaved();
     void failedSavingIsSaid();
     void fileNamesAreNotReadAsMarkup();
@@ -51,6 +53,8 @@ private Q_SLOTS:
     void xmlGoesToAHeadThatReadsIt();
     void scriptGoesToAHeadThatReadsIt();
     void namesThatTheDialogCannotTakeAreSaid();
+    void barStandsUnderThePageWhilePhotosAreRead();
+    void barSaysHowFarThePageHasCome();
     void unreadablePhotoKeepsNextDisabled();
     void subtitleLinksOpenInTheBrowser();
     void enterMovesOnePageOnly();
@@ -260,6 +264,21 @@ void TestImportWizard::resultIsSummedUp()
     QCOMPARE(scene.linked, QVector<bool>(3, true));
 }
 
+void TestImportWizard::photosOutOfOrderAreNamed()
+{
+    QStringList photos = writePhotos(3);
+    QVERIFY(QFile::remove(photos.last())); // all are one and the same
+    TestPhotos::Exif exif = TestPhotos::ordinaryExif();
+    exif.insert("Exif.Photo.DateTimeOriginal", "2024:05:01 09:59:58");
+    TestPhotos::writeJpeg(photos.last(), TestPhotos::quarters(QSize(60, 40)), exif);
+    m_wizard->fillIn(QStringList(writeRecord(3)) + photos);
+    QTRY_VERIFY(next()->isEnabled());
+    next()->click();
+    QCOMPARE(result()->findChild<QLabel *>(QStringLiteral("m_warnings"))->text(),
+             QStringLiteral("order: %1 was taken before %2; try --order time")
+                 .arg(QFileInfo(photos.at(2)).fileName(), QFileInfo(photos.at(1)).fileName()));
+}
+
 void TestImportWizard::resultIsSaved()
 {
     fillPapywizard(3);
@@ -366,6 +385,46 @@ void TestImportWizard::scriptGoesToAHeadThatReadsIt()
     QCOMPARE(
         m_wizard->currentPage()->findChild<QLineEdit *>(QStringLiteral("m_leConfigFile"))->text(),
         script);
+}
+
+void TestImportWizard::barStandsUnderThePageWhilePhotosAreRead()
+{
+    m_wizard->show();
+    auto *bar = m_wizard->findChild<ReadingBar *>();
+    QCOMPARE(bar->total(), 0);
+    m_wizard->fillIn(QStringList(writeRecord(12)) + writePhotos(12));
+    QCOMPARE(bar->total(), 12); // the record is none of them
+    QTRY_COMPARE(bar->total(), 0);
+    QTRY_VERIFY(next()->isEnabled());
+    QVERIFY(!bar->isVisible());
+
+    const QWidget *content = next()->parentWidget();
+    const int before = content->height();
+    bar->begin(300);
+    QTRY_VERIFY(bar->isVisible());
+    QCOMPARE(bar->geometry().bottom(), m_wizard->rect().bottom());
+    QCOMPARE(bar->width(), m_wizard->width());
+    QCOMPARE(content->height(), m_wizard->height() - bar->height());
+    m_wizard->resize(m_wizard->size() + QSize(40, 50));
+    QCOMPARE(bar->geometry().bottom(), m_wizard->rect().bottom());
+    QCOMPARE(content->height(), m_wizard->height() - bar->height());
+    bar->end();
+    QVERIFY(!bar->isVisible());
+    QCOMPARE(content->height(), before + 50);
+}
+
+void TestImportWizard::barSaysHowFarThePageHasCome()
+{
+    ReadingBar bar;
+    bar.begin(3);
+    QCOMPARE(bar.text(), QStringLiteral("0 of 3 photos"));
+    bar.advance();
+    QVERIFY(bar.text().startsWith(QLatin1String("1 of 3 photos")));
+    bar.advance();
+    bar.advance();
+    QCOMPARE(bar.total(), 0);
+    bar.advance(); // of a run that was given up
+    QCOMPARE(bar.total(), 0);
 }
 
 void TestImportWizard::namesThatTheDialogCannotTakeAreSaid()
