@@ -1,0 +1,120 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/model/decodebounds.h"
+
+#include <QIODevice>
+#include <QImageReader>
+
+#include <algorithm>
+
+namespace PanoHost
+{
+
+namespace
+{
+
+/** Formats that cannot be scaled while they are decoded are decoded up to this size only. */
+constexpr qint64 kMostDecodedBytes = 384LL * 1024 * 1024;
+/** Cameras append previews and short films; an end mark farther away is not looked for. */
+constexpr qint64 kTailBytes = 64 * 1024;
+
+/** The next marker of a JPEG stream, as decoders find it: past garbage and fill bytes; 0: none. */
+int nextJpegMarker(QIODevice &device)
+{
+    char byte = 0;
+    bool prefixed = false;
+    while (device.getChar(&byte)) {
+        const auto code = static_cast<unsigned char>(byte);
+        if (prefixed && code != 0xFF && code != 0x00) {
+            return code;
+        }
+        prefixed = code == 0xFF;
+    }
+    return 0;
+}
+
+struct JpegHeader {
+    /**
+     * Whether a decoder must hold all coefficients at once, however small the wanted picture is:
+     * that of progressive streams, and of those with a scan per component.
+     */
+    bool needsAllCoefficients = false;
+    /** Where the first scan begins; -1: there is none. */
+    qint64 scanAt = -1;
+};
+
+/** Keeps the device's position. */
+JpegHeader readJpegHeader(QIODevice &device)
+{
+    const qint64 before = device.pos();
+    device.seek(0);
+    JpegHeader header;
+    int components = 0;
+    while (const int marker = nextJpegMarker(device)) {
+        const bool bare = marker == 0x01 || (marker >= 0xD0 && marker <= 0xD8);
+        if (bare) {
+            continue;
+        }
+        const QByteArray head = device.peek(8).leftJustified(8, 0);
+        const bool frame
+            = (marker & 0xF0) == 0xC0 && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
+        if (frame) {
+            components = static_cast<unsigned char>(head[7]);
+            header.needsAllCoefficients = header.needsAllCoefficients || (marker & 3) == 2;
+        }
+        if (marker == 0xDA) {
+            header.scanAt = device.pos();
+            header.needsAllCoefficients
+                = header.needsAllCoefficients || static_cast<unsigned char>(head[2]) < components;
+        }
+        const int length
+            = (static_cast<unsigned char>(head[0]) << 8) | static_cast<unsigned char>(head[1]);
+        if (marker == 0xDA || marker == 0xD9 || !device.seek(device.pos() + std::max(length, 2))) {
+            break;
+        }
+    }
+    device.seek(before);
+    return header;
+}
+
+} // namespace
+
+bool isPhotoFormat(const QByteArray &format)
+{
+    static const QByteArrayList formats{ "jpeg", "jpg",  "png", "tiff", "tif",
+                                         "webp", "bmp",  "ppm", "pgm",  "heif",
+                                         "heic", "avif", "jp2", "exr",  "hdr" };
+    return formats.contains(format);
+}
+
+bool decodable(const QImageReader &reader)
+{
+    const QSize size = reader.size();
+    const qint64 pixels = qint64(size.width()) * size.height();
+    if (reader.format() != "jpeg") {
+        return pixels * 4 <= kMostDecodedBytes;
+    }
+    // Up to four components of 16-bit coefficients; others are reduced while they are decoded.
+    const bool whole = readJpegHeader(*reader.device()).needsAllCoefficients;
+    return (whole ? pixels * 8 : pixels / 64 * 4) <= kMostDecodedBytes;
+}
+
+bool looksComplete(QIODevice &device, const QByteArray &format)
+{
+    // Compressed data never holds these marks, what a camera writes into a header may.
+    const bool jpeg = format == "jpeg";
+    if (!jpeg && format != "png") {
+        return true;
+    }
+    const qint64 scanAt = jpeg ? readJpegHeader(device).scanAt : 0;
+    if (scanAt < 0) {
+        return false;
+    }
+    const qint64 before = device.pos();
+    device.seek(std::max(scanAt, device.size() - kTailBytes));
+    const bool complete = device.read(kTailBytes).contains(jpeg ? "\xFF\xD9" : "IEND");
+    device.seek(before);
+    return complete;
+}
+
+} // namespace PanoHost

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include <QByteArray>
+
+class QIODevice;
+class QImageReader;
+
+namespace PanoHost
+{
+
+/** Whether the decoder of \p format is made for photos (and reads nothing but the file). */
+[[nodiscard]] bool isPhotoFormat(const QByteArray &format);
+
+/**
+ * Whether decoding the picture of \p reader, scaled down to a thumbnail, takes a bounded amount of
+ * memory. Keeps the position of the reader's device.
+ */
+[[nodiscard]] bool decodable(const QImageReader &reader);
+
+/**
+ * Whether the picture in \p device, of \p format, is there to its end, as far as a look at both
+ * ends of the file tells. Keeps the device's position.
+ */
+[[nodiscard]] bool looksComplete(QIODevice &device, const QByteArray &format);
+
+} // namespace PanoHost

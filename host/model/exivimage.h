@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include <memory>
+
+class QFile;
+
+namespace Exiv2
+{
+class Image;
+}
+
+namespace PanoHost
+{
+
+/** Prepares the EXIF library; once, before any thread is started. */
+void initializeExiv();
+
+/**
+ * What exiv2 knows about the open \p file, its metadata read; null when it does not know the
+ * format or the file is damaged. Reads through \p file, which must outlive the image, and moves its
+ * position; opens nothing. Thread-safe for different files.
+ */
+[[nodiscard]] std::unique_ptr<Exiv2::Image> readExivImage(QFile &file);
+
+} // namespace PanoHost

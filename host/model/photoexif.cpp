@@ -1,0 +1,235 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/model/photoexif.h"
+
+#include "host/model/panorama.h"
+
+#include <QDateTime>
+
+#include <exiv2/exiv2.hpp>
+
+#include <cmath>
+
+namespace PanoHost
+{
+
+namespace
+{
+
+/** Manual lenses report no aperture; any fixed value keeps the differences of a shoot right. */
+constexpr double kAssumedFNumber = 3.5;
+constexpr double kAssumedIso = 100.0;
+
+/** A positive, finite number of the EXIF data, or 0. */
+double positiveNumber(const Exiv2::ExifData &exif, const char *key)
+{
+    const auto entry = exif.findKey(Exiv2::ExifKey(key));
+    if (entry == exif.end() || entry->count() < 1) {
+        return 0.0;
+    }
+    // A zero denominator is a signal to exiv2's own conversion on some platforms.
+    const Exiv2::Rational rational = entry->toRational(0);
+    if (rational.second == 0) {
+        return 0.0;
+    }
+    const double number = double(rational.first) / rational.second;
+    return std::isfinite(number) && number > 0.0 ? number : 0.0;
+}
+
+/** A signed number of the EXIF data (APEX values may be negative), when there is one. */
+std::optional<double> signedNumber(const Exiv2::ExifData &exif, const char *key)
+{
+    const auto entry = exif.findKey(Exiv2::ExifKey(key));
+    if (entry == exif.end() || entry->count() < 1) {
+        return {};
+    }
+    const Exiv2::Rational rational = entry->toRational(0);
+    if (rational.second == 0) {
+        return {};
+    }
+    return double(rational.first) / rational.second;
+}
+
+QString text(const Exiv2::ExifData &exif, const char *key)
+{
+    const auto entry = exif.findKey(Exiv2::ExifKey(key));
+    if (entry == exif.end()) {
+        return {};
+    }
+    // ASCII entries end in a zero byte, which is no part of the text.
+    return QString::fromStdString(entry->toString()).remove(QChar(0)).trimmed();
+}
+
+/** Millimetres per unit of the focal plane resolution. */
+double focalPlaneUnitMm(const Exiv2::ExifData &exif)
+{
+    switch (int(positiveNumber(exif, "Exif.Photo.FocalPlaneResolutionUnit"))) {
+    case 3:
+        return 10.0;
+    case 4:
+        return 1.0;
+    case 5:
+        return 0.001;
+    default:
+        return 25.4;
+    }
+}
+
+double focalFromSensor(const Exiv2::ExifData &exif, const QSize &stored)
+{
+    const double focalMm = positiveNumber(exif, "Exif.Photo.FocalLength");
+    const double across = positiveNumber(exif, "Exif.Photo.FocalPlaneXResolution");
+    const double down = positiveNumber(exif, "Exif.Photo.FocalPlaneYResolution");
+    if (focalMm == 0.0 || across == 0.0 || down == 0.0) {
+        return 0.0;
+    }
+    // The resolution counts the pixels the camera took, which a reduced copy still names.
+    double width = positiveNumber(exif, "Exif.Photo.PixelXDimension");
+    double height = positiveNumber(exif, "Exif.Photo.PixelYDimension");
+    if (width == 0.0 || height == 0.0) {
+        width = stored.width();
+        height = stored.height();
+    }
+    const double unitMm = focalPlaneUnitMm(exif);
+    const double diagonalMm = std::hypot(width / across, height / down) * unitMm;
+    const bool plausible = diagonalMm > 2.0 && diagonalMm < 250.0;
+    return plausible ? focalMm * kFullFrameDiagonalMm / diagonalMm : 0.0;
+}
+
+double focal35mm(const Exiv2::ExifData &exif, const QSize &stored)
+{
+    const double given = positiveNumber(exif, "Exif.Photo.FocalLengthIn35mmFilm");
+    return given > 0.0 ? given : focalFromSensor(exif, stored);
+}
+
+std::optional<double> exposureOf(const Exiv2::ExifData &exif)
+{
+    double seconds = positiveNumber(exif, "Exif.Photo.ExposureTime");
+    if (seconds == 0.0) {
+        const auto speed = signedNumber(exif, "Exif.Photo.ShutterSpeedValue");
+        seconds = speed ? std::exp2(-*speed) : 0.0;
+    }
+    if (seconds <= 0.0 || !std::isfinite(seconds)) {
+        return {};
+    }
+    double fNumber = positiveNumber(exif, "Exif.Photo.FNumber");
+    if (fNumber == 0.0) {
+        const double aperture = positiveNumber(exif, "Exif.Photo.ApertureValue");
+        fNumber = aperture > 0.0 ? std::exp2(aperture / 2.0) : kAssumedFNumber;
+    }
+    double iso = positiveNumber(exif, "Exif.Photo.ISOSpeedRatings");
+    if (iso == 0.0) {
+        iso = positiveNumber(exif, "Exif.Photo.RecommendedExposureIndex");
+    }
+    return exposureValue(fNumber, seconds, iso > 0.0 ? iso : kAssumedIso);
+}
+
+LensModel lensOf(const Exiv2::ExifData &exif, double focal)
+{
+    QString name = text(exif, "Exif.Photo.LensModel");
+    const auto makerNote = Exiv2::lensName(exif);
+    if (makerNote != exif.end()) {
+        name += QLatin1Char(' ') + QString::fromStdString(makerNote->print(&exif));
+    }
+    name = name.simplified().toLower();
+    for (const char *const word : { "fisheye", "fish-eye", "fish eye" }) {
+        if (name.contains(QLatin1String(word))) {
+            return LensModel::Fisheye;
+        }
+    }
+    // Below this many lenses are fisheyes that do not say so.
+    constexpr double kShortestStandardMm = 14.0;
+    const bool named = !name.isEmpty() && !name.startsWith(QLatin1Char('('));
+    return named && focal >= kShortestStandardMm ? LensModel::Standard : LensModel::NotChosen;
+}
+
+void readTime(const Exiv2::ExifData &exif, PhotoInfo &info)
+{
+    QString stamp = text(exif, "Exif.Photo.DateTimeOriginal");
+    QString fraction = text(exif, "Exif.Photo.SubSecTimeOriginal");
+    if (stamp.isEmpty()) {
+        stamp = text(exif, "Exif.Photo.DateTimeDigitized");
+        fraction = text(exif, "Exif.Photo.SubSecTimeDigitized");
+    }
+    if (stamp.isEmpty()) {
+        stamp = text(exif, "Exif.Image.DateTime");
+        fraction = text(exif, "Exif.Photo.SubSecTime");
+    }
+    // UTC, so that no change of the clocks skips an hour or makes one twice.
+    QDateTime time(QDate::fromString(stamp.left(10), QStringLiteral("yyyy:MM:dd")),
+                   QTime::fromString(stamp.mid(11), QStringLiteral("HH:mm:ss")), Qt::UTC);
+    if (!time.isValid()) {
+        return;
+    }
+    bool digits = false;
+    const int ms = fraction.leftJustified(3, QLatin1Char('0'), true).toInt(&digits);
+    info.timeText = time.toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss"));
+    if (digits && !fraction.isEmpty() && ms >= 0) {
+        time = time.addMSecs(ms);
+        info.timeText += QStringLiteral(".%1").arg(ms, 3, 10, QLatin1Char('0'));
+    }
+    info.timeMs = time.toMSecsSinceEpoch();
+}
+
+int orientationOf(const Exiv2::ExifData &exif)
+{
+    const double number = positiveNumber(exif, "Exif.Image.Orientation");
+    return number >= 1.0 && number <= 8.0 ? int(number) : 1;
+}
+
+} // namespace
+
+PhotoInfo photoInfo(const Exiv2::Image &image)
+{
+    const Exiv2::ExifData &exif = image.exifData();
+    PhotoInfo info;
+    info.storedSize = QSize(image.pixelWidth(), image.pixelHeight());
+    info.orientation = orientationOf(exif);
+    info.focal35mm = focal35mm(exif, info.storedSize);
+    info.lens = lensOf(exif, info.focal35mm);
+    info.exposureValue = exposureOf(exif);
+    readTime(exif, info);
+    return info;
+}
+
+bool isRaw(const Exiv2::Image &image)
+{
+    // They have a type of their own, or are TIFF files that begin with a smaller picture.
+    const QByteArray type = QByteArray::fromStdString(image.mimeType());
+    if (type == "image/tiff") {
+        const double first = positiveNumber(image.exifData(), "Exif.Image.ImageWidth");
+        return first > 0.0 && first < image.pixelWidth();
+    }
+    return type.startsWith("image/x-") && type != "image/x-ms-bmp" && type != "image/x-exv";
+}
+
+double exposureValue(double fNumber, double seconds, double iso)
+{
+    return std::log2(fNumber * fNumber / seconds) - std::log2(iso / 100.0);
+}
+
+int clockwiseDegrees(int orientation)
+{
+    switch (orientation) {
+    case 3:
+    case 4:
+        return 180;
+    case 5:
+    case 6:
+        return 90;
+    case 7:
+    case 8:
+        return 270;
+    default:
+        return 0;
+    }
+}
+
+qint64 timeMsFromText(const QString &text)
+{
+    // Without a zone Qt takes it for local time, in which some hours do not exist.
+    const QDateTime time = QDateTime::fromString(text + QLatin1Char('Z'), Qt::ISODateWithMs);
+    return time.isValid() ? time.toMSecsSinceEpoch() : 0;
+}
+
+} // namespace PanoHost
