@@ -22,6 +22,9 @@ namespace PanoHost
  */
 [[nodiscard]] Result<Panorama> panoramaFromJson(const QByteArray &json, const QString &folder);
 
+/** The schema that every result of `panoramaToJson` fits. */
+[[nodiscard]] QByteArray panoramaSchema();
+
 /** Reads a JSON file; paths are taken relative to its folder. */
 [[nodiscard]] Result<Panorama> readPanoramaJson(const QString &path);
 
