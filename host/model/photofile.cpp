@@ -3,12 +3,16 @@
 #include "host/model/photofile.h"
 
 #include "host/model/decodebounds.h"
+#include "host/model/desktopthumbnails.h"
 #include "host/model/exivimage.h"
 #include "host/model/safefile.h"
 
+#include <QDateTime>
 #include <QImageReader>
 
 #include <exiv2/image.hpp>
+
+#include <algorithm>
 
 namespace PanoHost
 {
@@ -57,6 +61,13 @@ Result<OpenPhoto> openPhoto(const QString &path)
     return photo;
 }
 
+/** Not an EXIF thumbnail, which is found as quickly the next time. */
+bool isOfFullSize(const QImage &thumbnail, const PhotoInfo &info)
+{
+    const int longer = std::max(info.storedSize.width(), info.storedSize.height());
+    return std::max(thumbnail.width(), thumbnail.height()) == std::min(longer, kThumbnailSide);
+}
+
 } // namespace
 
 void initializePhotoReading()
@@ -64,17 +75,26 @@ void initializePhotoReading()
     initializeExiv();
 }
 
-Result<PhotoReading> readPhoto(const QString &path)
+Result<PhotoReading> readPhoto(const QString &path, const DesktopThumbnails *shared)
 {
     const auto photo = openPhoto(path);
     if (!photo) {
         return photo.error();
     }
     const OpenPhoto &opened = photo.value();
+    // Of the file that is open, whatever the path names by now.
+    const QDateTime modified = opened.file->fileTime(QFileDevice::FileModificationTime);
+    const qint64 bytes = opened.file->size();
+    if (const auto kept = shared == nullptr ? std::nullopt : shared->find(path, modified, bytes)) {
+        return PhotoReading{ opened.info, *kept };
+    }
     QImage thumbnail
         = photoThumbnail(*opened.file, opened.exiv.get(), opened.info, opened.pictureIsPhoto);
     if (thumbnail.isNull()) {
         return unreadable(path);
+    }
+    if (shared != nullptr && isOfFullSize(thumbnail, opened.info)) {
+        shared->keep(path, modified, bytes, thumbnail);
     }
     return PhotoReading{ opened.info, std::move(thumbnail) };
 }

@@ -12,6 +12,8 @@
 namespace PanoHost
 {
 
+class DesktopThumbnails;
+
 /** A photo together with its upright thumbnail. */
 struct PhotoReading {
     PhotoInfo info;
@@ -24,10 +26,12 @@ void initializePhotoReading();
 
 /**
  * Reads the EXIF data and size of \p path and makes its thumbnail, from an embedded preview or from
- * the picture itself. Opens the file once. Thread-safe; regular files only; the memory taken is
- * bounded whatever the file claims.
+ * the picture itself, or takes it from \p shared, where one that had to be decoded is left for the
+ * next time; null for none. Opens the file once. Thread-safe; regular files only; the memory taken
+ * is bounded whatever the file claims.
  */
-[[nodiscard]] Result<PhotoReading> readPhoto(const QString &path);
+[[nodiscard]] Result<PhotoReading> readPhoto(const QString &path,
+                                             const DesktopThumbnails *shared = nullptr);
 
 /** Like `readPhoto` without the thumbnail: reads the file's header only and decodes nothing. */
 [[nodiscard]] Result<PhotoInfo> readPhotoInfo(const QString &path);

@@ -29,6 +29,7 @@ PanoHostApplication::PanoHostApplication(int &argc, char **argv)
     setOrganizationName(QStringLiteral("Orvane"));
     m_settings = std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope,
                                              organizationName(), applicationName());
+    shareThumbnails();
 }
 
 PanoHostApplication::~PanoHostApplication()
@@ -132,6 +133,20 @@ XUIInstances *PanoHostApplication::UIInstances()
 void PanoHostApplication::setSettingsFile(const QString &path)
 {
     m_settings = std::make_unique<QSettings>(path, QSettings::IniFormat);
+    shareThumbnails();
+}
+
+/** Unless the settings say that the desktop's thumbnails are none of ours. */
+void PanoHostApplication::shareThumbnails()
+{
+    using Places = DesktopThumbnails::Places;
+    const bool shares
+        = m_settings->value(QStringLiteral("panohost/sharedThumbnails"), true).toBool();
+    const bool everywhere
+        = m_settings->value(QStringLiteral("panohost/thumbnailsOfRemovablePlaces"), false).toBool();
+    m_photos.shareThumbnails(shares ? std::make_shared<const DesktopThumbnails>(
+                                 everywhere ? Places::Every : Places::OwnDisks)
+                                    : nullptr);
 }
 
 void PanoHostApplication::addPathAlias(const QString &alias, const QString &truePath)

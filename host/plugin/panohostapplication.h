@@ -113,6 +113,7 @@ Q_SIGNALS:
     void photoRead(const QString &path, bool readable);
 
 private:
+    void shareThumbnails();
     void rememberUnreadable(const QString &path, const QString &why);
 
     std::unique_ptr<QSettings> m_settings;

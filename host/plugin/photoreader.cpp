@@ -39,6 +39,12 @@ void PhotoReader::setReadsPictures(bool reads)
     forget();
 }
 
+void PhotoReader::shareThumbnails(std::shared_ptr<const DesktopThumbnails> thumbnails)
+{
+    const QMutexLocker lock(&m_mutex);
+    m_shared = std::move(thumbnails);
+}
+
 void PhotoReader::readAhead(const QStringList &paths)
 {
     const QMutexLocker lock(&m_mutex);
@@ -59,6 +65,7 @@ PhotoReader::Answer PhotoReader::read(const QString &path)
 {
     const Stamp stamp = Stamp::of(path);
     bool withPicture = false;
+    std::shared_ptr<const DesktopThumbnails> shared;
     {
         const QMutexLocker lock(&m_mutex);
         auto known = m_entries.constFind(path);
@@ -71,6 +78,7 @@ PhotoReader::Answer PhotoReader::read(const QString &path)
         }
         m_entries.insert(path, { stamp, nullptr });
         withPicture = m_readsPictures;
+        shared = m_shared;
     }
     std::shared_ptr<const Answer> answer;
     const auto tell = qScopeGuard([&] {
@@ -82,11 +90,12 @@ PhotoReader::Answer PhotoReader::read(const QString &path)
         }
         m_wasRead.wakeAll();
     });
-    answer = std::make_shared<const Answer>(readNow(path, withPicture));
+    answer = std::make_shared<const Answer>(readNow(path, withPicture, shared.get()));
     return *answer;
 }
 
-PhotoReader::Answer PhotoReader::readNow(const QString &path, bool withPicture) const
+PhotoReader::Answer PhotoReader::readNow(const QString &path, bool withPicture,
+                                         const DesktopThumbnails *shared) const
 {
     if (!withPicture) {
         const Result<PhotoInfo> info = readPhotoInfo(path);
@@ -95,7 +104,7 @@ PhotoReader::Answer PhotoReader::readNow(const QString &path, bool withPicture) 
         }
         return std::make_shared<const PhotoData>(m_store, PhotoReading{ info.value(), {} });
     }
-    const Result<PhotoReading> reading = readPhoto(path);
+    const Result<PhotoReading> reading = readPhoto(path, shared);
     if (!reading) {
         return reading.error();
     }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "host/model/desktopthumbnails.h"
 #include "host/model/result.h"
 #include "host/plugin/hostimage.h"
 
@@ -35,6 +36,9 @@ public:
      * first. */
     void setReadsPictures(bool reads);
 
+    /** Where thumbnails are looked for and left; null, as at first: nowhere. */
+    void shareThumbnails(std::shared_ptr<const DesktopThumbnails> thumbnails);
+
     /** Reads \p paths in this order on threads of its own, in place of what is left of an earlier
      * call. */
     void readAhead(const QStringList &paths);
@@ -66,7 +70,8 @@ private:
 
     void work();
     [[nodiscard]] QString takeNext();
-    [[nodiscard]] Answer readNow(const QString &path, bool withPicture) const;
+    [[nodiscard]] Answer readNow(const QString &path, bool withPicture,
+                                 const DesktopThumbnails *shared) const;
 
     ThumbnailStore &m_store;
     QMutex m_mutex; ///< guards what follows
@@ -76,6 +81,7 @@ private:
     int m_next = 0; ///< of m_ahead
     int m_workers = 0;
     bool m_readsPictures = true;
+    std::shared_ptr<const DesktopThumbnails> m_shared;
 
     QThreadPool m_pool; ///< goes first
 };

@@ -4,7 +4,9 @@
 #include "tests/host/testphotos.h"
 #include "tests/support/testprogram.h"
 
+#include <QDateTime>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -31,6 +33,7 @@ private Q_SLOTS:
     void forgettingGivesTheMemoryBack();
     void laterListTakesThePlaceOfAnEarlierOne();
     void manyUnreadablePhotosAreNoObstacle();
+    void decodedPicturesAreSharedWithTheDesktop();
 
 private:
     [[nodiscard]] QString at(const QString &name) const { return m_folder.filePath(name); }
@@ -185,6 +188,34 @@ void TestPhotoReader::manyUnreadablePhotosAreNoObstacle()
         QVERIFY(!reader.read(paths.at(i)).ok());
     }
     QVERIFY(reader.read(paths.last()).ok());
+}
+
+void TestPhotoReader::decodedPicturesAreSharedWithTheDesktop()
+{
+    const auto shared = std::make_shared<DesktopThumbnails>(DesktopThumbnails::Places::Every,
+                                                            at(QStringLiteral("thumbnails")));
+    const QString path
+        = TestPhotos::writeOrdinary(at(QStringLiteral("large.jpg")), QSize(600, 400));
+    ThumbnailStore store;
+    PhotoReader reader(store);
+    reader.shareThumbnails(shared);
+    QVERIFY(reader.read(path).ok());
+    const QFileInfo file(path);
+    const auto kept = shared->find(path, file.lastModified(), file.size());
+    QVERIFY(kept);
+    QCOMPARE(kept->size(), QSize(256, 171));
+
+    // The next time it is what is shown, for as long as the photo is the same.
+    QImage other(256, 171, QImage::Format_RGB32);
+    other.fill(Qt::magenta);
+    shared->keep(path, file.lastModified(), file.size(), other);
+    PhotoReader later(store);
+    later.shareThumbnails(shared);
+    const QImage shown = QImage::fromData(later.read(path).value()->encodedThumbnail());
+    QVERIFY(qRed(shown.pixel(10, 10)) > 200 && qGreen(shown.pixel(10, 10)) < 50);
+    TestPhotos::writeOrdinary(path, QSize(500, 400));
+    const QImage anew = QImage::fromData(later.read(path).value()->encodedThumbnail());
+    QCOMPARE(anew.size(), QSize(256, 205));
 }
 
 TEST_CLASS(TestPhotoReader, QGuiApplication)
