@@ -62,6 +62,7 @@ private Q_SLOTS:
     void gridIsRefusedWithItsNumbers();
     void photosAreRefusedWithTheirReason_data();
     void photosAreRefusedWithTheirReason();
+    void unreadablePhotosAreNamedOnceEach();
     void nameThatIsNoTextIsExplained();
     void resultIsRefusedBeforeAnythingIsRead_data();
     void resultIsRefusedBeforeAnythingIsRead();
@@ -287,6 +288,47 @@ void TestCliBadInput::photosAreRefusedWithTheirReason()
 }
 
 /** File names are bytes, and these bytes are no letters in UTF-8. */
+void TestCliBadInput::unreadablePhotosAreNamedOnceEach()
+{
+    constexpr int kBad = 300;
+    CliBench own;
+    const QStringList photos = own.photos(3);
+    QStringList bad;
+    for (int i = 0; i < kBad; ++i) {
+        bad += own.file(QStringLiteral("bad%1.jpg").arg(i, 3, 10, QLatin1Char('0')), "no photo");
+    }
+    const QString record = own.record(QStringLiteral("many.xml"), CliBench::row(kBad + 3));
+    const QStringList words
+        = QStringList{ QStringLiteral("check"), QStringLiteral("papywizard"), record } + bad
+        + photos;
+    const CliBench::Run run = own.run(words);
+    QCOMPARE(run.exitCode, 3);
+    QVERIFY2(
+        isError(run.err, QStringLiteral("bad000.jpg: cannot read .* \\(and 299 more of 303 .*")),
+        qPrintable(run.err));
+    QStringList rows = run.out.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    QCOMPARE(rows.takeFirst().left(9), QStringLiteral("record   "));
+    for (const QString &photo : qAsConst(bad)) {
+        QVERIFY2(rows.first().startsWith(QStringLiteral("bad      %1: ").arg(photo)),
+                 qPrintable(rows.first()));
+        rows.removeFirst();
+    }
+    QVERIFY(rows.first().startsWith(QLatin1String("photos   303 given, 3 readable")));
+
+    const CliBench::Run json = own.run(words + QStringList(QStringLiteral("--json")));
+    QCOMPARE(json.exitCode, 3);
+    QCOMPARE(json.err, run.err);
+    const QJsonObject object = QJsonDocument::fromJson(json.out.toUtf8()).object();
+    QCOMPARE(object.value(QStringLiteral("importable")), QJsonValue(false));
+    const QJsonArray findings = object.value(QStringLiteral("findings")).toArray();
+    QCOMPARE(findings.at(1)[QStringLiteral("files")].toArray(),
+             QJsonArray{ own.path(bad.first()) });
+    const QJsonValue last = findings.last();
+    QCOMPARE(last[QStringLiteral("topic")], QJsonValue(QStringLiteral("result")));
+    QVERIFY(last[QStringLiteral("trouble")].toBool());
+    QVERIFY(run.err.contains(last[QStringLiteral("text")].toString()));
+}
+
 void TestCliBadInput::nameThatIsNoTextIsExplained()
 {
     const QByteArray name = QFile::encodeName(m_bench.path(QStringLiteral("bad"))) + "\xff.jpg";
