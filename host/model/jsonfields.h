@@ -5,26 +5,25 @@
 #include "host/model/result.h"
 
 #include <QByteArrayList>
-#include <QJsonArray>
-#include <QJsonObject>
+#include <QJsonValue>
 #include <QStringList>
 #include <QVector>
 
 #include <array>
+#include <functional>
 #include <initializer_list>
 #include <optional>
+#include <type_traits>
 
 /*
- * JSON documents whose fields are described once. A description names the fields of a record in the
- * order in which they are written:
+ * JSON documents whose fields are described once, in the order in which they are written:
  *
- *     constexpr auto kShotFields = [](auto &json, auto &shot) {
+ *     constexpr auto kShotFields = [](JsonFields &json, auto &shot) {
  *         json.path("file", shot.path);
- *         json.field("ev", shot.exposureValue, "null: not known");
+ *         json.field("yawDeg", shot.yawDegrees, "to the right");
  *     };
  *
- * `writeJson`, `readJson` and `jsonSchema` call it with a class of theirs. The three classes have
- * the same operations; `JsonWriter` says what they mean.
+ * `writeJson`, `readJson` and `jsonSchema` call such a description.
  */
 namespace PanoHost
 {
@@ -37,14 +36,14 @@ struct About {
     {
     }
     /** Null may stand for a number, and does for an empty text. */
-    About &orNull();
+    About &orNull() { return with(&About::nullable, true); }
     /** Bounds of a number, or of the length of a text or list. */
-    About &atLeast(int smallest);
-    About &between(int smallest, int largest);
+    About &atLeast(int smallest) { return with(&About::least, { smallest }); }
+    About &atMost(int largest) { return with(&About::most, { largest }); }
     /** A reader refuses what is out of bounds: it "must be \p what". Without this it takes all. */
-    About &insist(const char *what);
+    About &insist(const char *what) { return with(&About::insisted, what); }
     /** The members of this object stand on a line each. */
-    About &inLines();
+    About &inLines() { return with(&About::lines, true); }
 
     const char *description = nullptr;
     std::optional<int> least;
@@ -52,344 +51,227 @@ struct About {
     const char *insisted = nullptr;
     bool nullable = false;
     bool lines = false;
+    bool optional = false; ///< the object may be missing
+
+private:
+    template <typename T> About &with(T About::*member, std::common_type_t<T> value)
+    {
+        this->*member = value;
+        return *this;
+    }
 };
 
-/** Numbers have at most 9 significant digits; those that are not finite are null. */
+/** Numbers have at most 9 significant digits; those that are not finite become null. */
 [[nodiscard]] QByteArray jsonText(double value);
 [[nodiscard]] QByteArray jsonText(int value);
 [[nodiscard]] QByteArray jsonText(bool value);
 [[nodiscard]] QByteArray jsonText(const QString &text);
 [[nodiscard]] QByteArray jsonText(const std::optional<double> &value);
-/** A line end, and the begin of the next line. */
-[[nodiscard]] QByteArray jsonLine(int indent);
+/** A list, on one line or on a line for each entry. */
+[[nodiscard]] QByteArray jsonText(const QByteArrayList &values, bool lines);
 
-/** Writes the members of an object. */
-class JsonWriter
+/** Takes \p json unless it is null. Answers what it must be, nothing when it is that. */
+[[nodiscard]] QString takeJson(const QJsonValue &json, double &value);
+[[nodiscard]] QString takeJson(const QJsonValue &json, qint32 &value);
+[[nodiscard]] QString takeJson(const QJsonValue &json, bool &value);
+[[nodiscard]] QString takeJson(const QJsonValue &json, QString &value);
+[[nodiscard]] QString takeJson(const QJsonValue &json, std::optional<double> &value);
+[[nodiscard]] QString takeJson(const QJsonValue &json, QVector<float> &values);
+[[nodiscard]] QString takeJson(const QJsonValue &json, QVector<qint32> &values);
+[[nodiscard]] QString takeJson(const QJsonValue &json, std::array<qint32, 3> &values);
+[[nodiscard]] QString takeJson(const QJsonValue &json, QStringList &values);
+
+/** The members of one object, while it is written, read or put into a schema. */
+class JsonFields
 {
 public:
-    /** Appends to \p text, on a line that is indented by \p indent. */
-    JsonWriter(QByteArray &text, QString folder, int indent = 0, bool lines = false, int index = 0);
+    using Members = std::function<void(JsonFields &json)>;
 
-    /** A truth value, a number or a text. */
-    template <typename T> void field(const char *key, const T &value, const About & = {})
-    {
-        add(key, jsonText(value));
-    }
-    void field(const char *key, const QString &text, const About &about = {});
-    /** A field behind a getter and a setter; 0 is set where it is missing. */
-    template <typename Owner, typename T>
-    void property(const char *key, const Owner &owner, T (Owner::*get)() const, void (Owner::*)(T),
-                  const About & = {})
-    {
-        field(key, (owner.*get)());
-    }
-    /** Follows from other fields, so it is not read. */
-    template <typename T> void derived(const char *key, const T &value, const About & = {})
-    {
-        field(key, value);
-    }
-    /** The place of this object in its list; not read. */
-    void index(const char *key) { field(key, m_index); }
-    /** The same in all documents; others are refused. */
-    void constant(const char *key, int value) { field(key, value); }
-    /** A file, written as it is found from the document's folder. */
-    void path(const char *key, const QString &path, const About & = {});
-    /** What \p name calls one of the values; other words are read as if it were missing. */
-    template <typename T>
-    void word(const char *key, const T &value, std::initializer_list<T>, QString (*name)(T))
-    {
-        field(key, name(value));
-    }
-    /** Numbers on one line. */
-    template <typename Numbers>
-    void numbers(const char *key, const Numbers &values, const About & = {})
-    {
-        QByteArrayList texts;
-        texts.reserve(int(values.size()));
-        for (const auto value : values) {
-            texts.append(jsonText(value));
-        }
-        add(key, '[' + texts.join(", ") + ']');
-    }
-    /** Texts, one per line. */
-    void texts(const char *key, const QStringList &values)
-    {
-        items(key, values, [this](const QString &value, int) { m_text += jsonText(value); });
-    }
-    template <typename Record, typename Fields>
-    void object(const char *key, const Record &record, const Fields &fields,
-                const About &about = {})
-    {
-        add(key, {});
-        write(record, fields, m_indent, about.lines);
-    }
-    /** An object that may be missing. */
-    template <typename Record, typename Fields>
-    void object(const char *key, const std::optional<Record> &record, const Fields &fields,
-                const About &about = {})
-    {
-        if (record) {
-            object(key, *record, fields, about);
-        }
-    }
-    /** Objects, one per line. */
-    template <typename Record, typename Fields>
-    void list(const char *key, const QVector<Record> &records, const Fields &fields,
-              const About & = {})
-    {
-        items(key, records, [&](const Record &record, int index) {
-            write(record, fields, m_indent + 2, false, index);
-        });
-    }
-    /** \p record with its braces. */
-    template <typename Record, typename Fields>
-    void write(const Record &record, const Fields &fields, int indent, bool lines, int index = 0)
-    {
-        m_text += '{';
-        JsonWriter members(m_text, m_folder, lines ? indent + 2 : indent, lines, index);
-        fields(members, record);
-        m_text += lines ? jsonLine(indent) + '}' : "}";
-    }
+    JsonFields(const JsonFields &) = delete;
+    JsonFields &operator=(const JsonFields &) = delete;
+    virtual ~JsonFields() = default;
 
-private:
-    template <typename List, typename Write>
-    void items(const char *key, const List &values, const Write &write)
+    /** A value of one of the types above. What a document lacks or has as null stays as it is. */
+    template <typename T> void field(const char *key, T &value, const About &about = {})
     {
-        add(key, "[");
-        for (int i = 0; i < values.size(); ++i) {
-            m_text += (i == 0 ? "" : ",") + jsonLine(m_indent + 2);
-            write(values[i], i);
-        }
-        m_text += values.isEmpty() ? "]" : jsonLine(m_indent) + ']';
+        const auto text = [&] { return textOf(value); };
+        const auto take
+            = [](const QJsonValue &json, auto &target) { return takeJson(json, target); };
+        add(key, typeOf<T>(), value, text, take, about);
     }
-    void add(const char *key, const QByteArray &value);
-
-    QByteArray &m_text;
-    QString m_folder;
-    int m_indent;
-    bool m_lines;
-    int m_index;
-    bool m_first = true;
-};
-
-/** Reads the members of an object; what is missing or null stays as it is. Throws `Failure`. */
-class JsonReader
-{
-public:
-    /** \p place stands before the keys in messages. */
-    JsonReader(QJsonObject object, QString folder, QString place = {});
-
-    void field(const char *key, bool &value, const About & = {});
-    void field(const char *key, qint32 &value, const About &about = {});
-    void field(const char *key, double &value, const About &about = {});
-    void field(const char *key, std::optional<double> &value, const About &about = {});
-    void field(const char *key, QString &value, const About &about = {});
-    template <typename Owner, typename T>
-    void property(const char *key, Owner &owner, T (Owner::*)() const, void (Owner::*set)(T),
+    /** A field behind a getter and a setter; 0 when it is missing. */
+    template <typename T, typename Owner, typename Record>
+    void property(const char *key, Record &record, T (Owner::*get)() const, void (Owner::*set)(T),
                   const About &about = {})
     {
-        T value{};
-        field(key, value, about);
-        (owner.*set)(value);
+        const auto text = [&] { return jsonText((record.*get)()); };
+        const auto take = [set](const QJsonValue &json, auto &owner) {
+            T value{};
+            QString expected = takeJson(json, value);
+            (owner.*set)(value);
+            return expected;
+        };
+        add(key, typeOf<T>(), record, text, take, about);
     }
-    template <typename T> void derived(const char *, const T &, const About & = {}) { }
-    void index(const char *) { }
-    void constant(const char *key, int value);
-    void path(const char *key, QString &path, const About &about = {});
-    template <typename T>
-    void word(const char *key, T &value, std::initializer_list<T> values, QString (*name)(T))
-    {
-        QString text;
-        field(key, text);
-        for (const T candidate : values) {
-            value = name(candidate) == text ? candidate : value;
-        }
-    }
-    void numbers(const char *key, QVector<float> &values, const About & = {});
-    void numbers(const char *key, QVector<qint32> &values, const About & = {});
-    void numbers(const char *key, std::array<qint32, 3> &values, const About & = {});
-    void texts(const char *key, QStringList &values);
-    template <typename Record, typename Fields>
-    void object(const char *key, Record &record, const Fields &fields, const About & = {})
-    {
-        JsonReader members = inside(key);
-        fields(members, record);
-    }
-    template <typename Record, typename Fields>
-    void object(const char *key, std::optional<Record> &record, const Fields &fields,
-                const About & = {})
-    {
-        if (!member(key).isNull()) {
-            object(key, record.emplace(), fields);
-        }
-    }
-    template <typename Record, typename Fields>
-    void list(const char *key, QVector<Record> &records, const Fields &fields,
-              const About &about = {})
-    {
-        const QJsonArray values = array(key);
-        insist(key, values.size(), about);
-        for (int i = 0; i < values.size(); ++i) {
-            JsonReader members = item(key, values, i);
-            Record record;
-            fields(members, record);
-            records.append(record);
-        }
-    }
-
-private:
-    [[nodiscard]] QJsonValue member(const char *key) const;
-    [[nodiscard]] QJsonArray array(const char *key) const;
-    [[nodiscard]] JsonReader inside(const char *key) const;
-    [[nodiscard]] JsonReader item(const char *key, const QJsonArray &list, int index) const;
-    void require(bool fine, const char *key, const char *what) const;
-    void insist(const char *key, double measure, const About &about) const;
-
-    QJsonObject m_object;
-    QString m_folder;
-    QString m_place;
-};
-
-/** Describes the members of an object in a schema (JSON Schema, draft 7). */
-class JsonSchema
-{
-public:
-    /** The schema begins on a line that is indented by \p indent. */
-    explicit JsonSchema(int indent = 0);
-
-    void field(const char *key, bool, const About &about = {}) { addScalar(key, "boolean", about); }
-    void field(const char *key, int, const About &about = {}) { addScalar(key, "integer", about); }
-    void field(const char *key, double, const About &about = {})
-    {
-        addScalar(key, "number", about);
-    }
-    void field(const char *key, const std::optional<double> &, About about = {})
-    {
-        addScalar(key, "number", about.orNull());
-    }
-    void field(const char *key, const QString &, const About &about = {})
-    {
-        addScalar(key, "string", about);
-    }
-    template <typename Owner, typename T>
-    void property(const char *key, const Owner &, T (Owner::*)() const, void (Owner::*)(T),
-                  const About &about = {})
-    {
-        field(key, T(), about);
-    }
+    /** A field that follows from others; never read. */
     template <typename T> void derived(const char *key, const T &value, const About &about = {})
     {
         field(key, value, about);
     }
-    void index(const char *key) { field(key, 0, About().atLeast(0)); }
+    /** The place of this object in its list; never read. */
+    void index(const char *key) { derived(key, m_index, About().atLeast(0)); }
+    /** The same in all documents; others are refused. */
     void constant(const char *key, int value);
-    void path(const char *key, const QString &path, const About &about = {})
+    /** A file, written as it is found from the folder of the document. */
+    template <typename Path> void path(const char *key, Path &path, const About &about = {})
     {
-        field(key, path, about);
+        const auto take
+            = [this](const QJsonValue &json, auto &target) { return takePath(json, target); };
+        const auto text = [&] { return pathText(path); };
+        add(key, typeOf<QString>(), path, text, take, about);
     }
-    template <typename T>
-    void word(const char *key, const T &, std::initializer_list<T> values, QString (*name)(T))
+    /** What \p name calls one of \p values; another word counts as missing. */
+    template <typename Value, typename T>
+    void word(const char *key, Value &value, std::initializer_list<T> values, QString (*name)(T))
     {
         QByteArrayList words;
-        for (const T value : values) {
-            words.append(jsonText(name(value)));
+        for (const T one : values) {
+            words.append(jsonText(name(one)));
         }
-        addWords(key, words);
-    }
-    void numbers(const char *key, const QVector<float> &, const About &about = {})
-    {
-        addList(key, "number", about, About().orNull());
-    }
-    template <typename Numbers>
-    void numbers(const char *key, const Numbers &, const About &about = {})
-    {
-        addList(key, "integer", about);
-    }
-    void texts(const char *key, const QStringList &) { addList(key, "string", {}); }
-    template <typename Record, typename Fields>
-    void object(const char *key, const Record &record, const Fields &fields,
-                const About &about = {})
-    {
-        JsonSchema members(m_indent + 4);
-        fields(members, record);
-        add(key, members.text(about));
+        const auto take = [&](const QJsonValue &json, auto &target) {
+            QString text;
+            QString expected = takeJson(json, text);
+            for (const T one : values) {
+                target = name(one) == text ? one : target;
+            }
+            return expected;
+        };
+        const auto text = [&] { return jsonText(name(value)); };
+        add(key, { "enum", nullptr, jsonText(words, false) }, value, text, take, {});
     }
     template <typename Record, typename Fields>
-    void object(const char *key, const std::optional<Record> &, const Fields &fields,
-                const About &about = {})
+    void object(const char *key, Record &record, const Fields &fields, const About &about = {})
     {
-        JsonSchema members(m_indent + 4);
-        const Record record{};
-        fields(members, record);
-        add(key, members.text(about), false);
+        const auto members = [&](JsonFields &json) { fields(json, record); };
+        addObject(key, members, about);
     }
+    /** An object that may be missing: \p record is a std::optional. */
     template <typename Record, typename Fields>
-    void list(const char *key, const QVector<Record> &, const Fields &fields,
-              const About &about = {})
+    void optionalObject(const char *key, Record &record, const Fields &fields, About about = {})
     {
-        JsonSchema members(m_indent + 6);
-        const Record record{};
-        fields(members, record);
-        addList(key, members, about);
+        about.optional = true;
+        if (!has(key, record.has_value())) {
+            return;
+        }
+        if constexpr (std::is_const_v<Record>) {
+            const auto known = record.value_or(typename Record::value_type());
+            object(key, known, fields, about);
+        } else {
+            object(key, record.emplace(), fields, about);
+        }
     }
-    /** The schema itself; \p head comes first. */
-    [[nodiscard]] QByteArray text(const About &about, const QByteArrayList &head = {}) const;
+    /** Objects, one per line. */
+    template <typename List, typename Fields>
+    void list(const char *key, List &records, const Fields &fields, const About &about = {})
+    {
+        using Record = typename List::value_type;
+        const auto item = [&](JsonFields &json, int index) {
+            if constexpr (std::is_const_v<List>) {
+                static const Record kFresh{};
+                fields(json, index < records.size() ? records[index] : kFresh);
+            } else {
+                records.append(Record());
+                fields(json, records.last());
+            }
+        };
+        addList(key, records.size(), item, about);
+    }
+
+protected:
+    using Item = std::function<void(JsonFields &json, int index)>;
+    /** A type as the schema names it; with \p allowed, the rule that lists the values. */
+    struct Type {
+        const char *name;
+        const char *items = nullptr; ///< the type of an array's entries
+        QByteArray allowed = {};
+    };
+    struct Value {
+        Type type;
+        std::function<QByteArray()> text;
+        std::function<QString(const QJsonValue &json)> take; ///< none: not read
+    };
+
+    explicit JsonFields(QString folder, int index = 0);
+    [[nodiscard]] const QString &folder() const { return m_folder; }
 
 private:
-    void add(const char *key, const QByteArray &schema, bool required = true);
-    void addScalar(const char *key, const char *type, const About &about);
-    void addWords(const char *key, const QByteArrayList &words);
-    void addList(const char *key, const char *type, const About &about, const About &item = {});
-    void addList(const char *key, const JsonSchema &items, const About &about);
+    virtual void addValue(const char *key, const Value &value, const About &about) = 0;
+    virtual void addObject(const char *key, const Members &members, const About &about) = 0;
+    virtual void addList(const char *key, int count, const Item &item, const About &about) = 0;
+    /** Whether there is such an optional object; \p known: in the record. */
+    [[nodiscard]] virtual bool has(const char *key, bool known) const = 0;
 
-    int m_indent;
-    QByteArrayList m_required;
-    QByteArrayList m_properties;
+    template <typename T, typename Text, typename Take>
+    void add(const char *key, const Type &type, T &target, const Text &text, const Take &take,
+             const About &about)
+    {
+        Value value{ type, text, {} };
+        if constexpr (!std::is_const_v<T>) {
+            value.take = [&](const QJsonValue &json) { return take(json, target); };
+        }
+        addValue(key, value, about);
+    }
+    template <typename T> [[nodiscard]] static constexpr const char *typeName()
+    {
+        using Plain = std::remove_const_t<T>;
+        if constexpr (std::is_same_v<Plain, bool>) {
+            return "boolean";
+        } else if constexpr (std::is_integral_v<Plain>) {
+            return "integer";
+        } else if constexpr (std::is_same_v<Plain, QString>) {
+            return "string";
+        } else if constexpr (std::is_convertible_v<double, Plain>) {
+            return "number";
+        } else {
+            return "array";
+        }
+    }
+    template <typename T> [[nodiscard]] static Type typeOf()
+    {
+        if constexpr (*typeName<T>() == 'a') {
+            return { "array", typeName<typename T::value_type>() };
+        }
+        return { typeName<T>() };
+    }
+    template <typename T> [[nodiscard]] static QByteArray textOf(const T &value)
+    {
+        if constexpr (*typeName<T>() == 'a') {
+            QByteArrayList texts;
+            texts.reserve(static_cast<int>(value.size()));
+            for (const auto &entry : value) {
+                texts.append(jsonText(entry));
+            }
+            return jsonText(texts, std::is_same_v<T, QStringList>);
+        } else {
+            return jsonText(value);
+        }
+    }
+    [[nodiscard]] QByteArray pathText(const QString &path) const;
+    [[nodiscard]] QString takePath(const QJsonValue &json, QString &path) const;
+
+    QString m_folder;
+    int m_index;
 };
 
-/** \p record as a document in \p folder (empty: paths are absolute), with a line end at the end. */
-template <typename Record, typename Fields>
-[[nodiscard]] QByteArray writeJson(const Record &record, const Fields &fields,
-                                   const QString &folder)
-{
-    QByteArray text;
-    JsonWriter(text, folder).write(record, fields, 0, true);
-    return text + '\n';
-}
+/** Fields as a document in \p folder (empty: paths are absolute), with a line end at the end. */
+[[nodiscard]] QByteArray writeJson(const JsonFields::Members &members, const QString &folder);
 
-/** The object of a document; a failure names the line. */
-[[nodiscard]] Result<QJsonObject> jsonObject(const QByteArray &json);
+/** Reads a document. Nothing when it could be read; a failure names the line or the key. */
+[[nodiscard]] std::optional<Failure> readJson(const QByteArray &json, const QString &folder,
+                                              const JsonFields::Members &members);
 
-/** Reads a document into \p record, which has the defaults. Failures name the line or the key. */
-template <typename Record, typename Fields>
-[[nodiscard]] Result<Record> readJson(const QByteArray &json, Record record, const Fields &fields,
-                                      const QString &folder)
-{
-    const Result<QJsonObject> object = jsonObject(json);
-    if (!object) {
-        return object.error();
-    }
-    try {
-        JsonReader reader(object.value(), folder);
-        fields(reader, record);
-        return record;
-    } catch (const Failure &failure) {
-        return failure;
-    }
-}
-
-/** The schema of the documents that `writeJson` makes of records like \p record. */
-template <typename Record, typename Fields>
+/** The schema (JSON Schema, draft 7) of what `writeJson` makes of \p members. */
 [[nodiscard]] QByteArray jsonSchema(const char *id, const char *title, const About &about,
-                                    const Record &record, const Fields &fields)
-{
-    JsonSchema schema;
-    fields(schema, record);
-    return schema.text(about,
-                       { "\"$schema\": \"http://json-schema.org/draft-07/schema#\"",
-                         "\"$id\": " + jsonText(QLatin1String(id)),
-                         "\"title\": " + jsonText(QLatin1String(title)) })
-        + '\n';
-}
+                                    const JsonFields::Members &members);
 
 } // namespace PanoHost

@@ -41,14 +41,14 @@ int gridColumns(const Panorama &panorama)
     return rows > 0 ? (panorama.positions.size() + rows - 1) / rows : 0;
 }
 
-constexpr auto kSourceFields = [](auto &json, auto &source) {
+constexpr auto kSourceFields = [](JsonFields &json, auto &source) {
     json.field("plugin", source.pluginUid, "UID of the import plug-in");
     json.field("name", source.name);
     json.path("record", source.record, "path of the head's file; empty when there is none");
     json.field("version", source.version);
 };
 
-constexpr auto kLensFields = [](auto &json, auto &panorama) {
+constexpr auto kLensFields = [](JsonFields &json, auto &panorama) {
     json.word("model", panorama.lens,
               { LensModel::Standard, LensModel::Fisheye, LensModel::NotChosen }, lensName);
     json.field("focal35mm", panorama.focal35mm,
@@ -59,17 +59,18 @@ constexpr auto kLensFields = [](auto &json, auto &panorama) {
                      .atLeast(0));
 };
 
-constexpr auto kPhotoFields = [](auto &json, auto &photo) {
+constexpr auto kPhotoFields = [](JsonFields &json, auto &photo) {
     json.path("file", photo.path, About().atLeast(1).insist("a file name"));
     json.property("width", photo.storedSize, &QSize::width, &QSize::setWidth, "stored pixels");
     json.property("height", photo.storedSize, &QSize::height, &QSize::setHeight, "stored pixels");
     json.field("orientation", photo.orientation,
-               About("EXIF orientation").between(1, 8).insist("1 to 8"));
-    json.field("ev", photo.exposureValue, "log2(N^2 / t) - log2(ISO / 100); null: not known");
+               About("EXIF orientation").atLeast(1).atMost(8).insist("1 to 8"));
+    json.field("ev", photo.exposureValue,
+               About("log2(N^2 / t) - log2(ISO / 100); null: not known").orNull());
     json.field("time", photo.timeText, About("ISO 8601 without zone; null: not known").orNull());
 };
 
-constexpr auto kPositionFields = [](auto &json, auto &position) {
+constexpr auto kPositionFields = [](JsonFields &json, auto &position) {
     json.index("index");
     json.field("yawDeg", position.yawDegrees, About("to the right").orNull());
     json.field("pitchDeg", position.pitchDegrees, About("up").orNull());
@@ -81,18 +82,18 @@ constexpr auto kPositionFields = [](auto &json, auto &position) {
                   .insist("a list with a photo"));
 };
 
-constexpr auto kAnglesFields = [](auto &json, auto &description) {
-    json.numbers("yaw", description.yaw);
-    json.numbers("pitch", description.pitch);
-    json.numbers("roll", description.roll);
+constexpr auto kAnglesFields = [](JsonFields &json, auto &description) {
+    json.field("yaw", description.yaw);
+    json.field("pitch", description.pitch);
+    json.field("roll", description.roll);
 };
 
-constexpr auto kLinkFields = [](auto &json, auto &link) {
+constexpr auto kLinkFields = [](JsonFields &json, auto &link) {
     json.field("type", link.linkType, "1 below, 2 beside, 3 and 4 diagonal");
-    json.numbers("positions", link.indices);
+    json.field("positions", link.indices);
 };
 
-constexpr auto kOptionsFields = [](auto &json, auto &description) {
+constexpr auto kOptionsFields = [](JsonFields &json, auto &description) {
     json.field("autoDetection", description.autoDetection);
     json.word("stackLinking", description.stackLinking, { 0, 1 }, stackLinkingName);
     json.word("levelLinking", description.levelLinking, { 0, 1 }, levelLinkingName);
@@ -103,7 +104,7 @@ constexpr auto kOptionsFields = [](auto &json, auto &description) {
     json.field("renderMode", description.renderMode, "-1 not said, 2 tonemapped, 3 HDR radiance");
 };
 
-constexpr auto kGridFields = [](auto &json, auto &panorama) {
+constexpr auto kGridFields = [](JsonFields &json, auto &panorama) {
     auto &description = panorama.description;
     json.field("mode", description.gridMode);
     json.field("rows", description.gridRows, "0: no grid");
@@ -112,8 +113,8 @@ constexpr auto kGridFields = [](auto &json, auto &panorama) {
     json.field("wrap360", description.gridWrap360);
 };
 
-constexpr auto kReservedFields = [](auto &json, auto &description) {
-    json.numbers("values", description.reservedValues, About().between(3, 3));
+constexpr auto kReservedFields = [](JsonFields &json, auto &description) {
+    json.field("values", description.reservedValues, About().atLeast(3).atMost(3));
     json.field("flag1", description.reservedFlag1);
     json.field("index1", description.reservedIndex1);
     json.field("text1", description.reservedText1);
@@ -121,12 +122,12 @@ constexpr auto kReservedFields = [](auto &json, auto &description) {
     json.field("flag3", description.reservedFlag3);
 };
 
-constexpr auto kProjectFields = [](auto &json, auto &project) {
+constexpr auto kProjectFields = [](JsonFields &json, auto &project) {
     json.field("yawCentreDeg", project.yawCentreDegrees, "was subtracted from every yaw");
     json.path("file", project.path);
 };
 
-constexpr auto kPanoramaFields = [](auto &json, auto &panorama) {
+constexpr auto kPanoramaFields = [](JsonFields &json, auto &panorama) {
     auto &description = panorama.description;
     json.constant("schema", kSchema);
     json.object("source", panorama.source, kSourceFields, "The importer and the head's record.");
@@ -142,9 +143,9 @@ constexpr auto kPanoramaFields = [](auto &json, auto &panorama) {
     json.object("options", description, kOptionsFields);
     json.object("grid", panorama, kGridFields);
     json.object("reserved", description, kReservedFields);
-    json.object("pto", panorama.project, kProjectFields,
-                "The Hugin project written for this panorama.");
-    json.texts("warnings", panorama.warnings);
+    json.optionalObject("pto", panorama.project, kProjectFields,
+                        "The Hugin project written for this panorama.");
+    json.field("warnings", panorama.warnings);
 };
 
 /** Fills what a document says once and a panorama says twice. */
@@ -167,17 +168,19 @@ void fillCopies(Panorama &panorama)
 
 QByteArray panoramaToJson(const Panorama &panorama, const QString &folder)
 {
-    return writeJson(panorama, kPanoramaFields, folder);
+    return writeJson([&](JsonFields &fields) { kPanoramaFields(fields, panorama); }, folder);
 }
 
 Result<Panorama> panoramaFromJson(const QByteArray &json, const QString &folder)
 {
-    Panorama withoutLens;
-    withoutLens.lens = LensModel::NotChosen;
-    auto panorama = readJson(json, withoutLens, kPanoramaFields, folder);
-    if (panorama) {
-        fillCopies(panorama.value());
+    Panorama panorama;
+    panorama.lens = LensModel::NotChosen; // stays when the document does not name the lens
+    const auto failure
+        = readJson(json, folder, [&](JsonFields &fields) { kPanoramaFields(fields, panorama); });
+    if (failure) {
+        return *failure;
     }
+    fillCopies(panorama);
     return panorama;
 }
 
@@ -187,7 +190,10 @@ QByteArray panoramaSchema()
                       "A structured panorama, as panohost writes it (schema 1)",
                       "Paths are relative to the JSON file. Readers ignore keys that they do not "
                       "know.",
-                      Panorama(), kPanoramaFields);
+                      [](JsonFields &fields) {
+                          const Panorama panorama;
+                          kPanoramaFields(fields, panorama);
+                      });
 }
 
 Result<Panorama> readPanoramaJson(const QString &path)

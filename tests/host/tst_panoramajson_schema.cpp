@@ -116,13 +116,18 @@ QString validate(const QJsonValue &value, const QJsonObject &schema, const QStri
     return value.isArray() ? validateArray(value.toArray(), schema, path) : QString();
 }
 
-QJsonObject schema()
+QByteArray schemaText()
 {
     QFile file(QStringLiteral(PANOHOST_SCHEMA));
     if (!file.open(QIODevice::ReadOnly)) {
         qFatal("cannot open the schema");
     }
-    return QJsonDocument::fromJson(file.readAll()).object();
+    return file.readAll();
+}
+
+QJsonObject schema()
+{
+    return QJsonDocument::fromJson(schemaText()).object();
 }
 
 } // namespace
@@ -133,10 +138,17 @@ class PanoramaJsonSchemaTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void schemaIsThatOfTheFields();
     void outputFitsTheSchema();
     void schemaCheckFindsWhatIsWrong_data();
     void schemaCheckFindsWhatIsWrong();
 };
+
+void PanoramaJsonSchemaTest::schemaIsThatOfTheFields()
+{
+    QVERIFY2(schemaText() == panoramaSchema(),
+             PANOHOST_SCHEMA " is not up to date; scripts/update-schemas makes it anew");
+}
 
 void PanoramaJsonSchemaTest::outputFitsTheSchema()
 {
