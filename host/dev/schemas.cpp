@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/model/panoramajson.h"
+#include "host/model/safefile.h"
+
+#include <QDir>
+#include <QTextStream>
+
+/* Writes the schemas of the JSON documents to a folder. scripts/update-schemas runs it. */
+
+int main(int argc, char **argv)
+{
+    if (argc != 2) {
+        QTextStream(stderr) << "Usage: schemas FOLDER\n";
+        return 2;
+    }
+    const QDir folder(QFile::decodeName(argv[1]));
+    const auto written = PanoHost::writeFileAtomically(
+        folder.filePath(QStringLiteral("panohost.schema.json")), PanoHost::panoramaSchema());
+    if (!written) {
+        QTextStream(stderr) << "schemas: " << written.error().text() << '\n';
+        return 1;
+    }
+    return 0;
+}
