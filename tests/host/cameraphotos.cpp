@@ -13,12 +13,14 @@
 
 #include <exiv2/exiv2.hpp>
 
+#include <utility>
+
 namespace
 {
 
 constexpr int kSecondsBetween = 5;
 
-/** Sky above hills, in colours of its own for each \p number. */
+/** Sky above hills full of flowers, in colours of its own for each \p number. */
 QImage landscape(int number)
 {
     QImage picture(CameraPhotos::kSize, QImage::Format_RGB32);
@@ -36,6 +38,14 @@ QImage landscape(int number)
         const int across = (hill * 37 + number * 11) % 100 * width / 100;
         painter.drawEllipse(QPoint(across, height + hill * 60), width / 5,
                             height * 2 / 3 - hill * 90);
+    }
+    quint32 place = 1;
+    constexpr int kFlowers = 30'000;
+    for (int flower = 0; flower < kFlowers; ++flower) {
+        place = place * 1'664'525U + 1'013'904'223U; // a linear congruential generator
+        const int across = static_cast<int>(place >> 16) * width / 65'536;
+        const int down = height / 3 + static_cast<int>(place % 1'009) * height / 1'514;
+        painter.fillRect(across, down, 6, 5, QColor::fromHsv(flower % 360, 90, 230));
     }
     return picture;
 }
@@ -64,6 +74,37 @@ QImage letterboxed(const QImage &picture)
     return framed;
 }
 
+/** Adds the numbers \p count, 1, 2... as readers of maker notes want them: bytes first. */
+void addNumbers(Exiv2::ExifData &exif, const char *key, int count)
+{
+    Exiv2::UShortValue numbers;
+    numbers.value_.push_back(static_cast<uint16_t>(count * 2));
+    for (int i = 1; i < count; ++i) {
+        numbers.value_.push_back(static_cast<uint16_t>(i));
+    }
+    exif.add(Exiv2::ExifKey(key), &numbers);
+}
+
+/**
+ * What a camera says in its own way, hundreds of numbers in all: most of the time that reading the
+ * metadata of a photo takes. Only those of makers that exiv2 knows are read.
+ */
+void addMakerNote(Exiv2::ExifData &exif)
+{
+    exif["Exif.Image.Make"] = "Canon";
+    exif["Exif.Image.Model"] = "Canon EOS 6D";
+    exif["Exif.Canon.0x0006"] = "Canon EOS 6D";
+    const std::vector<std::pair<const char *, int>> numbers{
+        { "Exif.Canon.0x0001", 50 },    { "Exif.Canon.0x0002", 4 },  { "Exif.Canon.0x0004", 34 },
+        { "Exif.Canon.0x0005", 6 },     { "Exif.Canon.0x000f", 20 }, { "Exif.Canon.0x0012", 30 },
+        { "Exif.Canon.0x0026", 100 },   { "Exif.Canon.0x0093", 30 }, { "Exif.Canon.0x00a0", 14 },
+        { "Exif.Canon.0x4001", 1'250 }, { "Exif.Canon.0x4013", 11 }, { "Exif.Canon.0x4015", 40 },
+    };
+    for (const auto &[key, count] : numbers) {
+        addNumbers(exif, key, count);
+    }
+}
+
 Exiv2::ExifData exifOf(int number)
 {
     const QDateTime first(QDate(2024, 5, 1), QTime(10, 0), Qt::UTC);
@@ -71,8 +112,7 @@ Exiv2::ExifData exifOf(int number)
                                  .toString(QStringLiteral("yyyy:MM:dd HH:mm:ss"))
                                  .toStdString();
     Exiv2::ExifData exif;
-    exif["Exif.Image.Make"] = "Imaginary Optics";
-    exif["Exif.Image.Model"] = "Pinhole Two";
+    addMakerNote(exif);
     exif["Exif.Image.Orientation"] = uint16_t(1);
     exif["Exif.Image.DateTime"] = time;
     exif["Exif.Photo.DateTimeOriginal"] = time;
@@ -90,21 +130,39 @@ Exiv2::ExifData exifOf(int number)
     return exif;
 }
 
-/** The segment that holds \p exif in a JPEG file. */
-QByteArray exifSegment(const Exiv2::ExifData &exif)
+/** The segment of a JPEG file that holds \p content. */
+QByteArray segment(const QByteArray &content)
 {
-    Exiv2::Blob blob;
-    Exiv2::ExifParser::encode(blob, Exiv2::littleEndian, exif);
-    const QByteArray content = QByteArray("Exif\0\0", 6)
-        + QByteArray(reinterpret_cast<const char *>(blob.data()), static_cast<int>(blob.size()));
     QByteArray length(2, Qt::Uninitialized);
     qToBigEndian(static_cast<quint16>(content.size() + length.size()), length.data());
     return QByteArray("\xff\xe1") + length + content;
 }
 
+QByteArray exifSegment(const Exiv2::ExifData &exif)
+{
+    Exiv2::Blob blob;
+    Exiv2::ExifParser::encode(blob, Exiv2::littleEndian, exif);
+    return segment(
+        QByteArray("Exif\0\0", 6)
+        + QByteArray(reinterpret_cast<const char *>(blob.data()), static_cast<int>(blob.size())));
+}
+
+/** Not rated, with room for changes: the same in every photo. */
+QByteArray xmpSegment()
+{
+    Exiv2::XmpData xmp;
+    xmp["Xmp.xmp.Rating"] = 0;
+    std::string packet;
+    constexpr uint32_t kPadding = 2048;
+    Exiv2::XmpParser::encode(packet, xmp, Exiv2::XmpParser::useCompactFormat, kPadding);
+    return segment(QByteArray("http://ns.adobe.com/xap/1.0/\0", 29)
+                   + QByteArray::fromStdString(packet));
+}
+
 } // namespace
 
 CameraPhotos::CameraPhotos(int pictures)
+    : m_xmp(xmpSegment())
 {
     for (int number = 0; number < pictures; ++number) {
         const QImage picture = landscape(number);
@@ -127,7 +185,7 @@ QByteArray CameraPhotos::jpeg(int number, Inside inside) const
             reinterpret_cast<const Exiv2::byte *>(thumbnail.constData()), thumbnail.size());
     }
     constexpr int kStartMarkerBytes = 2;
-    return QByteArray(picture(number).jpeg).insert(kStartMarkerBytes, exifSegment(exif));
+    return QByteArray(picture(number).jpeg).insert(kStartMarkerBytes, exifSegment(exif) + m_xmp);
 }
 
 QByteArray CameraPhotos::raw(int number) const

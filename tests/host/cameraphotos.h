@@ -39,5 +39,6 @@ private:
     };
     [[nodiscard]] const Picture &picture(int number) const;
 
+    QByteArray m_xmp;
     std::vector<Picture> m_pictures;
 };
