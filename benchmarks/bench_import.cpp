@@ -3,6 +3,7 @@
 
 // The built panohost on 10,000 photos, from the command line to the written project.
 #include "benchmarks/bars.h"
+#include "benchmarks/hostrun.h"
 
 #include <QDir>
 #include <QFile>
@@ -10,19 +11,10 @@
 #include <QImage>
 #include <QTemporaryDir>
 
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <algorithm>
-#include <chrono>
-
 namespace
 {
 
 constexpr int kPhotos = 10'000;
-constexpr int kColumns = 100;
-constexpr double kStepDegrees = 1.2;
 
 bool write(const QString &name, const QByteArray &content)
 {
@@ -44,61 +36,6 @@ QStringList writePhotos(const QDir &folder)
     return names;
 }
 
-QByteArray record()
-{
-    QByteArray text
-        = "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<papywizard version=\"c\">\n<shoot>\n";
-    for (int i = 0; i < kPhotos; ++i) {
-        text += "<pict id=\"" + QByteArray::number(i + 1) + "\"><position yaw=\""
-            + QByteArray::number(i % kColumns * kStepDegrees, 'f', 1) + "\" pitch=\""
-            + QByteArray::number(60.0 - i / kColumns * kStepDegrees, 'f', 1)
-            + "\" roll=\"0.0\"/></pict>\n";
-    }
-    return text + "</shoot>\n</papywizard>\n";
-}
-
-struct Run {
-    int exitCode = -1;
-    double wallSeconds = 0.0;
-    double cpuSeconds = 0.0;
-    double megabytes = 0.0; ///< the most that was resident
-};
-
-Run run(const QString &program, const QStringList &arguments, const QString &folder)
-{
-    std::vector<QByteArray> texts{ QFile::encodeName(program) };
-    for (const QString &argument : arguments) {
-        texts.push_back(argument.toLocal8Bit());
-    }
-    std::vector<char *> pointers;
-    for (QByteArray &text : texts) {
-        pointers.push_back(text.data());
-    }
-    pointers.push_back(nullptr);
-    const QByteArray place = QFile::encodeName(folder);
-    const auto start = std::chrono::steady_clock::now();
-    const pid_t child = fork();
-    if (child == 0) {
-        if (chdir(place.constData()) == 0) {
-            execv(pointers[0], pointers.data());
-        }
-        _exit(127);
-    }
-    int status = 0;
-    rusage usage{};
-    wait4(child, &status, 0, &usage);
-    Run result;
-    result.wallSeconds
-        = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-    const auto seconds = [](const timeval &time) {
-        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
-    };
-    result.cpuSeconds = seconds(usage.ru_utime) + seconds(usage.ru_stime);
-    result.megabytes = static_cast<double>(usage.ru_maxrss) / 1024.0;
-    result.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    return result;
-}
-
 /** The best of three, since other programs can only slow it down. */
 class Import
 {
@@ -108,7 +45,7 @@ public:
     {
     }
 
-    const Run &best()
+    const HostRun::Run &best()
     {
         if (m_best.exitCode == 0) {
             return m_best;
@@ -116,7 +53,8 @@ public:
         const QTemporaryDir folder;
         const QDir dir(folder.path());
         const QStringList photos = writePhotos(dir);
-        if (photos.isEmpty() || !write(dir.filePath(QStringLiteral("shoot.xml")), record())) {
+        if (photos.isEmpty()
+            || !write(dir.filePath(QStringLiteral("shoot.xml")), HostRun::record(kPhotos))) {
             m_mistake = "cannot write the photos";
             return m_best;
         }
@@ -126,7 +64,7 @@ public:
             QStringLiteral("project.pto"), QStringLiteral("shoot.xml")
         } + photos;
         for (int attempt = 0; attempt < 3; ++attempt) {
-            const Run next = run(m_program, arguments, dir.path());
+            const HostRun::Run next = HostRun::run(m_program, arguments, dir.path());
             if (next.exitCode != 0) {
                 m_mistake = Bars::text("panohost ended with code %d", next.exitCode);
                 m_best = next;
@@ -147,7 +85,7 @@ public:
 
 private:
     QString m_program;
-    Run m_best;
+    HostRun::Run m_best;
     std::string m_mistake;
 };
 
@@ -163,7 +101,7 @@ int main(int argc, char **argv)
     Import import(QFile::decodeName(argv[1]));
     Bars::add("panohost import/10,000 photos end to end", { Bars::Need::AtLeast, 500.0, "/s" },
               [&] {
-                  const Run &best = import.best();
+                  const HostRun::Run &best = import.best();
                   return Bars::Figure{ kPhotos / best.wallSeconds,
                                        Bars::text("%.3g s, %.3g s of CPU time", best.wallSeconds,
                                                   best.cpuSeconds),
@@ -171,7 +109,7 @@ int main(int argc, char **argv)
               });
     Bars::add("panohost import/10,000 photos, peak memory", { Bars::Need::AtMost, 300.0, " MB" },
               [&] {
-                  const Run &best = import.best();
+                  const HostRun::Run &best = import.best();
                   // 48 x 36 pixels each.
                   return Bars::Figure{ best.megabytes,
                                        Bars::text("all thumbnails decoded would be %.0f MB more",
