@@ -18,10 +18,10 @@ class HostImage;
 
 /** How much memory the thumbnails of all photos together may take, bytes. */
 struct ThumbnailLimits {
-    qint64 encoded = 384LL * 1024 * 1024; ///< compressed thumbnails, kept for every photo
-    qint64 kept = 192LL * 1024 * 1024; ///< pixmaps that stay from one event-loop turn to the next
-    qint64 full = 384LL * 1024 * 1024; ///< from here on new pixmaps are made small
-    qint64 most = 640LL * 1024 * 1024; ///< from here on there are no new pixmaps
+    qint64 encoded = 256LL * 1024 * 1024; ///< compressed thumbnails, kept for every photo
+    qint64 kept = 96LL * 1024 * 1024; ///< pixmaps that stay from one event-loop turn to the next
+    qint64 full = 160LL * 1024 * 1024; ///< from here on new pixmaps are made small
+    qint64 most = 288LL * 1024 * 1024; ///< from here on there are no new pixmaps
 };
 
 /**
