@@ -15,15 +15,20 @@ namespace
 
 /** Formats that cannot be scaled while they are decoded are decoded up to this size only. */
 constexpr qint64 kMostDecodedBytes = 384LL * 1024 * 1024;
-/** Cameras append previews and short films; an end mark farther away is not looked for. */
+/** Where files mostly have the mark of their end. */
+constexpr qint64 kMarkBytes = 16;
+/** Cameras append previews and short films; a mark farther away is not looked for. */
 constexpr qint64 kTailBytes = 64 * 1024;
+
+/** Decoders would read through any amount of garbage, some gigabytes a minute. */
+constexpr int kMostGarbageBytes = 1024 * 1024;
 
 /** The next marker of a JPEG stream, as decoders find it: past garbage and fill bytes; 0: none. */
 int nextJpegMarker(QIODevice &device)
 {
     char byte = 0;
     bool prefixed = false;
-    while (device.getChar(&byte)) {
+    for (int i = 0; i < kMostGarbageBytes && device.getChar(&byte); ++i) {
         const auto code = static_cast<unsigned char>(byte);
         if (prefixed && code != 0xFF && code != 0x00) {
             return code;
@@ -39,8 +44,8 @@ struct JpegHeader {
      * that of progressive streams, and of those with a scan per component.
      */
     bool needsAllCoefficients = false;
-    /** Where the first scan begins; -1: there is none. */
-    qint64 scanAt = -1;
+    /** Where the data of the first scan begins; -1: there is none. */
+    qint64 dataAt = -1;
 };
 
 /** Keeps the device's position. */
@@ -62,14 +67,15 @@ JpegHeader readJpegHeader(QIODevice &device)
             components = static_cast<unsigned char>(head[7]);
             header.needsAllCoefficients = header.needsAllCoefficients || (marker & 3) == 2;
         }
+        const int length
+            = (static_cast<unsigned char>(head[0]) << 8) | static_cast<unsigned char>(head[1]);
+        const qint64 next = device.pos() + std::max(length, 2);
         if (marker == 0xDA) {
-            header.scanAt = device.pos();
+            header.dataAt = next < device.size() ? next : -1;
             header.needsAllCoefficients
                 = header.needsAllCoefficients || static_cast<unsigned char>(head[2]) < components;
         }
-        const int length
-            = (static_cast<unsigned char>(head[0]) << 8) | static_cast<unsigned char>(head[1]);
-        if (marker == 0xDA || marker == 0xD9 || !device.seek(device.pos() + std::max(length, 2))) {
+        if (marker == 0xDA || marker == 0xD9 || !device.seek(next)) {
             break;
         }
     }
@@ -99,20 +105,29 @@ bool decodable(const QImageReader &reader)
     return (whole ? pixels * 8 : pixels / 64 * 4) <= kMostDecodedBytes;
 }
 
+bool hasPictureData(QIODevice &device, const QByteArray &format)
+{
+    return format != "jpeg" || readJpegHeader(device).dataAt >= 0;
+}
+
 bool looksComplete(QIODevice &device, const QByteArray &format)
 {
-    // Compressed data never holds these marks, what a camera writes into a header may.
     const bool jpeg = format == "jpeg";
     if (!jpeg && format != "png") {
         return true;
     }
-    const qint64 scanAt = jpeg ? readJpegHeader(device).scanAt : 0;
-    if (scanAt < 0) {
+    // Compressed data never holds the mark of its end; what a camera writes into a header may.
+    const QByteArray mark = jpeg ? QByteArray("\xFF\xD9") : QByteArray("IEND");
+    const qint64 dataAt = jpeg ? readJpegHeader(device).dataAt : 0;
+    if (dataAt < 0) {
         return false;
     }
     const qint64 before = device.pos();
-    device.seek(std::max(scanAt, device.size() - kTailBytes));
-    const bool complete = device.read(kTailBytes).contains(jpeg ? "\xFF\xD9" : "IEND");
+    const auto endsWithin = [&](qint64 bytes) {
+        device.seek(std::max(dataAt, device.size() - bytes));
+        return device.read(bytes).contains(mark);
+    };
+    const bool complete = endsWithin(kMarkBytes) || endsWithin(kTailBytes);
     device.seek(before);
     return complete;
 }

@@ -20,6 +20,12 @@ namespace PanoHost
 [[nodiscard]] bool decodable(const QImageReader &reader);
 
 /**
+ * False when the file in \p device, of \p format, ends before its picture begins. Keeps the
+ * device's position.
+ */
+[[nodiscard]] bool hasPictureData(QIODevice &device, const QByteArray &format);
+
+/**
  * Whether the picture in \p device, of \p format, is there to its end, as far as a look at both
  * ends of the file tells. Keeps the device's position.
  */

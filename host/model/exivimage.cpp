@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/model/exivimage.h"
 
-#include <QFile>
+#include "host/model/photodevice.h"
 
 #include <exiv2/exiv2.hpp>
 
@@ -16,17 +16,17 @@ namespace PanoHost
 namespace
 {
 
-/** The library's view of a file that is open already; refuses to write. */
-class OpenFileIo final : public Exiv2::BasicIo
+/** The library's view of a device that is open already; refuses to write. */
+class DeviceIo final : public Exiv2::BasicIo
 {
 public:
-    explicit OpenFileIo(QFile &file)
-        : m_file(file)
+    explicit DeviceIo(PhotoDevice &device)
+        : m_device(device)
     {
     }
-    ~OpenFileIo() override { munmap(); }
-    OpenFileIo(const OpenFileIo &) = delete;
-    OpenFileIo &operator=(const OpenFileIo &) = delete;
+    ~DeviceIo() override { munmap(); }
+    DeviceIo(const DeviceIo &) = delete;
+    DeviceIo &operator=(const DeviceIo &) = delete;
 
     int open() override
     {
@@ -42,7 +42,7 @@ public:
 
     Exiv2::DataBuf read(long count) override
     {
-        const qint64 left = std::max<qint64>(m_file.size() - m_file.pos(), 0);
+        const qint64 left = std::max<qint64>(m_device.size() - m_device.pos(), 0);
         Exiv2::DataBuf bytes(static_cast<long>(std::clamp<qint64>(count, 0, left)));
         bytes.size_ = read(bytes.pData_, bytes.size_);
         m_eof = m_eof || bytes.size_ < count;
@@ -50,7 +50,7 @@ public:
     }
     long read(Exiv2::byte *bytes, long count) override
     {
-        const qint64 done = m_file.read(reinterpret_cast<char *>(bytes), count);
+        const qint64 done = m_device.read(reinterpret_cast<char *>(bytes), count);
         m_eof = m_eof || done < count;
         return static_cast<long>(std::max<qint64>(done, 0));
     }
@@ -61,20 +61,20 @@ public:
     }
     int seek(long offset, Position from) override
     {
-        const qint64 start = from == beg ? 0 : from == cur ? m_file.pos() : m_file.size();
+        const qint64 start = from == beg ? 0 : from == cur ? m_device.pos() : m_device.size();
         m_eof = false;
-        return m_file.seek(start + offset) ? 0 : 1;
+        return m_device.seek(start + offset) ? 0 : 1;
     }
-    long tell() const override { return static_cast<long>(m_file.pos()); }
-    size_t size() const override { return static_cast<size_t>(m_file.size()); }
-    int error() const override { return m_file.error() == QFileDevice::NoError ? 0 : 1; }
+    long tell() const override { return static_cast<long>(m_device.pos()); }
+    size_t size() const override { return static_cast<size_t>(m_device.size()); }
+    int error() const override { return m_device.isSound() ? 0 : 1; }
     bool eof() const override { return m_eof; }
     std::string path() const override { return "photo"; }
 
     Exiv2::byte *mmap(bool writable) override
     {
         if (!writable && m_mapped == nullptr) {
-            m_mapped = m_file.map(0, m_file.size(), QFileDevice::MapPrivateOption);
+            m_mapped = m_device.map();
         }
         if (writable || m_mapped == nullptr) {
             throw Exiv2::Error(Exiv2::kerCallFailed, path(), "cannot be mapped", "mmap");
@@ -84,7 +84,7 @@ public:
     int munmap() override
     {
         uchar *const mapped = std::exchange(m_mapped, nullptr);
-        return mapped == nullptr || m_file.unmap(mapped) ? 0 : 1;
+        return mapped == nullptr || m_device.unmap(mapped) ? 0 : 1;
     }
 
     long write(const Exiv2::byte *, long) override { return 0; }
@@ -96,7 +96,7 @@ public:
     }
 
 private:
-    QFile &m_file;
+    PhotoDevice &m_device;
     uchar *m_mapped = nullptr;
     bool m_open = false;
     bool m_eof = false;
@@ -120,10 +120,10 @@ void initializeExiv()
     Exiv2::LogMsg::setLevel(Exiv2::LogMsg::mute);
 }
 
-std::unique_ptr<Exiv2::Image> readExivImage(QFile &file)
+std::unique_ptr<Exiv2::Image> readExivImage(PhotoDevice &device)
 {
     try {
-        auto image = Exiv2::ImageFactory::open(Exiv2::BasicIo::AutoPtr(new OpenFileIo(file)));
+        auto image = Exiv2::ImageFactory::open(Exiv2::BasicIo::AutoPtr(new DeviceIo(device)));
         if (image.get() == nullptr) {
             return nullptr;
         }

@@ -4,8 +4,6 @@
 
 #include <memory>
 
-class QFile;
-
 namespace Exiv2
 {
 class Image;
@@ -14,14 +12,16 @@ class Image;
 namespace PanoHost
 {
 
+class PhotoDevice;
+
 /** Prepares the EXIF library; once, before any thread is started. */
 void initializeExiv();
 
 /**
- * What exiv2 knows about the open \p file, its metadata read; null when it does not know the
- * format or the file is damaged. Reads through \p file, which must outlive the image, and moves its
- * position; opens nothing. Thread-safe for different files.
+ * What exiv2 knows about the photo in \p device, its metadata read; null when it does not know the
+ * format or the file is damaged. Reads through \p device, which must outlive the image, and moves
+ * its position; opens nothing. Thread-safe for different devices.
  */
-[[nodiscard]] std::unique_ptr<Exiv2::Image> readExivImage(QFile &file);
+[[nodiscard]] std::unique_ptr<Exiv2::Image> readExivImage(PhotoDevice &device);
 
 } // namespace PanoHost

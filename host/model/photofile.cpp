@@ -5,6 +5,8 @@
 #include "host/model/decodebounds.h"
 #include "host/model/desktopthumbnails.h"
 #include "host/model/exivimage.h"
+#include "host/model/lostpageguard.h"
+#include "host/model/photodevice.h"
 #include "host/model/safefile.h"
 
 #include <QDateTime>
@@ -24,8 +26,8 @@ namespace
 struct OpenPhoto {
     PhotoInfo info;
     bool pictureIsPhoto = false; ///< what an image reader decodes is the photo itself
-    std::unique_ptr<QFile> file;
-    std::unique_ptr<Exiv2::Image> exiv; ///< reads from `file`; null: unknown to exiv2
+    std::unique_ptr<PhotoDevice> device;
+    std::unique_ptr<Exiv2::Image> exiv; ///< reads from `device`; null: unknown to exiv2
 };
 
 Failure unreadable(const QString &path)
@@ -40,16 +42,20 @@ Result<OpenPhoto> openPhoto(const QString &path)
         return opened.error();
     }
     OpenPhoto photo;
-    photo.file = std::move(opened).value();
-    photo.exiv = readExivImage(*photo.file);
+    photo.device = std::make_unique<PhotoDevice>(std::move(opened).value());
+    PhotoDevice &device = *photo.device;
+    const QByteArray format = QImageReader::imageFormat(&device);
+    if (!hasPictureData(device, format)) {
+        return unreadable(path);
+    }
+    photo.exiv = readExivImage(device);
     if (photo.exiv) {
         photo.info = photoInfo(*photo.exiv);
     }
     photo.info.path = path;
-    if (!photo.exiv || !isRaw(*photo.exiv)) {
-        photo.file->seek(0);
-        const QImageReader reader(photo.file.get());
-        const QSize decoded = isPhotoFormat(reader.format()) ? reader.size() : QSize();
+    if (isPhotoFormat(format) && !(photo.exiv && isRaw(*photo.exiv))) {
+        device.seek(0);
+        const QSize decoded = QImageReader(&device, format).size();
         photo.pictureIsPhoto = !decoded.isEmpty();
         if (photo.pictureIsPhoto) {
             photo.info.storedSize = decoded;
@@ -73,10 +79,12 @@ bool isOfFullSize(const QImage &thumbnail, const PhotoInfo &info)
 void initializePhotoReading()
 {
     initializeExiv();
+    LostPageGuard::install();
 }
 
 Result<PhotoReading> readPhoto(const QString &path, const DesktopThumbnails *shared)
 {
+    const LostPageGuard guard;
     const auto photo = openPhoto(path);
     if (!photo) {
         return photo.error();
@@ -89,8 +97,8 @@ Result<PhotoReading> readPhoto(const QString &path, const DesktopThumbnails *sha
         return PhotoReading{ opened.info, *kept };
     }
     QImage thumbnail
-        = photoThumbnail(*opened.file, opened.exiv.get(), opened.info, opened.pictureIsPhoto);
-    if (thumbnail.isNull()) {
+        = photoThumbnail(*opened.device, opened.exiv.get(), opened.info, opened.pictureIsPhoto);
+    if (thumbnail.isNull() || guard.lostAny()) {
         return unreadable(path);
     }
     if (shared != nullptr && isOfFullSize(thumbnail, opened.info)) {
@@ -101,9 +109,13 @@ Result<PhotoReading> readPhoto(const QString &path, const DesktopThumbnails *sha
 
 Result<PhotoInfo> readPhotoInfo(const QString &path)
 {
+    const LostPageGuard guard;
     const auto photo = openPhoto(path);
     if (!photo) {
         return photo.error();
+    }
+    if (guard.lostAny()) {
+        return unreadable(path);
     }
     return photo.value().info;
 }

@@ -6,7 +6,6 @@
 #include "host/model/photoexif.h"
 
 #include <QBuffer>
-#include <QFile>
 #include <QImageReader>
 #include <QTransform>
 
@@ -102,7 +101,10 @@ bool isBlack(const QImage &picture)
 QImage withoutBars(const QImage &picture, const QSize &photo)
 {
     const QSize size = picture.size();
-    const QSize inner = photo.scaled(size, Qt::KeepAspectRatio).expandedTo({ 1, 1 });
+    const double scale
+        = std::min(double(size.width()) / photo.width(), double(size.height()) / photo.height());
+    const QSize inner
+        = QSize(qRound(photo.width() * scale), qRound(photo.height() * scale)).expandedTo({ 1, 1 });
     const QSize bars = size - inner;
     // Previews leave out a few pixels at the edge of the sensor, and are rounded.
     const auto rounding = [](int side) { return std::max(2, side * 3 / 100); };
@@ -219,10 +221,21 @@ QImage fromExifThumbnail(const Exiv2::ExifData &exif, const PhotoInfo &info)
     return embeddedThumbnail(bytes, claimed, info, Accept::Equals);
 }
 
+/** Listing the previews copies each of them, up to the whole file. */
+bool mayBeListed(const Exiv2::Image &exiv)
+{
+    constexpr int kJpegLengthTag = 0x0202;
+    const Exiv2::ExifData &exif = exiv.exifData();
+    return exiv.io().size() <= kMostListedBytes
+        && std::none_of(exif.begin(), exif.end(), [](const Exiv2::Exifdatum &entry) {
+               return entry.tag() == kJpegLengthTag && entry.count() > 0
+                   && static_cast<unsigned long>(entry.toLong()) > kMostPreviewBytes;
+           });
+}
+
 QImage fromEmbedded(const Exiv2::Image &exiv, const PhotoInfo &info, Accept accept)
 {
-    // Listing the previews copies each of them, up to the whole file.
-    if (exiv.io().size() > kMostListedBytes) {
+    if (!mayBeListed(exiv)) {
         return {};
     }
     const Exiv2::PreviewManager previews(exiv);
@@ -268,17 +281,18 @@ QImage placeholder(const PhotoInfo &info)
 
 } // namespace
 
-QImage photoThumbnail(QFile &file, const Exiv2::Image *exiv, const PhotoInfo &info,
+QImage photoThumbnail(QIODevice &device, const Exiv2::Image *exiv, const PhotoInfo &info,
                       bool pictureIsPhoto)
 {
-    file.seek(0);
-    const bool complete = !pictureIsPhoto || looksComplete(file, QImageReader::imageFormat(&file));
+    device.seek(0);
+    const bool complete
+        = !pictureIsPhoto || looksComplete(device, QImageReader::imageFormat(&device));
     const QImage equal = complete ? embedded(exiv, info, Accept::Equals) : QImage();
     if (!equal.isNull()) {
         return equal;
     }
-    file.seek(0);
-    QImageReader reader(&file);
+    device.seek(0);
+    QImageReader reader(&device);
     if (pictureIsPhoto && decodable(reader)) {
         reader.setAutoTransform(true);
         return scaledPicture(reader);

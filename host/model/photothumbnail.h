@@ -4,7 +4,7 @@
 
 #include <QImage>
 
-class QFile;
+class QIODevice;
 
 namespace Exiv2
 {
@@ -20,16 +20,16 @@ struct PhotoInfo;
 constexpr int kThumbnailSide = 256;
 
 /**
- * The upright thumbnail of the photo in \p file, of which \p info is known: the smallest embedded
+ * The upright thumbnail of the photo in \p device, of which \p info is known: the smallest embedded
  * preview of at least `kThumbnailSide` pixels, the EXIF thumbnail when it is not too small, or the
  * picture itself, scaled while it is decoded. Embedded pictures that are damaged, claim too much
  * or show another picture are passed over. \p exiv is null when exiv2 does not know the file.
  *
- * \p pictureIsPhoto says that an image reader finds the photo itself in \p file; null when it is
+ * \p pictureIsPhoto says that an image reader finds the photo itself in \p device; null when it is
  * unreadable. For other photos, and for those too large to decode, any preview will do; a grey
  * picture stands for those that have none.
  */
-[[nodiscard]] QImage photoThumbnail(QFile &file, const Exiv2::Image *exiv, const PhotoInfo &info,
-                                    bool pictureIsPhoto);
+[[nodiscard]] QImage photoThumbnail(QIODevice &device, const Exiv2::Image *exiv,
+                                    const PhotoInfo &info, bool pictureIsPhoto);
 
 } // namespace PanoHost

@@ -7,6 +7,7 @@
 #include <QMap>
 #include <QSize>
 #include <QString>
+#include <QVector>
 
 /** Photos for tests, with any EXIF data. */
 namespace TestPhotos
@@ -21,6 +22,9 @@ using Exif = QMap<QByteArray, QByteArray>;
 /** A picture whose quarters are red, green (top), blue and yellow (bottom). */
 [[nodiscard]] QImage quarters(const QSize &size);
 
+/** The colours of the quarters as they are seen, R, G, B or Y: both upper ones, both lower ones. */
+[[nodiscard]] QString seenQuarters(const QImage &image);
+
 /** Writes \p picture as a JPEG with \p exif to \p path. Answers the path. */
 QString writeJpeg(const QString &path, const QImage &picture, const Exif &exif);
 
@@ -28,10 +32,20 @@ QString writeJpeg(const QString &path, const QImage &picture, const Exif &exif);
 QString writeOrdinary(const QString &path, const QSize &size = QSize(120, 80));
 
 /**
- * The bytes of a TIFF-based RAW file: its first picture is a reduced one of 160 x 120 pixels, the
- * photo of \p size is in a sub-directory, \p preview is embedded as JPEG.
+ * Gives the JPEG \p path the EXIF thumbnail \p jpeg, of which the EXIF data claim \p size unless it
+ * is empty.
  */
-[[nodiscard]] QByteArray rawFile(const QSize &size, int orientation, const QByteArray &preview);
+void embedThumbnail(const QString &path, const QByteArray &jpeg, const QSize &size = {});
+
+/** Gives the JPEG \p path an XMP property in a namespace of its own. */
+void embedXmp(const QString &path, const QByteArray &space);
+
+/**
+ * The bytes of a TIFF-based RAW file: its first picture is a reduced one of 160 x 120 pixels, the
+ * photo of \p size is in a sub-directory, \p previews, at most four, are embedded JPEGs.
+ */
+[[nodiscard]] QByteArray rawFile(const QSize &size, int orientation,
+                                 const QVector<QByteArray> &previews);
 
 /** \p picture as JPEG bytes. */
 [[nodiscard]] QByteArray jpegBytes(const QImage &picture);

@@ -4,7 +4,6 @@
 #include "tests/host/testphotos.h"
 #include "tests/support/testprogram.h"
 
-#include <QColor>
 #include <QFile>
 #include <QGuiApplication>
 #include <QTemporaryDir>
@@ -21,30 +20,6 @@ namespace
 {
 
 constexpr double kTiny = 1e-9;
-
-QColor nearestMain(QRgb rgb)
-{
-    const auto high = [](int channel) { return channel > 127 ? 255 : 0; };
-    return { high(qRed(rgb)), high(qGreen(rgb)), high(qBlue(rgb)) };
-}
-
-/** The colours of the quarters, R G B Y, as they are seen: top left, top right, bottom left and
- * right. */
-QString seen(const QImage &image)
-{
-    const int w = image.width();
-    const int h = image.height();
-    QString letters;
-    for (const QPoint &point : { QPoint(w / 4, h / 4), QPoint(3 * w / 4, h / 4),
-                                 QPoint(w / 4, 3 * h / 4), QPoint(3 * w / 4, 3 * h / 4) }) {
-        const QColor colour = nearestMain(image.pixel(point));
-        letters += colour == QColor(Qt::red) ? QLatin1Char('R')
-            : colour == QColor(0, 255, 0)    ? QLatin1Char('G')
-            : colour == QColor(Qt::blue)     ? QLatin1Char('B')
-                                             : QLatin1Char('Y');
-    }
-    return letters;
-}
 
 } // namespace
 
@@ -129,7 +104,7 @@ void PhotoFileTest::thumbnailStandsUpright()
     const auto reading = readPhoto(path);
     QVERIFY(reading.ok());
     QCOMPARE(reading.value().info.orientation, orientation);
-    QCOMPARE(seen(reading.value().thumbnail), expected);
+    QCOMPARE(TestPhotos::seenQuarters(reading.value().thumbnail), expected);
     // 256 * 400 / 600 = 170.7
     const QSize expectedSize = orientation >= 5 ? QSize(171, 256) : QSize(256, 171);
     QCOMPARE(reading.value().thumbnail.size(), expectedSize);
@@ -153,7 +128,7 @@ void PhotoFileTest::nonsenseOrientationCountsAsUpright()
     const auto reading = readPhoto(path);
     QVERIFY(reading.ok());
     QCOMPARE(reading.value().info.orientation, 1);
-    QCOMPARE(seen(reading.value().thumbnail), QStringLiteral("RGBY"));
+    QCOMPARE(TestPhotos::seenQuarters(reading.value().thumbnail), QStringLiteral("RGBY"));
 }
 
 void PhotoFileTest::thumbnailFitsIntoItsSquare_data()
@@ -300,6 +275,11 @@ void PhotoFileTest::timeKeepsItsFraction_data()
     QTest::newRow("file time stands in")
         << Exif{ { "Exif.Image.DateTime", stamp } } << "2024-05-01T10:00:00" << ten;
     QTest::newRow("clock never set") << exif("0000:00:00 00:00:00", "00") << "" << qint64(0);
+    QTest::newRow("no such day") << exif("2023:02:29 10:00:00", "0") << "" << qint64(0);
+    QTest::newRow("no such hour") << exif("2024:05:01 24:00:00", "0") << "" << qint64(0);
+    QTest::newRow("no such separators") << exif("2024-05-01 10:00:00", "0") << "" << qint64(0);
+    QTest::newRow("signs for digits") << exif("2024:05:01 +1:-0:00", "0") << "" << qint64(0);
+    QTest::newRow("more behind it") << exif("2024:05:01 10:00:00+02", "0") << "" << qint64(0);
     QTest::newRow("blank") << exif("    :  :     :  :  ", "") << "" << qint64(0);
     // An hour that the clocks of central Europe skip: date -u gives 1711852200.
     QTest::newRow("skipped hour") << exif("2024:03:31 02:30:00", "0") << "2024-03-31T02:30:00.000"
@@ -384,20 +364,20 @@ void PhotoFileTest::pngIsAPhoto()
     QVERIFY(reading.ok());
     QCOMPARE(reading.value().info.storedSize, QSize(600, 400));
     QCOMPARE(reading.value().thumbnail.size(), QSize(256, 171));
-    QCOMPARE(seen(reading.value().thumbnail), QStringLiteral("RGBY"));
+    QCOMPARE(TestPhotos::seenQuarters(reading.value().thumbnail), QStringLiteral("RGBY"));
 }
 
 void PhotoFileTest::rawFileShowsItsPreviewAndTheSizeOfThePhoto()
 {
     const QByteArray preview = TestPhotos::jpegBytes(TestPhotos::quarters({ 480, 320 }));
     const QString path = TestPhotos::writeFile(at(QStringLiteral("photo.dng")),
-                                               TestPhotos::rawFile({ 6000, 4000 }, 6, preview));
+                                               TestPhotos::rawFile({ 6000, 4000 }, 6, { preview }));
     const auto reading = readPhoto(path);
     QVERIFY2(reading.ok(), "not read");
     QCOMPARE(reading.value().info.storedSize, QSize(6000, 4000));
     QCOMPARE(reading.value().info.orientation, 6);
     QCOMPARE(reading.value().thumbnail.size(), QSize(171, 256));
-    QCOMPARE(seen(reading.value().thumbnail), QStringLiteral("BRYG"));
+    QCOMPARE(TestPhotos::seenQuarters(reading.value().thumbnail), QStringLiteral("BRYG"));
 }
 
 void PhotoFileTest::oddNamesAreRead_data()
@@ -443,6 +423,7 @@ void PhotoFileTest::manyThreadsReadAtOnce()
         exif["Exif.Photo.FocalLengthIn35mmFilm"] = QByteArray::number(20 + i);
         paths.append(TestPhotos::writeJpeg(at(QStringLiteral("thread%1.jpg").arg(i)),
                                            TestPhotos::quarters({ 300, 200 }), exif));
+        TestPhotos::embedXmp(paths.last(), "camera" + QByteArray::number(i));
     }
     const auto readAll = [&paths] {
         int right = 0;

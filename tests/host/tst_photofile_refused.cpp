@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/model/lostpageguard.h"
 #include "host/model/photofile.h"
 #include "tests/host/testphotos.h"
 #include "tests/support/testprogram.h"
@@ -12,7 +13,9 @@
 #include <QtEndian>
 #include <QtTest>
 
+#include <atomic>
 #include <cmath>
+#include <future>
 #include <random>
 
 #include <sys/stat.h>
@@ -87,6 +90,23 @@ QByteArray jpegClaiming(quint16 width, quint16 height, bool progressive)
     return bytes;
 }
 
+/** A RAW file whose previews claim to be all that follows in a file of \p fileBytes. */
+QByteArray rawClaiming(qint64 fileBytes)
+{
+    const QByteArray preview = TestPhotos::jpegBytes(TestPhotos::quarters({ 480, 320 }));
+    QByteArray raw = TestPhotos::rawFile({ 6000, 4000 }, 1, { preview, preview });
+    const QByteArray lengthTag("\x02\x02\x04\x00\x01\x00\x00\x00", 8);
+    int claims = 0;
+    for (int at = raw.indexOf(lengthTag); at >= 0; at = raw.indexOf(lengthTag, at + 1)) {
+        qToLittleEndian(quint32(fileBytes - raw.size()), raw.data() + at + lengthTag.size());
+        ++claims;
+    }
+    if (claims != 2) {
+        qFatal("%d claims", claims);
+    }
+    return raw;
+}
+
 } // namespace
 
 /** Files that are no photos, are damaged or claim too much. */
@@ -106,6 +126,8 @@ private Q_SLOTS:
     void hugeClaimsTakeNoMemory_data();
     void hugeClaimsTakeNoMemory();
     void damagedPhotosAreReadOrRefused();
+    void mappedFilesMayBeCutOff();
+    void photosMayBeCutOffWhileTheyAreRead();
 
 private:
     [[nodiscard]] QString at(const QString &name) const { return m_folder.filePath(name); }
@@ -121,6 +143,10 @@ void PhotoFileRefusedTest::whatIsNoPhotoIsRefused_data()
     QTest::newRow("a record") << QByteArray("<?xml version='1.0'?><papywizard/>");
     QTest::newRow("cut after two bytes") << jpeg.left(2);
     QTest::newRow("cut in the header") << jpeg.left(100);
+    QTest::newRow("cut before the picture") << jpeg.left(jpeg.indexOf("\xFF\xDA"));
+    // The header of the scan of three components takes 14 bytes with its mark.
+    QTest::newRow("cut where the picture begins") << jpeg.left(jpeg.indexOf("\xFF\xDA") + 14);
+    QTest::newRow("garbage without end") << jpeg.left(20) + QByteArray(3'000'000, 0) + jpeg.mid(20);
     QTest::newRow("a drawing") << QByteArray(
         "<svg xmlns='http://www.w3.org/2000/svg' width='60' height='40'><rect/></svg>");
     QTest::newRow("zeros") << QByteArray(100000, 0);
@@ -166,17 +192,29 @@ void PhotoFileRefusedTest::pipesAndDevicesAreNeverRead()
 void PhotoFileRefusedTest::hugeClaimsTakeNoMemory_data()
 {
     QTest::addColumn<QByteArray>("content");
-    QTest::newRow("PNG of 3.6 gigapixels") << pngHeader(60000, 60000);
-    QTest::newRow("progressive JPEG of 4.3 gigapixels") << jpegClaiming(65500, 65500, true);
-    QTest::newRow("JPEG of 4.3 gigapixels in a scan per component")
-        << withOneComponentScans(jpegClaiming(65500, 65500, false));
-    QTest::newRow("JPEG of 4.3 gigapixels") << jpegClaiming(65500, 65500, false);
+    QTest::addColumn<qint64>("fileBytes"); // the rest are zeros
+    const auto row = [](const char *name, const QByteArray &content, qint64 fileBytes = 0) {
+        QTest::newRow(name) << content << std::max<qint64>(fileBytes, content.size());
+    };
+    row("PNG of 3.6 gigapixels", pngHeader(60000, 60000));
+    row("progressive JPEG of 4.3 gigapixels", jpegClaiming(65500, 65500, true));
+    row("JPEG of 4.3 gigapixels in a scan per component",
+        withOneComponentScans(jpegClaiming(65500, 65500, false)));
+    row("JPEG of 4.3 gigapixels", jpegClaiming(65500, 65500, false));
+    for (const qint64 bytes : { 300'000'000LL, 3'000'000'000LL }) {
+        row(qPrintable(QStringLiteral("previews of %1 bytes").arg(bytes)), rawClaiming(bytes),
+            bytes);
+    }
+    row("JPEG of 3 gigabytes without a picture", jpegClaiming(64, 64, false).left(20),
+        3'000'000'000);
 }
 
 void PhotoFileRefusedTest::hugeClaimsTakeNoMemory()
 {
     QFETCH(QByteArray, content);
+    QFETCH(qint64, fileBytes);
     const QString path = TestPhotos::writeFile(at(QStringLiteral("huge.jpg")), content);
+    QVERIFY(QFile::resize(path, fileBytes));
     const qint64 before = peakMemory();
     const auto reading = readPhoto(path);
     const qint64 taken = peakMemory() - before;
@@ -195,7 +233,7 @@ void PhotoFileRefusedTest::damagedPhotosAreReadOrRefused()
                                      TestPhotos::quarters({ 60, 40 }), exif));
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QByteArray jpeg = file.readAll();
-    const QByteArray raw = TestPhotos::rawFile({ 6000, 4000 }, 6, jpeg);
+    const QByteArray raw = TestPhotos::rawFile({ 6000, 4000 }, 6, { jpeg });
     std::mt19937 random(11);
     int readable = 0;
     constexpr int kRounds = 400;
@@ -222,6 +260,57 @@ void PhotoFileRefusedTest::damagedPhotosAreReadOrRefused()
     }
     QVERIFY(readable > kRounds / 10);
     QVERIFY(readable < kRounds);
+}
+
+void PhotoFileRefusedTest::mappedFilesMayBeCutOff()
+{
+    constexpr qint64 kBytes = 1'000'000;
+    const QString path
+        = TestPhotos::writeFile(at(QStringLiteral("cut")), QByteArray(int(kBytes), '\x55'));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const LostPageGuard guard;
+    const uchar *const mapped = file.map(0, kBytes);
+    QVERIFY(mapped != nullptr);
+    QCOMPARE(int(mapped[kBytes - 1]), 0x55);
+    QVERIFY(!guard.lostAny());
+    QVERIFY(QFile::resize(path, 0));
+    QCOMPARE(int(mapped[0]), 0);
+    QCOMPARE(int(mapped[kBytes - 1]), 0);
+    QVERIFY(guard.lostAny());
+    const LostPageGuard next;
+    QVERIFY(!next.lostAny());
+}
+
+void PhotoFileRefusedTest::photosMayBeCutOffWhileTheyAreRead()
+{
+    QByteArray tiff;
+    QBuffer buffer(&tiff);
+    buffer.open(QIODevice::WriteOnly);
+    TestPhotos::quarters({ 1200, 800 }).save(&buffer, "TIFF");
+    const QString path = TestPhotos::writeFile(at(QStringLiteral("photo.tif")), tiff);
+    std::atomic<bool> done{ false };
+    const auto cutter = std::async(std::launch::async, [&] {
+        for (int i = 0; !done; ++i) {
+            if (i % 2 == 0) {
+                QFile::resize(path, 0);
+            } else {
+                TestPhotos::writeFile(path, tiff);
+            }
+        }
+    });
+    constexpr int kRounds = 200;
+    int refused = 0;
+    for (int i = 0; i < kRounds; ++i) {
+        const auto reading = readPhoto(path);
+        refused += reading.ok() ? 0 : 1;
+        if (reading.ok()) {
+            QCOMPARE(reading.value().info.storedSize, QSize(1200, 800));
+        }
+    }
+    done = true;
+    cutter.wait();
+    QVERIFY(refused > 0);
 }
 
 TEST_CLASS(PhotoFileRefusedTest, QGuiApplication)
