@@ -107,7 +107,8 @@ bool decodable(const QImageReader &reader)
 
 bool hasPictureData(QIODevice &device, const QByteArray &format)
 {
-    return format != "jpeg" || readJpegHeader(device).dataAt >= 0;
+    // Decoders make a grey picture of half a JPEG, and nothing of half a PNG.
+    return format == "jpeg" ? readJpegHeader(device).dataAt >= 0 : looksComplete(device, format);
 }
 
 bool looksComplete(QIODevice &device, const QByteArray &format)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include <QDateTime>
 #include <QFile>
 
 #include <memory>
@@ -19,6 +20,10 @@ public:
     explicit PhotoDevice(std::unique_ptr<QFile> file);
 
     [[nodiscard]] qint64 size() const override { return m_size; }
+    [[nodiscard]] QDateTime modified() const
+    {
+        return m_file->fileTime(QFileDevice::FileModificationTime);
+    }
     bool seek(qint64 position) override;
 
     /** The bytes of the file, null when the system refuses; to be read under a `LostPageGuard`. */

@@ -249,6 +249,25 @@ bool isRaw(const Exiv2::Image &image)
     return type.startsWith("image/x-") && type != "image/x-ms-bmp" && type != "image/x-exv";
 }
 
+bool isPictureWithin(const Exiv2::Image &image, qint64 bytes)
+{
+    const Exiv2::ExifData &exif = image.exifData();
+    const auto entry = [&exif](const char *key) { return exif.findKey(Exiv2::ExifKey(key)); };
+    for (const auto &[offsets, counts] :
+         { std::pair{ entry("Exif.Image.StripOffsets"), entry("Exif.Image.StripByteCounts") },
+           std::pair{ entry("Exif.Image.TileOffsets"), entry("Exif.Image.TileByteCounts") } }) {
+        if (offsets == exif.end() || counts == exif.end()) {
+            continue;
+        }
+        for (long i = 0; i < std::min(offsets->count(), counts->count()); ++i) {
+            if (qint64{ offsets->toLong(i) } + counts->toLong(i) > bytes) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
 double exposureValue(double fNumber, double seconds, double iso)
 {
     return std::log2(fNumber * fNumber / seconds) - std::log2(iso / 100.0);

@@ -42,6 +42,9 @@ struct PhotoInfo {
 /** Whether \p image is for RAW converters, of which decoders find a preview at best. */
 [[nodiscard]] bool isRaw(const Exiv2::Image &image);
 
+/** Whether the strips or tiles that \p image, a TIFF, names lie within the file's \p bytes. */
+[[nodiscard]] bool isPictureWithin(const Exiv2::Image &image, qint64 bytes);
+
 /** log2(N^2 / t) - log2(ISO / 100), with \p seconds > 0, \p fNumber > 0 and \p iso > 0. */
 [[nodiscard]] double exposureValue(double fNumber, double seconds, double iso);
 

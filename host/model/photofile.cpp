@@ -60,6 +60,9 @@ Result<OpenPhoto> openPhoto(const QString &path)
         if (photo.pictureIsPhoto) {
             photo.info.storedSize = decoded;
         }
+        if (photo.exiv && format == "tiff" && !isPictureWithin(*photo.exiv, device.size())) {
+            return unreadable(path);
+        }
     }
     if (photo.info.storedSize.isEmpty()) {
         return unreadable(path);
@@ -91,8 +94,8 @@ Result<PhotoReading> readPhoto(const QString &path, const DesktopThumbnails *sha
     }
     const OpenPhoto &opened = photo.value();
     // Of the file that is open, whatever the path names by now.
-    const QDateTime modified = opened.file->fileTime(QFileDevice::FileModificationTime);
-    const qint64 bytes = opened.file->size();
+    const QDateTime modified = opened.device->modified();
+    const qint64 bytes = opened.device->size();
     if (const auto kept = shared == nullptr ? std::nullopt : shared->find(path, modified, bytes)) {
         return PhotoReading{ opened.info, *kept };
     }

@@ -190,5 +190,5 @@ QByteArray CameraPhotos::jpeg(int number, Inside inside) const
 
 QByteArray CameraPhotos::raw(int number) const
 {
-    return TestPhotos::rawFile(kSize, 1, picture(number).preview);
+    return TestPhotos::rawFile(kSize, 1, { picture(number).preview });
 }

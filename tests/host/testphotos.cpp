@@ -195,10 +195,15 @@ QByteArray rawFile(const QSize &size, int orientation, const QVector<QByteArray>
 
 QByteArray jpegBytes(const QImage &picture)
 {
+    return bytesOf(picture, "JPG", 95);
+}
+
+QByteArray bytesOf(const QImage &picture, const char *format, int quality)
+{
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
-    picture.save(&buffer, "JPG", 95);
+    picture.save(&buffer, format, quality);
     return bytes;
 }
 

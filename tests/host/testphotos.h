@@ -49,6 +49,8 @@ void embedXmp(const QString &path, const QByteArray &space);
 
 /** \p picture as JPEG bytes. */
 [[nodiscard]] QByteArray jpegBytes(const QImage &picture);
+/** \p picture as a file of \p format, "png" for instance. */
+[[nodiscard]] QByteArray bytesOf(const QImage &picture, const char *format, int quality = -1);
 
 /** Writes \p content to \p path. Answers the path. */
 QString writeFile(const QString &path, const QByteArray &content);

@@ -90,6 +90,30 @@ QByteArray jpegClaiming(quint16 width, quint16 height, bool progressive)
     return bytes;
 }
 
+/** A grey TIFF of one strip, with its directory in front, as cameras write it. */
+QByteArray greyTiff(quint32 width, quint32 height)
+{
+    constexpr quint32 kEntries = 8;
+    constexpr quint32 kDataAt = 8 + 2 + kEntries * 12 + 4;
+    QByteArray bytes("II*\0\x08\0\0\0\x08\0", 10);
+    const auto entry = [&bytes](quint16 tag, quint32 value) {
+        constexpr quint16 kLong = 4;
+        for (const quint32 number : { tag | quint32(kLong) << 16, 1U, value }) {
+            const quint32 little = qToLittleEndian(number);
+            bytes.append(reinterpret_cast<const char *>(&little), 4);
+        }
+    };
+    entry(256, width);
+    entry(257, height);
+    entry(258, 8); // bits
+    entry(259, 1); // not compressed
+    entry(262, 1); // black is 0
+    entry(273, kDataAt);
+    entry(278, height); // rows in the strip
+    entry(279, width * height);
+    return bytes + QByteArray(4, 0) + QByteArray(int(width * height), '\x80');
+}
+
 /** A RAW file whose previews claim to be all that follows in a file of \p fileBytes. */
 QByteArray rawClaiming(qint64 fileBytes)
 {
@@ -121,6 +145,7 @@ public:
 private Q_SLOTS:
     void whatIsNoPhotoIsRefused_data();
     void whatIsNoPhotoIsRefused();
+    void wholeTiffIsRead();
     void pipesAndDevicesAreNeverRead_data();
     void pipesAndDevicesAreNeverRead();
     void hugeClaimsTakeNoMemory_data();
@@ -150,6 +175,11 @@ void PhotoFileRefusedTest::whatIsNoPhotoIsRefused_data()
     QTest::newRow("a drawing") << QByteArray(
         "<svg xmlns='http://www.w3.org/2000/svg' width='60' height='40'><rect/></svg>");
     QTest::newRow("zeros") << QByteArray(100000, 0);
+    const QByteArray png = TestPhotos::bytesOf(TestPhotos::quarters({ 600, 400 }), "png");
+    QTest::newRow("half a PNG") << png.left(png.size() / 2);
+    QTest::newRow("most of a PNG") << png.left(png.size() - 100);
+    QTest::newRow("half a TIFF") << greyTiff(600, 400).left(120'000);
+    QTest::newRow("most of a TIFF") << greyTiff(600, 400).chopped(1);
 }
 
 void PhotoFileRefusedTest::whatIsNoPhotoIsRefused()
@@ -162,6 +192,13 @@ void PhotoFileRefusedTest::whatIsNoPhotoIsRefused()
     QCOMPARE(reading.error().why, QStringLiteral("cannot read (not a photo?)"));
     QCOMPARE(reading.error().code, ExitCode::InputRefused);
     QVERIFY(!readPhotoInfo(path).ok());
+}
+
+void PhotoFileRefusedTest::wholeTiffIsRead()
+{
+    const QString path = TestPhotos::writeFile(at(QStringLiteral("grey.tif")), greyTiff(600, 400));
+    QVERIFY(readPhoto(path).ok());
+    QCOMPARE(readPhotoInfo(path).value().storedSize, QSize(600, 400));
 }
 
 void PhotoFileRefusedTest::pipesAndDevicesAreNeverRead_data()
