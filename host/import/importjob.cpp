@@ -93,8 +93,8 @@ void ImportJob::preparePage()
 
 const ImportPlugin &ImportJob::openPlugin()
 {
-    // Where dialogs begin: they would list the user's last folder.
-    m_app.SetLastPath(QDir::tempPath());
+    // Dialogs list the folder where they begin: few files lie there, in the last one thousands may.
+    m_app.SetLastPath(QDir::rootPath());
     m_library = valueOrThrow(PluginLibrary::open(m_request.pluginPath));
     m_watch.note(JobWatch::Note::Detail, QStringLiteral("using %1").arg(m_library->path()));
     const QString head = m_request.head->name();

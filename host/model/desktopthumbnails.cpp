@@ -83,9 +83,11 @@ QImage withoutTexts(const QImage &picture)
 {
     const QImage pixels = picture.convertToFormat(picture.hasAlphaChannel() ? QImage::Format_ARGB32
                                                                             : QImage::Format_RGB32);
-    return QImage(pixels.constBits(), pixels.width(), pixels.height(), pixels.bytesPerLine(),
-                  pixels.format())
-        .copy();
+    // Around the same bytes, which live as long as this copy of the handle to them.
+    return { pixels.constBits(), pixels.width(),
+             pixels.height(),    pixels.bytesPerLine(),
+             pixels.format(),    [](void *kept) { delete static_cast<QImage *>(kept); },
+             new QImage(pixels) };
 }
 
 QByteArray bigEndianBytes(quint32 number)

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/model/photodevice.h"
 
+#include <sys/stat.h>
+
 namespace PanoHost
 {
 
@@ -15,6 +17,15 @@ PhotoDevice::PhotoDevice(std::unique_ptr<QFile> file)
 bool PhotoDevice::seek(qint64 position)
 {
     return QIODevice::seek(position) && m_file->seek(position);
+}
+
+QDateTime PhotoDevice::modified() const
+{
+    // In UTC: the C library looks the time zone up anew for each local time.
+    struct stat status = {};
+    return ::fstat(m_file->handle(), &status) == 0
+        ? QDateTime::fromSecsSinceEpoch(status.st_mtim.tv_sec, Qt::UTC)
+        : QDateTime();
 }
 
 uchar *PhotoDevice::map()

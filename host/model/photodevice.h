@@ -20,10 +20,7 @@ public:
     explicit PhotoDevice(std::unique_ptr<QFile> file);
 
     [[nodiscard]] qint64 size() const override { return m_size; }
-    [[nodiscard]] QDateTime modified() const
-    {
-        return m_file->fileTime(QFileDevice::FileModificationTime);
-    }
+    [[nodiscard]] QDateTime modified() const;
     bool seek(qint64 position) override;
 
     /** The bytes of the file, null when the system refuses; to be read under a `LostPageGuard`. */

@@ -10,13 +10,13 @@ namespace PanoHost
 PhotoData::PhotoData(ThumbnailStore &store, const PhotoReading &reading)
     : m_store(store)
     , m_info(reading.info)
-    , m_encoded(store.encode(reading.thumbnail))
+    , m_kept(store.keep(reading.thumbnail))
 {
 }
 
 PhotoData::~PhotoData()
 {
-    m_store.release(m_encoded);
+    m_store.release(m_kept);
 }
 
 HostImage::HostImage(ThumbnailStore &store, std::shared_ptr<const PhotoData> data)

@@ -26,13 +26,13 @@ public:
     PhotoData &operator=(const PhotoData &) = delete;
 
     [[nodiscard]] const PhotoInfo &info() const { return m_info; }
-    /** The compressed thumbnail; empty when there was no memory for it. */
-    [[nodiscard]] const QByteArray &encodedThumbnail() const { return m_encoded; }
+    /** Null when there was no memory for it, or no picture was asked for. */
+    [[nodiscard]] const KeptThumbnail &keptThumbnail() const { return m_kept; }
 
 private:
     ThumbnailStore &m_store;
     PhotoInfo m_info;
-    QByteArray m_encoded;
+    KeptThumbnail m_kept;
 };
 
 /**
@@ -67,7 +67,7 @@ public:
     float Exposure() override;
 
     [[nodiscard]] const PhotoInfo &info() const { return m_data->info(); }
-    [[nodiscard]] const QByteArray &encodedThumbnail() const { return m_data->encodedThumbnail(); }
+    [[nodiscard]] const KeptThumbnail &keptThumbnail() const { return m_data->keptThumbnail(); }
 
 private:
     friend class ThumbnailStore;

@@ -2,18 +2,23 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/plugin/photoreader.h"
 
-#include <QDateTime>
-#include <QFileInfo>
+#include <QFile>
 #include <QMutexLocker>
 #include <QScopeGuard>
+
+#include <sys/stat.h>
 
 namespace PanoHost
 {
 
 PhotoReader::Stamp PhotoReader::Stamp::of(const QString &path)
 {
-    const QFileInfo file(path);
-    return file.exists() ? Stamp{ file.lastModified().toMSecsSinceEpoch(), file.size() } : Stamp();
+    struct stat status = {};
+    if (::stat(QFile::encodeName(path).constData(), &status) != 0) {
+        return {};
+    }
+    const timespec &modified = status.st_mtim;
+    return { modified.tv_sec * 1'000'000'000LL + modified.tv_nsec, status.st_size };
 }
 
 PhotoReader::PhotoReader(ThumbnailStore &store)

@@ -54,13 +54,13 @@ public:
 private:
     /** Tells one state of a file from the next. */
     struct Stamp {
-        qint64 modifiedMs = -1; ///< -1: no such file
+        qint64 modifiedNs = -1; ///< -1: no such file
         qint64 bytes = -1;
 
         [[nodiscard]] static Stamp of(const QString &path);
         bool operator==(const Stamp &other) const
         {
-            return modifiedMs == other.modifiedMs && bytes == other.bytes;
+            return modifiedNs == other.modifiedNs && bytes == other.bytes;
         }
     };
     struct Entry {

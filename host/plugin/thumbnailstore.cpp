@@ -28,12 +28,27 @@ QImage small(const QImage &image)
     return image.scaled(kSmallSide, kSmallSide, Qt::KeepAspectRatio, Qt::SmoothTransformation);
 }
 
+/** Adds \p bytes to \p sum unless that would go beyond \p most. */
+bool reserve(std::atomic<qint64> &sum, qint64 bytes, qint64 most)
+{
+    const bool fits = sum.fetch_add(bytes) + bytes <= most;
+    if (!fits) {
+        sum -= bytes;
+    }
+    return fits;
+}
+
 qint64 bytesOf(const QPixmap &pixmap)
 {
     return qint64(pixmap.width()) * pixmap.height() * pixmap.depth() / 8;
 }
 
 } // namespace
+
+QImage KeptThumbnail::picture() const
+{
+    return plain.isNull() ? QImage::fromData(encoded, "JPG") : plain;
+}
 
 ThumbnailStore::ThumbnailStore(ThumbnailLimits limits, QObject *parent)
     : QObject(parent)
@@ -43,24 +58,26 @@ ThumbnailStore::ThumbnailStore(ThumbnailLimits limits, QObject *parent)
 
 ThumbnailStore::~ThumbnailStore() = default;
 
-QByteArray ThumbnailStore::encode(const QImage &thumbnail)
+KeptThumbnail ThumbnailStore::keep(const QImage &thumbnail)
 {
     if (thumbnail.isNull()) {
         return {};
     }
-    const bool plenty = m_encodedBytes < m_limits.encoded / 2;
-    QByteArray bytes = plenty ? compressed(thumbnail, 85) : compressed(small(thumbnail), 70);
-    bytes.squeeze();
-    if (m_encodedBytes.fetch_add(bytes.size()) + bytes.size() > m_limits.encoded) {
-        m_encodedBytes -= bytes.size();
-        return {};
+    const QImage plain = thumbnail.convertToFormat(QImage::Format_RGB32);
+    if (reserve(m_plainBytes, plain.sizeInBytes(), m_limits.plain)) {
+        return { plain, {} };
     }
-    return bytes;
+    const bool plenty = m_encodedBytes < m_limits.encoded / 2;
+    QByteArray bytes = plenty ? compressed(plain, 85) : compressed(small(plain), 70);
+    bytes.squeeze();
+    return reserve(m_encodedBytes, bytes.size(), m_limits.encoded) ? KeptThumbnail{ {}, bytes }
+                                                                   : KeptThumbnail();
 }
 
-void ThumbnailStore::release(const QByteArray &encoded)
+void ThumbnailStore::release(const KeptThumbnail &kept)
 {
-    m_encodedBytes -= encoded.size();
+    m_plainBytes -= kept.plain.sizeInBytes();
+    m_encodedBytes -= kept.encoded.size();
 }
 
 QPixmap *ThumbnailStore::pixmap(HostImage &image)
@@ -69,14 +86,14 @@ QPixmap *ThumbnailStore::pixmap(HostImage &image)
         m_recent.splice(m_recent.end(), m_recent, image.m_recentEntry);
         return image.m_pixmap.get();
     }
-    if (image.encodedThumbnail().isEmpty() || m_pixmapBytes >= m_limits.most) {
+    if (image.keptThumbnail().isNull() || m_pixmapBytes >= m_limits.most) {
         return nullptr;
     }
-    QImage decoded = QImage::fromData(image.encodedThumbnail(), "JPG");
+    QImage picture = image.keptThumbnail().picture();
     if (m_pixmapBytes >= m_limits.full) {
-        decoded = small(decoded);
+        picture = small(picture);
     }
-    image.m_pixmap = std::make_unique<QPixmap>(QPixmap::fromImage(std::move(decoded)));
+    image.m_pixmap = std::make_unique<QPixmap>(QPixmap::fromImage(std::move(picture)));
     image.m_recentEntry = m_recent.insert(m_recent.end(), &image);
     m_pixmapBytes += bytesOf(*image.m_pixmap);
     if (m_pixmapBytes > m_limits.kept && !m_trimPending) {

@@ -18,18 +18,29 @@ class HostImage;
 
 /** How much memory the thumbnails of all photos together may take, bytes. */
 struct ThumbnailLimits {
-    qint64 encoded = 256LL * 1024 * 1024; ///< compressed thumbnails, kept for every photo
+    qint64 plain = 64LL * 1024 * 1024; ///< thumbnails as they are, of the first photos
+    qint64 encoded = 256LL * 1024 * 1024; ///< compressed thumbnails, kept for all others
     qint64 kept = 96LL * 1024 * 1024; ///< pixmaps that stay from one event-loop turn to the next
     qint64 full = 160LL * 1024 * 1024; ///< from here on new pixmaps are made small
     qint64 most = 288LL * 1024 * 1024; ///< from here on there are no new pixmaps
 };
 
+/** A thumbnail as the store keeps it: in one form or the other, or not at all. */
+struct KeptThumbnail {
+    QImage plain;
+    QByteArray encoded;
+
+    [[nodiscard]] bool isNull() const { return plain.isNull() && encoded.isEmpty(); }
+    [[nodiscard]] QImage picture() const;
+};
+
 /**
  * Keeps all thumbnails together within `ThumbnailLimits`.
  *
- * Encoded bytes are kept for every photo; pixmaps are made when they are asked for and the least
- * recently used ones are dropped, but only between event-loop turns: a pointer answered by
- * `HostImage::Thumbnail` stays good until the caller returns to the event loop.
+ * Each photo's thumbnail is kept, compressed unless there is plenty of room; pixmaps are made when
+ * they are asked for and the least recently used ones are dropped, but only between event-loop
+ * turns: a pointer answered by `HostImage::Thumbnail` stays good until the caller returns to the
+ * event loop.
  */
 class ThumbnailStore : public QObject
 {
@@ -39,19 +50,19 @@ public:
     ~ThumbnailStore() override;
 
     /**
-     * Compresses \p thumbnail, the smaller the less room is left; empty when there is none at
-     * all. Any thread. The bytes count until `release`.
+     * Keeps \p thumbnail, the smaller the less room is left; null when there is none at all. Any
+     * thread. The bytes count until `release`.
      */
-    [[nodiscard]] QByteArray encode(const QImage &thumbnail);
-    /** \p encoded, as answered by `encode`, is no longer kept. Any thread. */
-    void release(const QByteArray &encoded);
+    [[nodiscard]] KeptThumbnail keep(const QImage &thumbnail);
+    /** \p kept, as answered by `keep`, is no longer needed. Any thread. */
+    void release(const KeptThumbnail &kept);
 
     /** The pixmap of \p image, made if need be; null when memory is short. GUI thread. */
     [[nodiscard]] QPixmap *pixmap(HostImage &image);
     /** \p image goes away. GUI thread. */
     void forget(HostImage &image);
 
-    [[nodiscard]] qint64 encodedBytes() const { return m_encodedBytes; }
+    [[nodiscard]] qint64 keptBytes() const { return m_plainBytes + m_encodedBytes; }
     [[nodiscard]] qint64 pixmapBytes() const { return m_pixmapBytes; }
 
 private:
@@ -59,6 +70,7 @@ private:
     void drop(HostImage &image);
 
     const ThumbnailLimits m_limits;
+    std::atomic<qint64> m_plainBytes{ 0 };
     std::atomic<qint64> m_encodedBytes{ 0 };
     qint64 m_pixmapBytes = 0;
     std::list<HostImage *> m_recent; ///< those with a pixmap, least recently used first

@@ -59,6 +59,7 @@ private Q_SLOTS:
     void thereIsNoThumbnailBeyondTheLastBound();
     void deletedImageGivesItsMemoryBack();
     void encodedBytesStayWithinTheirBound();
+    void thumbnailsAreKeptAsTheyAreWhileThereIsRoom();
     void defaultBoundsAddUpToAGigabyte();
 };
 
@@ -198,22 +199,38 @@ void HostImageTest::deletedImageGivesItsMemoryBack()
     {
         HostImage image(store, photo(store));
         QVERIFY(image.Thumbnail());
-        QVERIFY(store.encodedBytes() > 0);
+        QVERIFY(store.keptBytes() > 0);
     }
     QCOMPARE(store.pixmapBytes(), qint64(0));
-    QCOMPARE(store.encodedBytes(), qint64(0));
+    QCOMPARE(store.keptBytes(), qint64(0));
     turnEventLoop();
+}
+
+void HostImageTest::thumbnailsAreKeptAsTheyAreWhileThereIsRoom()
+{
+    ThumbnailLimits limits;
+    limits.plain = 2 * kFullBytes;
+    ThumbnailStore store(limits);
+    auto images = photos(store, 3);
+    QVERIFY(images[0]->keptThumbnail().encoded.isEmpty());
+    QVERIFY(images[1]->keptThumbnail().encoded.isEmpty());
+    QVERIFY(images[2]->keptThumbnail().plain.isNull());
+    QVERIFY(!images[2]->keptThumbnail().encoded.isEmpty());
+    images.erase(images.begin());
+    QVERIFY(!photo(store)->keptThumbnail().plain.isNull());
 }
 
 void HostImageTest::encodedBytesStayWithinTheirBound()
 {
     ThumbnailLimits limits;
+    limits.plain = 0;
     limits.encoded = 40000;
     ThumbnailStore store(limits);
     const auto images = photos(store, 100);
-    QVERIFY(store.encodedBytes() <= limits.encoded);
-    QVERIFY(images.front()->encodedThumbnail().size() > images.back()->encodedThumbnail().size());
-    QVERIFY(images.back()->encodedThumbnail().isEmpty());
+    QVERIFY(store.keptBytes() <= limits.encoded);
+    QVERIFY(images.front()->keptThumbnail().encoded.size()
+            > images.back()->keptThumbnail().encoded.size());
+    QVERIFY(images.back()->keptThumbnail().isNull());
     QVERIFY(!images.back()->Thumbnail());
     QCOMPARE(images.front()->Thumbnail()->width(), 200);
 }
@@ -221,7 +238,7 @@ void HostImageTest::encodedBytesStayWithinTheirBound()
 void HostImageTest::defaultBoundsAddUpToAGigabyte()
 {
     const ThumbnailLimits limits;
-    QVERIFY(limits.encoded + limits.most <= 1024LL * 1024 * 1024);
+    QVERIFY(limits.plain + limits.encoded + limits.most <= 1024LL * 1024 * 1024);
     QVERIFY(limits.kept <= limits.full);
     QVERIFY(limits.full <= limits.most);
 }

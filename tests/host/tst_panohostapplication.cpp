@@ -177,10 +177,10 @@ void PanoHostApplicationTest::samePhotoTwiceIsTwoImagesReadOnce()
 {
     const QString path = TestPhotos::writeOrdinary(at(QStringLiteral("twice.jpg")));
     const XIImageDef *const first = app().CreateImageDef(path);
-    const qint64 bytes = app().thumbnails().encodedBytes();
+    const qint64 bytes = app().thumbnails().keptBytes();
     const XIImageDef *const second = app().CreateImageDef(path);
     QVERIFY(first && second && first != second);
-    QCOMPARE(app().thumbnails().encodedBytes(), bytes);
+    QCOMPARE(app().thumbnails().keptBytes(), bytes);
 }
 
 void PanoHostApplicationTest::changedPhotoIsReadAgain()
@@ -292,9 +292,9 @@ void PanoHostApplicationTest::imagesGoWithTheLibrary()
 {
     const QString path = TestPhotos::writeOrdinary(at(QStringLiteral("last.jpg")));
     QVERIFY(app().CreateImageDef(path)->Thumbnail());
-    QVERIFY(app().thumbnails().encodedBytes() > 0);
+    QVERIFY(app().thumbnails().keptBytes() > 0);
     app().releaseLibraryHold();
-    QCOMPARE(app().thumbnails().encodedBytes(), qint64(0));
+    QCOMPARE(app().thumbnails().keptBytes(), qint64(0));
     QCOMPARE(app().thumbnails().pixmapBytes(), qint64(0));
 }
 

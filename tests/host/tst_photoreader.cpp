@@ -60,12 +60,12 @@ void TestPhotoReader::photosAreReadBeforeAnybodyAsks()
     PhotoReader reader(store);
     const QString first = photos(1).first();
     QVERIFY(reader.read(first).ok());
-    const qint64 one = store.encodedBytes();
+    const qint64 one = store.keptBytes();
     QVERIFY(one > 0);
     // All show the same, so that each takes as much.
     reader.forget();
     reader.readAhead(photos(12));
-    QTRY_COMPARE(store.encodedBytes(), 12 * one);
+    QTRY_COMPARE(store.keptBytes(), 12 * one);
 }
 
 void TestPhotoReader::allThatAskAtOnceGetTheSame()
@@ -138,10 +138,10 @@ void TestPhotoReader::factsTakeNoMemoryForPictures()
     const PhotoReader::Answer answer = reader.read(path);
     QCOMPARE(answer.value()->info().storedSize, QSize(120, 80));
     QCOMPARE(answer.value()->info().focal35mm, 24.0);
-    QVERIFY(answer.value()->encodedThumbnail().isEmpty());
-    QCOMPARE(store.encodedBytes(), qint64{ 0 });
+    QVERIFY(answer.value()->keptThumbnail().isNull());
+    QCOMPARE(store.keptBytes(), qint64{ 0 });
     reader.setReadsPictures(true);
-    QVERIFY(!reader.read(path).value()->encodedThumbnail().isEmpty());
+    QVERIFY(!reader.read(path).value()->keptThumbnail().isNull());
 }
 
 void TestPhotoReader::forgettingGivesTheMemoryBack()
@@ -153,9 +153,9 @@ void TestPhotoReader::forgettingGivesTheMemoryBack()
     for (const QString &path : paths) {
         QVERIFY(reader.read(path).ok());
     }
-    QVERIFY(store.encodedBytes() > 0);
+    QVERIFY(store.keptBytes() > 0);
     reader.forget();
-    QCOMPARE(store.encodedBytes(), qint64{ 0 });
+    QCOMPARE(store.keptBytes(), qint64{ 0 });
 }
 
 void TestPhotoReader::laterListTakesThePlaceOfAnEarlierOne()
@@ -211,10 +211,10 @@ void TestPhotoReader::decodedPicturesAreSharedWithTheDesktop()
     shared->keep(path, file.lastModified(), file.size(), other);
     PhotoReader later(store);
     later.shareThumbnails(shared);
-    const QImage shown = QImage::fromData(later.read(path).value()->encodedThumbnail());
+    const QImage shown = later.read(path).value()->keptThumbnail().picture();
     QVERIFY(qRed(shown.pixel(10, 10)) > 200 && qGreen(shown.pixel(10, 10)) < 50);
     TestPhotos::writeOrdinary(path, QSize(500, 400));
-    const QImage anew = QImage::fromData(later.read(path).value()->encodedThumbnail());
+    const QImage anew = later.read(path).value()->keptThumbnail().picture();
     QCOMPARE(anew.size(), QSize(256, 205));
 }
 
