@@ -4,6 +4,7 @@
 
 #include <QIODevice>
 #include <QImageReader>
+#include <QSemaphore>
 
 #include <algorithm>
 
@@ -14,7 +15,8 @@ namespace
 {
 
 /** Formats that cannot be scaled while they are decoded are decoded up to this size only. */
-constexpr qint64 kMostDecodedBytes = 384LL * 1024 * 1024;
+constexpr qint64 kMegabyte = 1024LL * 1024;
+constexpr qint64 kMostDecodedBytes = 384 * kMegabyte;
 /** Where files mostly have the mark of their end. */
 constexpr qint64 kMarkBytes = 16;
 /** Cameras append previews and short films; a mark farther away is not looked for. */
@@ -83,6 +85,25 @@ JpegHeader readJpegHeader(QIODevice &device)
     return header;
 }
 
+qint64 decodedBytes(const QImageReader &reader)
+{
+    const QSize size = reader.size();
+    const qint64 pixels = qint64(size.width()) * size.height();
+    if (reader.format() != "jpeg") {
+        return pixels * 4;
+    }
+    // Up to four components of 16-bit coefficients; others are reduced while they are decoded.
+    const bool whole = readJpegHeader(*reader.device()).needsAllCoefficients;
+    return whole ? pixels * 8 : pixels / 64 * 4;
+}
+
+/** In megabytes. */
+QSemaphore &roomForDecoding()
+{
+    static QSemaphore room(static_cast<int>(kMostDecodedBytes / kMegabyte) + 1);
+    return room;
+}
+
 } // namespace
 
 bool isPhotoFormat(const QByteArray &format)
@@ -95,14 +116,18 @@ bool isPhotoFormat(const QByteArray &format)
 
 bool decodable(const QImageReader &reader)
 {
-    const QSize size = reader.size();
-    const qint64 pixels = qint64(size.width()) * size.height();
-    if (reader.format() != "jpeg") {
-        return pixels * 4 <= kMostDecodedBytes;
-    }
-    // Up to four components of 16-bit coefficients; others are reduced while they are decoded.
-    const bool whole = readJpegHeader(*reader.device()).needsAllCoefficients;
-    return (whole ? pixels * 8 : pixels / 64 * 4) <= kMostDecodedBytes;
+    return decodedBytes(reader) <= kMostDecodedBytes;
+}
+
+DecodingTurn::DecodingTurn(const QImageReader &reader)
+    : m_megabytes(static_cast<int>(decodedBytes(reader) / kMegabyte) + 1)
+{
+    roomForDecoding().acquire(m_megabytes);
+}
+
+DecodingTurn::~DecodingTurn()
+{
+    roomForDecoding().release(m_megabytes);
 }
 
 bool hasPictureData(QIODevice &device, const QByteArray &format)

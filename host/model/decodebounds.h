@@ -20,6 +20,22 @@ namespace PanoHost
 [[nodiscard]] bool decodable(const QImageReader &reader);
 
 /**
+ * While one lives, its thread may decode the decodable picture of \p reader. Others wait as long as
+ * all together would take more than one alone may.
+ */
+class DecodingTurn
+{
+public:
+    explicit DecodingTurn(const QImageReader &reader);
+    ~DecodingTurn();
+    DecodingTurn(const DecodingTurn &) = delete;
+    DecodingTurn &operator=(const DecodingTurn &) = delete;
+
+private:
+    int m_megabytes;
+};
+
+/**
  * False when the file in \p device, of \p format, ends before its picture begins. Keeps the
  * device's position.
  */

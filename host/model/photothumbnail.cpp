@@ -54,6 +54,7 @@ QImage scaledPicture(QImageReader &reader)
     if (thumbnailSize(size) != size) {
         reader.setScaledSize(thumbnailSize(size));
     }
+    const DecodingTurn turn(reader);
     return reader.read();
 }
 

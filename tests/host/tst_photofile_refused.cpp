@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/model/decodebounds.h"
 #include "host/model/lostpageguard.h"
 #include "host/model/photofile.h"
 #include "tests/host/testphotos.h"
@@ -8,6 +9,7 @@
 #include <QBuffer>
 #include <QFile>
 #include <QGuiApplication>
+#include <QImageReader>
 #include <QImageWriter>
 #include <QTemporaryDir>
 #include <QtEndian>
@@ -17,6 +19,7 @@
 #include <cmath>
 #include <future>
 #include <random>
+#include <thread>
 
 #include <sys/stat.h>
 
@@ -150,6 +153,7 @@ private Q_SLOTS:
     void pipesAndDevicesAreNeverRead();
     void hugeClaimsTakeNoMemory_data();
     void hugeClaimsTakeNoMemory();
+    void hugePicturesAreDecodedInTurns();
     void damagedPhotosAreReadOrRefused();
     void mappedFilesMayBeCutOff();
     void photosMayBeCutOffWhileTheyAreRead();
@@ -260,6 +264,40 @@ void PhotoFileRefusedTest::hugeClaimsTakeNoMemory()
         QVERIFY(reading.value().thumbnail.width() <= kThumbnailSide);
         QVERIFY(reading.value().thumbnail.height() <= kThumbnailSide);
     }
+}
+
+void PhotoFileRefusedTest::hugePicturesAreDecodedInTurns()
+{
+    // Eight bytes for each pixel: 320 megabytes each, of the 384 that there are.
+    const QByteArray jpeg = jpegClaiming(7'000, 6'000, true);
+    const auto reader = [&jpeg](QBuffer &buffer) {
+        buffer.setData(jpeg);
+        buffer.open(QIODevice::ReadOnly);
+        return std::make_unique<QImageReader>(&buffer);
+    };
+    std::atomic_bool begins{ false };
+    std::atomic_bool decodes{ false };
+    QBuffer first;
+    auto turn = std::make_unique<DecodingTurn>(*reader(first));
+    std::thread other([&] {
+        QBuffer second;
+        const auto itsReader = reader(second);
+        begins = true;
+        const DecodingTurn itsTurn(*itsReader);
+        decodes = true;
+    });
+    while (!begins) {
+        std::this_thread::yield();
+    }
+    constexpr int kChances = 20'000;
+    for (int i = 0; i < kChances; ++i) {
+        std::this_thread::yield();
+    }
+    const bool wasTooSoon = decodes;
+    turn.reset();
+    other.join();
+    QVERIFY(!wasTooSoon);
+    QVERIFY(decodes);
 }
 
 void PhotoFileRefusedTest::damagedPhotosAreReadOrRefused()
