@@ -91,7 +91,7 @@ Finding orderFinding(const QVector<PhotoInfo> &photos)
 
 Finding gapFinding(const QVector<PhotoInfo> &photos)
 {
-    const Finding none{ QStringLiteral("gaps"), QStringLiteral("none"), Finding::Kind::Fact, {} };
+    Finding none{ QStringLiteral("gaps"), QStringLiteral("none"), Finding::Kind::Fact, {} };
     QVector<qint64> pauses;
     for (int i = 1; i < photos.size(); ++i) {
         pauses += photos.at(i).timeMs - photos.at(i - 1).timeMs;

@@ -3,7 +3,6 @@
 #include "host/plugin/photoreader.h"
 
 #include <QFile>
-#include <QMutexLocker>
 #include <QScopeGuard>
 
 #include <sys/stat.h>
@@ -28,14 +27,21 @@ PhotoReader::PhotoReader(ThumbnailStore &store)
 
 PhotoReader::~PhotoReader()
 {
-    stop();
-    m_pool.waitForDone();
+    {
+        const std::lock_guard lock(m_mutex);
+        m_ahead.clear();
+        m_ends = true;
+        m_changed.notify_all();
+    }
+    for (std::thread &worker : m_workers) {
+        worker.join();
+    }
 }
 
 void PhotoReader::setReadsPictures(bool reads)
 {
     {
-        const QMutexLocker lock(&m_mutex);
+        const std::lock_guard lock(m_mutex);
         if (m_readsPictures == reads) {
             return;
         }
@@ -46,23 +52,24 @@ void PhotoReader::setReadsPictures(bool reads)
 
 void PhotoReader::shareThumbnails(std::shared_ptr<const DesktopThumbnails> thumbnails)
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     m_shared = std::move(thumbnails);
 }
 
 void PhotoReader::readAhead(const QStringList &paths)
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     m_ahead = paths;
     m_next = 0;
-    for (; m_workers < std::min(m_pool.maxThreadCount(), paths.size()); ++m_workers) {
-        m_pool.start([this] { work(); });
+    while (m_workers.size() < std::thread::hardware_concurrency()) {
+        m_workers.emplace_back([this] { work(); });
     }
+    m_changed.notify_all();
 }
 
 void PhotoReader::stop()
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     m_ahead.clear();
 }
 
@@ -72,10 +79,10 @@ PhotoReader::Answer PhotoReader::read(const QString &path)
     bool withPicture = false;
     std::shared_ptr<const DesktopThumbnails> shared;
     {
-        const QMutexLocker lock(&m_mutex);
+        std::unique_lock lock(m_mutex);
         auto known = m_entries.constFind(path);
         while (known != m_entries.cend() && known->answer == nullptr) {
-            m_wasRead.wait(&m_mutex);
+            m_changed.wait(lock);
             known = m_entries.constFind(path);
         }
         if (known != m_entries.cend() && known->stamp == stamp) {
@@ -87,13 +94,13 @@ PhotoReader::Answer PhotoReader::read(const QString &path)
     }
     std::shared_ptr<const Answer> answer;
     const auto tell = qScopeGuard([&] {
-        const QMutexLocker lock(&m_mutex);
+        const std::lock_guard lock(m_mutex);
         if (answer == nullptr) {
             m_entries.remove(path); // memory ran out
         } else {
             m_entries.insert(path, { stamp, answer });
         }
-        m_wasRead.wakeAll();
+        m_changed.notify_all();
     });
     answer = std::make_shared<const Answer>(readNow(path, withPicture, shared.get()));
     return *answer;
@@ -118,31 +125,31 @@ PhotoReader::Answer PhotoReader::readNow(const QString &path, bool withPicture,
 
 void PhotoReader::forget()
 {
-    stop();
-    m_pool.waitForDone();
-    const QMutexLocker lock(&m_mutex);
+    std::unique_lock lock(m_mutex);
+    m_ahead.clear();
+    m_changed.wait(lock, [this] { return m_busy == 0; });
     m_entries.clear();
 }
 
 void PhotoReader::work()
 {
-    for (QString path = takeNext(); !path.isEmpty(); path = takeNext()) {
+    std::unique_lock lock(m_mutex);
+    while (!m_ends) {
+        if (m_next >= m_ahead.size()) {
+            m_changed.wait(lock);
+            continue;
+        }
+        const QString path = m_ahead.at(m_next++);
+        ++m_busy;
+        lock.unlock();
         try {
             (void)read(path);
         } catch (...) { // NOLINT(bugprone-empty-catch): who asks for the photo meets it again
         }
+        lock.lock();
+        --m_busy;
+        m_changed.notify_all();
     }
-}
-
-/** Empty, and the worker ends, when nothing is left. */
-QString PhotoReader::takeNext()
-{
-    const QMutexLocker lock(&m_mutex);
-    if (m_next >= m_ahead.size()) {
-        --m_workers;
-        return {};
-    }
-    return m_ahead.at(m_next++);
 }
 
 } // namespace PanoHost

@@ -7,12 +7,13 @@
 #include "host/plugin/hostimage.h"
 
 #include <QHash>
-#include <QMutex>
 #include <QStringList>
-#include <QThreadPool>
-#include <QWaitCondition>
 
+#include <condition_variable>
 #include <memory>
+#include <mutex>
+#include <thread>
+#include <vector>
 
 namespace PanoHost
 {
@@ -69,21 +70,21 @@ private:
     };
 
     void work();
-    [[nodiscard]] QString takeNext();
     [[nodiscard]] Answer readNow(const QString &path, bool withPicture,
                                  const DesktopThumbnails *shared) const;
 
     ThumbnailStore &m_store;
-    QMutex m_mutex; ///< guards what follows
-    QWaitCondition m_wasRead;
+    // The standard library's, which a race detector sees through.
+    std::mutex m_mutex; ///< guards what follows
+    std::condition_variable m_changed; ///< a photo was read, or there is work
     QHash<QString, Entry> m_entries;
     QStringList m_ahead;
     int m_next = 0; ///< of m_ahead
-    int m_workers = 0;
+    int m_busy = 0; ///< workers that read a photo
+    bool m_ends = false;
     bool m_readsPictures = true;
     std::shared_ptr<const DesktopThumbnails> m_shared;
-
-    QThreadPool m_pool; ///< goes first
+    std::vector<std::thread> m_workers;
 };
 
 } // namespace PanoHost
