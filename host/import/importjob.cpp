@@ -8,7 +8,6 @@
 #include "host/model/displayname.h"
 #include "hostlink/xiabout.h"
 
-#include <QDir>
 #include <QWizardPage>
 
 namespace PanoHost
@@ -93,8 +92,7 @@ void ImportJob::preparePage()
 
 const ImportPlugin &ImportJob::openPlugin()
 {
-    // Dialogs list the folder where they begin: few files lie there, in the last one thousands may.
-    m_app.SetLastPath(QDir::rootPath());
+    m_app.SetLastPath(m_dialogFolder.path());
     m_library = valueOrThrow(PluginLibrary::open(m_request.pluginPath));
     m_watch.note(JobWatch::Note::Detail, QStringLiteral("using %1").arg(m_library->path()));
     const QString head = m_request.head->name();

@@ -9,6 +9,7 @@
 #include "host/plugin/pluginlibrary.h"
 
 #include <QPixmap>
+#include <QTemporaryDir>
 
 #include <memory>
 
@@ -63,6 +64,8 @@ private:
     PhotoAliases m_aliases;
     QStringList m_warnings;
     JoinWishes m_wishes;
+    /// Dialogs list the folder where they begin, in the last one thousands of files may lie.
+    QTemporaryDir m_dialogFolder;
     std::unique_ptr<PluginLibrary> m_library;
     SourceInfo m_source;
     std::unique_ptr<PageDriver> m_page; ///< before the library: goes first
