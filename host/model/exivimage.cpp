@@ -38,7 +38,7 @@ public:
         m_open = false;
         return munmap();
     }
-    bool isopen() const override { return m_open; }
+    [[nodiscard]] bool isopen() const override { return m_open; }
 
     Exiv2::DataBuf read(long count) override
     {
@@ -65,11 +65,11 @@ public:
         m_eof = false;
         return m_device.seek(start + offset) ? 0 : 1;
     }
-    long tell() const override { return static_cast<long>(m_device.pos()); }
-    size_t size() const override { return static_cast<size_t>(m_device.size()); }
-    int error() const override { return m_device.isSound() ? 0 : 1; }
-    bool eof() const override { return m_eof; }
-    std::string path() const override { return "photo"; }
+    [[nodiscard]] long tell() const override { return static_cast<long>(m_device.pos()); }
+    [[nodiscard]] size_t size() const override { return static_cast<size_t>(m_device.size()); }
+    [[nodiscard]] int error() const override { return m_device.isSound() ? 0 : 1; }
+    [[nodiscard]] bool eof() const override { return m_eof; }
+    [[nodiscard]] std::string path() const override { return "photo"; }
 
     Exiv2::byte *mmap(bool writable) override
     {

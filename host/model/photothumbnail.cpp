@@ -250,7 +250,7 @@ QImage fromEmbedded(const Exiv2::Image &exiv, const PhotoInfo &info, Accept acce
             continue;
         }
         const Exiv2::PreviewImage image = previews.getPreviewImage(preview);
-        const QImage thumbnail
+        QImage thumbnail
             = embeddedThumbnail(bytesOf(image.pData(), image.size()), size, info, accept);
         if (!thumbnail.isNull()) {
             return thumbnail;
@@ -288,7 +288,7 @@ QImage photoThumbnail(QIODevice &device, const Exiv2::Image *exiv, const PhotoIn
     device.seek(0);
     const bool complete
         = !pictureIsPhoto || looksComplete(device, QImageReader::imageFormat(&device));
-    const QImage equal = complete ? embedded(exiv, info, Accept::Equals) : QImage();
+    QImage equal = complete ? embedded(exiv, info, Accept::Equals) : QImage();
     if (!equal.isNull()) {
         return equal;
     }
