@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "host/align/features.h"
+#include "host/align/geometry.h"
+
+#include <QPair>
+
+#include <cstdint>
+#include <vector>
+
+namespace PanoHost
+{
+
+/** How exactly the prediction is believed. */
+struct MatchRules {
+    double windowPixels = 0.0; ///< a feature's partner lies this near to where it is predicted
+    double consensusPixels = 0.0; ///< partners agree with one rotation within this
+    double gateDegrees = 0.0; ///< that rotation leaves the predicted one by no more; 0: by any
+    int mostPoints = 40; ///< kept, spread over the overlap
+};
+
+/** The rules of the first look, from the record alone, and of the second one, from a solved model. */
+[[nodiscard]] MatchRules firstLook(const AlignLens &lens);
+[[nodiscard]] MatchRules secondLook(const AlignLens &lens);
+
+/** A photo's features and how it came by them. */
+struct MatchSide {
+    const FeatureSet &features;
+    const AlignLens &lens;
+};
+
+/** Indices of features that show the same spot, and the rotation that they agree on. */
+struct PairMatches {
+    std::vector<QPair<int, int>> pairs; ///< empty: no consensus
+    Eigen::Matrix3d rotation = Eigen::Matrix3d::Identity(); ///< rays of the first to rays of the second
+};
+
+/**
+ * Finds \p first again in \p second, which \p predicted expects: it turns rays of the first camera into rays of
+ * the second. Draws are made from \p seed. Any thread; the same answer each time.
+ */
+[[nodiscard]] PairMatches matchPair(const MatchSide &first, const MatchSide &second,
+                                    const Eigen::Matrix3d &predicted, const MatchRules &rules,
+                                    std::uint32_t seed);
+
+/**
+ * Views whose frames overlap by at least \p leastShare of the smaller one's area, in order, each once; found over an index of
+ * the sphere, in a time that grows with the number of pairs.
+ */
+[[nodiscard]] std::vector<QPair<int, int>>
+overlappingPairs(const std::vector<Eigen::Matrix3d> &rotations,
+                 const std::vector<const AlignLens *> &lenses, double leastShare = 0.03);
+
+} // namespace PanoHost
