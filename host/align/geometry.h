@@ -11,9 +11,9 @@
 #include <optional>
 
 /*
- * The world: x to the right, y up, z into the scene at yaw 0. A rotation turns directions of the camera
- * into those of the world. Pixels as in a Hugin project: x to the right and y down, (0, 0) is the
- * middle of the first stored pixel.
+ * The world: x to the right, y up, z into the scene at yaw 0. A rotation turns directions of the
+ * camera into those of the world. Pixels as in a Hugin project: x to the right and y down, (0, 0)
+ * is the middle of the first stored pixel.
  */
 namespace PanoHost
 {
@@ -37,15 +37,16 @@ struct AlignLens {
     QSize size; ///< stored pixels
     LensModel model = LensModel::Standard;
     double focalPixels = 0.0;
-    /** Radii in halves of the shorter side: photo = ideal * (a r^3 + b r^2 + c r + 1 - a - b - c). */
+    /** Radii in halves of the shorter side: photo = ideal * (a r^3 + b r^2 + c r + 1 - a - b - c).
+     */
     double a = 0.0;
     double b = 0.0;
     double c = 0.0;
 
     /** The unit vector, in the camera's own frame, of what pixel \p pixel sees. */
     [[nodiscard]] Eigen::Vector3d rayOf(const Eigen::Vector2d &pixel) const;
-    /** Where \p ray (any length, the camera's own frame) meets the photo's plane, inside the photo or
-     * not; nothing where no such lens sees it. */
+    /** Where \p ray (any length, the camera's own frame) meets the photo's plane, inside the photo
+     * or not; nothing where no such lens sees it. */
     [[nodiscard]] std::optional<Eigen::Vector2d> pixelOf(const Eigen::Vector3d &ray) const;
     /** \p margin pixels around the photo count as inside. */
     [[nodiscard]] bool contains(const Eigen::Vector2d &pixel, double margin = 0.0) const;

@@ -16,8 +16,8 @@ struct AlignView {
      * what EXIF orientation and the camera's own turn add up to. */
     double turnDegrees = 0.0;
     int lens = 0; ///< index into the model's lenses
-    /** The view whose stack this one belongs to, as one of its levels with angles of its own; -1: itself.
-     * Levels are tied to it instead of to the record. */
+    /** The view whose stack this one belongs to, as one of its levels with angles of its own; -1:
+     * itself. Levels are tied to it instead of to the record. */
     int stack = -1;
 };
 
@@ -29,7 +29,8 @@ struct AlignView {
  */
 struct HeadModel {
     std::vector<AlignView> views;
-    std::vector<Angles> corrections; ///< one per view: what the head did besides the record, degrees
+    std::vector<Angles>
+        corrections; ///< one per view: what the head did besides the record, degrees
     std::vector<AlignLens> lenses;
     double mountPitchDegrees = 0.0;
     double mountRollDegrees = 0.0;

@@ -1,10 +1,13 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/align/alignmentreport.h"
 #include "host/model/panoramajson.h"
 #include "host/model/safefile.h"
 
 #include <QDir>
 #include <QTextStream>
+
+#include <utility>
 
 /* Writes the schemas of the JSON documents to a folder. scripts/update-schemas runs it. */
 
@@ -15,11 +18,16 @@ int main(int argc, char **argv)
         return 2;
     }
     const QDir folder(QFile::decodeName(argv[1]));
-    const auto written = PanoHost::writeFileAtomically(
-        folder.filePath(QStringLiteral("panohost.schema.json")), PanoHost::panoramaSchema());
-    if (!written) {
-        QTextStream(stderr) << "schemas: " << written.error().text() << '\n';
-        return 1;
+    const std::pair<QString, QByteArray> schemas[]{
+        { QStringLiteral("panohost.schema.json"), PanoHost::panoramaSchema() },
+        { QStringLiteral("panohost-alignment.schema.json"), PanoHost::alignmentSchema() },
+    };
+    for (const auto &[name, schema] : schemas) {
+        const auto written = PanoHost::writeFileAtomically(folder.filePath(name), schema);
+        if (!written) {
+            QTextStream(stderr) << "schemas: " << written.error().text() << '\n';
+            return 1;
+        }
     }
     return 0;
 }

@@ -87,7 +87,8 @@ void TestGeometry::rotationsAreComparedByTheirAngle()
 {
     const Eigen::Matrix3d start = rotationOf({ 77.0, -40.0, 12.0 });
     QVERIFY(std::abs(degreesBetween(start, start * rotationOf({ 0.0, 1e-5, 0.0 })) - 1e-5) < 1e-9);
-    QVERIFY(std::abs(degreesBetween(start, start * rotationOf({ 0.0, 0.0, 179.0 })) - 179.0) < 1e-6);
+    QVERIFY(std::abs(degreesBetween(start, start * rotationOf({ 0.0, 0.0, 179.0 })) - 179.0)
+            < 1e-6);
 }
 
 void TestGeometry::pixelsSeeWhereTheLensFormulaSays()
@@ -153,7 +154,8 @@ void TestGeometry::crookedCamerasTurnWithTheirHead()
     model.corrections.push_back({ 0.5, -0.25, 0.0 });
     model.mountPitchDegrees = 0.8;
     model.yawScale = 1.1;
-    // The head goes to 44.5 and 9.75; the tilt of the camera on it adds to the pitch, turned or not.
+    // The head goes to 44.5 and 9.75; the tilt of the camera on it adds to the pitch, turned or
+    // not.
     QVERIFY(degreesBetween(model.rotation(0), rotationOf({ 44.5, 10.55, 90.0 })) < 1e-9);
 }
 
