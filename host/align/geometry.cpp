@@ -13,9 +13,6 @@ namespace PanoHost
 namespace
 {
 
-/** A rectilinear lens does not see what is this far to the side: the cosine of the angle. */
-constexpr double kLeastCosine = 0.05;
-
 /** The ideal radius of the photo's \p radius: the inverse of Hugin's polynomial, by Newton. */
 double idealRadius(double radius, const AlignLens &lens)
 {

@@ -32,6 +32,9 @@ struct Angles {
 /** The angle between two rotations, degrees. */
 [[nodiscard]] double degreesBetween(const Eigen::Matrix3d &one, const Eigen::Matrix3d &other);
 
+/** A rectilinear lens does not see what is this far to the side: the cosine of the angle. */
+constexpr double kLeastCosine = 0.05;
+
 /** How directions come to pixels, with Hugin's polynomial for what lenses do wrong. */
 struct AlignLens {
     QSize size; ///< stored pixels

@@ -15,14 +15,19 @@ struct SolveOptions {
     Angles play{ 0.35, 0.35, 0.2 }; ///< of each photo around the record, degrees
     bool learnsPlay = true; ///< the head's real play takes the place of `play` once it is known
     double stackDegrees = 0.02; ///< of a level around its stack
-    /** Whole degrees were cut off toward zero: corrections away from zero by up to one degree are
-     * free, others are trusted as `play` says. */
+    /** Recorded yaws and pitches are whole degrees, cut off toward zero: corrections away from zero
+     * by up to one degree are free (half of one is where photos without points go), others are
+     * trusted as `play` says. */
     bool cutOff = false;
     bool freesFocal = true;
     bool freesA = false;
     bool freesB = false;
     bool freesC = false;
     double focalShare = 0.03; ///< of the focal length
+    /** What the lenses are trusted to be, one per lens of the model; empty: as the model has them.
+     * A second solve names the first one's here, so that its own answer does not become the record.
+     */
+    std::vector<AlignLens> recordedLenses;
     double mountPitchDegrees = 1.0; ///< 20 where nobody has recorded the tilt
     double mountRollDegrees = 1.5;
     bool freesScales = false; ///< of grids whose steps nobody has recorded
@@ -31,10 +36,14 @@ struct SolveOptions {
 };
 
 struct SolveResult {
-    /** Residual of each point, pixels of its second photo; infinite where the lens does not see it. */
+    /** Residual of each point, pixels of its second photo; infinite where the lens does not see it.
+     */
     std::vector<double> residuals;
-    double sigmaPixels = 0.0; ///< the learnt scale of the residuals; beyond 4 of them a point is wrong
-    Angles play; ///< the head's, learnt from the photos that are tied down; as given when it was not
+    double sigmaPixels
+        = 0.0; ///< the learnt scale of the residuals; beyond 4 of them a point is wrong
+    /** The head's, learnt from the photos that are tied down, standard deviation; as given when it
+     * was not. */
+    Angles play;
     bool playKnown = false;
 };
 
