@@ -22,9 +22,9 @@ struct GreyPicture {
 };
 
 /**
- * Reads the photo \p path, at most \p longestSide pixels wide, reduced while it is decoded as far as that keeps
- * its pixels where they are. Refuses what `readPhoto` refuses, and a photo that is not of \p storedSize.
- * Any thread.
+ * Reads the photo \p path, at most \p longestSide pixels wide, reduced while it is decoded as far
+ * as that keeps its pixels where they are. Refuses what `readPhoto` refuses, and a photo that is
+ * not of \p storedSize. Any thread.
  */
 [[nodiscard]] Result<GreyPicture> readGreyPicture(const QString &path, const QSize &storedSize,
                                                   int widest);

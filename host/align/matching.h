@@ -21,7 +21,8 @@ struct MatchRules {
     int mostPoints = 40; ///< kept, spread over the overlap
 };
 
-/** The rules of the first look, from the record alone, and of the second one, from a solved model. */
+/** The rules of the first look, from the record alone, and of the second one, from a solved model.
+ */
 [[nodiscard]] MatchRules firstLook(const AlignLens &lens);
 [[nodiscard]] MatchRules secondLook(const AlignLens &lens);
 
@@ -34,20 +35,21 @@ struct MatchSide {
 /** Indices of features that show the same spot, and the rotation that they agree on. */
 struct PairMatches {
     std::vector<QPair<int, int>> pairs; ///< empty: no consensus
-    Eigen::Matrix3d rotation = Eigen::Matrix3d::Identity(); ///< rays of the first to rays of the second
+    Eigen::Matrix3d rotation
+        = Eigen::Matrix3d::Identity(); ///< rays of the first to rays of the second
 };
 
 /**
- * Finds \p first again in \p second, which \p predicted expects: it turns rays of the first camera into rays of
- * the second. Draws are made from \p seed. Any thread; the same answer each time.
+ * Finds \p first again in \p second, which \p predicted expects: it turns rays of the first camera
+ * into rays of the second. Draws are made from \p seed. Any thread; the same answer each time.
  */
 [[nodiscard]] PairMatches matchPair(const MatchSide &first, const MatchSide &second,
                                     const Eigen::Matrix3d &predicted, const MatchRules &rules,
                                     std::uint32_t seed);
 
 /**
- * Views whose frames overlap by at least \p leastShare of the smaller one's area, in order, each once; found over an index of
- * the sphere, in a time that grows with the number of pairs.
+ * Views whose frames overlap by at least \p leastShare of the smaller one's area, in order, each
+ * once; found over an index of the sphere, in a time that grows with the number of pairs.
  */
 [[nodiscard]] std::vector<QPair<int, int>>
 overlappingPairs(const std::vector<Eigen::Matrix3d> &rotations,

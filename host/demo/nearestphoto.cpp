@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/demo/nearestphoto.h"
 
-#include "host/demo/parallel.h"
+#include "host/model/parallel.h"
 
 namespace PanoHost
 {

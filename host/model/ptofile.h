@@ -78,8 +78,8 @@ struct PtoLens {
 class PtoFile
 {
 public:
-    /** Reads \p text; \p folder is what its file names are relative to. Refuses: no images, lines that link
-     * to nothing, numbers that are none. A failure names the line. */
+    /** Reads \p text; \p folder is what its file names are relative to. Refuses: no images, lines
+     * that link to nothing, numbers that are none. A failure names the line. */
     [[nodiscard]] static Result<PtoFile> parse(const QByteArray &text, const QString &folder);
     /** The same from a file: regular, at most 512 MB. */
     [[nodiscard]] static Result<PtoFile> read(const QString &path);
@@ -90,15 +90,16 @@ public:
     /** Whether this program has written the file: its canvas follows the import's rules. */
     [[nodiscard]] bool isOurs() const;
 
-    /** Own angles of \p image and, of the image that a lens begins with, the lens. Linked values stay linked. */
+    /** Own angles of \p image and, of the image that a lens begins with, the lens. Linked values
+     * stay linked. */
     void place(int image, const PtoPlacement &placement);
     void setLens(int master, const PtoLens &lens);
     /** In place of all c-lines of type t0. */
     void setPoints(const QVector<PtoPoint> &points);
     /** "#panohost record" lines: one per image with angles of its own, in place of those there. */
     void setRecord(const QVector<PtoAngles> &recorded, const QVector<double> &turns);
-    /** Lays the canvas and its crop out anew around the images, by the rules of the import, and turns
-     * all images so that its centre is at yaw 0. */
+    /** Lays the canvas and its crop out anew around the images, by the rules of the import, and
+     * turns all images so that its centre is at yaw 0. */
     void layOutCanvas();
 
     /** The project for a file in \p folder: names are written relative to it. */
