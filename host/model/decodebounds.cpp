@@ -93,8 +93,10 @@ qint64 decodedBytes(const QImageReader &reader)
         return pixels * 4;
     }
     // Up to four components of 16-bit coefficients; others are reduced while they are decoded.
+    const QSize scaled = reader.scaledSize().expandedTo({ 0, 0 });
+    const qint64 wanted = qint64(scaled.width()) * scaled.height();
     const bool whole = readJpegHeader(*reader.device()).needsAllCoefficients;
-    return whole ? pixels * 8 : pixels / 64 * 4;
+    return whole ? pixels * 8 + wanted * 4 : std::max(pixels / 64, wanted) * 4;
 }
 
 /** In megabytes. */

@@ -14,8 +14,8 @@ namespace PanoHost
 [[nodiscard]] bool isPhotoFormat(const QByteArray &format);
 
 /**
- * Whether decoding the picture of \p reader, scaled down to a thumbnail, takes a bounded amount of
- * memory. Keeps the position of the reader's device.
+ * Whether decoding the picture of \p reader, scaled down as it is told or else to a thumbnail,
+ * takes a bounded amount of memory. Keeps the position of the reader's device.
  */
 [[nodiscard]] bool decodable(const QImageReader &reader);
 

@@ -110,6 +110,47 @@ Result<PhotoReading> readPhoto(const QString &path, const DesktopThumbnails *sha
     return PhotoReading{ opened.info, std::move(thumbnail) };
 }
 
+Result<StoredPixels> readStoredPixels(const QString &path, int leastWidth)
+{
+    constexpr int kMostDivisor = 8;
+    const LostPageGuard guard;
+    const auto photo = openPhoto(path);
+    if (!photo) {
+        return photo.error();
+    }
+    const auto refused = [&path](const QString &why) {
+        return Failure{ ExitCode::InputRefused, path, why, {} };
+    };
+    if (!photo.value().pictureIsPhoto) {
+        return refused(QStringLiteral("its pixels cannot be decoded (a RAW file?)"));
+    }
+    PhotoDevice &device = *photo.value().device;
+    device.seek(0);
+    QImageReader reader(&device);
+    StoredPixels pixels{ {}, photo.value().info.storedSize, 1 };
+    QSize size = pixels.storedSize;
+    if (reader.format() == "jpeg") {
+        while (pixels.divisor < kMostDivisor && size.width() / 2 >= leastWidth
+               && size.height() >= 2) {
+            pixels.divisor *= 2;
+            size = { pixels.storedSize.width() / pixels.divisor,
+                     pixels.storedSize.height() / pixels.divisor };
+        }
+        // The decoder makes one pixel of whole ones only within a part that it is asked for.
+        reader.setClipRect(QRect(QPoint(0, 0), size * pixels.divisor));
+        reader.setScaledSize(size);
+    }
+    if (!decodable(reader)) {
+        return refused(QStringLiteral("too large to decode"));
+    }
+    const DecodingTurn turn(reader);
+    pixels.picture = reader.read();
+    if (pixels.picture.size() != size || guard.lostAny()) {
+        return unreadable(path);
+    }
+    return pixels;
+}
+
 Result<PhotoInfo> readPhotoInfo(const QString &path)
 {
     const LostPageGuard guard;

@@ -33,6 +33,21 @@ void initializePhotoReading();
 [[nodiscard]] Result<PhotoReading> readPhoto(const QString &path,
                                              const DesktopThumbnails *shared = nullptr);
 
+/** A photo's pixels as they are stored: not turned. */
+struct StoredPixels {
+    QImage picture;
+    QSize storedSize;
+    /** 1, 2, 4 or 8 stored pixels to a side of one of the picture's, from the upper left corner on;
+     * stored columns and rows that are left over at the other end are not shown. */
+    int divisor = 1;
+};
+
+/**
+ * Decodes the photo \p path, JPEGs with the largest divisor that leaves \p leastWidth pixels to
+ * their width. Refuses what cannot be read, RAW files and what takes too much memory. Thread-safe.
+ */
+[[nodiscard]] Result<StoredPixels> readStoredPixels(const QString &path, int leastWidth);
+
 /** Like `readPhoto` without the thumbnail: reads the file's header only and decodes nothing. */
 [[nodiscard]] Result<PhotoInfo> readPhotoInfo(const QString &path);
 
