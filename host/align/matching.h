@@ -13,7 +13,7 @@
 namespace PanoHost
 {
 
-/** How exactly the prediction is believed. */
+/** How exactly the prediction is believed. Pixels are stored ones. */
 struct MatchRules {
     double windowPixels = 0.0; ///< a feature's partner lies this near to where it is predicted
     double consensusPixels = 0.0; ///< partners agree with one rotation within this
@@ -21,9 +21,9 @@ struct MatchRules {
     int mostPoints = 40; ///< kept, spread over the overlap
 };
 
-/** The rules of the first look, from the record alone, and of the second one, from a solved model.
- */
+/** The rules of the first look, from the record alone, for a photo through \p lens. */
 [[nodiscard]] MatchRules firstLook(const AlignLens &lens);
+/** The rules of the second look, from a solved model. */
 [[nodiscard]] MatchRules secondLook(const AlignLens &lens);
 
 /** A photo's features and how it came by them. */
@@ -34,22 +34,26 @@ struct MatchSide {
 
 /** Indices of features that show the same spot, and the rotation that they agree on. */
 struct PairMatches {
-    std::vector<QPair<int, int>> pairs; ///< empty: no consensus
+    std::vector<QPair<int, int>>
+        pairs; ///< no spot twice, in no particular order; empty: no consensus
     Eigen::Matrix3d rotation
         = Eigen::Matrix3d::Identity(); ///< rays of the first to rays of the second
 };
 
 /**
- * Finds \p first again in \p second, which \p predicted expects: it turns rays of the first camera
- * into rays of the second. Draws are made from \p seed. Any thread; the same answer each time.
+ * Finds spots of \p first again in \p second, where \p predicted expects them: it turns rays of the
+ * first camera into rays of the second. Windows and consensus are measured in pixels of the second.
+ * Draws are made from \p seed. Any thread; the same answer each time.
  */
 [[nodiscard]] PairMatches matchPair(const MatchSide &first, const MatchSide &second,
                                     const Eigen::Matrix3d &predicted, const MatchRules &rules,
                                     std::uint32_t seed);
 
 /**
- * Views whose frames overlap by at least \p leastShare of the smaller one's area, in order, each
- * once; found over an index of the sphere, in a time that grows with the number of pairs.
+ * The pairs of views, the smaller index first, in order, whose frames overlap by at least
+ * \p leastShare of the narrower one's. Found over an index of directions, in a time that grows with
+ * the number of pairs.
+ * \param rotations camera to world, and \p lenses one for each of them
  */
 [[nodiscard]] std::vector<QPair<int, int>>
 overlappingPairs(const std::vector<Eigen::Matrix3d> &rotations,
