@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/model/ptoproject.h"
 
-#include "host/model/coverage.h"
+#include "host/model/canvas.h"
+#include "host/model/ptoline.h"
 #include "host/model/relativepath.h"
 #include "host/model/safefile.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
-#include <QtMath>
 
 #include <algorithm>
 #include <cmath>
@@ -22,33 +22,15 @@ namespace
 
 /** For projects in which no photo names its exposure: bright daylight, the same for all. */
 constexpr double kAssumedExposureValue = 12.0;
-/** A full turn whose zenith and nadir are open by less stays an uncropped 2:1 picture. */
-constexpr double kOpenCapDegrees = 15.0;
 /** 35 mm equivalents that no lens goes beyond. */
 constexpr double kShortestFocalMm = 1.0;
 constexpr double kLongestFocalMm = 50000.0;
-/** No canvas side is longer, whatever the photos claim; pixels. */
-constexpr double kLongestSide = 1e9;
 /** stackLinking of the description */
 constexpr qint32 kHardLinks = 0;
 
 Failure refused(const QString &what, const QString &why, const QString &tryThis = {})
 {
     return { ExitCode::InputRefused, what, why, tryThis };
-}
-
-QByteArray number(double value, int decimals)
-{
-    return QByteArray::number(value, 'f', decimals);
-}
-
-/** \p degrees in [-180, 180), also after it is written with 6 decimals. */
-double wrapped(double degrees)
-{
-    double turn = std::remainder(degrees, 360.0);
-    turn = std::round(turn * 1e6) / 1e6;
-    // Adding zero makes -0 a plain 0.
-    return (turn >= 180.0 ? turn - 360.0 : turn) + 0.0;
 }
 
 /** Median of the exposure values known; the middle pair's lower one, so that it is a real one. */
@@ -60,6 +42,13 @@ std::optional<double> medianExposure(QVector<double> known)
     auto *const middle = known.begin() + (known.size() - 1) / 2;
     std::nth_element(known.begin(), middle, known.end());
     return *middle;
+}
+
+/** How far \p photo's stored pixels are turned beyond the recorded roll. */
+double turnDegrees(const PhotoInfo &photo, const PtoOptions &options)
+{
+    const int exif = options.ignoreExifRotation ? 0 : clockwiseDegrees(photo.orientation);
+    return exif + options.extraRollDegrees;
 }
 
 /** One i-line in the making. */
@@ -113,6 +102,7 @@ private:
     bool m_hasStacks = false;
     double m_missingExposure = kAssumedExposureValue;
     double m_referenceExposure = kAssumedExposureValue;
+    Canvas m_canvas;
     PtoProject m_project;
 };
 
@@ -168,11 +158,9 @@ std::optional<Failure> ProjectMaker::collectImages()
             if (image.lensMaster < 0) {
                 lensMasters.insert(size, index);
             }
-            const int turned
-                = m_options.ignoreExifRotation ? 0 : clockwiseDegrees(photo.orientation);
             image.yawDegrees = position.yawDegrees;
             image.pitchDegrees = position.pitchDegrees;
-            image.rollDegrees = position.rollDegrees + turned + m_options.extraRollDegrees;
+            image.rollDegrees = position.rollDegrees + turnDegrees(photo, m_options);
             if (!std::isfinite(image.yawDegrees) || !std::isfinite(image.pitchDegrees)
                 || !std::isfinite(image.rollDegrees)) {
                 return refused(photo.path, QStringLiteral("its direction is not a number"),
@@ -250,43 +238,22 @@ void ProjectMaker::layOutCanvas()
                             image.rollDegrees });
         }
     }
-    const Coverage covered = coverageOf(frames);
-    const bool partial = covered.yawSpanDegrees < 359.0;
-    const double span = partial ? std::ceil(covered.yawSpanDegrees) + 1.0 : 360.0;
-    m_project.horizontalFovDegrees = span >= 360.0 ? 360.0 : span;
-    const double fov = m_project.horizontalFovDegrees;
-    m_project.yawCentreDegrees = fov < 360.0 ? covered.yawCentreDegrees : 0.0;
-
-    const double wanted = m_options.width > 0 ? m_options.width : qDegreesToRadians(fov) * focal;
-    const double width = std::min(wanted, kLongestSide * std::min(1.0, fov / 180.0));
-    const int w = 2 * std::max(1, qRound(width / 2.0));
-    const int h = std::max(1, qRound(180.0 * w / fov));
-    m_project.canvas = QSize(w, h);
-    const bool openCaps = covered.highestPitchDegrees < 90.0 - kOpenCapDegrees
-        || covered.lowestPitchDegrees > -90.0 + kOpenCapDegrees;
-    if (fov < 360.0 || openCaps) {
-        const double scale = w / fov;
-        const int top
-            = std::clamp(int(std::floor(h / 2.0 - covered.highestPitchDegrees * scale)), 0, h - 1);
-        const int bottom
-            = std::clamp(int(std::ceil(h / 2.0 - covered.lowestPitchDegrees * scale)), top + 1, h);
-        m_project.crop = QRect(QPoint(0, top), QSize(w, bottom - top));
-    }
+    m_canvas = canvasAround(frames, focal, m_options.width);
+    m_project.canvas = m_canvas.size;
+    m_project.crop = m_canvas.crop;
+    m_project.horizontalFovDegrees = m_canvas.horizontalFovDegrees;
+    m_project.yawCentreDegrees = m_canvas.yawCentreDegrees;
 }
 
 void ProjectMaker::appendHeader()
 {
     QByteArray &text = m_project.text;
     text += "# hugin project file\n#hugin_ptoversion 2\np f2 w"
-        + QByteArray::number(m_project.canvas.width()) + " h"
-        + QByteArray::number(m_project.canvas.height()) + " v"
-        + QByteArray::number(m_project.horizontalFovDegrees, 'g', 9) + " k0 E"
-        + number(m_referenceExposure, 6) + " R0 ";
-    const QRect &crop = m_project.crop;
-    if (!crop.isNull()) {
-        text += 'S' + QByteArray::number(crop.left()) + ',' + QByteArray::number(crop.width()) + ','
-            + QByteArray::number(crop.top()) + ',' + QByteArray::number(crop.top() + crop.height())
-            + ' ';
+        + QByteArray::number(m_canvas.size.width()) + " h"
+        + QByteArray::number(m_canvas.size.height()) + " v" + fovText(m_canvas) + " k0 E"
+        + ptoNumber(m_referenceExposure, 6) + " R0 ";
+    if (!m_canvas.crop.isNull()) {
+        text += 'S' + cropText(m_canvas) + ' ';
     }
     text += "n\"TIFF_m c:LZW r:CROP\"\nm i0\n";
     appendOutputs();
@@ -310,7 +277,7 @@ void ProjectMaker::appendImage(int index)
         + QByteArray::number(image.photo->storedSize.height())
         + (m_panorama.lens == LensModel::Fisheye ? " f3" : " f0");
     if (image.lensMaster < 0) {
-        text += " v" + number(fov(image), 10)
+        text += " v" + ptoNumber(fov(image), 10)
             + " Ra0 Rb0 Rc0 Rd0 Re0 a0 b0 c0 d0 e0 g0 t0 Va1 Vb0 Vc0 Vd0 Vx0 Vy0";
     } else {
         const QByteArray master = '=' + QByteArray::number(image.lensMaster);
@@ -321,15 +288,16 @@ void ProjectMaker::appendImage(int index)
     }
     const auto &exposure = image.photo->exposureValue;
     const bool known = exposure && std::isfinite(*exposure);
-    text += " Eev" + number(known ? *exposure : m_missingExposure, 6) + " Er1 Eb1";
+    text += " Eev" + ptoNumber(known ? *exposure : m_missingExposure, 6) + " Er1 Eb1";
     const QByteArray stack = '=' + QByteArray::number(image.stackMaster);
     if (isLinked(image)) {
         for (const char *const variable : { "r", "p", "y", "TrX", "TrY", "TrZ", "Tpy", "Tpp" }) {
             text += QByteArray(" ") + variable + stack;
         }
     } else {
-        text += " r" + number(wrapped(image.rollDegrees), 6) + " p" + number(image.pitchDegrees, 6)
-            + " y" + number(wrapped(image.yawDegrees - m_project.yawCentreDegrees), 6)
+        text += " r" + ptoNumber(wrappedDegrees(image.rollDegrees), 6) + " p"
+            + ptoNumber(image.pitchDegrees, 6) + " y"
+            + ptoNumber(wrappedDegrees(image.yawDegrees - m_project.yawCentreDegrees), 6)
             + " TrX0 TrY0 TrZ0 Tpy0 Tpp0";
     }
     text += " j" + (image.stackMaster >= 0 ? stack : QByteArray("0")) + "  Vm5 n\"" + image.name
