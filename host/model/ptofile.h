@@ -6,24 +6,25 @@
 #include "model/lensmodel.h"
 
 #include <QByteArray>
-#include <QByteArrayList>
 #include <QSize>
 #include <QString>
 #include <QVector>
 
 #include <optional>
+#include <vector>
 
 namespace PanoHost
 {
 
-/** Degrees as a project writes them: yaw to the right, pitch up, roll clockwise. */
+/** Degrees: yaw to the right, pitch up, roll clockwise. */
 struct PtoAngles {
     double yaw = 0.0;
     double pitch = 0.0;
     double roll = 0.0;
 };
 
-/** An i-line, with the values of the lines that it links to. */
+/** An i-line, with the values of the lines that it links to. Yaws are those of the head: what the
+ * project has subtracted from all is added again. */
 struct PtoImage {
     QString path; ///< absolute
     QSize size; ///< stored pixels
@@ -34,14 +35,14 @@ struct PtoImage {
     double c = 0.0;
     std::optional<double> exposureValue; ///< Eev
     PtoAngles angles;
+    /** What the head said, without the camera's turn. Without record lines: the file's angles. */
+    PtoAngles recorded;
+    /** How far the camera, or its stored pixels, are turned about the lens's axis. Without record
+     * lines: what most photos of the file are rolled by, a multiple of 90. */
+    double turnDegrees = 0.0;
     int lensMaster = -1; ///< the image whose field of view this one shares; -1: its own
     int angleMaster = -1; ///< the image whose angles these are (a hard stack); -1: its own
     int stackMaster = -1; ///< the image that its stack begins with; -1: itself
-    /** What the head recorded, if the file says so: the angles before any alignment, in a frame of
-     * which `PtoFile::yawCentreDegrees` was subtracted. */
-    std::optional<PtoAngles> recorded;
-    bool recordedTurnKnown = false;
-    double turnDegrees = 0.0; ///< the part of the recorded roll that is the camera's turn
 };
 
 /** A c-line between two images; pixels, (0, 0) is the middle of the first. */
@@ -52,7 +53,7 @@ struct PtoPoint {
     double y1 = 0.0;
     double x2 = 0.0;
     double y2 = 0.0;
-    bool isWrong = false; ///< kept, but marked and out of the optimiser's way
+    bool isWrong = false; ///< kept, but in a comment line, out of every optimiser's way
 };
 
 /** What an alignment changes of an image. */
@@ -73,41 +74,90 @@ struct PtoLens {
 };
 
 /**
- * A Hugin project whose lines are kept as they are, unknown ones too, but for what is set anew.
+ * A Hugin project, of this program or of any other. Its lines stay as they are, unknown ones too,
+ * but for what is set anew. Comment lines hold what Hugin knows nothing of:
+ *
+ *     #panohost centre y12.5                          was subtracted from every yaw
+ *     #panohost record i3 y42.5 p-45 r0.1 turn90      what the head said of image 3
+ *     #panohost wrong c n0 N1 x1 y2 X3 Y4 t0          a control point that is none
  */
 class PtoFile
 {
 public:
-    /** Reads \p text; \p folder is what its file names are relative to. Refuses: no images, lines
-     * that link to nothing, numbers that are none. A failure names the line. */
+    /** Reads \p text; \p folder is what its file names are relative to. Refuses: no images, images
+     * without size or field of view, links to later images or to none, numbers that are none. A
+     * failure names the line. */
     [[nodiscard]] static Result<PtoFile> parse(const QByteArray &text, const QString &folder);
-    /** The same from a file: regular, at most 512 MB. */
+    /** The comment line of projects whose yaws are relative to \p yawDegrees of the head: by it
+     * this program knows its own projects. */
+    [[nodiscard]] static QByteArray centreLine(double yawDegrees);
+    /** The same from a regular file of at most 512 MB. */
     [[nodiscard]] static Result<PtoFile> read(const QString &path);
 
     [[nodiscard]] const QVector<PtoImage> &images() const { return m_images; }
-    /** Lines of type t0 only. */
-    [[nodiscard]] QVector<PtoPoint> points() const;
-    /** Whether this program has written the file: its canvas follows the import's rules. */
-    [[nodiscard]] bool isOurs() const;
+    /** Those between two images; lines are no points. */
+    [[nodiscard]] const QVector<PtoPoint> &points() const { return m_points; }
+    /** Whether this program has written the file last: its canvas follows the import's rules. */
+    [[nodiscard]] bool isOurs() const { return m_isOurs; }
+    /** Whether it says itself what was recorded. */
+    [[nodiscard]] bool hasRecord() const { return m_hasRecord; }
+    /** Was subtracted from every yaw that is written. */
+    [[nodiscard]] double yawCentreDegrees() const { return m_yawCentreDegrees; }
 
-    /** Own angles of \p image and, of the image that a lens begins with, the lens. Linked values
-     * stay linked. */
+    /** Gives \p image the angles, unless they are another one's, and the exposure, if there is one.
+     */
     void place(int image, const PtoPlacement &placement);
+    /** For all images that share the field of view of \p master. What shifts or shears a picture is
+     * set to 0. */
     void setLens(int master, const PtoLens &lens);
-    /** In place of all c-lines of type t0. */
+    /** In place of all points that are there. */
     void setPoints(const QVector<PtoPoint> &points);
-    /** "#panohost record" lines: one per image with angles of its own, in place of those there. */
+    /** What the head said, one entry per image, in place of what was there. */
     void setRecord(const QVector<PtoAngles> &recorded, const QVector<double> &turns);
-    /** Lays the canvas and its crop out anew around the images, by the rules of the import, and
-     * turns all images so that its centre is at yaw 0. */
+    /** Lays canvas and crop out anew around the images, by the rules of the import, centred at yaw
+     * 0. A width that somebody has chosen stays. */
     void layOutCanvas();
 
-    /** The project for a file in \p folder: names are written relative to it. */
-    [[nodiscard]] QByteArray text(const QString &folder) const;
+    /** The project for a file in \p folder: names that were relative are so to it. Refuses folders
+     * that the format cannot hold. */
+    [[nodiscard]] Result<QByteArray> text(const QString &folder) const;
 
 private:
-    QByteArrayList m_lines;
+    class Reader;
+    enum class Kind { Panorama, Image, Point, Centre, Record };
+    /** A line that is read here; the others are known as what is between. */
+    struct Line {
+        int begin = 0; ///< into the text
+        int end = 0; ///< behind the line end
+        Kind kind = Kind::Image;
+    };
+
+    PtoFile() = default;
+    [[nodiscard]] double focalPixels(int image) const;
+    [[nodiscard]] double longestFocalPixels() const;
+    void writeYaw(int image);
+    /** An i-line with its name relative to \p folder. */
+    [[nodiscard]] Result<QByteArray> movedLine(int image, const QString &folder) const;
+    [[nodiscard]] QByteArray pointLines() const;
+    [[nodiscard]] QByteArray recordLines() const;
+
+    QByteArray m_text; ///< as read
+    QString m_folder;
+    std::vector<Line> m_lines;
+    QByteArray m_panoramaLine;
+    std::vector<QByteArray> m_imageLines; ///< with what was set
     QVector<PtoImage> m_images;
+    std::vector<int> m_nextOfLens; ///< the next image with the same field of view; -1: none
+    std::vector<int> m_nextOfStack; ///< the next image with the same angles
+    QVector<PtoPoint> m_points;
+    double m_yawCentreDegrees = 0.0;
+    int m_chosenWidth = 0; ///< of the canvas; 0: it is what the import's rules make
+    bool m_isOurs = false;
+    bool m_hasRecord = false;
+    bool m_linksExposures = false;
+    bool m_setsCentre = false;
+    bool m_setsRecord = false;
+    bool m_setsPoints = false;
 };
 
 } // namespace PanoHost

@@ -248,7 +248,8 @@ void ProjectMaker::layOutCanvas()
 void ProjectMaker::appendHeader()
 {
     QByteArray &text = m_project.text;
-    text += "# hugin project file\n#hugin_ptoversion 2\np f2 w"
+    text += "# hugin project file\n#hugin_ptoversion 2\n"
+        + PtoFile::centreLine(m_canvas.yawCentreDegrees) + "p f2 w"
         + QByteArray::number(m_canvas.size.width()) + " h"
         + QByteArray::number(m_canvas.size.height()) + " v" + fovText(m_canvas) + " k0 E"
         + ptoNumber(m_referenceExposure, 6) + " R0 ";
@@ -326,6 +327,28 @@ void ProjectMaker::appendVariables()
 Result<PtoProject> makePtoProject(const Panorama &panorama, const PtoOptions &options)
 {
     return ProjectMaker(panorama, options).make();
+}
+
+Result<PtoFile> projectOf(const Panorama &panorama, const PtoOptions &options)
+{
+    const auto project = makePtoProject(panorama, options);
+    if (!project) {
+        return project.error();
+    }
+    auto file = PtoFile::parse(project.value().text, options.projectFolder);
+    if (!file) {
+        return file.error();
+    }
+    QVector<PtoAngles> recorded;
+    QVector<double> turns;
+    for (const Position &position : panorama.positions) {
+        for (const PhotoInfo &photo : position.photos) {
+            recorded.append({ position.yawDegrees, position.pitchDegrees, position.rollDegrees });
+            turns.append(turnDegrees(photo, options));
+        }
+    }
+    file.value().setRecord(recorded, turns);
+    return file;
 }
 
 Result<PtoProject> writePtoProject(const Panorama &panorama, const QString &path,

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "host/model/panorama.h"
+#include "host/model/ptofile.h"
 
 #include <QByteArray>
 #include <QRect>
@@ -40,6 +41,9 @@ struct PtoProject {
  */
 [[nodiscard]] Result<PtoProject> makePtoProject(const Panorama &panorama,
                                                 const PtoOptions &options = {});
+
+/** The same as a file to be aligned, which holds the recorded angles in full. */
+[[nodiscard]] Result<PtoFile> projectOf(const Panorama &panorama, const PtoOptions &options = {});
 
 /**
  * Makes the project for the file \p path and writes it at once (never a partial file). Names are

@@ -107,6 +107,7 @@ void PtoProjectTest::singlePhotoIsWrittenWordForWord()
     const QByteArray expected
         = "# hugin project file\n"
           "#hugin_ptoversion 2\n"
+          "#panohost centre y0\n"
           "p f2 w1048 h2515 v75 k0 E12.643856 R0 S0,1048,886,1629 n\"TIFF_m c:LZW r:CROP\"\n"
           "m i0\n"
           "i w1200 h800 f0 v73.7397952917 Ra0 Rb0 Rc0 Rd0 Re0 a0 b0 c0 d0 e0 g0 t0 Va1 Vb0 Vc0 "
@@ -405,6 +406,7 @@ void PtoProjectTest::outputFollowsStacksAndMode()
     QByteArrayList comments = linesOf(panorama, '#');
     QCOMPARE(comments.takeFirst(), QByteArray("# hugin project file"));
     QCOMPARE(comments.takeFirst(), QByteArray("#hugin_ptoversion 2"));
+    QCOMPARE(comments.takeFirst(), QByteArray("#panohost centre y0"));
     QCOMPARE(comments, expected);
 }
 
