@@ -64,12 +64,16 @@ double deviationWithin(const std::vector<double> &values, double most)
  */
 void keepBlasToOneThread()
 {
-    for (const char *name :
-         { "openblas_set_num_threads", "MKL_Set_Num_Threads", "omp_set_num_threads" }) {
-        if (void *function = dlsym(RTLD_DEFAULT, name)) {
-            reinterpret_cast<void (*)(int)>(function)(1);
+    using Setter = void (*)(int);
+    const auto set = [](const char *name, int value) {
+        if (void *setter = dlsym(RTLD_DEFAULT, name)) {
+            reinterpret_cast<Setter>(setter)(value);
         }
-    }
+    };
+    set("openblas_set_num_threads", 1);
+    set("MKL_Set_Num_Threads", 1);
+    // No parallel region of OpenMP is to have more than the thread that comes to it.
+    set("omp_set_max_active_levels", 0);
 }
 
 /**
@@ -262,7 +266,7 @@ SolveResult Solver::run()
         m_iterations = (round + 1) * kRoundIterations;
     }
     m_iterations = kRounds * kRoundIterations;
-    iterate(problem, kLastIterations, 1e-9);
+    iterate(problem, kLastIterations, 1e-12);
 
     tell(kMostIterations);
     SolveResult result;
@@ -276,6 +280,11 @@ SolveResult Solver::run()
 ceres::CallbackReturnType Solver::operator()(const ceres::IterationSummary &summary)
 {
     tell(m_iterations + summary.iteration);
+    // Half is one standard deviation of a single number: no photo is going anywhere.
+    constexpr double kNoGain = 1e-3;
+    if (summary.iteration > 0 && summary.step_is_successful && summary.cost_change < kNoGain) {
+        return ceres::SOLVER_TERMINATE_SUCCESSFULLY;
+    }
     return m_watch.stopWanted() ? ceres::SOLVER_ABORT : ceres::SOLVER_CONTINUE;
 }
 

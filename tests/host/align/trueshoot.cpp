@@ -206,6 +206,10 @@ bool TrueShoot::sees(const Photo &photo, const Vector3d &direction, Vector2d &pi
     }
     const double ideal
         = lens.focalPixels * (lens.model == LensModel::Fisheye ? angle : std::tan(angle));
+    // Farther out the polynomial comes back to where it was.
+    if (ideal > std::hypot(lens.size.width(), lens.size.height())) {
+        return false;
+    }
     const double r = ideal / (std::min(lens.size.width(), lens.size.height()) / 2.0);
     const double radius = ideal
         * (lens.a * std::pow(r, 3) + lens.b * std::pow(r, 2) + lens.c * r + 1.0 - lens.a - lens.b
