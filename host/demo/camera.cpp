@@ -32,6 +32,25 @@ LightField exposed(const Radiance &radiance, const QSize &size, int side,
     return light;
 }
 
+/** Takes away what does not reach the corners of a photo. */
+void vignette(LightField &light, const LensErrors &errors)
+{
+    if (errors.vignettingB == 0.0 && errors.vignettingC == 0.0 && errors.vignettingD == 0.0) {
+        return;
+    }
+    const double width = light.size.width();
+    const double height = light.size.height();
+    const double halfDiagonalSquared = (width * width + height * height) / 4.0;
+    auto pixel = light.pixels.begin();
+    for (double down = (1.0 - height) / 2.0; down < height / 2.0; ++down) {
+        for (double right = (1.0 - width) / 2.0; right < width / 2.0; ++right, ++pixel) {
+            const double r2 = (down * down + right * right) / halfDiagonalSquared;
+            const double steeper = errors.vignettingC + r2 * errors.vignettingD;
+            *pixel = static_cast<float>(1.0 + r2 * (errors.vignettingB + r2 * steeper)) * *pixel;
+        }
+    }
+}
+
 } // namespace
 
 double Camera::focalPixels() const
@@ -42,6 +61,7 @@ double Camera::focalPixels() const
 View::View(const Camera &camera, const Pose &pose)
     : m_camera(camera)
     , m_focalPixels(camera.focalPixels())
+    , m_radiusUnit(std::min(camera.size.width(), camera.size.height()) / 2.0)
     , m_forward(directionTo(pose.yawDegrees, pose.pitchDegrees))
 {
     const Vec3 levelRight = directionTo(pose.yawDegrees + 90.0, 0.0);
@@ -52,10 +72,42 @@ View::View(const Camera &camera, const Pose &pose)
     m_up = sine * levelRight + cosine * levelUp;
 }
 
+double View::photoRadius(double ideal) const
+{
+    const LensErrors &e = m_camera.errors;
+    return ideal * (1.0 - e.a - e.b - e.c + ideal * (e.c + ideal * (e.b + ideal * e.a)));
+}
+
+double View::photoRadiusSlope(double ideal) const
+{
+    const LensErrors &e = m_camera.errors;
+    return 1.0 - e.a - e.b - e.c + ideal * (2.0 * e.c + ideal * (3.0 * e.b + ideal * 4.0 * e.a));
+}
+
+double View::idealPerPhotoRadius(double photo) const
+{
+    const LensErrors &e = m_camera.errors;
+    if (e.a == 0.0 && e.b == 0.0 && e.c == 0.0) {
+        return 1.0;
+    }
+    if (photo <= 0.0) {
+        return 1.0 / photoRadiusSlope(0.0);
+    }
+    double ideal = photo;
+    constexpr int kNewtonSteps = 6; // the last ones change nothing for any lens one would buy
+    for (int i = 0; i < kNewtonSteps; ++i) {
+        ideal -= (photoRadius(ideal) - photo) / photoRadiusSlope(ideal);
+    }
+    return ideal / photo;
+}
+
 Vec3 View::directionAt(double x, double y) const
 {
-    const double right = (x - m_camera.size.width() / 2.0) / m_focalPixels;
-    const double up = (m_camera.size.height() / 2.0 - y) / m_focalPixels;
+    double right = x - m_camera.size.width() / 2.0;
+    double up = m_camera.size.height() / 2.0 - y;
+    const double straightened = idealPerPhotoRadius(std::hypot(right, up) / m_radiusUnit);
+    right = straightened * right / m_focalPixels;
+    up = straightened * up / m_focalPixels;
     if (m_camera.projection == Projection::Rectilinear) {
         return normalized(m_forward + right * m_right + up * m_up);
     }
@@ -78,6 +130,11 @@ std::optional<QPointF> View::pixelAt(const Vec3 &direction) const
     } else {
         return std::nullopt;
     }
+    const double ideal = scale * sine / m_radiusUnit;
+    if (photoRadiusSlope(ideal) <= 0.0) {
+        return std::nullopt; // far outside, where the polynomial turns back
+    }
+    scale *= ideal > 0.0 ? photoRadius(ideal) / ideal : photoRadiusSlope(0.0);
     const QPointF pixel(m_camera.size.width() / 2.0 + scale * right,
                         m_camera.size.height() / 2.0 - scale * up);
     const bool inside = pixel.x() >= 0.0 && pixel.x() <= m_camera.size.width() && pixel.y() >= 0.0
@@ -89,8 +146,10 @@ LightField exposePhoto(const Radiance &radiance, const Camera &camera, const Pos
                        int samplesPerSide)
 {
     const View view(camera, pose);
-    return exposed(radiance, camera.size, samplesPerSide,
-                   [&view](double x, double y) { return view.directionAt(x, y); });
+    LightField light = exposed(radiance, camera.size, samplesPerSide,
+                               [&view](double x, double y) { return view.directionAt(x, y); });
+    vignette(light, camera.errors);
+    return light;
 }
 
 LightField exposeSphere(const Radiance &radiance, int width, int samplesPerSide)

@@ -25,11 +25,23 @@ enum class Projection {
     EquidistantFisheye,
 };
 
-/** A camera without lens errors. */
+/** What a lens does besides its projection; the polynomials of Hugin's projects. */
+struct LensErrors {
+    /** In halves of the shorter side: photo = ideal * (a r^3 + b r^2 + c r + 1 - a - b - c). */
+    double a = 0.0;
+    double b = 0.0;
+    double c = 0.0;
+    /** Radii in halves of the diagonal: 1 + Vb r^2 + Vc r^4 + Vd r^6 of the light arrives. */
+    double vignettingB = 0.0;
+    double vignettingC = 0.0;
+    double vignettingD = 0.0;
+};
+
 struct Camera {
     QSize size; ///< stored pixels
     double focal35mm = 0.0; ///< millimetres, 35 mm equivalent by the frame's diagonal
     Projection projection = Projection::Rectilinear;
+    LensErrors errors{};
 
     /** Focal length in pixels: pixels per radian at the centre of the picture. */
     [[nodiscard]] double focalPixels() const;
@@ -59,8 +71,13 @@ public:
     [[nodiscard]] const Vec3 &axis() const { return m_forward; }
 
 private:
+    [[nodiscard]] double photoRadius(double ideal) const;
+    [[nodiscard]] double photoRadiusSlope(double ideal) const;
+    [[nodiscard]] double idealPerPhotoRadius(double photo) const;
+
     Camera m_camera;
     double m_focalPixels = 0.0;
+    double m_radiusUnit = 1.0; ///< of the polynomial of distortion, pixels
     Vec3 m_right;
     Vec3 m_up;
     Vec3 m_forward;

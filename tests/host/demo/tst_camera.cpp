@@ -61,6 +61,9 @@ private Q_SLOTS:
     void markerLandsOnItsPixel_data();
     void markerLandsOnItsPixel();
     void uprightPortraitKeepsTheFocalLengthInPixels();
+    void distortionMovesMarkersAlongTheirRadius_data();
+    void distortionMovesMarkersAlongTheirRadius();
+    void vignettingTakesItsShareOfTheLight();
     void pixelAndDirectionAreEachOthersInverse_data();
     void pixelAndDirectionAreEachOthersInverse();
     void directionsBehindARectilinearCameraHaveNoPixel();
@@ -140,17 +143,78 @@ void TestCamera::uprightPortraitKeepsTheFocalLengthInPixels()
     QVERIFY(distance(seen, QPointF(300, 450 - 600.0 * tangent(20.0))) < 0.2);
 }
 
+void TestCamera::distortionMovesMarkersAlongTheirRadius_data()
+{
+    QTest::addColumn<double>("a");
+    QTest::addColumn<double>("b");
+    QTest::addColumn<double>("c");
+    QTest::addColumn<double>("markerYaw");
+    QTest::addColumn<double>("roll");
+    QTest::addColumn<QPointF>("pixel");
+    // Half of the shorter side, 300 pixels, is the unit. tan(26.56505) = 1 / 2: radius 1 stays.
+    QTest::newRow("at radius 1 nothing moves")
+        << 0.01 << -0.03 << 0.02 << 26.56505 << 0.0 << QPointF(750, 300);
+    // tan(33.69007) = 2 / 3: 4 / 3 units; barrel: 4 / 3 * (-0.02 * 16 / 9 + 1.02) = 1.3125926
+    QTest::newRow("b = -0.02") << 0.0 << -0.02 << 0.0 << 33.69007 << 0.0
+                               << QPointF(450 + 300 * 1.3125926, 300);
+    // 4 / 3 * (0.01 * 64 / 27 + 0.02 * 16 / 9 - 0.03 * 4 / 3 + 1) = 1.3590123
+    QTest::newRow("all three") << 0.01 << 0.02 << -0.03 << 33.69007 << 0.0
+                               << QPointF(450 + 300 * 1.3590123, 300);
+    // tan(14.03624) = 1 / 4: half a unit: 0.5 * (-0.1 / 4 + 1.1) = 0.5375; to the right is now up
+    QTest::newRow("near the centre, turned")
+        << 0.0 << -0.1 << 0.0 << 14.03624 << 90.0 << QPointF(450, 300 - 300 * 0.5375);
+}
+
+void TestCamera::distortionMovesMarkersAlongTheirRadius()
+{
+    QFETCH(double, a);
+    QFETCH(double, b);
+    QFETCH(double, c);
+    QFETCH(double, markerYaw);
+    QFETCH(double, roll);
+    QFETCH(QPointF, pixel);
+    const Camera camera{ kSize, kStandardFocal, Projection::Rectilinear, { a, b, c } };
+    const QPointF seen
+        = centroid(exposePhoto(spotAt(markerYaw, 0.0, 0.3), camera, { 0.0, 0.0, roll }, 1));
+    QVERIFY2(distance(seen, pixel) < 0.2,
+             qPrintable(QStringLiteral("%1, %2").arg(seen.x()).arg(seen.y())));
+}
+
+void TestCamera::vignettingTakesItsShareOfTheLight()
+{
+    const Radiance even = [](const Vec3 &) { return Rgb{ 0.8F, 0.4F, 0.2F }; };
+    LensErrors errors;
+    errors.vignettingB = -0.45;
+    errors.vignettingC = 0.1;
+    errors.vignettingD = -0.02;
+    const QSize odd(301, 201); // half of the diagonal: hypot(150.5, 100.5) = 180.97
+    const LightField photo
+        = exposePhoto(even, { odd, kStandardFocal, Projection::Rectilinear, errors }, {}, 1);
+    const auto red = [&](int x, int y) { return photo.pixels[static_cast<size_t>(y) * 301 + x]; };
+    QVERIFY(std::fabs(red(150, 100).red - 0.8F) < 1e-6F);
+    // r^2 = 150^2 / 32750.5 = 0.687012; 1 - 0.309155 + 0.047199 - 0.006485
+    QVERIFY(std::fabs(red(300, 100).red - 0.8F * 0.731558F) < 1e-5F);
+    QVERIFY(std::fabs(red(0, 100).green - 0.4F * 0.731558F) < 1e-5F);
+    // The middle of the corner's pixel: (150^2 + 100^2) / 32750.5 = 0.992351
+    QVERIFY(std::fabs(red(300, 200).blue - 0.2F * 0.632374F) < 1e-5F);
+}
+
 void TestCamera::pixelAndDirectionAreEachOthersInverse_data()
 {
     QTest::addColumn<int>("projection");
-    QTest::newRow("rectilinear") << static_cast<int>(Projection::Rectilinear);
-    QTest::newRow("fisheye") << static_cast<int>(Projection::EquidistantFisheye);
+    QTest::addColumn<double>("b");
+    QTest::newRow("rectilinear") << static_cast<int>(Projection::Rectilinear) << 0.0;
+    QTest::newRow("fisheye") << static_cast<int>(Projection::EquidistantFisheye) << 0.0;
+    QTest::newRow("barrel") << static_cast<int>(Projection::Rectilinear) << -0.05;
+    QTest::newRow("pincushion of a fisheye")
+        << static_cast<int>(Projection::EquidistantFisheye) << 0.03;
 }
 
 void TestCamera::pixelAndDirectionAreEachOthersInverse()
 {
     QFETCH(int, projection);
-    const View view({ kSize, kFisheyeFocal, static_cast<Projection>(projection) },
+    QFETCH(double, b);
+    const View view({ kSize, kFisheyeFocal, static_cast<Projection>(projection), { 0.0, b } },
                     { 123.0, -56.0, 78.0 });
     for (const QPointF place :
          { QPointF(0.25, 0.25), QPointF(450, 300), QPointF(899, 1), QPointF(17, 580) }) {
@@ -168,6 +232,9 @@ void TestCamera::directionsBehindARectilinearCameraHaveNoPixel()
     QVERIFY(view.pixelAt(directionTo(0.0, 0.0)));
     QVERIFY(!view.pixelAt(directionTo(180.0, 0.0)));
     QVERIFY(!view.pixelAt(directionTo(37.0, 0.0))); // half the field of view is 36.87 degrees
+    // Barrel distortion brings directions far outside back into the polynomial's picture: not here.
+    const View barrel({ kSize, kStandardFocal, Projection::Rectilinear, { 0.0, -0.02 } }, {});
+    QVERIFY(!barrel.pixelAt(directionTo(74.0, 0.0)));
 }
 
 void TestCamera::markerLandsOnItsPixelOfTheSphere_data()
