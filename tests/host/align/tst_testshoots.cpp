@@ -83,6 +83,8 @@ private Q_SLOTS:
     void recordsAreRounded_data();
     void recordsAreRounded();
     void photosSeeWhereTheyTrulyPoint();
+    void truthsTurnWithWhatWasFound();
+    void skiesAndIslandsAreJudgedApart();
     void nearWallsShiftWithTheEye();
     void scenesAreWhatTheirNamesSay();
     void noiseSpreadsAsToldAndIsTheSameEachTime();
@@ -256,6 +258,49 @@ void TestTestShoots::photosSeeWhereTheyTrulyPoint()
     QVERIFY(near(seen.red, expected.red, 1e-5));
     QVERIFY(near(seen.green, expected.green, 1e-5));
     QVERIFY(near(seen.blue, expected.blue, 1e-5));
+}
+
+void TestTestShoots::truthsTurnWithWhatWasFound()
+{
+    // What truly looked to yaw 90 is believed to have looked to yaw 0, and 10 degrees higher.
+    const TestShoot shoot = tiny();
+    const Rotations found = turned(
+        trueRotations(shoot), rotationOf({ 0.0, 10.0, 0.0 }) * rotationOf({ -90.0, 0.0, 0.0 }));
+    const Eigen::Matrix3d common = judged(shoot, found).common;
+    const auto believed = [&](int yaw, int pitch) {
+        const QRect spot(18000 + 100 * yaw, 9000 - 100 * pitch, 1, 1); // 0.01 degrees
+        return truthOf(shoot, { QSize(36000, 18000), 360.0, 0.0, spot }, common).pixels[0].red;
+    };
+    // The spot's own middle is half of its size further.
+    const auto truly = [&](double yaw, double pitch) {
+        return lightOf(shoot.scene)(directionTo(yaw + 0.005, pitch - 0.005)).red;
+    };
+    QVERIFY(near(believed(0, 10), truly(90.0, 0.0), 0.01));
+    QVERIFY(near(believed(0, 30), truly(90.0, 20.0), 0.01));
+    QVERIFY(near(believed(0, -40), truly(90.0, -50.0), 0.01));
+    QVERIFY(near(believed(90, 0), truly(180.0, 0.0), 0.01));
+}
+
+void TestTestShoots::skiesAndIslandsAreJudgedApart()
+{
+    const Eigen::Matrix3d common = rotationOf({ 50.0, -7.0, 3.0 });
+    TestShoot sky = *named(QStringLiteral("sky"));
+    Rotations found = turned(trueRotations(sky), common);
+    for (size_t i = 16; i < 25; ++i) { // 8 + 8 with texture, 8 + 1 without
+        found[i] = found[i] * rotationOf({ 0.0, 0.2, 0.0 });
+    }
+    const Verdict ofSky = judged(sky, found);
+    QVERIFY(ofSky.tied.largest < 1e-6);
+    QVERIFY(near(ofSky.apart, 0.2, 1e-6));
+
+    const TestShoot two = islands(5, 4, 1);
+    Rotations apart = turned(trueRotations(two), common);
+    for (size_t i = 5; i < 9; ++i) {
+        apart[i] = rotationOf({ 0.0, 0.0, 0.7 }) * apart[i];
+    }
+    const Verdict ofIslands = judged(two, apart);
+    QVERIFY(ofIslands.tied.largest < 1e-6);
+    QVERIFY(near(ofIslands.apart, 0.7, 1e-6));
 }
 
 void TestTestShoots::nearWallsShiftWithTheEye()

@@ -324,8 +324,8 @@ Result<Panorama> TestShoots::photographed(const TestShoot &shoot, const QString 
                         [](const QString &path) { return readPhotoInfo(path); });
 }
 
-QImage TestShoots::truthOf(const TestShoot &shoot, const SpherePart &part,
-                           const Eigen::Matrix3d &turned)
+LightField TestShoots::truthOf(const TestShoot &shoot, const SpherePart &part,
+                               const Eigen::Matrix3d &turned)
 {
     const Radiance light = lightOf(shoot.scene);
     // The world of rotations has y up, that of directions has y to the north.
@@ -334,5 +334,34 @@ QImage TestShoots::truthOf(const TestShoot &shoot, const SpherePart &part,
             = turned * Eigen::Vector3d(direction.x, direction.z, direction.y);
         return light({ world.x(), world.z(), world.y() });
     };
-    return developed(exposePart(seen, part, kSamplesPerTruthPixelSide));
+    return exposePart(seen, part, kSamplesPerTruthPixelSide);
+}
+
+TestShoots::Verdict TestShoots::judged(const TestShoot &shoot, const Rotations &found)
+{
+    const Rotations truth = trueRotations(shoot);
+    if (shoot.scene == TestScene::PlainBelt) {
+        Rotations inOwnFrames = found;
+        for (const Chosen &island : shoot.groups) {
+            const Eigen::Matrix3d own = commonRotation(truth, found, island);
+            for (const int i : island) {
+                inOwnFrames[static_cast<size_t>(i)] = own * found.at(i);
+            }
+        }
+        const Chosen all = allOf(static_cast<int>(found.size()));
+        return { attitudeErrors(truth, inOwnFrames, Eigen::Matrix3d::Identity(), all),
+                 degreesBetweenGroups(truth, found, shoot.groups.at(0), shoot.groups.at(1)),
+                 commonRotation(truth, found, all) };
+    }
+    Chosen tied;
+    Chosen sky;
+    for (const Chosen &group : shoot.groups) {
+        const bool isSky = shoot.scene == TestScene::OpenSky
+            && shoot.planned[group.front()].pitchDegrees > kOpenSkyPitchDegrees;
+        Chosen &kind = isSky ? sky : tied;
+        kind.insert(kind.end(), group.begin(), group.end());
+    }
+    const Eigen::Matrix3d common = commonRotation(truth, found, tied);
+    return { attitudeErrors(truth, found, common, tied),
+             attitudeErrors(truth, found, common, sky).rms, common };
 }

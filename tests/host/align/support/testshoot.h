@@ -95,10 +95,21 @@ void setGrid(TestShoot &shoot, int rows, int columns, double overlapPercent,
 [[nodiscard]] PanoHost::LightField lightAt(const TestShoot &shoot, int position);
 
 /**
- * What a faultless panorama of \p part looks like, \p turned into the frame of found rotations by
+ * What a faultless panorama of \p part receives, \p turned into the frame of found rotations by
  * their `commonRotation`.
  */
-[[nodiscard]] QImage truthOf(const TestShoot &shoot, const PanoHost::SpherePart &part,
-                             const Eigen::Matrix3d &turned = Eigen::Matrix3d::Identity());
+[[nodiscard]] PanoHost::LightField truthOf(const TestShoot &shoot, const PanoHost::SpherePart &part,
+                                           const Eigen::Matrix3d &turned
+                                           = Eigen::Matrix3d::Identity());
+
+/** How well photos were placed, and what part of them could be placed by their texture. */
+struct Verdict {
+    AttitudeErrors tied; ///< of the photos with texture, each island in its own frame
+    /** Of the photos of nothing but sky in the frame of the others, rms; between islands, the
+     * angle; 0 where there are neither. Degrees. */
+    double apart = 0.0;
+    Eigen::Matrix3d common; ///< found to true
+};
+[[nodiscard]] Verdict judged(const TestShoot &shoot, const Rotations &found);
 
 } // namespace TestShoots
