@@ -226,6 +226,9 @@ FeatureSet featuresOf(const GreyPicture &picture, const FeatureOptions &options)
         sift->compute(grey, points, descriptors);
     }
     FeatureSet features;
+    features.places.reserve(points.size());
+    features.descriptors.reserve(points.size());
+    features.lights.reserve(points.size());
     for (size_t i = 0; i < points.size(); ++i) {
         const cv::Point2d place = placeOf(points[i]);
         features.places.push_back({ static_cast<float>((place.x + 0.5) / picture.xScale - 0.5),

@@ -34,22 +34,23 @@ public:
             tryTo([&] { m_work(row); });
             const std::lock_guard<std::mutex> lock(m_mutex);
             ++m_done;
-            m_progress.notify_one();
+            if (hasEnded()) {
+                m_end.notify_one();
+            }
         }
     }
 
-    /** Calls \p watch until all rows are done, or none is to be begun any more. */
+    /** Calls \p watch, at least once, until all rows are done or none is to be begun any more. */
     void watch(const std::function<void(int done)> &watch)
     {
         constexpr std::chrono::milliseconds kPause(100);
         std::unique_lock<std::mutex> lock(m_mutex);
-        while (m_done < m_count && !m_thrown) {
-            const int before = m_done;
+        do {
+            const int done = m_done;
             lock.unlock();
-            tryTo([&] { watch(before); });
+            tryTo([&] { watch(done); });
             lock.lock();
-            m_progress.wait_for(lock, kPause, [&] { return m_done != before || m_thrown; });
-        }
+        } while (!m_end.wait_for(lock, kPause, [this] { return hasEnded(); }));
     }
 
     void rethrow() const
@@ -60,6 +61,9 @@ public:
     }
 
 private:
+    /** Under the mutex. */
+    [[nodiscard]] bool hasEnded() const { return m_done == m_count || m_thrown; }
+
     template <typename Step> void tryTo(Step step)
     {
         try {
@@ -75,7 +79,7 @@ private:
     const std::function<void(int row)> &m_work;
     std::atomic<int> m_next{ 0 };
     std::mutex m_mutex;
-    std::condition_variable m_progress;
+    std::condition_variable m_end;
     int m_done = 0;
     std::exception_ptr m_thrown; ///< the first
 };

@@ -15,9 +15,9 @@ namespace AlignPictures
 Radiance texture(quint32 seed)
 {
     return [seed](const Vec3 &direction) {
-        // Cells from 1 / 3 radian down to 1 / 384.
-        const float light = 0.25F + 0.2F * fractalNoise(3.0 * direction, 4, seed)
-            + 0.2F * fractalNoise(48.0 * direction, 4, seed + 1);
+        // Cells from 1 / 3 radian down to 1 / 192.
+        const float light = 0.25F + 0.2F * fractalNoise(3.0 * direction, 2, seed)
+            + 0.2F * fractalNoise(48.0 * direction, 3, seed + 1);
         return Rgb{ light, light, light };
     };
 }
@@ -39,7 +39,7 @@ Radiance facade()
 
 QImage photo(const Radiance &radiance, const Camera &camera, const Pose &pose)
 {
-    return developed(exposePhoto(radiance, camera, pose));
+    return developed(exposePhoto(radiance, camera, pose, 1));
 }
 
 GreyPicture grey(const QImage &picture)

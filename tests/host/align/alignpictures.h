@@ -12,7 +12,7 @@
 namespace AlignPictures
 {
 
-/** Grey light full of detail, from 20 degrees down to about 0.2. */
+/** Grey light full of detail, from 20 degrees down to about 0.3. */
 [[nodiscard]] PanoHost::Radiance texture(quint32 seed = 7);
 
 /** The same window every four degrees, on a wall with faint texture of its own. */

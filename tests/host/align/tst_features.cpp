@@ -19,20 +19,23 @@ using namespace PanoHost;
 namespace
 {
 
-/** Round spots on grey, \p radius pixels wide, at \p places: stored pixels, the first one's middle
- * is 0. */
+/** Round spots on grey that do not touch, \p radius pixels wide, at \p places: stored pixels, the
+ * first one's middle is 0. */
 QImage spots(const QSize &size, const std::vector<QPointF> &places, double radius)
 {
     QImage picture(size, QImage::Format_RGB32);
-    for (int y = 0; y < size.height(); ++y) {
-        for (int x = 0; x < size.width(); ++x) {
-            double level = 90.0;
-            for (const QPointF &place : places) {
+    picture.fill(qRgb(90, 90, 90));
+    const int reach = qRound(4.0 * radius);
+    for (const QPointF &place : places) {
+        const QRect around(place.toPoint() - QPoint(reach, reach),
+                           QSize(2 * reach + 1, 2 * reach + 1));
+        const QRect part = around & picture.rect();
+        for (int y = part.top(); y <= part.bottom(); ++y) {
+            for (int x = part.left(); x <= part.right(); ++x) {
                 const double away = std::hypot(x - place.x(), y - place.y()) / radius;
-                level += 120.0 * std::exp(-away * away / 2.0);
+                const int grey = 90 + qRound(120.0 * std::exp(-away * away / 2.0));
+                picture.setPixel(x, y, qRgb(grey, grey, grey));
             }
-            const int grey = std::min(255, qRound(level));
-            picture.setPixel(x, y, qRgb(grey, grey, grey));
         }
     }
     return picture;
