@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/model/ptoproject.h"
+#include "host/model/safefile.h"
 #include "tests/host/testphotos.h"
 #include "tests/support/testprogram.h"
 
@@ -10,7 +11,10 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QtMath>
 #include <QtTest>
+
+#include <cmath>
 
 using namespace PanoHost;
 
@@ -53,8 +57,9 @@ private Q_SLOTS:
     void cropIsTheCoveredPart();
     void oddNamesAreFound_data();
     void oddNamesAreFound();
-
     void photosAreFoundThroughALinkedFolder();
+    void alignedProjectIsUnderstood();
+    void projectOfTheToolsIsRead();
 
 private:
     /** One row of \p count stacks of \p each small photos, on disk, \p step degrees apart. */
@@ -65,7 +70,7 @@ private:
 
 void PtoToolsTest::initTestCase()
 {
-    for (const char *const tool : { "checkpto", "pano_modify", "nona" }) {
+    for (const char *const tool : { "checkpto", "pano_modify", "nona", "pto_gen" }) {
         if (QStandardPaths::findExecutable(QLatin1String(tool)).isEmpty()) {
             QSKIP("hugin-tools is not installed");
         }
@@ -274,6 +279,104 @@ void PtoToolsTest::photosAreFoundThroughALinkedFolder()
     const ToolRun nona = run(QStringLiteral("nona"),
                              { QStringLiteral("-m"), QStringLiteral("PNG"), QStringLiteral("-o"),
                                QStringLiteral("mapped"), project },
+                             m_folder->path());
+    QVERIFY2(nona.exitCode == 0, qPrintable(nona.output));
+}
+
+void PtoToolsTest::alignedProjectIsUnderstood()
+{
+    const Panorama panorama = shoot(6, 3, 60.0);
+    PtoOptions options;
+    options.projectFolder = m_folder->path();
+    PtoFile file = projectOf(panorama, options).value();
+    PtoLens lens;
+    lens.horizontalFovDegrees = 80.0;
+    lens.vignettingB = -0.25;
+    file.setLens(0, lens);
+    // Every other photo stands on its head: were the first pixel's middle elsewhere, points would
+    // not meet.
+    QVector<PtoPoint> points;
+    const double focal = 60.0 / std::tan(qDegreesToRadians(40.0));
+    const double aside = focal * std::tan(qDegreesToRadians(30.0));
+    for (int i = 0; i < 6; ++i) {
+        const bool turned = i % 2 == 1;
+        file.place(3 * i, { { 60.0 * i + 7.25, 0.0, turned ? 180.0 : 0.0 }, 12.0 + i });
+        // Half way to the next photo, which sees it as far from its own middle.
+        const double right = turned ? 59.5 - aside : 59.5 + aside;
+        const double up = turned ? 39.5 + 10.0 : 39.5 - 10.0;
+        points.append({ 3 * i, 3 * (i + 1) % 18, right, up, right, 79.0 - up });
+    }
+    points.append({ 0, 3, 1.0, 1.0, 1.0, 1.0, true });
+    file.setPoints(points);
+    file.layOutCanvas();
+    const QString path = at(QStringLiteral("aligned.pto"));
+    QVERIFY(writeFileAtomically(path, file.text(m_folder->path()).value()).ok());
+    const ToolRun check = run(QStringLiteral("checkpto"), { path }, m_folder->path());
+    QCOMPARE(check.exitCode, 0); // all are connected
+    QVERIFY2(
+        check.output.contains(QStringLiteral("18 images\n1 lenses\n6 stacks\n6 control points")),
+        qPrintable(check.output));
+    QVERIFY2(check.output.contains(QStringLiteral("Maximum           : 0.00")),
+             qPrintable(check.output));
+    // Saved by a tool it has the same values, and nothing that only this program knows.
+    QCOMPARE(run(QStringLiteral("pano_modify"),
+                 { QStringLiteral("-o"), at(QStringLiteral("out.pto")), path }, m_folder->path())
+                 .exitCode,
+             0);
+    const PtoFile saved = PtoFile::read(at(QStringLiteral("out.pto"))).value();
+    QVERIFY(!saved.isOurs());
+    QCOMPARE(saved.points().size(), 6);
+    QCOMPARE(saved.images().size(), 18);
+    for (int i = 0; i < 18; ++i) {
+        const PtoImage &ours = file.images()[i];
+        const PtoImage &theirs = saved.images()[i];
+        QVERIFY(std::abs(std::remainder(ours.angles.yaw - theirs.angles.yaw, 360.0)) < 1e-6);
+        QVERIFY(std::abs(std::remainder(ours.angles.roll - theirs.angles.roll, 360.0)) < 1e-6);
+        QCOMPARE(theirs.angleMaster, ours.angleMaster);
+        QCOMPARE(theirs.stackMaster, ours.stackMaster);
+        QCOMPARE(theirs.lensMaster, ours.lensMaster);
+        QCOMPARE(theirs.horizontalFovDegrees, 80.0);
+        QCOMPARE(theirs.exposureValue, ours.exposureValue);
+        QCOMPARE(theirs.path, ours.path);
+    }
+    QVERIFY(saved.text(m_folder->path()).value().contains(" Vb-0.25 "));
+}
+
+void PtoToolsTest::projectOfTheToolsIsRead()
+{
+    shoot(2, 3, 60.0);
+    const QStringList photos = QDir(m_folder->path()).entryList({ QStringLiteral("*.jpg") });
+    const QString path = at(QStringLiteral("theirs.pto"));
+    const ToolRun made
+        = run(QStringLiteral("pto_gen"),
+              QStringList{ QStringLiteral("-s"), QStringLiteral("3"), QStringLiteral("-l"),
+                           QStringLiteral("-f"), QStringLiteral("50"), QStringLiteral("-o"), path }
+                  + photos,
+              m_folder->path());
+    QVERIFY2(made.exitCode == 0, qPrintable(made.output));
+    PtoFile file = PtoFile::read(path).value();
+    QVERIFY(!file.isOurs());
+    QCOMPARE(file.images().size(), 6);
+    QCOMPARE(file.images()[5].angleMaster, 3);
+    QCOMPARE(file.images()[5].stackMaster, 3);
+    QCOMPARE(file.images()[5].lensMaster, 0);
+    QCOMPARE(file.images()[5].horizontalFovDegrees, 50.0);
+    QCOMPARE(file.images()[5].path, at(photos[5]));
+    file.place(3, { { 25.0, 0.0, 0.0 }, {} });
+    file.setPoints({ { 0, 3, 60.0, 40.0, 10.0, 40.0 } });
+    QVERIFY(QDir().mkpath(at(QStringLiteral("below"))));
+    const QString moved = at(QStringLiteral("below/moved.pto"));
+    QVERIFY(writeFileAtomically(moved, file.text(at(QStringLiteral("below"))).value()).ok());
+    const ToolRun check = run(QStringLiteral("checkpto"),
+                              { QStringLiteral("--print-stack-info"), moved }, m_folder->path());
+    QCOMPARE(check.exitCode, 0);
+    QVERIFY2(
+        check.output.contains(QStringLiteral("6 images\n1 lenses\n2 stacks\n1 control points")),
+        qPrintable(check.output));
+    // Photos are found from the folder of the file that is moved.
+    const ToolRun nona = run(QStringLiteral("nona"),
+                             { QStringLiteral("-m"), QStringLiteral("PNG"), QStringLiteral("-o"),
+                               at(QStringLiteral("mapped")), moved },
                              m_folder->path());
     QVERIFY2(nona.exitCode == 0, qPrintable(nona.output));
 }
