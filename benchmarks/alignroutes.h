@@ -1,5 +1,5 @@
 // SPDX-FileCopyrightText: 2026 Orvane
-// SPDX-License-Identifier: GPL-2.0-or-later
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "tests/host/align/support/testshoot.h"

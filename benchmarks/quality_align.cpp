@@ -1,5 +1,5 @@
 // SPDX-FileCopyrightText: 2026 Orvane
-// SPDX-License-Identifier: GPL-2.0-or-later
+// SPDX-License-Identifier: MIT
 #include "benchmarks/alignroutes.h"
 #include "host/model/photofile.h"
 #include "host/model/safefile.h"
