@@ -32,19 +32,21 @@ LightField exposed(const Radiance &radiance, const QSize &size, int side,
     return light;
 }
 
-/** Takes away what does not reach the corners of a photo. */
+/** Takes away the light that the lens keeps from the corners of a photo. */
 void vignette(LightField &light, const LensErrors &errors)
 {
     if (errors.vignettingB == 0.0 && errors.vignettingC == 0.0 && errors.vignettingD == 0.0) {
         return;
     }
-    const double width = light.size.width();
-    const double height = light.size.height();
-    const double halfDiagonalSquared = (width * width + height * height) / 4.0;
+    const int width = light.size.width();
+    const int height = light.size.height();
+    const double halfDiagonal = std::hypot(width, height) / 2.0;
     auto pixel = light.pixels.begin();
-    for (double down = (1.0 - height) / 2.0; down < height / 2.0; ++down) {
-        for (double right = (1.0 - width) / 2.0; right < width / 2.0; ++right, ++pixel) {
-            const double r2 = (down * down + right * right) / halfDiagonalSquared;
+    for (int row = 0; row < height; ++row) {
+        const double down = (row + 0.5 - height / 2.0) / halfDiagonal;
+        for (int column = 0; column < width; ++column, ++pixel) {
+            const double right = (column + 0.5 - width / 2.0) / halfDiagonal;
+            const double r2 = down * down + right * right;
             const double steeper = errors.vignettingC + r2 * errors.vignettingD;
             *pixel = static_cast<float>(1.0 + r2 * (errors.vignettingB + r2 * steeper)) * *pixel;
         }
