@@ -18,7 +18,7 @@ struct MatchRules {
     double windowPixels = 0.0; ///< a feature's partner lies this near to where it is predicted
     double consensusPixels = 0.0; ///< partners agree with one rotation within this
     double gateDegrees = 0.0; ///< that rotation leaves the predicted one by no more; 0: by any
-    int mostPoints = 40; ///< kept, spread over the overlap
+    int mostPoints = 80; ///< kept, spread over the overlap
 };
 
 /** The rules of the first look, from the record alone, for a photo through \p lens. */

@@ -13,6 +13,7 @@ const QVector<CommandRow> &commands()
         { "import", "make a Hugin project from a head's record and photos", runImport },
         { "check", "say what is known about record and photos; writes nothing", runCheck },
         { "describe", "print a panorama's description as JSON or as a table", runDescribe },
+        { "align", "put every photo exactly where it belongs", runAlign },
         { "preview", "save the layout picture of the import page", runPreview },
         { "demo", "photograph a made-up scene, import and stitch it", runDemoCommand },
         { "plugins", "list the import plug-ins found", runPlugins },

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/cli/alignline.h"
 #include "host/cli/commands.h"
 #include "host/cli/requestline.h"
 #include "host/import/importjob.h"
@@ -8,8 +9,10 @@
 #include "host/model/displayname.h"
 #include "host/model/panoramajson.h"
 #include "host/model/ptoproject.h"
+#include "host/model/safefile.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 namespace PanoHost
 {
@@ -39,7 +42,9 @@ CommandLine importLine()
         QVector<OptionRow>{
             { "-o|--output", "NAME.pto", "the Hugin project to write" },
             { "--json", "FILE|-", "the description as JSON; '-' is standard output" },
-        });
+            { "--align", nullptr,
+              "put every photo exactly where it belongs; see 'panohost align'" },
+        } + alignOptionRows());
 }
 
 struct Outputs {
@@ -56,6 +61,10 @@ Outputs outputsFrom(const CommandLine &line)
     if (project.isEmpty() && json.isEmpty()) {
         throw usageError(QStringLiteral("no result asked for"),
                          QStringLiteral("add -o NAME.pto or --json FILE"));
+    }
+    if (line.isSet(QStringLiteral("align")) && project.isEmpty()) {
+        throw usageError(QStringLiteral("--align makes a project, and none is asked for"),
+                         QStringLiteral("add -o NAME.pto"));
     }
     outputs.jsonToStdout = json == QLatin1String("-");
     if (!project.isEmpty()) {
@@ -81,11 +90,26 @@ void requireWritableOutputs(const Outputs &outputs, const ImportRequest &request
     }
 }
 
-void writeProject(Session &session, Panorama &panorama, const QString &path,
-                  const ImportRequest &request)
+PtoOptions projectOptions(const ImportRequest &request)
 {
     PtoOptions options;
     options.ignoreExifRotation = request.ignoreExifRotation;
+    return options;
+}
+
+void writeAligned(Session &session, Panorama &panorama, const QString &path,
+                  const PtoOptions &options, const AlignOptions &alignOptions)
+{
+    const Alignment aligned = valueOrThrow(align(panorama, options, alignOptions, session.watch()));
+    const QString folder = QFileInfo(path).absolutePath();
+    (void)valueOrThrow(writeFileAtomically(path, valueOrThrow(aligned.project.text(folder))));
+    panorama.project = ProjectReference{ path, aligned.project.yawCentreDegrees() };
+    tell(session, aligned.report);
+}
+
+void writeProject(Session &session, Panorama &panorama, const QString &path,
+                  const PtoOptions &options)
+{
     const PtoProject project = valueOrThrow(writePtoProject(panorama, path, options));
     panorama.project = ProjectReference{ path, project.yawCentreDegrees };
     for (const QString &warning : project.warnings) {
@@ -109,8 +133,11 @@ ExitCode runImport(Session &session, const QStringList &arguments)
 
     Panorama panorama = valueOrThrow(importShoot(session.app, request, session.watch()));
     Interrupt::check();
-    if (!outputs.project.isEmpty()) {
-        writeProject(session, panorama, outputs.project, request);
+    const PtoOptions options = projectOptions(request);
+    if (line.isSet(QStringLiteral("align"))) {
+        writeAligned(session, panorama, outputs.project, options, alignOptions(line));
+    } else if (!outputs.project.isEmpty()) {
+        writeProject(session, panorama, outputs.project, options);
     }
     if (!outputs.json.isEmpty()) {
         (void)valueOrThrow(writePanoramaJson(panorama, outputs.json));

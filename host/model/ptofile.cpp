@@ -31,6 +31,7 @@ constexpr double kLargest = 1e9;
 
 constexpr std::string_view kOwnComment = "#panohost ";
 constexpr std::string_view kCentre = "#panohost centre";
+constexpr std::string_view kHead = "#panohost head";
 constexpr std::string_view kRecord = "#panohost record";
 constexpr std::string_view kWrong = "#panohost wrong c";
 
@@ -103,6 +104,7 @@ private:
         int image = 0;
         PtoAngles angles;
         double turnDegrees = 0.0;
+        double fovDegrees = 0.0; ///< 0: not said
     };
 
     [[noreturn]] void refuse(const QString &why, const QString &tryThis = {}) const;
@@ -202,6 +204,9 @@ void PtoFile::Reader::readLine(std::string_view line)
     } else if (startsWith(line, kWrong)) {
         readPoint(line.substr(kWrong.size()), true);
         keep(Kind::Point);
+    } else if (startsWith(line, kHead)) {
+        m_file.m_head = QByteArray(line.data(), int(line.size())).mid(int(kHead.size())).trimmed();
+        keep(Kind::Head);
     } else if (startsWith(line, kRecord)) {
         readRecord(line.substr(kRecord.size()));
         keep(Kind::Record);
@@ -402,12 +407,13 @@ void PtoFile::Reader::readCentre(std::string_view line)
 
 void PtoFile::Reader::readRecord(std::string_view line)
 {
-    static const std::vector<std::string_view> kNames{ "i", "y", "p", "r", "turn" };
+    static const std::vector<std::string_view> kNames{ "i", "y", "p", "r", "turn", "v" };
     const Values values = valuesOf(line, kNames);
     m_records.push_back(
         { wholeNumber("i", values[0], 0, kMostImages),
           { number("y", values[1]), number("p", values[2]), number("r", values[3]) },
-          number("turn", values[4]) });
+          number("turn", values[4]),
+          values[5].data() == nullptr ? 0.0 : number("v", values[5]) });
     m_file.m_hasRecord = true;
 }
 
@@ -449,10 +455,16 @@ void PtoFile::Reader::fillRecord()
         image.recorded = image.angles;
         image.recorded.roll = std::remainder(image.angles.roll - turn, 360.0);
         image.turnDegrees = turn;
+        image.recordedFovDegrees = image.horizontalFovDegrees;
     }
     for (const Record &record : m_records) {
-        images[record.image].recorded = record.angles;
-        images[record.image].turnDegrees = record.turnDegrees;
+        PtoImage &image = images[record.image];
+        image.recorded = record.angles;
+        image.turnDegrees = record.turnDegrees;
+        if (record.fovDegrees > 0.0
+            && (image.lens == LensModel::Fisheye || record.fovDegrees < 180.0)) {
+            image.recordedFovDegrees = record.fovDegrees;
+        }
     }
     for (PtoImage &image : images) {
         if (image.angleMaster >= 0) {
@@ -610,6 +622,12 @@ void PtoFile::setRecord(const QVector<PtoAngles> &recorded, const QVector<double
         image.recorded = recorded.at(master);
         image.turnDegrees = turns.at(master);
     }
+    keepRecord(m_head);
+}
+
+void PtoFile::keepRecord(const QByteArray &head)
+{
+    m_head = head;
     m_hasRecord = true;
     m_setsRecord = true;
 }
@@ -658,13 +676,17 @@ QByteArray PtoFile::pointLines() const
 QByteArray PtoFile::recordLines() const
 {
     QByteArray lines;
+    if (!m_head.isEmpty()) {
+        lines += QByteArray(kHead.data(), int(kHead.size())) + ' ' + m_head + '\n';
+    }
     for (int i = 0; i < m_images.size(); ++i) {
         const PtoImage &image = m_images.at(i);
         if (image.angleMaster < 0) {
             lines += "#panohost record i" + QByteArray::number(i) + " y"
                 + ptoExactNumber(image.recorded.yaw) + " p" + ptoExactNumber(image.recorded.pitch)
                 + " r" + ptoExactNumber(image.recorded.roll) + " turn"
-                + ptoExactNumber(image.turnDegrees) + '\n';
+                + ptoExactNumber(image.turnDegrees) + " v"
+                + ptoExactNumber(image.recordedFovDegrees) + '\n';
         }
     }
     return lines;
@@ -726,6 +748,7 @@ Result<QByteArray> PtoFile::text(const QString &folder) const
         case Kind::Centre:
             replace(line, centre);
             break;
+        case Kind::Head:
         case Kind::Record:
             replace(line, record);
             break;

@@ -37,6 +37,8 @@ struct PtoImage {
     PtoAngles angles;
     /** What the head said, without the camera's turn. Without record lines: the file's angles. */
     PtoAngles recorded;
+    double recordedFovDegrees
+        = 0.0; ///< horizontal, before any alignment; without record lines: the file's
     /** How far the camera, or its stored pixels, are turned about the lens's axis. Without record
      * lines: what most photos of the file are rolled by, a multiple of 90. */
     double turnDegrees = 0.0;
@@ -78,7 +80,8 @@ struct PtoLens {
  * but for what is set anew. Comment lines hold what Hugin knows nothing of:
  *
  *     #panohost centre y12.5                          was subtracted from every yaw
- *     #panohost record i3 y42.5 p-45 r0.1 turn90      what the head said of image 3
+ *     #panohost head noroll                           how the head notes angles down
+ *     #panohost record i3 y42.5 p-45 r0.1 turn90 v50  what head and lens were said to be at image 3
  *     #panohost wrong c n0 N1 x1 y2 X3 Y4 t0          a control point that is none
  */
 class PtoFile
@@ -101,6 +104,8 @@ public:
     [[nodiscard]] bool isOurs() const { return m_isOurs; }
     /** Whether it says itself what was recorded. */
     [[nodiscard]] bool hasRecord() const { return m_hasRecord; }
+    /** How the head notes angles down, a word of whoever has set it; empty: nobody has. */
+    [[nodiscard]] const QByteArray &head() const { return m_head; }
     /** Was subtracted from every yaw that is written. */
     [[nodiscard]] double yawCentreDegrees() const { return m_yawCentreDegrees; }
 
@@ -114,6 +119,8 @@ public:
     void setPoints(const QVector<PtoPoint> &points);
     /** What the head said, one entry per image, in place of what was there. */
     void setRecord(const QVector<PtoAngles> &recorded, const QVector<double> &turns);
+    /** Writes down what is recorded of each image, and \p head, one word. */
+    void keepRecord(const QByteArray &head);
     /** Lays canvas and crop out anew around the images, by the rules of the import, centred at yaw
      * 0. A width that somebody has chosen stays. */
     void layOutCanvas();
@@ -124,7 +131,7 @@ public:
 
 private:
     class Reader;
-    enum class Kind { Panorama, Image, Point, Centre, Record };
+    enum class Kind { Panorama, Image, Point, Centre, Head, Record };
     /** A line that is read here; the others are known as what is between. */
     struct Line {
         int begin = 0; ///< into the text
@@ -150,6 +157,7 @@ private:
     std::vector<int> m_nextOfLens; ///< the next image with the same field of view; -1: none
     std::vector<int> m_nextOfStack; ///< the next image with the same angles
     QVector<PtoPoint> m_points;
+    QByteArray m_head;
     double m_yawCentreDegrees = 0.0;
     int m_chosenWidth = 0; ///< of the canvas; 0: it is what the import's rules make
     bool m_isOurs = false;

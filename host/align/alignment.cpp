@@ -1,0 +1,455 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/align/alignment.h"
+
+#include "host/align/alignshoot.h"
+#include "host/align/diagnosis.h"
+#include "host/align/tiepoints.h"
+#include "host/model/displayname.h"
+
+#include <QFileInfo>
+#include <QtMath>
+
+#include <algorithm>
+#include <cmath>
+
+namespace PanoHost
+{
+
+namespace
+{
+
+/** Points beyond this many standard deviations are wrong. */
+constexpr double kWrongSigmas = 4.0;
+/** No shoot slips more often; whoever bumps a tripod ten times takes another one. */
+constexpr int kMostSlips = 3;
+
+/** A control point between two images, and what the solver knows of it. */
+struct FoundPoint {
+    TiePoint tie; ///< between views
+    int firstImage = 0;
+    int secondImage = 0;
+    bool isKept = false; ///< it was in the project before
+};
+
+double horizontalFov(const AlignLens &lens)
+{
+    const double half = lens.size.width() / 2.0 / lens.focalPixels;
+    return qRadiansToDegrees(lens.model == LensModel::Fisheye ? 2.0 * half : 2.0 * std::atan(half));
+}
+
+double focal35mmOf(const AlignLens &lens)
+{
+    return lens.focalPixels * kFullFrameDiagonalMm
+        / std::hypot(lens.size.width(), lens.size.height());
+}
+
+TiePointOptions finderOptions(const AlignOptions &options)
+{
+    TiePointOptions made;
+    made.widest = options.workSize;
+    made.features.most = options.features;
+    made.jobs = options.jobs;
+    return made;
+}
+
+/** Where the record is no more than a hint: anywhere in the other photo. */
+MatchRules anyLook(const AlignLens &lens)
+{
+    MatchRules rules = firstLook(lens);
+    rules.windowPixels = lens.size.width() + lens.size.height();
+    rules.gateDegrees = 0.0;
+    return rules;
+}
+
+double median(std::vector<double> values)
+{
+    if (values.empty()) {
+        return 0.0;
+    }
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
+/** One alignment, step by step; `run` is the order of things. */
+class Run
+{
+public:
+    Run(PtoFile project, AlignPlan plan, const AlignOptions &options, const JobWatch &watch)
+        : m_project(std::move(project))
+        , m_plan(std::move(plan))
+        , m_options(options)
+        , m_watch(watch)
+        , m_shoot(shootOf(m_project))
+        , m_recordedLenses(m_shoot.model.lenses)
+    {
+    }
+
+    Result<Alignment> run();
+
+private:
+    void keepPoints();
+    void choosePhotos();
+    [[nodiscard]] HeadModel modelOfPhotos() const;
+    [[nodiscard]] std::optional<Failure> readPhotos(TiePointFinder &finder);
+    void look(TiePointFinder &finder, const TiePointFinder::Rules &rules,
+              TiePointFinder::Afterwards afterwards);
+    void place(bool roughly);
+    void undoSlips();
+    [[nodiscard]] std::vector<int> tiedViews() const;
+    [[nodiscard]] bool isRight(size_t point) const
+    {
+        return m_solved.residuals[point] <= kWrongSigmas * m_solved.sigmaPixels;
+    }
+    void note(const QString &text) { m_report.notes.append(text); }
+    [[nodiscard]] QString nothingFound() const;
+    void writePoints();
+    void writePlaces();
+    void reportViews();
+    void reportPoints();
+    void reportHead();
+    void reportFaults();
+
+    PtoFile m_project;
+    AlignPlan m_plan;
+    const AlignOptions &m_options;
+    const JobWatch &m_watch;
+    AlignShoot m_shoot;
+    std::vector<AlignLens> m_recordedLenses;
+    IndexPairs m_pairs; ///< of images
+    std::vector<int> m_photos; ///< the images that are in a pair, ascending
+    std::vector<FoundPoint> m_kept;
+    std::vector<FoundPoint> m_points;
+    SolveResult m_solved;
+    std::vector<Slip> m_slips;
+    AlignmentReport m_report;
+};
+
+Result<Alignment> Run::run()
+{
+    reportViews();
+    if (!m_plan.detects) {
+        note(QStringLiteral("no control points are wanted (automatic detection is off): kept as "
+                            "recorded"));
+        return Alignment{ m_project, m_report };
+    }
+    m_pairs = imagePairs(m_shoot, m_plan);
+    m_report.pairCount = static_cast<int>(m_pairs.size());
+    keepPoints();
+    choosePhotos();
+    std::vector<ViewPhoto> photos;
+    for (const int image : m_photos) {
+        photos.push_back({ m_project.images()[image].path, m_project.images()[image].size });
+    }
+    TiePointFinder finder(std::move(photos), finderOptions(m_options));
+    if (const auto failure = readPhotos(finder)) {
+        return *failure;
+    }
+    look(finder, m_plan.trustsRecord ? firstLook : anyLook,
+         TiePointFinder::Afterwards::KeepFeatures);
+    place(true);
+    look(finder, secondLook, TiePointFinder::Afterwards::ReleaseFeatures);
+    place(false);
+    reportPoints();
+    writePoints();
+    if (m_report.pointCount == 0) {
+        note(nothingFound());
+    } else if (!m_plan.places) {
+        note(QStringLiteral("photos are left as recorded (optimisation is skipped)"));
+    } else {
+        m_report.isPlaced = true;
+        writePlaces();
+        reportHead();
+        reportFaults();
+    }
+    return Alignment{ m_project, m_report };
+}
+
+/** Why there are no points, for the user. */
+QString Run::nothingFound() const
+{
+    if (m_project.images().size() == 1) {
+        return QStringLiteral("there is one photo only: kept as recorded");
+    }
+    if (m_pairs.empty()) {
+        return QStringLiteral("no two photos overlap where the record puts them: kept as recorded");
+    }
+    return QStringLiteral(
+        "no spot was found in two photos (nothing but sky or fog, or the photos are "
+        "not of this record): kept as recorded");
+}
+
+/** Photos of stacks that are not looked at are not read. */
+void Run::choosePhotos()
+{
+    for (const auto &[first, second] : m_pairs) {
+        m_photos.push_back(first);
+        m_photos.push_back(second);
+    }
+    std::sort(m_photos.begin(), m_photos.end());
+    m_photos.erase(std::unique(m_photos.begin(), m_photos.end()), m_photos.end());
+}
+
+/** The head as it is known by now, with a view for each of the photos. */
+HeadModel Run::modelOfPhotos() const
+{
+    HeadModel model = m_shoot.model;
+    model.views.clear();
+    model.corrections.clear();
+    for (const int image : m_photos) {
+        const auto view = static_cast<size_t>(m_shoot.viewOfImage[static_cast<size_t>(image)]);
+        model.views.push_back(m_shoot.model.views[view]);
+        model.corrections.push_back(m_shoot.model.corrections[view]);
+    }
+    return model;
+}
+
+/** Tells which photos cannot be used; refuses when none can. */
+std::optional<Failure> Run::readPhotos(TiePointFinder &finder)
+{
+    finder.readFeatures(m_watch);
+    int bad = 0;
+    for (size_t i = 0; i < m_photos.size(); ++i) {
+        if (const auto &failure = finder.leftOut(static_cast<int>(i))) {
+            ++bad;
+            note(QStringLiteral("%1; kept as recorded").arg(failure->text()));
+        }
+    }
+    if (bad > 0 && bad == static_cast<int>(m_photos.size())) {
+        Failure failure = *finder.leftOut(0);
+        failure.tryThis
+            = QStringLiteral("none of the photos can be used: were they moved since the "
+                             "import?");
+        return failure;
+    }
+    return {};
+}
+
+/** Those that the project holds already count, and stay. */
+void Run::keepPoints()
+{
+    if (!m_options.keepsPoints) {
+        return;
+    }
+    for (const PtoPoint &point : m_project.points()) {
+        FoundPoint kept;
+        kept.firstImage = point.first;
+        kept.secondImage = point.second;
+        kept.tie = { m_shoot.viewOfImage[static_cast<size_t>(point.first)],
+                     m_shoot.viewOfImage[static_cast<size_t>(point.second)],
+                     { point.x1, point.y1 },
+                     { point.x2, point.y2 } };
+        kept.isKept = true;
+        m_kept.push_back(kept);
+    }
+}
+
+/** Looks at all pairs where the model expects them to overlap. */
+void Run::look(TiePointFinder &finder, const TiePointFinder::Rules &rules,
+               TiePointFinder::Afterwards afterwards)
+{
+    const auto indexOf = [this](int image) {
+        return static_cast<int>(std::lower_bound(m_photos.begin(), m_photos.end(), image)
+                                - m_photos.begin());
+    };
+    IndexPairs pairs;
+    for (const auto &[first, second] : m_pairs) {
+        pairs.emplace_back(indexOf(first), indexOf(second));
+    }
+    const TiePoints found = finder.match(pairs, modelOfPhotos(), rules, m_watch, afterwards);
+    m_points = m_kept;
+    for (const TiePoint &point : found.points) {
+        FoundPoint added;
+        added.firstImage = m_photos[static_cast<size_t>(point.first)];
+        added.secondImage = m_photos[static_cast<size_t>(point.second)];
+        added.tie = point;
+        added.tie.first = m_shoot.viewOfImage[static_cast<size_t>(added.firstImage)];
+        added.tie.second = m_shoot.viewOfImage[static_cast<size_t>(added.secondImage)];
+        m_points.push_back(added);
+    }
+    m_report.matchedPairCount = static_cast<int>(
+        std::count_if(found.pairs.cbegin(), found.pairs.cend(),
+                      [](const TiePoints::Pair &pair) { return pair.points > 0; }));
+}
+
+/** Solves for focal length and places, or for all that is free. */
+void Run::place(bool roughly)
+{
+    SolveOptions trust = trustOf(m_plan, m_options);
+    trust.recordedLenses = m_recordedLenses;
+    if (roughly) {
+        constexpr double kRoughPixels = 2.0;
+        trust.freesA = trust.freesB = trust.freesC = false;
+        trust.lossPixels = kRoughPixels;
+    }
+    std::vector<TiePoint> ties;
+    ties.reserve(m_points.size());
+    for (const FoundPoint &point : m_points) {
+        ties.push_back(point.tie);
+    }
+    for (int slips = 0; slips <= kMostSlips; ++slips) {
+        m_solved = solve(m_shoot.model, ties, trust, m_watch);
+        const auto slip = m_plan.trustsRecord ? findSlip(m_shoot.model, tiedViews()) : std::nullopt;
+        if (!slip) {
+            return;
+        }
+        undoSlip(m_shoot.model, *slip);
+        m_slips.push_back(*slip);
+    }
+}
+
+std::vector<int> Run::tiedViews() const
+{
+    std::vector<int> counts(m_shoot.model.views.size());
+    for (size_t i = 0; i < m_points.size(); ++i) {
+        if (isRight(i)) {
+            ++counts[static_cast<size_t>(m_points[i].tie.first)];
+            ++counts[static_cast<size_t>(m_points[i].tie.second)];
+        }
+    }
+    std::vector<int> tied;
+    for (size_t view = 0; view < counts.size(); ++view) {
+        if (counts[view] >= AlignedPhoto::kHoldingPoints && m_shoot.model.views[view].stack < 0) {
+            tied.push_back(static_cast<int>(view));
+        }
+    }
+    return tied;
+}
+
+void Run::writePoints()
+{
+    QVector<PtoPoint> points;
+    for (size_t i = 0; i < m_points.size(); ++i) {
+        const FoundPoint &found = m_points[i];
+        if (isRight(i) || found.isKept || !m_plan.cleans) {
+            points.append({ found.firstImage, found.secondImage, found.tie.inFirst.x(),
+                            found.tie.inFirst.y(), found.tie.inSecond.x(), found.tie.inSecond.y(),
+                            !isRight(i) });
+        }
+    }
+    m_project.setPoints(points);
+    m_project.keepRecord(recordKindName(m_plan.kind).toLatin1());
+}
+
+void Run::writePlaces()
+{
+    const HeadModel &model = m_shoot.model;
+    const bool levels = m_options.levels.value_or(m_plan.kind == RecordKind::Grid);
+    const Eigen::Matrix3d upright = levels ? levelling(model) : Eigen::Matrix3d::Identity();
+    for (size_t view = 0; view < model.views.size(); ++view) {
+        const Angles angles = anglesOf(upright * model.rotation(static_cast<int>(view)));
+        m_report.photos[static_cast<int>(view)].aligned = angles;
+        m_project.place(m_shoot.imageOfView[view],
+                        { { angles.yaw, angles.pitch, angles.roll }, {} });
+    }
+    for (int image = 0; image < m_project.images().size(); ++image) {
+        if (m_project.images()[image].lensMaster < 0) {
+            const int view = m_shoot.viewOfImage[static_cast<size_t>(image)];
+            const AlignLens &lens = model.lensOf(view);
+            m_project.setLens(image, { horizontalFov(lens), lens.a, lens.b, lens.c, {}, 0.0, 0.0 });
+        }
+    }
+    if (m_project.isOurs()) {
+        m_project.layOutCanvas();
+    }
+}
+
+void Run::reportViews()
+{
+    for (size_t view = 0; view < m_shoot.model.views.size(); ++view) {
+        AlignedPhoto photo;
+        photo.path = m_project.images()[m_shoot.imageOfView[view]].path;
+        photo.recorded = m_shoot.model.views[view].recorded;
+        photo.aligned = anglesOf(m_shoot.model.rotation(static_cast<int>(view)));
+        m_report.photos.append(photo);
+    }
+    m_report.isGrid = m_plan.kind == RecordKind::Grid;
+    m_report.recordedFocal35mm
+        = m_recordedLenses.size() == 1 ? focal35mmOf(m_recordedLenses.front()) : 0.0;
+}
+
+void Run::reportPoints()
+{
+    std::vector<double> right;
+    for (size_t i = 0; i < m_points.size(); ++i) {
+        if (!isRight(i)) {
+            ++m_report.wrongPointCount;
+            continue;
+        }
+        right.push_back(m_solved.residuals[i]);
+        ++m_report.photos[m_points[i].tie.first].points;
+        ++m_report.photos[m_points[i].tie.second].points;
+    }
+    m_report.pointCount = static_cast<int>(right.size());
+    m_report.medianPixels = median(std::move(right));
+}
+
+void Run::reportHead()
+{
+    const HeadModel &model = m_shoot.model;
+    HeadModel still = model;
+    std::fill(still.corrections.begin(), still.corrections.end(), Angles());
+    for (size_t view = 0; view < model.views.size(); ++view) {
+        const int i = static_cast<int>(view);
+        m_report.photos[i].movedDegrees = degreesBetween(model.rotation(i), still.rotation(i));
+    }
+    if (m_plan.trustsRecord) {
+        m_report.playDegrees = playOf(model, tiedViews());
+    }
+    m_report.mountPitchDegrees = model.mountPitchDegrees;
+    m_report.mountRollDegrees = model.mountRollDegrees;
+    m_report.yawScale = model.yawScale;
+    m_report.pitchScale = model.pitchScale;
+    if (model.lenses.size() == 1) {
+        const AlignLens &lens = model.lenses.front();
+        m_report.focal35mm = focal35mmOf(lens);
+        m_report.distortionA = lens.a;
+        m_report.distortionB = lens.b;
+        m_report.distortionC = lens.c;
+    }
+}
+
+void Run::reportFaults()
+{
+    const auto pathOf = [this](int view) {
+        return m_project.images()[m_shoot.imageOfView[static_cast<size_t>(view)]].path;
+    };
+    for (const Slip &slip : m_slips) {
+        m_report.slips.append({ pathOf(slip.view), slip.yawDegrees, slip.pitchDegrees });
+    }
+    if (m_plan.trustsRecord) {
+        for (const Bump &bump : findBumps(m_shoot.model, tiedViews())) {
+            m_report.bumps.append({ pathOf(bump.view), bump.degrees });
+        }
+    }
+    std::vector<TiePoint> right;
+    for (size_t i = 0; i < m_points.size(); ++i) {
+        if (isRight(i)) {
+            right.push_back(m_points[i].tie);
+        }
+    }
+    constexpr double kVisiblePixels = 0.5;
+    const double reduced = double(m_shoot.model.lenses.front().size.width()) / m_options.workSize;
+    m_report.parallaxPixels
+        = parallaxPixels(m_shoot.model, right, kVisiblePixels * std::max(1.0, reduced));
+}
+
+} // namespace
+
+Result<Alignment> align(const Panorama &panorama, const PtoOptions &projectOptions,
+                        const AlignOptions &options, const JobWatch &watch)
+{
+    auto project = projectOf(panorama, projectOptions);
+    if (!project) {
+        return project.error();
+    }
+    return Run(std::move(project).value(), planOf(panorama), options, watch).run();
+}
+
+Result<Alignment> align(const PtoFile &project, const AlignOptions &options, const JobWatch &watch)
+{
+    return Run(project, planOf(project), options, watch).run();
+}
+
+} // namespace PanoHost
