@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <tuple>
 
 namespace PanoHost
 {
@@ -142,10 +143,13 @@ void setVariable(QByteArray &line, std::string_view name, const QByteArray &valu
 
 void removeVariable(QByteArray &line, std::string_view name)
 {
-    const auto [begin, length] = placeOf(line, name);
-    if (begin >= 0) {
+    auto [begin, length] = placeOf(line, name);
+    while (begin >= 0) {
+        // A variable may stand right behind a quotation mark.
         const int letters = int(name.size());
-        line.remove(begin - letters - 1, length + letters + 1);
+        const int blank = kBlanks.find(line[begin - letters - 1]) == std::string_view::npos ? 0 : 1;
+        line.remove(begin - letters - blank, length + letters + blank);
+        std::tie(begin, length) = placeOf(line, name);
     }
 }
 

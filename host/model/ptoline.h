@@ -37,7 +37,7 @@ struct PtoVariable {
 /** Gives the first variable \p name of \p line the value \p value; one that is missing is put
  * before the name of the file, or at the end. */
 void setVariable(QByteArray &line, std::string_view name, const QByteArray &value);
-/** Takes the first variable \p name and the blank before it off \p line. */
+/** Takes all variables \p name off \p line. */
 void removeVariable(QByteArray &line, std::string_view name);
 
 } // namespace PanoHost

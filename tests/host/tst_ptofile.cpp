@@ -234,6 +234,9 @@ void PtoFileTest::badProjectIsRefused_data()
     QTest::newRow("no panorama line")
         << image()
         << "the project: has no line for the panorama (p); is it a project that Hugin opens?";
+    QTest::newRow("panorama line without an end")
+        << QByteArray("p h\"100 w200\n" + image())
+        << QStringLiteral("line 1: the quotation mark at the end of h is missing") + again;
     QTest::newRow("old program") << project(
         image(),
         "o f0 y0\n") << QStringLiteral("line 3: o-lines are of programs older than Hugin") + again;
@@ -247,6 +250,7 @@ void PtoFileTest::badProjectIsRefused_data()
     badImage("half a turn", "i w60 h40 v180 n\"a\"\n",
              "no such lens has a field of view of 180 degrees (v)");
     badImage("no name", "i w60 h40 v50\n", "names no file (n)");
+    badImage("name without marks", "i w60 h40 v50 na.jpg\n", "names no file (n)");
     badImage("empty name", "i w60 h40 v50 n\"\"\n", "names no file (n)");
     badImage("name without an end", "i w60 h40 v50 n\"a\n",
              "the quotation mark at the end of n is missing");
@@ -364,6 +368,11 @@ void PtoFileTest::linkedExposuresBecomeTheirOwn()
     QCOMPARE(again.images()[0].exposureValue.value(), 7.5);
     QCOMPARE(again.images()[1].exposureValue.value(), 8.0);
     QCOMPARE(again.images()[2].exposureValue.value(), 7.5);
+    // Linked to one that has none, and stays so.
+    file = parsed(project(image() + image("q\"x\"Eev=0 Eev9", "b.jpg")));
+    file.place(0, { {}, 8.0 });
+    QVERIFY(!file.images()[1].exposureValue);
+    QVERIFY(!parsed(textOf(file)).images()[1].exposureValue);
 }
 
 void PtoFileTest::lensIsSetForAllImagesOfIt()
