@@ -24,7 +24,8 @@ namespace
 {
 
 constexpr qint64 kMostBytes = 512LL * 1024 * 1024;
-constexpr int kMostImages = 1'000'000;
+constexpr int kMostImages = 250'000;
+constexpr int kMostPoints = 10'000'000;
 constexpr int kLongestSide = 10'000'000; ///< of a photo, pixels
 /** Beyond it, nothing in a project means anything. */
 constexpr double kLargest = 1e9;
@@ -387,6 +388,10 @@ void PtoFile::Reader::readPoint(std::string_view line, bool isWrong)
     const bool isLine = values[6].data() != nullptr && number("t", values[6]) != 0.0;
     if (isLine && !isWrong) {
         return;
+    }
+    if (m_file.m_points.size() >= kMostPoints) {
+        refuse(QStringLiteral("more than %1 control points").arg(kMostPoints),
+               QStringLiteral("align parts of the panorama"));
     }
     PtoPoint point;
     point.first = wholeNumber("n", values[0], 0, kMostImages);

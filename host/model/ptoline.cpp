@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
-#include <tuple>
 
 namespace PanoHost
 {
@@ -143,14 +142,22 @@ void setVariable(QByteArray &line, std::string_view name, const QByteArray &valu
 
 void removeVariable(QByteArray &line, std::string_view name)
 {
-    auto [begin, length] = placeOf(line, name);
-    while (begin >= 0) {
-        // A variable may stand right behind a quotation mark.
-        const int letters = int(name.size());
-        const int blank = kBlanks.find(line[begin - letters - 1]) == std::string_view::npos ? 0 : 1;
-        line.remove(begin - letters - blank, length + letters + blank);
-        std::tie(begin, length) = placeOf(line, name);
+    QByteArray kept = line.left(1);
+    std::string_view rest = viewOf(line).substr(1);
+    bool more = true;
+    while (more) {
+        const std::string_view before = rest;
+        const auto variable = takeVariable(rest);
+        std::string_view part = before.substr(0, before.size() - rest.size());
+        if (variable && variable->name == name) {
+            // The blanks before it go along, unless they part its neighbours.
+            const bool partsNeighbours = !rest.empty() && kBlanks.find(rest[0]) == kBlanks.npos;
+            part = part.substr(0, partsNeighbours ? part.find_first_not_of(kBlanks) : 0);
+        }
+        kept.append(part.data(), int(part.size()));
+        more = variable.has_value();
     }
+    line = kept;
 }
 
 } // namespace PanoHost
