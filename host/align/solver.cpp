@@ -12,6 +12,7 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <numeric>
 
 namespace PanoHost
 {
@@ -28,6 +29,8 @@ constexpr double kDeviations = 1.4826;
  */
 constexpr double kPlane = 1.18;
 constexpr double kLeastSigmaPixels = 0.15;
+constexpr QLatin1String kPlacing("placing photos");
+
 /** A share that a learnt value must change by to be worth another round. */
 constexpr double kNews = 0.03;
 /** Deviations of the polynomial's coefficients between lenses. */
@@ -204,7 +207,6 @@ private:
     }
     double *head() { return lens(static_cast<int>(m_lenses.size())); }
 
-    void tell(int iterations) const;
     void takeState();
     void putState();
     void addPoints(ceres::Problem &problem);
@@ -218,6 +220,9 @@ private:
     [[nodiscard]] bool isLevel(int view) const;
     [[nodiscard]] FreeRanges freeRanges(int view) const;
     void measure();
+    [[nodiscard]] bool isSlip(double pixels) const;
+    [[nodiscard]] double degreesOf(double pixels) const;
+    [[nodiscard]] double worstPair() const;
     [[nodiscard]] double typicalResidual() const;
 
     HeadModel &m_model;
@@ -234,13 +239,17 @@ private:
     PerAxis m_play;
     Angles m_repeats;
     bool m_playKnown = false;
-    int m_iterations = 0; ///< of earlier rounds
+    int m_done = 0; ///< iterations of earlier rounds, as if all had been needed
+    int m_total = 0;
 };
 
+constexpr int kSlipRounds = 3;
 constexpr int kRounds = 4;
 constexpr int kRoundIterations = 8;
 constexpr int kLastIterations = 25;
-constexpr int kMostIterations = kRounds * kRoundIterations + kLastIterations;
+/** Shares of the cost that a step must gain to be followed by another. */
+constexpr double kRoughly = 1e-4;
+constexpr double kExactly = 1e-12;
 
 SolveResult Solver::run()
 {
@@ -248,27 +257,38 @@ SolveResult Solver::run()
     m_watch.check();
     takeState();
     measure();
-    // At first nearly all points pull, however far off the head is: a photo that slipped is not
-    // among wrong points then.
-    m_pointLoss.sigma = m_options.lossPixels;
-    m_pointLoss.width = std::max(m_options.lossPixels, 3.0 * typicalResidual());
-
     ceres::Problem::Options ownership;
     ownership.loss_function_ownership = ceres::DO_NOT_TAKE_OWNERSHIP;
     ownership.disable_all_safety_checks = true;
     ceres::Problem problem(ownership);
     addPoints(problem);
     addPriors(problem);
+    m_pointLoss.sigma = m_options.lossPixels;
+    m_pointLoss.width = std::max(m_options.lossPixels, 3.0 * typicalResidual());
+    m_total = (kSlipRounds + kRounds) * kRoundIterations + kLastIterations;
+    const double worst = worstPair();
+    if (isSlip(worst)) {
+        // No wrong points: all pull at first, and photos may go as far as that takes them.
+        const PerAxis trusted = m_play;
+        m_play.fill(degreesOf(worst));
+        double width = worst;
+        for (int round = 0; round < kSlipRounds; ++round, width /= 4.0) {
+            m_pointLoss.width = std::max(width, m_options.lossPixels);
+            iterate(problem, kRoundIterations, kRoughly);
+            learnPlay();
+        }
+        m_play = m_playKnown ? m_play : trusted;
+    }
+    m_done = kSlipRounds * kRoundIterations;
     bool learning = true;
     for (int round = 0; round < kRounds && learning; ++round) {
-        iterate(problem, kRoundIterations, 1e-4);
+        iterate(problem, kRoundIterations, kRoughly);
         learning = learn();
-        m_iterations = (round + 1) * kRoundIterations;
     }
-    m_iterations = kRounds * kRoundIterations;
-    iterate(problem, kLastIterations, 1e-12);
+    m_done = m_total - kLastIterations;
+    iterate(problem, kLastIterations, kExactly);
 
-    tell(kMostIterations);
+    m_watch.report(m_total, m_total, kPlacing);
     SolveResult result;
     result.residuals = m_residuals;
     result.sigmaPixels = m_pointLoss.sigma;
@@ -279,18 +299,13 @@ SolveResult Solver::run()
 
 ceres::CallbackReturnType Solver::operator()(const ceres::IterationSummary &summary)
 {
-    tell(m_iterations + summary.iteration);
+    m_watch.report(m_done + summary.iteration, m_total, kPlacing);
     // Half is one standard deviation of a single number: no photo is going anywhere.
     constexpr double kNoGain = 1e-3;
     if (summary.iteration > 0 && summary.step_is_successful && summary.cost_change < kNoGain) {
         return ceres::SOLVER_TERMINATE_SUCCESSFULLY;
     }
     return m_watch.stopWanted() ? ceres::SOLVER_ABORT : ceres::SOLVER_CONTINUE;
-}
-
-void Solver::tell(int iterations) const
-{
-    m_watch.report(iterations, kMostIterations, QStringLiteral("placing photos"));
 }
 
 void Solver::takeState()
@@ -445,6 +460,7 @@ void Solver::iterate(ceres::Problem &problem, int most, double tolerance)
     if (summary.termination_type == ceres::USER_FAILURE) {
         throw CommandError(interruption());
     }
+    m_done += most;
     putState();
     measure();
 }
@@ -469,6 +485,44 @@ void Solver::measure()
             m_residuals[i] = (*pixel - point.inSecond).norm();
         }
     }
+}
+
+/** Whether two photos are off by \p pixels as no head's play puts them, and most others are not. */
+bool Solver::isSlip(double pixels) const
+{
+    const double play = std::max({ m_play[0], m_play[1], m_play[2] });
+    return m_options.learnsPlay && pixels > 5.0 * typicalResidual()
+        && degreesOf(pixels) > kUsualPlay * M_SQRT2 * play;
+}
+
+/** The angle that \p pixels are in the middle of a photo. */
+double Solver::degreesOf(double pixels) const
+{
+    return qRadiansToDegrees(pixels / m_lenses.front().focalPixels);
+}
+
+/** The largest of the median residuals of any two photos' points. */
+double Solver::worstPair() const
+{
+    constexpr size_t kFew = 3;
+    std::vector<size_t> order(m_points.size());
+    std::iota(order.begin(), order.end(), 0U);
+    const auto photos
+        = [this](size_t i) { return std::make_pair(m_points[i].first, m_points[i].second); };
+    std::stable_sort(order.begin(), order.end(),
+                     [&photos](size_t a, size_t b) { return photos(a) < photos(b); });
+    double worst = 0.0;
+    std::vector<double> lengths;
+    for (auto i = order.cbegin(); i != order.cend();) {
+        const auto pair = photos(*i);
+        lengths.clear();
+        for (; i != order.cend() && photos(*i) == pair; ++i) {
+            lengths.push_back(m_residuals[*i]);
+        }
+        const double typical = lengths.size() < kFew ? 0.0 : median(lengths);
+        worst = std::isfinite(typical) ? std::max(worst, typical) : worst;
+    }
+    return worst;
 }
 
 /** The deviation of right points; 0: there are none. */
@@ -504,7 +558,7 @@ bool Solver::learnPlay()
     constexpr double kLeastPlay = 0.02;
     std::vector<int> ties(m_model.views.size());
     for (size_t i = 0; i < m_points.size(); ++i) {
-        if (m_residuals[i] < kWrong * m_pointLoss.sigma) {
+        if (m_residuals[i] < kWrong * m_pointLoss.width) {
             ++ties[static_cast<size_t>(m_points[i].first)];
             ++ties[static_cast<size_t>(m_points[i].second)];
         }

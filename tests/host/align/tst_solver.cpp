@@ -417,32 +417,48 @@ void TestSolver::photosWithoutPointsStandInTheMiddleOfWhatWasCutOff()
 
 void TestSolver::slipsAndBumpsAreFound_data()
 {
+    QTest::addColumn<bool>("isRow");
     QTest::addColumn<double>("play");
     QTest::addColumn<int>("from");
     QTest::addColumn<int>("to");
     QTest::addColumn<double>("degrees");
-    QTest::newRow("slipped from photo 14 on") << 0.3 << 14 << 26 << 6.0;
-    QTest::newRow("slipped from photo 7 on") << 0.3 << 7 << 26 << 6.0;
-    QTest::newRow("slipped near the end, an exact head") << 0.0 << 22 << 26 << 6.0;
-    QTest::newRow("one bumped photo") << 0.3 << 5 << 6 << 3.0;
-    QTest::newRow("one bumped photo on an exact head") << 0.0 << 5 << 6 << 3.0;
+    QTest::newRow("slipped from photo 14 on") << false << 0.3 << 14 << 26 << 6.0;
+    QTest::newRow("slipped from photo 7 on") << false << 0.3 << 7 << 26 << 6.0;
+    QTest::newRow("slipped near the end, an exact head") << false << 0.0 << 22 << 26 << 6.0;
+    QTest::newRow("slipped halfway along a row, an exact head") << true << 0.0 << 6 << 12 << 6.0;
+    QTest::newRow("slipped late in a row, an exact head") << true << 0.0 << 9 << 12 << 6.0;
+    QTest::newRow("one bumped photo") << false << 0.3 << 5 << 6 << 3.0;
+    QTest::newRow("one bumped photo on an exact head") << false << 0.0 << 5 << 6 << 3.0;
 }
 
 void TestSolver::slipsAndBumpsAreFound()
 {
+    QFETCH(bool, isRow);
     QFETCH(double, play);
     QFETCH(int, from);
     QFETCH(int, to);
     QFETCH(double, degrees);
     TrueShoot shoot;
-    shoot.addSphere();
+    if (isRow) {
+        shoot.lenses[0].focalPixels = 1200.0; // 41 degrees: only neighbours overlap
+        shoot.addRow(0.0, 12);
+    } else {
+        shoot.addSphere();
+    }
     shoot.play(play);
     for (int photo = from; photo < to; ++photo) {
         shoot.photos[static_cast<size_t>(photo)].extra.yaw += degrees;
     }
     HeadModel model = shoot.recorded();
-    (void)solve(model, shoot.points(0.2), {});
+    const SolveResult result = solve(model, shoot.points(isRow ? 0.1 : 0.2, isRow ? 20 : 40), {});
     verifyAtMost(shoot.error(model), 0.01);
+    const auto isMoved = [from, to](int photo) { return photo >= from && photo < to; };
+    const auto isNot = [&isMoved](int photo) { return !isMoved(photo); };
+    verifyAtMost(shoot.error(model, isMoved, isNot), 0.02);
+    // One photo does not spoil the head's name.
+    if (to - from == 1) {
+        verifyAtMost(result.play.yaw, 0.7 * play + 0.05);
+    }
 }
 
 void TestSolver::levelsStayWithTheirStacks()
