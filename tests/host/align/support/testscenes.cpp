@@ -79,6 +79,12 @@ Rgb haze(const Vec3 &direction)
     return mix(kGrey, terrace().radiance(direction), 0.25F);
 }
 
+Rgb fineTerrace(const Vec3 &direction)
+{
+    const float grain = fractalNoise(80.0 * direction, 3, 910);
+    return (1.0F + 0.5F * grain) * terrace().radiance(direction);
+}
+
 /** The way along one axis to the wall that a ray meets first, in lengths of its direction. */
 double wayTo(double from, double to, double eye, double direction)
 {
@@ -109,6 +115,8 @@ Radiance TestShoots::lightOf(TestScene scene, const Vec3 &eye)
         return facade;
     case TestScene::Haze:
         return haze;
+    case TestScene::FineTerrace:
+        return fineTerrace;
     case TestScene::Room:
         return [eye](const Vec3 &direction) { return wallOfRoom(eye, direction); };
     case TestScene::Terrace:

@@ -14,6 +14,7 @@ enum class TestScene {
     PlainBelt, ///< the demo's with an even belt of `kPlainBeltDegrees` about the horizon
     Facade, ///< the same window every `kWindowDegrees`, between plaster
     Haze, ///< the demo's with a quarter of its contrast
+    FineTerrace, ///< the demo's with grain of half the size, for lenses of twice the length
     Room, ///< the demo's, painted on the walls of a room of `kRoom`
 };
 
