@@ -6,6 +6,7 @@
 #include "host/align/geometry.h"
 #include "host/demo/psnr.h"
 #include "host/model/panoramajson.h"
+#include "host/model/ptofile.h"
 #include "host/model/ptoproject.h"
 #include "host/model/safefile.h"
 #include "host/stitch/stitcher.h"
@@ -41,15 +42,6 @@ QByteArrayList linesOf(const QString &path)
 void writeLines(const QString &path, const QByteArrayList &lines)
 {
     (void)writeFileAtomically(path, lines.join('\n'));
-}
-
-/** The text behind \p key in \p line, an i-line; empty when it has none. */
-QByteArray field(const QByteArray &line, const char *key)
-{
-    const int at = line.indexOf(QByteArray(" ") + key);
-    const int begin = at + 1 + static_cast<int>(qstrlen(key));
-    const int end = line.indexOf(' ', begin);
-    return at < 0 ? QByteArray() : line.mid(begin, end < 0 ? -1 : end - begin);
 }
 
 /** Programs one after another, each of which makes the next one's project. */
@@ -91,36 +83,41 @@ private:
     Outcome m_outcome;
 };
 
-struct PointEnds {
-    int first;
-    int second;
-};
-
-PointEnds endsOf(const QByteArray &line)
+/** Writes \p from without the points between images that the record does not link to \p to.
+ * Without any links all are kept. */
+void keepLinked(const QString &from, const QString &to, const QVector<AuthorizedLink> &links)
 {
-    return { field(line, "n").toInt(), field(line, "N").toInt() };
-}
-
-/** Drops points between images that the record does not link; without links all are kept. */
-QByteArrayList betweenLinks(const QByteArrayList &lines, const QVector<AuthorizedLink> &links)
-{
+    Result<PtoFile> project = PtoFile::read(from);
+    if (!project) {
+        return;
+    }
     QSet<QPair<int, int>> linked;
     for (const AuthorizedLink &link : links) {
         linked.insert(qMakePair(int(link.indices[0]), int(link.indices[1])));
         linked.insert(qMakePair(int(link.indices[1]), int(link.indices[0])));
     }
-    QByteArrayList kept;
-    std::copy_if(lines.begin(), lines.end(), std::back_inserter(kept), [&](const QByteArray &line) {
-        const PointEnds ends = endsOf(line);
-        return links.isEmpty() || !line.startsWith("c ")
-            || linked.contains(qMakePair(ends.first, ends.second));
-    });
-    return kept;
+    QVector<PtoPoint> kept;
+    for (const PtoPoint &point : project.value().points()) {
+        if (links.isEmpty() || linked.contains(qMakePair(point.first, point.second))) {
+            kept.append(point);
+        }
+    }
+    project.value().setPoints(kept);
+    const Result<QByteArray> text = project.value().text(QFileInfo(to).absolutePath());
+    if (text) {
+        (void)writeFileAtomically(to, text.value());
+    }
 }
 
-/** Variables of all photos but one in every group that points hold together. */
-QByteArrayList withPinnedGroups(const QByteArrayList &lines, int images, bool freesDistortion)
+/** Writes \p from to \p to with variables for all photos but one of every group that points hold
+ * together. */
+void pinGroups(const QString &from, const QString &to, bool freesDistortion)
 {
+    const Result<PtoFile> project = PtoFile::read(from);
+    if (!project) {
+        return;
+    }
+    const int images = project.value().images().size();
     std::vector<int> group(static_cast<size_t>(images));
     std::iota(group.begin(), group.end(), 0);
     const auto rootOf = [&](int image) {
@@ -129,14 +126,13 @@ QByteArrayList withPinnedGroups(const QByteArrayList &lines, int images, bool fr
         }
         return image;
     };
+    for (const PtoPoint &point : project.value().points()) {
+        const int one = rootOf(point.first);
+        const int other = rootOf(point.second);
+        group.at(std::max(one, other)) = std::min(one, other);
+    }
     QByteArrayList kept;
-    for (const QByteArray &line : lines) {
-        if (line.startsWith("c ")) {
-            const PointEnds ends = endsOf(line);
-            const int one = rootOf(ends.first);
-            const int other = rootOf(ends.second);
-            group.at(std::max(one, other)) = std::min(one, other);
-        }
+    for (const QByteArray &line : linesOf(from)) {
         if (line != "v" && !line.startsWith("v ")) {
             kept.append(line);
         }
@@ -152,7 +148,7 @@ QByteArrayList withPinnedGroups(const QByteArrayList &lines, int images, bool fr
         }
     }
     kept.append("v\n");
-    return kept;
+    writeLines(to, kept);
 }
 
 QStringList photosOf(const Panorama &panorama)
@@ -164,30 +160,13 @@ QStringList photosOf(const Panorama &panorama)
     return photos;
 }
 
-/** Image numbers of \p lines by the names of their files. */
-QHash<QString, int> imagesByName(const QByteArrayList &imageLines)
+/** The first photos of all positions as image numbers of \p project; empty when it lacks one. */
+QVector<int> referenceImages(const PtoFile &project, const Taken &taken)
 {
     QHash<QString, int> images;
-    for (const QByteArray &line : imageLines) {
-        const int begin = line.indexOf(" n\"") + 3;
-        const QString name = QFile::decodeName(line.mid(begin, line.indexOf('"', begin) - begin));
-        images.insert(QFileInfo(name).fileName(), images.size());
+    for (const PtoImage &image : project.images()) {
+        images.insert(QFileInfo(image.path).fileName(), images.size());
     }
-    return images;
-}
-
-QByteArrayList imageLinesOf(const QByteArrayList &lines)
-{
-    QByteArrayList images;
-    std::copy_if(lines.begin(), lines.end(), std::back_inserter(images),
-                 [](const QByteArray &line) { return line.startsWith("i "); });
-    return images;
-}
-
-/** The first photos of all positions as image numbers of a project; empty when it lacks one. */
-QVector<int> referenceImages(const QByteArrayList &imageLines, const Taken &taken)
-{
-    const QHash<QString, int> images = imagesByName(imageLines);
     QVector<int> found;
     for (const QString &photo : photosOf(taken.panorama)) {
         const int image = images.value(QFileInfo(photo).fileName(), -1);
@@ -197,15 +176,6 @@ QVector<int> referenceImages(const QByteArrayList &imageLines, const Taken &take
         found.append(image);
     }
     return found;
-}
-
-double valueOf(const QByteArrayList &imageLines, int image, const char *key)
-{
-    QByteArray text = field(imageLines[image], key);
-    for (int hops = 0; text.startsWith('=') && hops < 3; ++hops) {
-        text = field(imageLines.value(text.mid(1).toInt()), key);
-    }
-    return text.toDouble();
 }
 
 /** The part of a picture that holds everything opaque. */
@@ -296,8 +266,7 @@ Outcome AlignRoutes::guided(const Taken &taken)
                 QStringLiteral("-o"), found, start },
               found);
     if (chain.goesOn()) {
-        writeLines(linked,
-                   betweenLinks(linesOf(found), taken.reference.description.authorizedLinks));
+        keepLinked(found, linked, taken.reference.description.authorizedLinks);
     }
     // Where the layout is a guess, points are far from where it puts them.
     QStringList clean_{ QStringLiteral("-o"), clean, linked };
@@ -306,10 +275,7 @@ Outcome AlignRoutes::guided(const Taken &taken)
     }
     chain.run("cpclean", clean_, clean);
     if (chain.goesOn()) {
-        const LensErrors &errors = taken.shoot.camera.errors;
-        writeLines(
-            pinned,
-            withPinnedGroups(linesOf(clean), taken.reference.positions.size(), errors.b != 0.0));
+        pinGroups(clean, pinned, taken.shoot.camera.errors.b != 0.0);
     }
     chain.run("autooptimiser", { QStringLiteral("-n"), QStringLiteral("-o"), end, pinned }, end);
     return chain.outcome();
@@ -330,12 +296,15 @@ Outcome AlignRoutes::own(const Taken &taken, const QString &panohost)
 
 TestShoots::Rotations AlignRoutes::rotationsIn(const QString &project, const Taken &taken)
 {
-    const QByteArrayList imageLines = imageLinesOf(linesOf(project));
+    const Result<PtoFile> file = PtoFile::read(project);
     TestShoots::Rotations rotations;
-    for (const int image : referenceImages(imageLines, taken)) {
-        rotations.push_back(
-            rotationOf({ valueOf(imageLines, image, "y"), valueOf(imageLines, image, "p"),
-                         valueOf(imageLines, image, "r") }));
+    if (file) {
+        for (const int image : referenceImages(file.value(), taken)) {
+            const PtoAngles &angles = file.value().images()[image].angles;
+            // As it is written: the panorama is stitched so.
+            rotations.push_back(rotationOf(
+                { angles.yaw - file.value().yawCentreDegrees(), angles.pitch, angles.roll }));
+        }
     }
     return rotations;
 }
@@ -358,8 +327,12 @@ double AlignRoutes::psnrOf(const QString &project, const Taken &taken,
     const QString whole = pathIn(taken, "whole.pto");
     writeLines(whole, lines);
     const QSize canvas(width, width / 2);
-    const StitchJob job{ whole, canvas, true, referenceImages(imageLinesOf(lines), taken) };
-    const Result<QImage> stitched = stitch(job, {});
+    const Result<PtoFile> file = PtoFile::read(whole);
+    if (!file) {
+        return 0.0;
+    }
+    const Result<QImage> stitched
+        = stitch({ whole, canvas, true, referenceImages(file.value(), taken) }, {});
     if (!stitched) {
         return 0.0;
     }
