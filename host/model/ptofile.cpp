@@ -196,6 +196,7 @@ void PtoFile::Reader::readLine(std::string_view line)
             keep(Kind::Point);
         }
     } else if (startsWith(line, "p") && m_file.m_panoramaLine.isEmpty()) {
+        (void)valuesOf(line.substr(1), {}); // every mark is closed
         keep(Kind::Panorama);
         m_file.m_panoramaLine = QByteArray(line.data(), int(line.size()));
     } else if (startsWith(line, "o")) {
@@ -302,8 +303,8 @@ void PtoFile::Reader::readImage(std::string_view line)
     image.c = cells[C].value;
     if (cells[Exposure].known) {
         image.exposureValue = cells[Exposure].value;
-        m_file.m_linksExposures = m_file.m_linksExposures || cells[Exposure].master >= 0;
     }
+    m_file.m_linksExposures = m_file.m_linksExposures || cells[Exposure].master >= 0;
     image.angles = { cells[Yaw].value, cells[Pitch].value, cells[Roll].value };
     link(cells, image);
     m_cells.push_back(cells);
@@ -332,7 +333,7 @@ void PtoFile::Reader::readPath(std::string_view name, PtoImage &image)
 {
     const QByteArray bytes(name.data(), int(name.size()));
     const QString path = QFile::decodeName(bytes);
-    if (path.isEmpty()) {
+    if (path.isEmpty() || *(name.data() - 1) != '"') {
         refuse(QStringLiteral("names no file (n)"));
     }
     if (!isFitName(path) || QFile::encodeName(path) != bytes) {
@@ -540,18 +541,25 @@ void PtoFile::writeYaw(int image)
                 ptoNumber(wrappedDegrees(m_images.at(image).angles.yaw - m_yawCentreDegrees), 6));
 }
 
+void PtoFile::unlinkExposures()
+{
+    for (int i = 0; m_linksExposures && i < m_images.size(); ++i) {
+        QByteArray &line = m_imageLines[size_t(i)];
+        if (valueIn(line, "Eev").substr(0, 1) == "=") {
+            const auto &exposure = m_images.at(i).exposureValue;
+            removeVariable(line, "Eev");
+            if (exposure) {
+                setVariable(line, "Eev", ptoExactNumber(*exposure));
+            }
+        }
+    }
+    m_linksExposures = false;
+}
+
 void PtoFile::place(int image, const PtoPlacement &placement)
 {
     if (placement.exposureValue) {
-        if (m_linksExposures) {
-            for (int i = 0; i < m_images.size(); ++i) {
-                if (m_images.at(i).exposureValue) {
-                    setVariable(m_imageLines[size_t(i)], "Eev",
-                                ptoExactNumber(*m_images.at(i).exposureValue));
-                }
-            }
-            m_linksExposures = false;
-        }
+        unlinkExposures();
         m_images[image].exposureValue = placement.exposureValue;
         setVariable(m_imageLines[size_t(image)], "Eev", ptoNumber(*placement.exposureValue, 6));
     }

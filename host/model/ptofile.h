@@ -143,6 +143,8 @@ private:
     [[nodiscard]] double focalPixels(int image) const;
     [[nodiscard]] double longestFocalPixels() const;
     void writeYaw(int image);
+    /** Before one image's exposure changes: the others keep theirs. */
+    void unlinkExposures();
     /** An i-line with its name relative to \p folder. */
     [[nodiscard]] Result<QByteArray> movedLine(int image, const QString &folder) const;
     [[nodiscard]] QByteArray pointLines() const;
