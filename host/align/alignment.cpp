@@ -62,6 +62,13 @@ MatchRules anyLook(const AlignLens &lens)
     return rules;
 }
 
+int matchedCount(const TiePoints &found)
+{
+    return static_cast<int>(
+        std::count_if(found.pairs.cbegin(), found.pairs.cend(),
+                      [](const TiePoints::Pair &pair) { return pair.points > 0; }));
+}
+
 double median(std::vector<double> values)
 {
     if (values.empty()) {
@@ -91,10 +98,12 @@ public:
 private:
     void keepPoints();
     void choosePhotos();
-    [[nodiscard]] HeadModel modelOfPhotos() const;
+    [[nodiscard]] HeadModel modelOfPhotos(const AlignShoot &shoot) const;
     [[nodiscard]] std::optional<Failure> readPhotos(TiePointFinder &finder);
     void look(TiePointFinder &finder, const TiePointFinder::Rules &rules,
               TiePointFinder::Afterwards afterwards);
+    void checkOrder(TiePointFinder &finder);
+    [[nodiscard]] IndexPairs indicesOf(const IndexPairs &images) const;
     void place(bool roughly);
     void undoSlips();
     [[nodiscard]] std::vector<int> tiedViews() const;
@@ -148,6 +157,7 @@ Result<Alignment> Run::run()
     }
     look(finder, m_plan.trustsRecord ? firstLook : anyLook,
          TiePointFinder::Afterwards::KeepFeatures);
+    checkOrder(finder);
     place(true);
     look(finder, secondLook, TiePointFinder::Afterwards::ReleaseFeatures);
     place(false);
@@ -191,16 +201,16 @@ void Run::choosePhotos()
     m_photos.erase(std::unique(m_photos.begin(), m_photos.end()), m_photos.end());
 }
 
-/** The head as it is known by now, with a view for each of the photos. */
-HeadModel Run::modelOfPhotos() const
+/** The head of \p shoot with a view for each of the photos. */
+HeadModel Run::modelOfPhotos(const AlignShoot &shoot) const
 {
-    HeadModel model = m_shoot.model;
+    HeadModel model = shoot.model;
     model.views.clear();
     model.corrections.clear();
     for (const int image : m_photos) {
-        const auto view = static_cast<size_t>(m_shoot.viewOfImage[static_cast<size_t>(image)]);
-        model.views.push_back(m_shoot.model.views[view]);
-        model.corrections.push_back(m_shoot.model.corrections[view]);
+        const auto view = static_cast<size_t>(shoot.viewOfImage[static_cast<size_t>(image)]);
+        model.views.push_back(shoot.model.views[view]);
+        model.corrections.push_back(shoot.model.corrections[view]);
     }
     return model;
 }
@@ -249,15 +259,8 @@ void Run::keepPoints()
 void Run::look(TiePointFinder &finder, const TiePointFinder::Rules &rules,
                TiePointFinder::Afterwards afterwards)
 {
-    const auto indexOf = [this](int image) {
-        return static_cast<int>(std::lower_bound(m_photos.begin(), m_photos.end(), image)
-                                - m_photos.begin());
-    };
-    IndexPairs pairs;
-    for (const auto &[first, second] : m_pairs) {
-        pairs.emplace_back(indexOf(first), indexOf(second));
-    }
-    const TiePoints found = finder.match(pairs, modelOfPhotos(), rules, m_watch, afterwards);
+    const TiePoints found
+        = finder.match(indicesOf(m_pairs), modelOfPhotos(m_shoot), rules, m_watch, afterwards);
     m_points = m_kept;
     for (const TiePoint &point : found.points) {
         FoundPoint added;
@@ -268,9 +271,57 @@ void Run::look(TiePointFinder &finder, const TiePointFinder::Rules &rules,
         added.tie.second = m_shoot.viewOfImage[static_cast<size_t>(added.secondImage)];
         m_points.push_back(added);
     }
-    m_report.matchedPairCount = static_cast<int>(
-        std::count_if(found.pairs.cbegin(), found.pairs.cend(),
-                      [](const TiePoints::Pair &pair) { return pair.points > 0; }));
+    m_report.matchedPairCount = matchedCount(found);
+}
+
+/** Pairs of images as pairs of the finder's photos, of those that it has. */
+IndexPairs Run::indicesOf(const IndexPairs &images) const
+{
+    const auto indexOf = [this](int image) {
+        const auto found = std::lower_bound(m_photos.begin(), m_photos.end(), image);
+        return found == m_photos.end() || *found != image
+            ? -1
+            : static_cast<int>(found - m_photos.begin());
+    };
+    IndexPairs indices;
+    for (const auto &[first, second] : images) {
+        if (const QPair<int, int> pair(indexOf(first), indexOf(second));
+            pair.first >= 0 && pair.second >= 0) {
+            indices.push_back(pair);
+        }
+    }
+    return indices;
+}
+
+/** Where many neighbours of a grid have nothing in common, another order may fit better. */
+void Run::checkOrder(TiePointFinder &finder)
+{
+    constexpr double kSuspicious = 0.7;
+    constexpr double kClearly = 1.25;
+    const double share = m_report.matchedPairCount / double(std::max(m_report.pairCount, 1));
+    if (m_plan.otherOrders.empty() || share > kSuspicious) {
+        return;
+    }
+    AlignPlan overlapping = m_plan;
+    overlapping.positionPairs.clear();
+    double best = share * kClearly;
+    QString order;
+    for (const GridOrder &other : m_plan.otherOrders) {
+        const AlignShoot shoot = reordered(m_shoot, other);
+        const IndexPairs pairs = imagePairs(shoot, overlapping);
+        const TiePoints found
+            = finder.match(indicesOf(pairs), modelOfPhotos(shoot), firstLook, m_watch);
+        const double matched = matchedCount(found) / double(std::max<size_t>(pairs.size(), 1));
+        if (matched > best) {
+            best = matched;
+            order = other.name;
+        }
+    }
+    if (!order.isEmpty()) {
+        note(QStringLiteral(
+                 "the photos fit the order '%1' better than '%2': import them with --mode %1")
+                 .arg(order, m_plan.gridOrder));
+    }
 }
 
 /** Solves for focal length and places, or for all that is free. */

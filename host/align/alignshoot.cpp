@@ -3,6 +3,7 @@
 #include "host/align/alignshoot.h"
 
 #include "host/align/matching.h"
+#include "host/model/assumedgrid.h"
 #include "host/model/safefile.h"
 
 #include <QRegularExpression>
@@ -74,6 +75,31 @@ void sortUnique(IndexPairs &pairs)
     pairs.erase(std::unique(pairs.begin(), pairs.end()), pairs.end());
 }
 
+/** How else the grid may have been swept. */
+void addOrders(const Panorama &panorama, AlignPlan &plan)
+{
+    plan.gridOrder = gridModeName(panorama.description.gridMode);
+    const PhotoInfo &first = panorama.positions.first().photos.first();
+    QSize frame = first.storedSize;
+    if (clockwiseDegrees(first.orientation) % 180 != 0) {
+        frame.transpose();
+    }
+    for (int mode = 0; mode < kGridModes; ++mode) {
+        StructuredPanoramaProperties description = panorama.description;
+        description.gridMode = mode;
+        const AssumedGrid grid = assumedGrid(description, frame, panorama.focal35mm, panorama.lens);
+        if (mode == panorama.description.gridMode
+            || grid.directions.size() != panorama.positions.size()) {
+            continue;
+        }
+        GridOrder order{ gridModeName(mode), {} };
+        for (const GridDirection &direction : grid.directions) {
+            order.directions.push_back({ direction.yawDegrees, direction.pitchDegrees, 0.0 });
+        }
+        plan.otherOrders.push_back(order);
+    }
+}
+
 /** The lens as it was recorded, with the distortion that the project knows. */
 AlignLens lensOf(const PtoImage &image)
 {
@@ -140,6 +166,9 @@ AlignPlan planOf(const Panorama &panorama)
         }
     }
     sortUnique(plan.positionPairs);
+    if (plan.kind == RecordKind::Grid) {
+        addOrders(panorama, plan);
+    }
     return plan;
 }
 
@@ -206,6 +235,19 @@ AlignShoot shootOf(const PtoFile &project)
         shoot.model.views.push_back(view);
     }
     shoot.model.corrections.resize(shoot.model.views.size());
+    return shoot;
+}
+
+AlignShoot reordered(AlignShoot shoot, const GridOrder &order)
+{
+    for (size_t position = 0; position < shoot.positions.size(); ++position) {
+        for (const int image : shoot.positions[position]) {
+            const auto view = static_cast<size_t>(shoot.viewOfImage[static_cast<size_t>(image)]);
+            const double roll = shoot.model.views[view].recorded.roll;
+            shoot.model.views[view].recorded = order.directions.at(position);
+            shoot.model.views[view].recorded.roll = roll;
+        }
+    }
     return shoot;
 }
 

@@ -29,6 +29,12 @@ enum class RecordKind {
 /** Pairs of numbers, each once, the smaller one first, in ascending order. */
 using IndexPairs = std::vector<QPair<int, int>>;
 
+/** Another order in which a grid may have been swept. */
+struct GridOrder {
+    QString name; ///< on the command line
+    std::vector<Angles> directions; ///< one per position
+};
+
 /** What page and user want of an alignment. */
 struct AlignPlan {
     RecordKind kind = RecordKind::Angles;
@@ -39,6 +45,8 @@ struct AlignPlan {
     bool usesAllLevels = false; ///< of stacks, between positions
     IndexPairs positionPairs; ///< the only ones that may be tied; empty: those that overlap
     IndexPairs imagePairs; ///< the same by images; of a project that was aligned before
+    QString gridOrder; ///< the order that the user stated; empty: no grid, or not known
+    std::vector<GridOrder> otherOrders;
 };
 
 [[nodiscard]] AlignPlan planOf(const Panorama &panorama);
@@ -53,6 +61,9 @@ struct AlignShoot {
 };
 
 [[nodiscard]] AlignShoot shootOf(const PtoFile &project);
+
+/** The shoot if it was swept in \p order. */
+[[nodiscard]] AlignShoot reordered(AlignShoot shoot, const GridOrder &order);
 
 /** The images to be matched, by \p plan. */
 [[nodiscard]] IndexPairs imagePairs(const AlignShoot &shoot, const AlignPlan &plan);

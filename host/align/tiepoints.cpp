@@ -13,6 +13,9 @@ namespace PanoHost
 namespace
 {
 
+/** The same for every pair: what is found does not hang on which others are asked for. */
+constexpr std::uint32_t kSeed = 1;
+
 /** What is found between two photos. */
 struct Found {
     std::vector<TiePoint> points;
@@ -101,10 +104,9 @@ TiePoints TiePointFinder::match(const std::vector<QPair<int, int>> &pairs, const
         const auto theirs = m_store.features(second);
         if (ours && theirs) {
             const AlignLens &lens = model.lensOf(second);
-            const PairMatches matches
-                = matchPair({ *ours, model.lensOf(first) }, { *theirs, lens },
-                            model.rotation(second).transpose() * model.rotation(first), rules(lens),
-                            static_cast<std::uint32_t>(number));
+            const PairMatches matches = matchPair(
+                { *ours, model.lensOf(first) }, { *theirs, lens },
+                model.rotation(second).transpose() * model.rotation(first), rules(lens), kSeed);
             found[index] = tiePoints(pairs[index], matches, *ours, *theirs);
         }
         done(first);

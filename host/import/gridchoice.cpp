@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/import/gridchoice.h"
 
+#include "host/model/assumedgrid.h"
 #include "host/model/commanderror.h"
 #include "host/model/displayname.h"
 
@@ -14,25 +15,9 @@ namespace PanoHost
 namespace
 {
 
-struct GridMode {
-    const char *name;
-    int mode;
-    const char *button; ///< null: the page has none, only a slot
-};
-
-constexpr std::array<GridMode, 5> kModes{ {
-    { "columns", 0, "m_rbMode0" },
-    { "columns-from-right", 3, "m_rbMode3" },
-    { "rows-down", 1, "m_rbMode1" },
-    { "rows-up", 2, "m_rbMode2" },
-    { "serpentine", 4, nullptr },
-} };
-
-template <typename Predicate> const GridMode &modeWhere(Predicate isWanted)
-{
-    const auto *const row = std::find_if(kModes.begin(), kModes.end(), isWanted);
-    return row == kModes.end() ? kModes.front() : *row;
-}
+/** The page's button for each order; null: it has none, only a slot. */
+constexpr std::array<const char *, kGridModes> kButtons{ "m_rbMode0", "m_rbMode1", "m_rbMode2",
+                                                         "m_rbMode3", nullptr };
 
 /** "14 photos", "14 photos less 2 ignored". */
 QString photosText(const GridChoice &grid, int photoCount)
@@ -47,7 +32,11 @@ QString photosText(const GridChoice &grid, int photoCount)
 
 int gridModeNamed(const QString &name)
 {
-    return modeWhere([&name](const GridMode &row) { return name == QLatin1String(row.name); }).mode;
+    int mode = 0;
+    while (mode < kGridModes && gridModeName(mode) != name) {
+        ++mode;
+    }
+    return mode < kGridModes ? mode : 0;
 }
 
 void requireFullGrid(const GridChoice &grid, int photoCount)
@@ -97,10 +86,9 @@ void enterGrid(PageDriver &page, const GridChoice &grid)
     if (grid.overlapPercent) {
         page.setNumber(QStringLiteral("m_dsbOverlapping"), *grid.overlapPercent);
     }
-    const GridMode &mode
-        = modeWhere([&grid](const GridMode &row) { return row.mode == grid.mode; });
-    if (mode.button != nullptr) {
-        page.setChecked(QString::fromLatin1(mode.button), true);
+    const char *const button = kButtons.at(static_cast<size_t>(grid.mode));
+    if (button != nullptr) {
+        page.setChecked(QString::fromLatin1(button), true);
     } else {
         page.toggle("OnMode4Toggled");
     }

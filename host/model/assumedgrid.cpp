@@ -7,6 +7,7 @@
 #include <QtMath>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace PanoHost
@@ -53,6 +54,13 @@ double verticalFovDegrees(const QSize &frame, double horizontalDegrees, LensMode
 }
 
 } // namespace
+
+QString gridModeName(int mode)
+{
+    constexpr std::array<const char *, kGridModes> kNames{ "columns", "rows-down", "rows-up",
+                                                           "columns-from-right", "serpentine" };
+    return QLatin1String(kNames.at(static_cast<size_t>(std::clamp(mode, 0, kGridModes - 1))));
+}
 
 AssumedGrid assumedGrid(const StructuredPanoramaProperties &description, const QSize &frame,
                         double focal35mm, LensModel lens)

@@ -5,6 +5,7 @@
 #include "model/structuredpanoramaproperties.h"
 
 #include <QSize>
+#include <QString>
 #include <QStringList>
 #include <QVector>
 
@@ -16,6 +17,11 @@ struct GridDirection {
     double yawDegrees = 0.0;
     double pitchDegrees = 0.0;
 };
+
+/** The orders in which heads sweep a grid, numbered as pages do. */
+constexpr int kGridModes = 5;
+/** The word for \p mode, on the command line too: "rows-up". */
+[[nodiscard]] QString gridModeName(int mode);
 
 /** A start layout for a grid whose angles nobody recorded. */
 struct AssumedGrid {

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/model/ptoline.h"
 #include "host/model/ptoproject.h"
 #include "tests/host/testpanoramas.h"
 #include "tests/support/testprogram.h"
@@ -122,6 +123,8 @@ private Q_SLOTS:
     void hardStackTurnsWithItsFirstImage();
     void linkedExposuresBecomeTheirOwn();
     void lensIsSetForAllImagesOfIt();
+    void variableIsTakenOffItsLine_data();
+    void variableIsTakenOffItsLine();
     void pointsTakeThePlaceOfThoseThere();
     void wrongPointsAreComments();
     void withoutRecordTheFilesAnglesAreIt();
@@ -369,7 +372,7 @@ void PtoFileTest::linkedExposuresBecomeTheirOwn()
     QCOMPARE(again.images()[1].exposureValue.value(), 8.0);
     QCOMPARE(again.images()[2].exposureValue.value(), 7.5);
     // Linked to one that has none, and stays so.
-    file = parsed(project(image() + image("Eev=0", "b.jpg")));
+    file = parsed(project(image() + image("q\"x\"Eev=0 Eev9", "b.jpg")));
     file.place(0, { {}, 8.0 });
     QVERIFY(!file.images()[1].exposureValue);
     QVERIFY(!parsed(textOf(file)).images()[1].exposureValue);
@@ -406,6 +409,31 @@ void PtoFileTest::lensIsSetForAllImagesOfIt()
             QCOMPARE(image.c, 0.0);
         }
     }
+}
+
+void PtoFileTest::variableIsTakenOffItsLine_data()
+{
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<QByteArray>("left");
+    QTest::newRow("between others")
+        << QByteArray("p w1 S1,2,3,4 n\"a\"\n") << QByteArray("p w1 n\"a\"\n");
+    QTest::newRow("first") << QByteArray("p  S1 w1\n") << QByteArray("p w1\n");
+    QTest::newRow("last, Windows") << QByteArray("p w1 S1\r\n") << QByteArray("p w1\r\n");
+    QTest::newRow("alone") << QByteArray("p S1") << QByteArray("p");
+    QTest::newRow("twice") << QByteArray("p S1 w1 S\"2 3\" h1") << QByteArray("p w1 h1");
+    QTest::newRow("behind a mark") << QByteArray("p q\"x\"S1 w1") << QByteArray("p q\"x\" w1");
+    QTest::newRow("between marks") << QByteArray("p w1 S\"x\"q\"y\"") << QByteArray("p w1 q\"y\"");
+    QTest::newRow("not there") << QByteArray("p w1 \tSx1 s1  \n")
+                               << QByteArray("p w1 \tSx1 s1  \n");
+    QTest::newRow("in a name") << QByteArray("p n\"a S1\"") << QByteArray("p n\"a S1\"");
+}
+
+void PtoFileTest::variableIsTakenOffItsLine()
+{
+    QFETCH(QByteArray, line);
+    QFETCH(QByteArray, left);
+    removeVariable(line, "S");
+    QCOMPARE(line, left);
 }
 
 void PtoFileTest::pointsTakeThePlaceOfThoseThere()

@@ -19,7 +19,8 @@ Rotations rotationsOf(const PtoFile &project)
     Rotations found;
     for (const PtoImage &image : project.images()) {
         if (image.stackMaster < 0) {
-            found.push_back(rotationOf({ image.angles.yaw, image.angles.pitch, image.angles.roll }));
+            found.push_back(
+                rotationOf({ image.angles.yaw, image.angles.pitch, image.angles.roll }));
         }
     }
     return found;
@@ -61,9 +62,12 @@ void TestAlignShoots::photosComeWhereTheyTrulyPointed()
     const Verdict verdict = judged(shoot, ::rotationsOf(aligned.value().project));
     const Verdict before = judged(shoot, TestShoots::rotationsOf(panorama.value()));
     const AlignmentReport &r = aligned.value().report;
-    qInfo("f %.4f b %.5f mount %.3f %.3f scale %.4f %.4f", r.focal35mm, r.distortionB, r.mountPitchDegrees, r.mountRollDegrees, r.yawScale, r.pitchScale);
-    qInfo("%s: before %.4f now %.4f max %.4f apart %.4f (before %.4f) %.1f s | %s", qPrintable(shoot.name), before.tied.rms, verdict.tied.rms,
-          verdict.tied.largest, verdict.apart, before.apart, double(timer.elapsed()) / 1000.0, qPrintable(sentences(aligned.value().report).join(QLatin1String(" | "))));
+    qInfo("f %.4f b %.5f mount %.3f %.3f scale %.4f %.4f", r.focal35mm, r.distortionB,
+          r.mountPitchDegrees, r.mountRollDegrees, r.yawScale, r.pitchScale);
+    qInfo("%s: before %.4f now %.4f max %.4f apart %.4f (before %.4f) %.1f s | %s",
+          qPrintable(shoot.name), before.tied.rms, verdict.tied.rms, verdict.tied.largest,
+          verdict.apart, before.apart, double(timer.elapsed()) / 1000.0,
+          qPrintable(sentences(aligned.value().report).join(QLatin1String(" | "))));
 }
 
 TEST_CLASS(TestAlignShoots, QCoreApplication)
