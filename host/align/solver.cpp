@@ -6,6 +6,8 @@
 
 #include <ceres/ceres.h>
 
+#include <QtMath>
+
 #include <dlfcn.h>
 
 #include <algorithm>
@@ -20,7 +22,7 @@ namespace PanoHost
 namespace
 {
 
-constexpr int kAxes = 3;
+constexpr int kAxes = CorrectionUnknowns;
 using PerAxis = std::array<double, kAxes>;
 
 /** From a median distance to the standard deviation of what is right. */
@@ -209,7 +211,7 @@ private:
 
     void takeState();
     void putState();
-    void addPoints(ceres::Problem &problem);
+    void addPoints(ceres::Problem &problem, const Attitudes &attitudes);
     void addPriors(ceres::Problem &problem);
     static void hold(ceres::Problem &problem, double *four, const std::array<bool, 4> &isFree);
     void iterate(ceres::Problem &problem, int most, double tolerance);
@@ -257,11 +259,13 @@ SolveResult Solver::run()
     m_watch.check();
     takeState();
     measure();
+    Attitudes attitudes(m_model.views, m_state.data(), head());
     ceres::Problem::Options ownership;
+    ownership.evaluation_callback = &attitudes;
     ownership.loss_function_ownership = ceres::DO_NOT_TAKE_OWNERSHIP;
     ownership.disable_all_safety_checks = true;
     ceres::Problem problem(ownership);
-    addPoints(problem);
+    addPoints(problem, attitudes);
     addPriors(problem);
     m_pointLoss.sigma = m_options.lossPixels;
     m_pointLoss.width = std::max(m_options.lossPixels, 3.0 * typicalResidual());
@@ -360,30 +364,23 @@ FreeRanges Solver::freeRanges(int view) const
              FreeRange{} };
 }
 
-void Solver::addPoints(ceres::Problem &problem)
+void Solver::addPoints(ceres::Problem &problem, const Attitudes &attitudes)
 {
     for (const TiePoint &point : m_points) {
         if (!isUsable(point)) {
             continue;
         }
-        const AlignView &first = m_model.views[static_cast<size_t>(point.first)];
-        const AlignView &second = m_model.views[static_cast<size_t>(point.second)];
-        auto residual = std::make_unique<TieResidual>(point, first, second,
-                                                      m_lenses[static_cast<size_t>(first.lens)],
-                                                      m_lenses[static_cast<size_t>(second.lens)]);
-        double *const corrections[] = { correction(point.first), correction(point.second) };
-        if (first.lens == second.lens) {
-            problem.AddResidualBlock(
-                new ceres::AutoDiffCostFunction<TieResidual, 2, kAxes, kAxes, HeadUnknowns,
-                                                LensUnknowns>(residual.release()),
-                &m_pointLoss, corrections[0], corrections[1], head(), lens(first.lens));
-        } else {
-            problem.AddResidualBlock(
-                new ceres::AutoDiffCostFunction<TieResidual, 2, kAxes, kAxes, HeadUnknowns,
-                                                LensUnknowns, LensUnknowns>(residual.release()),
-                &m_pointLoss, corrections[0], corrections[1], head(), lens(first.lens),
-                lens(second.lens));
+        const int first = m_model.views[static_cast<size_t>(point.first)].lens;
+        const int second = m_model.views[static_cast<size_t>(point.second)].lens;
+        std::vector<double *> unknowns{ correction(point.first), correction(point.second), head(),
+                                        lens(first) };
+        if (first != second) {
+            unknowns.push_back(lens(second));
         }
+        problem.AddResidualBlock(new TieResidual(point, attitudes,
+                                                 m_lenses[static_cast<size_t>(first)],
+                                                 m_lenses[static_cast<size_t>(second)]),
+                                 &m_pointLoss, unknowns);
     }
 }
 
