@@ -31,11 +31,15 @@ using Eigen::Vector3d;
 constexpr double kLeastSimilarity = 0.75;
 /** A partner is this much nearer than its best rival, as distance of their descriptors. */
 constexpr double kMostRatio = 0.85;
-/** Features this near to each other are the same spot, and no rivals; pixels. */
-constexpr double kSameSpotPixels = 3.0;
 constexpr int kDraws = 200;
 constexpr int kLeastInliers = 5;
 constexpr int kSpreadCells = 5; ///< on each side of the overlap
+
+/** Of photos in which features are looked for at 1,600 pixels to the width, or at all there are. */
+double sameSpotPixels(const AlignLens &lens)
+{
+    return std::max(3.0, 0.002 * lens.size.width());
+}
 
 /** Scalar product of two descriptors of length 1. */
 constexpr double kDescriptorUnit = 512.0 * 512.0;
@@ -153,8 +157,10 @@ struct Likeness {
 };
 
 std::vector<Match> mutualMatches(const MatchSide &first, const MatchSide &second,
-                                 const Matrix3d &predicted, double window)
+                                 const Matrix3d &predicted, const MatchRules &rules)
 {
+    const double window = rules.windowPixels;
+    const double sameSpot = rules.sameSpotPixels * rules.sameSpotPixels;
     const std::vector<Candidate> ours = candidates(first, predicted, second.lens, window);
     // Of the second photo only what the first one may show.
     std::vector<Candidate> theirs;
@@ -181,7 +187,7 @@ std::vector<Match> mutualMatches(const MatchSide &first, const MatchSide &second
         for (const Likeness &rival : row) {
             const Vector2d &place = theirs[static_cast<size_t>(rival.other)].place;
             const Vector2d &chosen = theirs[static_cast<size_t>(best[i].other)].place;
-            if ((place - chosen).squaredNorm() >= kSameSpotPixels * kSameSpotPixels) {
+            if ((place - chosen).squaredNorm() >= sameSpot) {
                 rivals[i] = std::max(rivals[i], rival.product);
             }
         }
@@ -365,19 +371,20 @@ std::vector<Match> spread(const std::vector<Match> &matches, const FeatureSet &f
 MatchRules firstLook(const AlignLens &lens)
 {
     const double width = lens.size.width();
-    return { 0.16 * width, std::max(0.012 * width, 6.0), 15.0 };
+    return { 0.16 * width, std::max(0.012 * width, 6.0), 15.0, 40, sameSpotPixels(lens) };
 }
 
 MatchRules secondLook(const AlignLens &lens)
 {
     const double width = lens.size.width();
-    return { std::max(0.012 * width, 8.0), std::max(0.008 * width, 4.0), 1.0 };
+    return { std::max(0.012 * width, 8.0), std::max(0.008 * width, 4.0), 1.0, 40,
+             sameSpotPixels(lens) };
 }
 
 PairMatches matchPair(const MatchSide &first, const MatchSide &second, const Matrix3d &predicted,
                       const MatchRules &rules, std::uint32_t seed)
 {
-    const std::vector<Match> matches = mutualMatches(first, second, predicted, rules.windowPixels);
+    const std::vector<Match> matches = mutualMatches(first, second, predicted, rules);
     if (static_cast<int>(matches.size()) < kLeastInliers) {
         return {};
     }

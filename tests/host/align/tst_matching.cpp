@@ -247,7 +247,7 @@ void TestMatching::predictionsBeyondTheGateAreRefused()
 {
     const Shot one(AlignPictures::texture(), kLandscape, { 0, 0, 0 });
     const Shot other(AlignPictures::texture(), kLandscape, { 30, 0, 0 });
-    const MatchRules wide{ 480.0, 6.0, 0.0, 40 };
+    const MatchRules wide{ 480.0, 6.0, 0.0 };
     MatchRules gated = wide;
     gated.gateDegrees = 5.0;
     const Matrix3d wrong = between(one.rotation(), rotationOf({ 36.0, 0.0, 0.0 }));
@@ -262,10 +262,13 @@ void TestMatching::rulesFollowTheWidth()
     QCOMPARE(firstLook(lens).windowPixels, 960.0); // 16 %
     QCOMPARE(firstLook(lens).consensusPixels, 72.0); // 1.2 %
     QCOMPARE(firstLook(lens).gateDegrees, 15.0);
+    QCOMPARE(firstLook(lens).sameSpotPixels, 12.0); // 0.2 %
     QCOMPARE(secondLook(lens).windowPixels, 72.0); // 1.2 %
     QCOMPARE(secondLook(lens).consensusPixels, 48.0); // 0.8 %
     QCOMPARE(secondLook(lens).gateDegrees, 1.0);
+    QCOMPARE(secondLook(lens).sameSpotPixels, 12.0);
     lens.size = QSize(400, 300);
+    QCOMPARE(firstLook(lens).sameSpotPixels, 3.0);
     QCOMPARE(firstLook(lens).consensusPixels, 6.0);
     QCOMPARE(secondLook(lens).windowPixels, 8.0);
     QCOMPARE(secondLook(lens).consensusPixels, 4.0);

@@ -60,6 +60,7 @@ private:
     {
         TiePointOptions options;
         options.widest = 320; // two thirds
+        options.features.most = 960;
         return options;
     }
 
@@ -150,7 +151,7 @@ void TestTiePoints::resultsDoNotDependOnTheNumberOfJobs()
 
 void TestTiePoints::aStoreWithoutRoomGivesTheSame()
 {
-    QVERIFY(areEqual(found(2, 400'000), m_found)); // room for two photos
+    QVERIFY(areEqual(found(2, 200'000), m_found)); // room for two photos
     QVERIFY(areEqual(found(2, 0), m_found));
 }
 
