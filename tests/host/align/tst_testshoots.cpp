@@ -464,6 +464,12 @@ void TestTestShoots::gridsAreLaidOutFromWhatTheUserSays()
     const double stated = panorama.positions[4].yawDegrees - panorama.positions[0].yawDegrees;
     QVERIFY(near(stated, 0.6 * 39.5978, 1e-3));
     QVERIFY(near(shoot.planned[4].yawDegrees - shoot.planned[0].yawDegrees, 0.7 * 39.5978, 1e-3));
+    // Said to sweep rows, the fifth photo is the fifth of the upper row.
+    shoot.grid.order = PanoHead::kRowsDownward;
+    const Result<Panorama> otherwise = photographed(shoot, folder.path());
+    QVERIFY(otherwise.ok());
+    QVERIFY(near(otherwise.value().positions[4].yawDegrees, 0.0, 1e-6));
+    QCOMPARE(otherwise.value().positions[4].pitchDegrees, panorama.positions[0].pitchDegrees);
     double pitch = 0.0;
     for (const Pose &pose : shoot.planned) {
         pitch += pose.pitchDegrees / 36.0;

@@ -8,7 +8,6 @@
 #include "host/model/photofile.h"
 #include "host/model/safefile.h"
 #include "importers/gigapan/gigapantospp.h"
-#include "importers/gigapan/gridorder.h"
 #include "importers/headfacts.h"
 #include "importers/papywizard/merlintospp.h"
 #include "shoot/angles.h"
@@ -173,7 +172,7 @@ StructuredPanoramaProperties described(const TestShoot &shoot, const QStringList
     const int bracket = shoot.exposures.bracket.size();
     if (shoot.noted == Noted::Grid) {
         const int columns = shoot.planned.size() / shoot.grid.rows;
-        GigapanToSPP generator(shoot.grid.rows, columns, PanoHead::kColumnsFromLeft, bracket, 0);
+        GigapanToSPP generator(shoot.grid.rows, columns, shoot.grid.order, bracket, 0);
         generator.generateSPP(paths, shoot.grid.wraps);
         generator.overlap = shoot.grid.overlapPercent;
         return generator;

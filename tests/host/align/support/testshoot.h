@@ -4,6 +4,7 @@
 
 #include "host/demo/shootplan.h"
 #include "host/model/panorama.h"
+#include "importers/gigapan/gridorder.h"
 #include "tests/host/align/support/attitudeerrors.h"
 #include "tests/host/align/support/testscenes.h"
 
@@ -35,9 +36,10 @@ enum class Noted {
     Grid, ///< nobody: rows, columns and an overlap are all that is known
 };
 
-/** What the user says of a grid; cells are in `kColumnsFromLeft` order. */
+/** What the user says of a grid. */
 struct StatedGrid {
     int rows = 0;
+    int order = PanoHead::kColumnsFromLeft; ///< which is the true one, whatever is said
     double overlapPercent = 0.0;
     bool wraps = false;
 };
