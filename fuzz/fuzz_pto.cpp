@@ -58,7 +58,8 @@ StructuredPanoramaProperties takeDescription(ByteSource &bytes)
 
 } // namespace
 
-/** Any description with any photos: refused with a reason, or a project with every photo in it. */
+/** Any description with any photos: refused with a reason, or a project with every photo in it,
+ * which is read again unless its angles are beyond all turns. */
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     ByteSource bytes(data, size);
@@ -80,6 +81,12 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         FUZZ_CHECK(!made.text.contains("nan") && !made.text.contains("inf"));
         FUZZ_CHECK(made.canvas.width() > 0 && made.canvas.height() > 0);
         FUZZ_CHECK(made.crop.isNull() || QRect(QPoint(), made.canvas).contains(made.crop));
+        const auto file = PtoFile::parse(made.text, {});
+        FUZZ_CHECK(file.ok() || file.error().why.endsWith(QLatin1Char('\'')));
+        if (file) {
+            FUZZ_CHECK(file.value().images().size() == photoCount(panorama.value()));
+            FUZZ_CHECK(file.value().text({}).value() == made.text);
+        }
     }
     return 0;
 }

@@ -26,6 +26,7 @@ namespace
 constexpr qint64 kMostBytes = 512LL * 1024 * 1024;
 constexpr int kMostImages = 250'000;
 constexpr int kMostPoints = 10'000'000;
+constexpr size_t kLongestLine = 65'536;
 constexpr int kLongestSide = 10'000'000; ///< of a photo, pixels
 /** Beyond it, nothing in a project means anything. */
 constexpr double kLargest = 1e9;
@@ -221,6 +222,9 @@ void PtoFile::Reader::readLine(std::string_view line)
 PtoFile::Reader::Values PtoFile::Reader::valuesOf(std::string_view line,
                                                   const std::vector<std::string_view> &names) const
 {
+    if (line.size() > kLongestLine) {
+        refuse(QStringLiteral("longer than %1 bytes").arg(kLongestLine));
+    }
     Values values(names.size());
     while (const auto variable = takeVariable(line)) {
         if (variable->isUnclosed) {

@@ -151,7 +151,8 @@ void removeVariable(QByteArray &line, std::string_view name)
         std::string_view part = before.substr(0, before.size() - rest.size());
         if (variable && variable->name == name) {
             // The blanks before it go along, unless they part its neighbours.
-            const bool partsNeighbours = !rest.empty() && kBlanks.find(rest[0]) == kBlanks.npos;
+            const bool partsNeighbours
+                = !rest.empty() && kBlanks.find(rest[0]) == std::string_view::npos;
             part = part.substr(0, partsNeighbours ? part.find_first_not_of(kBlanks) : 0);
         }
         kept.append(part.data(), int(part.size()));

@@ -186,7 +186,8 @@ void PtoFileTest::textIsKeptByteForByte_data()
     QTest::newRow("unknown comment of ours") << project(image()) + "#panohost later x1\n";
     QTest::newRow("own comments") << project(image()) + "#panohost centre y-0.50\n"
             + "#panohost record i0 y1.50 p2 r3 turn90\n#panohost wrong c n0 N0 x1 y2 X3 Y4 t0\n";
-    QTest::newRow("bytes of no character set") << project(image()) + "# \xff\xfe\0 \x01\n";
+    QTest::newRow("bytes of no character set")
+        << project(image()) + "# \xff\xfe" + QByteArray(2, '\0') + "\x01\n";
 }
 
 void PtoFileTest::textIsKeptByteForByte()
@@ -237,6 +238,8 @@ void PtoFileTest::badProjectIsRefused_data()
     QTest::newRow("no panorama line")
         << image()
         << "the project: has no line for the panorama (p); is it a project that Hugin opens?";
+    badImage("endless line", "i w60 h40 v50 n\"a\"" + QByteArray(65536, ' ') + '\n',
+             "longer than 65536 bytes");
     QTest::newRow("panorama line without an end")
         << QByteArray("p h\"100 w200\n" + image())
         << QStringLiteral("line 1: the quotation mark at the end of h is missing") + again;
@@ -420,12 +423,12 @@ void PtoFileTest::variableIsTakenOffItsLine_data()
     QTest::newRow("first") << QByteArray("p  S1 w1\n") << QByteArray("p w1\n");
     QTest::newRow("last, Windows") << QByteArray("p w1 S1\r\n") << QByteArray("p w1\r\n");
     QTest::newRow("alone") << QByteArray("p S1") << QByteArray("p");
-    QTest::newRow("twice") << QByteArray("p S1 w1 S\"2 3\" h1") << QByteArray("p w1 h1");
-    QTest::newRow("behind a mark") << QByteArray("p q\"x\"S1 w1") << QByteArray("p q\"x\" w1");
-    QTest::newRow("between marks") << QByteArray("p w1 S\"x\"q\"y\"") << QByteArray("p w1 q\"y\"");
+    QTest::newRow("twice") << QByteArray(R"(p S1 w1 S"2 3" h1)") << QByteArray("p w1 h1");
+    QTest::newRow("behind a mark") << QByteArray(R"(p q"x"S1 w1)") << QByteArray(R"(p q"x" w1)");
+    QTest::newRow("between marks") << QByteArray(R"(p w1 S"x"q"y")") << QByteArray(R"(p w1 q"y")");
     QTest::newRow("not there") << QByteArray("p w1 \tSx1 s1  \n")
                                << QByteArray("p w1 \tSx1 s1  \n");
-    QTest::newRow("in a name") << QByteArray("p n\"a S1\"") << QByteArray("p n\"a S1\"");
+    QTest::newRow("in a name") << QByteArray(R"(p n"a S1")") << QByteArray(R"(p n"a S1")");
 }
 
 void PtoFileTest::variableIsTakenOffItsLine()
