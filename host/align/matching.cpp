@@ -31,6 +31,8 @@ using Eigen::Vector3d;
 constexpr double kLeastSimilarity = 0.75;
 /** A partner is this much nearer than its best rival, as distance of their descriptors. */
 constexpr double kMostRatio = 0.85;
+/** Of a pair: twice as many as would do bring photos a fifth nearer, at the cost of solving. */
+constexpr int kMostPoints = 80;
 constexpr int kDraws = 200;
 constexpr int kLeastInliers = 5;
 constexpr int kSpreadCells = 5; ///< on each side of the overlap
@@ -371,13 +373,13 @@ std::vector<Match> spread(const std::vector<Match> &matches, const FeatureSet &f
 MatchRules firstLook(const AlignLens &lens)
 {
     const double width = lens.size.width();
-    return { 0.16 * width, std::max(0.012 * width, 6.0), 15.0, 40, sameSpotPixels(lens) };
+    return { 0.16 * width, std::max(0.012 * width, 6.0), 15.0, kMostPoints, sameSpotPixels(lens) };
 }
 
 MatchRules secondLook(const AlignLens &lens)
 {
     const double width = lens.size.width();
-    return { std::max(0.012 * width, 8.0), std::max(0.008 * width, 4.0), 1.0, 40,
+    return { std::max(0.012 * width, 8.0), std::max(0.008 * width, 4.0), 1.0, kMostPoints,
              sameSpotPixels(lens) };
 }
 

@@ -13,12 +13,14 @@
 namespace PanoHost
 {
 
-/** How exactly the prediction is believed. Pixels are stored ones. */
+/** How exactly the prediction is believed. Pixels are stored ones; the window is more than 0. */
 struct MatchRules {
     double windowPixels = 0.0; ///< a feature's partner lies this near to where it is predicted
     double consensusPixels = 0.0; ///< partners agree with one rotation within this
     double gateDegrees = 0.0; ///< that rotation leaves the predicted one by no more; 0: by any
     int mostPoints = 80; ///< kept, spread over the overlap
+    /** Features this near to each other are the same spot: they do not make a match unsure. */
+    double sameSpotPixels = 3.0;
 };
 
 /** The rules of the first look, from the record alone, for a photo through \p lens. */

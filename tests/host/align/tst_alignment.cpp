@@ -96,8 +96,15 @@ public:
     }
 
 private:
+    /** The photos are taken once, and copied: tests spoil them. */
     static Panorama taken(const TestShoot &shoot, const QString &folder)
     {
+        static const QTemporaryDir originals;
+        const QDir studio(originals.filePath(QString::number(shoot.exposures.bracket.size())));
+        (void)photographed(shoot, studio.path()).value();
+        for (const QString &name : studio.entryList(QDir::Files)) {
+            QFile::copy(studio.filePath(name), QDir(folder).filePath(name));
+        }
         Panorama made = photographed(shoot, folder).value();
         made.description.autoDetection = true;
         made.description.cleanWrongLinks = true;

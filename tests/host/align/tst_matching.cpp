@@ -163,7 +163,7 @@ void TestMatching::neighboursAreTiedWithinAPartOfAPixel()
             = matchPair(one.side(), other.side(), predicted(one, other, degrees), rules, 1);
         const std::vector<double> errors = AlignPictures::errors(matches, one, other);
         QVERIFY2(matches.pairs.size() >= 20, qPrintable(QString::number(matches.pairs.size())));
-        QVERIFY(matches.pairs.size() <= 40);
+        QVERIFY(int(matches.pairs.size()) <= rules.mostPoints);
         QVERIFY2(AlignPictures::median(errors) < 0.3,
                  qPrintable(QString::number(AlignPictures::median(errors))));
         QVERIFY2(worst(errors) < rules.consensusPixels + 1.0,
@@ -203,8 +203,9 @@ void TestMatching::sameWindowsAreNotTakenForEachOther()
         = matchPair(one.side(), other.side(), predicted(one, other, degreesOff), rules, 1);
     const std::vector<double> errors = AlignPictures::errors(matches, one, other);
     QVERIFY2(first || errors.size() >= 20, qPrintable(QString::number(errors.size())));
+    // The next window is 4 degrees on: with this lens at least 20 pixels.
     for (const double error : errors) {
-        QVERIFY2(error < rules.consensusPixels + 1.0, qPrintable(QString::number(error)));
+        QVERIFY2(error < 10.0, qPrintable(QString::number(error)));
     }
 }
 
@@ -226,7 +227,7 @@ void TestMatching::identicalPhotosMatchEverywhere()
     const Shot shot(AlignPictures::texture(), kLandscape, { 0, 0, 0 });
     const PairMatches matches
         = matchPair(shot.side(), shot.side(), Matrix3d::Identity(), firstLook(shot.lens), 1);
-    QCOMPARE(static_cast<int>(matches.pairs.size()), 40);
+    QCOMPARE(static_cast<int>(matches.pairs.size()), firstLook(shot.lens).mostPoints);
     QVERIFY(worst(AlignPictures::errors(matches, shot, shot)) < 1e-3);
     QVERIFY(degreesBetween(matches.rotation, Matrix3d::Identity()) < 1e-6);
 }
