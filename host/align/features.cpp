@@ -22,6 +22,7 @@ namespace
 
 constexpr int kCellColumns = 12;
 constexpr int kCellRows = 8;
+constexpr int kCells = kCellColumns * kCellRows;
 constexpr double kContrastThreshold = 0.012;
 constexpr double kEdgeThreshold = 12.0;
 constexpr int kLeastSide = 16; ///< pixels; smaller pictures have no features
@@ -106,7 +107,7 @@ int cellOf(const cv::KeyPoint &point, const cv::Size &size)
 std::vector<cv::KeyPoint> spread(const std::vector<cv::KeyPoint> &points, const cv::Size &size,
                                  int most)
 {
-    std::array<std::vector<cv::KeyPoint>, kCellColumns * kCellRows> cells;
+    std::array<std::vector<cv::KeyPoint>, kCells> cells;
     for (const cv::KeyPoint &point : points) {
         cells.at(static_cast<size_t>(cellOf(point, size))).push_back(point);
     }
@@ -219,7 +220,7 @@ FeatureSet featuresOf(const GreyPicture &picture, const FeatureOptions &options)
     const auto sift = cv::SIFT::create(0, 3, kContrastThreshold, kEdgeThreshold);
     std::vector<cv::KeyPoint> points;
     sift->detect(grey, points);
-    points = spread(points, grey.size(), options.most / (kCellColumns * kCellRows));
+    points = spread(points, grey.size(), options.most / kCells);
     // Describing costs more than finding: only those that are kept.
     cv::Mat descriptors;
     if (!points.empty()) {

@@ -17,6 +17,7 @@
 #include <random>
 #include <set>
 #include <tuple>
+#include <utility>
 
 namespace PanoHost
 {
@@ -242,8 +243,8 @@ Matrix3d fittedRotation(const std::vector<Match> &matches)
 class Consensus
 {
 public:
-    Consensus(const Matrix3d &predicted, const MatchRules &rules, const AlignLens &lens)
-        : m_predicted(predicted)
+    Consensus(Matrix3d predicted, const MatchRules &rules, const AlignLens &lens)
+        : m_predicted(std::move(predicted))
         , m_gateDegrees(rules.gateDegrees)
         , m_tolerance(rules.consensusPixels / lens.focalPixels)
         // Two rays nearer to each other than this say little about a turn around them.
@@ -413,32 +414,27 @@ PairMatches matchPair(const MatchSide &first, const MatchSide &second, const Mat
 namespace
 {
 
-/** Rays through the middles of 12 x 8 fields of what \p lens sees. */
-std::vector<Vector3d> sampleRays(const AlignLens &lens)
-{
-    constexpr int kColumns = 12;
-    constexpr int kRows = 8;
-    std::vector<Vector3d> rays;
-    for (int row = 0; row < kRows; ++row) {
-        for (int column = 0; column < kColumns; ++column) {
-            rays.push_back(lens.rayOf({ (column + 0.5) * lens.size.width() / kColumns - 0.5,
-                                        (row + 0.5) * lens.size.height() / kRows - 0.5 }));
-        }
-    }
-    return rays;
-}
-
 /** What the search for overlaps knows of a lens. */
 struct Sight {
-    std::vector<Vector3d> samples;
+    std::vector<Vector3d> samples; ///< rays through the middles of 12 x 8 fields of the photo
     double reach = 0.0; ///< radians from the axis to the farthest corner
 };
 
 Sight sightThrough(const AlignLens &lens)
 {
-    Sight sight{ sampleRays(lens), 0.0 };
-    for (const double x : { -0.5, lens.size.width() - 0.5 }) {
-        for (const double y : { -0.5, lens.size.height() - 0.5 }) {
+    constexpr int kColumns = 12;
+    constexpr int kRows = 8;
+    const double width = lens.size.width();
+    const double height = lens.size.height();
+    Sight sight;
+    for (int row = 0; row < kRows; ++row) {
+        for (int column = 0; column < kColumns; ++column) {
+            sight.samples.push_back(lens.rayOf(
+                { (column + 0.5) * width / kColumns - 0.5, (row + 0.5) * height / kRows - 0.5 }));
+        }
+    }
+    for (const double x : { -0.5, width - 0.5 }) {
+        for (const double y : { -0.5, height - 0.5 }) {
             const Vector3d corner = lens.rayOf({ x, y });
             sight.reach = std::max(sight.reach, std::atan2(corner.head<2>().norm(), corner.z()));
         }
@@ -446,17 +442,66 @@ Sight sightThrough(const AlignLens &lens)
     return sight;
 }
 
-/** The share of \p samples, rays of one camera, that \p lens sees once \p rotation has turned them
- * into its own. */
-double shareSeen(const std::vector<Vector3d> &samples, const Matrix3d &rotation,
-                 const AlignLens &lens)
+/** Views that point somewhere through lenses, and which of them overlap. */
+class Overlaps
 {
-    const auto seen = std::count_if(samples.begin(), samples.end(), [&](const Vector3d &ray) {
-        const auto pixel = lens.pixelOf(rotation * ray);
-        return pixel && lens.contains(*pixel);
-    });
-    return static_cast<double>(seen) / static_cast<double>(samples.size());
-}
+public:
+    Overlaps(const std::vector<Matrix3d> &rotations, const std::vector<const AlignLens *> &lenses)
+        : m_rotations(rotations)
+        , m_lenses(lenses)
+    {
+        for (const AlignLens *lens : lenses) {
+            if (m_sights.count(lens) == 0) {
+                m_sights.emplace(lens, sightThrough(*lens));
+                m_narrowest = std::min(m_narrowest, m_sights.at(lens).reach);
+            }
+        }
+    }
+
+    [[nodiscard]] int count() const { return static_cast<int>(m_rotations.size()); }
+    /** The least reach of all views, radians. */
+    [[nodiscard]] double narrowest() const { return m_narrowest; }
+    [[nodiscard]] double reach(int view) const { return sight(view).reach; }
+
+    /** The share of the narrower view's frame that the other one sees. */
+    [[nodiscard]] double share(int one, int other) const
+    {
+        const double apart = reach(one) + reach(other);
+        if (apart < M_PI && axis(one).dot(axis(other)) < std::cos(apart)) {
+            return 0.0;
+        }
+        return reach(one) <= reach(other) ? shareSeen(one, other) : shareSeen(other, one);
+    }
+
+    [[nodiscard]] Vector3d axis(int view) const
+    {
+        return m_rotations[static_cast<size_t>(view)].col(2);
+    }
+
+private:
+    [[nodiscard]] const Sight &sight(int view) const
+    {
+        return m_sights.at(m_lenses[static_cast<size_t>(view)]);
+    }
+
+    [[nodiscard]] double shareSeen(int view, int by) const
+    {
+        const Matrix3d turn = m_rotations[static_cast<size_t>(by)].transpose()
+            * m_rotations[static_cast<size_t>(view)];
+        const AlignLens &lens = *m_lenses[static_cast<size_t>(by)];
+        const std::vector<Vector3d> &samples = sight(view).samples;
+        const auto seen = std::count_if(samples.begin(), samples.end(), [&](const Vector3d &ray) {
+            const auto pixel = lens.pixelOf(turn * ray);
+            return pixel && lens.contains(*pixel);
+        });
+        return static_cast<double>(seen) / static_cast<double>(samples.size());
+    }
+
+    const std::vector<Matrix3d> &m_rotations;
+    const std::vector<const AlignLens *> &m_lenses;
+    std::map<const AlignLens *, Sight> m_sights;
+    double m_narrowest = M_PI;
+};
 
 } // namespace
 
@@ -464,64 +509,35 @@ std::vector<QPair<int, int>> overlappingPairs(const std::vector<Matrix3d> &rotat
                                               const std::vector<const AlignLens *> &lenses,
                                               double leastShare)
 {
-    std::map<const AlignLens *, Sight> sights;
-    for (const AlignLens *lens : lenses) {
-        if (sights.count(lens) == 0) {
-            sights.emplace(lens, sightThrough(*lens));
-        }
-    }
-    double widest = 0.0;
-    for (const auto &[lens, sight] : sights) {
-        widest = std::max(widest, sight.reach);
-    }
-    const int count = static_cast<int>(rotations.size());
+    const Overlaps overlaps(rotations, lenses);
     QVector<PanoHead::UnitVector> axes;
-    axes.reserve(count);
-    for (const Matrix3d &rotation : rotations) {
+    axes.reserve(overlaps.count());
+    for (int i = 0; i < overlaps.count(); ++i) {
         // The index has its poles at z.
-        axes.append({ rotation(2, 2), rotation(0, 2), rotation(1, 2) });
+        const Vector3d axis = overlaps.axis(i);
+        axes.append({ axis.z(), axis.x(), axis.y() });
     }
-    const PanoHead::DirectionIndex index(axes, std::min(2.0 * widest, M_PI_2));
+    const PanoHead::DirectionIndex index(axes, std::min(2.0 * overlaps.narrowest(), M_PI_2));
     std::vector<QPair<int, int>> pairs;
-    std::vector<int> near;
-    for (int i = 0; i < count; ++i) {
-        const auto &rotation = rotations[static_cast<size_t>(i)];
-        const AlignLens *lens = lenses[static_cast<size_t>(i)];
-        const Sight &sight = sights.at(lens);
-        near.clear();
+    for (int i = 0; i < overlaps.count(); ++i) {
+        // Each pair is found from its wider view, so that a few wide ones among many cost little.
         const auto consider = [&](int j) {
-            if (j <= i) {
-                return;
-            }
-            const auto &other = rotations[static_cast<size_t>(j)];
-            const AlignLens *otherLens = lenses[static_cast<size_t>(j)];
-            const Sight &otherSight = sights.at(otherLens);
-            const double reach = sight.reach + otherSight.reach;
-            if (reach < M_PI && rotation.col(2).dot(other.col(2)) < std::cos(reach)) {
-                return;
-            }
-            const bool narrower = sight.reach <= otherSight.reach;
-            const double share = narrower
-                ? shareSeen(sight.samples, other.transpose() * rotation, *otherLens)
-                : shareSeen(otherSight.samples, rotation.transpose() * other, *lens);
-            if (share >= leastShare) {
-                near.push_back(j);
+            if (std::pair(overlaps.reach(j), j) < std::pair(overlaps.reach(i), i)
+                && overlaps.share(i, j) >= leastShare) {
+                pairs.emplace_back(std::min(i, j), std::max(i, j));
             }
         };
-        const double radius = sight.reach + widest;
+        const double radius = 2.0 * overlaps.reach(i);
         if (radius <= M_PI_2) {
             index.visitNear(i, radius, consider);
         } else {
             // Such a lens sees a good part of all there is.
-            for (int j = i + 1; j < count; ++j) {
+            for (int j = 0; j < overlaps.count(); ++j) {
                 consider(j);
             }
         }
-        std::sort(near.begin(), near.end());
-        for (const int j : near) {
-            pairs.emplace_back(i, j);
-        }
     }
+    std::sort(pairs.begin(), pairs.end());
     return pairs;
 }
 

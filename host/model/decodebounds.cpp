@@ -20,7 +20,7 @@ constexpr qint64 kMostDecodedBytes = 384 * kMegabyte;
 /** Where files mostly have the mark of their end. */
 constexpr qint64 kMarkBytes = 16;
 /** Cameras append previews and short films; a mark farther away is not looked for. */
-constexpr qint64 kTailBytes = qint64(64) * 1024;
+constexpr qint64 kTailBytes = 64LL * 1024;
 
 /** Decoders would read through any amount of garbage, some gigabytes a minute. */
 constexpr int kMostGarbageBytes = 1024 * 1024;

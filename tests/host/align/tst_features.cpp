@@ -296,8 +296,9 @@ void TestFeatures::featuresAreSpreadAndBounded()
     std::array<int, 96> cells{};
     for (const FeatureSet::Place &place : features.places) {
         QVERIFY(place.x > -0.5F && place.x < 599.5F && place.y > -0.5F && place.y < 399.5F);
-        ++cells.at(
-            static_cast<size_t>(int((place.y + 0.5) / 50.0) * 12 + int((place.x + 0.5) / 50.0)));
+        const auto column = static_cast<size_t>((place.x + 0.5) / 50.0);
+        const auto row = static_cast<size_t>((place.y + 0.5) / 50.0);
+        ++cells.at(row * 12 + column);
     }
     int filled = 0;
     for (const int count : cells) {
