@@ -130,7 +130,10 @@ void setVariable(QByteArray &line, std::string_view name, const QByteArray &valu
 {
     const auto [begin, length] = placeOf(line, name);
     if (begin >= 0) {
-        line.replace(begin, length, value);
+        // Only a quotation mark parts two variables as a blank does.
+        const int end = begin + length;
+        const bool runsOn = end < line.size() && kBlanks.find(line[end]) == std::string_view::npos;
+        line.replace(begin, length, runsOn ? value + ' ' : value);
         return;
     }
     const auto fileName = placeOf(line, "n").first;

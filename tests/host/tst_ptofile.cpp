@@ -125,6 +125,7 @@ private Q_SLOTS:
     void lensIsSetForAllImagesOfIt();
     void variableIsTakenOffItsLine_data();
     void variableIsTakenOffItsLine();
+    void numberInMarksGivesWayToAPlainOne();
     void pointsTakeThePlaceOfThoseThere();
     void wrongPointsAreComments();
     void withoutRecordTheFilesAnglesAreIt();
@@ -437,6 +438,14 @@ void PtoFileTest::variableIsTakenOffItsLine()
     QFETCH(QByteArray, left);
     removeVariable(line, "S");
     QCOMPARE(line, left);
+}
+
+void PtoFileTest::numberInMarksGivesWayToAPlainOne()
+{
+    QByteArray line = R"(i a"40"40 n"x"y1)";
+    setVariable(line, "a", "0.5");
+    setVariable(line, "n", R"("z")");
+    QCOMPARE(line, QByteArray(R"(i a0.5 40 n"z" y1)"));
 }
 
 void PtoFileTest::pointsTakeThePlaceOfThoseThere()
