@@ -250,7 +250,7 @@ constexpr int kRounds = 4;
 constexpr int kRoundIterations = 8;
 constexpr int kLastIterations = 25;
 /** Shares of the cost that a step must gain to be followed by another. */
-constexpr double kRoughly = 1e-4;
+constexpr double kRoughly = 1e-3;
 constexpr double kExactly = 1e-12;
 
 SolveResult Solver::run()
