@@ -2,13 +2,12 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/align/solver.h"
 
+#include "host/align/onethread.h"
 #include "host/align/tieresidual.h"
 
 #include <ceres/ceres.h>
 
 #include <QtMath>
-
-#include <dlfcn.h>
 
 #include <algorithm>
 #include <array>
@@ -61,24 +60,6 @@ double deviationWithin(const std::vector<double> &values, double most)
         }
     }
     return std::sqrt(sum / std::max(count, 1));
-}
-
-/**
- * Sums come out the same on every machine only when one thread makes them. Whichever of these
- * libraries stands in for BLAS, it is asked to use one; the plain one knows no threads.
- */
-void keepBlasToOneThread()
-{
-    using Setter = void (*)(int);
-    const auto set = [](const char *name, int value) {
-        if (void *setter = dlsym(RTLD_DEFAULT, name)) {
-            reinterpret_cast<Setter>(setter)(value);
-        }
-    };
-    set("openblas_set_num_threads", 1);
-    set("MKL_Set_Num_Threads", 1);
-    // No parallel region of OpenMP is to have more than the thread that comes to it.
-    set("omp_set_max_active_levels", 0);
 }
 
 /**
@@ -255,7 +236,7 @@ constexpr double kExactly = 1e-12;
 
 SolveResult Solver::run()
 {
-    keepBlasToOneThread();
+    keepToOneThread();
     m_watch.check();
     takeState();
     measure();
