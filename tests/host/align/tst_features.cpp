@@ -45,10 +45,11 @@ QImage spots(const QSize &size, const std::vector<QPointF> &places, double radiu
 std::vector<QPointF> scattered(const QSize &size, double step)
 {
     std::vector<QPointF> places;
-    for (double y = step; y < size.height() - step / 2; y += step) {
-        for (double x = step; x < size.width() - step / 2; x += step) {
+    for (int row = 1; row * step < size.height() - step / 2; ++row) {
+        for (int column = 1; column * step < size.width() - step / 2; ++column) {
             const auto n = static_cast<double>(places.size());
-            places.emplace_back(x + std::fmod(0.37 * n, 1.0), y + std::fmod(0.73 * n, 1.0));
+            places.emplace_back(column * step + std::fmod(0.37 * n, 1.0),
+                                row * step + std::fmod(0.73 * n, 1.0));
         }
     }
     return places;
@@ -115,7 +116,7 @@ private Q_SLOTS:
     void theSamePictureGivesTheSameFeatures();
 
 private:
-    QString path(const QString &name) const { return m_folder.filePath(name); }
+    [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }
 
     QTemporaryDir m_folder;
 };

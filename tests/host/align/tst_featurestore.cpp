@@ -16,7 +16,7 @@ using namespace PanoHost;
 namespace
 {
 
-constexpr int kFeatureBytes = 8 + 128 + 2;
+constexpr std::int64_t kFeatureBytes = 8 + 128 + 2;
 
 /** A set of its own for each number. */
 FeatureSet madeUp(int number, int count)
@@ -66,7 +66,7 @@ void TestFeatureStore::setsComeBackAsTheyWere_data()
     QTest::addColumn<qint64>("mostBytes");
     QTest::addColumn<bool>("spilled");
     QTest::newRow("room for all") << qint64{ 1'000'000 } << false;
-    QTest::newRow("room for two") << qint64{ 2 * 60 * kFeatureBytes } << true;
+    QTest::newRow("room for two") << qint64(2 * 60 * kFeatureBytes) << true;
     QTest::newRow("room for none") << qint64{ 0 } << true;
 }
 
@@ -87,7 +87,7 @@ void TestFeatureStore::setsComeBackAsTheyWere()
 
 void TestFeatureStore::memoryIsBounded()
 {
-    constexpr qint64 kMost = 5 * 100 * kFeatureBytes;
+    constexpr std::int64_t kMost = 5 * 100 * kFeatureBytes;
     FeatureStore store(kMost);
     for (int i = 0; i < 30; ++i) {
         store.put(i, madeUp(i, 100));
@@ -100,7 +100,7 @@ void TestFeatureStore::memoryIsBounded()
         }
     }
     // Each was written once, however often it had to make room.
-    QCOMPARE(store.bytesInFile(), std::int64_t{ 30 * 100 * kFeatureBytes });
+    QCOMPARE(store.bytesInFile(), 30 * 100 * kFeatureBytes);
 }
 
 void TestFeatureStore::whatWasAskedForLastStaysInMemory()
@@ -111,7 +111,7 @@ void TestFeatureStore::whatWasAskedForLastStaysInMemory()
     const auto first = store.features(0);
     store.put(2, madeUp(2, 10));
     QCOMPARE(store.features(0), first); // the same object: it was not read back
-    QCOMPARE(store.bytesInFile(), std::int64_t{ 10 * kFeatureBytes });
+    QCOMPARE(store.bytesInFile(), 10 * kFeatureBytes);
 }
 
 void TestFeatureStore::releasedSetsAreGone()

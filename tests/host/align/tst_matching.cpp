@@ -41,6 +41,12 @@ Matrix3d predicted(const Shot &first, const Shot &second, double degrees)
         second.rotation());
 }
 
+/** The row of item \p number of a table of \p columns. */
+int rowOf(int number, int columns)
+{
+    return number / columns;
+}
+
 double worst(const std::vector<double> &values)
 {
     return values.empty() ? 1e6 : *std::max_element(values.begin(), values.end());
@@ -282,7 +288,7 @@ void TestMatching::partnersAreFoundAmongStrangers()
     std::set<std::pair<int, int>> expected;
     for (int i = 0; i < 60; ++i) {
         const double x = 15.0 + 50.0 * (i % 9);
-        const double y = 15.0 + 40.0 * (i / 9);
+        const double y = 15.0 + 40.0 * rowOf(i, 9);
         // Every third one of the second photo shows something else.
         one.add(x, y, 1000U + static_cast<quint32>(i));
         other.add(x + 0.5 * (i % 2), y, (i % 3 == 0 ? 5000U : 1000U) + static_cast<quint32>(i));
@@ -300,7 +306,7 @@ void TestMatching::partnersOutsideTheWindowAreNotFound()
         MadeUp other;
         for (int i = 0; i < 30; ++i) {
             const double x = 200.0 + 16.0 * (i % 6);
-            const double y = 120.0 + 16.0 * (i / 6);
+            const double y = 120.0 + 16.0 * rowOf(i, 6);
             one.add(x, y, static_cast<quint32>(i));
             other.add(x + shift, y, static_cast<quint32>(i));
         }
@@ -329,7 +335,7 @@ void TestMatching::rivalsMakeAMatchUnsureUnlessTheyAreTheSameSpot()
     MadeUp other;
     for (int i = 0; i < 20; ++i) {
         const double x = 40.0 + 100.0 * (i % 5);
-        const double y = 40.0 + 80.0 * (i / 5);
+        const double y = 40.0 + 80.0 * rowOf(i, 5);
         one.add(x, y, static_cast<quint32>(i));
         other.add(x, y, static_cast<quint32>(i));
     }
@@ -345,7 +351,7 @@ void TestMatching::noSpotIsUsedTwice()
     MadeUp other;
     for (int i = 0; i < 20; ++i) {
         const double x = 40.0 + 100.0 * (i % 5);
-        const double y = 40.0 + 80.0 * (i / 5);
+        const double y = 40.0 + 80.0 * rowOf(i, 5);
         for (const quint32 direction : { 0U, 100U }) {
             one.add(x, y, static_cast<quint32>(i) + direction);
             other.add(x, y, static_cast<quint32>(i) + direction);
@@ -360,10 +366,10 @@ void TestMatching::fewMatchesAreSpreadOverTheOverlap()
     // 360 in the upper left corner, one in each other field of 5 x 5.
     int number = 0;
     for (int i = 0; i < 360; ++i) {
-        one.add(4.0 + 4.0 * (i % 20), 4.0 + 3.0 * (i / 20), static_cast<quint32>(++number));
+        one.add(4.0 + 4.0 * (i % 20), 4.0 + 3.0 * rowOf(i, 20), static_cast<quint32>(++number));
     }
     for (int field = 1; field < 25; ++field) {
-        one.add(40.0 + 90.0 * (field % 5), 30.0 + 60.0 * (field / 5),
+        one.add(40.0 + 90.0 * (field % 5), 30.0 + 60.0 * rowOf(field, 5),
                 static_cast<quint32>(++number));
     }
     const PairMatches matches = matched(one.set(), one.set(), { 3.0, 3.0, 15.0, 30 });
@@ -396,7 +402,7 @@ void TestMatching::tooFewAgreeingMatchesAreNone()
     MadeUp other;
     for (int i = 0; i < agreeing + others; ++i) {
         const double x = 40.0 + 50.0 * (i % 8);
-        const double y = 40.0 + 50.0 * (i / 8);
+        const double y = 40.0 + 50.0 * rowOf(i, 8);
         // Those that do not agree are off in every direction.
         const double angle = 2.4 * i;
         const double off = i < agreeing ? 0.0 : 9.0 + i % 7;
@@ -430,10 +436,12 @@ void TestMatching::overlapsAreThoseOfACloserLook_data()
     QTest::newRow("two alike") << Shots{ { kLandscape, { 9, 8, 7 } }, { kLandscape, { 9, 8, 7 } } };
     const auto sphere = [](const Camera &camera, const Camera &every3rd, double step) {
         Shots shots;
-        for (double pitch = -90.0; pitch <= 90.0; pitch += step) {
-            for (double yaw = -180.0; yaw < 180.0; yaw += step) {
-                shots.append({ shots.size() % 3 == 0 ? every3rd : camera,
-                               { yaw, pitch, 20.0 * (shots.size() % 2) } });
+        const int rows = static_cast<int>(180.0 / step);
+        for (int row = 0; row <= rows; ++row) {
+            for (int column = 0; column < 2 * rows; ++column) {
+                shots.append(
+                    { shots.size() % 3 == 0 ? every3rd : camera,
+                      { column * step - 180.0, row * step - 90.0, 20.0 * (shots.size() % 2) } });
             }
         }
         return shots;
@@ -463,6 +471,7 @@ void TestMatching::overlapsAreThoseOfACloserLook()
         rotations.push_back(rotationOf(AlignPictures::anglesOf(pose)));
     }
     std::vector<const AlignLens *> lensOfEach;
+    lensOfEach.reserve(lenses.size());
     for (const AlignLens &lens : lenses) {
         lensOfEach.push_back(&lens);
     }
@@ -479,7 +488,7 @@ void TestMatching::overlapsAreThoseOfACloserLook()
         for (int n = 0; n < kSide * kSide; ++n) {
             const QSize size = shots[i].first.size;
             seen += to.pixelAt(from.directionAt((n % kSide + 0.5) * size.width() / kSide,
-                                                (n / kSide + 0.5) * size.height() / kSide))
+                                                (rowOf(n, kSide) + 0.5) * size.height() / kSide))
                 ? 1
                 : 0;
         }
