@@ -4,6 +4,7 @@
 
 #include "host/align/alignshoot.h"
 #include "host/align/diagnosis.h"
+#include "host/align/photometry.h"
 #include "host/align/tiepoints.h"
 #include "host/model/displayname.h"
 
@@ -30,6 +31,8 @@ struct FoundPoint {
     int firstImage = 0;
     int secondImage = 0;
     bool isKept = false; ///< it was in the project before
+    double firstLight = 0.0; ///< linear, 1: white; 0: not known
+    double secondLight = 0.0;
 };
 
 double horizontalFov(const AlignLens &lens)
@@ -115,6 +118,7 @@ private:
     [[nodiscard]] QString nothingFound() const;
     void writePoints();
     void writePlaces();
+    void writeLight();
     void reportViews();
     void reportPoints();
     void reportHead();
@@ -170,6 +174,9 @@ Result<Alignment> Run::run()
     } else {
         m_report.isPlaced = true;
         writePlaces();
+        if (m_options.photometry) {
+            writeLight();
+        }
         reportHead();
         reportFaults();
     }
@@ -262,8 +269,12 @@ void Run::look(TiePointFinder &finder, const TiePointFinder::Rules &rules,
     const TiePoints found
         = finder.match(indicesOf(m_pairs), modelOfPhotos(m_shoot), rules, m_watch, afterwards);
     m_points = m_kept;
-    for (const TiePoint &point : found.points) {
+    constexpr double kWhite = 65535.0;
+    for (size_t i = 0; i < found.points.size(); ++i) {
+        const TiePoint &point = found.points[i];
         FoundPoint added;
+        added.firstLight = found.lights[i].first / kWhite;
+        added.secondLight = found.lights[i].second / kWhite;
         added.firstImage = m_photos[static_cast<size_t>(point.first)];
         added.secondImage = m_photos[static_cast<size_t>(point.second)];
         added.tie = point;
@@ -404,6 +415,54 @@ void Run::writePlaces()
     if (m_project.isOurs()) {
         m_project.layOutCanvas();
     }
+}
+
+/** Exposures and vignetting, from how bright photos show the same spots. */
+void Run::writeLight()
+{
+    constexpr int kEnoughPoints = 50;
+    const HeadModel &model = m_shoot.model;
+    std::vector<LightPoint> points;
+    for (size_t i = 0; i < m_points.size(); ++i) {
+        if (isRight(i) && !m_points[i].isKept) {
+            points.push_back({ m_points[i].tie, m_points[i].firstLight, m_points[i].secondLight });
+        }
+    }
+    std::vector<double> known;
+    for (const int image : m_shoot.imageOfView) {
+        if (const auto value = m_project.images()[image].exposureValue) {
+            known.push_back(*value);
+        }
+    }
+    const double usual = median(known);
+    PhotometryOptions trust;
+    for (const int image : m_shoot.imageOfView) {
+        trust.recordedValues.push_back(m_project.images()[image].exposureValue.value_or(usual));
+    }
+    const Photometry light = solvePhotometry(model.views, model.lenses, points, trust, m_watch);
+    if (light.pointsUsed < kEnoughPoints) {
+        return;
+    }
+    for (size_t view = 0; view < model.views.size(); ++view) {
+        m_report.exposureShifts.append(light.exposureValues[view] - trust.recordedValues[view]);
+    }
+    for (int i = 0; i < m_project.images().size(); ++i) {
+        const PtoImage &image = m_project.images()[i];
+        const int view = m_shoot.viewOfImage[static_cast<size_t>(i)];
+        m_project.place(
+            i,
+            { image.angles, image.exposureValue.value_or(usual) + m_report.exposureShifts[view] });
+        if (image.lensMaster < 0) {
+            const Vignetting &vignetting
+                = light
+                      .vignetting[static_cast<size_t>(model.views[static_cast<size_t>(view)].lens)];
+            m_project.setLens(i,
+                              { image.horizontalFovDegrees, image.a, image.b, image.c, vignetting.b,
+                                vignetting.c, vignetting.d });
+        }
+    }
+    const Vignetting &first = light.vignetting.front();
+    m_report.cornerLight = 1.0 + first.b + first.c + first.d;
 }
 
 void Run::reportViews()

@@ -80,6 +80,24 @@ void addLens(const AlignmentReport &report, QStringList &lines)
     }
 }
 
+void addLight(const AlignmentReport &report, QStringList &lines)
+{
+    constexpr double kVisibleShare = 0.1;
+    if (report.cornerLight < 1.0 - kVisibleShare) {
+        lines.append(QStringLiteral("the lens darkens its corners by %1 %: evened out")
+                         .arg(qRound(100.0 * (1.0 - report.cornerLight))));
+    }
+    constexpr double kVisibleStops = 0.2;
+    const auto isLess = [](double one, double other) { return std::abs(one) < std::abs(other); };
+    const auto *const most
+        = std::max_element(report.exposureShifts.cbegin(), report.exposureShifts.cend(), isLess);
+    if (most != report.exposureShifts.cend() && std::abs(*most) >= kVisibleStops) {
+        lines.append(
+            QStringLiteral("exposures are not what the photos say, by up to %1 stops: evened out")
+                .arg(figure(std::abs(*most), 1)));
+    }
+}
+
 void addHead(const AlignmentReport &report, QStringList &lines)
 {
     if (report.playDegrees) {
@@ -162,6 +180,7 @@ constexpr auto kLensFields = [](JsonFields &json, auto &report) {
     json.field("a", report.distortionA);
     json.field("b", report.distortionB);
     json.field("c", report.distortionC);
+    json.field("cornerLight", report.cornerLight, "the corners' share of the middle's light");
 };
 
 constexpr auto kHeadFields = [](JsonFields &json, auto &report) {
@@ -212,6 +231,7 @@ QStringList sentences(const AlignmentReport &report)
     if (report.isPlaced) {
         addHead(report, lines);
         addLens(report, lines);
+        addLight(report, lines);
         addUntied(report, lines);
         addFaults(report, lines);
     }

@@ -63,6 +63,7 @@ struct AlignmentReport {
     QVector<SlippedAxis> slips;
     QVector<BumpedPhoto> bumps;
     std::optional<double> parallaxPixels; ///< residuals that only a moving viewpoint explains
+    double cornerLight = 1.0; ///< how much of the middle's light arrives in the corners
     QVector<double> exposureShifts; ///< in stops, one per photo; empty: no photometry
     QStringList notes; ///< what else the user should know, a sentence each
     bool isPlaced = false; ///< photos were moved; false: as recorded, `notes` says why

@@ -40,6 +40,32 @@ Found tiePoints(const QPair<int, int> &views, const PairMatches &matches, const 
     return found;
 }
 
+/** Tells a watch each number of rows once. */
+class Progress
+{
+public:
+    Progress(const JobWatch &watch, int total, const char *text)
+        : m_watch(watch)
+        , m_total(total)
+        , m_text(QString::fromLatin1(text))
+    {
+    }
+    void operator()(int done)
+    {
+        m_watch.check();
+        if (done != m_told) {
+            m_told = done;
+            m_watch.report(done, m_total, m_text);
+        }
+    }
+
+private:
+    const JobWatch &m_watch;
+    int m_total;
+    int m_told = -1;
+    QString m_text;
+};
+
 } // namespace
 
 TiePointFinder::TiePointFinder(std::vector<ViewPhoto> photos, const TiePointOptions &options)
@@ -66,11 +92,7 @@ void TiePointFinder::readFeatures(const JobWatch &watch)
         m_featureCounts[index] = features.count();
         m_store.put(view, std::move(features));
     };
-    forEachRow(count, read, m_options.jobs, [&watch, count](int done) {
-        watch.check();
-        watch.report(done, count,
-                     QStringLiteral("looking for features: %1 of %2 photos").arg(done).arg(count));
-    });
+    forEachRow(count, read, m_options.jobs, Progress(watch, count, "looking for features"));
 }
 
 const std::optional<Failure> &TiePointFinder::leftOut(int view) const
@@ -113,10 +135,7 @@ TiePoints TiePointFinder::match(const std::vector<QPair<int, int>> &pairs, const
         done(second);
     };
     const int count = static_cast<int>(pairs.size());
-    forEachRow(count, matchOne, m_options.jobs, [&watch, count](int matched) {
-        watch.check();
-        watch.report(matched, count, QStringLiteral("matching"));
-    });
+    forEachRow(count, matchOne, m_options.jobs, Progress(watch, count, "matching neighbours"));
     TiePoints all;
     for (const Found &pair : found) {
         all.points.insert(all.points.end(), pair.points.begin(), pair.points.end());
