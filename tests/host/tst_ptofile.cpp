@@ -130,6 +130,7 @@ private Q_SLOTS:
     void wrongPointsAreComments();
     void withoutRecordTheFilesAnglesAreIt();
     void recordComesBackExactly();
+    void recordedLensAndHeadOutliveTheAlignment();
     void yawsAreThoseOfTheHead();
     void importedProjectIsOurs();
     void canvasFollowsTheRulesOfTheImport_data();
@@ -505,8 +506,8 @@ void PtoFileTest::recordComesBackExactly()
                                        { 725.0, 89.999999999, -0.0 } };
     file.setRecord(recorded, { 90.0, 7.0, 12.5 });
     const QByteArray text = textOf(file);
-    QVERIFY(text.endsWith("\n#panohost record i0 y0.3333333333333333 p-0.1 r1e-17 turn90\n"
-                          "#panohost record i2 y725 p89.999999999 r0 turn12.5\n"));
+    QVERIFY(text.endsWith("\n#panohost record i0 y0.3333333333333333 p-0.1 r1e-17 turn90 v50\n"
+                          "#panohost record i2 y725 p89.999999999 r0 turn12.5 v50\n"));
     for (const PtoFile &each : { file, parsed(text) }) {
         QVERIFY(each.hasRecord());
         QVERIFY(same(each.images()[0].recorded, recorded[0]));
@@ -518,8 +519,28 @@ void PtoFileTest::recordComesBackExactly()
     // In place of the lines that are there, wherever they stand.
     PtoFile again = parsed(text + "k i0\n");
     again.setRecord({ {}, {}, {} }, { 0.0, 0.0, 0.0 });
-    QVERIFY(textOf(again).endsWith("\"c\"\n#panohost record i0 y0 p0 r0 turn0\n"
-                                   "#panohost record i2 y0 p0 r0 turn0\nk i0\n"));
+    QVERIFY(textOf(again).endsWith("\"c\"\n#panohost record i0 y0 p0 r0 turn0 v50\n"
+                                   "#panohost record i2 y0 p0 r0 turn0 v50\nk i0\n"));
+}
+
+void PtoFileTest::recordedLensAndHeadOutliveTheAlignment()
+{
+    PtoFile file = parsed(project(image()));
+    QVERIFY(file.head().isEmpty());
+    file.keepRecord("noroll");
+    PtoLens lens;
+    lens.horizontalFovDegrees = 61.5;
+    file.setLens(0, lens);
+    const QByteArray text = textOf(file);
+    QVERIFY(text.endsWith("#panohost head noroll\n#panohost record i0 y0 p0 r0 turn0 v50\n"));
+    PtoFile again = parsed(text);
+    QCOMPARE(again.head(), QByteArray("noroll"));
+    QCOMPARE(again.images()[0].recordedFovDegrees, 50.0);
+    QCOMPARE(again.images()[0].horizontalFovDegrees, 61.5);
+    again.keepRecord(again.head());
+    QCOMPARE(textOf(again), text);
+    // Of a project without record lines the file's own is it.
+    QCOMPARE(parsed(project(image())).images()[0].recordedFovDegrees, 50.0);
 }
 
 void PtoFileTest::yawsAreThoseOfTheHead()
