@@ -30,7 +30,7 @@ constexpr double kDeviations = 1.4826;
  */
 constexpr double kPlane = 1.18;
 constexpr double kLeastSigmaPixels = 0.15;
-constexpr QLatin1String kPlacing("placing photos");
+constexpr char kPlacing[] = "placing photos";
 
 /** A share that a learnt value must change by to be worth another round. */
 constexpr double kNews = 0.03;
@@ -183,10 +183,11 @@ public:
     ceres::CallbackReturnType operator()(const ceres::IterationSummary &summary) override;
 
 private:
-    double *correction(int view) { return &m_state[static_cast<size_t>(kAxes * view)]; }
+    double *correction(int view) { return &m_state[static_cast<size_t>(view) * kAxes]; }
     double *lens(int index)
     {
-        return correction(static_cast<int>(m_model.views.size())) + LensUnknowns * index;
+        return correction(static_cast<int>(m_model.views.size()))
+            + static_cast<std::ptrdiff_t>(index) * LensUnknowns;
     }
     double *head() { return lens(static_cast<int>(m_lenses.size())); }
 
@@ -273,7 +274,7 @@ SolveResult Solver::run()
     m_done = m_total - kLastIterations;
     iterate(problem, kLastIterations, kExactly);
 
-    m_watch.report(m_total, m_total, kPlacing);
+    m_watch.report(m_total, m_total, QLatin1String(kPlacing));
     SolveResult result;
     result.residuals = m_residuals;
     result.sigmaPixels = m_pointLoss.sigma;
@@ -284,7 +285,7 @@ SolveResult Solver::run()
 
 ceres::CallbackReturnType Solver::operator()(const ceres::IterationSummary &summary)
 {
-    m_watch.report(m_done + summary.iteration, m_total, kPlacing);
+    m_watch.report(m_done + summary.iteration, m_total, QLatin1String(kPlacing));
     // Half is one standard deviation of a single number: no photo is going anywhere.
     constexpr double kNoGain = 1e-3;
     if (summary.iteration > 0 && summary.step_is_successful && summary.cost_change < kNoGain) {
