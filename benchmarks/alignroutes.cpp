@@ -233,7 +233,11 @@ Outcome AlignRoutes::hugin(const Taken &taken)
     const QString end = pathIn(taken, "hugin.pto");
     QStringList arguments{ QStringLiteral("-o"), start };
     if (taken.panorama.lens == LensModel::Fisheye) {
-        arguments << QStringLiteral("-p") << QStringLiteral("3");
+        // EXIF data do not name the projection, and so no field of view that fits it.
+        const double fov = horizontalFovDegrees(taken.shoot.camera.size, taken.panorama.focal35mm,
+                                                LensModel::Fisheye);
+        arguments << QStringLiteral("-p") << QStringLiteral("3") << QStringLiteral("-f")
+                  << QString::number(fov);
     }
     chain.run("pto_gen", arguments + photosOf(taken.panorama), start);
     chain.run("cpfind",
