@@ -99,6 +99,89 @@ Step stepIn(const std::vector<double> &values)
     return step;
 }
 
+/** The residual of a point, and where in the second photo it was. */
+struct Error {
+    Eigen::Vector2d place;
+    Eigen::Vector2d pixels;
+};
+using PairErrors = std::vector<Error>;
+
+/** The residuals of \p points, which are grouped by pair. */
+std::vector<PairErrors> errorsByPair(const HeadModel &model, const std::vector<TiePoint> &points)
+{
+    std::vector<PairErrors> pairs;
+    QPair<int, int> last(-1, -1);
+    for (const TiePoint &point : points) {
+        const QPair<int, int> pair(point.first, point.second);
+        if (pair != last) {
+            pairs.emplace_back();
+            last = pair;
+        }
+        if (const auto residual = residualOf(model, point)) {
+            pairs.back().push_back({ point.inSecond, *residual });
+        }
+    }
+    return pairs;
+}
+
+/** What all photos have in common at a place of the frame is the lens's: takes it off. */
+void takeOffLens(std::vector<PairErrors> &pairs, const QSize &size)
+{
+    constexpr int kCells = 6;
+    struct Cell {
+        Eigen::Vector2d sum = Eigen::Vector2d::Zero();
+        int count = 0;
+    };
+    std::array<std::array<Cell, kCells>, kCells> cells;
+    const auto index = [](double place, int length) {
+        return static_cast<size_t>(
+            std::clamp(static_cast<int>(place / length * kCells), 0, kCells - 1));
+    };
+    const auto cellAt = [&](const Eigen::Vector2d &place) -> Cell & {
+        return cells.at(index(place.y(), size.height())).at(index(place.x(), size.width()));
+    };
+    for (const PairErrors &pair : pairs) {
+        for (const Error &error : pair) {
+            Cell &cell = cellAt(error.place);
+            cell.sum += error.pixels;
+            ++cell.count;
+        }
+    }
+    for (PairErrors &pair : pairs) {
+        for (Error &error : pair) {
+            const Cell &cell = cellAt(error.place);
+            error.pixels -= cell.sum / cell.count;
+        }
+    }
+}
+
+/** How much nearest neighbours in a pair err alike: 1 the same way, 0 as noise does. */
+double likeness(const std::vector<PairErrors> &pairs)
+{
+    constexpr size_t kFewestOfPair = 8;
+    double alike = 0.0;
+    double all = 0.0;
+    for (const PairErrors &pair : pairs) {
+        if (pair.size() < kFewestOfPair) {
+            continue;
+        }
+        for (const Error &error : pair) {
+            double nearest = std::numeric_limits<double>::infinity();
+            const Error *neighbour = &error;
+            for (const Error &other : pair) {
+                const double distance = (other.place - error.place).squaredNorm();
+                if (&other != &error && distance < nearest) {
+                    nearest = distance;
+                    neighbour = &other;
+                }
+            }
+            alike += error.pixels.dot(neighbour->pixels);
+            all += error.pixels.squaredNorm();
+        }
+    }
+    return all > 0.0 ? alike / all : 0.0;
+}
+
 } // namespace
 
 std::optional<Slip> findSlip(const HeadModel &model, const std::vector<int> &tied)
@@ -116,7 +199,7 @@ std::optional<Slip> findSlip(const HeadModel &model, const std::vector<int> &tie
 
 void undoSlip(HeadModel &model, const Slip &slip)
 {
-    for (size_t i = static_cast<size_t>(slip.view); i < model.views.size(); ++i) {
+    for (auto i = static_cast<size_t>(slip.view); i < model.views.size(); ++i) {
         model.views[i].recorded.yaw += slip.yawDegrees / model.yawScale;
         model.views[i].recorded.pitch += slip.pitchDegrees / model.pitchScale;
         model.corrections[i].yaw -= slip.yawDegrees;
@@ -180,79 +263,21 @@ std::optional<Eigen::Vector2d> residualOf(const HeadModel &model, const TiePoint
 std::optional<double> parallaxPixels(const HeadModel &model, const std::vector<TiePoint> &points,
                                      double leastPixels)
 {
-    constexpr size_t kFewestOfPair = 8;
     constexpr size_t kFewest = 40;
     constexpr double kLeastLikeness = 0.5;
-    constexpr int kCells = 6;
-    struct Error {
-        Eigen::Vector2d place;
-        Eigen::Vector2d pixels;
-    };
-    std::vector<std::vector<Error>> pairs;
+    std::vector<PairErrors> pairs = errorsByPair(model, points);
     std::vector<double> lengths;
-    QPair<int, int> last(-1, -1);
-    for (const TiePoint &point : points) {
-        const auto residual = residualOf(model, point);
-        if (!residual) {
-            continue;
+    for (const PairErrors &pair : pairs) {
+        for (const Error &error : pair) {
+            lengths.push_back(error.pixels.norm());
         }
-        if (const QPair<int, int> pair(point.first, point.second); pairs.empty() || pair != last) {
-            pairs.emplace_back();
-            last = pair;
-        }
-        pairs.back().push_back({ point.inSecond, *residual });
-        lengths.push_back(residual->norm());
     }
     const double typical = median(lengths);
     if (lengths.size() < kFewest || typical < leastPixels) {
         return {};
     }
-    // What all photos have in common at a place is the lens's.
-    struct Cell {
-        Eigen::Vector2d sum = Eigen::Vector2d::Zero();
-        int count = 0;
-    };
-    std::array<Cell, kCells * kCells> cells;
-    const QSize size = model.lenses.front().size;
-    const auto cellAt = [&](const Eigen::Vector2d &place) -> Cell & {
-        const int x
-            = std::clamp(static_cast<int>(place.x() / size.width() * kCells), 0, kCells - 1);
-        const int y
-            = std::clamp(static_cast<int>(place.y() / size.height() * kCells), 0, kCells - 1);
-        return cells[static_cast<size_t>(y * kCells + x)];
-    };
-    for (const auto &pair : pairs) {
-        for (const Error &error : pair) {
-            Cell &cell = cellAt(error.place);
-            cell.sum += error.pixels;
-            ++cell.count;
-        }
-    }
-    double alike = 0.0;
-    double all = 0.0;
-    for (auto &pair : pairs) {
-        if (pair.size() < kFewestOfPair) {
-            continue;
-        }
-        for (Error &error : pair) {
-            const Cell &cell = cellAt(error.place);
-            error.pixels -= cell.sum / cell.count;
-        }
-        for (const Error &error : pair) {
-            double nearest = std::numeric_limits<double>::infinity();
-            const Error *neighbour = nullptr;
-            for (const Error &other : pair) {
-                const double distance = (other.place - error.place).squaredNorm();
-                if (&other != &error && distance < nearest) {
-                    nearest = distance;
-                    neighbour = &other;
-                }
-            }
-            alike += error.pixels.dot(neighbour->pixels);
-            all += error.pixels.squaredNorm();
-        }
-    }
-    if (alike < kLeastLikeness * all) {
+    takeOffLens(pairs, model.lenses.front().size);
+    if (likeness(pairs) < kLeastLikeness) {
         return {};
     }
     return typical;

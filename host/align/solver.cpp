@@ -448,6 +448,7 @@ void Solver::iterate(ceres::Problem &problem, int most, double tolerance)
 void Solver::measure()
 {
     std::vector<Eigen::Matrix3d> rotations;
+    rotations.reserve(m_model.views.size());
     for (int view = 0; view < static_cast<int>(m_model.views.size()); ++view) {
         rotations.push_back(m_model.rotation(view));
     }
