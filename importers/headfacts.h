@@ -59,7 +59,7 @@ struct OwnChoice {
 struct DemoFacts {
     double playDegrees = 0.0; ///< how far the head stops from where its record says
     bool inBrackets = false; ///< three exposures at each position
-    double leastPsnrDecibels = 36.0; ///< of the panorama in normal size
+    double leastPsnrDecibels = 40.0; ///< of the panorama in normal size
 };
 
 /**

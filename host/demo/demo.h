@@ -52,6 +52,7 @@ struct DemoReport {
     int photoCount = 0;
     Agreement agreement; ///< of the written file with the same part of the scene
     double leastPsnrDecibels = 0.0; ///< less agreement: something has gone wrong
+    QStringList findings; ///< of the alignment, a sentence each
     QStringList checks; ///< what else was found to be right, in words
     QVector<DemoStep> steps;
     /** The stitching programs are missing: the panorama is made without them and not blended. */
@@ -59,8 +60,8 @@ struct DemoReport {
 };
 
 /**
- * Photographs the made-up scene, imports the photos and stitches the panorama. Leaves in the
- * folder: photos/, the head's record, layout.png, demo.pto, demo.json and demo.jpg.
+ * Photographs the made-up scene, imports and aligns the photos and stitches the panorama. Leaves
+ * in the folder: photos/, the head's record, layout.png, demo.pto, demo.json and demo.jpg.
  */
 [[nodiscard]] Result<DemoReport> runDemo(const DemoOptions &options, const DemoImporter &importer,
                                          const JobWatch &watch);

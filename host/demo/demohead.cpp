@@ -40,9 +40,7 @@ ShootPlan sphere(const PanoHead::DemoFacts &facts, const QSize &photoSize)
     ShootPlan plan;
     plan.camera = { photoSize, kFocal35mm, Projection::Rectilinear };
     plan.positions = positionsOf(landscapeRows());
-    if (facts.playDegrees > 0.0) {
-        plan.positions = withPlay(plan.positions, facts.playDegrees);
-    }
+    plan.playDegrees = facts.playDegrees;
     if (facts.inBrackets) {
         plan.stops = { -2.0, 0.0, 2.0 };
     }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/demo/exifwriter.h"
 
+#include "host/demo/finejpeg.h"
 #include "host/model/safefile.h"
 
 #include <QBuffer>
@@ -16,7 +17,7 @@ namespace
 {
 
 constexpr int kPhotoQuality = 98;
-constexpr int kPanoramaQuality = 95;
+constexpr int kPanoramaQuality = 98;
 constexpr double kShutterPerSecond = 250.0; // at the reference exposure
 constexpr double kSensorCoefficient = 1.5;
 
@@ -84,14 +85,19 @@ Exiv2::XmpData gpanoOf(const QSize &sphereSize, const QRect &covered)
     return xmp;
 }
 
-/** \p picture as a JPEG file with the data that \p describe sets; empty when that failed. */
-template <typename Describe>
-QByteArray jpegOf(const QImage &picture, int quality, const Describe &describe)
+/** As cameras do it; empty when that failed. */
+QByteArray photoJpeg(const QImage &photo)
 {
-    QByteArray plain;
-    QBuffer buffer(&plain);
+    QByteArray jpeg;
+    QBuffer buffer(&jpeg);
     buffer.open(QIODevice::WriteOnly);
-    if (!picture.save(&buffer, "JPG", quality)) {
+    return photo.save(&buffer, "JPG", kPhotoQuality) ? jpeg : QByteArray();
+}
+
+/** The JPEG file \p plain with the data that \p describe sets; empty when that failed. */
+template <typename Describe> QByteArray described(const QByteArray &plain, const Describe &describe)
+{
+    if (plain.isEmpty()) {
         return {};
     }
     const auto file = Exiv2::ImageFactory::open(
@@ -103,19 +109,18 @@ QByteArray jpegOf(const QImage &picture, int quality, const Describe &describe)
     if (io.open() != 0) {
         return {};
     }
-    QByteArray described(static_cast<int>(io.size()), Qt::Uninitialized);
-    const auto read = io.read(reinterpret_cast<Exiv2::byte *>(described.data()), described.size());
-    return read == described.size() ? described : QByteArray();
+    QByteArray bytes(static_cast<int>(io.size()), Qt::Uninitialized);
+    const auto read = io.read(reinterpret_cast<Exiv2::byte *>(bytes.data()), bytes.size());
+    return read == bytes.size() ? bytes : QByteArray();
 }
 
-/** Writes \p picture with the data that \p describe sets, all or nothing. */
-template <typename Describe>
-Result<QString> saveJpeg(const QString &path, const QImage &picture, int quality,
-                         const Describe &describe)
+/** Writes what \p encode makes with the data that \p describe sets, all or nothing. */
+template <typename Encode, typename Describe>
+Result<QString> saveJpeg(const QString &path, const Encode &encode, const Describe &describe)
 {
     QByteArray jpeg;
     try {
-        jpeg = jpegOf(picture, quality, describe);
+        jpeg = described(encode(), describe);
     } catch (const std::exception &problem) {
         return cannotWrite(path, QString::fromLocal8Bit(problem.what()));
     }
@@ -130,15 +135,17 @@ Result<QString> saveJpeg(const QString &path, const QImage &picture, int quality
 Result<QString> writePhoto(const QString &path, const QImage &photo, const PlannedShot &shot,
                            const ShootPlan &plan)
 {
-    return saveJpeg(path, photo, kPhotoQuality,
-                    [&](Exiv2::Image &file) { file.setExifData(exifOf(shot, plan)); });
+    return saveJpeg(
+        path, [&] { return photoJpeg(photo); },
+        [&](Exiv2::Image &file) { file.setExifData(exifOf(shot, plan)); });
 }
 
 Result<QString> writePanorama(const QString &path, const QImage &panorama, const QSize &sphereSize,
                               const QRect &covered)
 {
-    return saveJpeg(path, panorama, kPanoramaQuality,
-                    [&](Exiv2::Image &file) { file.setXmpData(gpanoOf(sphereSize, covered)); });
+    return saveJpeg(
+        path, [&] { return fineJpeg(panorama, kPanoramaQuality); },
+        [&](Exiv2::Image &file) { file.setXmpData(gpanoOf(sphereSize, covered)); });
 }
 
 } // namespace PanoHost

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/demo/photoshoot.h"
 
+#include "host/align/geometry.h"
 #include "host/demo/exifwriter.h"
 
 #include <QDir>
@@ -47,14 +48,29 @@ Result<QStringList> takePhotos(const Scene &scene, const ShootPlan &plan, const 
     return paths;
 }
 
+Rotations trueRotations(const ShootPlan &plan)
+{
+    Rotations rotations;
+    const QVector<PlannedShot> shots = shotsOf(plan);
+    for (const PlannedShot &shot : shots) {
+        if (shot.level == 0) {
+            const Pose &camera = shot.camera;
+            rotations.push_back(
+                rotationOf({ camera.yawDegrees, camera.pitchDegrees, camera.rollDegrees }));
+        }
+    }
+    return rotations;
+}
+
 QImage truthOf(const Scene &scene, int width)
 {
     return developed(exposeSphere(radianceOf(scene), width, kSamplesPerTruthPixelSide));
 }
 
-QImage truthOf(const Scene &scene, const SpherePart &part)
+QImage truthOf(const Scene &scene, const SpherePart &part, const Eigen::Matrix3d &common)
 {
-    return developed(exposePart(radianceOf(scene), part, kSamplesPerTruthPixelSide));
+    return developed(
+        exposePart(turnedBy(common, radianceOf(scene)), part, kSamplesPerTruthPixelSide));
 }
 
 } // namespace PanoHost

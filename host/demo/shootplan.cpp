@@ -62,13 +62,14 @@ QVector<ShootRow> portraitRows()
 QVector<PlannedShot> shotsOf(const ShootPlan &plan)
 {
     QVector<PlannedShot> shots;
+    const QVector<Pose> stops = withPlay(plan.positions, plan.playDegrees);
     for (int position = 0; position < plan.positions.size(); ++position) {
         for (int level = 0; level < plan.stops.size(); ++level) {
             PlannedShot shot;
             shot.position = position;
             shot.level = level;
             shot.head = plan.positions[position];
-            shot.camera = cameraPose(shot.head, plan.mounting);
+            shot.camera = cameraPose(stops[position], plan.mounting);
             shot.stops = plan.stops[level];
             shot.time = plan.start.addMSecs(position * kMillisecondsPerPosition
                                             + level * kMillisecondsPerLevel);

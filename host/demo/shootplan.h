@@ -28,7 +28,8 @@ struct ShootRow {
 struct ShootPlan {
     Camera camera; ///< its size is that of the stored pixels
     Mounting mounting = Mounting::Landscape;
-    QVector<Pose> positions; ///< of the head, without the camera's own turn
+    QVector<Pose> positions; ///< as the head records them, without the camera's own turn
+    double playDegrees = 0.0; ///< it stops up to so far from there, in yaw and pitch
     /** The exposures at each position, in order, as stops from the reference exposure. */
     QVector<double> stops{ 0.0 };
     QDateTime start{ QDate(2026, 5, 1), QTime(10, 20, 30) };
@@ -39,7 +40,7 @@ struct PlannedShot {
     int position = 0; ///< index into the plan's positions
     int level = 0; ///< index into the plan's stops
     Pose head; ///< what the head records
-    Pose camera; ///< where the camera points, its mounting included
+    Pose camera; ///< where the camera truly points, its mounting included
     double stops = 0.0;
     QDateTime time;
     QString fileName; ///< sorts in shooting order

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/model/canvas.h"
 
+#include <QList>
 #include <QtMath>
 
 #include <algorithm>
@@ -58,6 +59,19 @@ QByteArray cropText(const Canvas &canvas)
     const QRect &crop = canvas.crop;
     return QByteArray::number(crop.left()) + ',' + QByteArray::number(crop.width()) + ','
         + QByteArray::number(crop.top()) + ',' + QByteArray::number(crop.top() + crop.height());
+}
+
+QRect cropOf(std::string_view text)
+{
+    const QList<QByteArray> edges
+        = QByteArray::fromRawData(text.data(), static_cast<int>(text.size())).split(',');
+    if (edges.size() != 4) {
+        return {};
+    }
+    // Left and right, top and bottom: the last ones lie behind the picture.
+    const QRect crop(QPoint(edges[0].toInt(), edges[2].toInt()),
+                     QPoint(edges[1].toInt() - 1, edges[3].toInt() - 1));
+    return crop.isValid() ? crop : QRect();
 }
 
 } // namespace PanoHost

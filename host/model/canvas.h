@@ -7,6 +7,8 @@
 #include <QByteArray>
 #include <QRect>
 
+#include <string_view>
+
 namespace PanoHost
 {
 
@@ -25,5 +27,7 @@ struct Canvas {
 /** The values of a project's panorama line. */
 [[nodiscard]] QByteArray fovText(const Canvas &canvas);
 [[nodiscard]] QByteArray cropText(const Canvas &canvas);
+/** The rectangle that `cropText` has written; null for other texts. */
+[[nodiscard]] QRect cropOf(std::string_view text);
 
 } // namespace PanoHost

@@ -522,19 +522,18 @@ QByteArray PtoFile::centreLine(double yawDegrees)
         + '\n';
 }
 
-double PtoFile::focalPixels(int image) const
+double PtoImage::focalPixels() const
 {
-    const PtoImage &of = m_images.at(image);
-    const double fov = qDegreesToRadians(of.horizontalFovDegrees);
-    return of.lens == LensModel::Fisheye ? of.size.width() / fov
-                                         : of.size.width() / 2.0 / std::tan(fov / 2.0);
+    const double fov = qDegreesToRadians(horizontalFovDegrees);
+    return lens == LensModel::Fisheye ? size.width() / fov
+                                      : size.width() / 2.0 / std::tan(fov / 2.0);
 }
 
 double PtoFile::longestFocalPixels() const
 {
     double longest = 0.0;
-    for (int i = 0; i < m_images.size(); ++i) {
-        longest = std::max(longest, focalPixels(i));
+    for (const PtoImage &image : m_images) {
+        longest = std::max(longest, image.focalPixels());
     }
     return longest;
 }
@@ -649,6 +648,19 @@ void PtoFile::keepRecord(const QByteArray &head)
     m_setsRecord = true;
 }
 
+Canvas PtoFile::canvas() const
+{
+    const auto wholeNumber = [this](std::string_view name) {
+        return ptoInt(valueIn(m_panoramaLine, name)).value_or(0);
+    };
+    Canvas canvas;
+    canvas.size = QSize(wholeNumber("w"), wholeNumber("h"));
+    canvas.crop = cropOf(valueIn(m_panoramaLine, "S"));
+    canvas.horizontalFovDegrees = ptoDouble(valueIn(m_panoramaLine, "v")).value_or(360.0);
+    canvas.yawCentreDegrees = m_yawCentreDegrees;
+    return canvas;
+}
+
 void PtoFile::layOutCanvas()
 {
     QVector<Frame> frames;
@@ -656,7 +668,7 @@ void PtoFile::layOutCanvas()
     for (int i = 0; i < m_images.size(); ++i) {
         const PtoImage &image = m_images.at(i);
         if (image.angleMaster < 0) {
-            frames.append({ image.size, focalPixels(i), image.lens, image.angles.yaw,
+            frames.append({ image.size, image.focalPixels(), image.lens, image.angles.yaw,
                             image.angles.pitch, image.angles.roll });
         }
     }

@@ -16,6 +16,8 @@
 namespace PanoHost
 {
 
+struct Canvas;
+
 /** Degrees: yaw to the right, pitch up, roll clockwise. */
 struct PtoAngles {
     double yaw = 0.0;
@@ -45,6 +47,9 @@ struct PtoImage {
     int lensMaster = -1; ///< the image whose field of view this one shares; -1: its own
     int angleMaster = -1; ///< the image whose angles these are (a hard stack); -1: its own
     int stackMaster = -1; ///< the image that its stack begins with; -1: itself
+
+    /** Pixels per radian at the centre. */
+    [[nodiscard]] double focalPixels() const;
 };
 
 /** A c-line between two images; pixels, (0, 0) is the middle of the first. */
@@ -109,6 +114,9 @@ public:
     /** Was subtracted from every yaw that is written. */
     [[nodiscard]] double yawCentreDegrees() const { return m_yawCentreDegrees; }
 
+    /** The picture that the project asks for. */
+    [[nodiscard]] Canvas canvas() const;
+
     /** Gives \p image the angles, unless they are another one's, and the exposure, if there is one.
      */
     void place(int image, const PtoPlacement &placement);
@@ -140,7 +148,6 @@ private:
     };
 
     PtoFile() = default;
-    [[nodiscard]] double focalPixels(int image) const;
     [[nodiscard]] double longestFocalPixels() const;
     void writeYaw(int image);
     /** Before one image's exposure changes: the others keep theirs. */

@@ -16,6 +16,7 @@ HeadFacts newFacts()
     facts.about = &kGigapanAbout;
     facts.title = "Gigapan";
     facts.hasLinking = true;
+    facts.demo.leastPsnrDecibels = 41.0;
     return facts;
 }
 

@@ -23,7 +23,7 @@ HeadFacts newFacts()
               "vrdrive2: brackets become an ordinary picture (default) or HDR radiance",
               "m_rbOutputMode1|m_rbOutputMode2" } };
     // The darkest first: the importer is to find the median exposure by itself.
-    facts.demo = { 0.0, true, 36.0 };
+    facts.demo = { 0.0, true, 40.0 };
     return facts;
 }
 

@@ -16,6 +16,7 @@ private Q_SLOTS:
     void positionsCoverTheSphere_data();
     void positionsCoverTheSphere();
     void playIsSmallDiffersAndRepeats();
+    void playMovesTheCameraAndNotTheRecord();
     void bracketsShareTheirPositionAndFollowEachOther();
     void onlyACameraTurnedWithItsPixelsIsRolled();
 };
@@ -79,6 +80,23 @@ void TestShootPlan::playIsSmallDiffersAndRepeats()
         offsets.insert(std::llround(1e9 * (played[i].yawDegrees - exact[i].yawDegrees)));
     }
     QCOMPARE(offsets.size(), exact.size());
+}
+
+void TestShootPlan::playMovesTheCameraAndNotTheRecord()
+{
+    ShootPlan plan;
+    plan.positions = positionsOf(landscapeRows());
+    plan.playDegrees = 0.3;
+    plan.stops = { 0.0, 2.0 };
+    const QVector<Pose> played = withPlay(plan.positions, 0.3);
+    const QVector<PlannedShot> shots = shotsOf(plan);
+    QCOMPARE(shots.size(), 52);
+    for (const PlannedShot &shot : shots) {
+        QCOMPARE(shot.head.yawDegrees, plan.positions[shot.position].yawDegrees);
+        QCOMPARE(shot.head.pitchDegrees, plan.positions[shot.position].pitchDegrees);
+        QCOMPARE(shot.camera.yawDegrees, played[shot.position].yawDegrees);
+        QCOMPARE(shot.camera.pitchDegrees, played[shot.position].pitchDegrees);
+    }
 }
 
 void TestShootPlan::bracketsShareTheirPositionAndFollowEachOther()

@@ -326,14 +326,13 @@ Result<Panorama> TestShoots::photographed(const TestShoot &shoot, const QString 
 LightField TestShoots::truthOf(const TestShoot &shoot, const SpherePart &part,
                                const Eigen::Matrix3d &turned)
 {
-    const Radiance light = lightOf(shoot.scene);
-    // The world of rotations has y up, that of directions has y to the north.
-    const auto seen = [&](const Vec3 &direction) {
-        const Eigen::Vector3d world
-            = turned * Eigen::Vector3d(direction.x, direction.z, direction.y);
-        return light({ world.x(), world.z(), world.y() });
-    };
-    return exposePart(seen, part, kSamplesPerTruthPixelSide);
+    return exposePart(turnedBy(turned, lightOf(shoot.scene)), part, kSamplesPerTruthPixelSide);
+}
+
+double TestShoots::degreesBetweenGroups(const Rotations &truth, const Rotations &found,
+                                        const Chosen &one, const Chosen &other)
+{
+    return degreesBetween(commonRotation(truth, found, one), commonRotation(truth, found, other));
 }
 
 TestShoots::Verdict TestShoots::judged(const TestShoot &shoot, const Rotations &found)

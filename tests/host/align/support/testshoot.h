@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "host/demo/attitudeerrors.h"
 #include "host/demo/shootplan.h"
 #include "host/model/panorama.h"
 #include "importers/gigapan/gridorder.h"
-#include "tests/host/align/support/attitudeerrors.h"
 #include "tests/host/align/support/testscenes.h"
 
 #include <QImage>
@@ -16,6 +16,10 @@
 
 namespace TestShoots
 {
+
+using PanoHost::AttitudeErrors;
+using PanoHost::Chosen;
+using PanoHost::Rotations;
 
 /** What head and camera do besides what is recorded. Degrees. */
 struct HeadFaults {
@@ -103,6 +107,10 @@ void setGrid(TestShoot &shoot, int rows, int columns, double overlapPercent,
 [[nodiscard]] PanoHost::LightField truthOf(const TestShoot &shoot, const PanoHost::SpherePart &part,
                                            const Eigen::Matrix3d &turned
                                            = Eigen::Matrix3d::Identity());
+
+/** The angle by which \p one as a whole is turned against \p other as a whole, degrees. */
+[[nodiscard]] double degreesBetweenGroups(const Rotations &truth, const Rotations &found,
+                                          const Chosen &one, const Chosen &other);
 
 /** How well photos were placed, and what part of them could be placed by their texture. */
 struct Verdict {

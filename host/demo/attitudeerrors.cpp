@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "tests/host/align/support/attitudeerrors.h"
+#include "host/demo/attitudeerrors.h"
 
 #include "host/align/geometry.h"
 
@@ -11,17 +11,17 @@
 #include <cmath>
 #include <numeric>
 
-using PanoHost::degreesBetween;
+namespace PanoHost
+{
 
-TestShoots::Chosen TestShoots::allOf(int count)
+Chosen allOf(int count)
 {
     Chosen all(static_cast<size_t>(count));
     std::iota(all.begin(), all.end(), 0);
     return all;
 }
 
-Eigen::Matrix3d TestShoots::commonRotation(const Rotations &truth, const Rotations &found,
-                                           const Chosen &chosen)
+Eigen::Matrix3d commonRotation(const Rotations &truth, const Rotations &found, const Chosen &chosen)
 {
     Eigen::Matrix3d sum = Eigen::Matrix3d::Zero();
     for (const int i : chosen) {
@@ -33,10 +33,8 @@ Eigen::Matrix3d TestShoots::commonRotation(const Rotations &truth, const Rotatio
     return svd.matrixU() * signs.asDiagonal() * svd.matrixV().transpose();
 }
 
-TestShoots::AttitudeErrors TestShoots::attitudeErrors(const Rotations &truth,
-                                                      const Rotations &found,
-                                                      const Eigen::Matrix3d &common,
-                                                      const Chosen &chosen)
+AttitudeErrors attitudeErrors(const Rotations &truth, const Rotations &found,
+                              const Eigen::Matrix3d &common, const Chosen &chosen)
 {
     AttitudeErrors errors;
     double squares = 0.0;
@@ -49,15 +47,20 @@ TestShoots::AttitudeErrors TestShoots::attitudeErrors(const Rotations &truth,
     return errors;
 }
 
-TestShoots::AttitudeErrors TestShoots::attitudeErrors(const Rotations &truth,
-                                                      const Rotations &found)
+AttitudeErrors attitudeErrors(const Rotations &truth, const Rotations &found)
 {
     const Chosen all = allOf(static_cast<int>(truth.size()));
     return attitudeErrors(truth, found, commonRotation(truth, found, all), all);
 }
 
-double TestShoots::degreesBetweenGroups(const Rotations &truth, const Rotations &found,
-                                        const Chosen &one, const Chosen &other)
+Radiance turnedBy(const Eigen::Matrix3d &common, Radiance radiance)
 {
-    return degreesBetween(commonRotation(truth, found, one), commonRotation(truth, found, other));
+    // The world of rotations has y up, that of directions has y to the north.
+    return [common, radiance = std::move(radiance)](const Vec3 &direction) {
+        const Eigen::Vector3d seen
+            = common * Eigen::Vector3d(direction.x, direction.z, direction.y);
+        return radiance({ seen.x(), seen.z(), seen.y() });
+    };
 }
+
+} // namespace PanoHost

@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "host/demo/camera.h"
+
 #include <Eigen/Core>
 
 #include <vector>
 
-namespace TestShoots
+namespace PanoHost
 {
 
 /** Camera to world, one per position. */
@@ -37,8 +39,8 @@ struct AttitudeErrors {
 /** The errors of all of them after the best common rotation. */
 [[nodiscard]] AttitudeErrors attitudeErrors(const Rotations &truth, const Rotations &found);
 
-/** The angle by which \p one as a whole is turned against \p other as a whole, degrees. */
-[[nodiscard]] double degreesBetweenGroups(const Rotations &truth, const Rotations &found,
-                                          const Chosen &one, const Chosen &other);
+/** \p radiance as it is seen in the frame of found rotations, which \p common brings to the true
+ * one. */
+[[nodiscard]] Radiance turnedBy(const Eigen::Matrix3d &common, Radiance radiance);
 
-} // namespace TestShoots
+} // namespace PanoHost
