@@ -100,7 +100,8 @@ private:
     static Panorama taken(const TestShoot &shoot, const QString &folder)
     {
         static const QTemporaryDir originals;
-        const QDir studio(originals.filePath(QString::number(shoot.exposures.bracket.size())));
+        const QDir studio(originals.filePath(
+            QStringLiteral("%1-%2").arg(shoot.name).arg(shoot.exposures.bracket.size())));
         (void)photographed(shoot, studio.path()).value();
         for (const QString &name : studio.entryList(QDir::Files)) {
             QFile::copy(studio.filePath(name), QDir(folder).filePath(name));
@@ -151,6 +152,7 @@ private Q_SLOTS:
     void withoutTextureAllStaysAsRecorded();
     void onePhotoStaysAsRecorded();
     void identicalPhotosDoNoHarm();
+    void gridsInAnotherOrderAreNamed();
     void levellingTurnsAllPhotosAlike();
     void interruptionEndsEveryStep();
 };
@@ -401,6 +403,23 @@ void TestAlignment::identicalPhotosDoNoHarm()
     for (const PtoImage &image : aligned.project.images()) {
         QVERIFY(qIsFinite(image.angles.yaw) && qIsFinite(image.horizontalFovDegrees));
     }
+}
+
+void TestAlignment::gridsInAnotherOrderAreNamed()
+{
+    TestShoot grid = tiny();
+    grid.name = QStringLiteral("grid");
+    grid.noted = Noted::Grid;
+    grid.grid.overlapPercent = 35.0;
+    setGrid(grid, 3, 4, 35.0, 0.0);
+    const QString hint
+        = QStringLiteral("the photos fit the order 'columns' better than 'rows-down'");
+    const auto saidOf = [](const TestShoot &shoot) {
+        return sentences(Shoot(shoot).aligned().report).join(QLatin1Char('\n'));
+    };
+    QVERIFY2(!saidOf(grid).contains(QStringLiteral("order")), qPrintable(saidOf(grid)));
+    grid.grid.order = PanoHead::kRowsDownward;
+    QVERIFY2(saidOf(grid).contains(hint), qPrintable(saidOf(grid)));
 }
 
 void TestAlignment::levellingTurnsAllPhotosAlike()
