@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/demo/finejpeg.h"
 
+#include <algorithm>
 #include <array>
 #include <csetjmp>
 #include <cstdio>
@@ -66,18 +67,20 @@ bool encode(const uchar *pixels, const QSize &size, qsizetype stride, int qualit
 
 QByteArray fineJpeg(const QImage &picture, int quality)
 {
+    if (picture.isNull() || std::max(picture.width(), picture.height()) > JPEG_MAX_DIMENSION) {
+        throw std::runtime_error("no JPEG file can hold a picture of this size");
+    }
     const QImage rgb = picture.convertToFormat(QImage::Format_RGB888);
     Errors errors{};
     uchar *bytes = nullptr;
     unsigned long byteCount = 0;
-    const bool done = encode(rgb.constBits(), rgb.size(), rgb.bytesPerLine(), quality, errors,
-                             &bytes, &byteCount);
-    const QByteArray jpeg(reinterpret_cast<const char *>(bytes),
-                          done ? static_cast<int>(byteCount) : 0);
-    std::free(bytes);
-    if (!done) {
+    if (!encode(rgb.constBits(), rgb.size(), rgb.bytesPerLine(), quality, errors, &bytes,
+                &byteCount)) {
+        // Nobody can say which of its buffers the encoder still had.
         throw std::runtime_error(errors.text.data());
     }
+    const QByteArray jpeg(reinterpret_cast<const char *>(bytes), static_cast<int>(byteCount));
+    std::free(bytes);
     return jpeg;
 }
 

@@ -10,7 +10,8 @@ namespace PanoHost
 
 /**
  * \p picture as a JPEG file whose colours are as fine as its brightness; Qt's have a quarter of the
- * pixels. Throws a std::runtime_error that says why when there is no room or the picture too large.
+ * pixels. Throws a std::runtime_error that says why when the picture is too large, or memory runs
+ * out.
  */
 [[nodiscard]] QByteArray fineJpeg(const QImage &picture, int quality);
 

@@ -68,10 +68,12 @@ QRect cropOf(std::string_view text)
     if (edges.size() != 4) {
         return {};
     }
-    // Left and right, top and bottom: the last ones lie behind the picture.
-    const QRect crop(QPoint(edges[0].toInt(), edges[2].toInt()),
-                     QPoint(edges[1].toInt() - 1, edges[3].toInt() - 1));
-    return crop.isValid() ? crop : QRect();
+    const int left = edges[0].toInt();
+    const int right = edges[1].toInt();
+    const int top = edges[2].toInt();
+    const int bottom = edges[3].toInt();
+    const bool isPart = left >= 0 && top >= 0 && left < right && top < bottom;
+    return isPart ? QRect(left, top, right - left, bottom - top) : QRect();
 }
 
 } // namespace PanoHost

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/model/canvas.h"
 #include "host/model/ptoline.h"
 #include "host/model/ptoproject.h"
 #include "tests/host/testpanoramas.h"
@@ -133,6 +134,8 @@ private Q_SLOTS:
     void recordedLensAndHeadOutliveTheAlignment();
     void yawsAreThoseOfTheHead();
     void importedProjectIsOurs();
+    void canvasIsWhatTheProjectAsksFor_data();
+    void canvasIsWhatTheProjectAsksFor();
     void canvasFollowsTheRulesOfTheImport_data();
     void canvasFollowsTheRulesOfTheImport();
     void chosenWidthStays();
@@ -565,6 +568,37 @@ void PtoFileTest::importedProjectIsOurs()
     QVERIFY(!parsed(kHugins).isOurs());
 }
 
+void PtoFileTest::canvasIsWhatTheProjectAsksFor_data()
+{
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<double>("fov");
+    QTest::addColumn<QRect>("crop");
+    QTest::newRow("all of it") << QByteArray("p f2 w3000 h1500 v360") << QSize(3000, 1500) << 360.0
+                               << QRect();
+    // Left, right, top, bottom; the second of each lies behind.
+    QTest::newRow("cropped") << QByteArray("p f2 w1000 h1800 v100.5 S10,900,700,1200")
+                             << QSize(1000, 1800) << 100.5 << QRect(10, 700, 890, 500);
+    QTest::newRow("crop that is none")
+        << QByteArray("p f2 w3000 h1500 v360 S5,2") << QSize(3000, 1500) << 360.0 << QRect();
+    QTest::newRow("crop inside out") << QByteArray("p f2 w3000 h1500 v360 S9,5,-2147483648,3")
+                                     << QSize(3000, 1500) << 360.0 << QRect();
+}
+
+void PtoFileTest::canvasIsWhatTheProjectAsksFor()
+{
+    QFETCH(QByteArray, line);
+    QFETCH(QSize, size);
+    QFETCH(double, fov);
+    QFETCH(QRect, crop);
+    QByteArray text = kHugins;
+    text.replace("p f2 w3000 h1500 v360 ", line);
+    const Canvas canvas = parsed(text).canvas();
+    QCOMPARE(canvas.size, size);
+    QCOMPARE(canvas.horizontalFovDegrees, fov);
+    QCOMPARE(canvas.crop, crop);
+}
+
 void PtoFileTest::canvasFollowsTheRulesOfTheImport_data()
 {
     QTest::addColumn<int>("positions");
@@ -604,6 +638,9 @@ void PtoFileTest::canvasFollowsTheRulesOfTheImport()
     }
     file.layOutCanvas();
     const auto expected = makePtoProject(real, options).value();
+    QCOMPARE(file.canvas().size, expected.canvas);
+    QCOMPARE(file.canvas().crop, expected.crop);
+    QCOMPARE(file.canvas().yawCentreDegrees, expected.yawCentreDegrees);
     // The centre has more digits than the lens that it follows from.
     const double centre = expected.yawCentreDegrees;
     QVERIFY(std::abs(file.yawCentreDegrees() - centre) < 1e-9);

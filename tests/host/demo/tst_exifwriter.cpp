@@ -56,6 +56,9 @@ private Q_SLOTS:
     void onlyTurnedPixelsHaveAnOrientation();
     void photoKeepsItsPixels();
     void panoramaTellsViewersWhatItIs();
+    void panoramaKeepsTheColoursOfSinglePixels();
+    void panoramaTooLargeForItsFormatIsRefused_data();
+    void panoramaTooLargeForItsFormatIsRefused();
     void panoramaReplacesAnOlderOneAndLeavesNothingElse();
     void unwritablePlacesAreReportedAndLeaveNothing();
 
@@ -168,6 +171,46 @@ void TestExifWriter::panoramaTellsViewersWhatItIs()
     QCOMPARE(text("Xmp.GPano.CroppedAreaTopPixels"), QStringLiteral("40"));
     QCOMPARE(text("Xmp.GPano.CroppedAreaImageWidthPixels"), QStringLiteral("100"));
     QCOMPARE(text("Xmp.GPano.CroppedAreaImageHeightPixels"), QStringLiteral("20"));
+}
+
+void TestExifWriter::panoramaKeepsTheColoursOfSinglePixels()
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("demo.jpg"));
+    QImage columns(64, 32, QImage::Format_RGB32);
+    for (int y = 0; y < columns.height(); ++y) {
+        for (int x = 0; x < columns.width(); ++x) {
+            columns.setPixel(x, y, x % 2 == 0 ? qRgb(200, 60, 60) : qRgb(60, 60, 200));
+        }
+    }
+    QVERIFY(writePanorama(file, columns, columns.size(), columns.rect()));
+    const QImage written(file);
+    for (int x = 0; x < columns.width(); ++x) {
+        // Colours of half the width would be half red, half blue everywhere.
+        QVERIFY(std::abs(qRed(written.pixel(x, 16)) - (x % 2 == 0 ? 200 : 60)) <= 10);
+        QVERIFY(std::abs(qBlue(written.pixel(x, 16)) - (x % 2 == 0 ? 60 : 200)) <= 10);
+    }
+}
+
+void TestExifWriter::panoramaTooLargeForItsFormatIsRefused_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("nothing") << QSize(0, 0);
+    QTest::newRow("too wide") << QSize(65501, 1);
+    QTest::newRow("too high") << QSize(1, 65501);
+}
+
+void TestExifWriter::panoramaTooLargeForItsFormatIsRefused()
+{
+    QFETCH(QSize, size);
+    const QTemporaryDir folder;
+    const QImage picture(size, QImage::Format_RGB32);
+    const Result<QString> written
+        = writePanorama(folder.filePath(QStringLiteral("demo.jpg")), picture, size, picture.rect());
+    QVERIFY(!written);
+    QVERIFY2(written.error().why.contains(QStringLiteral("no JPEG file can hold")),
+             qPrintable(written.error().why));
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), 0);
 }
 
 void TestExifWriter::panoramaReplacesAnOlderOneAndLeavesNothingElse()
