@@ -49,6 +49,13 @@ int sphereWidth(const Sizes &sizes, const Camera &camera)
     return sizes.panoramaWidth * qRound(camera.focal35mm / kUsualFocal35mm);
 }
 
+/** Of the whole sphere, at the scale of \p part. */
+QSize sphereSizeOf(const SpherePart &part)
+{
+    return { qRound(part.canvas.width() * 360.0 / part.horizontalFovDegrees),
+             part.canvas.height() };
+}
+
 /** The images of the project that show the reference exposures: each position's first. */
 QVector<int> referenceIndices(const Panorama &panorama)
 {
@@ -318,12 +325,12 @@ Demo::Outcome Demo::makePanorama()
         return stitched.error();
     }
     m_report.size = m_stitched.size();
+    const QSize sphere = sphereSizeOf(m_part);
     const QRect onSphere
-        = m_part.crop.translated(qRound((m_sphereWidth - m_part.canvas.width()) / 2.0
-                                        + m_part.yawCentreDegrees * m_sphereWidth / 360.0),
+        = m_part.crop.translated(qRound((sphere.width() - m_part.canvas.width()) / 2.0
+                                        + m_part.yawCentreDegrees * sphere.width() / 360.0),
                                  0);
-    const Result<QString> written
-        = writePanorama(path("demo.jpg"), m_stitched, wholeSphere().canvas, onSphere);
+    const Result<QString> written = writePanorama(path("demo.jpg"), m_stitched, sphere, onSphere);
     if (!written) {
         return written.error();
     }
