@@ -101,8 +101,11 @@ void addLight(const AlignmentReport &report, QStringList &lines)
 void addHead(const AlignmentReport &report, QStringList &lines)
 {
     if (report.playDegrees) {
-        lines.append(
-            QStringLiteral("the head repeats to %1 degrees").arg(figure(*report.playDegrees, 2)));
+        constexpr double kNoneDegrees = 0.01;
+        lines.append(QStringLiteral("the head repeats to %1 degrees")
+                         .arg(*report.playDegrees < kNoneDegrees
+                                  ? QStringLiteral("less than %1").arg(kNoneDegrees)
+                                  : figure(*report.playDegrees, 2)));
     }
     constexpr double kVisibleDegrees = 0.1;
     const double crooked

@@ -55,7 +55,7 @@ bool encode(const uchar *pixels, const QSize &size, qsizetype stride, int qualit
     encoder.comp_info[0].v_samp_factor = 1;
     jpeg_start_compress(&encoder, TRUE);
     while (encoder.next_scanline < encoder.image_height) {
-        JSAMPROW row = const_cast<JSAMPROW>(pixels + encoder.next_scanline * stride);
+        auto *row = const_cast<JSAMPROW>(pixels + encoder.next_scanline * stride);
         jpeg_write_scanlines(&encoder, &row, 1);
     }
     jpeg_finish_compress(&encoder);
@@ -79,7 +79,7 @@ QByteArray fineJpeg(const QImage &picture, int quality)
         // Nobody can say which of its buffers the encoder still had.
         throw std::runtime_error(errors.text.data());
     }
-    const QByteArray jpeg(reinterpret_cast<const char *>(bytes), static_cast<int>(byteCount));
+    QByteArray jpeg(reinterpret_cast<const char *>(bytes), static_cast<int>(byteCount));
     std::free(bytes);
     return jpeg;
 }

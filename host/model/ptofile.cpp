@@ -665,8 +665,7 @@ void PtoFile::layOutCanvas()
 {
     QVector<Frame> frames;
     frames.reserve(m_images.size());
-    for (int i = 0; i < m_images.size(); ++i) {
-        const PtoImage &image = m_images.at(i);
+    for (const PtoImage &image : qAsConst(m_images)) {
         if (image.angleMaster < 0) {
             frames.append({ image.size, image.focalPixels(), image.lens, image.angles.yaw,
                             image.angles.pitch, image.angles.roll });

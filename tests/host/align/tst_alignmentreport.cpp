@@ -105,6 +105,10 @@ void TestAlignmentReport::keepsSilentAboutWhatIsAsItShouldBe()
     report.focal35mm = 24.02;
     report.mountPitchDegrees = 0.05;
     QCOMPARE(sentences(report).size(), 1);
+    report.playDegrees = 0.003;
+    QCOMPARE(sentences(report).last(),
+             QStringLiteral("the head repeats to less than 0.01 degrees"));
+    report.playDegrees.reset();
     // A grid's tilt is nobody's fault.
     report.isGrid = true;
     report.mountPitchDegrees = 6.0;
