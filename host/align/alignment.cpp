@@ -72,6 +72,14 @@ int matchedCount(const TiePoints &found)
                       [](const TiePoints::Pair &pair) { return pair.points > 0; }));
 }
 
+/** Large shoots hold together with fewer points a pair: solver and Hugin would choke on more. */
+int mostPointsOfPair(size_t pairs)
+{
+    constexpr size_t kMost = 1'000'000;
+    constexpr size_t kEnough = 6;
+    return static_cast<int>(std::max(kMost / std::max<size_t>(pairs, 1), kEnough));
+}
+
 double median(std::vector<double> values)
 {
     if (values.empty()) {
@@ -266,8 +274,13 @@ void Run::keepPoints()
 void Run::look(TiePointFinder &finder, const TiePointFinder::Rules &rules,
                TiePointFinder::Afterwards afterwards)
 {
+    const auto fewer = [&](const AlignLens &lens) {
+        MatchRules kept = rules(lens);
+        kept.mostPoints = std::min(kept.mostPoints, mostPointsOfPair(m_pairs.size()));
+        return kept;
+    };
     const TiePoints found
-        = finder.match(indicesOf(m_pairs), modelOfPhotos(m_shoot), rules, m_watch, afterwards);
+        = finder.match(indicesOf(m_pairs), modelOfPhotos(m_shoot), fewer, m_watch, afterwards);
     m_points = m_kept;
     constexpr double kWhite = 65535.0;
     for (size_t i = 0; i < found.points.size(); ++i) {

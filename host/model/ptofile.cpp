@@ -23,7 +23,8 @@ namespace PanoHost
 namespace
 {
 
-constexpr qint64 kMostBytes = 512LL * 1024 * 1024;
+/** 70,000 photos with a million points take 100 MB. */
+constexpr qint64 kMostBytes = 128LL * 1024 * 1024;
 constexpr int kMostImages = 250'000;
 constexpr int kMostPoints = 10'000'000;
 constexpr size_t kLongestLine = 65'536;

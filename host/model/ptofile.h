@@ -99,7 +99,7 @@ public:
     /** The comment line of projects whose yaws are relative to \p yawDegrees of the head: by it
      * this program knows its own projects. */
     [[nodiscard]] static QByteArray centreLine(double yawDegrees);
-    /** The same from a regular file of at most 512 MB. */
+    /** The same from a regular file of at most 128 MB. */
     [[nodiscard]] static Result<PtoFile> read(const QString &path);
 
     [[nodiscard]] const QVector<PtoImage> &images() const { return m_images; }
