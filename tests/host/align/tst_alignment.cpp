@@ -152,6 +152,7 @@ private Q_SLOTS:
     void withoutTextureAllStaysAsRecorded();
     void onePhotoStaysAsRecorded();
     void identicalPhotosDoNoHarm();
+    void recordedLocationsMayBeAHintOnly();
     void gridsInAnotherOrderAreNamed();
     void levellingTurnsAllPhotosAlike();
     void interruptionEndsEveryStep();
@@ -403,6 +404,20 @@ void TestAlignment::identicalPhotosDoNoHarm()
     for (const PtoImage &image : aligned.project.images()) {
         QVERIFY(qIsFinite(image.angles.yaw) && qIsFinite(image.horizontalFovDegrees));
     }
+}
+
+void TestAlignment::recordedLocationsMayBeAHintOnly()
+{
+    Shoot shoot;
+    for (int i = 0; i < 6; ++i) {
+        shoot.panorama.positions[i].yawDegrees += i % 2 == 0 ? 9.0 : -7.0;
+        shoot.panorama.positions[i].pitchDegrees += i % 3 == 0 ? 8.0 : -5.0;
+    }
+    shoot.panorama.description.useRecordedLocation = false;
+    const Alignment aligned = shoot.aligned();
+    QCOMPARE(aligned.report.tiedCount(), 6);
+    QVERIFY2(shoot.errorsOf(aligned.project).rms < 0.05,
+             qPrintable(QString::number(shoot.errorsOf(aligned.project).rms)));
 }
 
 void TestAlignment::gridsInAnotherOrderAreNamed()
