@@ -4,6 +4,7 @@
 
 #include "host/align/alignshoot.h"
 #include "host/align/diagnosis.h"
+#include "host/align/median.h"
 #include "host/align/photometry.h"
 #include "host/align/tiepoints.h"
 #include "host/model/displayname.h"
@@ -78,16 +79,6 @@ int mostPointsOfPair(size_t pairs)
     constexpr size_t kMost = 1'000'000;
     constexpr size_t kEnough = 6;
     return static_cast<int>(std::max(kMost / std::max<size_t>(pairs, 1), kEnough));
-}
-
-double median(std::vector<double> values)
-{
-    if (values.empty()) {
-        return 0.0;
-    }
-    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
 }
 
 /** One alignment, step by step; `run` is the order of things. */

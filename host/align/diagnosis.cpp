@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/align/diagnosis.h"
 
+#include "host/align/median.h"
+
 #include <QPair>
 #include <QtMath>
 
@@ -26,16 +28,6 @@ constexpr double kNotableDegrees = 1.0;
 constexpr double kNotableDeviations = 8.0;
 /** A head without any visible play is taken for this good. */
 constexpr double kLeastPlayDegrees = 0.02;
-
-double median(std::vector<double> values)
-{
-    if (values.empty()) {
-        return 0.0;
-    }
-    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
 
 double spreadAround(std::vector<double> values, double centre)
 {

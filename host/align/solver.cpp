@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/align/solver.h"
 
+#include "host/align/median.h"
 #include "host/align/onethread.h"
 #include "host/align/tieresidual.h"
 
@@ -40,13 +41,6 @@ constexpr double kDeviationB = 0.03;
 constexpr double kDeviationC = 0.01;
 /** How many deviations of play are nothing special; from there on a correction counts less. */
 constexpr double kUsualPlay = 3.0;
-
-double median(std::vector<double> &values)
-{
-    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
 
 /** The root of the mean square of those of \p values that are at most \p most. */
 double deviationWithin(const std::vector<double> &values, double most)
