@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/align/photometry.h"
 
+#include "host/align/median.h"
 #include "host/align/onethread.h"
 
 #include <ceres/ceres.h>
@@ -190,11 +191,9 @@ Photometry solvePhotometry(const std::vector<AlignView> &views,
         if (off.empty()) {
             break;
         }
-        const auto middle = off.begin() + static_cast<std::ptrdiff_t>(off.size() / 2);
-        std::nth_element(off.begin(), middle, off.end());
         constexpr double kDeviations = 1.4826;
         constexpr double kLeastSigma = 0.01;
-        loss.sigma = std::max(kDeviations * *middle, kLeastSigma);
+        loss.sigma = std::max(kDeviations * median(std::move(off)), kLeastSigma);
         result.sigmaStops = loss.sigma;
     }
 
