@@ -304,7 +304,7 @@ TestShoots::Rotations AlignRoutes::rotationsIn(const QString &project, const Tak
     TestShoots::Rotations rotations;
     if (file) {
         for (const int image : referenceImages(file.value(), taken)) {
-            const PtoAngles &angles = file.value().images()[image].angles;
+            const Angles &angles = file.value().images()[image].angles;
             // As it is written: the panorama is stitched so.
             rotations.push_back(rotationOf(
                 { angles.yaw - file.value().yawCentreDegrees(), angles.pitch, angles.roll }));

@@ -32,7 +32,7 @@ bool sameYaw(double one, double other)
 void alter(PtoFile &file)
 {
     const int count = file.images().size();
-    QVector<PtoAngles> recorded;
+    QVector<Angles> recorded;
     QVector<double> turns;
     for (int i = 0; i < count; ++i) {
         PtoPlacement placement;

@@ -10,7 +10,6 @@
 #include "host/model/displayname.h"
 
 #include <QFileInfo>
-#include <QtMath>
 
 #include <algorithm>
 #include <cmath>
@@ -35,18 +34,6 @@ struct FoundPoint {
     double firstLight = 0.0; ///< linear, 1: white; 0: not known
     double secondLight = 0.0;
 };
-
-double horizontalFov(const AlignLens &lens)
-{
-    const double half = lens.size.width() / 2.0 / lens.focalPixels;
-    return qRadiansToDegrees(lens.model == LensModel::Fisheye ? 2.0 * half : 2.0 * std::atan(half));
-}
-
-double focal35mmOf(const AlignLens &lens)
-{
-    return lens.focalPixels * kFullFrameDiagonalMm
-        / std::hypot(lens.size.width(), lens.size.height());
-}
 
 TiePointOptions finderOptions(const AlignOptions &options)
 {
@@ -107,7 +94,6 @@ private:
     void checkOrder(TiePointFinder &finder);
     [[nodiscard]] IndexPairs indicesOf(const IndexPairs &images) const;
     void place(bool roughly);
-    void undoSlips();
     [[nodiscard]] std::vector<int> tiedViews() const;
     [[nodiscard]] bool isRight(size_t point) const
     {
@@ -165,10 +151,12 @@ Result<Alignment> Run::run()
     look(finder, secondLook, TiePointFinder::Afterwards::ReleaseFeatures);
     place(false);
     reportPoints();
-    writePoints();
     if (m_report.pointCount == 0) {
         note(nothingFound());
-    } else if (!m_plan.places) {
+        return Alignment{ m_project, m_report };
+    }
+    writePoints();
+    if (!m_plan.places) {
         note(QStringLiteral("photos are left as recorded (optimisation is skipped)"));
     } else {
         m_report.isPlaced = true;
@@ -406,14 +394,22 @@ void Run::writePlaces()
     for (size_t view = 0; view < model.views.size(); ++view) {
         const Angles angles = anglesOf(upright * model.rotation(static_cast<int>(view)));
         m_report.photos[static_cast<int>(view)].aligned = angles;
-        m_project.place(m_shoot.imageOfView[view],
-                        { { angles.yaw, angles.pitch, angles.roll }, {} });
+        m_project.place(m_shoot.imageOfView[view], { angles, {} });
     }
     for (int image = 0; image < m_project.images().size(); ++image) {
         if (m_project.images()[image].lensMaster < 0) {
             const int view = m_shoot.viewOfImage[static_cast<size_t>(image)];
             const AlignLens &lens = model.lensOf(view);
-            m_project.setLens(image, { horizontalFov(lens), lens.a, lens.b, lens.c, {}, 0.0, 0.0 });
+            m_project.setLens(
+                image,
+                { horizontalFovDegrees(lens.size, focal35mmOf(lens.size, lens.focalPixels),
+                                       lens.model),
+                  lens.a,
+                  lens.b,
+                  lens.c,
+                  {},
+                  0.0,
+                  0.0 });
         }
     }
     if (m_project.isOurs()) {
@@ -479,8 +475,9 @@ void Run::reportViews()
         m_report.photos.append(photo);
     }
     m_report.isGrid = m_plan.kind == RecordKind::Grid;
-    m_report.recordedFocal35mm
-        = m_recordedLenses.size() == 1 ? focal35mmOf(m_recordedLenses.front()) : 0.0;
+    m_report.recordedFocal35mm = m_recordedLenses.size() == 1
+        ? focal35mmOf(m_recordedLenses.front().size, m_recordedLenses.front().focalPixels)
+        : 0.0;
 }
 
 void Run::reportPoints()
@@ -517,7 +514,7 @@ void Run::reportHead()
     m_report.pitchScale = model.pitchScale;
     if (model.lenses.size() == 1) {
         const AlignLens &lens = model.lenses.front();
-        m_report.focal35mm = focal35mmOf(lens);
+        m_report.focal35mm = focal35mmOf(lens.size, lens.focalPixels);
         m_report.distortionA = lens.a;
         m_report.distortionB = lens.b;
         m_report.distortionC = lens.c;

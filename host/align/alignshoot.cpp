@@ -106,10 +106,7 @@ AlignLens lensOf(const PtoImage &image)
     AlignLens lens;
     lens.size = image.size;
     lens.model = image.lens;
-    const double fov = qDegreesToRadians(image.recordedFovDegrees);
-    lens.focalPixels = image.lens == LensModel::Fisheye
-        ? image.size.width() / fov
-        : image.size.width() / 2.0 / std::tan(fov / 2.0);
+    lens.focalPixels = focalPixelsOfFov(image.size, image.recordedFovDegrees, image.lens);
     lens.a = image.a;
     lens.b = image.b;
     lens.c = image.c;
@@ -226,7 +223,7 @@ AlignShoot shootOf(const PtoFile &project)
     for (const int i : shoot.imageOfView) {
         const PtoImage &image = images[i];
         AlignView view;
-        view.recorded = { image.recorded.yaw, image.recorded.pitch, image.recorded.roll };
+        view.recorded = image.recorded;
         view.turnDegrees = image.turnDegrees;
         view.lens = lensOfImage[static_cast<size_t>(i)];
         view.stack = image.stackMaster < 0

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "host/model/angles.h"
 #include "model/lensmodel.h"
 
 #include <QSize>
@@ -17,13 +18,6 @@
  */
 namespace PanoHost
 {
-
-/** Degrees: yaw to the right, pitch up, roll clockwise as seen from behind the camera. */
-struct Angles {
-    double yaw = 0.0;
-    double pitch = 0.0;
-    double roll = 0.0;
-};
 
 /** Camera to world: rolled first, then pitched, then turned. */
 [[nodiscard]] Eigen::Matrix3d rotationOf(const Angles &angles);

@@ -72,8 +72,7 @@ Rotations rotationsOf(const QVector<PtoImage> &images)
 {
     Rotations rotations;
     for (const PtoImage &image : images) {
-        rotations.push_back(
-            rotationOf({ image.angles.yaw, image.angles.pitch, image.angles.roll }));
+        rotations.push_back(rotationOf(image.angles));
     }
     return rotations;
 }
@@ -81,8 +80,7 @@ Rotations rotationsOf(const QVector<PtoImage> &images)
 Camera cameraOf(const PtoImage &image)
 {
     return { image.size,
-             image.focalPixels() * kFullFrameDiagonalMm
-                 / std::hypot(image.size.width(), image.size.height()),
+             focal35mmOf(image.size, image.focalPixels()),
              image.lens == LensModel::Fisheye ? Projection::EquidistantFisheye
                                               : Projection::Rectilinear,
              { image.a, image.b, image.c } };

@@ -197,6 +197,18 @@ double focalPixels(const QSize &size, double focal35mm)
         / kFullFrameDiagonalMm;
 }
 
+double focalPixelsOfFov(const QSize &size, double fovDegrees, LensModel lens)
+{
+    const double fov = qDegreesToRadians(fovDegrees);
+    return lens == LensModel::Fisheye ? size.width() / fov
+                                      : size.width() / 2.0 / std::tan(fov / 2.0);
+}
+
+double focal35mmOf(const QSize &size, double focalPixels)
+{
+    return focalPixels * kFullFrameDiagonalMm / std::hypot(size.width(), size.height());
+}
+
 int photoCount(const Panorama &panorama)
 {
     int photos = 0;

@@ -89,6 +89,12 @@ using PhotoLookup = std::function<Result<PhotoInfo>(const QString &path)>;
 /** The focal length in pixels, the same for both projections. 0 when a number is missing. */
 [[nodiscard]] double focalPixels(const QSize &size, double focal35mm);
 
+/** The same for a horizontal field of view in degrees, which is that of \p lens. */
+[[nodiscard]] double focalPixelsOfFov(const QSize &size, double fovDegrees, LensModel lens);
+
+/** The 35 mm equivalent of a focal length in pixels. */
+[[nodiscard]] double focal35mmOf(const QSize &size, double focalPixels);
+
 /** The number of photos of all positions. */
 [[nodiscard]] int photoCount(const Panorama &panorama);
 

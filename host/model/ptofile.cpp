@@ -3,6 +3,7 @@
 #include "host/model/ptofile.h"
 
 #include "host/model/canvas.h"
+#include "host/model/panorama.h"
 #include "host/model/ptoline.h"
 #include "host/model/relativepath.h"
 #include "host/model/safefile.h"
@@ -105,7 +106,7 @@ private:
     using Cells = std::array<Cell, kLinkedCount>;
     struct Record {
         int image = 0;
-        PtoAngles angles;
+        Angles angles;
         double turnDegrees = 0.0;
         double fovDegrees = 0.0; ///< 0: not said
     };
@@ -525,9 +526,7 @@ QByteArray PtoFile::centreLine(double yawDegrees)
 
 double PtoImage::focalPixels() const
 {
-    const double fov = qDegreesToRadians(horizontalFovDegrees);
-    return lens == LensModel::Fisheye ? size.width() / fov
-                                      : size.width() / 2.0 / std::tan(fov / 2.0);
+    return focalPixelsOfFov(size, horizontalFovDegrees, lens);
 }
 
 double PtoFile::longestFocalPixels() const
@@ -631,7 +630,7 @@ void PtoFile::setPoints(const QVector<PtoPoint> &points)
     m_setsPoints = true;
 }
 
-void PtoFile::setRecord(const QVector<PtoAngles> &recorded, const QVector<double> &turns)
+void PtoFile::setRecord(const QVector<Angles> &recorded, const QVector<double> &turns)
 {
     for (int i = 0; i < m_images.size(); ++i) {
         PtoImage &image = m_images[i];

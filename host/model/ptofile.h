@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "host/model/angles.h"
 #include "host/model/result.h"
 #include "model/lensmodel.h"
 
@@ -18,13 +19,6 @@ namespace PanoHost
 
 struct Canvas;
 
-/** Degrees: yaw to the right, pitch up, roll clockwise. */
-struct PtoAngles {
-    double yaw = 0.0;
-    double pitch = 0.0;
-    double roll = 0.0;
-};
-
 /** An i-line, with the values of the lines that it links to. Yaws are those of the head: what the
  * project has subtracted from all is added again. */
 struct PtoImage {
@@ -36,9 +30,9 @@ struct PtoImage {
     double b = 0.0;
     double c = 0.0;
     std::optional<double> exposureValue; ///< Eev
-    PtoAngles angles;
+    Angles angles;
     /** What the head said, without the camera's turn. Without record lines: the file's angles. */
-    PtoAngles recorded;
+    Angles recorded;
     double recordedFovDegrees
         = 0.0; ///< horizontal, before any alignment; without record lines: the file's
     /** How far the camera, or its stored pixels, are turned about the lens's axis. Without record
@@ -65,7 +59,7 @@ struct PtoPoint {
 
 /** What an alignment changes of an image. */
 struct PtoPlacement {
-    PtoAngles angles;
+    Angles angles;
     std::optional<double> exposureValue;
 };
 
@@ -126,7 +120,7 @@ public:
     /** In place of all points that are there. */
     void setPoints(const QVector<PtoPoint> &points);
     /** What the head said, one entry per image, in place of what was there. */
-    void setRecord(const QVector<PtoAngles> &recorded, const QVector<double> &turns);
+    void setRecord(const QVector<Angles> &recorded, const QVector<double> &turns);
     /** Writes down what is recorded of each image, and \p head, one word. */
     void keepRecord(const QByteArray &head);
     /** Lays canvas and crop out anew around the images, by the rules of the import, centred at yaw

@@ -339,7 +339,7 @@ Result<PtoFile> projectOf(const Panorama &panorama, const PtoOptions &options)
     if (!file) {
         return file.error();
     }
-    QVector<PtoAngles> recorded;
+    QVector<Angles> recorded;
     QVector<double> turns;
     for (const Position &position : panorama.positions) {
         for (const PhotoInfo &photo : position.photos) {

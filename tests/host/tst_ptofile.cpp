@@ -98,7 +98,7 @@ QByteArray withoutCentre(QByteArray text)
     return text.replace(lineWith(text, "#panohost centre"), "");
 }
 
-bool same(const PtoAngles &one, const PtoAngles &other, double tolerance = 0.0)
+bool same(const Angles &one, const Angles &other, double tolerance = 0.0)
 {
     return std::abs(one.yaw - other.yaw) <= tolerance
         && std::abs(one.pitch - other.pitch) <= tolerance
@@ -504,9 +504,7 @@ void PtoFileTest::recordComesBackExactly()
 {
     PtoFile file
         = parsed(project(image() + "i w60 h40 v50 r=0 p=0 y=0 j=0 n\"b\"\n" + image({}, "c")));
-    const QVector<PtoAngles> recorded{ { 1.0 / 3.0, -0.1, 1e-17 },
-                                       {},
-                                       { 725.0, 89.999999999, -0.0 } };
+    const QVector<Angles> recorded{ { 1.0 / 3.0, -0.1, 1e-17 }, {}, { 725.0, 89.999999999, -0.0 } };
     file.setRecord(recorded, { 90.0, 7.0, 12.5 });
     const QByteArray text = textOf(file);
     QVERIFY(text.endsWith("\n#panohost record i0 y0.3333333333333333 p-0.1 r1e-17 turn90 v50\n"

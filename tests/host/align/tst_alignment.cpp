@@ -22,8 +22,7 @@ using ImagePair = QPair<int, int>;
 
 Eigen::Matrix3d rotationAt(const PtoFile &project, int image)
 {
-    const PtoAngles &angles = project.images().at(image).angles;
-    return rotationOf({ angles.yaw, angles.pitch, angles.roll });
+    return rotationOf(project.images().at(image).angles);
 }
 
 Rotations rotationsOf(const PtoFile &project)
@@ -150,6 +149,7 @@ private Q_SLOTS:
     void photosOfAnotherSizeStayAsRecorded();
     void noPhotoAtAllIsRefused();
     void withoutTextureAllStaysAsRecorded();
+    void pointsStayWhereNothingNewIsFound();
     void onePhotoStaysAsRecorded();
     void identicalPhotosDoNoHarm();
     void recordedLocationsMayBeAHintOnly();
@@ -381,6 +381,20 @@ void TestAlignment::withoutTextureAllStaysAsRecorded()
     QVERIFY(!aligned.report.isPlaced);
     QVERIFY(degreesApart(aligned.project, projectOf(shoot.panorama).value()) < 1e-9);
     QVERIFY(sentences(aligned.report).last().endsWith(QStringLiteral("kept as recorded")));
+}
+
+void TestAlignment::pointsStayWhereNothingNewIsFound()
+{
+    const Shoot shoot;
+    const PtoFile aligned = shoot.aligned().project;
+    QImage grey(300, 200, QImage::Format_RGB32);
+    grey.fill(Qt::gray);
+    for (int i = 0; i < 6; ++i) {
+        QVERIFY(grey.save(shoot.photo(i), "JPG"));
+    }
+    const auto again = align(aligned, {}, {});
+    QVERIFY(again.ok());
+    QCOMPARE(shoot.textOf(again.value().project), shoot.textOf(aligned));
 }
 
 void TestAlignment::onePhotoStaysAsRecorded()

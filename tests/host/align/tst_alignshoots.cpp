@@ -21,8 +21,7 @@ Rotations rotationsOf(const PtoFile &project)
     Rotations found;
     for (const PtoImage &image : project.images()) {
         if (image.stackMaster < 0) {
-            found.push_back(
-                rotationOf({ image.angles.yaw, image.angles.pitch, image.angles.roll }));
+            found.push_back(rotationOf(image.angles));
         }
     }
     return found;

@@ -63,11 +63,6 @@ double printedPsnr(const QString &output)
     return match.hasMatch() ? match.captured(1).toDouble() : -1.0;
 }
 
-Angles anglesIn(const PtoAngles &angles)
-{
-    return { angles.yaw, angles.pitch, angles.roll };
-}
-
 QStringList filesBelow(const QString &folder)
 {
     return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
@@ -224,8 +219,8 @@ void TestEndToEnd::demoEndsWithAPanorama()
     Rotations recorded;
     Rotations aligned;
     for (const PtoImage &image : project.value().images()) {
-        recorded.push_back(rotationOf(anglesIn(image.recorded)));
-        aligned.push_back(rotationOf(anglesIn(image.angles)));
+        recorded.push_back(rotationOf(image.recorded));
+        aligned.push_back(rotationOf(image.angles));
     }
     for (int i = 0; i < 26; ++i) {
         const Position &position = description.value().positions[i];
