@@ -104,6 +104,7 @@ private:
     void writePoints();
     void writePlaces();
     void writeLight();
+    void keepWhites(double usualExposure);
     void reportViews();
     void reportPoints();
     void reportHead();
@@ -117,6 +118,7 @@ private:
     std::vector<AlignLens> m_recordedLenses;
     IndexPairs m_pairs; ///< of images
     std::vector<int> m_photos; ///< the images that are in a pair, ascending
+    std::vector<double> m_whiteShares; ///< one for each of the photos
     std::vector<FoundPoint> m_kept;
     std::vector<FoundPoint> m_points;
     SolveResult m_solved;
@@ -215,6 +217,7 @@ std::optional<Failure> Run::readPhotos(TiePointFinder &finder)
     finder.readFeatures(m_watch);
     int bad = 0;
     for (size_t i = 0; i < m_photos.size(); ++i) {
+        m_whiteShares.push_back(finder.whiteShare(static_cast<int>(i)));
         if (const auto &failure = finder.leftOut(static_cast<int>(i))) {
             ++bad;
             note(QStringLiteral("%1; kept as recorded").arg(failure->text()));
@@ -463,6 +466,29 @@ void Run::writeLight()
     }
     const Vignetting &first = light.vignetting.front();
     m_report.cornerLight = 1.0 + first.b + first.c + first.d;
+    if (m_project.isOurs()) {
+        keepWhites(usual);
+    }
+}
+
+/**
+ * What is white in a photo would be grey in a panorama darker than it: that becomes as bright as
+ * the brightest exposed photo with white in it, but not more than a stop brighter than usual.
+ */
+void Run::keepWhites(double usualExposure)
+{
+    constexpr double kSomeWhite = 0.01;
+    constexpr double kMostStops = 1.0;
+    double exposure = usualExposure;
+    for (size_t i = 0; i < m_photos.size(); ++i) {
+        const PtoImage &image = m_project.images()[m_photos[i]];
+        if (image.stackMaster < 0 && m_whiteShares[i] >= kSomeWhite) {
+            exposure = std::min(exposure, image.exposureValue.value_or(usualExposure));
+        }
+    }
+    if (exposure < usualExposure) {
+        m_project.setExposure(std::max(exposure, usualExposure - kMostStops));
+    }
 }
 
 void Run::reportViews()

@@ -172,6 +172,13 @@ std::uint16_t lightAround(const cv::Mat &picture, const cv::Point2d &place)
     return static_cast<std::uint16_t>(pixels > 0 ? sum / pixels : 0);
 }
 
+double whiteShare(const QImage &picture)
+{
+    constexpr int kWhite = 250;
+    return static_cast<double>(cv::countNonZero(matrixOf(picture) >= kWhite))
+        / (static_cast<double>(picture.width()) * picture.height());
+}
+
 /** OpenCV's own threads stay off: photos are the unit of parallel work. */
 void useOneThread()
 {
@@ -206,7 +213,8 @@ Result<GreyPicture> readGreyPicture(const QString &path, const QSize &storedSize
         = std::exchange(pixels.picture, {}).convertToFormat(QImage::Format_Grayscale8);
     const QImage small = reduced(grey, widest);
     return GreyPicture{ small, double(small.width()) / grey.width() / pixels.divisor,
-                        double(small.height()) / grey.height() / pixels.divisor };
+                        double(small.height()) / grey.height() / pixels.divisor,
+                        whiteShare(small) };
 }
 
 FeatureSet featuresOf(const GreyPicture &picture, const FeatureOptions &options)

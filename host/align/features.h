@@ -20,6 +20,7 @@ struct GreyPicture {
     /** Its pixels per stored pixel; the upper left corners of both are the same point. */
     double xScale = 1.0;
     double yScale = 1.0;
+    double whiteShare = 0.0; ///< of its pixels: nobody knows how bright they truly were
 };
 
 /**

@@ -74,6 +74,7 @@ TiePointFinder::TiePointFinder(std::vector<ViewPhoto> photos, const TiePointOpti
     , m_store(options.mostFeatureBytes)
     , m_leftOut(m_photos.size())
     , m_featureCounts(m_photos.size(), 0)
+    , m_whiteShares(m_photos.size(), 0.0)
 {
 }
 
@@ -90,6 +91,7 @@ void TiePointFinder::readFeatures(const JobWatch &watch)
         }
         FeatureSet features = featuresOf(picture.value(), m_options.features);
         m_featureCounts[index] = features.count();
+        m_whiteShares[index] = picture.value().whiteShare;
         m_store.put(view, std::move(features));
     };
     forEachRow(count, read, m_options.jobs, Progress(watch, count, "looking for features"));
@@ -103,6 +105,11 @@ const std::optional<Failure> &TiePointFinder::leftOut(int view) const
 int TiePointFinder::featureCount(int view) const
 {
     return m_featureCounts[static_cast<size_t>(view)];
+}
+
+double TiePointFinder::whiteShare(int view) const
+{
+    return m_whiteShares[static_cast<size_t>(view)];
 }
 
 TiePoints TiePointFinder::match(const std::vector<QPair<int, int>> &pairs, const HeadModel &model,

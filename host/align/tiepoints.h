@@ -63,6 +63,8 @@ public:
     [[nodiscard]] const std::optional<Failure> &leftOut(int view) const;
     /** 0 of photos that have been left out or have no texture. */
     [[nodiscard]] int featureCount(int view) const;
+    /** Of the pixels of photo \p view, 0 to 1. */
+    [[nodiscard]] double whiteShare(int view) const;
 
     using Rules = std::function<MatchRules(const AlignLens &)>;
     enum class Afterwards {
@@ -84,6 +86,7 @@ private:
     FeatureStore m_store;
     std::vector<std::optional<Failure>> m_leftOut; // by view
     std::vector<int> m_featureCounts; // by view
+    std::vector<double> m_whiteShares; // by view
 };
 
 } // namespace PanoHost

@@ -590,8 +590,15 @@ void PtoFile::setLens(int master, const PtoLens &lens)
         { "c", lens.c },
     };
     if (lens.vignettingB) {
+        // The sRGB curve in the five terms of the camera curves that Hugin knows, 0.23 % rms off:
+        // fitted to what nona -r hdr makes of a ramp.
         values.insert(values.end(),
-                      { { "Va", 1.0 },
+                      { { "Ra", -0.118674 },
+                        { "Rb", -1.088815 },
+                        { "Rc", -0.213343 },
+                        { "Rd", -0.088742 },
+                        { "Re", -0.009997 },
+                        { "Va", 1.0 },
                         { "Vb", *lens.vignettingB },
                         { "Vc", lens.vignettingC },
                         { "Vd", lens.vignettingD },
@@ -622,6 +629,11 @@ void PtoFile::setLens(int master, const PtoLens &lens)
             }
         }
     }
+}
+
+void PtoFile::setExposure(double value)
+{
+    setVariable(m_panoramaLine, "E", ptoNumber(value, 6));
 }
 
 void PtoFile::setPoints(const QVector<PtoPoint> &points)

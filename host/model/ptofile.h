@@ -69,7 +69,8 @@ struct PtoLens {
     double a = 0.0;
     double b = 0.0;
     double c = 0.0;
-    std::optional<double> vignettingB; ///< Vb; Vc and Vd come with it
+    /** Vb; Vc and Vd come with it, and the sRGB curve, by which the light is measured. */
+    std::optional<double> vignettingB;
     double vignettingC = 0.0;
     double vignettingD = 0.0;
 };
@@ -117,6 +118,8 @@ public:
     /** For all images that share the field of view of \p master. What shifts or shears a picture is
      * set to 0. */
     void setLens(int master, const PtoLens &lens);
+    /** How bright the panorama becomes: as a photo of this exposure value. */
+    void setExposure(double value);
     /** In place of all points that are there. */
     void setPoints(const QVector<PtoPoint> &points);
     /** What the head said, one entry per image, in place of what was there. */

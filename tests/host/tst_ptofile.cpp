@@ -405,7 +405,7 @@ void PtoFileTest::lensIsSetForAllImagesOfIt()
     const QByteArray text = textOf(file);
     const QByteArray first = lineWith(text, "a.jpg");
     QVERIFY2(first.contains(" v51.5 ") && first.contains(" b-0.02 d0 Vb-0.45 "), first.constData());
-    QCOMPARE(lineWith(text, "b.jpg").left(37), QByteArray("i w60 h40 v=0 b=0 d=0 Vb=0 a0 c0 Va1 "));
+    QCOMPARE(lineWith(text, "b.jpg").left(37), QByteArray("i w60 h40 v=0 b=0 d=0 Vb=0 a0 c0 Ra-0"));
     QVERIFY(lineWith(text, "c.jpg").contains(" v61 ")
             && lineWith(text, "c.jpg").contains(" b0.25 "));
     QVERIFY(lineWith(text, "d.jpg").startsWith("i w60 h40 v=2 b=2 c0 "));

@@ -59,6 +59,7 @@ private Q_SLOTS:
     void oddNamesAreFound();
     void photosAreFoundThroughALinkedFolder();
     void alignedProjectIsUnderstood();
+    void exposuresAreEvenedOutInLight();
     void projectOfTheToolsIsRead();
 
 private:
@@ -340,6 +341,48 @@ void PtoToolsTest::alignedProjectIsUnderstood()
         QCOMPARE(theirs.path, ours.path);
     }
     QVERIFY(saved.text(m_folder->path()).value().contains(" Vb-0.25 "));
+}
+
+void PtoToolsTest::exposuresAreEvenedOutInLight()
+{
+    // All levels of grey, four pixels each; twice the light of each is wanted.
+    QImage ramp(1024, 64, QImage::Format_RGB32);
+    for (int x = 0; x < ramp.width(); ++x) {
+        for (int y = 0; y < ramp.height(); ++y) {
+            ramp.setPixel(x, y, qRgb(x / 4, x / 4, x / 4));
+        }
+    }
+    QVERIFY(ramp.save(at(QStringLiteral("ramp.png"))));
+    PtoFile file = PtoFile::parse("p f0 w1024 h64 v40 E5 n\"PNG\"\nm i0\n"
+                                  "i w1024 h64 f0 v40 Eev5 r0 p0 y0 n\"ramp.png\"\n",
+                                  m_folder->path())
+                       .value();
+    PtoLens lens;
+    lens.horizontalFovDegrees = 40.0;
+    lens.vignettingB = 0.0;
+    file.setLens(0, lens);
+    file.setExposure(4.0);
+    const QString path = at(QStringLiteral("ramp.pto"));
+    QVERIFY(writeFileAtomically(path, file.text(m_folder->path()).value()).ok());
+    const ToolRun nona = run(QStringLiteral("nona"),
+                             { QStringLiteral("-m"), QStringLiteral("PNG"), QStringLiteral("-o"),
+                               QStringLiteral("twice"), path },
+                             m_folder->path());
+    QVERIFY2(nona.exitCode == 0, qPrintable(nona.output));
+    const QImage twice(at(QStringLiteral("twice.png")));
+    QCOMPARE(twice.size(), ramp.size());
+    const auto light = [](double value) {
+        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    const auto shown = [](double value) {
+        return value <= 0.0031308 ? 12.92 * value : 1.055 * std::pow(value, 1 / 2.4) - 0.055;
+    };
+    for (int level = 10; level < 256; ++level) {
+        const double expected = 255.0 * qMin(1.0, shown(2.0 * light(level / 255.0)));
+        const int found = qRed(twice.pixel(4 * level + 2, 32));
+        QVERIFY2(std::abs(found - expected) < 2.5,
+                 qPrintable(QStringLiteral("%1: %2, %3").arg(level).arg(found).arg(expected)));
+    }
 }
 
 void PtoToolsTest::projectOfTheToolsIsRead()

@@ -8,6 +8,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 #include <QSet>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -118,6 +119,34 @@ public:
     Panorama panorama;
 };
 
+/** Each photo another exposure, of which nothing says so. */
+TestShoot tinyAutomatic(double stops)
+{
+    TestShoot shoot = tiny();
+    shoot.name = QStringLiteral("tiny-%1").arg(stops);
+    shoot.exposures.automatic = stops;
+    shoot.exposures.isTold = false;
+    return shoot;
+}
+
+double whiteShare(const QString &path)
+{
+    const QImage photo(path);
+    int white = 0;
+    for (int y = 0; y < photo.height(); ++y) {
+        for (int x = 0; x < photo.width(); ++x) {
+            white += qGray(photo.pixel(x, y)) >= 250 ? 1 : 0;
+        }
+    }
+    return white / (double(photo.width()) * photo.height());
+}
+
+double panoramaExposure(const QByteArray &project)
+{
+    static const QRegularExpression kExposure(QStringLiteral("\np .* E([-0-9.]+) "));
+    return kExposure.match(QString::fromUtf8('\n' + project)).captured(1).toDouble();
+}
+
 TestShoot tinyBrackets()
 {
     TestShoot shoot = tiny();
@@ -145,6 +174,8 @@ private Q_SLOTS:
     void hardStacksMoveAsOne();
     void detectedStacksAreTiedWithin();
     void allLevelsAreTiedWhereThePageSaysSo();
+    void whitesStayWhite_data();
+    void whitesStayWhite();
     void photosThatAreGoneStayAsRecorded();
     void photosOfAnotherSizeStayAsRecorded();
     void noPhotoAtAllIsRefused();
@@ -334,6 +365,38 @@ void TestAlignment::allLevelsAreTiedWhereThePageSaysSo()
     QVERIFY(pairsOf(aligned.project).contains({ 0, 2 }));
     QVERIFY(pairsOf(aligned.project).contains({ 1, 3 }));
     QVERIFY(!pairsOf(aligned.project).contains({ 0, 3 }));
+}
+
+void TestAlignment::whitesStayWhite_data()
+{
+    QTest::addColumn<double>("stops");
+    QTest::addColumn<bool>("isTooBright");
+    QTest::newRow("white stays white") << 0.9 << false;
+    QTest::newRow("at most a stop brighter than usual") << 1.5 << true;
+}
+
+void TestAlignment::whitesStayWhite()
+{
+    QFETCH(double, stops);
+    QFETCH(bool, isTooBright);
+    const Shoot shoot(tinyAutomatic(stops));
+    const double recorded
+        = panoramaExposure(shoot.textOf(projectOf(shoot.panorama, { QDir::tempPath() }).value()));
+    const Alignment aligned = shoot.aligned();
+    double brightest = recorded;
+    int white = 0;
+    for (int i = 0; i < 6; ++i) {
+        const double exposure = aligned.project.images().at(i).exposureValue.value();
+        if (whiteShare(shoot.photo(i)) > 0.01) {
+            ++white;
+            brightest = qMin(brightest, exposure);
+        }
+    }
+    QVERIFY2(white > 0 && white < 6, qPrintable(QString::number(white)));
+    QVERIFY(brightest < recorded - 0.1);
+    QCOMPARE(brightest < recorded - 1.0, isTooBright);
+    const double found = panoramaExposure(shoot.textOf(aligned.project));
+    QVERIFY(qAbs(found - qMax(brightest, recorded - 1.0)) < 1e-6);
 }
 
 void TestAlignment::photosThatAreGoneStayAsRecorded()

@@ -113,6 +113,7 @@ private Q_SLOTS:
     void picturesWithoutTextureHaveNoFeatures();
     void descriptorsHaveUnitLength();
     void lightIsLinear();
+    void whiteIsCounted();
     void theSamePictureGivesTheSameFeatures();
 
 private:
@@ -361,6 +362,20 @@ void TestFeatures::descriptorsHaveUnitLength()
         QVERIFY2(std::abs(std::sqrt(squares) / 512.0 - 1.0) < 0.02,
                  qPrintable(QString::number(std::sqrt(squares))));
     }
+}
+
+void TestFeatures::whiteIsCounted()
+{
+    // A quarter is white, a quarter nearly: 245 of 255.
+    QImage photo(200, 100, QImage::Format_RGB32);
+    photo.fill(qRgb(90, 90, 90));
+    QPainter painter(&photo);
+    painter.fillRect(0, 0, 100, 50, Qt::white);
+    painter.fillRect(100, 0, 100, 50, QColor(245, 245, 245));
+    painter.end();
+    const QString file = path(QStringLiteral("white.png"));
+    QVERIFY(photo.save(file));
+    QCOMPARE(readGreyPicture(file, photo.size(), 200).value().whiteShare, 0.25);
 }
 
 void TestFeatures::lightIsLinear()
