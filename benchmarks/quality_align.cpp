@@ -38,8 +38,9 @@ QString measured(const AlignRoutes::Outcome &outcome, const AlignRoutes::Taken &
     if (verdict.apart > 0.0) {
         parts << QStringLiteral("apart %1").arg(angle(verdict.apart));
     }
-    constexpr int kUsualWidth = 2048; // of a sphere at 24 mm; longer lenses see more
-    const int width = kUsualWidth * qRound(std::max(24.0, taken.shoot.camera.focal35mm) / 24.0);
+    // As many pixels a degree as in the middle of a photo: of a smaller picture the measure would
+    // be how it is reduced.
+    const int width = 2 * qRound(M_PI * taken.shoot.camera.focalPixels());
     parts << QString::number(AlignRoutes::psnrOf(outcome.project, taken, verdict.common, width),
                              'f', 1)
             + QStringLiteral(" dB");
