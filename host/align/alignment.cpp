@@ -581,7 +581,9 @@ Result<Alignment> align(const Panorama &panorama, const PtoOptions &projectOptio
     if (!project) {
         return project.error();
     }
-    return Run(std::move(project).value(), planOf(panorama), options, watch).run();
+    return Run(std::move(project).value(), planOf(panorama, projectOptions.ignoreExifRotation),
+               options, watch)
+        .run();
 }
 
 Result<Alignment> align(const PtoFile &project, const AlignOptions &options, const JobWatch &watch)

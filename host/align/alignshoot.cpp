@@ -3,7 +3,6 @@
 #include "host/align/alignshoot.h"
 
 #include "host/align/matching.h"
-#include "host/model/assumedgrid.h"
 #include "host/model/safefile.h"
 
 #include <QRegularExpression>
@@ -76,18 +75,11 @@ void sortUnique(IndexPairs &pairs)
 }
 
 /** How else the grid may have been swept. */
-void addOrders(const Panorama &panorama, AlignPlan &plan)
+void addOrders(const Panorama &panorama, bool ignoreExifRotation, AlignPlan &plan)
 {
     plan.gridOrder = gridModeName(panorama.description.gridMode);
-    const PhotoInfo &first = panorama.positions.first().photos.first();
-    QSize frame = first.storedSize;
-    if (clockwiseDegrees(first.orientation) % 180 != 0) {
-        frame.transpose();
-    }
     for (int mode = 0; mode < kGridModes; ++mode) {
-        StructuredPanoramaProperties description = panorama.description;
-        description.gridMode = mode;
-        const AssumedGrid grid = assumedGrid(description, frame, panorama.focal35mm, panorama.lens);
+        const AssumedGrid grid = gridOf(panorama, mode, ignoreExifRotation);
         if (mode == panorama.description.gridMode
             || grid.directions.size() != panorama.positions.size()) {
             continue;
@@ -143,7 +135,7 @@ RecordKind recordKindNamed(const QString &name)
     return row == kKindNames.end() ? RecordKind::Angles : row->kind;
 }
 
-AlignPlan planOf(const Panorama &panorama)
+AlignPlan planOf(const Panorama &panorama, bool ignoreExifRotation)
 {
     const StructuredPanoramaProperties &description = panorama.description;
     AlignPlan plan;
@@ -164,7 +156,7 @@ AlignPlan planOf(const Panorama &panorama)
     }
     sortUnique(plan.positionPairs);
     if (plan.kind == RecordKind::Grid) {
-        addOrders(panorama, plan);
+        addOrders(panorama, ignoreExifRotation, plan);
     }
     return plan;
 }

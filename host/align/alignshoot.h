@@ -49,7 +49,7 @@ struct AlignPlan {
     std::vector<GridOrder> otherOrders;
 };
 
-[[nodiscard]] AlignPlan planOf(const Panorama &panorama);
+[[nodiscard]] AlignPlan planOf(const Panorama &panorama, bool ignoreExifRotation = false);
 [[nodiscard]] AlignPlan planOf(const PtoFile &project);
 
 /** The images of a project as views of a head. */

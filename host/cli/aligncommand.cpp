@@ -2,11 +2,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/cli/alignline.h"
 #include "host/cli/commands.h"
-#include "host/import/inputcheck.h"
+#include "host/cli/outputs.h"
 #include "host/model/commanderror.h"
 #include "host/model/displayname.h"
 #include "host/model/panoramajson.h"
-#include "host/model/safefile.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -43,19 +42,7 @@ CommandLine alignLine()
         } + alignOptionRows());
 }
 
-struct Files {
-    QString input;
-    QString project;
-    QString report; ///< empty: none
-    bool reportToStdout = false;
-};
-
-QString absolute(const QString &path)
-{
-    return QDir::cleanPath(QDir().absoluteFilePath(path));
-}
-
-Files filesFrom(const CommandLine &line)
+QString inputFrom(const CommandLine &line)
 {
     const QStringList words = line.positional();
     if (words.size() != 1) {
@@ -63,36 +50,20 @@ Files filesFrom(const CommandLine &line)
             QStringLiteral("align takes one file, %1 given").arg(words.size()),
             QStringLiteral("name what 'panohost import' wrote: NAME.json or NAME.pto"));
     }
-    Files files;
-    files.input = absolute(words.first());
-    const QFileInfo input(files.input);
-    const QString output = line.value(QStringLiteral("output"));
-    files.project = output.isEmpty()
-        ? input.absoluteDir().filePath(input.completeBaseName() + QStringLiteral("_aligned.pto"))
-        : absolute(output);
-    const QString report = line.value(QStringLiteral("json"));
-    files.reportToStdout = report == QLatin1String("-");
-    if (!report.isEmpty() && !files.reportToStdout) {
-        files.report = absolute(report);
-    }
-    if (files.report == files.project) {
-        throw usageError(QStringLiteral("-o and --json name the same file"),
-                         QStringLiteral("give each a name of its own"));
-    }
-    return files;
+    return absolutePath(words.first());
 }
 
-Alignment alignFile(Session &session, const Files &files, const CommandLine &line)
+Alignment alignFile(Session &session, const QString &input, const CommandLine &line)
 {
     const AlignOptions options = alignOptions(line);
     const JobWatch watch = session.watch();
-    if (files.input.endsWith(QLatin1String(".pto"), Qt::CaseInsensitive)) {
-        return valueOrThrow(align(valueOrThrow(PtoFile::read(files.input)), options, watch));
+    if (input.endsWith(QLatin1String(".pto"), Qt::CaseInsensitive)) {
+        return valueOrThrow(align(valueOrThrow(PtoFile::read(input)), options, watch));
     }
     PtoOptions projectOptions;
     projectOptions.ignoreExifRotation = line.isSet(QStringLiteral("ignore-exif-rotation"));
     return valueOrThrow(
-        align(valueOrThrow(readPanoramaJson(files.input)), projectOptions, options, watch));
+        align(valueOrThrow(readPanoramaJson(input)), projectOptions, options, watch));
 }
 
 } // namespace
@@ -104,26 +75,19 @@ ExitCode runAlign(Session &session, const QStringList &arguments)
         return ExitCode::Done;
     }
     applyCommonOptions(session, line);
-    const Files files = filesFrom(line);
-    for (const QString &path : { files.project, files.report }) {
-        if (!path.isEmpty()) {
-            requireWritable(path, { files.input });
-        }
-    }
-    const Alignment aligned = alignFile(session, files, line);
+    const QString input = inputFrom(line);
+    const QFileInfo file(input);
+    const Outputs outputs = outputsFrom(
+        line,
+        file.absoluteDir().filePath(file.completeBaseName() + QStringLiteral("_aligned.pto")));
+    requireWritable(outputs, { input });
+    const Alignment aligned = alignFile(session, input, line);
     Interrupt::check();
-    const QString folder = QFileInfo(files.project).absolutePath();
-    (void)valueOrThrow(
-        writeFileAtomically(files.project, valueOrThrow(aligned.project.text(folder))));
-    if (!files.report.isEmpty()) {
-        (void)valueOrThrow(writeFileAtomically(
-            files.report, alignmentToJson(aligned.report, QFileInfo(files.report).absolutePath())));
-    }
-    if (files.reportToStdout) {
-        printOut(QString::fromUtf8(alignmentToJson(aligned.report, QDir::currentPath())));
-    }
+    writeProject(aligned.project, outputs.project);
+    writeJson(outputs,
+              [&](const QString &folder) { return alignmentToJson(aligned.report, folder); });
     tell(session, aligned.report);
-    session.console.info(QStringLiteral("written: %1").arg(displayName(files.project)));
+    session.console.info(QStringLiteral("written: %1").arg(displayName(outputs.project)));
     return ExitCode::Done;
 }
 

@@ -2,17 +2,13 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/cli/alignline.h"
 #include "host/cli/commands.h"
+#include "host/cli/outputs.h"
 #include "host/cli/requestline.h"
 #include "host/import/importjob.h"
-#include "host/import/inputcheck.h"
 #include "host/model/commanderror.h"
 #include "host/model/displayname.h"
 #include "host/model/panoramajson.h"
 #include "host/model/ptoproject.h"
-#include "host/model/safefile.h"
-
-#include <QDir>
-#include <QFileInfo>
 
 namespace PanoHost
 {
@@ -47,47 +43,18 @@ CommandLine importLine()
         } + alignOptionRows());
 }
 
-struct Outputs {
-    QString project; ///< empty: none
-    QString json; ///< empty: none
-    bool jsonToStdout = false;
-};
-
-Outputs outputsFrom(const CommandLine &line)
+Outputs wantedOutputs(const CommandLine &line)
 {
-    Outputs outputs;
-    const QString project = line.value(QStringLiteral("output"));
-    const QString json = line.value(QStringLiteral("json"));
-    if (project.isEmpty() && json.isEmpty()) {
+    const Outputs outputs = outputsFrom(line);
+    if (outputs.project.isEmpty() && outputs.json.isEmpty() && !outputs.jsonToStdout) {
         throw usageError(QStringLiteral("no result asked for"),
                          QStringLiteral("add -o NAME.pto or --json FILE"));
     }
-    if (line.isSet(QStringLiteral("align")) && project.isEmpty()) {
+    if (line.isSet(QStringLiteral("align")) && outputs.project.isEmpty()) {
         throw usageError(QStringLiteral("--align makes a project, and none is asked for"),
                          QStringLiteral("add -o NAME.pto"));
     }
-    outputs.jsonToStdout = json == QLatin1String("-");
-    if (!project.isEmpty()) {
-        outputs.project = QDir::cleanPath(QDir().absoluteFilePath(project));
-    }
-    if (!json.isEmpty() && !outputs.jsonToStdout) {
-        outputs.json = QDir::cleanPath(QDir().absoluteFilePath(json));
-    }
-    if (!outputs.json.isEmpty() && outputs.json == outputs.project) {
-        throw usageError(QStringLiteral("-o and --json name the same file"),
-                         QStringLiteral("give each a name of its own"));
-    }
     return outputs;
-}
-
-void requireWritableOutputs(const Outputs &outputs, const ImportRequest &request)
-{
-    const QStringList inputs = QStringList(request.record) + request.photos;
-    for (const QString &path : { outputs.project, outputs.json }) {
-        if (!path.isEmpty()) {
-            requireWritable(path, inputs);
-        }
-    }
 }
 
 PtoOptions projectOptions(const ImportRequest &request)
@@ -101,14 +68,13 @@ void writeAligned(Session &session, Panorama &panorama, const QString &path,
                   const PtoOptions &options, const AlignOptions &alignOptions)
 {
     const Alignment aligned = valueOrThrow(align(panorama, options, alignOptions, session.watch()));
-    const QString folder = QFileInfo(path).absolutePath();
-    (void)valueOrThrow(writeFileAtomically(path, valueOrThrow(aligned.project.text(folder))));
+    writeProject(aligned.project, path);
     panorama.project = ProjectReference{ path, aligned.project.yawCentreDegrees() };
     tell(session, aligned.report);
 }
 
-void writeProject(Session &session, Panorama &panorama, const QString &path,
-                  const PtoOptions &options)
+void writeImported(Session &session, Panorama &panorama, const QString &path,
+                   const PtoOptions &options)
 {
     const PtoProject project = valueOrThrow(writePtoProject(panorama, path, options));
     panorama.project = ProjectReference{ path, project.yawCentreDegrees };
@@ -128,8 +94,8 @@ ExitCode runImport(Session &session, const QStringList &arguments)
     }
     applyCommonOptions(session, line);
     const ImportRequest request = importRequest(session, line);
-    const Outputs outputs = outputsFrom(line);
-    requireWritableOutputs(outputs, request);
+    const Outputs outputs = wantedOutputs(line);
+    requireWritable(outputs, QStringList(request.record) + request.photos);
 
     Panorama panorama = valueOrThrow(importShoot(session.app, request, session.watch()));
     Interrupt::check();
@@ -137,14 +103,9 @@ ExitCode runImport(Session &session, const QStringList &arguments)
     if (line.isSet(QStringLiteral("align"))) {
         writeAligned(session, panorama, outputs.project, options, alignOptions(line));
     } else if (!outputs.project.isEmpty()) {
-        writeProject(session, panorama, outputs.project, options);
+        writeImported(session, panorama, outputs.project, options);
     }
-    if (!outputs.json.isEmpty()) {
-        (void)valueOrThrow(writePanoramaJson(panorama, outputs.json));
-    }
-    if (outputs.jsonToStdout) {
-        printOut(QString::fromUtf8(panoramaToJson(panorama, QDir::currentPath())));
-    }
+    writeJson(outputs, [&](const QString &folder) { return panoramaToJson(panorama, folder); });
     session.console.info(QStringLiteral("%1%2, %3, %4")
                              .arg(outputs.project.isEmpty()
                                       ? QString()

@@ -110,10 +110,7 @@ QSize uprightSize(const PhotoInfo &photo)
 
 void takeGrid(Panorama &panorama, bool asStored)
 {
-    const PhotoInfo &first = panorama.positions.first().photos.first();
-    const AssumedGrid grid
-        = assumedGrid(panorama.description, asStored ? first.storedSize : uprightSize(first),
-                      panorama.focal35mm, panorama.lens);
+    const AssumedGrid grid = gridOf(panorama, panorama.description.gridMode, asStored);
     for (int i = 0; i < grid.directions.size() && i < panorama.positions.size(); ++i) {
         panorama.positions[i].yawDegrees = grid.directions[i].yawDegrees;
         panorama.positions[i].pitchDegrees = grid.directions[i].pitchDegrees;
@@ -174,6 +171,15 @@ Result<Panorama> joinPanorama(const StructuredPanoramaProperties &description,
         takeGrid(panorama, wishes.ignoreExifRotation);
     }
     return panorama;
+}
+
+AssumedGrid gridOf(const Panorama &panorama, int gridMode, bool ignoreExifRotation)
+{
+    StructuredPanoramaProperties description = panorama.description;
+    description.gridMode = gridMode;
+    const PhotoInfo &first = panorama.positions.first().photos.first();
+    return assumedGrid(description, ignoreExifRotation ? first.storedSize : uprightSize(first),
+                       panorama.focal35mm, panorama.lens);
 }
 
 double horizontalFovDegrees(const QSize &size, double focal35mm, LensModel lens)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "host/model/assumedgrid.h"
 #include "host/model/photofile.h"
 #include "host/model/result.h"
 #include "model/structuredpanoramaproperties.h"
@@ -73,12 +74,16 @@ using PhotoLookup = std::function<Result<PhotoInfo>(const QString &path)>;
  *
  * Angles are one per shot, groups one per position: a position takes the entry of its first photo
  * (entry i * N for stacks of N photos), or entry i where the record has one entry per position.
- * Descriptions without known positions (grids) get the start layout of `gridLayout`.
+ * Descriptions without known positions (grids) get the start layout of `gridOf`.
  * Refuses: no photos, unreadable photos, fewer angles than positions, angles that are no numbers.
  */
 [[nodiscard]] Result<Panorama> joinPanorama(const StructuredPanoramaProperties &description,
                                             const SourceInfo &source, const PhotoLookup &lookup,
                                             const JoinWishes &wishes = {});
+
+/** Where a grid swept by \p gridMode would put the positions of \p panorama; its frames are as
+ * stored where photos' own rotation is ignored. */
+[[nodiscard]] AssumedGrid gridOf(const Panorama &panorama, int gridMode, bool ignoreExifRotation);
 
 /**
  * The horizontal field of view in degrees of \p size pixels, for a focal length given as 35 mm
