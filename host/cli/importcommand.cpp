@@ -45,7 +45,7 @@ CommandLine importLine()
 
 Outputs wantedOutputs(const CommandLine &line)
 {
-    const Outputs outputs = outputsFrom(line);
+    Outputs outputs = outputsFrom(line);
     if (outputs.project.isEmpty() && outputs.json.isEmpty() && !outputs.jsonToStdout) {
         throw usageError(QStringLiteral("no result asked for"),
                          QStringLiteral("add -o NAME.pto or --json FILE"));
