@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QTextStream>
 
+#include <cmath>
 #include <cstdio>
 
 using namespace PanoHost;

@@ -47,7 +47,7 @@ void alter(PtoFile &file)
             PtoLens lens;
             lens.horizontalFovDegrees = 10.0 + i % 100;
             lens.b = -0.02;
-            lens.vignettingB = -0.5;
+            lens.vignetting = Vignetting{ -0.5 };
             file.setLens(i, lens);
         }
     }

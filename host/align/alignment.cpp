@@ -407,12 +407,7 @@ void Run::writePlaces()
                 image,
                 { horizontalFovDegrees(lens.size, focal35mmOf(lens.size, lens.focalPixels),
                                        lens.model),
-                  lens.a,
-                  lens.b,
-                  lens.c,
-                  {},
-                  0.0,
-                  0.0 });
+                  lens.a, lens.b, lens.c });
         }
     }
     if (m_project.isOurs()) {
@@ -456,12 +451,10 @@ void Run::writeLight()
             i,
             { image.angles, image.exposureValue.value_or(usual) + m_report.exposureShifts[view] });
         if (image.lensMaster < 0) {
-            const Vignetting &vignetting
-                = light
-                      .vignetting[static_cast<size_t>(model.views[static_cast<size_t>(view)].lens)];
+            const int lens = model.views[static_cast<size_t>(view)].lens;
             m_project.setLens(i,
-                              { image.horizontalFovDegrees, image.a, image.b, image.c, vignetting.b,
-                                vignetting.c, vignetting.d });
+                              { image.horizontalFovDegrees, image.a, image.b, image.c,
+                                light.vignetting[static_cast<size_t>(lens)] });
         }
     }
     const Vignetting &first = light.vignetting.front();
@@ -486,8 +479,16 @@ void Run::keepWhites(double usualExposure)
             exposure = std::min(exposure, image.exposureValue.value_or(usualExposure));
         }
     }
-    if (exposure < usualExposure) {
-        m_project.setExposure(std::max(exposure, usualExposure - kMostStops));
+    const double stops = std::min(usualExposure - exposure, kMostStops);
+    if (stops > 0.0) {
+        m_project.setExposure(usualExposure - stops);
+    }
+    constexpr double kVisibleStops = 0.2;
+    if (stops >= kVisibleStops) {
+        note(
+            QStringLiteral("the panorama is made %1 stops brighter: what is white in a photo stays "
+                           "white")
+                .arg(stops, 0, 'f', 1));
     }
 }
 

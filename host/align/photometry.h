@@ -4,6 +4,7 @@
 
 #include "host/align/headmodel.h"
 #include "host/model/jobwatch.h"
+#include "host/model/vignetting.h"
 
 #include <vector>
 
@@ -15,14 +16,6 @@ struct LightPoint {
     TiePoint point;
     double lightInFirst = 0.0; ///< linear, 0: black, 1: white
     double lightInSecond = 0.0;
-};
-
-/** How much light of the middle arrives at r halves of the photo's diagonal: 1 + b r^2 + c r^4 + d
- * r^6. */
-struct Vignetting {
-    double b = 0.0;
-    double c = 0.0;
-    double d = 0.0;
 };
 
 struct PhotometryOptions {

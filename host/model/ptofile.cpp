@@ -589,7 +589,7 @@ void PtoFile::setLens(int master, const PtoLens &lens)
         { "b", lens.b },
         { "c", lens.c },
     };
-    if (lens.vignettingB) {
+    if (lens.vignetting) {
         // The sRGB curve in the five terms of the camera curves that Hugin knows, 0.23 % rms off:
         // fitted to what nona -r hdr makes of a ramp.
         values.insert(values.end(),
@@ -599,9 +599,9 @@ void PtoFile::setLens(int master, const PtoLens &lens)
                         { "Rd", -0.088742 },
                         { "Re", -0.009997 },
                         { "Va", 1.0 },
-                        { "Vb", *lens.vignettingB },
-                        { "Vc", lens.vignettingC },
-                        { "Vd", lens.vignettingD },
+                        { "Vb", lens.vignetting->b },
+                        { "Vc", lens.vignetting->c },
+                        { "Vd", lens.vignetting->d },
                         { "Vx", 0.0 },
                         { "Vy", 0.0 } });
     }

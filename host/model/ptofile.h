@@ -4,6 +4,7 @@
 
 #include "host/model/angles.h"
 #include "host/model/result.h"
+#include "host/model/vignetting.h"
 #include "model/lensmodel.h"
 
 #include <QByteArray>
@@ -69,10 +70,8 @@ struct PtoLens {
     double a = 0.0;
     double b = 0.0;
     double c = 0.0;
-    /** Vb; Vc and Vd come with it, and the sRGB curve, by which the light is measured. */
-    std::optional<double> vignettingB;
-    double vignettingC = 0.0;
-    double vignettingD = 0.0;
+    /** With it comes the sRGB curve, by which the light is measured. */
+    std::optional<Vignetting> vignetting = {};
 };
 
 /**

@@ -94,11 +94,11 @@ void PtoFileEditsTest::lensIsSetForAllImagesOfIt()
     PtoLens lens;
     lens.horizontalFovDegrees = 51.5;
     lens.b = -0.02;
-    lens.vignettingB = -0.45;
+    lens.vignetting = Vignetting{ -0.45 };
     file.setLens(0, lens);
     lens.horizontalFovDegrees = 61.0;
     lens.b = 0.25;
-    lens.vignettingB.reset();
+    lens.vignetting.reset();
     file.setLens(2, lens);
     const QByteArray text = textOf(file);
     const QByteArray first = lineWith(text, "a.jpg");

@@ -292,7 +292,7 @@ void PtoToolsTest::alignedProjectIsUnderstood()
     PtoFile file = projectOf(panorama, options).value();
     PtoLens lens;
     lens.horizontalFovDegrees = 80.0;
-    lens.vignettingB = -0.25;
+    lens.vignetting = Vignetting{ -0.25 };
     file.setLens(0, lens);
     // Every other photo stands on its head: were the first pixel's middle elsewhere, points would
     // not meet.
@@ -359,7 +359,7 @@ void PtoToolsTest::exposuresAreEvenedOutInLight()
                        .value();
     PtoLens lens;
     lens.horizontalFovDegrees = 40.0;
-    lens.vignettingB = 0.0;
+    lens.vignetting = Vignetting();
     file.setLens(0, lens);
     file.setExposure(4.0);
     const QString path = at(QStringLiteral("ramp.pto"));

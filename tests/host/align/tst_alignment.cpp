@@ -397,6 +397,11 @@ void TestAlignment::whitesStayWhite()
     QCOMPARE(brightest < recorded - 1.0, isTooBright);
     const double found = panoramaExposure(shoot.textOf(aligned.project));
     QVERIFY(qAbs(found - qMax(brightest, recorded - 1.0)) < 1e-6);
+    const QString told
+        = QStringLiteral("the panorama is made %1 stops brighter: what is white in a "
+                         "photo stays white")
+              .arg(recorded - found, 0, 'f', 1);
+    QVERIFY2(aligned.report.notes.contains(told), qPrintable(told));
 }
 
 void TestAlignment::photosThatAreGoneStayAsRecorded()
