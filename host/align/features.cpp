@@ -217,6 +217,17 @@ Result<GreyPicture> readGreyPicture(const QString &path, const QSize &storedSize
                         whiteShare(small) };
 }
 
+double sharpnessOf(const GreyPicture &picture)
+{
+    useOneThread();
+    cv::Mat differences;
+    cv::Laplacian(matrixOf(picture.picture), differences, CV_32F);
+    cv::Scalar mean;
+    cv::Scalar deviation;
+    cv::meanStdDev(differences, mean, deviation);
+    return deviation[0] * deviation[0];
+}
+
 FeatureSet featuresOf(const GreyPicture &picture, const FeatureOptions &options)
 {
     if (std::min(picture.picture.width(), picture.picture.height()) < kLeastSide) {

@@ -58,4 +58,8 @@ struct FeatureOptions {
  */
 [[nodiscard]] FeatureSet featuresOf(const GreyPicture &picture, const FeatureOptions &options = {});
 
+/** How much neighbouring pixels differ, mean square of the second differences: the more, the
+ * sharper the picture is, compared with others of the same view. */
+[[nodiscard]] double sharpnessOf(const GreyPicture &picture);
+
 } // namespace PanoHost
