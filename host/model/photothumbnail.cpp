@@ -268,8 +268,9 @@ QImage embedded(const Exiv2::Image *exiv, const PhotoInfo &info, Accept accept)
     }
 }
 
-/** Stands for a photo whose picture is too large, or of a kind that cannot be decoded here. */
-QImage placeholder(const PhotoInfo &info)
+} // namespace
+
+QImage greyThumbnail(const PhotoInfo &info)
 {
     QSize size = info.storedSize;
     if (clockwiseDegrees(info.orientation) % 180 != 0) {
@@ -279,8 +280,6 @@ QImage placeholder(const PhotoInfo &info)
     picture.fill(Qt::gray);
     return picture;
 }
-
-} // namespace
 
 QImage photoThumbnail(QIODevice &device, const Exiv2::Image *exiv, const PhotoInfo &info,
                       bool pictureIsPhoto)
@@ -299,7 +298,7 @@ QImage photoThumbnail(QIODevice &device, const Exiv2::Image *exiv, const PhotoIn
         return scaledPicture(reader);
     }
     const QImage any = embedded(exiv, info, Accept::Any);
-    return any.isNull() ? placeholder(info) : any;
+    return any.isNull() ? greyThumbnail(info) : any;
 }
 
 } // namespace PanoHost

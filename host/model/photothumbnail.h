@@ -26,10 +26,13 @@ constexpr int kThumbnailSide = 256;
  * or show another picture are passed over. \p exiv is null when exiv2 does not know the file.
  *
  * \p pictureIsPhoto says that an image reader finds the photo itself in \p device; null when it is
- * unreadable. For other photos, and for those too large to decode, any preview will do; a grey
- * picture stands for those that have none.
+ * unreadable. For other photos, and for those too large to decode, any preview will do;
+ * `greyThumbnail` stands for those that have none.
  */
 [[nodiscard]] QImage photoThumbnail(QIODevice &device, const Exiv2::Image *exiv,
                                     const PhotoInfo &info, bool pictureIsPhoto);
+
+/** Stands for the photo \p info where there is no picture: as large as its thumbnail would be. */
+[[nodiscard]] QImage greyThumbnail(const PhotoInfo &info);
 
 } // namespace PanoHost

@@ -97,7 +97,7 @@ void PanoHostApplication::LoadTranslation(const QString &fileName)
 XIImageDef *PanoHostApplication::CreateImageDef(const QString &fileName)
 {
     const QString path = truePath(fileName);
-    const PhotoReader::Answer answer = m_photos.read(path);
+    const PhotoReader::Answer answer = readPhoto(path);
     if (!answer) {
         rememberUnreadable(path, answer.error().why);
         Q_EMIT photoRead(path, false);
@@ -111,6 +111,18 @@ XIImageDef *PanoHostApplication::CreateImageDef(const QString &fileName)
     }
     Q_EMIT photoRead(path, true);
     return made;
+}
+
+PhotoReader::Answer PanoHostApplication::readPhoto(const QString &path)
+{
+    {
+        const QMutexLocker locker(&m_photoMutex);
+        const auto standIn = m_standIns.constFind(path);
+        if (standIn != m_standIns.cend()) {
+            return *standIn;
+        }
+    }
+    return m_photos.read(path);
 }
 
 void PanoHostApplication::ImportStructuredPanorama(StructuredPanoramaProperties spp)
@@ -155,10 +167,18 @@ void PanoHostApplication::addPathAlias(const QString &alias, const QString &true
     m_aliases.insert(alias, truePath);
 }
 
+void PanoHostApplication::addStandIn(const PhotoReading &photo)
+{
+    const auto data = std::make_shared<const PhotoData>(m_thumbnails, photo);
+    const QMutexLocker locker(&m_photoMutex);
+    m_standIns.insert(photo.info.path, data);
+}
+
 void PanoHostApplication::clearPathAliases()
 {
     const QMutexLocker locker(&m_photoMutex);
     m_aliases.clear();
+    m_standIns.clear();
 }
 
 QString PanoHostApplication::truePath(const QString &path) const

@@ -80,6 +80,9 @@ public:
      * images are read from and what the delivered description names.
      */
     void addPathAlias(const QString &alias, const QString &truePath);
+    /** Photos named like \p photo have what it says, and no file that is read. */
+    void addStandIn(const PhotoReading &photo);
+    /** Of the stand-ins too. */
     void clearPathAliases();
     /** The true path of an alias; any other \p path as it is. Any thread. */
     [[nodiscard]] QString truePath(const QString &path) const;
@@ -114,6 +117,7 @@ Q_SIGNALS:
 
 private:
     void shareThumbnails();
+    [[nodiscard]] PhotoReader::Answer readPhoto(const QString &path);
     void rememberUnreadable(const QString &path, const QString &why);
 
     std::unique_ptr<QSettings> m_settings;
@@ -128,6 +132,7 @@ private:
     PhotoReader m_photos{ m_thumbnails };
     mutable QMutex m_photoMutex; ///< guards what follows
     QHash<QString, QString> m_aliases;
+    QHash<QString, std::shared_ptr<const PhotoData>> m_standIns; ///< by path
     QVector<UnreadablePhoto> m_unreadable;
     QSet<QString> m_unreadablePaths; ///< those of `m_unreadable`
     std::vector<std::unique_ptr<HostImage>> m_images;

@@ -44,6 +44,7 @@ private Q_SLOTS:
     void progressIsSignalled();
     void deliveryIsKeptAndSignalled();
     void aliasesAreUndoneInTheDelivery();
+    void standInAnswersWithoutAFile();
     void imagesGoWithTheLibrary();
 
 private:
@@ -286,6 +287,36 @@ void PanoHostApplicationTest::aliasesAreUndoneInTheDelivery()
              (QVector<QStringList>{ { path, QStringLiteral("/other.jpg") } }));
     app().clearPathAliases();
     QVERIFY(!app().CreateImageDef(alias));
+}
+
+void PanoHostApplicationTest::standInAnswersWithoutAFile()
+{
+    PhotoReading standIn;
+    standIn.info.path = QStringLiteral("/no/such/0007");
+    standIn.info.storedSize = QSize(600, 400);
+    standIn.info.orientation = 6; // to be seen upright, it is turned by a quarter
+    standIn.info.focal35mm = 28.0;
+    standIn.info.lens = LensModel::Fisheye;
+    standIn.info.exposureValue = 11.5;
+    standIn.info.timeMs = 1714557607000;
+    standIn.thumbnail = greyThumbnail(standIn.info);
+    app().addStandIn(standIn);
+    QSignalSpy read(&app(), &PanoHostApplication::photoRead);
+    XIImageDef *const image = app().CreateImageDef(standIn.info.path);
+    QVERIFY(image);
+    QCOMPARE(image->FocalLength(), 28.0F);
+    QCOMPARE(image->LensType(), 1);
+    QCOMPARE(image->Exposure(), 11.5F);
+    QCOMPARE(image->ShotTime(), 1714557607000L);
+    // 400 x 600 pixels, of which the longer side becomes 256: 400 * 256 / 600 = 170.7.
+    QVERIFY(image->Thumbnail());
+    QCOMPARE(image->Thumbnail()->size(), QSize(171, 256));
+    QCOMPARE(image->Thumbnail()->toImage().pixelColor(85, 128), QColor(Qt::gray));
+    QCOMPARE(read.count(), 1);
+    QCOMPARE(read[0][1].toBool(), true);
+    QVERIFY(app().unreadablePhotos().isEmpty());
+    app().clearPathAliases();
+    QVERIFY(!app().CreateImageDef(standIn.info.path));
 }
 
 void PanoHostApplicationTest::imagesGoWithTheLibrary()
