@@ -33,6 +33,14 @@ QString safeEnding(const QString &photo)
     return QLatin1Char('.') + suffix;
 }
 
+/** Makes \p link point to \p photo, or an empty file where there is none. */
+QString makeLink(const QString &link, const QString &photo)
+{
+    QFile target(photo.isEmpty() ? link : photo);
+    const bool made = photo.isEmpty() ? target.open(QIODevice::WriteOnly) : target.link(link);
+    return made ? QString() : target.errorString();
+}
+
 } // namespace
 
 bool PhotoAliases::areNeeded(const QStringList &photos)
@@ -59,12 +67,14 @@ QStringList PhotoAliases::create(const QStringList &photos, QString *error)
         const QString number
             = QString::number(links.size() + 1).rightJustified(digits, QLatin1Char('0'));
         const QString link = m_folder->filePath(number + safeEnding(photo));
-        QFile target(photo);
-        if (!target.link(link)) {
-            *error = QStringLiteral("%1: %2").arg(m_folder->path(), target.errorString());
+        const QString trouble = makeLink(link, photo);
+        if (!trouble.isEmpty()) {
+            *error = QStringLiteral("%1: %2").arg(m_folder->path(), trouble);
             return {};
         }
-        m_truePaths.insert(link, photo);
+        if (!photo.isEmpty()) {
+            m_truePaths.insert(link, photo);
+        }
         links += link;
     }
     return links;

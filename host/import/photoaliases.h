@@ -27,12 +27,12 @@ public:
     [[nodiscard]] static bool areNeeded(const QStringList &photos);
 
     /**
-     * Makes one link per photo, in order.
+     * Makes one link per photo, in order; an empty file for each empty name.
      * \return the paths of the links; empty, with \p error set, when a link could not be made.
      */
     [[nodiscard]] QStringList create(const QStringList &photos, QString *error);
 
-    /** Link to photo; empty when no links were made. */
+    /** Link to photo; without the empty files, and empty when no links were made. */
     [[nodiscard]] const QHash<QString, QString> &truePaths() const { return m_truePaths; }
 
 private:
