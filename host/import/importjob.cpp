@@ -18,6 +18,9 @@ ImportJob::ImportJob(PanoHostApplication &app, ImportRequest request, JobWatch w
     , m_request(std::move(request))
     , m_watch(std::move(watch))
 {
+    if (m_request.head->isGrid()) {
+        m_request.fit.reset();
+    }
     m_app.photos().setReadsPictures(m_request.wantsLayout);
 }
 
@@ -41,9 +44,9 @@ void ImportJob::openRecord()
 
 void ImportJob::findPhotos()
 {
-    requirePhotoFiles(m_request.photos);
-    m_photos = m_request.photos;
-    if (m_request.order == PhotoOrder::ByName) {
+    m_photos = m_request.fit ? photosOf(*m_request.fit) : m_request.photos;
+    requirePhotoFiles(m_photos);
+    if (!m_request.fit && m_request.order == PhotoOrder::ByName) {
         m_photos.sort(Qt::CaseSensitive);
     }
     m_app.photos().readAhead(m_photos);
@@ -51,7 +54,7 @@ void ImportJob::findPhotos()
 
 void ImportJob::orderPhotos()
 {
-    if (m_request.order == PhotoOrder::ByTime) {
+    if (!m_request.fit && m_request.order == PhotoOrder::ByTime) {
         m_photos = orderedByTime(m_app, m_photos, m_watch);
     }
 }
@@ -60,8 +63,13 @@ void ImportJob::checkCounts() const
 {
     if (m_request.head->isGrid()) {
         requireFullGrid(*m_request.grid, m_request.photos.size());
+    } else if (m_request.fit && photosOf(*m_request.fit).isEmpty()) {
+        throw inputRefused(displayName(m_request.record),
+                           QStringLiteral("none of its shots has a photo"),
+                           QStringLiteral("are these the photos of this shoot?"));
     } else {
-        requireMatchingCounts(displayName(m_request.record), m_record, m_request.photos.size());
+        requireMatchingCounts(displayName(m_request.record), m_record,
+                              m_request.fit ? m_request.fit->size() : m_request.photos.size());
     }
 }
 
@@ -82,6 +90,10 @@ void ImportJob::preparePage()
         m_page->enterRecord(m_request.record);
     }
     m_page->choosePhotos(namesForPage());
+    if (!m_standIns.isEmpty()) {
+        // The page has remembered the place of the first one, which may be a stand-in's.
+        m_app.SetLastPath(m_photos.first());
+    }
     chooseLensFor(photoInfos());
     if (m_request.grid) {
         enterGrid(*m_page, *m_request.grid);
@@ -108,19 +120,44 @@ const ImportPlugin &ImportJob::openPlugin()
 
 QStringList ImportJob::namesForPage()
 {
-    if (!PhotoAliases::areNeeded(m_photos)) {
-        return m_photos;
+    QStringList photos = m_photos;
+    if (m_request.fit) {
+        photos.clear();
+        for (const FittedShot &shot : *m_request.fit) {
+            photos += shot.photo;
+        }
+    } else if (!PhotoAliases::areNeeded(photos)) {
+        return photos;
     }
     QString error;
-    QStringList links = m_aliases.create(m_photos, &error);
+    QStringList links = m_aliases.create(photos, &error);
     if (links.isEmpty()) {
         throw CommandError({ ExitCode::ToolFailed, QStringLiteral("temporary links to the photos"),
                              error, QStringLiteral("is the temporary folder full? set TMPDIR") });
     }
-    for (const QString &link : links) {
-        m_app.addPathAlias(link, m_aliases.truePaths().value(link));
+    const QHash<QString, QString> &truePaths = m_aliases.truePaths();
+    for (auto link = truePaths.begin(); link != truePaths.end(); ++link) {
+        m_app.addPathAlias(link.key(), link.value());
+    }
+    if (m_request.fit) {
+        addStandIns(links);
     }
     return links;
+}
+
+void ImportJob::addStandIns(const QStringList &names)
+{
+    const QVector<PhotoInfo> photos
+        = withStandIns(*m_request.fit, photoInfos(), m_record.bracketCount);
+    for (int i = 0; i < names.size(); ++i) {
+        PhotoInfo photo = photos.at(i);
+        if (!photo.path.isEmpty()) {
+            continue;
+        }
+        photo.path = names.at(i);
+        m_standIns += photo.path;
+        m_app.addStandIn({ photo, m_request.wantsLayout ? greyThumbnail(photo) : QImage() });
+    }
 }
 
 QVector<PhotoInfo> ImportJob::photoInfos() const
@@ -128,6 +165,7 @@ QVector<PhotoInfo> ImportJob::photoInfos() const
     QVector<PhotoInfo> infos;
     infos.reserve(m_photos.size());
     for (const QString &photo : m_photos) {
+        m_watch.check();
         infos += valueOrThrow(m_app.photoInfo(photo));
     }
     return infos;
@@ -176,7 +214,11 @@ QPixmap ImportJob::layout()
 
 Panorama ImportJob::handOver()
 {
-    const StructuredPanoramaProperties description = m_page->handOver();
+    StructuredPanoramaProperties description = m_page->handOver();
+    if (m_request.fit) {
+        m_warnings += missingShotWarnings(*m_request.fit, description, m_record.bracketCount);
+        description = withoutStandIns(std::move(description), m_standIns);
+    }
     Panorama panorama = valueOrThrow(joinPanorama(
         description, m_source, [this](const QString &path) { return m_app.photoInfo(path); },
         m_wishes));

@@ -51,6 +51,8 @@ public:
 private:
     [[nodiscard]] const ImportPlugin &openPlugin();
     [[nodiscard]] QStringList namesForPage();
+    /** The application answers for shots without a photo, under the names that the page gets. */
+    void addStandIns(const QStringList &names);
     void chooseLensFor(const QVector<PhotoInfo> &photos);
     [[nodiscard]] QVector<PhotoInfo> photoInfos() const;
     void turnCamera();
@@ -62,6 +64,7 @@ private:
     RecordSummary m_record;
     QStringList m_photos;
     PhotoAliases m_aliases;
+    QSet<QString> m_standIns; ///< names on the page
     QStringList m_warnings;
     JoinWishes m_wishes;
     /// Dialogs list the folder where they begin, in the last one thousands of files may lie.

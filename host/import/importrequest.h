@@ -4,6 +4,7 @@
 
 #include "host/import/gridchoice.h"
 #include "host/import/heads.h"
+#include "host/import/shotfit.h"
 #include "host/model/delivery.h"
 #include "host/model/panorama.h"
 
@@ -42,6 +43,9 @@ struct ImportRequest {
     QString record; ///< absolute path; empty for heads without one
     QStringList photos; ///< absolute paths, in the order given
     PhotoOrder order = PhotoOrder::ByName;
+    /** Which photo belongs to which shot of the record: `photos` and `order` do not count then.
+     * For heads with a record only. */
+    std::optional<ShotFit> fit;
     ValueSource focalSource = ValueSource::Default;
     double focal35mm = 0.0; ///< when given
     ValueSource lensSource = ValueSource::Default;
