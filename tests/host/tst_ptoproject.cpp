@@ -76,6 +76,7 @@ private Q_SLOTS:
     void orientationGoesIntoTheRoll();
     void fisheyeIsAnEquidistantLens();
     void hardLinkedStackFollowsItsFirstPhoto();
+    void stackWithoutItsFirstPhotoFollowsTheNext();
     void detectedStackHasItsOwnAngles();
     void linkedVariablesAreNotOptimised();
     void detectedStacksAreOptimisedPhotoByPhoto();
@@ -222,6 +223,23 @@ void PtoProjectTest::hardLinkedStackFollowsItsFirstPhoto()
     QCOMPARE(values(lines, "j"),
              (QByteArrayList{ "0", "=0", "=0", "0", "=3", "=3", "0", "=6", "=6", "0", "=9", "=9",
                               "0", "=12", "=12", "0", "=15", "=15" }));
+}
+
+void PtoProjectTest::stackWithoutItsFirstPhotoFollowsTheNext()
+{
+    Panorama panorama = row(6, 3);
+    panorama.positions[1].photos.removeFirst(); // 5 and 6 are left
+    panorama.positions[3].photos.resize(1);
+    const QByteArrayList lines = linesOf(panorama, 'i');
+    QCOMPARE(values(lines, "j"),
+             (QByteArrayList{ "0", "=0", "=0", "0", "=3", "0", "=5", "=5", "0", "0", "=9", "=9",
+                              "0", "=12", "=12" }));
+    QCOMPARE(
+        values(lines, "y"),
+        (QByteArrayList{ "0.000000", "=0", "=0", "60.000000", "=3", "120.000000", "=5", "=5",
+                         "-180.000000", "-120.000000", "=9", "=9", "-60.000000", "=12", "=12" }));
+    QCOMPARE(value(lines[3], "n"), QByteArray("\"5.jpg\""));
+    QCOMPARE(linesOf(panorama, 'v').size(), 1 + 5 * 3 + 1);
 }
 
 void PtoProjectTest::detectedStackHasItsOwnAngles()
