@@ -9,6 +9,27 @@
 
 using namespace PanoHead;
 
+namespace
+{
+
+void checkShots(const HeadFacts &head, const QByteArray &bytes, const RecordSummary &summary)
+{
+    if (head.shots == nullptr) {
+        return;
+    }
+    ReadError error;
+    const auto shots = head.shots(bytes, &error);
+    FUZZ_CHECK(shots && shots->size() == summary.shotCount && error.reason.isEmpty());
+    for (const NotedShot &shot : *shots) {
+        FUZZ_CHECK(std::isfinite(shot.yawDegrees) && std::isfinite(shot.pitchDegrees));
+        FUZZ_CHECK(shot.rollDegrees == 0.0);
+        FUZZ_CHECK(shot.level >= 0 && shot.level < summary.bracketCount);
+        FUZZ_CHECK(shot.time.isValid() || shot.time.isNull());
+    }
+}
+
+} // namespace
+
 /** Any bytes as a record of every head: refused with a reason, or of some use. */
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
@@ -22,6 +43,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         const auto summary = head->summary(bytes, &error);
         FUZZ_CHECK(summary.has_value() == error.reason.isEmpty());
         if (!summary) {
+            FUZZ_CHECK(head->shots == nullptr || !head->shots(bytes, &error));
             continue;
         }
         FUZZ_CHECK(summary->shotCount > 0 && summary->shotCount <= kMaxRecordedShots);
@@ -29,6 +51,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         FUZZ_CHECK(std::isfinite(summary->focal35mm) && summary->focal35mm >= 0.0);
         FUZZ_CHECK(summary->lens == LensModel::NotChosen || summary->lens == LensModel::Standard
                    || summary->lens == LensModel::Fisheye);
+        checkShots(*head, bytes, *summary);
     }
     return 0;
 }

@@ -2,10 +2,26 @@
 // SPDX-License-Identifier: MIT
 #include "importers/headfacts.h"
 
+#include "model/shootdata.h"
+
 #include <algorithm>
 
 namespace PanoHead
 {
+
+QVector<NotedShot> notedShots(const QVector<ShootData> &shots)
+{
+    QVector<NotedShot> noted;
+    noted.reserve(shots.size());
+    for (const ShootData &shot : shots) {
+        noted += { static_cast<double>(shot.yaw),
+                   static_cast<double>(shot.pitch),
+                   static_cast<double>(shot.roll),
+                   0,
+                   {} };
+    }
+    return noted;
+}
 
 bool HeadFacts::isRecord(const QString &path) const
 {

@@ -15,6 +15,8 @@
 #include <optional>
 #include <vector>
 
+struct ShootData;
+
 namespace PanoHead
 {
 
@@ -32,9 +34,11 @@ struct NotedShot {
     double yawDegrees = 0.0;
     double pitchDegrees = 0.0;
     double rollDegrees = 0.0;
-    int level = 0; ///< which exposure of its position
-    QDateTime time;
+    int level = 0; ///< which exposure of its position, from 0
+    QDateTime time; ///< by the head's clock, as `readShotTime`; invalid: the record has none
 };
+/** Where a reader has found the shots; each the only exposure of its position, without a time. */
+[[nodiscard]] QVector<NotedShot> notedShots(const QVector<ShootData> &shots);
 
 /** A shoot for a head to write down: demo and tests play heads. */
 struct NotedShoot {
@@ -73,6 +77,12 @@ struct HeadFacts {
     const char *record = nullptr;
     /** The record in \p bytes. Nothing, with a reason, when it is of no use; remarks when it is. */
     std::optional<RecordSummary> (*summary)(const QByteArray &bytes, ReadError *error) = nullptr;
+    /**
+     * Every shot of a record that `summary` accepts, in the order in which photos belong to them,
+     * pointing where the page says when none of its buttons is pressed. Nothing, with a reason, for
+     * other records. Null: the head does not tell its shots.
+     */
+    std::optional<QVector<NotedShot>> (*shots)(const QByteArray &bytes, ReadError *error) = nullptr;
     /** The record that the head writes of \p shoot. */
     QByteArray (*write)(const NotedShoot &shoot) = nullptr;
     bool notesBrackets = false; ///< records say how many photos belong to a position

@@ -11,19 +11,32 @@ namespace PanoHead
 namespace
 {
 
-std::optional<RecordSummary> summaryOf(const QByteArray &bytes, ReadError *error)
+/** Refuses an empty list too. */
+std::optional<QVector<ShootData>> shotsIn(const QByteArray &bytes, ReadError *error)
 {
-    const auto shots = readCsv(bytes, error);
-    if (!shots) {
+    auto shots = readCsv(bytes, error);
+    if (shots && shots->isEmpty()) {
+        *error = { QStringLiteral("no line: no shot was recorded"), 0, {} };
         return std::nullopt;
     }
-    if (shots->isEmpty()) {
-        *error = { QStringLiteral("no line: no shot was recorded"), 0, {} };
+    return shots;
+}
+
+std::optional<RecordSummary> summaryOf(const QByteArray &bytes, ReadError *error)
+{
+    const auto shots = shotsIn(bytes, error);
+    if (!shots) {
         return std::nullopt;
     }
     RecordSummary summary;
     summary.shotCount = shots->size();
     return summary;
+}
+
+std::optional<QVector<NotedShot>> shotsOf(const QByteArray &bytes, ReadError *error)
+{
+    const auto shots = shotsIn(bytes, error);
+    return shots ? std::optional(notedShots(*shots)) : std::nullopt;
 }
 
 QByteArray csvOf(const NotedShoot &shoot)
@@ -47,6 +60,7 @@ HeadFacts newFacts()
     facts.title = "CSV list";
     facts.record = "SHOTS.csv";
     facts.summary = &summaryOf;
+    facts.shots = &shotsOf;
     facts.write = &csvOf;
     return facts;
 }

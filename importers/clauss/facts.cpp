@@ -65,15 +65,15 @@ QString fractionRemark(const QByteArray &bytes)
               .arg(QString::number(fractions), QLatin1String(fractions == 1 ? "" : "s"));
 }
 
-/** Refuses a script without shots too, and says what the reader leaves out. */
-std::optional<RecordSummary> summaryOf(const QByteArray &bytes, ReadError *error)
+/** Refuses a script without shots too. */
+std::optional<ClaussScript> scriptIn(const QByteArray &bytes, ReadError *error)
 {
-    const QString lineEnds = lineEndRemark(bytes);
     const auto refuse = [&](const ReadError &why, const QString &advice) {
+        const QString lineEnds = lineEndRemark(bytes);
         *error = { why.reason, why.line, lineEnds.isEmpty() ? advice : lineEnds };
         return std::nullopt;
     };
-    const ClaussScript script = readClaussScript(bytes);
+    ClaussScript script = readClaussScript(bytes);
     if (!script.isSound) {
         return refuse(script.firstError,
                       QStringLiteral("correct this line, or choose another script"));
@@ -82,14 +82,31 @@ std::optional<RecordSummary> summaryOf(const QByteArray &bytes, ReadError *error
         return refuse({ QStringLiteral("no op_shoot command: no shot was recorded"), 0, {} },
                       QStringLiteral("is it the script that the head ran?"));
     }
+    return script;
+}
+
+/** Says what the reader leaves out. */
+std::optional<RecordSummary> summaryOf(const QByteArray &bytes, ReadError *error)
+{
+    const std::optional<ClaussScript> script = scriptIn(bytes, error);
+    if (!script) {
+        return std::nullopt;
+    }
     RecordSummary summary;
-    summary.shotCount = script.shots.size();
-    for (const QString &remark : { lineEnds, fractionRemark(bytes) }) {
+    summary.shotCount = script->shots.size();
+    for (const QString &remark : { lineEndRemark(bytes), fractionRemark(bytes) }) {
         if (!remark.isEmpty()) {
             summary.remarks += remark;
         }
     }
     return summary;
+}
+
+/** Scripts know neither times nor brackets. */
+std::optional<QVector<NotedShot>> shotsOf(const QByteArray &bytes, ReadError *error)
+{
+    const std::optional<ClaussScript> script = scriptIn(bytes, error);
+    return script ? std::optional(notedShots(script->shots)) : std::nullopt;
 }
 
 /** As the head runs it: whole degrees, an angle only where it changes. */
@@ -121,6 +138,7 @@ HeadFacts newFacts()
     facts.title = "Clauss";
     facts.record = "SCRIPT.txt";
     facts.summary = &summaryOf;
+    facts.shots = &shotsOf;
     facts.write = &scriptOf;
     facts.notesWholeDegrees = true;
     return facts;

@@ -5,6 +5,7 @@
 #include "importers/headfacts.h"
 #include "importers/papywizard/papywizardreader.h"
 #include "importers/papywizard/papywizardwriter.h"
+#include "shoot/shottime.h"
 
 #include <algorithm>
 
@@ -15,9 +16,9 @@ namespace
 {
 
 /** Refuses a record without pictures too. */
-std::optional<RecordSummary> summaryOf(const QByteArray &bytes, ReadError *error)
+std::optional<PapywizardRecord> recordIn(const QByteArray &bytes, ReadError *error)
 {
-    const std::optional<PapywizardRecord> record = readPapywizard(bytes, error);
+    std::optional<PapywizardRecord> record = readPapywizard(bytes, error);
     if (!record) {
         return std::nullopt;
     }
@@ -31,12 +32,49 @@ std::optional<RecordSummary> summaryOf(const QByteArray &bytes, ReadError *error
                    QStringLiteral("choose the record of a finished shoot") };
         return std::nullopt;
     }
+    return record;
+}
+
+int bracketCountOf(const PapywizardRecord &record)
+{
+    return std::max(record.nbPicts, 1);
+}
+
+std::optional<RecordSummary> summaryOf(const QByteArray &bytes, ReadError *error)
+{
+    const std::optional<PapywizardRecord> record = recordIn(bytes, error);
+    if (!record) {
+        return std::nullopt;
+    }
     RecordSummary summary;
     summary.shotCount = record->shots.size();
-    summary.bracketCount = std::max(record->nbPicts, 1);
+    summary.bracketCount = bracketCountOf(*record);
     summary.focal35mm = std::max(record->xmlFocal, 0.0);
     summary.lens = static_cast<LensModel>(record->xmlLensType);
     return summary;
+}
+
+/** Of which exposure a shot is, is noted where all exposures occur, else seen from its place. */
+std::optional<QVector<NotedShot>> shotsOf(const QByteArray &bytes, ReadError *error)
+{
+    const std::optional<PapywizardRecord> record = recordIn(bytes, error);
+    if (!record) {
+        return std::nullopt;
+    }
+    const QVector<ShootData> &shots = record->shots;
+    const int exposures = bracketCountOf(*record);
+    const auto [least, most] = std::minmax_element(
+        shots.begin(), shots.end(),
+        [](const ShootData &a, const ShootData &b) { return a.bracket < b.bracket; });
+    const int first = least->bracket;
+    const bool isNoted = qint64{ most->bracket } - first == exposures - 1;
+    const QVector<QDateTime> times = readShotTimes(record->times);
+    QVector<NotedShot> noted = notedShots(shots);
+    for (int i = 0; i < noted.size(); ++i) {
+        noted[i].level = isNoted ? shots.at(i).bracket - first : i % exposures;
+        noted[i].time = times.at(i);
+    }
+    return noted;
 }
 
 HeadFacts newFacts()
@@ -46,6 +84,7 @@ HeadFacts newFacts()
     facts.title = "Papywizard";
     facts.record = "RECORD.xml";
     facts.summary = &summaryOf;
+    facts.shots = &shotsOf;
     facts.write = &writePapywizard;
     facts.notesBrackets = true;
     facts.hasLens = true;

@@ -4,6 +4,7 @@
 
 #include "importers/papywizard/xmlgate.h"
 #include "shoot/recordlimits.h"
+#include "shoot/shottime.h"
 
 #include <QXmlDefaultHandler>
 
@@ -208,6 +209,7 @@ private:
             shot.id = valueOf(attributes, "id").toInt();
             shot.bracket = valueOf(attributes, "bracket").toInt();
             m_record.shots.append(shot);
+            m_record.times.append(QString());
             break;
         }
         case Part::Position:
@@ -246,9 +248,14 @@ private:
     void end(Part part)
     {
         switch (part) {
-        case Part::Time:
-            m_record.shots.last().time = QDateTime::fromString(takeText(), Qt::TextDate);
+        case Part::Time: {
+            const QString text = takeText();
+            m_record.shots.last().time = QDateTime::fromString(text, Qt::TextDate);
+            if (text.trimmed().size() <= kMaxShotTimeLength) {
+                m_record.times.last() = text.trimmed();
+            }
             break;
+        }
         case Part::Title:
             m_record.title = takeText().trimmed();
             break;

@@ -8,6 +8,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 #include <optional>
@@ -18,6 +19,7 @@ namespace PanoHead
 /** What a Papywizard XML record says. */
 struct PapywizardRecord {
     QVector<ShootData> shots; ///< one per `pict` element, file order; degrees
+    QStringList times; ///< as written, one per shot; empty: none, or longer than any
     QString title;
     QString gps;
     QString comment;

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: MIT
+#include "shoot/angles.h"
 #include "tests/pages/everyshoot.h"
 #include "tests/support/fakeapplication.h"
 #include "tests/support/gate.h"
@@ -41,6 +42,8 @@ private Q_SLOTS:
 
     void nextHandsOverACopyWithEveryOption_data();
     void nextHandsOverACopyWithEveryOption();
+    void recordsTellTheAnglesThatNextHandsOver_data() { addHeads(headsWithRecords()); }
+    void recordsTellTheAnglesThatNextHandsOver();
     void partlyCheckedBoxDoesNotCount_data() { addHeads(allHeads()); }
     void partlyCheckedBoxDoesNotCount();
     void secondNextAppends_data() { addHeads(allHeads()); }
@@ -116,6 +119,42 @@ void TestEveryNext::nextHandsOverACopyWithEveryOption()
     // A copy: what the page does later does not reach it.
     shoot.made.description->imageGroups.clear();
     QCOMPARE(handed.imageGroups.size(), 4);
+}
+
+void TestEveryNext::recordsTellTheAnglesThatNextHandsOver()
+{
+    QFETCH(const Head *, head);
+    if (head->facts->shots == nullptr) {
+        QSKIP("the head does not tell its shots");
+    }
+    const HeadShoot shoot(*head);
+    // Out of order, of odd angles and turns; the roll and the camera's place are the page's affair.
+    PanoHead::NotedShoot written;
+    written.exactAngles = true;
+    written.isPortrait = true;
+    written.shots = { { 12.3, -7.7, 90.0, 0, {} },
+                      { -400.123456789, 88.8, 0.0, 0, {} },
+                      { 0.1, -90.0, -1.0, 0, {} },
+                      { 1085.7, 0.0, 0.0, 0, {} } };
+    const QByteArray record = head->facts->write(written);
+    shoot.driver.load(kSelectRecord,
+                      { shoot.folder.write(QString::fromLatin1(head->recordName), record) });
+    shoot.loadPhotos(4);
+
+    QVERIFY(shoot.page->validatePage());
+
+    PanoHead::ReadError error;
+    const auto shots = head->facts->shots(record, &error);
+    QVERIFY2(shots, qPrintable(error.reason));
+    const StructuredPanoramaProperties &handed = fakeHost().descriptions.first();
+    QCOMPARE(handed.imageGroups.size(), 4);
+    QCOMPARE(handed.yaw.size(), shots->size());
+    for (int i = 0; i < shots->size(); ++i) {
+        const PanoHead::NotedShot &shot = shots->at(i);
+        QVERIFY(handed.yaw.at(i) == PanoHead::toRadians(static_cast<float>(shot.yawDegrees)));
+        QVERIFY(handed.pitch.at(i) == PanoHead::toRadians(static_cast<float>(shot.pitchDegrees)));
+        QCOMPARE(handed.roll.value(i), PanoHead::toRadians(static_cast<float>(shot.rollDegrees)));
+    }
 }
 
 void TestEveryNext::partlyCheckedBoxDoesNotCount()

@@ -217,6 +217,7 @@ private Q_SLOTS:
     void anglesAreRoundedOnceTo32Bits();
     void timesReadInTheTextFormatOnly_data();
     void timesReadInTheTextFormatOnly();
+    void timesAreKeptAsWritten();
     void brokenDocumentsSayWhere_data();
     void brokenDocumentsSayWhere();
     void theErrorMayBeLeftOut();
@@ -380,6 +381,20 @@ void TestPapywizardReader::timesReadInTheTextFormatOnly()
     QCOMPARE(record->shots.size(), 1);
     QCOMPARE(record->shots.at(0).time, time);
     QCOMPARE(record->shots.at(0).time.isValid(), time.isValid());
+}
+
+void TestPapywizardReader::timesAreKeptAsWritten()
+{
+    const QByteArray longest(64, 'x');
+    const auto record = readPapywizard(
+        "<p><shoot><pict><time>\n 2010-05-01_10h20m30s \n</time><time>2</time></pict><pict/>"
+        "<pict><time>Sat May 1 10:20:30 2010</time></pict><pict><time> "
+        + longest + " </time></pict><pict><time>" + longest + "x</time></pict></shoot></p>");
+    QVERIFY(record.has_value());
+    QCOMPARE(record->times,
+             (QStringList{ QStringLiteral("2010-05-01_10h20m30s"), QString(),
+                           QStringLiteral("Sat May 1 10:20:30 2010"), QString::fromLatin1(longest),
+                           QString() }));
 }
 
 void TestPapywizardReader::brokenDocumentsSayWhere_data()

@@ -3,6 +3,7 @@
 #include "fuzz/check.h"
 #include "importers/papywizard/papywizardreader.h"
 #include "importers/papywizard/xmlgate.h"
+#include "shoot/shottime.h"
 
 #include <QBuffer>
 #include <QDomDocument>
@@ -76,6 +77,8 @@ PapywizardRecord recordOf(const QDomElement &root)
     for (QDomNode node = shoot.firstChild(); !node.isNull(); node = node.nextSibling()) {
         if (node.isElement() && node.nodeName() == QLatin1String("pict")) {
             record.shots.append(shotOf(node.toElement()));
+            const QString time = textOf(childOf(node.toElement(), "time")).trimmed();
+            record.times.append(time.size() <= PanoHead::kMaxShotTimeLength ? time : QString());
         }
     }
     const QDomElement header = childOf(root, "header");
@@ -111,6 +114,7 @@ void compare(const PapywizardRecord &read, const PapywizardRecord &expected)
         FUZZ_CHECK(a.id == b.id && a.bracket == b.bracket && a.time == b.time);
         FUZZ_CHECK(a.yaw == b.yaw && a.pitch == b.pitch && a.roll == 0.0F);
     }
+    FUZZ_CHECK(read.times == expected.times);
     FUZZ_CHECK(read.title == expected.title);
     FUZZ_CHECK(read.gps == expected.gps);
     FUZZ_CHECK(read.comment == expected.comment);

@@ -214,6 +214,12 @@ void TestCliParts::everyHeadIsReady()
         QCOMPARE(summary->shotCount, 2);
         QCOMPARE(summary->bracketCount, head->notesBrackets ? 2 : 1);
         QCOMPARE(summary->remarks, QStringList());
+        if (head->shots != nullptr) {
+            const auto shots = head->shots(head->write(shoot), &error);
+            QVERIFY2(shots, qPrintable(error.reason));
+            QCOMPARE(shots->size(), 2);
+            QCOMPARE(shots->last().yawDegrees, 30.0);
+        }
         QVERIFY(!head->summary("nonsense", &error));
         QVERIFY(!error.reason.isEmpty());
         QVERIFY(head->isRecord(QStringLiteral("/p/") + QLatin1String(head->record)));
