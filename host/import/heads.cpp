@@ -26,6 +26,38 @@ CommandError unusable(const QString &path, const PanoHead::ReadError &error)
                             : error.advice);
 }
 
+QByteArray bytesOf(const QString &path)
+{
+    if (!QFileInfo::exists(path)) {
+        throw inputRefused(displayName(path), QStringLiteral("no such record"),
+                           QStringLiteral("check the name"));
+    }
+    PanoHead::ReadError error;
+    const std::optional<QByteArray> bytes = PanoHead::readRecordFile(path, &error);
+    if (!bytes) {
+        throw unusable(path, error);
+    }
+    return *bytes;
+}
+
+/** What \p read finds in \p bytes, the record at \p path. */
+template <typename T>
+T foundBy(std::optional<T> (*read)(const QByteArray &, PanoHead::ReadError *),
+          const QByteArray &bytes, const QString &path)
+{
+    PanoHead::ReadError error;
+    std::optional<T> found = read(bytes, &error);
+    if (!found) {
+        throw unusable(path, error);
+    }
+    return *std::move(found);
+}
+
+QVector<NotedShot> shotsIn(const QByteArray &bytes, const HeadFacts &head, const QString &path)
+{
+    return head.shots == nullptr ? QVector<NotedShot>() : foundBy(head.shots, bytes, path);
+}
+
 } // namespace
 
 QStringList headNames()
@@ -48,20 +80,23 @@ const HeadFacts &headNamed(const QString &name)
     return *head;
 }
 
-RecordSummary readRecord(const HeadFacts &head, const QString &path)
+RecordSummary readRecord(const HeadFacts &head, const QString &path, QVector<NotedShot> *shots)
 {
-    if (!QFileInfo::exists(path)) {
-        throw inputRefused(displayName(path), QStringLiteral("no such record"),
-                           QStringLiteral("check the name"));
+    const QByteArray bytes = bytesOf(path);
+    RecordSummary summary = foundBy(head.summary, bytes, path);
+    if (shots != nullptr) {
+        *shots = shotsIn(bytes, head, path);
     }
-    PanoHead::ReadError error;
-    const std::optional<QByteArray> bytes = PanoHead::readRecordFile(path, &error);
-    const std::optional<RecordSummary> summary
-        = bytes ? head.summary(*bytes, &error) : std::nullopt;
-    if (!summary) {
-        throw unusable(path, error);
+    return summary;
+}
+
+Result<QVector<NotedShot>> readShots(const HeadFacts &head, const QString &path)
+{
+    try {
+        return shotsIn(bytesOf(path), head, path);
+    } catch (const CommandError &error) {
+        return error.failure();
     }
-    return *summary;
 }
 
 } // namespace PanoHost

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "host/model/result.h"
 #include "importers/headfacts.h"
 
 #include <QStringList>
@@ -10,6 +11,7 @@ namespace PanoHost
 {
 
 using PanoHead::HeadFacts;
+using PanoHead::NotedShot;
 using PanoHead::RecordSummary;
 
 /** As on the command line. */
@@ -20,8 +22,15 @@ using PanoHead::RecordSummary;
 
 /**
  * Reads the record at \p path with the library's own reader of \p head, which, unlike the page,
- * says what is wrong with it and where. Throws the reason when it cannot be used.
+ * says what is wrong with it and where. Throws the reason when it cannot be used. \p shots, where
+ * it is not null, becomes what `readShots` answers, without opening the file again.
  */
-[[nodiscard]] RecordSummary readRecord(const HeadFacts &head, const QString &path);
+[[nodiscard]] RecordSummary readRecord(const HeadFacts &head, const QString &path,
+                                       QVector<NotedShot> *shots = nullptr);
+/**
+ * Every shot of that record, in the order in which photos belong to them. Empty when \p head does
+ * not tell its shots.
+ */
+[[nodiscard]] Result<QVector<NotedShot>> readShots(const HeadFacts &head, const QString &path);
 
 } // namespace PanoHost

@@ -6,6 +6,7 @@
 #include "host/import/photoaliases.h"
 #include "host/model/commanderror.h"
 #include "host/model/wordsuggestion.h"
+#include "tests/host/cli/opens.h"
 #include "tests/host/testphotos.h"
 #include "tests/support/testprogram.h"
 
@@ -33,6 +34,9 @@ private Q_SLOTS:
     void focalOfTheUnknownSourceIsRefused_data();
     void focalOfTheUnknownSourceIsRefused();
     void everyHeadIsReady();
+    void recordsTellTheirShots();
+    void recordsThatCannotBeReadTellWhy_data();
+    void recordsThatCannotBeReadTellWhy();
     void optionsFollowWhatTheHeadHas_data();
     void optionsFollowWhatTheHeadHas();
 };
@@ -224,6 +228,82 @@ void TestCliParts::everyHeadIsReady()
         QVERIFY(!error.reason.isEmpty());
         QVERIFY(head->isRecord(QStringLiteral("/p/") + QLatin1String(head->record)));
         QVERIFY(!head->isRecord(QStringLiteral("/p/a.jpg")));
+    }
+}
+
+void TestCliParts::recordsTellTheirShots()
+{
+    const HeadFacts &head = headNamed(QStringLiteral("papywizard"));
+    PanoHead::NotedShoot shoot;
+    const QDateTime time(QDate(2024, 5, 1), QTime(10, 0), Qt::UTC);
+    shoot.shots = { { 30.0, 10.0, 0.0, 0, time }, { 30.0, 10.0, 0.0, 1, time.addSecs(2) } };
+    shoot.bracketCount = 2;
+    const QTemporaryDir folder;
+    const QString path
+        = TestPhotos::writeFile(folder.filePath(QStringLiteral("r.xml")), head.write(shoot));
+
+    Opens opens({ path });
+    QVector<NotedShot> shots;
+    QCOMPARE(readRecord(head, path, &shots).shotCount, 2);
+    QCOMPARE(opens.counts(), QVector<int>{ 1 });
+    const auto alone = readShots(head, path);
+    QVERIFY(alone.ok());
+    QCOMPARE(opens.counts(), QVector<int>{ 2 });
+    for (const QVector<NotedShot> &read : { shots, alone.value() }) {
+        QCOMPARE(read.size(), 2);
+        for (int i = 0; i < 2; ++i) {
+            QCOMPARE(read.at(i).yawDegrees, 30.0);
+            QCOMPARE(read.at(i).pitchDegrees, 10.0);
+            QCOMPARE(read.at(i).level, i);
+            QCOMPARE(read.at(i).time, time.addSecs(2 * i));
+        }
+    }
+
+    HeadFacts silent = head;
+    silent.shots = nullptr;
+    QCOMPARE(readRecord(silent, path, &shots).shotCount, 2);
+    QVERIFY(shots.isEmpty());
+    QVERIFY(readShots(silent, path).value().isEmpty());
+}
+
+void TestCliParts::recordsThatCannotBeReadTellWhy_data()
+{
+    QTest::addColumn<QString>("head");
+    QTest::addColumn<QByteArray>("record"); // null: there is no file
+    QTest::addColumn<QString>("why");
+    const auto row = [](const char *name, const char *head, const QByteArray &record,
+                        const char *why) {
+        QTest::newRow(name) << QString::fromLatin1(head) << record << QString::fromLatin1(why);
+    };
+    row("no file", "papywizard", {}, "no such record");
+    row("no XML", "vrdrive2", "\n\n<p", "line 3: not well-formed XML");
+    row("no pictures", "papywizard", "<p/>", "no <shoot> pictures");
+    row("bad angle", "clauss", "op_shoot\nop_h-angle=x\n", "line 2: op_h-angle=x is not a number");
+}
+
+void TestCliParts::recordsThatCannotBeReadTellWhy()
+{
+    QFETCH(QString, head);
+    QFETCH(QByteArray, record);
+    QFETCH(QString, why);
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("record"));
+    if (!record.isNull()) {
+        (void)TestPhotos::writeFile(path, record);
+    }
+
+    const auto shots = readShots(headNamed(head), path);
+    QVERIFY(!shots.ok());
+    const Failure &failure = shots.error();
+    QCOMPARE(failure.code, ExitCode::InputRefused);
+    QVERIFY2(failure.why.startsWith(why), qPrintable(failure.why));
+    // As everywhere else.
+    try {
+        QVector<NotedShot> unused;
+        (void)readRecord(headNamed(head), path, &unused);
+        QFAIL("it is read");
+    } catch (const CommandError &error) {
+        QCOMPARE(error.failure().text(), failure.text());
     }
 }
 
