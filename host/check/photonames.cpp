@@ -48,7 +48,7 @@ CountedName countedName(const QString &path)
         const int digits = end - begin;
         constexpr int kMostDigits = 9; // of an int
         const int counter = path.midRef(begin, digits).right(kMostDigits).toInt();
-        const CountedName name{ path.left(begin), counter, digits };
+        CountedName name{ path.left(begin), counter, digits };
         if (digits >= kLeastDigits) {
             return name;
         }
