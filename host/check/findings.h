@@ -18,7 +18,8 @@ struct Finding {
         Trouble, ///< the user should look at it
     };
 
-    QString topic; ///< "record", "grid", "photos", "bad", "order", "gaps", "result"
+    QString topic; ///< "record", "grid", "bad", "shots", "missing", "left", "clock", "photos",
+                   ///< "order", "gaps", "result"
     QString text; ///< one line, for the user
     Kind kind = Kind::Fact;
     QStringList files; ///< paths of the photos that it is about; empty: of all

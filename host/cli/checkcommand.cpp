@@ -117,6 +117,10 @@ void check(Session &session, const ImportRequest &request, Report &report)
         report.add(recordFinding(request.record, job.record()));
     }
     job.findPhotos();
+    job.matchPhotos();
+    for (const Finding &finding : job.findings()) {
+        report.add(finding);
+    }
     job.orderPhotos();
     const QVector<PhotoInfo> photos = readableInfos(session, job.photos(), report);
     for (const Finding &finding : photoFindings(photos, job.photos().size())) {

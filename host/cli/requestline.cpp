@@ -107,9 +107,14 @@ const QVector<HeadOption> &sharedOptions()
         { { "--ignore-exif-rotation", nullptr,
             "the photos' EXIF orientation is wrong; use the recorded roll alone" },
           anyHead },
-        { { "--order", "name|time|given", "which photo belongs to which shot; default: by name",
-            true },
+        { { "--order", "name|time|given",
+            "which photo belongs to which shot, without a look at what the photos say", true },
           anyHead },
+        { { "--fit", "auto|strict",
+            "auto (default) finds out which photo belongs to which shot and imports shoots with "
+            "missing, doubled or foreign photos; strict goes by names and refuses those",
+            true },
+          withRecord },
     };
     return options;
 }
@@ -398,6 +403,8 @@ ImportRequest importRequest(const Session &session, const CommandLine &line)
     request.buttons = buttonsFrom(line, *request.head);
     request.ignoreExifRotation = line.isSet(QStringLiteral("ignore-exif-rotation"));
     request.order = orderFrom(line.value(QStringLiteral("order")));
+    request.matchesPhotos = !line.isSet(QStringLiteral("order"))
+        && line.value(QStringLiteral("fit")) != QLatin1String("strict");
     if (request.head->isGrid()) {
         request.grid = gridChoice(line);
     }

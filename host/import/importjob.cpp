@@ -4,14 +4,33 @@
 
 #include "host/import/inputcheck.h"
 #include "host/import/lenschoice.h"
+#include "host/import/photofit.h"
 #include "host/model/commanderror.h"
 #include "host/model/displayname.h"
 #include "hostlink/xiabout.h"
 
+#include <QFileInfo>
 #include <QWizardPage>
 
 namespace PanoHost
 {
+
+namespace
+{
+
+/** Shots without a photo are named one by one, once it is known where they point. */
+QStringList warningsOf(const QVector<Finding> &findings)
+{
+    QStringList warnings;
+    for (const Finding &finding : findings) {
+        if (finding.kind == Finding::Kind::Trouble && finding.topic != QLatin1String("missing")) {
+            warnings += finding.text;
+        }
+    }
+    return warnings;
+}
+
+} // namespace
 
 ImportJob::ImportJob(PanoHostApplication &app, ImportRequest request, JobWatch watch)
     : m_app(app)
@@ -35,7 +54,8 @@ void ImportJob::openRecord()
     if (m_request.head->isGrid()) {
         return;
     }
-    m_record = readRecord(*m_request.head, m_request.record);
+    m_record = readRecord(*m_request.head, m_request.record,
+                          m_request.matchesPhotos ? &m_shots : nullptr);
     for (const QString &remark : qAsConst(m_record.remarks)) {
         m_watch.note(JobWatch::Note::Warning,
                      QStringLiteral("%1: %2").arg(displayName(m_request.record), remark));
@@ -52,6 +72,52 @@ void ImportJob::findPhotos()
     m_app.photos().readAhead(m_photos);
 }
 
+void ImportJob::matchPhotos()
+{
+    if (m_shots.isEmpty() || m_request.fit) {
+        return;
+    }
+    QVector<Finding> bad;
+    QVector<PhotoInfo> photos;
+    photos.reserve(m_photos.size());
+    for (const QString &path : qAsConst(m_photos)) {
+        m_watch.check();
+        const Result<PhotoInfo> photo = m_app.photoInfo(path);
+        if (photo) {
+            photos += photo.value();
+        } else {
+            bad += badPhotoFinding(path, photo.error().why);
+        }
+        m_watch.report(photos.size(), m_photos.size(),
+                       QStringLiteral("reading %1").arg(QFileInfo(path).fileName()));
+    }
+    KnownLens lens = knownLensOf(photos);
+    if (!(lens.focal35mm > 0.0)) {
+        lens = { m_record.focal35mm, m_record.lens };
+    }
+    auto matched = fitPhotos({ displayName(m_request.record), m_shots, m_record.bracketCount },
+                             photos, lens);
+    if (!matched) {
+        // Photos that cannot be read are what is to be said first.
+        if (photos.size() == m_photos.size()) {
+            m_doubt = matched.error();
+        }
+        return;
+    }
+    PhotoFit found = std::move(matched).value();
+    if (!found.fit && photos.size() != m_photos.size()) {
+        found.fit.emplace();
+        for (const PhotoInfo &photo : qAsConst(photos)) {
+            *found.fit += FittedShot{ photo.path, 0, {} };
+        }
+    }
+    if (found.fit) {
+        m_request.fit = std::move(found.fit);
+        m_photos = photosOf(*m_request.fit);
+        m_findings = bad + found.findings;
+    }
+}
+
 void ImportJob::orderPhotos()
 {
     if (!m_request.fit && m_request.order == PhotoOrder::ByTime) {
@@ -61,6 +127,9 @@ void ImportJob::orderPhotos()
 
 void ImportJob::checkCounts() const
 {
+    if (m_doubt) {
+        throw CommandError(*m_doubt);
+    }
     if (m_request.head->isGrid()) {
         requireFullGrid(*m_request.grid, m_request.photos.size());
     } else if (m_request.fit && photosOf(*m_request.fit).isEmpty()) {
@@ -77,6 +146,7 @@ void ImportJob::checkInputs()
 {
     openRecord();
     findPhotos();
+    matchPhotos();
     checkCounts();
     orderPhotos();
 }
@@ -216,6 +286,7 @@ Panorama ImportJob::handOver()
 {
     StructuredPanoramaProperties description = m_page->handOver();
     if (m_request.fit) {
+        m_warnings += warningsOf(m_findings);
         m_warnings += missingShotWarnings(*m_request.fit, description, m_record.bracketCount);
         description = withoutStandIns(std::move(description), m_standIns);
     }

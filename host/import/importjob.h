@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "host/check/findings.h"
 #include "host/import/importrequest.h"
 #include "host/import/pagedriver.h"
 #include "host/import/photoaliases.h"
@@ -28,11 +29,14 @@ public:
     ImportJob(const ImportJob &) = delete;
     ImportJob &operator=(const ImportJob &) = delete;
 
-    /** Everything that can be said before the page gets record and photos: the next four. */
+    /** Everything that can be said before the page gets record and photos: the next five. */
     void checkInputs();
     void openRecord();
     /** Whether the files are there, which are then read ahead. */
     void findPhotos();
+    /** After both, where it is wanted: which photo belongs to which shot. Photos that cannot be
+     * read count as missing. */
+    void matchPhotos();
     /** After `openRecord`: whether the photos are as many as there are shots. */
     void checkCounts() const;
     void orderPhotos();
@@ -45,6 +49,8 @@ public:
 
     /** After `openRecord`; empty for heads without one. */
     [[nodiscard]] const RecordSummary &record() const { return m_record; }
+    /** What `matchPhotos` has found. */
+    [[nodiscard]] const QVector<Finding> &findings() const { return m_findings; }
     /** After `orderPhotos`: the photos in the order of the shots. */
     [[nodiscard]] const QStringList &photos() const { return m_photos; }
 
@@ -62,6 +68,9 @@ private:
     ImportRequest m_request;
     JobWatch m_watch;
     RecordSummary m_record;
+    QVector<NotedShot> m_shots;
+    QVector<Finding> m_findings;
+    std::optional<Failure> m_doubt; ///< which photo belongs to which shot
     QStringList m_photos;
     PhotoAliases m_aliases;
     QSet<QString> m_standIns; ///< names on the page

@@ -43,6 +43,9 @@ struct ImportRequest {
     QString record; ///< absolute path; empty for heads without one
     QStringList photos; ///< absolute paths, in the order given
     PhotoOrder order = PhotoOrder::ByName;
+    /** Photos are matched to the shots of the record first, by all that is known of them; ordered
+     * by name only. */
+    bool matchesPhotos = false;
     /** Which photo belongs to which shot of the record: `photos` and `order` do not count then.
      * For heads with a record only. */
     std::optional<ShotFit> fit;

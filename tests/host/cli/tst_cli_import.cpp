@@ -322,7 +322,10 @@ void TestCliImport::orderDecidesWhichPhotoBelongsToWhichShot_data()
     const QString ten = QStringLiteral("x10.jpg");
     const QString nine = QStringLiteral("x9.jpg");
     // Given as a, x9, B, x10; taken in the order B, x9, a, x10.
-    QTest::newRow("by name") << QStringList() << QStringList{ b, a, ten, nine };
+    QTest::newRow("what they say themselves") << QStringList() << QStringList{ b, nine, a, ten };
+    QTest::newRow("strictly by name")
+        << QStringList{ QStringLiteral("--fit"), QStringLiteral("strict") }
+        << QStringList{ b, a, ten, nine };
     QTest::newRow("by name, asked for")
         << QStringList{ option, QStringLiteral("name") } << QStringList{ b, a, ten, nine };
     QTest::newRow("as given") << QStringList{ option, QStringLiteral("given") }

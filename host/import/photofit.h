@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "host/check/findings.h"
+#include "host/check/knownlens.h"
+#include "host/import/shotfit.h"
+#include "host/model/result.h"
+#include "importers/headfacts.h"
+
+#include <QVector>
+
+#include <optional>
+
+namespace PanoHost
+{
+
+/** A record as photos are matched to it. */
+struct RecordedShots {
+    QString name; ///< of the record, for messages
+    QVector<PanoHead::NotedShot> shots;
+    int bracketCount = 1;
+};
+
+/** Which photo belongs to which shot, and what was found on the way. */
+struct PhotoFit {
+    /** Nothing: each photo, in the order given, belongs to the next shot. */
+    std::optional<ShotFit> fit;
+    QVector<Finding> findings; ///< topics "shots", "missing", "left", "clock"
+};
+
+/**
+ * Matches \p photos, in the order of their names, to the shots of \p record: by names, times,
+ * exposures and, where these disagree, by the pictures themselves, taken through \p lens. Refuses
+ * when it cannot be told surely, naming both readings.
+ */
+[[nodiscard]] Result<PhotoFit> fitPhotos(const RecordedShots &record,
+                                         const QVector<PhotoInfo> &photos, const KnownLens &lens);
+
+} // namespace PanoHost
