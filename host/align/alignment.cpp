@@ -44,15 +44,6 @@ TiePointOptions finderOptions(const AlignOptions &options)
     return made;
 }
 
-/** Where the record is no more than a hint: anywhere in the other photo. */
-MatchRules anyLook(const AlignLens &lens)
-{
-    MatchRules rules = firstLook(lens);
-    rules.windowPixels = lens.size.width() + lens.size.height();
-    rules.gateDegrees = 0.0;
-    return rules;
-}
-
 int matchedCount(const TiePoints &found)
 {
     return static_cast<int>(

@@ -384,6 +384,14 @@ MatchRules secondLook(const AlignLens &lens)
              sameSpotPixels(lens) };
 }
 
+MatchRules anyLook(const AlignLens &lens)
+{
+    MatchRules rules = firstLook(lens);
+    rules.windowPixels = lens.size.width() + lens.size.height();
+    rules.gateDegrees = 0.0;
+    return rules;
+}
+
 PairMatches matchPair(const MatchSide &first, const MatchSide &second, const Matrix3d &predicted,
                       const MatchRules &rules, std::uint32_t seed)
 {

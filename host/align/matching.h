@@ -28,6 +28,9 @@ struct MatchRules {
 /** The rules of the second look, from a solved model. */
 [[nodiscard]] MatchRules secondLook(const AlignLens &lens);
 
+/** The rules where nothing is expected: anywhere in the other photo, by any rotation. */
+[[nodiscard]] MatchRules anyLook(const AlignLens &lens);
+
 /** A photo's features and how it came by them. */
 struct MatchSide {
     const FeatureSet &features;

@@ -28,15 +28,6 @@ AlignLens lensOf(const PhotoInfo &photo, double focal35mm, LensModel model)
     return lens;
 }
 
-/** Anywhere in the other photo, by any rotation. */
-MatchRules anywhere(const AlignLens &lens)
-{
-    MatchRules rules = firstLook(lens);
-    rules.windowPixels = lens.size.width() + lens.size.height();
-    rules.gateDegrees = 0.0;
-    return rules;
-}
-
 Eigen::Matrix3d turnOf(const PhotoInfo &photo)
 {
     return rotationOf({ 0.0, 0.0, double(clockwiseDegrees(photo.orientation)) });
@@ -62,7 +53,7 @@ std::optional<Eigen::Matrix3d> SeenTurns::between(int one, int other)
     const auto theirs = seen(other);
     const AlignLens lens = lensOf(first, m_focal35mm, m_lens);
     const PairMatches found = matchPair({ ours->features, lens }, { theirs->features, lens },
-                                        Eigen::Matrix3d::Identity(), anywhere(lens), kSeed);
+                                        Eigen::Matrix3d::Identity(), anyLook(lens), kSeed);
     if (found.pairs.size() < kLeastPoints) {
         return {};
     }
