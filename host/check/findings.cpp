@@ -4,12 +4,10 @@
 
 #include "host/check/knownlens.h"
 #include "host/model/displayname.h"
+#include "host/model/jsonfields.h"
 #include "host/model/panorama.h"
 
 #include <QFileInfo>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 
 #include <algorithm>
 
@@ -34,6 +32,36 @@ QString lensOrUnknown(LensModel lens)
     return lens == LensModel::NotChosen ? QStringLiteral("not known") : lensName(lens);
 }
 
+struct Findings {
+    QVector<Finding> findings;
+    bool isImportable = false;
+};
+
+constexpr auto kFindingFields = [](JsonFields &json, const Finding &finding) {
+    json.derived("topic", finding.topic);
+    json.derived("text", finding.text, "one line");
+    json.derived("trouble", finding.kind == Finding::Kind::Trouble, "the user should look at it");
+    json.derived("files", finding.files, "the photos that it is about; none: all");
+    QVector<qint32> numbers;
+    for (const int shot : finding.shots) {
+        numbers += shot + 1;
+    }
+    json.derived("shots", numbers, "of the record, from 1, that it is about; none: all");
+    json.derived("sureness", finding.sureness, About("how likely it is so").atLeast(0).atMost(1));
+    json.derived("cure", finding.cure, "what to do");
+    using Action = Finding::Action;
+    json.word("action", finding.action,
+              { Action::None, Action::ReplacePhotos, Action::FitPhotos, Action::EnterFocal,
+                Action::Reshoot },
+              actionName);
+};
+
+constexpr auto kDocumentFields = [](JsonFields &json, const Findings &document) {
+    json.constant("schema", 1);
+    json.derived("importable", document.isImportable, "whether 'panohost import' would take it");
+    json.list("findings", document.findings, kFindingFields);
+};
+
 } // namespace
 
 Finding recordFinding(const QString &path, const PanoHead::RecordSummary &record)
@@ -42,17 +70,17 @@ Finding recordFinding(const QString &path, const PanoHead::RecordSummary &record
              QStringLiteral("%1: %2, bracket %3, focal %4, lens %5")
                  .arg(displayName(path), counted(record.shotCount, "shot"),
                       QString::number(record.bracketCount), focalOrUnknown(record.focal35mm),
-                      lensOrUnknown(record.lens)),
-             Finding::Kind::Fact,
-             {} };
+                      lensOrUnknown(record.lens)) };
 }
 
 Finding badPhotoFinding(const QString &path, const QString &why)
 {
-    return { QStringLiteral("bad"),
-             QStringLiteral("%1: %2").arg(displayName(path), why),
-             Finding::Kind::Trouble,
-             { path } };
+    Finding finding{ QStringLiteral("bad"), QStringLiteral("%1: %2").arg(displayName(path), why),
+                     Finding::Kind::Trouble };
+    finding.files = QStringList(path);
+    finding.cure = QStringLiteral("copy it from the card again");
+    finding.action = Finding::Action::ReplacePhotos;
+    return finding;
 }
 
 Finding photosFinding(const QVector<PhotoInfo> &photos, int given)
@@ -62,8 +90,20 @@ Finding photosFinding(const QVector<PhotoInfo> &photos, int given)
              QStringLiteral("%1 given, %2 readable, focal %3, lens %4")
                  .arg(QString::number(given), QString::number(photos.size()),
                       focalOrUnknown(facts.focal35mm), lensOrUnknown(facts.lens)),
-             photos.size() == given ? Finding::Kind::Fact : Finding::Kind::Trouble,
-             {} };
+             photos.size() == given ? Finding::Kind::Fact : Finding::Kind::Trouble };
+}
+
+std::optional<Finding> lensFinding(const KnownLens &photos, double recordFocal35mm)
+{
+    if (photos.focal35mm > 0.0 || recordFocal35mm > 0.0) {
+        return {};
+    }
+    Finding finding{ QStringLiteral("lens"),
+                     QStringLiteral("neither the photos nor the record name the focal length"),
+                     Finding::Kind::Trouble };
+    finding.cure = QStringLiteral("give it, as for 35 mm film: --focal 24");
+    finding.action = Finding::Action::EnterFocal;
+    return finding;
 }
 
 Finding orderFinding(const QVector<PhotoInfo> &photos)
@@ -79,19 +119,22 @@ Finding orderFinding(const QVector<PhotoInfo> &photos)
                      { before.timeMs == 0 ? before.path : photo.path } };
         }
         if (photo.timeMs < before.timeMs) {
-            return { topic,
-                     QStringLiteral("%1 was taken before %2; try --order time")
-                         .arg(nameOf(photo), nameOf(before)),
-                     Finding::Kind::Trouble,
-                     { before.path, photo.path } };
+            Finding finding{
+                topic, QStringLiteral("%1 was taken before %2").arg(nameOf(photo), nameOf(before)),
+                Finding::Kind::Trouble
+            };
+            finding.files = QStringList{ before.path, photo.path };
+            finding.cure = QStringLiteral("try --order time");
+            finding.action = Finding::Action::FitPhotos;
+            return finding;
         }
     }
-    return { topic, QStringLiteral("capture times agree"), Finding::Kind::Fact, {} };
+    return { topic, QStringLiteral("capture times agree") };
 }
 
 Finding gapFinding(const QVector<PhotoInfo> &photos)
 {
-    Finding none{ QStringLiteral("gaps"), QStringLiteral("none"), Finding::Kind::Fact, {} };
+    Finding none{ QStringLiteral("gaps"), QStringLiteral("none") };
     QVector<qint64> pauses;
     for (int i = 1; i < photos.size(); ++i) {
         pauses += photos.at(i).timeMs - photos.at(i - 1).timeMs;
@@ -122,20 +165,26 @@ QVector<Finding> photoFindings(const QVector<PhotoInfo> &photos, int given)
     return { photosFinding(photos, given), orderFinding(photos), gapFinding(photos) };
 }
 
+QString actionName(Finding::Action action)
+{
+    static const QStringList names{ QStringLiteral("none"), QStringLiteral("replace"),
+                                    QStringLiteral("fit"), QStringLiteral("focal"),
+                                    QStringLiteral("reshoot") };
+    return names.at(static_cast<int>(action));
+}
+
 QByteArray findingsToJson(const QVector<Finding> &findings, bool importable)
 {
-    QJsonArray rows;
-    for (const Finding &finding : findings) {
-        rows += QJsonObject{ { QStringLiteral("topic"), finding.topic },
-                             { QStringLiteral("text"), finding.text },
-                             { QStringLiteral("trouble"), finding.kind == Finding::Kind::Trouble },
-                             { QStringLiteral("files"),
-                               QJsonArray::fromStringList(finding.files) } };
-    }
-    return QJsonDocument(QJsonObject{ { QStringLiteral("schema"), 1 },
-                                      { QStringLiteral("importable"), importable },
-                                      { QStringLiteral("findings"), rows } })
-        .toJson();
+    const Findings document{ findings, importable };
+    return writeJson([&](JsonFields &fields) { kDocumentFields(fields, document); }, {});
+}
+
+QByteArray findingsSchema()
+{
+    return jsonSchema("https://orvane.invalid/panohost-check.schema.json",
+                      "What panohost has found out about a shoot (schema 1)",
+                      "Paths are absolute. Readers ignore keys that they do not know.",
+                      [](JsonFields &fields) { kDocumentFields(fields, Findings()); });
 }
 
 } // namespace PanoHost

@@ -4,13 +4,8 @@
 #include "host/cli/commands.h"
 #include "host/cli/requestline.h"
 #include "host/import/importjob.h"
-#include "host/import/inputcheck.h"
 #include "host/model/commanderror.h"
-#include "host/model/displayname.h"
-
-#include <QFileInfo>
-
-#include <algorithm>
+#include "host/model/messages.h"
 
 namespace PanoHost
 {
@@ -44,19 +39,23 @@ public:
     {
         m_findings += finding;
         if (!m_isJson) {
-            printOut(QStringLiteral("%1 %2\n").arg(finding.topic, -8).arg(onOneLine(finding.text)));
+            const QString cure
+                = finding.cure.isEmpty() ? QString() : QStringLiteral("; ") + finding.cure;
+            printOut(QStringLiteral("%1 %2%3\n")
+                         .arg(finding.topic, -8)
+                         .arg(onOneLine(finding.text), cure));
         }
     }
     void accept()
     {
-        add({ topic(), QStringLiteral("can be imported"), Finding::Kind::Fact, {} });
+        add({ topic(), QStringLiteral("can be imported") });
         end(true);
     }
     /** Whoever reads the text finds \p failure among the messages. */
     void refuse(const Failure &failure)
     {
         if (m_isJson) {
-            add({ topic(), failure.text(), Finding::Kind::Trouble, {} });
+            add({ topic(), failure.text(), Finding::Kind::Trouble });
             end(false);
         }
     }
@@ -74,59 +73,22 @@ private:
     QVector<Finding> m_findings;
 };
 
-Finding gridFinding(const GridChoice &grid, int photoCount)
-{
-    const int used = std::max(photoCount - grid.ignoredCount, 0);
-    return { QStringLiteral("grid"),
-             QStringLiteral("%1, %2, bracket %3, %4 ignored")
-                 .arg(counted(grid.rows, "row"),
-                      counted(used / grid.bracketCount / grid.rows, "column"),
-                      QString::number(grid.bracketCount), QString::number(grid.ignoredCount)),
-             Finding::Kind::Fact,
-             {} };
-}
-
-/** The photos that can be read; names the others. */
-QVector<PhotoInfo> readableInfos(Session &session, const QStringList &photos, Report &report)
-{
-    const JobWatch watch = session.watch();
-    QVector<PhotoInfo> infos;
-    for (const QString &photo : photos) {
-        watch.check();
-        const Result<PhotoInfo> info = session.app.photoInfo(photo);
-        if (info) {
-            infos += info.value();
-        } else {
-            report.add(badPhotoFinding(photo, info.error().why));
-        }
-        watch.report(infos.size(), photos.size(),
-                     QStringLiteral("reading %1").arg(QFileInfo(photo).fileName()));
-    }
-    session.console.endProgress();
-    return infos;
-}
-
 void check(Session &session, const ImportRequest &request, Report &report)
 {
-    if (request.grid) {
-        report.add(gridFinding(*request.grid, request.photos.size()));
-    }
     ImportJob job(session.app, request, session.watch());
-    job.openRecord();
-    if (!request.grid) {
-        report.add(recordFinding(request.record, job.record()));
+    const auto tell = [&] {
+        session.console.endProgress();
+        for (const Finding &finding : job.findings()) {
+            report.add(finding);
+        }
+    };
+    try {
+        job.examine();
+    } catch (const CommandError &) {
+        tell();
+        throw;
     }
-    job.findPhotos();
-    job.matchPhotos();
-    for (const Finding &finding : job.findings()) {
-        report.add(finding);
-    }
-    job.orderPhotos();
-    const QVector<PhotoInfo> photos = readableInfos(session, job.photos(), report);
-    for (const Finding &finding : photoFindings(photos, job.photos().size())) {
-        report.add(finding);
-    }
-    job.checkCounts();
+    tell();
     job.preparePage();
 }
 

@@ -39,6 +39,16 @@ int gridModeNamed(const QString &name)
     return mode < kGridModes ? mode : 0;
 }
 
+Finding gridFinding(const GridChoice &grid, int photoCount)
+{
+    const int used = std::max(photoCount - grid.ignoredCount, 0);
+    return { QStringLiteral("grid"),
+             QStringLiteral("%1, %2, bracket %3, %4 ignored")
+                 .arg(counted(grid.rows, "row"),
+                      counted(used / grid.bracketCount / grid.rows, "column"),
+                      QString::number(grid.bracketCount), QString::number(grid.ignoredCount)) };
+}
+
 void requireFullGrid(const GridChoice &grid, int photoCount)
 {
     const QString what = QStringLiteral("photos");

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "host/check/findings.h"
 #include "host/import/pagedriver.h"
 
 #include <optional>
@@ -22,6 +23,9 @@ struct GridChoice {
 /** The number of the shooting order \p name ("rows-up"), as `GridChoice` holds it; 0, the first,
  * for any other word. */
 [[nodiscard]] int gridModeNamed(const QString &name);
+
+/** What \p grid makes of \p photoCount photos. */
+[[nodiscard]] Finding gridFinding(const GridChoice &grid, int photoCount);
 
 /** Throws unless \p photoCount photos fill the grid: whole positions, as many in each row. */
 void requireFullGrid(const GridChoice &grid, int photoCount);

@@ -2,9 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/import/importjob.h"
 
-#include "host/import/inputcheck.h"
 #include "host/import/lenschoice.h"
-#include "host/import/photofit.h"
 #include "host/model/commanderror.h"
 #include "host/model/displayname.h"
 #include "hostlink/xiabout.h"
@@ -36,10 +34,8 @@ ImportJob::ImportJob(PanoHostApplication &app, ImportRequest request, JobWatch w
     : m_app(app)
     , m_request(std::move(request))
     , m_watch(std::move(watch))
+    , m_check(m_app, m_request, m_watch)
 {
-    if (m_request.head->isGrid()) {
-        m_request.fit.reset();
-    }
     m_app.photos().setReadsPictures(m_request.wantsLayout);
 }
 
@@ -49,106 +45,14 @@ ImportJob::~ImportJob()
     m_app.clearPathAliases();
 }
 
-void ImportJob::openRecord()
-{
-    if (m_request.head->isGrid()) {
-        return;
-    }
-    m_record = readRecord(*m_request.head, m_request.record,
-                          m_request.matchesPhotos ? &m_shots : nullptr);
-    for (const QString &remark : qAsConst(m_record.remarks)) {
-        m_watch.note(JobWatch::Note::Warning,
-                     QStringLiteral("%1: %2").arg(displayName(m_request.record), remark));
-    }
-}
-
-void ImportJob::findPhotos()
-{
-    m_photos = m_request.fit ? photosOf(*m_request.fit) : m_request.photos;
-    requirePhotoFiles(m_photos);
-    if (!m_request.fit && m_request.order == PhotoOrder::ByName) {
-        m_photos.sort(Qt::CaseSensitive);
-    }
-    m_app.photos().readAhead(m_photos);
-}
-
-void ImportJob::matchPhotos()
-{
-    if (m_shots.isEmpty() || m_request.fit) {
-        return;
-    }
-    QVector<Finding> bad;
-    QVector<PhotoInfo> photos;
-    photos.reserve(m_photos.size());
-    for (const QString &path : qAsConst(m_photos)) {
-        m_watch.check();
-        const Result<PhotoInfo> photo = m_app.photoInfo(path);
-        if (photo) {
-            photos += photo.value();
-        } else {
-            bad += badPhotoFinding(path, photo.error().why);
-        }
-        m_watch.report(photos.size(), m_photos.size(),
-                       QStringLiteral("reading %1").arg(QFileInfo(path).fileName()));
-    }
-    KnownLens lens = knownLensOf(photos);
-    if (!(lens.focal35mm > 0.0)) {
-        lens = { m_record.focal35mm, m_record.lens };
-    }
-    auto matched = fitPhotos({ displayName(m_request.record), m_shots, m_record.bracketCount },
-                             photos, lens);
-    if (!matched) {
-        // Photos that cannot be read are what is to be said first.
-        if (photos.size() == m_photos.size()) {
-            m_doubt = matched.error();
-        }
-        return;
-    }
-    PhotoFit found = std::move(matched).value();
-    if (!found.fit && photos.size() != m_photos.size()) {
-        found.fit.emplace();
-        for (const PhotoInfo &photo : qAsConst(photos)) {
-            *found.fit += FittedShot{ photo.path, 0, {} };
-        }
-    }
-    if (found.fit) {
-        m_request.fit = std::move(found.fit);
-        m_photos = photosOf(*m_request.fit);
-        m_findings = bad + found.findings;
-    }
-}
-
-void ImportJob::orderPhotos()
-{
-    if (!m_request.fit && m_request.order == PhotoOrder::ByTime) {
-        m_photos = orderedByTime(m_app, m_photos, m_watch);
-    }
-}
-
-void ImportJob::checkCounts() const
-{
-    if (m_doubt) {
-        throw CommandError(*m_doubt);
-    }
-    if (m_request.head->isGrid()) {
-        requireFullGrid(*m_request.grid, m_request.photos.size());
-    } else if (m_request.fit && photosOf(*m_request.fit).isEmpty()) {
-        throw inputRefused(displayName(m_request.record),
-                           QStringLiteral("none of its shots has a photo"),
-                           QStringLiteral("are these the photos of this shoot?"));
-    } else {
-        requireMatchingCounts(displayName(m_request.record), m_record,
-                              m_request.fit ? m_request.fit->size() : m_request.photos.size());
-    }
-}
-
 void ImportJob::checkInputs()
 {
-    openRecord();
-    findPhotos();
-    matchPhotos();
-    checkCounts();
-    orderPhotos();
+    m_check.require();
+}
+
+void ImportJob::examine()
+{
+    m_check.examine();
 }
 
 void ImportJob::preparePage()
@@ -162,7 +66,7 @@ void ImportJob::preparePage()
     m_page->choosePhotos(namesForPage());
     if (!m_standIns.isEmpty()) {
         // The page has remembered the place of the first one, which may be a stand-in's.
-        m_app.SetLastPath(m_photos.first());
+        m_app.SetLastPath(m_check.photos().first());
     }
     chooseLensFor(photoInfos());
     if (m_request.grid) {
@@ -190,10 +94,10 @@ const ImportPlugin &ImportJob::openPlugin()
 
 QStringList ImportJob::namesForPage()
 {
-    QStringList photos = m_photos;
-    if (m_request.fit) {
+    QStringList photos = m_check.photos();
+    if (m_check.fit()) {
         photos.clear();
-        for (const FittedShot &shot : *m_request.fit) {
+        for (const FittedShot &shot : *m_check.fit()) {
             photos += shot.photo;
         }
     } else if (!PhotoAliases::areNeeded(photos)) {
@@ -209,7 +113,7 @@ QStringList ImportJob::namesForPage()
     for (auto link = truePaths.begin(); link != truePaths.end(); ++link) {
         m_app.addPathAlias(link.key(), link.value());
     }
-    if (m_request.fit) {
+    if (m_check.fit()) {
         addStandIns(links);
     }
     return links;
@@ -218,7 +122,7 @@ QStringList ImportJob::namesForPage()
 void ImportJob::addStandIns(const QStringList &names)
 {
     const QVector<PhotoInfo> photos
-        = withStandIns(*m_request.fit, photoInfos(), m_record.bracketCount);
+        = withStandIns(*m_check.fit(), photoInfos(), m_check.record().bracketCount);
     for (int i = 0; i < names.size(); ++i) {
         PhotoInfo photo = photos.at(i);
         if (!photo.path.isEmpty()) {
@@ -233,8 +137,8 @@ void ImportJob::addStandIns(const QStringList &names)
 QVector<PhotoInfo> ImportJob::photoInfos() const
 {
     QVector<PhotoInfo> infos;
-    infos.reserve(m_photos.size());
-    for (const QString &photo : m_photos) {
+    infos.reserve(m_check.photos().size());
+    for (const QString &photo : m_check.photos()) {
         m_watch.check();
         infos += valueOrThrow(m_app.photoInfo(photo));
     }
@@ -243,7 +147,7 @@ QVector<PhotoInfo> ImportJob::photoInfos() const
 
 void ImportJob::chooseLensFor(const QVector<PhotoInfo> &photos)
 {
-    const KnownLens recordFacts{ m_record.focal35mm, m_record.lens };
+    const KnownLens recordFacts{ m_check.record().focal35mm, m_check.record().lens };
     const LensChoice choice = chooseLens(m_request, knownLensOf(photos), recordFacts);
     m_warnings += choice.warnings;
     if (!m_request.head->hasLens) {
@@ -285,9 +189,10 @@ QPixmap ImportJob::layout()
 Panorama ImportJob::handOver()
 {
     StructuredPanoramaProperties description = m_page->handOver();
-    if (m_request.fit) {
-        m_warnings += warningsOf(m_findings);
-        m_warnings += missingShotWarnings(*m_request.fit, description, m_record.bracketCount);
+    if (m_check.fit()) {
+        m_warnings += warningsOf(m_check.findings());
+        m_warnings
+            += missingShotWarnings(*m_check.fit(), description, m_check.record().bracketCount);
         description = withoutStandIns(std::move(description), m_standIns);
     }
     Panorama panorama = valueOrThrow(joinPanorama(
@@ -297,7 +202,8 @@ Panorama ImportJob::handOver()
     for (const QString &warning : qAsConst(panorama.warnings)) {
         m_watch.note(JobWatch::Note::Warning, warning);
     }
-    panorama.warnings = m_record.remarks + panorama.warnings; // those were said at the start
+    panorama.warnings
+        = m_check.record().remarks + panorama.warnings; // those were said at the start
     return panorama;
 }
 

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "host/check/findings.h"
 #include "host/import/importrequest.h"
 #include "host/import/pagedriver.h"
 #include "host/import/photoaliases.h"
+#include "host/import/shootcheck.h"
 #include "host/model/panorama.h"
 #include "host/plugin/pluginlibrary.h"
 
@@ -29,17 +29,10 @@ public:
     ImportJob(const ImportJob &) = delete;
     ImportJob &operator=(const ImportJob &) = delete;
 
-    /** Everything that can be said before the page gets record and photos: the next five. */
+    /** Everything that can be said before the page gets record and photos. */
     void checkInputs();
-    void openRecord();
-    /** Whether the files are there, which are then read ahead. */
-    void findPhotos();
-    /** After both, where it is wanted: which photo belongs to which shot. Photos that cannot be
-     * read count as missing. */
-    void matchPhotos();
-    /** After `openRecord`: whether the photos are as many as there are shots. */
-    void checkCounts() const;
-    void orderPhotos();
+    /** The same, and what record and photos say. */
+    void examine();
     /** Loads the library, fills its page, waits for the photos and sets the options. */
     void preparePage();
     /** After `preparePage`: the page's layout picture in full size. */
@@ -47,12 +40,8 @@ public:
     /** After `preparePage`: presses Next and joins what was delivered with the photos' data. */
     [[nodiscard]] Panorama handOver();
 
-    /** After `openRecord`; empty for heads without one. */
-    [[nodiscard]] const RecordSummary &record() const { return m_record; }
-    /** What `matchPhotos` has found. */
-    [[nodiscard]] const QVector<Finding> &findings() const { return m_findings; }
-    /** After `orderPhotos`: the photos in the order of the shots. */
-    [[nodiscard]] const QStringList &photos() const { return m_photos; }
+    /** What was found until now. */
+    [[nodiscard]] const QVector<Finding> &findings() const { return m_check.findings(); }
 
 private:
     [[nodiscard]] const ImportPlugin &openPlugin();
@@ -67,11 +56,7 @@ private:
     PanoHostApplication &m_app;
     ImportRequest m_request;
     JobWatch m_watch;
-    RecordSummary m_record;
-    QVector<NotedShot> m_shots;
-    QVector<Finding> m_findings;
-    std::optional<Failure> m_doubt; ///< which photo belongs to which shot
-    QStringList m_photos;
+    ShootCheck m_check;
     PhotoAliases m_aliases;
     QSet<QString> m_standIns; ///< names on the page
     QStringList m_warnings;

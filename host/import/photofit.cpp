@@ -80,10 +80,13 @@ private:
     {
         return QFileInfo(m_photos.at(photo).path).fileName();
     }
-    void tell(const char *topic, const QString &text, const QStringList &files,
-              Finding::Kind kind = Finding::Kind::Trouble)
+    Finding &tell(const char *topic, const QString &text, const QStringList &files = {},
+                  Finding::Kind kind = Finding::Kind::Trouble)
     {
-        m_findings += Finding{ QString::fromLatin1(topic), text, kind, files };
+        Finding finding{ QString::fromLatin1(topic), text, kind, files };
+        finding.sureness = m_match.sureness;
+        m_findings += finding;
+        return m_findings.last();
     }
 
     const RecordedShots &m_record;
@@ -150,6 +153,7 @@ void Fitter::chooseOfDoubled()
     constexpr double kClearly = 1.3;
     QStringList told;
     QStringList files;
+    QVector<int> shots;
     for (const QVector<int> &group : qAsConst(m_match.doubled)) {
         int best = group.last();
         for (const int photo : group) {
@@ -161,16 +165,17 @@ void Fitter::chooseOfDoubled()
         }
         const int shot = m_match.places[best].shot;
         m_match.photoOfShot[shot] = best;
+        shots += shot;
         told += QStringLiteral("%1 for shot %2").arg(nameOf(best)).arg(shot + 1);
     }
-    if (m_match.isBurst && !told.isEmpty()) {
-        tell("shots",
-             QStringLiteral("the camera took several photos for each shot: the last one of each is "
-                            "used"),
-             files);
-    } else if (!told.isEmpty()) {
-        tell("shots", QStringLiteral("taken more than once; used: %1").arg(listed(told)), files);
+    if (told.isEmpty()) {
+        return;
     }
+    const QString text = m_match.isBurst
+        ? QStringLiteral("the camera took several photos for each shot: the last one of each is "
+                         "used")
+        : QStringLiteral("taken more than once; used: %1").arg(listed(told));
+    tell("shots", text, files).shots = shots;
 }
 
 void Fitter::tellOrder()
@@ -181,16 +186,14 @@ void Fitter::tellOrder()
     case NamesAndTimes::Rollover:
         tell("shots",
              QStringLiteral("the camera's counter began again among these photos: they are ordered "
-                            "by time"),
-             {});
+                            "by time"));
         return;
     case NamesAndTimes::Restart:
         tell("shots",
-             QStringLiteral("photo numbers begin again (another card?): they are ordered by time"),
-             {});
+             QStringLiteral("photo numbers begin again (another card?): they are ordered by time"));
         return;
     case NamesAndTimes::Differ:
-        tell("shots", QStringLiteral("names and times disagree: photos are ordered by time"), {});
+        tell("shots", QStringLiteral("names and times disagree: photos are ordered by time"));
         return;
     }
 }
@@ -223,12 +226,15 @@ void Fitter::tellMissing()
     }
     const bool isEnd = missing.last() - missing.first() + 1 == missing.size()
         && missing.last() + 1 == m_match.photoOfShot.size();
-    tell("missing",
-         QStringLiteral("no photo for %1 %2%3")
-             .arg(missing.size() == 1 ? QStringLiteral("shot") : QStringLiteral("shots"),
-                  shotNumbers(missing),
-                  isEnd ? QStringLiteral(" (was the shoot stopped?)") : QString()),
-         {});
+    Finding &finding
+        = tell("missing",
+               QStringLiteral("no photo for %1 %2%3")
+                   .arg(missing.size() == 1 ? QStringLiteral("shot") : QStringLiteral("shots"),
+                        shotNumbers(missing),
+                        isEnd ? QStringLiteral(" (was the shoot stopped?)") : QString()));
+    finding.shots = missing;
+    finding.cure = QStringLiteral("take them again if you can");
+    finding.action = Finding::Action::Reshoot;
 }
 
 void Fitter::tellClock()

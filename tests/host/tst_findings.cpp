@@ -22,6 +22,7 @@ private Q_SLOTS:
     void onlyPausesThatStandOutAreNamed_data();
     void onlyPausesThatStandOutAreNamed();
     void jsonTellsTheSame();
+    void schemaIsTheOneInTheRepository();
 };
 
 namespace
@@ -79,8 +80,7 @@ void TestFindings::orderIsThatOfTheCaptureTimes_data()
     QTest::newRow("rising") << QVector<int>{ 5, 6, 9 } << agrees << false << QStringList();
     QTest::newRow("the same second") << QVector<int>{ 5, 5, 5 } << agrees << false << QStringList();
     QTest::newRow("back") << QVector<int>{ 5, 7, 6 }
-                          << QStringLiteral("P2.jpg was taken before P1.jpg; try --order time")
-                          << true
+                          << QStringLiteral("P2.jpg was taken before P1.jpg") << true
                           << QStringList{ QStringLiteral("/a/P1.jpg"),
                                           QStringLiteral("/a/P2.jpg") };
     QTest::newRow("without a time")
@@ -132,10 +132,34 @@ void TestFindings::jsonTellsTheSame()
     const QJsonObject order = rows.at(1).toObject();
     QCOMPARE(order.value(QStringLiteral("topic")).toString(), QStringLiteral("order"));
     QCOMPARE(order.value(QStringLiteral("text")).toString(),
-             QStringLiteral("P2.jpg was taken before P1.jpg; try --order time"));
+             QStringLiteral("P2.jpg was taken before P1.jpg"));
     QCOMPARE(order.value(QStringLiteral("trouble")).toBool(), true);
     QCOMPARE(order.value(QStringLiteral("files")).toArray(),
              (QJsonArray{ QStringLiteral("/a/P1.jpg"), QStringLiteral("/a/P2.jpg") }));
+    QCOMPARE(order.value(QStringLiteral("cure")).toString(), QStringLiteral("try --order time"));
+    QCOMPARE(order.value(QStringLiteral("action")).toString(), QStringLiteral("fit"));
+
+    Finding missing;
+    missing.shots = { 4, 11 };
+    missing.sureness = 0.75;
+    missing.action = Finding::Action::Reshoot;
+    const QJsonObject row = QJsonDocument::fromJson(findingsToJson({ missing }, true))
+                                .object()
+                                .value(QStringLiteral("findings"))
+                                .toArray()
+                                .at(0)
+                                .toObject();
+    // Photographers count from 1.
+    QCOMPARE(row.value(QStringLiteral("shots")).toArray(), (QJsonArray{ 5, 12 }));
+    QCOMPARE(row.value(QStringLiteral("sureness")).toDouble(), 0.75);
+    QCOMPARE(row.value(QStringLiteral("action")).toString(), QStringLiteral("reshoot"));
+}
+
+void TestFindings::schemaIsTheOneInTheRepository()
+{
+    QFile file(QStringLiteral(PANOHOST_CHECK_SCHEMA));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), findingsSchema());
 }
 
 TEST_CLASS(TestFindings, QCoreApplication)
