@@ -15,7 +15,7 @@ namespace
 
 constexpr int kWidest = 900;
 constexpr int kMostFeatures = 960; // ten for each cell
-constexpr size_t kKept = 8;
+constexpr size_t kKept = 64; // more than most rows of a grid have
 constexpr size_t kLeastPoints = 10; // by chance, wrong matches agree less often
 constexpr std::uint32_t kSeed = 1;
 
@@ -43,6 +43,12 @@ SeenTurns::SeenTurns(QVector<PhotoInfo> photos, double focal35mm, LensModel lens
 }
 
 std::optional<Eigen::Matrix3d> SeenTurns::between(int one, int other)
+{
+    const auto known = m_turns.find({ one, other });
+    return known != m_turns.end() ? known->second : m_turns[{ one, other }] = look(one, other);
+}
+
+std::optional<Eigen::Matrix3d> SeenTurns::look(int one, int other)
 {
     const PhotoInfo &first = m_photos.at(one);
     const PhotoInfo &second = m_photos.at(other);

@@ -8,8 +8,10 @@
 
 #include <QVector>
 
+#include <map>
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace PanoHost
@@ -18,7 +20,7 @@ namespace PanoHost
 /**
  * How the camera turned between photos, as the pictures show it: nothing else is known of where
  * they point. Each photo is read once, when it is first asked for, reduced; features of the last
- * few are kept, so ask for neighbours.
+ * few are kept, so ask for neighbours. What it has said of a pair it remembers.
  */
 class SeenTurns
 {
@@ -42,11 +44,13 @@ private:
         double sharpness = -1.0;
     };
     [[nodiscard]] std::shared_ptr<const Seen> seen(int number);
+    [[nodiscard]] std::optional<Eigen::Matrix3d> look(int one, int other);
 
     QVector<PhotoInfo> m_photos;
     double m_focal35mm;
     LensModel m_lens;
     std::vector<std::shared_ptr<const Seen>> m_last; ///< the latest first
+    std::map<std::pair<int, int>, std::optional<Eigen::Matrix3d>> m_turns; ///< that were asked for
 };
 
 } // namespace PanoHost

@@ -114,7 +114,7 @@ const QVector<HeadOption> &sharedOptions()
             "auto (default) finds out which photo belongs to which shot and imports shoots with "
             "missing, doubled or foreign photos; strict goes by names and refuses those",
             true },
-          withRecord },
+          anyHead },
     };
     return options;
 }

@@ -16,12 +16,13 @@ namespace PanoHost
 namespace
 {
 
-/** Shots without a photo are named one by one, once it is known where they point. */
-QStringList warningsOf(const QVector<Finding> &findings)
+/** Recorded shots without a photo are named one by one, once it is known where they point. */
+QStringList warningsOf(const QVector<Finding> &findings, bool withMissing)
 {
     QStringList warnings;
     for (const Finding &finding : findings) {
-        if (finding.kind == Finding::Kind::Trouble && finding.topic != QLatin1String("missing")) {
+        if (finding.kind == Finding::Kind::Trouble
+            && (withMissing || finding.topic != QLatin1String("missing"))) {
             warnings += finding.text;
         }
     }
@@ -119,10 +120,14 @@ QStringList ImportJob::namesForPage()
     return links;
 }
 
+int ImportJob::bracketCount() const
+{
+    return m_request.grid ? m_request.grid->bracketCount : m_check.record().bracketCount;
+}
+
 void ImportJob::addStandIns(const QStringList &names)
 {
-    const QVector<PhotoInfo> photos
-        = withStandIns(*m_check.fit(), photoInfos(), m_check.record().bracketCount);
+    const QVector<PhotoInfo> photos = withStandIns(*m_check.fit(), photoInfos(), bracketCount());
     for (int i = 0; i < names.size(); ++i) {
         PhotoInfo photo = photos.at(i);
         if (!photo.path.isEmpty()) {
@@ -190,9 +195,13 @@ Panorama ImportJob::handOver()
 {
     StructuredPanoramaProperties description = m_page->handOver();
     if (m_check.fit()) {
-        m_warnings += warningsOf(m_check.findings());
-        m_warnings
-            += missingShotWarnings(*m_check.fit(), description, m_check.record().bracketCount);
+        const bool isGrid = m_request.grid.has_value();
+        m_warnings += warningsOf(m_check.findings(), isGrid);
+        if (isGrid) {
+            m_wishes.missingCells = emptyPositions(description, m_standIns);
+        } else {
+            m_warnings += missingShotWarnings(*m_check.fit(), description, bracketCount());
+        }
         description = withoutStandIns(std::move(description), m_standIns);
     }
     Panorama panorama = valueOrThrow(joinPanorama(

@@ -48,6 +48,7 @@ private:
     [[nodiscard]] QStringList namesForPage();
     /** The application answers for shots without a photo, under the names that the page gets. */
     void addStandIns(const QStringList &names);
+    [[nodiscard]] int bracketCount() const;
     void chooseLensFor(const QVector<PhotoInfo> &photos);
     [[nodiscard]] QVector<PhotoInfo> photoInfos() const;
     void turnCamera();

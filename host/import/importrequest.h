@@ -46,8 +46,7 @@ struct ImportRequest {
     /** Photos are matched to the shots of the record first, by all that is known of them; ordered
      * by name only. */
     bool matchesPhotos = false;
-    /** Which photo belongs to which shot of the record: `photos` and `order` do not count then.
-     * For heads with a record only. */
+    /** Which photo belongs to which shot: `photos` and `order` do not count then. */
     std::optional<ShotFit> fit;
     ValueSource focalSource = ValueSource::Default;
     double focal35mm = 0.0; ///< when given

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/import/photofit.h"
 
-#include "host/align/seenturns.h"
 #include "host/check/shotmatch.h"
 #include "host/model/displayname.h"
 
@@ -52,24 +51,21 @@ QString shotNumbers(const QVector<int> &shots)
 class Fitter
 {
 public:
-    Fitter(const RecordedShots &record, const QVector<PhotoInfo> &photos, const KnownLens &lens)
-        : m_record(record)
-        , m_photos(photos)
-        , m_turns(photos, lens.focal35mm, lens.lens)
-        , m_match(matchShots(record.shots, record.bracketCount, photos, {}))
+    Fitter(const QVector<PhotoInfo> &photos, SeenTurns &turns, ShotMatch match)
+        : m_photos(photos)
+        , m_turns(turns)
+        , m_match(std::move(match))
     {
-        if (!isAsNamed() || m_match.usesTimes) {
-            m_match
-                = matchShots(record.shots, record.bracketCount, photos,
-                             [this](int one, int other) { return m_turns.between(one, other); });
-        }
     }
 
-    Result<PhotoFit> fit();
+    /** Whether each photo belongs to the next shot, as it has always been. */
+    [[nodiscard]] bool isAsNamed() const;
+    /** Why there is no saying which photo belongs to which shot of \p record. */
+    [[nodiscard]] std::optional<Failure> doubt(const RecordedShots &record) const;
+    [[nodiscard]] bool usesTimes() const { return m_match.usesTimes; }
+    [[nodiscard]] PhotoFit fit();
 
 private:
-    [[nodiscard]] bool isAsNamed() const;
-    [[nodiscard]] std::optional<Failure> doubt() const;
     void chooseOfDoubled();
     void tellOrder();
     void tellLeftOut(Kind kind, const QString &why);
@@ -89,17 +85,15 @@ private:
         return m_findings.last();
     }
 
-    const RecordedShots &m_record;
     const QVector<PhotoInfo> &m_photos;
-    SeenTurns m_turns;
+    SeenTurns &m_turns;
     ShotMatch m_match;
     QVector<Finding> m_findings;
 };
 
-/** Whether each photo belongs to the next shot, as it has always been. */
 bool Fitter::isAsNamed() const
 {
-    if (m_photos.size() != m_record.shots.size()) {
+    if (m_photos.size() != m_match.photoOfShot.size()) {
         return false;
     }
     for (int shot = 0; shot < m_match.photoOfShot.size(); ++shot) {
@@ -110,8 +104,7 @@ bool Fitter::isAsNamed() const
     return true;
 }
 
-/** Why there is no saying which photo belongs to which shot. */
-std::optional<Failure> Fitter::doubt() const
+std::optional<Failure> Fitter::doubt(const RecordedShots &record) const
 {
     // Of the photos of another shoot some happen to fit.
     constexpr double kLeastShare = 0.25;
@@ -137,9 +130,9 @@ std::optional<Failure> Fitter::doubt() const
                            .arg(inWords(other));
         }
     }
-    return Failure{ ExitCode::InputRefused, m_record.name,
+    return Failure{ ExitCode::InputRefused, record.name,
                     QStringLiteral("records %1, %2 given")
-                        .arg(counted(m_record.shots.size(), "shot"),
+                        .arg(counted(record.shots.size(), "shot"),
                              counted(m_photos.size(), "photo")),
                     QStringLiteral("which photo belongs to which shot cannot be told surely%1; "
                                    "take photos of other shoots away, or say the order with "
@@ -260,16 +253,8 @@ ShotFit Fitter::shotFit() const
     return fit;
 }
 
-Result<PhotoFit> Fitter::fit()
+PhotoFit Fitter::fit()
 {
-    if (isAsNamed()) {
-        return PhotoFit{};
-    }
-    if (const auto failure = doubt()) {
-        // Where only names tell anything, they have always told the order.
-        const bool isByName = !m_match.usesTimes && m_photos.size() == m_record.shots.size();
-        return isByName ? Result<PhotoFit>(PhotoFit{}) : *failure;
-    }
     chooseOfDoubled();
     tellOrder();
     tellLeftOut(Kind::InFront, QStringLiteral("before the first shot (a test?): left out"));
@@ -285,7 +270,30 @@ Result<PhotoFit> Fitter::fit()
 Result<PhotoFit> fitPhotos(const RecordedShots &record, const QVector<PhotoInfo> &photos,
                            const KnownLens &lens)
 {
-    return Fitter(record, photos, lens).fit();
+    SeenTurns turns(photos, lens.focal35mm, lens.lens);
+    const auto fitter = [&](const MeasureRotation &measure) {
+        return Fitter(photos, turns,
+                      matchShots(record.shots, record.bracketCount, photos, measure));
+    };
+    Fitter quick = fitter({});
+    if (quick.isAsNamed() && !quick.usesTimes()) {
+        return PhotoFit{};
+    }
+    Fitter asking = fitter([&](int one, int other) { return turns.between(one, other); });
+    if (asking.isAsNamed()) {
+        return PhotoFit{};
+    }
+    if (const auto failure = asking.doubt(record)) {
+        // Where only names tell anything, they have always told the order.
+        const bool isByName = !asking.usesTimes() && photos.size() == record.shots.size();
+        return isByName ? Result<PhotoFit>(PhotoFit{}) : *failure;
+    }
+    return asking.fit();
+}
+
+PhotoFit fitOf(const ShotMatch &match, const QVector<PhotoInfo> &photos, SeenTurns &turns)
+{
+    return Fitter(photos, turns, match).fit();
 }
 
 } // namespace PanoHost

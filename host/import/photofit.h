@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "host/align/seenturns.h"
 #include "host/check/findings.h"
 #include "host/check/knownlens.h"
+#include "host/check/shotmatch.h"
 #include "host/import/shotfit.h"
 #include "host/model/result.h"
 #include "importers/headfacts.h"
@@ -36,5 +38,8 @@ struct PhotoFit {
  */
 [[nodiscard]] Result<PhotoFit> fitPhotos(const RecordedShots &record,
                                          const QVector<PhotoInfo> &photos, const KnownLens &lens);
+/** \p match of \p photos put into words. */
+[[nodiscard]] PhotoFit fitOf(const ShotMatch &match, const QVector<PhotoInfo> &photos,
+                             SeenTurns &turns);
 
 } // namespace PanoHost

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/import/shootcheck.h"
 
+#include "host/import/gridfit.h"
 #include "host/import/inputcheck.h"
 #include "host/import/photofit.h"
 #include "host/model/commanderror.h"
@@ -17,9 +18,6 @@ ShootCheck::ShootCheck(PanoHostApplication &app, ImportRequest request, JobWatch
     , m_request(std::move(request))
     , m_watch(std::move(watch))
 {
-    if (m_request.head->isGrid()) {
-        m_request.fit.reset();
-    }
 }
 
 void ShootCheck::require()
@@ -36,6 +34,10 @@ void ShootCheck::examine()
     openRecord();
     findPhotos();
     matchPhotos();
+    if (m_request.grid) {
+        m_findings.prepend(gridFinding(
+            *m_request.grid, m_request.fit ? m_request.fit->size() : m_request.photos.size()));
+    }
     orderPhotos();
     lookAtPhotos();
     checkCounts();
@@ -44,7 +46,6 @@ void ShootCheck::examine()
 void ShootCheck::openRecord()
 {
     if (m_request.head->isGrid()) {
-        m_findings += gridFinding(*m_request.grid, m_request.photos.size());
         return;
     }
     m_record = readRecord(*m_request.head, m_request.record, &m_shots);
@@ -85,18 +86,25 @@ const QVector<PhotoInfo> &ShootCheck::readable()
     return *m_readable;
 }
 
+KnownLens ShootCheck::lensOf(const QVector<PhotoInfo> &photos) const
+{
+    const KnownLens lens = knownLensOf(photos);
+    if (m_request.focalSource == ValueSource::Given) {
+        return { m_request.focal35mm, lens.lens };
+    }
+    return lens.focal35mm > 0.0 ? lens : KnownLens{ m_record.focal35mm, m_record.lens };
+}
+
 void ShootCheck::matchPhotos()
 {
-    if (!m_request.matchesPhotos || m_shots.isEmpty() || m_request.fit) {
+    if (!m_request.matchesPhotos || m_request.fit || (m_shots.isEmpty() && !m_request.grid)) {
         return;
     }
     const QVector<PhotoInfo> &photos = readable();
-    KnownLens lens = knownLensOf(photos);
-    if (!(lens.focal35mm > 0.0)) {
-        lens = { m_record.focal35mm, m_record.lens };
-    }
-    auto matched = fitPhotos({ displayName(m_request.record), m_shots, m_record.bracketCount },
-                             photos, lens);
+    auto matched = m_request.grid
+        ? fitGrid(*m_request.grid, photos, lensOf(photos))
+        : fitPhotos({ displayName(m_request.record), m_shots, m_record.bracketCount }, photos,
+                    lensOf(photos));
     const bool allReadable = photos.size() == m_photos.size();
     if (!matched) {
         // Photos that cannot be read are what is to be said first.
@@ -110,7 +118,7 @@ void ShootCheck::matchPhotos()
         m_request.fit = std::move(found.fit);
         m_photos = photosOf(*m_request.fit);
         m_findings += found.findings;
-    } else if (!allReadable) {
+    } else if (!allReadable && !m_request.grid) {
         fitByNames();
     }
 }
@@ -157,7 +165,8 @@ void ShootCheck::checkCounts() const
         throw CommandError(*m_doubt);
     }
     if (m_request.head->isGrid()) {
-        requireFullGrid(*m_request.grid, m_request.photos.size());
+        requireFullGrid(*m_request.grid,
+                        m_request.fit ? m_request.fit->size() : m_request.photos.size());
     } else if (m_request.fit && photosOf(*m_request.fit).isEmpty()) {
         throw inputRefused(displayName(m_request.record),
                            QStringLiteral("none of its shots has a photo"),

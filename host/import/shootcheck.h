@@ -41,6 +41,8 @@ private:
     /** Photos that cannot be read count as missing. */
     void matchPhotos();
     void fitByNames();
+    /** Through which \p photos were taken, as far as it is known. */
+    [[nodiscard]] KnownLens lensOf(const QVector<PhotoInfo> &photos) const;
     void orderPhotos();
     void lookAtPhotos();
     void checkCounts() const;

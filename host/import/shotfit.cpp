@@ -139,6 +139,20 @@ QVector<PhotoInfo> withStandIns(const ShotFit &fit, const QVector<PhotoInfo> &ph
     return all;
 }
 
+QVector<qint32> emptyPositions(const StructuredPanoramaProperties &description,
+                               const QSet<QString> &standIns)
+{
+    QVector<qint32> empty;
+    for (int i = 0; i < description.imageGroups.size(); ++i) {
+        const QStringList &photos = description.imageGroups.at(i);
+        if (std::all_of(photos.begin(), photos.end(),
+                        [&](const QString &photo) { return standIns.contains(photo); })) {
+            empty += i;
+        }
+    }
+    return empty;
+}
+
 StructuredPanoramaProperties withoutStandIns(StructuredPanoramaProperties description,
                                              const QSet<QString> &standIns)
 {

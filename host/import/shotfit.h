@@ -24,7 +24,7 @@ struct FittedShot {
     std::optional<double> exposureValue;
 };
 
-/** All shots of a record, in its order. */
+/** All shots of a record or a grid, in its order. */
 using ShotFit = QVector<FittedShot>;
 
 /** The photos that there are, in the order of the shots. */
@@ -38,6 +38,10 @@ using ShotFit = QVector<FittedShot>;
  */
 [[nodiscard]] QVector<PhotoInfo> withStandIns(const ShotFit &fit, const QVector<PhotoInfo> &photos,
                                               int levels);
+
+/** The positions of \p description whose photos are all among \p standIns. */
+[[nodiscard]] QVector<qint32> emptyPositions(const StructuredPanoramaProperties &description,
+                                             const QSet<QString> &standIns);
 
 /**
  * \p description without the photos named in \p standIns. Positions that have no other photo go,

@@ -4,6 +4,7 @@
 
 #include "host/model/panorama.h"
 
+#include <QSet>
 #include <QtMath>
 
 #include <algorithm>
@@ -17,31 +18,6 @@ namespace
 {
 
 constexpr double kSteepestPitchDegrees = 85.0;
-
-struct Cell {
-    int row = 0;
-    int column = 0;
-};
-
-/** The cell that was shot as number \p shot, in the order \p mode. */
-Cell cellOfShot(int shot, int mode, int rows, int columns)
-{
-    switch (mode) {
-    case 1:
-        return { shot / columns, shot % columns };
-    case 2:
-        return { rows - 1 - shot / columns, shot % columns };
-    case 3:
-        return { shot % rows, columns - 1 - shot / rows };
-    case 4: {
-        const int level = shot / columns;
-        const int along = shot % columns;
-        return { rows - 1 - level, level % 2 == 0 ? along : columns - 1 - along };
-    }
-    default:
-        return { shot % rows, shot / rows };
-    }
-}
 
 double verticalFovDegrees(const QSize &frame, double horizontalDegrees, LensModel lens)
 {
@@ -62,25 +38,54 @@ QString gridModeName(int mode)
     return QLatin1String(kNames.at(static_cast<size_t>(std::clamp(mode, 0, kGridModes - 1))));
 }
 
+bool sweepsRows(int mode)
+{
+    return mode == 1 || mode == 2 || mode == 4;
+}
+
+GridCell gridCellOf(int shot, int mode, int rows, int columns)
+{
+    switch (mode) {
+    case 1:
+        return { shot / columns, shot % columns };
+    case 2:
+        return { rows - 1 - shot / columns, shot % columns };
+    case 3:
+        return { shot % rows, columns - 1 - shot / rows };
+    case 4: {
+        const int level = shot / columns;
+        const int along = shot % columns;
+        return { rows - 1 - level, level % 2 == 0 ? along : columns - 1 - along };
+    }
+    default:
+        return { shot % rows, shot / rows };
+    }
+}
+
 AssumedGrid assumedGrid(const StructuredPanoramaProperties &description, const QSize &frame,
-                        double focal35mm, LensModel lens)
+                        double focal35mm, LensModel lens, const QVector<qint32> &missing)
 {
     AssumedGrid layout;
     const int positions = description.imageGroups.size();
     if (positions == 0 || frame.isEmpty()) {
         return layout;
     }
-    const int rows = std::clamp(description.gridRows, 1, positions);
-    layout.columns = (positions + rows - 1) / rows;
+    const int cells = positions + missing.size();
+    const int rows = std::clamp(description.gridRows, 1, cells);
+    layout.columns = (cells + rows - 1) / rows;
     const double fov = horizontalFovDegrees(frame, focal35mm, lens);
     const double step = 1.0 - std::clamp(description.overlap, 0.0, 95.0) / 100.0;
     const double yawStep = description.gridWrap360 ? 360.0 / layout.columns : fov * step;
     const double pitchStep = verticalFovDegrees(frame, fov, lens) * step;
 
+    const QSet<qint32> isMissing(missing.begin(), missing.end());
     bool clamped = false;
     layout.directions.reserve(positions);
-    for (int shot = 0; shot < positions; ++shot) {
-        const Cell cell = cellOfShot(shot, description.gridMode, rows, layout.columns);
+    for (int shot = 0; shot < cells && layout.directions.size() < positions; ++shot) {
+        if (isMissing.contains(shot)) {
+            continue;
+        }
+        const GridCell cell = gridCellOf(shot, description.gridMode, rows, layout.columns);
         const double pitch = ((rows - 1) / 2.0 - cell.row) * pitchStep;
         clamped = clamped || std::abs(pitch) > kSteepestPitchDegrees;
         layout.directions.append(

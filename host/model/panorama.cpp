@@ -101,13 +101,6 @@ std::optional<Failure> takeAngles(const StructuredPanoramaProperties &descriptio
     return {};
 }
 
-/** The size of a photo once it is turned upright. */
-QSize uprightSize(const PhotoInfo &photo)
-{
-    return clockwiseDegrees(photo.orientation) % 180 == 0 ? photo.storedSize
-                                                          : photo.storedSize.transposed();
-}
-
 void takeGrid(Panorama &panorama, bool asStored)
 {
     const AssumedGrid grid = gridOf(panorama, panorama.description.gridMode, asStored);
@@ -119,6 +112,12 @@ void takeGrid(Panorama &panorama, bool asStored)
 }
 
 } // namespace
+
+QSize uprightSize(const PhotoInfo &photo)
+{
+    return clockwiseDegrees(photo.orientation) % 180 == 0 ? photo.storedSize
+                                                          : photo.storedSize.transposed();
+}
 
 QString lensName(LensModel lens)
 {
@@ -140,6 +139,7 @@ Result<Panorama> joinPanorama(const StructuredPanoramaProperties &description,
     Panorama panorama;
     panorama.source = source;
     panorama.description = description;
+    panorama.missingCells = wishes.missingCells;
     panorama.positions.reserve(description.imageGroups.size());
     for (const QStringList &group : description.imageGroups) {
         Position position;
@@ -179,7 +179,7 @@ AssumedGrid gridOf(const Panorama &panorama, int gridMode, bool ignoreExifRotati
     description.gridMode = gridMode;
     const PhotoInfo &first = panorama.positions.first().photos.first();
     return assumedGrid(description, ignoreExifRotation ? first.storedSize : uprightSize(first),
-                       panorama.focal35mm, panorama.lens);
+                       panorama.focal35mm, panorama.lens, panorama.missingCells);
 }
 
 double horizontalFovDegrees(const QSize &size, double focal35mm, LensModel lens)

@@ -22,6 +22,9 @@ using PanoHead::kFullFrameDiagonalMm;
 /** "standard", "fisheye" or "unknown". */
 [[nodiscard]] QString lensName(LensModel lens);
 
+/** The size of \p photo once it is turned upright. */
+[[nodiscard]] QSize uprightSize(const PhotoInfo &photo);
+
 /** Where a description came from. */
 struct SourceInfo {
     QString pluginUid;
@@ -50,6 +53,8 @@ struct Panorama {
     /** As delivered, but for `imageGroups` and the angles, which `positions` holds joined. */
     StructuredPanoramaProperties description;
     QVector<Position> positions;
+    /** Cells of a grid without a position, by their numbers in shooting order from 0. */
+    QVector<qint32> missingCells;
     /** The focal length to use, 35 mm equivalent: wished, described, or the photos' median. */
     double focal35mm = 0.0;
     /** The lens to use; never `NotChosen`. */
@@ -64,6 +69,7 @@ struct JoinWishes {
     LensModel lens = LensModel::NotChosen; ///< `NotChosen`: none
     /** Frames of a grid are as stored, whatever the photos' orientation. */
     bool ignoreExifRotation = false;
+    QVector<qint32> missingCells; ///< of a grid, as `Panorama` has them
 };
 
 /** Answers what is known about one photo. */

@@ -38,7 +38,8 @@ double fieldOfView(const Panorama &panorama)
 int gridColumns(const Panorama &panorama)
 {
     const int rows = panorama.description.gridRows;
-    return rows > 0 ? (panorama.positions.size() + rows - 1) / rows : 0;
+    const int cells = panorama.positions.size() + panorama.missingCells.size();
+    return rows > 0 ? (cells + rows - 1) / rows : 0;
 }
 
 constexpr auto kSourceFields = [](JsonFields &json, auto &source) {
@@ -109,6 +110,8 @@ constexpr auto kGridFields = [](JsonFields &json, auto &panorama) {
     json.field("mode", description.gridMode);
     json.field("rows", description.gridRows, "0: no grid");
     json.derived("columns", gridColumns(panorama), "follows from rows and positions; 0: no grid");
+    json.field("missing", panorama.missingCells,
+               "cells without a position, in shooting order from 0");
     json.field("bracketCount", description.gridBracketCount);
     json.field("wrap360", description.gridWrap360);
 };

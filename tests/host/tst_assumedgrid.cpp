@@ -58,6 +58,7 @@ private Q_SLOTS:
     void stepsAreTheFieldLessTheOverlap();
     void fullTurnIsDividedByTheColumns();
     void incompleteLastColumnCounts();
+    void missingCellsLeaveHoles();
     void steepRowsAreClampedAndSaid();
     void emptyGridsGiveNothing();
     void fisheyeRowsFollowTheAngle();
@@ -134,6 +135,19 @@ void AssumedGridTest::fisheyeRowsFollowTheAngle()
     // 36 / 12 rad = 171.887 degrees across, two thirds of that down.
     const AssumedGrid layout = assumedGrid(grid(2, 2, 0), kFrame, 12.0, LensModel::Fisheye);
     QVERIFY(near(layout.directions[0].pitchDegrees, 0.5 * 0.75 * 2.0 * 180.0 / M_PI));
+}
+
+void AssumedGridTest::missingCellsLeaveHoles()
+{
+    // Two rows, columns from the left: cells 1 (row 1, column 0) and 4 (row 0, column 2) of 6.
+    const AssumedGrid layout
+        = assumedGrid(grid(4, 2, 0), kFrame, 24.0, LensModel::Standard, { 1, 4 });
+    QCOMPARE(layout.columns, 3);
+    QCOMPARE(cells(layout, 2), QStringLiteral("00 01 11 12"));
+    // What is no cell says nothing but how many there are.
+    QCOMPARE(
+        assumedGrid(grid(4, 2, 0), kFrame, 24.0, LensModel::Standard, { -7, 99 }).directions.size(),
+        4);
 }
 
 TEST_CLASS(AssumedGridTest, QCoreApplication)

@@ -68,7 +68,7 @@ void PanoramaJsonTest::sampleIsWrittenWordForWord()
     {"type": 2, "positions": [0, 1]}
   ],
   "options": {"autoDetection": true, "stackLinking": "hard", "levelLinking": "all", "useRecordedLocation": true, "skipOptimization": false, "cleanWrongLinks": true, "overlapPercent": 80, "renderMode": -1},
-  "grid": {"mode": 0, "rows": 0, "columns": 0, "bracketCount": 1, "wrap360": false},
+  "grid": {"mode": 0, "rows": 0, "columns": 0, "missing": [], "bracketCount": 1, "wrap360": false},
   "reserved": {"values": [0, 0, 0], "flag1": false, "index1": -1, "text1": "", "text2": "", "flag3": false},
   "pto": {"yawCentreDeg": 356, "file": "pano.pto"},
   "warnings": [

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "tests/host/align/support/testshoot.h"
 #include "tests/host/cli/clibench.h"
 #include "tests/host/testphotos.h"
 #include "tests/support/testprogram.h"
@@ -39,6 +40,7 @@ private Q_SLOTS:
     void photosThatCannotBeReadCountAsMissing();
     void anUnsureShootIsRefusedWithBothReadings();
     void ordersAreObeyed();
+    void gridsAreCompletedWithHoles();
 
 private:
     /** A photo of \p shot by the name \p name. */
@@ -242,6 +244,49 @@ void TestCliFit::ordersAreObeyed()
     QCOMPARE(positions(fitted.out).first(), QStringLiteral("IMG_0012@0"));
     QVERIFY2(fitted.err.contains(QLatin1String("names and times disagree")),
              qPrintable(fitted.err));
+}
+
+void TestCliFit::gridsAreCompletedWithHoles()
+{
+    TestShoots::TestShoot shoot;
+    shoot.name = QStringLiteral("grid");
+    shoot.camera = PanoHost::Camera{ QSize(450, 300), 50.0 };
+    shoot.statedFocal35mm = 50.0;
+    shoot.noted = TestShoots::Noted::Grid;
+    setGrid(shoot, 3, 3, 35.0, 0.0);
+    const auto made = photographed(shoot, m_bench->path(QStringLiteral("grid")));
+    QVERIFY(made);
+    QStringList photos;
+    for (const PanoHost::Position &position : made.value().positions) {
+        photos += position.photos.first().path;
+    }
+    const auto importOf = [&](const QStringList &given, const QStringList &more = {}) {
+        return m_bench->run(QStringList{ QStringLiteral("import"), QStringLiteral("gigapan") }
+                            + given
+                            + QStringList{ QStringLiteral("--rows"), QStringLiteral("3"),
+                                           QStringLiteral("--json"), QStringLiteral("-") }
+                            + more);
+    };
+    QStringList expected = positions(importOf(photos).out);
+    expected.removeAt(4);
+    photos.removeAt(4);
+    const CliBench::Run run = importOf(photos);
+    QVERIFY2(run.exitCode == 0, qPrintable(run.err));
+    QVERIFY2(run.err.contains(QLatin1String("no photo for row 2 of column 2")),
+             qPrintable(run.err));
+    QCOMPARE(positions(run.out), expected);
+    const QJsonObject grid = QJsonDocument::fromJson(run.out.toUtf8())
+                                 .object()
+                                 .value(QStringLiteral("grid"))
+                                 .toObject();
+    QCOMPARE(grid.value(QStringLiteral("missing")).toArray(), QJsonArray{ 4 });
+    QCOMPARE(grid.value(QStringLiteral("columns")).toInt(), 3);
+    QCOMPARE(m_bench->leftovers(), QStringList());
+    const CliBench::Run strict
+        = importOf(photos, { QStringLiteral("--fit"), QStringLiteral("strict") });
+    QCOMPARE(strict.exitCode, 3);
+    QVERIFY2(strict.err.contains(QLatin1String("3 rows do not divide 8 photos evenly")),
+             qPrintable(strict.err));
 }
 
 TEST_CLASS(TestCliFit, QCoreApplication)
