@@ -164,16 +164,17 @@ void ShootCheck::checkCounts() const
     if (m_doubt) {
         throw CommandError(*m_doubt);
     }
-    if (m_request.head->isGrid()) {
-        requireFullGrid(*m_request.grid,
-                        m_request.fit ? m_request.fit->size() : m_request.photos.size());
-    } else if (m_request.fit && photosOf(*m_request.fit).isEmpty()) {
-        throw inputRefused(displayName(m_request.record),
+    if (m_request.fit && photosOf(*m_request.fit).isEmpty()) {
+        throw inputRefused(m_request.grid ? QStringLiteral("the grid")
+                                          : displayName(m_request.record),
                            QStringLiteral("none of its shots has a photo"),
                            QStringLiteral("are these the photos of this shoot?"));
+    }
+    const int shots = m_request.fit ? m_request.fit->size() : m_request.photos.size();
+    if (m_request.grid) {
+        requireFullGrid(*m_request.grid, shots);
     } else {
-        requireMatchingCounts(displayName(m_request.record), m_record,
-                              m_request.fit ? m_request.fit->size() : m_request.photos.size());
+        requireMatchingCounts(displayName(m_request.record), m_record, shots);
     }
 }
 

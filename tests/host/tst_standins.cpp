@@ -171,7 +171,7 @@ private Q_SLOTS:
     void placeOfThePhotosIsRemembered();
     void shootWithoutAnyPhotoIsRefused();
     void fitOfAnotherLengthIsRefused();
-    void gridTakesNoFit();
+    void gridsMayHaveHoles();
 
 private:
     [[nodiscard]] static PanoHostApplication &app() { return *PanoHostApplication::instance(); }
@@ -380,7 +380,7 @@ void StandInsTest::fitOfAnotherLengthIsRefused()
     QCOMPARE(shorter.error().code, ExitCode::InputRefused);
 }
 
-void StandInsTest::gridTakesNoFit()
+void StandInsTest::gridsMayHaveHoles()
 {
     const HeadFacts &head = headNamed(QStringLiteral("gigapan"));
     ImportRequest request;
@@ -392,8 +392,23 @@ void StandInsTest::gridTakesNoFit()
     request.pluginPath = QStringLiteral(PANOHOST_TEST_LIBRARY);
     request.grid = GridChoice();
     request.grid->rows = 2;
+    // Columns from the left: row 2 of column 1 and row 1 of column 3 are missing.
     request.fit = ShotFit(6);
-    QCOMPARE(photoCount(import(request)), 4);
+    int photo = 0;
+    for (const int shot : { 0, 2, 3, 5 }) {
+        (*request.fit)[shot].photo = request.photos.at(photo++);
+    }
+    const Panorama panorama = import(request);
+    QCOMPARE(photoCount(panorama), 4);
+    QCOMPARE(panorama.missingCells, (QVector<qint32>{ 1, 4 }));
+    const QVector<Position> &found = panorama.positions;
+    QCOMPARE(found.at(1).yawDegrees, found.at(2).yawDegrees); // column 2
+    QCOMPARE(found.at(0).pitchDegrees, found.at(1).pitchDegrees); // row 1
+    QCOMPARE(found.at(2).pitchDegrees, found.at(3).pitchDegrees); // row 2
+    QVERIFY(found.at(0).yawDegrees < found.at(1).yawDegrees);
+
+    request.fit = ShotFit(6);
+    QVERIFY_EXCEPTION_THROWN(import(request), CommandError);
 }
 
 TEST_CLASS(StandInsTest, PanoHostApplication)
