@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <set>
 
 namespace PanoHost
@@ -186,8 +187,16 @@ std::vector<ClockLine> Candidates::best(int most)
     const double same = std::max(kSameSeconds, m_slack / 8.0);
     const double first = m_shots.rising.front();
     const double last = m_shots.rising.back();
+    // Of many photos the samples speak for all: what misses them by a second each is hopeless.
+    constexpr int kMany = 300;
+    const double mostMisfit = std::min(count(m_photos), count(m_shots)) < kMany
+        ? HUGE_VAL
+        : m_all.front().misfit + kSamples;
     std::vector<ClockLine> lines;
     for (const Candidate &candidate : m_all) {
+        if (candidate.misfit > mostMisfit) {
+            break;
+        }
         const bool isNew = std::none_of(lines.begin(), lines.end(), [&](const ClockLine &line) {
             return std::abs(line.cameraSeconds(first) - candidate.line.cameraSeconds(first)) < same
                 && std::abs(line.cameraSeconds(last) - candidate.line.cameraSeconds(last)) < same;
@@ -248,6 +257,56 @@ ClockLine fittedLine(const ClockLine &line, const ShotClock &photos, const ShotC
         fitted.offset = (sumY - fitted.drift * sumX) / weights;
     }
     return fitted;
+}
+
+double costInOrder(const ShotClock &photos, const ShotClock &shots, double drift,
+                   double toleranceSeconds)
+{
+    constexpr double kUselessCost = 4.0; // for each time that says nothing
+    constexpr double kSetCost = 8.0;
+    constexpr double kNudgedCost = 12.0; // a clock is set by minutes at least, but for telephones
+    constexpr double kNudgeSeconds = 60.0;
+    constexpr std::size_t kMostOffsets = 24;
+    std::vector<double> offsets;
+    std::map<double, int> counts;
+    for (std::size_t i = 0; i < std::min(photos.seconds.size(), shots.seconds.size()); ++i) {
+        const double head = shots.seconds[i];
+        const double offset = photos.seconds[i] - head - drift * (head - shots.rising.front());
+        if (std::isfinite(offset)) {
+            offsets.push_back(offset);
+            ++counts[std::round(offset)];
+        }
+    }
+    std::vector<std::pair<int, double>> often;
+    often.reserve(counts.size());
+    for (const auto &[offset, count] : counts) {
+        often.emplace_back(-count, offset);
+    }
+    std::sort(often.begin(), often.end());
+    often.resize(std::min(often.size(), kMostOffsets));
+    const double slack = photos.slackSeconds + shots.slackSeconds;
+    std::vector<double> costs;
+    costs.reserve(often.size());
+    for (const auto &candidate : often) {
+        costs.push_back(costOfLine({ candidate.second, drift, shots.rising.front() }, shots));
+    }
+    for (const double offset : offsets) {
+        std::vector<double> next;
+        next.reserve(often.size());
+        for (std::size_t to = 0; to < often.size(); ++to) {
+            double least = costs[to];
+            for (std::size_t from = 0; from < often.size(); ++from) {
+                const double step = std::abs(often[to].second - often[from].second);
+                least = std::min(least,
+                                 costs[from] + (step < kNudgeSeconds ? kNudgedCost : kSetCost));
+            }
+            const double away = std::max(0.0, std::abs(offset - often[to].second) - slack);
+            next.push_back(least + std::min(kMostMisfit, std::pow(away / toleranceSeconds, 2.0)));
+        }
+        costs = std::move(next);
+    }
+    const double useless = kUselessCost * static_cast<double>(offsets.size());
+    return costs.empty() ? 0.0 : std::min(useless, *std::min_element(costs.begin(), costs.end()));
 }
 
 double costOfLine(const ClockLine &line, const ShotClock &shots)

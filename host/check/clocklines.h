@@ -23,4 +23,10 @@ namespace PanoHost
  */
 [[nodiscard]] double costOfLine(const ClockLine &line, const ShotClock &shots);
 
+/** How unlikely the times are when photo i was taken for shot i, and \p drift is right; the
+ * camera's clock may have been set on the way, photos may have wild times, or all times may say
+ * nothing. */
+[[nodiscard]] double costInOrder(const ShotClock &photos, const ShotClock &shots, double drift,
+                                 double toleranceSeconds);
+
 } // namespace PanoHost

@@ -196,11 +196,13 @@ public:
         , m_patterns(exposurePatterns(evidence.exposures, bracketCount))
     {
         if (evidence.photos.isUsable && evidence.shots.isUsable) {
-            constexpr int kMostLines = 6;
-            for (const ClockLine &line : clockLines(evidence.photos, evidence.shots, kMostLines)) {
+            const int most = evidence.isLong() ? 3 : 6;
+            for (const ClockLine &line : clockLines(evidence.photos, evidence.shots, most)) {
                 m_clocks.emplace_back(line);
             }
-            m_clocks.emplace_back(ClockLine{ 0.0, 0.0, evidence.shots.rising.front() });
+            if (!evidence.isLong()) {
+                m_clocks.emplace_back(ClockLine{ 0.0, 0.0, evidence.shots.rising.front() });
+            }
         } else {
             m_clocks.emplace_back();
         }
@@ -270,8 +272,8 @@ Attempt Reader::refined(const Attempt &rough, double toleranceSeconds) const
     fitted.clock
         = fittedLine(*same.clock, m_evidence.photos, m_evidence.shots, rough.paths.best.shots);
     const bool isKnown = toleranceSeconds == rough.assumption.toleranceSeconds;
-    Attempt one = isKnown ? rough : attempt(same);
     Attempt other = attempt(fitted);
+    Attempt one = isKnown ? rough : attempt(same);
     return other.paths.best.cost <= one.paths.best.cost ? other : one;
 }
 
@@ -289,14 +291,29 @@ Reading Reader::read() const
     }
     const std::vector<double> pattern = cheapest()->assumption.levelExposures;
     // In a long shoot that agrees throughout no other clock is left to be tried.
-    constexpr int kLong = 300;
-    const bool agrees = m_evidence.photoCount() >= kLong
+    const bool agrees = m_evidence.isLong()
         && isOneToOne(cheapest()->paths.best.shots, m_evidence.shotCount())
         && cheapest()->paths.best.cost < m_evidence.photoCount();
     for (std::size_t i = 1; i < m_clocks.size() && !agrees; ++i) {
         attempts.push_back(attempt({ m_clocks[i], 1.0, pattern }));
     }
-    if (m_clocks.front()) {
+    if (m_clocks.front() && m_evidence.isLong()) {
+        // Where so many agree, the others are far behind or as good as they are.
+        constexpr double kFarBehind = 100.0;
+        const double most = cheapest()->paths.best.cost + kFarBehind;
+        Attempt &best = *cheapest();
+        best.assumption.clock = fittedLine(*best.assumption.clock, m_evidence.photos,
+                                           m_evidence.shots, best.paths.best.shots);
+        const double tolerance = toleranceOf(best);
+        attempts.erase(
+            std::remove_if(attempts.begin(), attempts.end(),
+                           [&](const Attempt &each) { return each.paths.best.cost > most; }),
+            attempts.end());
+        for (Attempt &each : attempts) {
+            each.assumption.toleranceSeconds = tolerance;
+            each = attempt(each.assumption);
+        }
+    } else if (m_clocks.front()) {
         const Attempt rough = refined(*cheapest(), 1.0);
         const double tolerance = toleranceOf(rough);
         std::set<std::vector<int>> seen;
@@ -340,6 +357,8 @@ public:
     [[nodiscard]] ShotMatch match();
 
 private:
+    [[nodiscard]] double secondsOf(int photo) const;
+    [[nodiscard]] bool hasWildTime(std::size_t rank) const;
     void orderPhotos();
     [[nodiscard]] ShotEvidence evidenceOf(const std::vector<int> &order) const;
     [[nodiscard]] std::vector<std::vector<int>> cameras() const;
@@ -352,6 +371,18 @@ private:
     [[nodiscard]] NamesAndTimes namesAndTimes() const;
     void weighDoubts();
     void weighNames();
+    /** Of photos that are each taken for the next shot by name. */
+    struct SeenAsNamed {
+        double cost = 0.0;
+        int confirmed = 0;
+        int refuted = 0;
+    };
+    [[nodiscard]] std::vector<int> placesAsNamed() const;
+    [[nodiscard]] double costAsNamed() const;
+    [[nodiscard]] SeenAsNamed lookAsNamed(const std::vector<int> &places);
+    void weighAsNamed();
+    [[nodiscard]] bool strangersFitMissingShots();
+    [[nodiscard]] const std::optional<Eigen::Matrix3d> &turn(int one, int other);
     void rival(const std::vector<int> &shots, double margin);
     [[nodiscard]] int takenCount() const;
     [[nodiscard]] bool isComplete() const;
@@ -366,6 +397,7 @@ private:
     std::vector<int> m_levels;
     NameOrder m_names;
     std::vector<int> m_nameRank; ///< by photo
+    std::vector<double> m_seconds; ///< by photo; NaN: not known, or wild
     std::vector<int> m_all; ///< photos as they were taken
     std::vector<int> m_order; ///< those of the camera that took the shoot
     ShotEvidence m_evidence; ///< of these
@@ -374,6 +406,9 @@ private:
     QVector<int> m_second; ///< by photo
     NamesAndTimes m_namesAndTimes = NamesAndTimes::Agree;
     bool m_neededPictures = false;
+    bool m_refutesNames = false;
+    bool m_isSetOnTheWay = false;
+    std::map<std::pair<int, int>, std::optional<Eigen::Matrix3d>> m_turns; ///< by photos
 };
 
 Matcher::Matcher(const QVector<PanoHead::NotedShot> &shots, int bracketCount,
@@ -392,6 +427,26 @@ Matcher::Matcher(const QVector<PanoHead::NotedShot> &shots, int bracketCount,
     orderPhotos();
 }
 
+double Matcher::secondsOf(int photo) const
+{
+    return static_cast<double>(m_photos.at(photo).timeMs) / 1000.0;
+}
+
+/** Whether the photo of \p rank by name was counted between two of quite another time. */
+bool Matcher::hasWildTime(std::size_t rank) const
+{
+    if (rank < 1 || rank + 1 >= m_names.counted.size()) {
+        return false;
+    }
+    const int before = m_names.counted[rank - 1];
+    const int photo = m_names.counted[rank];
+    const int after = m_names.counted[rank + 1];
+    const auto path = [this](int of) { return m_photos.at(of).path; };
+    return isWildTime(secondsOf(before), secondsOf(photo), secondsOf(after))
+        && isCountedNext(path(before), path(photo), 1)
+        && isCountedNext(path(photo), path(after), 1);
+}
+
 /** By time, and by name where the times are the same or missing. */
 void Matcher::orderPhotos()
 {
@@ -401,12 +456,16 @@ void Matcher::orderPhotos()
     }
     m_names = nameOrderOf(paths);
     m_nameRank.resize(m_photos.size());
-    std::vector<qint64> times(m_photos.size(), 0);
-    qint64 before = 0;
+    m_seconds.resize(m_photos.size(), kUnknown);
+    std::vector<double> times(m_photos.size());
+    double before = -std::numeric_limits<double>::infinity();
     for (std::size_t rank = 0; rank < m_names.counted.size(); ++rank) {
         const int photo = m_names.counted[rank];
         m_nameRank[photo] = static_cast<int>(rank);
-        before = m_photos.at(photo).timeMs != 0 ? m_photos.at(photo).timeMs : before;
+        if (m_photos.at(photo).timeMs != 0 && !hasWildTime(rank)) {
+            m_seconds[photo] = secondsOf(photo);
+            before = m_seconds[photo];
+        }
         times[photo] = before;
     }
     m_all = m_names.counted;
@@ -420,7 +479,7 @@ ShotEvidence Matcher::evidenceOf(const std::vector<int> &order) const
     std::vector<double> seconds;
     for (int photo : order) {
         const PhotoInfo &info = m_photos.at(photo);
-        seconds.push_back(info.timeMs == 0 ? kUnknown : static_cast<double>(info.timeMs) / 1000.0);
+        seconds.push_back(m_seconds[photo]);
         evidence.exposures.push_back(info.exposureValue.value_or(kUnknown));
     }
     evidence.photos = shotClockOf(std::move(seconds));
@@ -560,7 +619,8 @@ std::set<int> Matcher::doubtfulPlaces() const
         const int before = k > 0 ? shots[k - 1] : -1;
         const bool isStrange = shots[k] < 0;
         // Within another shoot nothing is to be learnt.
-        if ((isStrange && before >= 0) || (!isStrange && shots[k] != last + 1)
+        const bool isNext = shots[k] == last + 1 || (m_evidence.isBurst && shots[k] == last);
+        if ((isStrange && before >= 0) || (!isStrange && !isNext)
             || (!isStrange && k > 0 && before < 0) || (k > 0 && isHasty(k))) {
             lookAround(k);
         }
@@ -583,6 +643,9 @@ std::set<int> Matcher::doubtfulPlaces() const
 
 void Matcher::lookUpRotations()
 {
+    if (!m_evidence.rotations.empty()) {
+        return;
+    }
     std::vector<double> cosines;
     for (const PanoHead::NotedShot &shot : m_shots) {
         const Eigen::Matrix3d rotation
@@ -601,6 +664,16 @@ void Matcher::lookUpRotations()
     }
 }
 
+/** What pictures say of two photos; they are asked once. */
+const std::optional<Eigen::Matrix3d> &Matcher::turn(int one, int other)
+{
+    const auto [at, isNew] = m_turns.try_emplace({ one, other });
+    if (isNew) {
+        at->second = m_measure(one, other);
+    }
+    return at->second;
+}
+
 void Matcher::askPictures()
 {
     constexpr int kRounds = 5;
@@ -609,15 +682,13 @@ void Matcher::askPictures()
         for (int k : doubtfulPlaces()) {
             if (m_evidence.measured.count(k) == 0) {
                 isNew = true;
-                m_evidence.measured[k] = m_measure(m_order[k - 1], m_order[k]);
+                m_evidence.measured[k] = turn(m_order[k - 1], m_order[k]);
             }
         }
         if (!isNew) {
             return;
         }
-        if (m_evidence.rotations.empty()) {
-            lookUpRotations();
-        }
+        lookUpRotations();
         m_reading = Reader(m_evidence, m_bracketCount).read();
     }
 }
@@ -701,9 +772,171 @@ void Matcher::weighNames()
     }
 }
 
+/** The places in the order of names, from 1, where the reading has another photo before, or another
+ * shot: all of few, else evenly spread. */
+std::vector<int> Matcher::placesAsNamed() const
+{
+    constexpr std::size_t kMost = 32;
+    std::vector<int> shotOf(m_photos.size(), -1);
+    for (std::size_t k = 0; k < m_order.size(); ++k) {
+        shotOf[m_order[k]] = m_reading.best.paths.best.shots[k];
+    }
+    std::vector<int> all;
+    for (int k = 1; k < static_cast<int>(m_names.counted.size()); ++k) {
+        if (shotOf[m_names.counted[k - 1]] != k - 1 || shotOf[m_names.counted[k]] != k) {
+            all.push_back(k);
+        }
+    }
+    std::vector<int> places;
+    for (std::size_t i = 0; i < std::min(all.size(), kMost); ++i) {
+        places.push_back(all[i * all.size() / std::min(all.size(), kMost)]);
+    }
+    return places;
+}
+
+/** What is unlikely about each photo being of the next shot by its name, but for the pictures. */
+double Matcher::costAsNamed() const
+{
+    const std::vector<int> &order = m_names.counted;
+    const ShotAssumption &assumption = m_reading.best.assumption;
+    double cost = 0.0;
+    if (assumption.clock) {
+        const ShotEvidence named = evidenceOf(order);
+        const auto costOf = [&](double drift) {
+            return costInOrder(named.photos, m_shotClock, drift, assumption.toleranceSeconds);
+        };
+        cost += std::min(costOf(0.0), costOf(assumption.clock->drift));
+    }
+    for (std::size_t k = 0; k < order.size() && !assumption.levelExposures.empty(); ++k) {
+        cost += exposureCost(m_photos.at(order[k]).exposureValue.value_or(kUnknown),
+                             assumption.levelExposures[m_levels[k]]);
+    }
+    return cost;
+}
+
+/** Has pictures say whether photos are of the shots that their names say, around \p places in the
+ * order of names. */
+Matcher::SeenAsNamed Matcher::lookAsNamed(const std::vector<int> &places)
+{
+    constexpr double kClearly = 9.0;
+    SeenAsNamed seen;
+    if (!m_measure) {
+        return seen;
+    }
+    lookUpRotations();
+    const std::vector<int> &order = m_names.counted;
+    const std::size_t asked = m_evidence.measured.size();
+    for (int k : places) {
+        const auto &measured = turn(order[k - 1], order[k]);
+        const auto at = std::find(m_order.begin() + 1, m_order.end(), order[k]);
+        if (*(at - 1) == order[k - 1]) {
+            m_evidence.measured.emplace(static_cast<int>(at - m_order.begin()), measured);
+        }
+        if (measured) {
+            const std::vector<Eigen::Matrix3d> &rotations = m_evidence.rotations;
+            const double cost = turnCost(rotations[k] * *measured, rotations[k - 1]);
+            seen.cost += cost;
+            ++(cost < kClearly ? seen.confirmed : seen.refuted);
+        }
+    }
+    if (m_evidence.measured.size() > asked) {
+        m_reading = Reader(m_evidence, m_bracketCount).read();
+    }
+    return seen;
+}
+
+/** As many photos as shots: each may be of the next shot by its name, however wild its time is. */
+void Matcher::weighAsNamed()
+{
+    constexpr double kHopeless = 20.0;
+    constexpr double kUnsure = 4.0;
+    constexpr double kSettled = 6.0;
+    const int n = m_photos.size();
+    const std::vector<int> places = placesAsNamed();
+    if (n != m_shots.size() || n != static_cast<int>(m_order.size()) || places.empty()) {
+        return;
+    }
+    std::vector<int> shots;
+    for (int photo : m_order) {
+        shots.push_back(m_nameRank[photo]);
+    }
+    const double unseen = costAsNamed() - m_reading.best.paths.best.cost;
+    if (unseen > kHopeless) {
+        rival(shots, unseen);
+        return;
+    }
+    const SeenAsNamed seen = lookAsNamed(places);
+    const double margin = m_reading.best.paths.best.cost - costAsNamed() - seen.cost;
+    m_refutesNames = seen.refuted > 0 && margin <= -kSettled;
+    if (margin <= 0.0) {
+        rival(shots, -margin);
+        return;
+    }
+    m_second = CameraReading{ m_order, {}, {} }.byPhoto(m_reading.best.paths.best.shots, n);
+    m_reading.second.shots.clear();
+    m_reading.margin = seen.confirmed > 0 && seen.refuted == 0 ? margin : std::min(kUnsure, margin);
+    m_reading.best.paths.best.shots = m_levels;
+    std::iota(m_reading.best.paths.best.shots.begin(), m_reading.best.paths.best.shots.end(), 0);
+    m_order = m_names.counted;
+    m_namesAndTimes = m_order == m_names.sorted ? NamesAndTimes::Agree : NamesAndTimes::Rollover;
+    m_evidence.measured.clear();
+    for (int k = 1; k < n; ++k) {
+        const auto known = m_turns.find({ m_order[k - 1], m_order[k] });
+        if (known != m_turns.end()) {
+            m_evidence.measured.emplace(k, known->second);
+        }
+    }
+}
+
+/** Whether photos that are of no shot turn as the shots do that have no photo: when the camera's
+ * clock was set on the way, the rest of the shoot looks like another one. */
+bool Matcher::strangersFitMissingShots()
+{
+    constexpr double kClearly = 9.0;
+    constexpr std::size_t kMost = 12;
+    const std::vector<int> &shots = m_reading.best.paths.best.shots;
+    std::vector<bool> isMissing(m_shots.size(), true);
+    for (int shot : shots) {
+        if (shot >= 0) {
+            isMissing[shot] = false;
+        }
+    }
+    std::vector<int> missing; // with the one before
+    for (int shot = 1; shot < m_shots.size(); ++shot) {
+        if (isMissing[shot] && isMissing[shot - 1] && m_levels[shot] == m_levels[shot - 1]) {
+            missing.push_back(shot);
+        }
+    }
+    std::vector<int> strangers; // the same
+    for (int k = 1; k < static_cast<int>(shots.size()); ++k) {
+        if (shots[k] < 0 && shots[k - 1] < 0) {
+            strangers.push_back(k);
+        }
+    }
+    if (!m_measure || missing.empty() || strangers.empty()) {
+        return false;
+    }
+    lookUpRotations();
+    const std::size_t asked = std::min(kMost, strangers.size());
+    int alike = 0;
+    int unlike = 0;
+    for (std::size_t i = 0; i < asked; ++i) {
+        const int k = strangers[i * strangers.size() / asked];
+        if (const auto &measured = turn(m_order[k - 1], m_order[k])) {
+            const std::vector<Eigen::Matrix3d> &rotations = m_evidence.rotations;
+            const bool isAlike = std::any_of(missing.begin(), missing.end(), [&](int shot) {
+                return turnCost(rotations[shot] * *measured, rotations[shot - 1]) < kClearly;
+            });
+            ++(isAlike ? alike : unlike);
+        }
+    }
+    return alike > 2 * unlike;
+}
+
 /** What the costs of a path do not know. */
 void Matcher::weighDoubts()
 {
+    m_isSetOnTheWay = strangersFitMissingShots();
     if (isComplete()) {
         constexpr double kUsual = 2.0; // most shoots are sound
         m_reading.margin += kUsual;
@@ -712,15 +945,7 @@ void Matcher::weighDoubts()
     const std::vector<int> &shots = m_reading.best.paths.best.shots;
     const int n = static_cast<int>(shots.size());
     const int m = m_evidence.shotCount();
-    std::vector<int> inOrder(n);
-    std::iota(inOrder.begin(), inOrder.end(), 0);
-    const int strangers = n - takenCount();
-    // As many photos as shots, and yet several are to be of no shot: a clock that was put right on
-    // the way looks like that.
-    if (n == m && strangers > 1) {
-        rival(inOrder, 0.0);
-    }
-    if (2 * takenCount() < std::min(n, m)) {
+    if (2 * takenCount() < std::min(n, m) || m_isSetOnTheWay) {
         m_reading.margin = 0.0;
     }
     const int count = m_photos.size();
@@ -781,6 +1006,7 @@ ShotMatch Matcher::result() const
         ClockDifference difference;
         difference.seconds = assumption.clock->offset;
         difference.secondsPerMinute = assumption.clock->drift * 60.0;
+        difference.minutes = (m_shotClock.rising.back() - m_shotClock.rising.front()) / 60.0;
         const double quarters = std::round(difference.seconds / kQuarterHour);
         if (std::abs(difference.seconds - quarters * kQuarterHour) <= kFewSeconds) {
             difference.hours = quarters / 4.0;
@@ -791,7 +1017,10 @@ ShotMatch Matcher::result() const
     match.sureness = 1.0 / (1.0 + std::exp(-m_reading.margin / 2.0));
     match.secondReading = m_second;
     match.neededPictures = m_neededPictures;
-    match.measuredPairs = static_cast<int>(m_evidence.measured.size());
+    match.measuredPairs = static_cast<int>(m_turns.size());
+    match.refutesNames = m_refutesNames;
+    match.doubtsTimes
+        = m_isSetOnTheWay || 2 * takenCount() < std::min(m_photos.size(), m_shots.size());
     return match;
 }
 
@@ -809,6 +1038,7 @@ ShotMatch Matcher::match()
     if (m_neededPictures && m_measure) {
         askPictures();
     }
+    weighAsNamed();
     weighDoubts();
     return result();
 }
@@ -831,7 +1061,32 @@ bool ShotMatch::isComplete() const
 ShotMatch matchShots(const QVector<PanoHead::NotedShot> &shots, int bracketCount,
                      const QVector<PhotoInfo> &photos, const MeasureRotation &measure)
 {
-    return Matcher(shots, bracketCount, photos, measure).match();
+    ShotMatch match = Matcher(shots, bracketCount, photos, measure).match();
+    if (match.isSure() || !match.usesTimes || !measure) {
+        return match;
+    }
+    // Times may be wild: names and pictures alone may tell.
+    QVector<PhotoInfo> timeless = photos;
+    for (PhotoInfo &photo : timeless) {
+        photo.timeMs = 0;
+    }
+    ShotMatch other = Matcher(shots, bracketCount, timeless, measure).match();
+    const auto isReadAs = [&other](const QVector<int> &reading) {
+        return std::equal(reading.begin(), reading.end(), other.places.begin(), other.places.end(),
+                          [](int shot, const PhotoPlace &place) { return shot == place.shot; });
+    };
+    QVector<int> first;
+    for (const PhotoPlace &place : qAsConst(match.places)) {
+        first += place.shot;
+    }
+    match.measuredPairs += other.measuredPairs;
+    match.refutesNames |= other.refutesNames;
+    if (!other.isSure()
+        || !(match.doubtsTimes || isReadAs(first) || isReadAs(match.secondReading))) {
+        return match;
+    }
+    other.measuredPairs = match.measuredPairs;
+    return other;
 }
 
 } // namespace PanoHost

@@ -41,6 +41,7 @@ struct PhotoPlace {
 struct ClockDifference {
     double seconds = 0.0; ///< camera minus head at the first shot
     double secondsPerMinute = 0.0; ///< that the camera's clock gains
+    double minutes = 0.0; ///< from the first shot to the last
     /** Of `seconds`, what summer time or a zone explains: whole quarters of an hour, when the rest
      * is a few seconds; else 0. */
     double hours = 0.0;
@@ -73,6 +74,8 @@ struct ShotMatch {
     /** The best reading that pairs differently, for each photo its shot or -1; empty: none. */
     QVector<int> secondReading;
 
+    bool doubtsTimes = false; ///< they leave out what is of this shoot all the same
+    bool refutesNames = false; ///< pictures say that not each photo is of the next shot by name
     bool neededPictures = false; ///< names, times and counts do not settle it alone
     int measuredPairs = 0; ///< how often the pictures were asked
 

@@ -58,7 +58,16 @@ Band cut(Band band, int middle, int width)
     return { begin, begin + width, true };
 }
 
-std::vector<Band> bandsOf(const ShotEvidence &evidence, const ShotAssumption &assumption)
+/** How far around a photo's own time shots are considered for it. */
+struct Reach {
+    double seconds;
+    int shots; ///< besides
+};
+constexpr Reach kWide{ 20.0, 6 };
+constexpr Reach kNarrow{ 3.0, 4 }; ///< where all goes well
+
+std::vector<Band> bandsOf(const ShotEvidence &evidence, const ShotAssumption &assumption,
+                          const Reach &around)
 {
     const int n = evidence.photoCount();
     const int m = evidence.shotCount();
@@ -68,17 +77,17 @@ std::vector<Band> bandsOf(const ShotEvidence &evidence, const ShotAssumption &as
     std::vector<Band> bands;
     bands.reserve(n);
     const std::vector<double> &times = evidence.shots.rising;
-    const double reach = 20.0 + evidence.photos.slackSeconds + evidence.shots.slackSeconds;
+    const double reach
+        = around.seconds + evidence.photos.slackSeconds + evidence.shots.slackSeconds;
     for (int k = 0; k < n; ++k) {
         int begin = 0;
         int end = 0;
         if (assumption.clock) {
-            constexpr int kMargin = 6;
             const double time = assumption.clock->headSeconds(evidence.photos.rising[k]);
             const auto from = std::lower_bound(times.begin(), times.end(), time - reach);
             const auto to = std::upper_bound(from, times.end(), time + reach);
-            begin = static_cast<int>(from - times.begin()) - kMargin;
-            end = static_cast<int>(to - times.begin()) + kMargin;
+            begin = static_cast<int>(from - times.begin()) - around.shots;
+            end = static_cast<int>(to - times.begin()) + around.shots;
         } else {
             constexpr int kMargin = 32;
             begin = k - std::max(0, n - m) - kMargin;
@@ -149,10 +158,10 @@ struct Row {
 class Walk
 {
 public:
-    Walk(const ShotEvidence &evidence, const ShotAssumption &assumption)
+    Walk(const ShotEvidence &evidence, const ShotAssumption &assumption, const Reach &reach)
         : m_evidence(evidence)
         , m_assumption(assumption)
-        , m_bands(bandsOf(evidence, assumption))
+        , m_bands(bandsOf(evidence, assumption, reach))
     {
         const auto answers = std::count_if(evidence.measured.begin(), evidence.measured.end(),
                                            [](const auto &pair) { return !!pair.second; });
@@ -162,6 +171,8 @@ public:
     }
 
     ShotPaths run();
+    /** Whether \p path keeps away from where the bands end, and has a shot for each photo. */
+    [[nodiscard]] bool hasRoomFor(const ShotPath &path) const;
 
 private:
     [[nodiscard]] double stateCost(int photo, int shot, bool isAgain) const;
@@ -198,11 +209,9 @@ double Walk::stateCost(int photo, int shot, bool isAgain) const
             cost += atMost(kMostTimeCost, relative * relative);
         }
     }
-    const double exposure = m_evidence.exposures[photo];
-    if (!m_assumption.levelExposures.empty() && std::isfinite(exposure)) {
-        const double away
-            = (exposure - m_assumption.levelExposures[m_evidence.levels[shot]]) / kExposureStops;
-        cost += atMost(kMostExposureCost, away * away);
+    if (!m_assumption.levelExposures.empty()) {
+        cost += exposureCost(m_evidence.exposures[photo],
+                             m_assumption.levelExposures[m_evidence.levels[shot]]);
     }
     return cost;
 }
@@ -226,8 +235,7 @@ double Walk::rotationCost(bool isMeasured, const Eigen::Matrix3d &turned, int fr
 {
     const Eigen::Matrix3d &rotation = m_evidence.rotations[from];
     if (isMeasured) {
-        // The squares of the differences add up to 8 sin^2 of half the angle between the two.
-        return atMost(kMostRotationCost, (turned - rotation).squaredNorm() / 2.0 * kSquareDegrees);
+        return turnCost(turned, rotation);
     }
     const bool areNeighbours = turned.col(2).dot(rotation.col(2)) >= m_evidence.neighbourCosine;
     return areNeighbours && !m_evidence.inBrackets ? m_noOverlapCost : 0.0;
@@ -390,9 +398,21 @@ ShotPaths Walk::run()
 
 } // namespace
 
+bool isWildTime(double before, double second, double after)
+{
+    constexpr double kFar = 600.0;
+    return std::abs(after - before) < kFar && std::abs(second - before) > kFar
+        && std::abs(second - after) > kFar;
+}
+
 ShotClock shotClockOf(std::vector<double> seconds)
 {
     constexpr double kMinute = 60.0;
+    for (std::size_t i = 1; i + 1 < seconds.size(); ++i) {
+        if (isWildTime(seconds[i - 1], seconds[i], seconds[i + 1])) {
+            seconds[i] = std::numeric_limits<double>::quiet_NaN();
+        }
+    }
     ShotClock clock;
     clock.rising.reserve(seconds.size());
     int known = 0;
@@ -434,9 +454,42 @@ ShotClock shotClockOf(std::vector<double> seconds)
     return clock;
 }
 
+double exposureCost(double stops, double level)
+{
+    const double away = (stops - level) / kExposureStops;
+    return std::isfinite(stops) ? atMost(kMostExposureCost, away * away) : 0.0;
+}
+
+double turnCost(const Eigen::Matrix3d &turned, const Eigen::Matrix3d &rotation)
+{
+    // The squares of the differences add up to 8 sin^2 of half the angle between the two.
+    return atMost(kMostRotationCost, (turned - rotation).squaredNorm() / 2.0 * kSquareDegrees);
+}
+
+bool Walk::hasRoomFor(const ShotPath &path) const
+{
+    constexpr int kRoom = 3;
+    for (int k = 0; k < m_evidence.photoCount(); ++k) {
+        const int shot = path.shots[k];
+        const Band &band = m_bands[k];
+        if (shot < 0 || (band.begin > 0 && shot < band.begin + kRoom)
+            || (band.end < m_evidence.shotCount() && shot >= band.end - kRoom)) {
+            return false;
+        }
+    }
+    return true;
+}
+
 ShotPaths shotPaths(const ShotEvidence &evidence, const ShotAssumption &assumption)
 {
-    return Walk(evidence, assumption).run();
+    if (assumption.clock && evidence.isLong()) {
+        Walk walk(evidence, assumption, kNarrow);
+        ShotPaths paths = walk.run();
+        if (walk.hasRoomFor(paths.best)) {
+            return paths;
+        }
+    }
+    return Walk(evidence, assumption, kWide).run();
 }
 
 } // namespace PanoHost

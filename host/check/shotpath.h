@@ -24,7 +24,11 @@ struct ShotClock {
     /** Otherwise it says nothing: too few times, all the same, or falling too often. */
     bool isUsable = false;
 };
-/** \p seconds in order, NaN where not known. A clock without seconds is recognised. */
+/** Whether \p second, between two that are near each other, is far from both: no clock was set to
+ * and fro. */
+[[nodiscard]] bool isWildTime(double before, double second, double after);
+/** \p seconds in order, NaN where not known; wild ones become that. A clock without seconds is
+ * recognised. */
 [[nodiscard]] ShotClock shotClockOf(std::vector<double> seconds);
 
 /** From the head's clock to the camera's. */
@@ -58,6 +62,8 @@ struct ShotEvidence {
 
     [[nodiscard]] int photoCount() const { return static_cast<int>(exposures.size()); }
     [[nodiscard]] int shotCount() const { return static_cast<int>(levels.size()); }
+    /** So many that what agrees throughout does not do so by chance. */
+    [[nodiscard]] bool isLong() const { return photoCount() >= 300 && shotCount() >= 300; }
 };
 
 /** What a walk takes for granted. */
@@ -66,6 +72,12 @@ struct ShotAssumption {
     double toleranceSeconds = 1.0; ///< standard deviation of a photo's time
     std::vector<double> levelExposures; ///< by level; empty: exposures say nothing
 };
+
+/** How badly a photo of exposure \p stops, or NaN, fits a level of \p level stops. */
+[[nodiscard]] double exposureCost(double stops, double level);
+/** How badly it fits two shots that the later one, turned by what pictures say, is \p turned where
+ * the earlier one is \p rotation. */
+[[nodiscard]] double turnCost(const Eigen::Matrix3d &turned, const Eigen::Matrix3d &rotation);
 
 /** One way to pair them: for each photo its shot; -1: it is of none. */
 struct ShotPath {

@@ -48,29 +48,20 @@ Eigen::Matrix3d somewhere(Dice *dice)
     return rotationOf({ dice->between(-180.0, 180.0), dice->between(-60.0, 60.0), 0.0 });
 }
 
-/** 26 positions: rows of 10, 8 and 6, zenith and nadir, two seconds each and three more to the next
- * row. */
-QVector<PanoHead::NotedShot> headShots(int spheres, bool inBrackets, Dice *dice,
+/** Two seconds for each position and three more to the next row. */
+QVector<PanoHead::NotedShot> headShots(const QVector<RowOfShots> &rows, bool inBrackets, Dice *dice,
                                        QVector<double> *trueSeconds)
 {
-    struct RowOf {
-        double pitch;
-        int count;
-    };
     QVector<PanoHead::NotedShot> shots;
     double seconds = 0.0;
     const QDateTime start(QDate(2024, 5, 1), QTime(10, 0, 0), Qt::UTC);
     const double part = dice->between(0.0, 1.0);
-    QVector<RowOf> rows;
-    for (int i = 0; i < spheres; ++i) {
-        rows += { { 0.0, 10 }, { 45.0, 8 }, { -45.0, 6 }, { 90.0, 1 }, { -90.0, 1 } };
-    }
-    for (const RowOf &row : qAsConst(rows)) {
+    for (const RowOfShots &row : rows) {
         for (int i = 0; i < row.count; ++i) {
             for (int level = 0; level < (inBrackets ? 3 : 1); ++level) {
                 PanoHead::NotedShot shot;
                 shot.yawDegrees = -180.0 + 360.0 * i / row.count;
-                shot.pitchDegrees = row.pitch;
+                shot.pitchDegrees = row.pitchDegrees;
                 shot.level = level;
                 const double at = part + seconds + 0.3 * level;
                 // The head writes whole seconds.
@@ -115,7 +106,7 @@ void twice(QVector<Taken> *photos, Dice *dice, bool inBrackets, bool isSubtle)
 
 void breakBracket(QVector<Taken> *photos, Dice *dice)
 {
-    const int position = 1 + dice->below(20);
+    const int position = 1 + dice->below(qMin(20, photos->size() / 3 - 2));
     const int kept = 1 + dice->below(2); // of three
     const auto isLost = [position, kept](const Taken &photo) {
         return photo.shot / 3 == position && photo.shot % 3 >= kept;
@@ -226,17 +217,26 @@ MadeShoot madeShoot(const ShootRecipe &recipe)
         || has(faults, Fault::BracketDoubled) || has(faults, Fault::BracketInterrupted);
     shoot.bracketCount = inBrackets ? 3 : 1;
     QVector<double> seconds;
-    shoot.shots = headShots(recipe.spheres, inBrackets, &dice, &seconds);
+    QVector<RowOfShots> rows;
+    for (int i = 0; i < recipe.spheres; ++i) {
+        rows += recipe.rows;
+    }
+    shoot.shots = headShots(rows, inBrackets, &dice, &seconds);
     QVector<Taken> photos;
     static constexpr double kStops[] = { 0.0, -2.0, 2.0 };
+    Dice ownPlay(recipe.playSeed);
+    Dice *play = recipe.playSeed == 0 ? &dice : &ownPlay;
+    Eigen::Matrix3d rotation;
     for (int i = 0; i < shoot.shots.size(); ++i) {
         const PanoHead::NotedShot &shot = shoot.shots.at(i);
-        // The head's play, and how long the camera takes to release.
-        photos += { seconds.at(i) + dice.between(0.1, inBrackets ? 0.15 : 0.3), i,
-                    12.0 + (inBrackets ? kStops[shot.level] : 0.0),
-                    rotationOf({ shot.yawDegrees + dice.between(-0.2, 0.2),
-                                 shot.pitchDegrees + dice.between(-0.2, 0.2), 0.0 }),
-                    QSize(6000, 4000) };
+        // How long the camera takes to release, and the head's play.
+        const double late = dice.between(0.1, inBrackets ? 0.15 : 0.3);
+        if (shot.level == 0) {
+            const double yaw = shot.yawDegrees + play->between(-0.2, 0.2);
+            rotation = rotationOf({ yaw, shot.pitchDegrees + play->between(-0.2, 0.2), 0.0 });
+        }
+        photos += { seconds.at(i) + late, i, 12.0 + (inBrackets ? kStops[shot.level] : 0.0),
+                    rotation, QSize(6000, 4000) };
     }
 
     if (has(faults, Fault::Aborted)) {
@@ -307,6 +307,114 @@ MadeShoot madeShoot(const ShootRecipe &recipe)
         }
     }
     return shoot;
+}
+
+MadeShoot withClock(MadeShoot shoot, OddClock clock, int seed)
+{
+    Dice dice(seed);
+    QVector<PanoHead::NotedShot> &shots = shoot.shots;
+    QVector<PhotoInfo> &photos = shoot.photos;
+    const int one = dice.below(shots.size());
+    const int middle = shots.size() / 4 + dice.below(qMax(1, shots.size() / 2));
+    const qint64 start = shots.first().time.toMSecsSinceEpoch();
+    const QDateTime last = shots.last().time;
+    for (int i = 0; i < shots.size(); ++i) {
+        QDateTime &time = shots[i].time;
+        if (clock == OddClock::HeadNone || (clock == OddClock::HeadSomeNone && i % 5 == seed % 5)) {
+            time = QDateTime();
+        } else if (clock == OddClock::HeadWildOnce && i == one) {
+            time = time.addYears(75);
+        } else if (clock == OddClock::HeadSame) {
+            time = shots.first().time;
+        } else if (clock == OddClock::HeadBackwards) {
+            time = last.addMSecs(start - time.toMSecsSinceEpoch());
+        } else if (clock == OddClock::HeadOtherZone) {
+            time = time.addSecs(seed % 2 == 0 ? 9 * 3600 : -5 * 3600 - 1800);
+        } else if (clock == OddClock::HeadWholeMinutes) {
+            time = time.addSecs(-time.time().second());
+        }
+    }
+    const qint64 same = photos.first().timeMs;
+    for (int i = 0; i < photos.size(); ++i) {
+        const int shot = shoot.truth.at(i);
+        qint64 &time = photos[i].timeMs;
+        const qint64 since = time - start;
+        switch (clock) {
+        case OddClock::CameraWholeMinutes:
+            time -= time % 60000;
+            break;
+        case OddClock::CameraSame:
+            time = same;
+            break;
+        case OddClock::CameraNone:
+            time = 0;
+            break;
+        case OddClock::CameraSomeNone:
+            time = shot % 4 == seed % 4 ? 0 : time;
+            break;
+        case OddClock::CameraWildOnce:
+            time = shot == one ? 315532800000 : time;
+            break;
+        case OddClock::CameraLateOnce:
+            time += shot == one ? 1000 : 0;
+            break;
+        case OddClock::CameraEarlyOnce:
+            time -= shot == one ? 1000 : 0;
+            break;
+        case OddClock::CameraSetOnTheWay:
+            time += shot >= middle ? 3600000 : 0;
+            break;
+        case OddClock::CameraCorrectedOnTheWay:
+            time += shot >= middle ? 1000 * (1 + seed % 7) : 0;
+            break;
+        case OddClock::CameraDrifts:
+            time += since / 60;
+            break;
+        case OddClock::CameraRaces:
+            time += since / 10;
+            break;
+        case OddClock::CameraRandom:
+            time = start + 1000LL * dice.below(100000);
+            break;
+        default:
+            break;
+        }
+    }
+    return shoot;
+}
+
+const char *nameOf(OddClock clock)
+{
+    static const char *const kNames[] = { "sound",
+                                          "head: 2099 once",
+                                          "head: no times",
+                                          "head: some have none",
+                                          "head: all the same",
+                                          "head: backwards",
+                                          "head: another zone",
+                                          "head: no seconds",
+                                          "camera: no seconds",
+                                          "camera: all the same",
+                                          "camera: no times",
+                                          "camera: some have none",
+                                          "camera: 1980 once",
+                                          "camera: late once",
+                                          "camera: early once",
+                                          "camera: set on the way",
+                                          "camera: corrected on the way",
+                                          "camera: drifts",
+                                          "camera: races",
+                                          "camera: random times" };
+    return kNames[static_cast<int>(clock)];
+}
+
+QVector<OddClock> allOddClocks()
+{
+    QVector<OddClock> clocks;
+    for (int i = 0; i <= static_cast<int>(OddClock::CameraRandom); ++i) {
+        clocks += static_cast<OddClock>(i);
+    }
+    return clocks;
 }
 
 const char *nameOf(Fault fault)

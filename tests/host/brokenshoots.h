@@ -48,9 +48,40 @@ struct MadeShoot {
 /** How the photos tell their times. */
 enum class Times { SubSeconds, WholeSeconds, WholeMinutes, Same, None };
 
+/** What clocks do to the times of a shoot that is sound. */
+enum class OddClock {
+    Sound,
+    HeadWildOnce, ///< one shot of 2099
+    HeadNone,
+    HeadSomeNone,
+    HeadSame,
+    HeadBackwards,
+    HeadOtherZone,
+    HeadWholeMinutes,
+    CameraWholeMinutes,
+    CameraSame,
+    CameraNone,
+    CameraSomeNone,
+    CameraWildOnce, ///< one photo of 1980
+    CameraLateOnce, ///< one second late: twice second s, and none in s + 1
+    CameraEarlyOnce,
+    CameraSetOnTheWay, ///< by an hour
+    CameraCorrectedOnTheWay, ///< by seconds, as by a telephone
+    CameraDrifts, ///< a second in a minute
+    CameraRaces, ///< six seconds in a minute
+    CameraRandom, ///< times that say nothing
+};
+
+struct RowOfShots {
+    double pitchDegrees;
+    int count; ///< evenly spread over a full turn
+};
+
 /** How a shoot is made. */
 struct ShootRecipe {
     int seed = 1;
+    int playSeed = 0; ///< shoots of one are taken from the same places; 0: each has its own
+    QVector<RowOfShots> rows{ { 0.0, 10 }, { 45.0, 8 }, { -45.0, 6 }, { 90.0, 1 }, { -90.0, 1 } };
     QVector<Fault> faults;
     bool inBrackets = false; ///< of three; faults of brackets ask for it by themselves
     Times times = Times::WholeSeconds;
@@ -60,9 +91,14 @@ struct ShootRecipe {
     /** The shot after a doubled one may be missing: when a photo is a second late, no clock tells.
      */
     bool isSubtle = true;
-    int spheres = 1; ///< 26 positions each
+    int spheres = 1; ///< how often the rows are taken
 };
 [[nodiscard]] MadeShoot madeShoot(const ShootRecipe &recipe);
 
+/** The same with odd times; draws come from \p seed. */
+[[nodiscard]] MadeShoot withClock(MadeShoot shoot, OddClock clock, int seed);
+
 [[nodiscard]] const char *nameOf(Fault fault);
 [[nodiscard]] QVector<Fault> allFaults();
+[[nodiscard]] const char *nameOf(OddClock clock);
+[[nodiscard]] QVector<OddClock> allOddClocks();
