@@ -2,7 +2,11 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/check/photonames.h"
 
+#include <QFileInfo>
+#include <QHash>
+
 #include <algorithm>
+#include <iterator>
 #include <map>
 #include <numeric>
 
@@ -189,6 +193,41 @@ NameOrder nameOrderOf(const QStringList &paths)
         order.other = cardByCard(names, order.sorted);
     }
     return order;
+}
+
+QStringList withoutCompanions(const QStringList &paths)
+{
+    static const QStringList kPreferred[] = {
+        { QStringLiteral("jpg"), QStringLiteral("jpeg"), QStringLiteral("jpe") },
+        { QStringLiteral("png"), QStringLiteral("tif"), QStringLiteral("tiff") },
+    };
+    const auto rankOf = [](const QFileInfo &file) {
+        const auto *const rank = std::find_if(
+            std::begin(kPreferred), std::end(kPreferred),
+            [&](const QStringList &endings) { return endings.contains(file.suffix().toLower()); });
+        return rank - std::begin(kPreferred);
+    };
+    const auto commonName = [](const QFileInfo &file) {
+        return file.path() + QLatin1Char('/') + file.completeBaseName().toLower();
+    };
+    QHash<QString, qint64> best;
+    for (const QString &path : paths) {
+        const QFileInfo file(path);
+        const auto known = best.find(commonName(file));
+        if (known == best.end()) {
+            best.insert(commonName(file), rankOf(file));
+        } else {
+            *known = std::min<qint64>(*known, rankOf(file));
+        }
+    }
+    QStringList kept;
+    for (const QString &path : paths) {
+        const QFileInfo file(path);
+        if (rankOf(file) == best.value(commonName(file))) {
+            kept += path;
+        }
+    }
+    return kept;
 }
 
 int counterOf(const QString &path)

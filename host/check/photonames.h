@@ -20,6 +20,10 @@ struct NameOrder {
 };
 [[nodiscard]] NameOrder nameOrderOf(const QStringList &paths);
 
+/** Of files that have a name in common but for the ending, as RAW and JPEG of one photo, the ones
+ * to use: JPEGs, else those that need no RAW converter. In the order of \p paths. */
+[[nodiscard]] QStringList withoutCompanions(const QStringList &paths);
+
 /** The counter in the photo name \p path, "DSC_0042-2.jpg": 42; -1: it has none. */
 [[nodiscard]] int counterOf(const QString &path);
 

@@ -16,13 +16,18 @@ namespace PanoHost
 namespace
 {
 
-/** Recorded shots without a photo are named one by one, once it is known where they point. */
-QStringList warningsOf(const QVector<Finding> &findings, bool withMissing)
+/** What the user is told of an import. Of one that changes something, all that led to it. Recorded
+ * shots without a photo are named one by one, once it is known where they point. */
+QStringList warningsOf(const ShootCheck &check, bool withMissing)
 {
+    static const QStringList kOfFit{ QStringLiteral("shots"), QStringLiteral("left"),
+                                     QStringLiteral("clock") };
     QStringList warnings;
-    for (const Finding &finding : findings) {
-        if (finding.kind == Finding::Kind::Trouble
-            && (withMissing || finding.topic != QLatin1String("missing"))) {
+    for (const Finding &finding : check.findings()) {
+        const bool isMissing = finding.topic == QLatin1String("missing");
+        if (isMissing ? withMissing
+                      : finding.kind == Finding::Kind::Trouble
+                    || (check.fit() && kOfFit.contains(finding.topic))) {
             warnings += finding.text;
         }
     }
@@ -194,9 +199,9 @@ QPixmap ImportJob::layout()
 Panorama ImportJob::handOver()
 {
     StructuredPanoramaProperties description = m_page->handOver();
+    const bool isGrid = m_request.grid.has_value();
+    m_warnings += warningsOf(m_check, isGrid);
     if (m_check.fit()) {
-        const bool isGrid = m_request.grid.has_value();
-        m_warnings += warningsOf(m_check.findings(), isGrid);
         if (isGrid) {
             m_wishes.missingCells = emptyPositions(description, m_standIns);
         } else {

@@ -2,10 +2,15 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/import/photofit.h"
 
+#include "host/check/photonames.h"
 #include "host/check/shotmatch.h"
 #include "host/model/displayname.h"
 
+#include <QCryptographicHash>
+#include <QFile>
 #include <QFileInfo>
+#include <QHash>
+#include <QMap>
 
 #include <algorithm>
 #include <cmath>
@@ -31,22 +36,6 @@ QString listed(const QStringList &words)
         .arg(words.size() - kMostNamed);
 }
 
-/** "5, 9 to 12": \p shots, rising, counted from 1. */
-QString shotNumbers(const QVector<int> &shots)
-{
-    QStringList parts;
-    for (int i = 0; i < shots.size();) {
-        int last = i;
-        while (last + 1 < shots.size() && shots[last + 1] == shots[last] + 1) {
-            ++last;
-        }
-        const QString from = QString::number(shots[i] + 1);
-        parts += last > i ? QStringLiteral("%1 to %2").arg(from).arg(shots[last] + 1) : from;
-        i = last + 1;
-    }
-    return listed(parts);
-}
-
 /** One match of one shoot, put into words and into a fit. */
 class Fitter
 {
@@ -63,10 +52,14 @@ public:
     /** Why there is no saying which photo belongs to which shot of \p record. */
     [[nodiscard]] std::optional<Failure> doubt(const RecordedShots &record) const;
     [[nodiscard]] bool usesTimes() const { return m_match.usesTimes; }
+    [[nodiscard]] bool refutesNames() const { return m_match.refutesNames; }
     [[nodiscard]] PhotoFit fit();
+    /** Each photo belongs to the next shot; says so where that is not known. */
+    [[nodiscard]] PhotoFit asNamed(const QString &whyUnchecked = {});
 
 private:
     void chooseOfDoubled();
+    void tellSamePictures();
     void tellOrder();
     void tellLeftOut(Kind kind, const QString &why);
     void tellMissing();
@@ -221,9 +214,8 @@ void Fitter::tellMissing()
         && missing.last() + 1 == m_match.photoOfShot.size();
     Finding &finding
         = tell("missing",
-               QStringLiteral("no photo for %1 %2%3")
-                   .arg(missing.size() == 1 ? QStringLiteral("shot") : QStringLiteral("shots"),
-                        shotNumbers(missing),
+               QStringLiteral("no photo for %1%2")
+                   .arg(shotsText(missing),
                         isEnd ? QStringLiteral(" (was the shoot stopped?)") : QString()));
     finding.shots = missing;
     finding.cure = QStringLiteral("take them again if you can");
@@ -232,15 +224,65 @@ void Fitter::tellMissing()
 
 void Fitter::tellClock()
 {
-    if (m_match.clock && m_match.clock->hours != 0.0) {
-        const double hours = std::abs(m_match.clock->hours);
+    constexpr double kNoteworthySeconds = 30.0;
+    constexpr double kNoteworthyGain = 0.5; // both in a minute and in all
+    if (!m_match.clock) {
+        return;
+    }
+    const double off = std::round(std::abs(m_match.clock->seconds));
+    const double hours = std::abs(m_match.clock->hours);
+    if (off >= kNoteworthySeconds) {
+        const QString time = hours == 0.0
+            ? QStringLiteral("%1 min %2 s")
+                  .arg(std::floor(off / 60.0), 0, 'f', 0)
+                  .arg(std::floor(std::fmod(off, 60.0)))
+            : QStringLiteral("%1 %2").arg(hours).arg(hours == 1.0 ? QStringLiteral("hour")
+                                                                  : QStringLiteral("hours"));
         tell("clock",
-             QStringLiteral("the camera's clock is %1 %2 %3 the head's")
-                 .arg(hours)
-                 .arg(hours == 1.0 ? QStringLiteral("hour") : QStringLiteral("hours"),
-                      m_match.clock->hours > 0.0 ? QStringLiteral("ahead of")
-                                                 : QStringLiteral("behind")),
+             QStringLiteral("the camera's clock is %1 %2 the head's")
+                 .arg(time,
+                      m_match.clock->seconds > 0.0 ? QStringLiteral("ahead of")
+                                                   : QStringLiteral("behind")),
              {}, Finding::Kind::Fact);
+    }
+    const double gain = m_match.clock->secondsPerMinute;
+    if (std::abs(gain) * std::min(1.0, m_match.clock->minutes) >= kNoteworthyGain) {
+        tell("clock",
+             QStringLiteral("the camera's clock %1 %2 s in a minute")
+                 .arg(gain > 0.0 ? QStringLiteral("gains") : QStringLiteral("loses"))
+                 .arg(std::abs(gain), 0, 'f', 1),
+             {}, Finding::Kind::Fact);
+    }
+}
+
+/** Files that are the same byte for byte are no two shots. */
+void Fitter::tellSamePictures()
+{
+    QHash<qint64, QVector<int>> bySize;
+    for (int photo = 0; photo < m_photos.size(); ++photo) {
+        bySize[QFileInfo(m_photos.at(photo).path).size()] += photo;
+    }
+    QMap<int, QStringList> same; // by the first one
+    for (const QVector<int> &photos : qAsConst(bySize)) {
+        QHash<QByteArray, int> first;
+        for (const int photo : photos.size() > 1 ? photos : QVector<int>()) {
+            QFile file(m_photos.at(photo).path);
+            QCryptographicHash hash(QCryptographicHash::Sha1);
+            if (file.open(QIODevice::ReadOnly) && hash.addData(&file)) {
+                const QByteArray key = hash.result();
+                same[first.contains(key) ? first.value(key) : (first[key] = photo)]
+                    += file.fileName();
+            }
+        }
+    }
+    for (auto group = same.cbegin(); group != same.cend(); ++group) {
+        if (group->size() > 1 && m_match.places[group.key()].kind != Kind::Doubled) {
+            QStringList names;
+            for (const QString &path : *group) {
+                names += QFileInfo(path).fileName();
+            }
+            tell("shots", QStringLiteral("the same picture: %1").arg(listed(names)), *group);
+        }
     }
 }
 
@@ -255,6 +297,7 @@ ShotFit Fitter::shotFit() const
 
 PhotoFit Fitter::fit()
 {
+    tellSamePictures();
     chooseOfDoubled();
     tellOrder();
     tellLeftOut(Kind::InFront, QStringLiteral("before the first shot (a test?): left out"));
@@ -265,30 +308,155 @@ PhotoFit Fitter::fit()
     return PhotoFit{ shotFit(), m_findings };
 }
 
-} // namespace
-
-Result<PhotoFit> fitPhotos(const RecordedShots &record, const QVector<PhotoInfo> &photos,
-                           const KnownLens &lens)
+PhotoFit Fitter::asNamed(const QString &whyUnchecked)
 {
+    tellSamePictures();
+    if (whyUnchecked.isEmpty()) {
+        tellClock();
+    } else {
+        tell("shots",
+             QStringLiteral("which photo belongs to which shot could not be checked (%1): they are "
+                            "taken in the order of their names")
+                 .arg(whyUnchecked));
+    }
+    return PhotoFit{ {}, m_findings };
+}
+
+/** One file of each of \p photos. */
+QVector<PhotoInfo> oneFileEach(const QVector<PhotoInfo> &photos)
+{
+    QStringList paths;
+    for (const PhotoInfo &photo : photos) {
+        paths += photo.path;
+    }
+    const QStringList kept = withoutCompanions(paths);
+    QVector<PhotoInfo> alone;
+    for (const PhotoInfo &photo : photos) {
+        if (alone.size() < kept.size() && photo.path == kept.at(alone.size())) {
+            alone += photo;
+        }
+    }
+    return alone;
+}
+
+QString whyUnchecked(const RecordedShots &record, const QVector<PhotoInfo> &photos)
+{
+    const bool hasHeadTimes
+        = std::any_of(record.shots.cbegin(), record.shots.cend(),
+                      [](const PanoHead::NotedShot &shot) { return shot.time.isValid(); });
+    const bool hasTimes = std::any_of(photos.cbegin(), photos.cend(),
+                                      [](const PhotoInfo &photo) { return photo.timeMs != 0; });
+    return !hasHeadTimes ? QStringLiteral("the record tells no times")
+        : !hasTimes      ? QStringLiteral("the photos tell no times")
+                         : QStringLiteral("the times of photos and record do not agree");
+}
+
+/** Heads that know of no brackets note each exposure as a shot of the same direction. */
+RecordedShots withSeenBrackets(RecordedShots record)
+{
+    const auto isSame = [](const PanoHead::NotedShot &one, const PanoHead::NotedShot &other) {
+        return one.yawDegrees == other.yawDegrees && one.pitchDegrees == other.pitchDegrees;
+    };
+    QVector<PanoHead::NotedShot> &shots = record.shots;
+    int exposures = 1;
+    while (exposures < shots.size() && isSame(shots.at(exposures), shots.first())) {
+        ++exposures;
+    }
+    bool isEven = record.bracketCount == 1 && shots.size() % qMax(1, exposures) == 0;
+    for (int i = 1; i < shots.size() && isEven; ++i) {
+        isEven = isSame(shots.at(i), shots.at(i - 1)) == (i % exposures != 0);
+    }
+    if (isEven && exposures > 1) {
+        record.bracketCount = exposures;
+        for (int i = 0; i < shots.size(); ++i) {
+            shots[i].level = i % exposures;
+        }
+    }
+    return record;
+}
+
+/** Whether a photo of \p photos came much sooner than those of its level do: where the head tells
+ * no times, a doubled photo in place of a missing one looks like that. */
+bool hasHastyPhoto(const QVector<PhotoInfo> &photos, int levels)
+{
+    constexpr double kSoon = 0.6;
+    for (int level = 0; level < levels; ++level) {
+        std::vector<qint64> pauses;
+        for (int i = level == 0 ? levels : level; i < photos.size(); i += levels) {
+            if (photos.at(i).timeMs != 0 && photos.at(i - 1).timeMs != 0) {
+                pauses.push_back(photos.at(i).timeMs - photos.at(i - 1).timeMs);
+            }
+        }
+        std::sort(pauses.begin(), pauses.end());
+        constexpr qint64 kLeastMs = 1500;
+        const qint64 usual = pauses.empty() ? 0 : pauses[pauses.size() / 2];
+        if (usual >= kLeastMs
+            && static_cast<double>(pauses.front()) <= kSoon * static_cast<double>(usual)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/** \p photos are one file each. */
+Result<PhotoFit> fitAlone(const RecordedShots &record, const QVector<PhotoInfo> &photos,
+                          const KnownLens &lens)
+{
+    constexpr double kQuarter = 90.0;
     SeenTurns turns(photos, lens.focal35mm, lens.lens);
+    const Eigen::Matrix3d mount = rotationOf({ 0.0, 0.0, kQuarter * record.clockwiseTurns });
+    const MeasureRotation ofHead = [&](int one, int other) {
+        const auto seen = turns.between(one, other);
+        return seen ? std::optional<Eigen::Matrix3d>(mount * *seen * mount.transpose()) : seen;
+    };
     const auto fitter = [&](const MeasureRotation &measure) {
         return Fitter(photos, turns,
                       matchShots(record.shots, record.bracketCount, photos, measure));
     };
     Fitter quick = fitter({});
-    if (quick.isAsNamed() && !quick.usesTimes()) {
-        return PhotoFit{};
+    if (quick.isAsNamed() && !quick.usesTimes()
+        && !hasHastyPhoto(photos, std::max(1, record.bracketCount))) {
+        return quick.asNamed();
     }
-    Fitter asking = fitter([&](int one, int other) { return turns.between(one, other); });
+    Fitter asking = fitter(ofHead);
     if (asking.isAsNamed()) {
-        return PhotoFit{};
+        return asking.asNamed();
     }
     if (const auto failure = asking.doubt(record)) {
-        // Where only names tell anything, they have always told the order.
-        const bool isByName = !asking.usesTimes() && photos.size() == record.shots.size();
-        return isByName ? Result<PhotoFit>(PhotoFit{}) : *failure;
+        // Whoever has as many photos as shots mostly has them all.
+        const bool isByName = photos.size() == record.shots.size() && !asking.refutesNames();
+        return isByName ? Result<PhotoFit>(asking.asNamed(whyUnchecked(record, photos))) : *failure;
     }
     return asking.fit();
+}
+
+} // namespace
+
+Result<PhotoFit> fitPhotos(const RecordedShots &record, const QVector<PhotoInfo> &photos,
+                           const KnownLens &lens)
+{
+    const RecordedShots shots = withSeenBrackets(record);
+    const QVector<PhotoInfo> alone = oneFileEach(photos);
+    const int companions = photos.size() - alone.size();
+    if (companions == 0 || photos.size() == shots.shots.size()) {
+        return fitAlone(shots, photos, lens);
+    }
+    Result<PhotoFit> fit = fitAlone(shots, alone, lens);
+    if (!fit) {
+        return fit;
+    }
+    PhotoFit found = std::move(fit).value();
+    if (!found.fit) {
+        found.fit.emplace();
+        for (const PhotoInfo &photo : alone) {
+            *found.fit += FittedShot{ photo.path, 0, {} };
+        }
+    }
+    found.findings.prepend(
+        { QStringLiteral("left"),
+          QStringLiteral("%1 left out: other files of the same photos are used, JPEG before RAW")
+              .arg(counted(companions, "file")) });
+    return found;
 }
 
 PhotoFit fitOf(const ShotMatch &match, const QVector<PhotoInfo> &photos, SeenTurns &turns)

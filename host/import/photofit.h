@@ -22,6 +22,7 @@ struct RecordedShots {
     QString name; ///< of the record, for messages
     QVector<PanoHead::NotedShot> shots;
     int bracketCount = 1;
+    int clockwiseTurns = 0; ///< quarter turns of the camera on the head
 };
 
 /** Which photo belongs to which shot, and what was found on the way. */
@@ -34,7 +35,9 @@ struct PhotoFit {
 /**
  * Matches \p photos, in the order of their names, to the shots of \p record: by names, times,
  * exposures and, where these disagree, by the pictures themselves, taken through \p lens. Refuses
- * when it cannot be told surely, naming both readings.
+ * when it cannot be told surely, naming both readings; but as many photos as shots go by their
+ * names then, unless pictures say otherwise. Of files with the same name but for the ending one is
+ * used.
  */
 [[nodiscard]] Result<PhotoFit> fitPhotos(const RecordedShots &record,
                                          const QVector<PhotoInfo> &photos, const KnownLens &lens);

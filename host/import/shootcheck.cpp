@@ -101,10 +101,13 @@ void ShootCheck::matchPhotos()
         return;
     }
     const QVector<PhotoInfo> &photos = readable();
-    auto matched = m_request.grid
-        ? fitGrid(*m_request.grid, photos, lensOf(photos))
-        : fitPhotos({ displayName(m_request.record), m_shots, m_record.bracketCount }, photos,
-                    lensOf(photos));
+    RecordedShots record{ displayName(m_request.record), m_shots, m_record.bracketCount,
+                          m_request.clockwiseTurns };
+    for (NotedShot &shot : record.shots) {
+        shot.pitchDegrees = m_request.invertPitch ? -shot.pitchDegrees : shot.pitchDegrees;
+    }
+    auto matched = m_request.grid ? fitGrid(*m_request.grid, photos, lensOf(photos))
+                                  : fitPhotos(record, photos, lensOf(photos));
     const bool allReadable = photos.size() == m_photos.size();
     if (!matched) {
         // Photos that cannot be read are what is to be said first.
@@ -117,10 +120,10 @@ void ShootCheck::matchPhotos()
     if (found.fit) {
         m_request.fit = std::move(found.fit);
         m_photos = photosOf(*m_request.fit);
-        m_findings += found.findings;
     } else if (!allReadable && !m_request.grid) {
         fitByNames();
     }
+    m_findings += found.findings;
 }
 
 /** The photos that can be read belong to the shots, one after the other. */

@@ -99,6 +99,22 @@ QString degreesText(float radians)
 
 } // namespace
 
+QString shotsText(const QVector<int> &shots)
+{
+    QStringList parts;
+    for (int i = 0; i < shots.size();) {
+        int last = i;
+        while (last + 1 < shots.size() && shots[last + 1] == shots[last] + 1) {
+            ++last;
+        }
+        const QString from = QString::number(shots[i] + 1);
+        parts += last > i ? QStringLiteral("%1 to %2").arg(from).arg(shots[last] + 1) : from;
+        i = last + 1;
+    }
+    return (shots.size() == 1 ? QStringLiteral("shot ") : QStringLiteral("shots "))
+        + parts.join(QStringLiteral(", "));
+}
+
 QStringList photosOf(const ShotFit &fit)
 {
     QStringList photos;
@@ -201,9 +217,13 @@ QStringList missingShotWarnings(const ShotFit &fit, const StructuredPanoramaProp
 {
     const bool perPosition = isPerPosition(description);
     QStringList warnings;
-    int missing = 0;
+    QVector<int> others;
     for (int i = 0; i < fit.size(); ++i) {
-        if (!fit.at(i).photo.isEmpty() || ++missing > kMostNamed) {
+        if (!fit.at(i).photo.isEmpty()) {
+            continue;
+        }
+        if (warnings.size() == kMostNamed) {
+            others += i;
             continue;
         }
         const int entry = perPosition ? i / levels : i;
@@ -215,9 +235,8 @@ QStringList missingShotWarnings(const ShotFit &fit, const StructuredPanoramaProp
                         .arg(QString::number(i + 1), degreesText(description.yaw.value(entry)),
                              degreesText(description.pitch.value(entry)), level);
     }
-    if (missing > kMostNamed) {
-        warnings
-            += QStringLiteral("no photo for %1").arg(counted(missing - kMostNamed, "more shot"));
+    if (!others.isEmpty()) {
+        warnings += QStringLiteral("no photo for %1").arg(shotsText(others));
     }
     return warnings;
 }

@@ -27,6 +27,9 @@ struct FittedShot {
 /** All shots of a record or a grid, in its order. */
 using ShotFit = QVector<FittedShot>;
 
+/** "shot 3", "shots 5, 9 to 12": \p shots, rising, counted from 1. */
+[[nodiscard]] QString shotsText(const QVector<int> &shots);
+
 /** The photos that there are, in the order of the shots. */
 [[nodiscard]] QStringList photosOf(const ShotFit &fit);
 
@@ -54,7 +57,7 @@ using ShotFit = QVector<FittedShot>;
                                                            const QSet<QString> &standIns);
 
 /**
- * One line for each of the first shots of \p fit without a photo, and one for all others.
+ * One line for each of the first shots of \p fit without a photo, and one that names all others.
  * \param description as delivered, with its stand-ins: where the shots were directed
  * \param levels photos per position
  */

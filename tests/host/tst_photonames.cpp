@@ -14,6 +14,8 @@ class TestPhotoNames : public QObject
 private Q_SLOTS:
     void namesTellAnOrder_data();
     void namesTellAnOrder();
+    void oneFileOfEachPhotoIsKept_data();
+    void oneFileOfEachPhotoIsKept();
     void countersAreFound_data();
     void countersAreFound();
 };
@@ -58,6 +60,31 @@ void TestPhotoNames::namesTellAnOrder()
     QTEST(text(order.sorted), "sorted");
     QTEST(text(order.counted), "counted");
     QTEST(text(order.other), "other");
+}
+
+void TestPhotoNames::oneFileOfEachPhotoIsKept_data()
+{
+    QTest::addColumn<QString>("given");
+    QTest::addColumn<QString>("kept");
+    const auto row = [](const char *name, const char *given, const char *kept) {
+        QTest::newRow(name) << QString::fromLatin1(given) << QString::fromLatin1(kept);
+    };
+    row("RAW beside JPEG", "a/1.JPG a/1.NEF a/2.CR2 a/2.jpeg", "a/1.JPG a/2.jpeg");
+    row("RAW beside TIFF", "1.dng 1.tif", "1.tif");
+    row("TIFF beside JPEG", "1.tif 1.jpg", "1.jpg");
+    row("RAW alone", "1.NEF 2.NEF", "1.NEF 2.NEF");
+    row("another case", "IMG_1.jpg img_1.nef", "IMG_1.jpg");
+    row("two photos whose names differ in case", "IMG_1.jpg img_1.jpg", "IMG_1.jpg img_1.jpg");
+    row("another folder", "a/1.jpg b/1.nef", "a/1.jpg b/1.nef");
+    row("without an ending", "1 1.jpg", "1.jpg");
+    row("none", "", "");
+}
+
+void TestPhotoNames::oneFileOfEachPhotoIsKept()
+{
+    QFETCH(QString, given);
+    QFETCH(QString, kept);
+    QCOMPARE(withoutCompanions(given.split(QLatin1Char(' '))).join(QLatin1Char(' ')), kept);
 }
 
 void TestPhotoNames::countersAreFound_data()

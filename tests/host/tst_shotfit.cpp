@@ -140,7 +140,7 @@ private Q_SLOTS:
     void positionsOfUnequalStacksKeepTheirAngles();
     void missingShotsAreNamed();
     void exposureOfAMissingShotIsNamed();
-    void manyMissingShotsAreCounted();
+    void manyMissingShotsShareALine();
     void emptyFileIsMadeForAStandIn();
 };
 
@@ -400,16 +400,16 @@ void ShotFitTest::exposureOfAMissingShotIsNamed()
         QStringList{ QStringLiteral("no photo for shot 5 (yaw 90, pitch 0, exposure 2 of 3)") });
 }
 
-void ShotFitTest::manyMissingShotsAreCounted()
+void ShotFitTest::manyMissingShotsShareALine()
 {
     const auto whole = description({ "a", "b", "c", "d", "e", "f", "g", "h" });
     QCOMPARE(missingShotWarnings(fitOf("-----fgh"), whole, 1).size(), 5);
     const QStringList six = missingShotWarnings(fitOf("------gh"), whole, 1);
     QCOMPARE(six.size(), 6);
     QCOMPARE(six.at(4), QStringLiteral("no photo for shot 5 (yaw 40, pitch -4)"));
-    QCOMPARE(six.at(5), QStringLiteral("no photo for 1 more shot"));
+    QCOMPARE(six.at(5), QStringLiteral("no photo for shot 6"));
     QCOMPARE(missingShotWarnings(fitOf("-b------"), whole, 1).last(),
-             QStringLiteral("no photo for 2 more shots"));
+             QStringLiteral("no photo for shots 7 to 8"));
 }
 
 void ShotFitTest::emptyFileIsMadeForAStandIn()
