@@ -140,7 +140,7 @@ constexpr auto kPanoramaFields = [](JsonFields &json, auto &panorama) {
     json.field("rollKnown", description.rollKnown);
     json.list("positions", panorama.positions, kPositionFields, "One entry per shooting position.");
     json.object("angles", description, kAnglesFields,
-                About("Radians as received, one entry per recorded shot.").inLines());
+                About("Radians as received, one entry per shot that has a photo.").inLines());
     json.list("links", description.authorizedLinks, kLinkFields,
               "Pairs of positions between which control points may be looked for.");
     json.object("options", description, kOptionsFields);
