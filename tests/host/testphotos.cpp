@@ -99,15 +99,19 @@ QString seenQuarters(const QImage &image)
 QString writeJpeg(const QString &path, const QImage &picture, const Exif &exif)
 {
     writeFile(path, jpegBytes(picture));
-    if (exif.isEmpty()) {
-        return path;
+    if (!exif.isEmpty()) {
+        addExif(path, exif);
     }
+    return path;
+}
+
+void addExif(const QString &path, const Exif &exif)
+{
     changeMetadata(path, [&exif](Exiv2::Image &image) {
         for (auto entry = exif.begin(); entry != exif.end(); ++entry) {
             image.exifData()[entry.key().toStdString()] = entry.value().toStdString();
         }
     });
-    return path;
 }
 
 QString writeOrdinary(const QString &path, const QSize &size)

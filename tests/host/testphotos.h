@@ -28,6 +28,9 @@ using Exif = QMap<QByteArray, QByteArray>;
 /** Writes \p picture as a JPEG with \p exif to \p path. Answers the path. */
 QString writeJpeg(const QString &path, const QImage &picture, const Exif &exif);
 
+/** Gives the photo \p path the entries of \p exif. */
+void addExif(const QString &path, const Exif &exif);
+
 /** An ordinary photo of \p size. */
 QString writeOrdinary(const QString &path, const QSize &size = QSize(120, 80));
 
