@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 
 // Tie points of photos of 24 megapixels, against decoding and SIFT of the same photos on the same
-// processors, each in a process of its own; and how matching grows with the number of photos.
+// processors, each in a process of its own; how the camera turned between neighbours, in the same
+// way; and how matching grows with the number of photos.
 #include "benchmarks/bars.h"
 #include "benchmarks/hostrun.h"
+#include "host/align/seenturns.h"
 #include "host/align/tiepoints.h"
 #include "host/model/parallel.h"
 #include "host/model/photofile.h"
@@ -168,6 +170,26 @@ int findPoints(const QDir &folder)
     return 0;
 }
 
+/** Sees how the camera turned between the photos in \p folder. Answers the exit code. */
+int seeTurns(const QDir &folder)
+{
+    QVector<PhotoInfo> photos;
+    for (int view = 0; view < kRows * kColumns; ++view) {
+        PhotoInfo photo;
+        photo.path = folder.filePath(photoName(view / kColumns, view % kColumns));
+        photo.storedSize = kSize;
+        photos += photo;
+    }
+    constexpr double kFocal35mm = 35.0;
+    SeenTurns turns(photos, kFocal35mm, LensModel::Standard);
+    for (int view = 1; view < photos.size(); ++view) {
+        if (!turns.between(view - 1, view)) {
+            return 1;
+        }
+    }
+    return 0;
+}
+
 /** Decodes the photos in \p folder and has SIFT describe them, on all processors. */
 int describePhotos(const QDir &folder, int widest)
 {
@@ -191,7 +213,7 @@ int describePhotos(const QDir &folder, int widest)
     return *std::min_element(counts.begin(), counts.end()) > 0 ? 0 : 1;
 }
 
-/** The two programs on the same photos, each run once. */
+/** The programs on the same photos, each run once. */
 class Photos
 {
 public:
@@ -202,6 +224,8 @@ public:
 
     const HostRun::Run &points() { return run(m_points, "--points"); }
     const HostRun::Run &plain() { return run(m_plain, "--plain"); }
+    const HostRun::Run &turns() { return run(m_turns, "--turns"); }
+    const HostRun::Run &plainSmall() { return run(m_plainSmall, "--plain-900"); }
 
 private:
     const HostRun::Run &run(std::optional<HostRun::Run> &kept, const char *mode)
@@ -221,6 +245,8 @@ private:
     bool m_written = false;
     std::optional<HostRun::Run> m_points;
     std::optional<HostRun::Run> m_plain;
+    std::optional<HostRun::Run> m_turns;
+    std::optional<HostRun::Run> m_plainSmall;
 };
 
 Bars::Figure timeOf(Photos &photos)
@@ -239,6 +265,16 @@ Bars::Figure memoryOf(Photos &photos)
     return { points.megabytes,
              Bars::text("%.3g s, plain SIFT %.0f MB", points.wallSeconds, photos.plain().megabytes),
              points.exitCode == 0 ? "" : "pairs without points" };
+}
+
+/** On one processor against all of them: of processor time. */
+Bars::Figure timeOfTurns(Photos &photos)
+{
+    const HostRun::Run &turns = photos.turns();
+    const HostRun::Run &plain = photos.plainSmall();
+    return { turns.cpuSeconds / plain.cpuSeconds,
+             Bars::text("CPU %.3g s against %.3g s", turns.cpuSeconds, plain.cpuSeconds),
+             turns.exitCode == 0 && plain.exitCode == 0 ? "" : "a turn is not seen" };
 }
 
 /** A sphere of at least \p least photos with made-up features that neighbours share. */
@@ -381,6 +417,12 @@ int main(int argc, char **argv)
     if (argc == 3 && std::strcmp(argv[1], "--plain") == 0) {
         return describePhotos(QDir(QFile::decodeName(argv[2])), TiePointOptions().widest);
     }
+    if (argc == 3 && std::strcmp(argv[1], "--turns") == 0) {
+        return seeTurns(QDir(QFile::decodeName(argv[2])));
+    }
+    if (argc == 3 && std::strcmp(argv[1], "--plain-900") == 0) {
+        return describePhotos(QDir(QFile::decodeName(argv[2])), 900);
+    }
     using Bars::Need;
     const auto atMost = [](double limit, const char *unit) {
         return Bars::Bar{ Need::AtMost, limit, unit };
@@ -390,6 +432,8 @@ int main(int argc, char **argv)
               atMost(1.5, "x"), [&] { return timeOf(photos); });
     Bars::add("tie points/100 photos of 24 megapixels/peak memory", atMost(1500.0, " MB"),
               [&] { return memoryOf(photos); });
+    Bars::add("seen turns/100 photos of 24 megapixels/time of decoding and SIFT at 900 pixels",
+              atMost(1.5, "x"), [&] { return timeOfTurns(photos); });
     Bars::add("overlapping pairs/from 10,000 to 70,000/cost exponent", atMost(1.1, ""),
               [] { return pairGrowth(10'000, 70'000); });
     Bars::add("matching/from 1,000 to 10,000/cost exponent", atMost(1.1, ""),
