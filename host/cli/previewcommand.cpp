@@ -6,13 +6,13 @@
 #include "host/import/inputcheck.h"
 #include "host/model/commanderror.h"
 #include "host/model/displayname.h"
+#include "host/model/photofile.h"
+#include "host/model/safefile.h"
 
 #include <QBuffer>
 #include <QDir>
 #include <QFileInfo>
 #include <QImageWriter>
-
-#include "host/model/safefile.h"
 
 namespace PanoHost
 {
@@ -64,7 +64,8 @@ ExitCode runPreview(Session &session, const QStringList &arguments)
     ImportJob job(session.app, request, session.watch());
     job.checkInputs();
     job.preparePage();
-    const QPixmap layout = job.layout();
+    QImage layout = job.layout().toImage();
+    markAsOwn(layout);
     // Packing a PNG well takes longer than reading its photos' thumbnails.
     constexpr int kQuicklyPacked = 85;
     const int quality = format == "png" ? kQuicklyPacked : -1;

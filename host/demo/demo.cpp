@@ -10,6 +10,7 @@
 #include "host/demo/photoshoot.h"
 #include "host/model/canvas.h"
 #include "host/model/panoramajson.h"
+#include "host/model/photofile.h"
 #include "host/model/ptoproject.h"
 #include "host/model/safefile.h"
 #include "host/stitch/projectcheck.h"
@@ -204,6 +205,7 @@ Demo::Outcome Demo::import()
     QByteArray picture;
     QBuffer buffer(&picture);
     buffer.open(QIODevice::WriteOnly);
+    markAsOwn(imported.layout);
     if (imported.layout.save(&buffer, "PNG")) {
         if (Outcome failure = write(path("layout.png"), picture)) {
             return failure;

@@ -5,6 +5,7 @@
 #include "host/model/panorama.h"
 
 #include <QDateTime>
+#include <QStringList>
 
 #include <exiv2/exiv2.hpp>
 
@@ -149,14 +150,32 @@ std::optional<double> exposureOf(const Entries &exif)
     return exposureValue(fNumber, seconds, iso > 0.0 ? iso : kAssumedIso);
 }
 
-LensModel lensOf(const Entries &exif, const Exiv2::ExifData &all, double focal)
+QString lensNameOf(const Entries &exif, const Exiv2::ExifData &all)
 {
     QString name = text(exif, "Exif.Photo.LensModel");
     const auto makerNote = exif.hasMakerNote() ? Exiv2::lensName(all) : all.end();
     if (makerNote != all.end()) {
         name += QLatin1Char(' ') + QString::fromStdString(makerNote->print(&all));
     }
-    name = name.simplified().toLower();
+    return name.simplified();
+}
+
+QString cameraOf(const Entries &exif)
+{
+    QStringList words;
+    for (const char *const key :
+         { "Exif.Image.Make", "Exif.Image.Model", "Exif.Photo.BodySerialNumber" }) {
+        const QString word = text(exif, key).simplified();
+        if (!word.isEmpty()) {
+            words += word;
+        }
+    }
+    return words.join(QLatin1Char(' '));
+}
+
+LensModel lensOf(const QString &lensName, double focal)
+{
+    const QString name = lensName.toLower();
     for (const char *const word : { "fisheye", "fish-eye", "fish eye" }) {
         if (name.contains(QLatin1String(word))) {
             return LensModel::Fisheye;
@@ -232,9 +251,13 @@ PhotoInfo photoInfo(const Exiv2::Image &image)
     info.storedSize = QSize(image.pixelWidth(), image.pixelHeight());
     info.orientation = orientationOf(exif);
     info.focal35mm = focal35mm(exif, info.storedSize);
-    info.lens = lensOf(exif, image.exifData(), info.focal35mm);
+    info.lensName = lensNameOf(exif, image.exifData());
+    info.lens = lensOf(info.lensName, info.focal35mm);
+    info.camera = cameraOf(exif);
     info.exposureValue = exposureOf(exif);
     readTime(exif, info);
+    info.isRaw = isRaw(image);
+    info.isPanorama = isPanorama(image);
     return info;
 }
 
@@ -247,6 +270,13 @@ bool isRaw(const Exiv2::Image &image)
         return first > 0.0 && first < image.pixelWidth();
     }
     return type.startsWith("image/x-") && type != "image/x-ms-bmp" && type != "image/x-exv";
+}
+
+bool isPanorama(const Exiv2::Image &image)
+{
+    const Exiv2::XmpData &xmp = image.xmpData();
+    return std::any_of(xmp.begin(), xmp.end(),
+                       [](const Exiv2::Xmpdatum &entry) { return entry.groupName() == "GPano"; });
 }
 
 bool isPictureWithin(const Exiv2::Image &image, qint64 bytes)

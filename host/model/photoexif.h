@@ -34,6 +34,10 @@ struct PhotoInfo {
     qint64 timeMs = 0;
     /** The same as "2024-05-01T10:00:00" or "2024-05-01T10:00:00.250"; empty: not known. */
     QString timeText;
+    QString camera; ///< maker, model and serial number, as far as the photo names them
+    QString lensName; ///< empty: not named
+    bool isRaw = false; ///< for RAW converters
+    bool isPanorama = false; ///< says of itself that it was made of other photos, or is a layout
 };
 
 /** What the EXIF data and header of \p image say; the path is left empty. */
@@ -41,6 +45,9 @@ struct PhotoInfo {
 
 /** Whether \p image is for RAW converters, of which decoders find a preview at best. */
 [[nodiscard]] bool isRaw(const Exiv2::Image &image);
+
+/** Whether \p image bears the data by which viewers know a panorama. */
+[[nodiscard]] bool isPanorama(const Exiv2::Image &image);
 
 /** Whether the strips or tiles that \p image, a TIFF, names lie within the file's \p bytes. */
 [[nodiscard]] bool isPictureWithin(const Exiv2::Image &image, qint64 bytes);

@@ -22,6 +22,16 @@ namespace PanoHost
 namespace
 {
 
+QString softwareKey()
+{
+    return QStringLiteral("Software");
+}
+
+QString ownSoftware()
+{
+    return QStringLiteral("panohost");
+}
+
 /** A photo that is open, its header read. */
 struct OpenPhoto {
     PhotoInfo info;
@@ -53,9 +63,12 @@ Result<OpenPhoto> openPhoto(const QString &path)
         photo.info = photoInfo(*photo.exiv);
     }
     photo.info.path = path;
-    if (isPhotoFormat(format) && !(photo.exiv && isRaw(*photo.exiv))) {
+    if (isPhotoFormat(format) && !photo.info.isRaw) {
         device.seek(0);
-        const QSize decoded = QImageReader(&device, format).size();
+        QImageReader reader(&device, format);
+        const QSize decoded = reader.size();
+        photo.info.isPanorama
+            = photo.info.isPanorama || reader.text(softwareKey()) == ownSoftware();
         photo.pictureIsPhoto = !decoded.isEmpty();
         if (photo.pictureIsPhoto) {
             photo.info.storedSize = decoded;
@@ -78,6 +91,11 @@ bool isOfFullSize(const QImage &thumbnail, const PhotoInfo &info)
 }
 
 } // namespace
+
+void markAsOwn(QImage &picture)
+{
+    picture.setText(softwareKey(), ownSoftware());
+}
 
 void initializePhotoReading()
 {

@@ -33,6 +33,10 @@ void initializePhotoReading();
 [[nodiscard]] Result<PhotoReading> readPhoto(const QString &path,
                                              const DesktopThumbnails *shared = nullptr);
 
+/** Has \p picture say, when it is saved as PNG or JPEG, that it is a result of this program: read
+ * as a photo it is `PhotoInfo::isPanorama`. */
+void markAsOwn(QImage &picture);
+
 /** A photo's pixels as they are stored: not turned. */
 struct StoredPixels {
     QImage picture;

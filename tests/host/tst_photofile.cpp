@@ -48,6 +48,8 @@ private Q_SLOTS:
     void timeTextReadsBack();
     void fisheyeIsKnownByItsName_data();
     void fisheyeIsKnownByItsName();
+    void cameraAndLensAreNamed();
+    void whatWasMadeOfPhotosSaysSo();
     void photoWithoutExifIsReadAllTheSame();
     void pngIsAPhoto();
     void rawFileShowsItsPreviewAndTheSizeOfThePhoto();
@@ -340,6 +342,42 @@ void PhotoFileTest::fisheyeIsKnownByItsName()
     QCOMPARE(static_cast<int>(photo.value().lens), expected);
 }
 
+void PhotoFileTest::cameraAndLensAreNamed()
+{
+    const Exif exif{ { "Exif.Image.Make", "Imaginary  Optics " },
+                     { "Exif.Image.Model", "Pinhole One" },
+                     { "Exif.Photo.BodySerialNumber", "0042" },
+                     { "Exif.Photo.LensModel", "Loupe 24 mm" } };
+    const auto photo = readPhotoInfo(TestPhotos::writeJpeg(at(QStringLiteral("named.jpg")),
+                                                           TestPhotos::quarters({ 60, 40 }), exif));
+    QVERIFY(photo.ok());
+    QCOMPARE(photo.value().camera, QStringLiteral("Imaginary Optics Pinhole One 0042"));
+    QCOMPARE(photo.value().lensName, QStringLiteral("Loupe 24 mm"));
+    QVERIFY(!photo.value().isRaw && !photo.value().isPanorama);
+}
+
+void PhotoFileTest::whatWasMadeOfPhotosSaysSo()
+{
+    const auto isPanorama = [](const QString &path) {
+        const auto photo = readPhotoInfo(path);
+        return photo.ok() && photo.value().isPanorama;
+    };
+    const QString sphere = TestPhotos::writeOrdinary(at(QStringLiteral("sphere.jpg")));
+    QVERIFY(!isPanorama(sphere));
+    TestPhotos::embedXmp(sphere, "GPano");
+    QVERIFY(isPanorama(sphere));
+    QImage layout = TestPhotos::quarters({ 60, 40 });
+    for (const char *const name : { "layout.png", "layout.jpg" }) {
+        const QString path = at(QString::fromLatin1(name));
+        QVERIFY(layout.save(path));
+        QVERIFY(!isPanorama(path));
+        QImage marked = layout;
+        markAsOwn(marked);
+        QVERIFY(marked.save(path));
+        QVERIFY(isPanorama(path));
+    }
+}
+
 void PhotoFileTest::photoWithoutExifIsReadAllTheSame()
 {
     const QString path = TestPhotos::writeJpeg(at(QStringLiteral("bare.jpg")),
@@ -354,6 +392,7 @@ void PhotoFileTest::photoWithoutExifIsReadAllTheSame()
     QVERIFY(!info.exposureValue);
     QCOMPARE(info.timeMs, qint64(0));
     QVERIFY(info.timeText.isEmpty());
+    QVERIFY(info.camera.isEmpty() && info.lensName.isEmpty());
 }
 
 void PhotoFileTest::pngIsAPhoto()
@@ -376,6 +415,7 @@ void PhotoFileTest::rawFileShowsItsPreviewAndTheSizeOfThePhoto()
     QVERIFY2(reading.ok(), "not read");
     QCOMPARE(reading.value().info.storedSize, QSize(6000, 4000));
     QCOMPARE(reading.value().info.orientation, 6);
+    QVERIFY(reading.value().info.isRaw);
     QCOMPARE(reading.value().thumbnail.size(), QSize(171, 256));
     QCOMPARE(TestPhotos::seenQuarters(reading.value().thumbnail), QStringLiteral("BRYG"));
 }
