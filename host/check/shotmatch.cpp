@@ -30,15 +30,6 @@ double finiteOrZero(double value)
     return std::isfinite(value) ? value : 0.0;
 }
 
-/** What both clocks show is compared, whatever their zones. */
-double secondsShown(const QDateTime &time)
-{
-    return time.isValid()
-        ? static_cast<double>(QDateTime(time.date(), time.time(), Qt::UTC).toMSecsSinceEpoch())
-            / 1000.0
-        : kUnknown;
-}
-
 /** The middles of groups of \p values, those within the same group less than a third of a stop
  * apart; the \p count largest groups, rising. Empty: there are not so many, or much is left over.
  */
@@ -1044,6 +1035,14 @@ ShotMatch Matcher::match()
 }
 
 } // namespace
+
+double secondsShown(const QDateTime &time)
+{
+    return time.isValid()
+        ? static_cast<double>(QDateTime(time.date(), time.time(), Qt::UTC).toMSecsSinceEpoch())
+            / 1000.0
+        : kUnknown;
+}
 
 bool ShotMatch::isSure() const
 {

@@ -84,6 +84,9 @@ struct ShotMatch {
     [[nodiscard]] bool isComplete() const;
 };
 
+/** Seconds by which what clocks show is compared, whatever their zones; NaN: no time. */
+[[nodiscard]] double secondsShown(const QDateTime &time);
+
 /**
  * Pairs \p photos, in any order, with the \p shots of a record that takes \p bracketCount photos at
  * a position. \p measure may be empty. It is asked only around places where names, times and counts
