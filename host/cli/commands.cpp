@@ -12,6 +12,7 @@ const QVector<CommandRow> &commands()
     static const QVector<CommandRow> rows{
         { "import", "make a Hugin project from a head's record and photos", runImport },
         { "check", "say what is known about record and photos; writes nothing", runCheck },
+        { "sort", "find out which photos of a card belong to which record", runSort },
         { "describe", "print a panorama's description as JSON or as a table", runDescribe },
         { "align", "put every photo exactly where it belongs", runAlign },
         { "preview", "save the layout picture of the import page", runPreview },

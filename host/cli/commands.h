@@ -32,6 +32,7 @@ struct CommandRow {
 
 ExitCode runImport(Session &session, const QStringList &arguments);
 ExitCode runCheck(Session &session, const QStringList &arguments);
+ExitCode runSort(Session &session, const QStringList &arguments);
 ExitCode runDescribe(Session &session, const QStringList &arguments);
 ExitCode runAlign(Session &session, const QStringList &arguments);
 ExitCode runPreview(Session &session, const QStringList &arguments);

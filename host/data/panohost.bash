@@ -46,7 +46,7 @@ _panohost() {
   fi
   if [[ $current == -* ]]; then
     mapfile -t COMPREPLY < <(compgen -W "$(_panohost_options <<<"$help")" -- "$current")
-  elif [[ $previous == "$command" ]]; then
+  elif [[ $previous == "$command" && $help == *$'\nHeads:'* ]]; then
     mapfile -t COMPREPLY < <(compgen -W "$(_panohost_words Heads <<<"$help")" -- "$current")
   else
     mapfile -t COMPREPLY < <(compgen -f -- "$current")

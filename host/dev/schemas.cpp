@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/align/alignmentreport.h"
+#include "host/check/cardreport.h"
 #include "host/check/findings.h"
 #include "host/model/panoramajson.h"
 #include "host/model/safefile.h"
@@ -23,6 +24,7 @@ int main(int argc, char **argv)
         { QStringLiteral("panohost.schema.json"), PanoHost::panoramaSchema() },
         { QStringLiteral("panohost-alignment.schema.json"), PanoHost::alignmentSchema() },
         { QStringLiteral("panohost-check.schema.json"), PanoHost::findingsSchema() },
+        { QStringLiteral("panohost-sort.schema.json"), PanoHost::planSchema() },
     };
     for (const auto &[name, schema] : schemas) {
         const auto written = PanoHost::writeFileAtomically(folder.filePath(name), schema);

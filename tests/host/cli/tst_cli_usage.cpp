@@ -57,8 +57,9 @@ void TestCliUsage::helpTeachesOnEveryLevel_data()
 {
     QTest::addColumn<QString>("line");
     for (const char *line :
-         { "--help", "-h", "import --help", "check --help", "describe --help", "preview --help",
-           "plugins --help", "import papywizard --help", "import papywizard r.xml -o --help -h" }) {
+         { "--help", "-h", "import --help", "check --help", "sort --help", "describe --help",
+           "preview --help", "plugins --help", "import papywizard --help",
+           "import papywizard r.xml -o --help -h" }) {
         QTest::newRow(line) << QString::fromLatin1(line);
     }
 }
