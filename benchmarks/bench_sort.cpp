@@ -147,7 +147,7 @@ int main(int argc, char **argv)
     initializePhotoReading();
     const QCoreApplication app(argc, argv);
     Bars::add("sort/10,000 photos, 303 records/time of their EXIF data",
-              { Bars::Need::AtMost, 8.0, "x" }, sortedCard);
+              { Bars::Need::AtMost, 5.0, "x" }, sortedCard);
     Bars::add("sort/plan of 7,000 to 70,000 photos/exponent", { Bars::Need::AtMost, 1.2, "" },
               growth);
     return Bars::run(argc, argv);

@@ -169,6 +169,11 @@ public:
     [[nodiscard]] double duration() const { return m_shots.back() - m_shots.front(); }
     [[nodiscard]] double first() const { return m_shots.front(); }
     [[nodiscard]] qint64 shotCount() const { return size(m_shots); }
+    /** 0 when both clocks tell seconds. */
+    [[nodiscard]] double slackIn(int stream) const
+    {
+        return m_slack + m_streams[stream].slackSeconds;
+    }
 
     /** How well the record fits when its first shot is the photo taken at \p start. */
     [[nodiscard]] Overlay at(int stream, double start) const
@@ -217,8 +222,7 @@ private:
         constexpr double kLeast = 1.5;
         constexpr double kMost = 4.0;
         constexpr double kShare = 0.2; // of a pause
-        return std::clamp(kShare * m_usualPause, kLeast, kMost) + m_slack
-            + m_streams[stream].slackSeconds;
+        return std::clamp(kShare * m_usualPause, kLeast, kMost) + slackIn(stream);
     }
 
     const std::vector<PhotoStream> &m_streams;
@@ -514,9 +518,14 @@ void Planner::addBest(int record, const Trial &trial, const std::vector<UsualClo
                      [&promise](const Overlay &one, const Overlay &other) {
                          return promise(one) > promise(other);
                      });
+    constexpr double kHopeless = 0.25; // so much less than the best
     overlays.resize(std::min(overlays.size(), kMost));
     for (const Overlay &overlay : overlays) {
-        addMatch(record, overlay);
+        // Without seconds nothing is told from a distance.
+        if (trial.overlayer.slackIn(overlay.stream) > 0.0
+            || promise(overlay) >= promise(overlays.front()) - kHopeless) {
+            addMatch(record, overlay);
+        }
     }
 }
 
