@@ -255,21 +255,24 @@ void Fitter::tellClock()
     }
 }
 
-/** Files that are the same byte for byte are no two shots. */
+/** Copies of one file are no two shots. RAW files are often of the same size, so only their beginnings
+ * are compared, which name the time and hold the preview. */
 void Fitter::tellSamePictures()
 {
-    QHash<qint64, QVector<int>> bySize;
+    constexpr qint64 kBeginningBytes = 256 * 1024;
+    QHash<std::pair<qint64, qint64>, QVector<int>> alike; // by size and time
     for (int photo = 0; photo < m_photos.size(); ++photo) {
-        bySize[QFileInfo(m_photos.at(photo).path).size()] += photo;
+        const PhotoInfo &info = m_photos.at(photo);
+        alike[{ QFileInfo(info.path).size(), info.timeMs }] += photo;
     }
     QMap<int, QStringList> same; // by the first one
-    for (const QVector<int> &photos : qAsConst(bySize)) {
+    for (const QVector<int> &photos : qAsConst(alike)) {
         QHash<QByteArray, int> first;
         for (const int photo : photos.size() > 1 ? photos : QVector<int>()) {
             QFile file(m_photos.at(photo).path);
-            QCryptographicHash hash(QCryptographicHash::Sha1);
-            if (file.open(QIODevice::ReadOnly) && hash.addData(&file)) {
-                const QByteArray key = hash.result();
+            if (file.open(QIODevice::ReadOnly)) {
+                const QByteArray key = QCryptographicHash::hash(file.read(kBeginningBytes),
+                                                                QCryptographicHash::Sha1);
                 same[first.contains(key) ? first.value(key) : (first[key] = photo)]
                     += file.fileName();
             }
