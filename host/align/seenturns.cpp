@@ -35,10 +35,11 @@ Eigen::Matrix3d turnOf(const PhotoInfo &photo)
 
 } // namespace
 
-SeenTurns::SeenTurns(QVector<PhotoInfo> photos, double focal35mm, LensModel lens)
+SeenTurns::SeenTurns(QVector<PhotoInfo> photos, double focal35mm, LensModel lens, JobWatch watch)
     : m_photos(std::move(photos))
     , m_focal35mm(focal35mm)
     , m_lens(lens)
+    , m_watch(std::move(watch))
 {
 }
 
@@ -80,6 +81,7 @@ std::shared_ptr<const SeenTurns::Seen> SeenTurns::seen(int number)
         std::rotate(m_last.begin(), known, known + 1);
         return m_last.front();
     }
+    m_watch.check();
     const PhotoInfo &photo = m_photos.at(number);
     auto made = std::make_shared<Seen>();
     made->number = number;

@@ -4,6 +4,7 @@
 
 #include "host/align/features.h"
 #include "host/align/geometry.h"
+#include "host/model/jobwatch.h"
 #include "host/model/photofile.h"
 
 #include <QVector>
@@ -25,8 +26,9 @@ namespace PanoHost
 class SeenTurns
 {
 public:
-    /** \p photos through a \p lens of \p focal35mm; 0: nothing can be said of any pair. */
-    SeenTurns(QVector<PhotoInfo> photos, double focal35mm, LensModel lens);
+    /** \p photos through a \p lens of \p focal35mm; 0: nothing can be said of any pair. Looking at
+     * them throws when \p watch says so. */
+    SeenTurns(QVector<PhotoInfo> photos, double focal35mm, LensModel lens, JobWatch watch = {});
 
     /** The frame of upright photo \p one in that of \p other: what rays of the one are in the
      * other. Nothing when they show too little in common, cannot be read or are of different sizes.
@@ -49,6 +51,7 @@ private:
     QVector<PhotoInfo> m_photos;
     double m_focal35mm;
     LensModel m_lens;
+    JobWatch m_watch;
     std::vector<std::shared_ptr<const Seen>> m_last; ///< the latest first
     std::map<std::pair<int, int>, std::optional<Eigen::Matrix3d>> m_turns; ///< that were asked for
 };

@@ -56,7 +56,7 @@ QString longestPause(const GridChoice &grid, int columns, const QVector<PhotoInf
 } // namespace
 
 Result<PhotoFit> fitGrid(const GridChoice &grid, const QVector<PhotoInfo> &photos,
-                         const KnownLens &lens)
+                         const KnownLens &lens, const JobWatch &watch)
 {
     const QVector<PhotoInfo> used = photos.mid(grid.ignoredCount);
     const int line = grid.rows * grid.bracketCount;
@@ -64,7 +64,7 @@ Result<PhotoFit> fitGrid(const GridChoice &grid, const QVector<PhotoInfo> &photo
         return PhotoFit{};
     }
     const QSize frame = uprightSize(used.first());
-    SeenTurns turns(used, lens.focal35mm, lens.lens);
+    SeenTurns turns(used, lens.focal35mm, lens.lens, watch);
     const SweptGrid swept{ grid.rows, grid.mode, grid.bracketCount,
                            QSizeF(horizontalFovDegrees(frame, lens.focal35mm, lens.lens),
                                   horizontalFovDegrees(frame.transposed(), lens.focal35mm,

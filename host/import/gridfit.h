@@ -13,9 +13,9 @@ namespace PanoHost
  * in the order of their names, do not fill it. Nobody has written down how far a grid's head turns
  * between two shots: that is learnt from the pictures, taken through \p lens. Refuses when it
  * cannot be told surely, and names the line with the longest pause. The fit begins with the photos
- * that \p grid ignores.
+ * that \p grid ignores. Throws when \p watch says so.
  */
 [[nodiscard]] Result<PhotoFit> fitGrid(const GridChoice &grid, const QVector<PhotoInfo> &photos,
-                                       const KnownLens &lens);
+                                       const KnownLens &lens, const JobWatch &watch = {});
 
 } // namespace PanoHost

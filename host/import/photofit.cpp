@@ -403,10 +403,10 @@ bool hasHastyPhoto(const QVector<PhotoInfo> &photos, int levels)
 
 /** \p photos are one file each. */
 Result<PhotoFit> fitAlone(const RecordedShots &record, const QVector<PhotoInfo> &photos,
-                          const KnownLens &lens)
+                          const KnownLens &lens, const JobWatch &watch)
 {
     constexpr double kQuarter = 90.0;
-    SeenTurns turns(photos, lens.focal35mm, lens.lens);
+    SeenTurns turns(photos, lens.focal35mm, lens.lens, watch);
     const Eigen::Matrix3d mount = rotationOf({ 0.0, 0.0, kQuarter * record.clockwiseTurns });
     const MeasureRotation ofHead = [&](int one, int other) {
         const auto seen = turns.between(one, other);
@@ -436,15 +436,15 @@ Result<PhotoFit> fitAlone(const RecordedShots &record, const QVector<PhotoInfo> 
 } // namespace
 
 Result<PhotoFit> fitPhotos(const RecordedShots &record, const QVector<PhotoInfo> &photos,
-                           const KnownLens &lens)
+                           const KnownLens &lens, const JobWatch &watch)
 {
     const RecordedShots shots = withSeenBrackets(record);
     const QVector<PhotoInfo> alone = oneFileEach(photos);
     const int companions = photos.size() - alone.size();
     if (companions == 0 || photos.size() == shots.shots.size()) {
-        return fitAlone(shots, photos, lens);
+        return fitAlone(shots, photos, lens, watch);
     }
-    Result<PhotoFit> fit = fitAlone(shots, alone, lens);
+    Result<PhotoFit> fit = fitAlone(shots, alone, lens, watch);
     if (!fit) {
         return fit;
     }

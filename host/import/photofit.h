@@ -37,10 +37,11 @@ struct PhotoFit {
  * exposures and, where these disagree, by the pictures themselves, taken through \p lens. Refuses
  * when it cannot be told surely, naming both readings; but as many photos as shots go by their
  * names then, unless pictures say otherwise. Of files with the same name but for the ending one is
- * used.
+ * used. Throws when \p watch says so.
  */
 [[nodiscard]] Result<PhotoFit> fitPhotos(const RecordedShots &record,
-                                         const QVector<PhotoInfo> &photos, const KnownLens &lens);
+                                         const QVector<PhotoInfo> &photos, const KnownLens &lens,
+                                         const JobWatch &watch = {});
 /** \p match of \p photos put into words. */
 [[nodiscard]] PhotoFit fitOf(const ShotMatch &match, const QVector<PhotoInfo> &photos,
                              SeenTurns &turns);

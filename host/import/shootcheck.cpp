@@ -106,8 +106,8 @@ void ShootCheck::matchPhotos()
     for (NotedShot &shot : record.shots) {
         shot.pitchDegrees = m_request.invertPitch ? -shot.pitchDegrees : shot.pitchDegrees;
     }
-    auto matched = m_request.grid ? fitGrid(*m_request.grid, photos, lensOf(photos))
-                                  : fitPhotos(record, photos, lensOf(photos));
+    auto matched = m_request.grid ? fitGrid(*m_request.grid, photos, lensOf(photos), m_watch)
+                                  : fitPhotos(record, photos, lensOf(photos), m_watch);
     const bool allReadable = photos.size() == m_photos.size();
     if (!matched) {
         // Photos that cannot be read are what is to be said first.
