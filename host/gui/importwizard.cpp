@@ -281,8 +281,10 @@ bool ImportWizard::validateCurrentPage()
     }
     const int before = m_app.deliveryCount();
     ImportRequest request;
-    request.filled
-        = FilledPage{ currentPage(), plugin->source(recordPath(currentPage())), &m_deliveries };
+    request.filled = FilledPage();
+    request.filled->page = currentPage();
+    request.filled->source = plugin->source(recordPath(currentPage()));
+    request.filled->deliveries = &m_deliveries;
     m_panorama = importShoot(m_app, request, {});
     return m_app.deliveryCount() != before;
 }

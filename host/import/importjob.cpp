@@ -18,16 +18,16 @@ namespace
 
 /** What the user is told of an import. Of one that changes something, all that led to it. Recorded
  * shots without a photo are named one by one, once it is known where they point. */
-QStringList warningsOf(const ShootCheck &check, bool withMissing)
+QStringList warningsOf(const QVector<Finding> &findings, bool isFitted, bool withMissing)
 {
     static const QStringList kOfFit{ QStringLiteral("shots"), QStringLiteral("left"),
                                      QStringLiteral("clock") };
     QStringList warnings;
-    for (const Finding &finding : check.findings()) {
+    for (const Finding &finding : findings) {
         const bool isMissing = finding.topic == QLatin1String("missing");
         if (isMissing ? withMissing
                       : finding.kind == Finding::Kind::Trouble
-                    || (check.fit() && kOfFit.contains(finding.topic))) {
+                    || (isFitted && kOfFit.contains(finding.topic))) {
             warnings += finding.text;
         }
     }
@@ -41,6 +41,7 @@ ImportJob::ImportJob(PanoHostApplication &app, ImportRequest request, JobWatch w
     , m_request(std::move(request))
     , m_watch(std::move(watch))
     , m_check(m_app, m_request, m_watch)
+    , m_names(m_app)
 {
     m_app.photos().setReadsPictures(m_request.wantsLayout);
 }
@@ -48,7 +49,6 @@ ImportJob::ImportJob(PanoHostApplication &app, ImportRequest request, JobWatch w
 ImportJob::~ImportJob()
 {
     m_app.photos().stop();
-    m_app.clearPathAliases();
 }
 
 void ImportJob::checkInputs()
@@ -70,7 +70,7 @@ void ImportJob::preparePage()
         m_page->enterRecord(m_request.record);
     }
     m_page->choosePhotos(namesForPage());
-    if (!m_standIns.isEmpty()) {
+    if (m_names.haveStandIns()) {
         // The page has remembered the place of the first one, which may be a stand-in's.
         m_app.SetLastPath(m_check.photos().first());
     }
@@ -100,48 +100,14 @@ const ImportPlugin &ImportJob::openPlugin()
 
 QStringList ImportJob::namesForPage()
 {
-    QStringList photos = m_check.photos();
-    if (m_check.fit()) {
-        photos.clear();
-        for (const FittedShot &shot : *m_check.fit()) {
-            photos += shot.photo;
-        }
-    } else if (!PhotoAliases::areNeeded(photos)) {
-        return photos;
+    if (!m_check.fit()) {
+        return m_names.of(m_check.photos());
     }
-    QString error;
-    QStringList links = m_aliases.create(photos, &error);
-    if (links.isEmpty()) {
-        throw CommandError({ ExitCode::ToolFailed, QStringLiteral("temporary links to the photos"),
-                             error, QStringLiteral("is the temporary folder full? set TMPDIR") });
-    }
-    const QHash<QString, QString> &truePaths = m_aliases.truePaths();
-    for (auto link = truePaths.begin(); link != truePaths.end(); ++link) {
-        m_app.addPathAlias(link.key(), link.value());
-    }
-    if (m_check.fit()) {
-        addStandIns(links);
-    }
-    return links;
-}
-
-int ImportJob::bracketCount() const
-{
-    return m_request.grid ? m_request.grid->bracketCount : m_check.record().bracketCount;
-}
-
-void ImportJob::addStandIns(const QStringList &names)
-{
-    const QVector<PhotoInfo> photos = withStandIns(*m_check.fit(), photoInfos(), bracketCount());
-    for (int i = 0; i < names.size(); ++i) {
-        PhotoInfo photo = photos.at(i);
-        if (!photo.path.isEmpty()) {
-            continue;
-        }
-        photo.path = names.at(i);
-        m_standIns += photo.path;
-        m_app.addStandIn({ photo, m_request.wantsLayout ? greyThumbnail(photo) : QImage() });
-    }
+    const int levels
+        = m_request.grid ? m_request.grid->bracketCount : m_check.record().bracketCount;
+    return m_names.of(
+        { *m_check.fit(), photoInfos(), levels, m_request.grid.has_value(), m_check.findings() },
+        m_request.wantsLayout);
 }
 
 QVector<PhotoInfo> ImportJob::photoInfos() const
@@ -199,15 +165,10 @@ QPixmap ImportJob::layout()
 Panorama ImportJob::handOver()
 {
     StructuredPanoramaProperties description = m_page->handOver();
-    const bool isGrid = m_request.grid.has_value();
-    m_warnings += warningsOf(m_check, isGrid);
+    m_warnings
+        += warningsOf(m_check.findings(), m_check.fit().has_value(), m_request.grid.has_value());
     if (m_check.fit()) {
-        if (isGrid) {
-            m_wishes.missingCells = emptyPositions(description, m_standIns);
-        } else {
-            m_warnings += missingShotWarnings(*m_check.fit(), description, bracketCount());
-        }
-        description = withoutStandIns(std::move(description), m_standIns);
+        m_warnings += m_names.takeOutStandIns(description, m_wishes);
     }
     Panorama panorama = valueOrThrow(joinPanorama(
         description, m_source, [this](const QString &path) { return m_app.photoInfo(path); },
@@ -234,8 +195,21 @@ Result<Panorama> importFilled(PanoHostApplication &app, const FilledPage &filled
                         QStringLiteral("the page refuses them"),
                         {} };
     }
-    return joinPanorama(filled.deliveries->take(filled.page, app.delivery()), filled.source,
-                        [&app](const QString &path) { return app.photoInfo(path); });
+    StructuredPanoramaProperties description = filled.deliveries->take(filled.page, app.delivery());
+    JoinWishes wishes = filled.wishes;
+    QStringList warnings;
+    if (filled.names != nullptr) {
+        const FittedPhotos &fitted = filled.names->fitted();
+        warnings = warningsOf(fitted.findings, true, fitted.isGrid)
+            + filled.names->takeOutStandIns(description, wishes);
+    }
+    Result<Panorama> panorama = joinPanorama(
+        description, filled.source, [&app](const QString &path) { return app.photoInfo(path); },
+        wishes);
+    if (panorama) {
+        panorama.value().warnings = warnings + panorama.value().warnings;
+    }
+    return panorama;
 }
 
 } // namespace

@@ -4,7 +4,7 @@
 
 #include "host/import/importrequest.h"
 #include "host/import/pagedriver.h"
-#include "host/import/photoaliases.h"
+#include "host/import/pagenames.h"
 #include "host/import/shootcheck.h"
 #include "host/model/panorama.h"
 #include "host/plugin/pluginlibrary.h"
@@ -46,9 +46,6 @@ public:
 private:
     [[nodiscard]] const ImportPlugin &openPlugin();
     [[nodiscard]] QStringList namesForPage();
-    /** The application answers for shots without a photo, under the names that the page gets. */
-    void addStandIns(const QStringList &names);
-    [[nodiscard]] int bracketCount() const;
     void chooseLensFor(const QVector<PhotoInfo> &photos);
     [[nodiscard]] QVector<PhotoInfo> photoInfos() const;
     void turnCamera();
@@ -58,8 +55,7 @@ private:
     ImportRequest m_request;
     JobWatch m_watch;
     ShootCheck m_check;
-    PhotoAliases m_aliases;
-    QSet<QString> m_standIns; ///< names on the page
+    PageNames m_names;
     QStringList m_warnings;
     JoinWishes m_wishes;
     /// Dialogs list the folder where they begin, in the last one thousands of files may lie.

@@ -13,6 +13,8 @@
 namespace PanoHost
 {
 
+class PageNames;
+
 /** Where a page field takes its value from. */
 enum class ValueSource {
     Default, ///< the photos where they say it, else the record
@@ -34,6 +36,8 @@ struct FilledPage {
     QWizardPage *page = nullptr;
     SourceInfo source;
     DeliveryLog *deliveries = nullptr; ///< of all hand-overs of the page
+    const PageNames *names = nullptr; ///< of the photos matched to its shots; null: it has its own
+    JoinWishes wishes; ///< what the page does not ask
 };
 
 /** One import as the user wants it. */
