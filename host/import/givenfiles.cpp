@@ -2,10 +2,14 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/import/givenfiles.h"
 
-#include "host/import/heads.h"
+#include "host/model/commanderror.h"
 
 #include <QDir>
+#include <QDirIterator>
+#include <QFileInfo>
 #include <QLineEdit>
+#include <QSet>
+#include <QUrl>
 #include <QWizardPage>
 
 #include <algorithm>
@@ -20,13 +24,75 @@ bool isRecord(const QString &path)
                        [&path](const HeadFacts *head) { return head->isRecord(path); });
 }
 
+bool isPhotoName(const QString &path)
+{
+    static const QByteArrayList kEndings
+        = QByteArray(
+              "jpg jpeg jpe tif tiff png webp bmp heic heif avif jxl exr hdr 3fr arw cr2 cr3 "
+              "crw dcr dng erf fff gpr iiq k25 kdc mef mos mrw nef nrw orf pef raf raw rw2 "
+              "rwl sr2 srf srw x3f")
+              .split(' ');
+    return kEndings.contains(QFileInfo(path).suffix().toLower().toLatin1());
+}
+
+bool isOwnFile(const QString &path)
+{
+    const QFileInfo file(path);
+    const QString suffix = file.suffix().toLower();
+    if (suffix == QLatin1String("pto") || suffix == QLatin1String("json")) {
+        return true;
+    }
+    // What is made from a project bears its name.
+    const QString stem = file.path() + QLatin1Char('/') + file.completeBaseName();
+    return isPhotoName(path) && QFileInfo::exists(stem + QStringLiteral(".pto"));
+}
+
+QStringList localPaths(const QStringList &words)
+{
+    QStringList paths;
+    for (const QString &word : words) {
+        const QUrl url(word);
+        if (url.isLocalFile()) {
+            paths += QDir::cleanPath(url.toLocalFile());
+        } else if (!word.contains(QLatin1String("://")) && !word.isEmpty()) {
+            paths += QDir::cleanPath(QDir().absoluteFilePath(word));
+        }
+    }
+    return paths;
+}
+
+QStringList pathsInText(const QString &text)
+{
+    QStringList lines;
+    for (const QString &line : text.split(QLatin1Char('\n'))) {
+        const QString word = line.trimmed();
+        if (word.isEmpty()) {
+            continue;
+        }
+        if (!QUrl(word).isLocalFile() && !(QDir::isAbsolutePath(word) && QFile::exists(word))) {
+            return {};
+        }
+        lines += word;
+    }
+    return localPaths(lines);
+}
+
 GivenFiles sortFiles(const QStringList &files)
 {
     GivenFiles sorted;
-    for (const QString &file : files) {
-        const QString path = QDir().absoluteFilePath(file);
+    QSet<QString> seen;
+    for (const QString &path : localPaths(files)) {
+        if (seen.contains(path)) {
+            continue;
+        }
+        seen += path;
         if (isRecord(path)) {
+            if (!sorted.record.isEmpty()) {
+                sorted.otherRecords += sorted.record;
+            }
             sorted.record = path;
+        } else if (isOwnFile(path)) {
+            sorted.own += path;
         } else {
             sorted.photos += path;
         }
@@ -35,16 +101,80 @@ GivenFiles sortFiles(const QStringList &files)
     return sorted;
 }
 
+namespace
+{
+
+bool reads(const HeadFacts &head, const QString &path)
+{
+    try {
+        return !head.isGrid() && readRecord(head, path).shotCount > 0;
+    } catch (const CommandError &) {
+        return false;
+    }
+}
+
+} // namespace
+
+const HeadFacts *readerOf(const QString &path, const HeadFacts *head)
+{
+    if (!QFileInfo(path).isFile() || (head != nullptr && reads(*head, path))) {
+        return nullptr;
+    }
+    const std::vector<const HeadFacts *> heads = PanoHead::allHeadFacts();
+    const auto found = std::find_if(heads.begin(), heads.end(), [&](const HeadFacts *other) {
+        return other != head && reads(*other, path);
+    });
+    return found == heads.end() ? nullptr : *found;
+}
+
+QStringList withoutFolders(const QStringList &files, const JobWatch &watch)
+{
+    QStringList all;
+    for (const QString &file : files) {
+        if (!QFileInfo(file).isDir()) {
+            all += file;
+            continue;
+        }
+        QStringList found;
+        QDirIterator below(file, QDir::Files, QDirIterator::Subdirectories);
+        while (below.hasNext()) {
+            watch.check();
+            const QString path = below.next();
+            // Many a text is no record.
+            if (isPhotoName(path) || (isRecord(path) && readerOf(path, nullptr) != nullptr)) {
+                found += path;
+            }
+        }
+        found.sort();
+        all += found;
+    }
+    return all;
+}
+
+void preferReadableRecord(GivenFiles &files)
+{
+    QStringList records = files.otherRecords;
+    records += files.record;
+    while (records.size() > 1 && readerOf(records.last(), nullptr) == nullptr) {
+        records.removeLast();
+    }
+    if (readerOf(records.last(), nullptr) != nullptr && records.last() != files.record) {
+        files.otherRecords.removeAll(records.last());
+        files.otherRecords += files.record;
+        files.record = records.last();
+    }
+}
+
 int headFor(const GivenFiles &files, const QVector<ImportPlugin> &plugins, int chosen)
 {
-    const auto reads = [&files](const ImportPlugin &plugin) {
+    const auto endsLike = [&files](const ImportPlugin &plugin) {
         const HeadFacts *head = PanoHead::headFactsOf(plugin.head());
         return head != nullptr && head->isRecord(files.record);
     };
-    if (files.record.isEmpty() || (chosen >= 0 && reads(plugins.at(chosen)))) {
+    if (files.record.isEmpty() || (chosen >= 0 && endsLike(plugins.at(chosen)))) {
         return chosen;
     }
-    const auto *found = std::find_if(plugins.begin(), plugins.end(), reads);
+    const auto *found = std::find_if(plugins.begin(), plugins.end(), endsLike);
     return found == plugins.end() ? chosen : static_cast<int>(found - plugins.begin());
 }
 
