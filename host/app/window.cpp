@@ -50,7 +50,9 @@ ExitCode runWindow(Session &session, const QStringList &arguments)
     }
     const auto library = std::move(opened).value();
     ImportWizard wizard(session.app, *library);
-    QObject::connect(&session.interrupt, &Interrupt::interrupted, &wizard, &QDialog::reject);
+    // Without a question: the shell has been told to end it.
+    QObject::connect(&session.interrupt, &Interrupt::interrupted, &wizard,
+                     [&wizard] { wizard.done(QDialog::Rejected); });
     wizard.show();
     if (!line.positional().isEmpty()) {
         wizard.fillIn(line.positional());

@@ -4,6 +4,7 @@
 #include "host/demo/demohead.h"
 #include "host/demo/photoshoot.h"
 #include "host/gui/importwizard.h"
+#include "host/gui/shootstrip.h"
 #include "host/model/photofile.h"
 #include "host/plugin/pluginlibrary.h"
 
@@ -19,6 +20,7 @@
 #include <QTabWidget>
 #include <QTextStream>
 
+#include <algorithm>
 #include <array>
 #include <functional>
 
@@ -59,6 +61,20 @@ void waitFor(const std::function<bool()> &condition, const QString &what)
         }
         QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
     }
+}
+
+/** Until the strip below the page knows all that there is to know. */
+void waitForStrip(ImportWizard &wizard)
+{
+    const auto *strip = wizard.findChild<ShootStrip *>();
+    waitFor(
+        [strip] {
+            const QVector<StripRow> &rows = strip->rows();
+            return std::any_of(rows.begin(), rows.end(), [](const StripRow &row) {
+                return row.name == QLatin1String("photos");
+            });
+        },
+        QStringLiteral("the photos were not looked at"));
 }
 
 /** Brackets end with the reference exposure: the last photo of a position is seen on top. */
@@ -184,6 +200,7 @@ void Photographer::fill(ImportWizard &wizard, const QStringList &files)
     wizard.fillIn(files);
     waitFor([&wizard] { return wizard.button(QWizard::NextButton)->isEnabled(); },
             QStringLiteral("the page did not accept its photos"));
+    waitForStrip(wizard);
 }
 
 /** The page with a photo too few, which it warns of. */
@@ -193,6 +210,7 @@ void Photographer::misfit(ImportWizard &wizard, const QString &head, QStringList
     wizard.fillIn(files);
     waitFor([&wizard] { return !wizard.button(QWizard::NextButton)->isEnabled(); },
             QStringLiteral("the page accepted a photo too few"));
+    waitForStrip(wizard);
     bothSizes(wizard, head + QStringLiteral("-misfit"));
 }
 
@@ -218,7 +236,7 @@ void Photographer::everything(const HeadFacts &head, const QStringList &files)
     if (!head.isGrid()) {
         misfit(wizard, name, files);
     }
-    wizard.reject();
+    wizard.done(QDialog::Rejected);
 }
 
 void Photographer::smallTabs(const HeadFacts &head, const QStringList &files)
@@ -232,7 +250,7 @@ void Photographer::smallTabs(const HeadFacts &head, const QStringList &files)
         tabs->setCurrentIndex(tab);
         picture(wizard, QStringLiteral("%1-tab%2").arg(name).arg(tab + 1), kSizes.front());
     }
-    wizard.reject();
+    wizard.done(QDialog::Rejected);
 }
 
 void Photographer::choicePage()
@@ -240,7 +258,7 @@ void Photographer::choicePage()
     ImportWizard wizard(m_app, m_library);
     wizard.show();
     bothSizes(wizard, QStringLiteral("choice"));
-    wizard.reject();
+    wizard.done(QDialog::Rejected);
 }
 
 void addOptions(QCommandLineParser &line)

@@ -3,25 +3,29 @@
 #include "host/gui/importwizard.h"
 
 #include "host/gui/choicepage.h"
+#include "host/gui/filedrop.h"
+#include "host/gui/pagekeeper.h"
 #include "host/gui/readingbar.h"
+#include "host/gui/reportrunner.h"
 #include "host/gui/resultpage.h"
+#include "host/gui/shootdesk.h"
+#include "host/gui/shootstrip.h"
 #include "host/import/givenfiles.h"
 #include "host/import/importjob.h"
-#include "host/import/pagedriver.h"
 
 #include <QAbstractButton>
-#include <QDropEvent>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
-#include <QMimeData>
 #include <QShortcut>
 #include <QThread>
-#include <QUrl>
+#include <QTimer>
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace PanoHost
 {
@@ -47,17 +51,6 @@ QString geometryKey()
     return QStringLiteral("wizardGeometry");
 }
 
-QStringList localFiles(const QMimeData *data)
-{
-    QStringList files;
-    for (const QUrl &url : data->urls()) {
-        if (url.isLocalFile()) {
-            files += url.toLocalFile();
-        }
-    }
-    return files;
-}
-
 } // namespace
 
 ImportWizard::ImportWizard(PanoHostApplication &app, const PluginLibrary &library, QWidget *parent)
@@ -67,11 +60,16 @@ ImportWizard::ImportWizard(PanoHostApplication &app, const PluginLibrary &librar
     , m_choicePage(new ChoicePage(library.plugins()))
     , m_resultPage(new ResultPage(app))
     , m_readingBar(new ReadingBar(this))
+    , m_strip(new ShootStrip(this))
+    , m_desk(new ShootDesk(app, m_strip, this))
+    , m_drop(new FileDrop(this))
+    , m_gatherer(new ReportRunner(app, this))
 {
     setWindowTitle(tr("Import a panorama"));
     setWizardStyle(QWizard::ModernStyle);
     setOption(QWizard::HaveHelpButton);
-    setAcceptDrops(true);
+    setOption(QWizard::HaveCustomButton1);
+    setButtonText(QWizard::CustomButton1, tr("&Another import"));
     setPage(kChoiceId, m_choicePage);
     for (int i = 0; i < library.plugins().size(); ++i) {
         if (QWizardPage *page = library.plugins().at(i).page()) {
@@ -94,6 +92,8 @@ ImportWizard::ImportWizard(PanoHostApplication &app, const PluginLibrary &librar
     connect(&app, &PanoHostApplication::photoRead, m_readingBar, &ReadingBar::advance,
             Qt::QueuedConnection);
     m_readingBar->installEventFilter(this);
+    keepPages();
+    setUpStrip();
     qApp->installEventFilter(this);
     connect(this, &QWizard::currentIdChanged, this, &ImportWizard::setUpSubtitle);
     connect(this, &QWizard::currentIdChanged, this, [this] {
@@ -101,9 +101,10 @@ ImportWizard::ImportWizard(PanoHostApplication &app, const PluginLibrary &librar
         if (currentPage() != nullptr) {
             currentPage()->updateGeometry();
         }
-        fitPages();
     });
     connect(this, &QWizard::currentIdChanged, this, &ImportWizard::rememberChoice);
+    connect(this, &QWizard::currentIdChanged, this, &ImportWizard::enterPage);
+    connect(this, &QWizard::customButtonClicked, this, &ImportWizard::importAnother);
     connect(this, &QWizard::helpRequested, this, &ImportWizard::showHelp);
     connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
             &ImportWizard::showHelp);
@@ -113,6 +114,8 @@ ImportWizard::~ImportWizard()
 {
     // The choice page and the result page are this wizard's; the others go with their plug-ins.
     disconnect(this, &QWizard::currentIdChanged, this, nullptr);
+    qDeleteAll(m_keepers);
+    m_keepers.clear();
     for (int i = 0; i < m_library.plugins().size(); ++i) {
         QWizardPage *page = this->page(kFirstPluginId + i);
         if (page == nullptr) {
@@ -122,6 +125,51 @@ ImportWizard::~ImportWizard()
         page->hide();
         page->setParent(nullptr);
     }
+}
+
+void ImportWizard::keepPages()
+{
+    m_keepers.resize(m_library.plugins().size());
+    for (int i = 0; i < m_keepers.size(); ++i) {
+        const HeadFacts *head = PanoHead::headFactsOf(m_library.plugins().at(i).head());
+        QWizardPage *page = this->page(kFirstPluginId + i);
+        if (head != nullptr && page != nullptr) {
+            m_keepers[i] = new PageKeeper(page, *head, m_app, this);
+            connect(m_keepers.at(i), &PageKeeper::changed, m_desk, &ShootDesk::look);
+        }
+    }
+}
+
+void ImportWizard::setUpStrip()
+{
+    m_strip->hide();
+    connect(m_strip, &ShootStrip::heightChanged, this, &ImportWizard::makeRoom);
+    connect(m_strip, &ShootStrip::opened, this, [this](bool open) { m_wantsOpenStrip = open; });
+    connect(m_drop, &FileDrop::given, this, &ImportWizard::fillIn);
+    connect(m_desk, &ShootDesk::failed, this,
+            [this](const QString &why) { showMessage(QMessageBox::Warning, tr("Not done"), why); });
+    connect(m_desk, &ShootDesk::looked, this, [this] {
+        if (currentId() == kResultId) {
+            m_resultPage->setRemarks(m_desk->remarks());
+        }
+    });
+    connect(m_desk, &ShootDesk::switchWanted, this, [this](const HeadFacts *head) {
+        GivenFiles given;
+        given.record = keeper()->record();
+        given.photos = keeper()->photos();
+        for (int i = 0; i < m_keepers.size(); ++i) {
+            if (m_keepers.at(i) != nullptr && &m_keepers.at(i)->head() == head) {
+                goTo(i);
+                giveTo(given);
+            }
+        }
+    });
+}
+
+/** Of the plug-in whose page is in front; null on the other pages. */
+PageKeeper *ImportWizard::keeper() const
+{
+    return m_keepers.value(currentId() - kFirstPluginId);
 }
 
 int ImportWizard::nextId() const
@@ -135,12 +183,42 @@ int ImportWizard::nextId() const
 
 void ImportWizard::fillIn(const QStringList &files)
 {
-    const GivenFiles given = sortFiles(files);
-    if (currentId() == kChoiceId) {
-        m_choicePage->choose(headFor(given, m_library.plugins(), m_choicePage->chosen()));
-        next();
+    const QStringList paths = localPaths(files);
+    if (std::none_of(paths.begin(), paths.end(),
+                     [](const QString &path) { return QFileInfo(path).isDir(); })) {
+        m_gatherer->stop();
+        take(sortFiles(paths));
+        return;
     }
-    if (pluginOf(currentId()) == nullptr) {
+    m_gatherer->start([this, paths](const JobWatch &watch) -> std::function<void()> {
+        const GivenFiles given = sortFiles(withoutFolders(paths, watch));
+        return [this, given] { take(given); };
+    });
+}
+
+void ImportWizard::take(GivenFiles given)
+{
+    if (currentId() == kResultId) {
+        return;
+    }
+    if ((QGuiApplication::keyboardModifiers() & Qt::ControlModifier) != 0) {
+        // As after pasting. Pages then show where the photos lie instead of taking some.
+        constexpr int kSoonMs = 20;
+        QTimer::singleShot(kSoonMs, this, [this, given] { take(given); });
+        return;
+    }
+    preferReadableRecord(given);
+    const int current = currentId() - kFirstPluginId;
+    const bool isChoosing = currentId() == kChoiceId;
+    int head = headFor(given, m_library.plugins(), isChoosing ? m_choicePage->chosen() : current);
+    if (!isChoosing && head != current && readerOf(given.record, nullptr) == nullptr) {
+        // Notes of somebody: no reason to go to another page.
+        given.otherRecords += std::exchange(given.record, {});
+        head = current;
+    }
+    if (given.record.isEmpty() && given.photos.isEmpty()) {
+        showMessage(QMessageBox::Information, tr("Files not taken"),
+                    tr("Neither records nor photos are among these files."));
         return;
     }
     // Sorted as they are, only their names can be in the way.
@@ -151,28 +229,59 @@ void ImportWizard::fillIn(const QStringList &files)
                        "Rename it, or use \"panohost import\" on the command line."));
         return;
     }
+    QStringList photos = given.photos;
+    if (isChoosing) {
+        m_choicePage->choose(head);
+        if (keeper() == nullptr && m_keepers.value(head) != nullptr && !photos.isEmpty()) {
+            m_keepers.value(head)->forgetKept();
+        }
+        next();
+    } else if (head != current) {
+        if (photos.isEmpty() && keeper() != nullptr) {
+            photos = keeper()->photos();
+        }
+        goTo(head);
+    }
+    giveTo({ given.record, photos, given.otherRecords, given.own });
+}
+
+/** To the page in front. */
+void ImportWizard::giveTo(const GivenFiles &given)
+{
+    PageKeeper *page = keeper();
+    if (page == nullptr) {
+        return;
+    }
     try {
-        const JobWatch watch;
-        PageDriver driver(currentPage(), m_app, watch);
-        if (!given.record.isEmpty()
-            && currentPage()->findChild<QLineEdit *>(QStringLiteral("m_leConfigFile")) != nullptr) {
-            driver.enterRecord(given.record);
+        if (!given.record.isEmpty() && !page->head().isGrid()) {
+            page->enterRecord(given.record);
         }
         if (!given.photos.isEmpty()) {
-            driver.offerPhotos(given.photos);
+            page->give(given.photos);
         }
+        page->pageChanged();
+        page->setNotTaken(given.otherRecords, given.own);
     } catch (const CommandError &error) {
         showMessage(QMessageBox::Warning, tr("Files not taken"), error.failure().text());
     }
+    m_desk->look();
+}
+
+/** From one plug-in's page to that of another. */
+void ImportWizard::goTo(int plugin)
+{
+    back();
+    m_keepers.value(plugin)->forgetKept();
+    m_choicePage->choose(plugin);
+    next();
 }
 
 bool ImportWizard::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_readingBar
-        && (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent)) {
+    const bool barComesOrGoes = watched == m_readingBar
+        && (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent);
+    if (barComesOrGoes || (event->type() == QEvent::LayoutRequest && watched == content())) {
         makeRoom();
-    } else if (event->type() == QEvent::LayoutRequest && watched == content()) {
-        fitPages();
     } else if (event->type() == QEvent::Show) {
         followPhotoDialogs(watched);
     }
@@ -185,10 +294,19 @@ void ImportWizard::fitPages()
     // The base class asks a page for its size only when it comes to the front, but texts grow when
     // a record is read. All of the wizard's parts lie in one widget, its buttons too.
     if (content()->layout() != nullptr) {
-        const bool isReading = m_readingBar->isVisibleTo(this);
         setMinimumSize(content()->layout()->totalMinimumSize()
-                       + QSize(0, isReading ? m_readingBar->sizeHint().height() : 0));
+                       + QSize(0, barHeight() + lineHeight()));
     }
+}
+
+int ImportWizard::barHeight() const
+{
+    return m_readingBar->isVisibleTo(this) ? m_readingBar->sizeHint().height() : 0;
+}
+
+int ImportWizard::lineHeight() const
+{
+    return m_strip->isVisibleTo(this) ? m_strip->lineHeight() : 0;
 }
 
 QWidget *ImportWizard::content() const
@@ -196,21 +314,34 @@ QWidget *ImportWizard::content() const
     return button(QWizard::CancelButton)->parentWidget();
 }
 
-/** The bar stands below all that the base class has laid out. */
+/**
+ * Bar and strip stand below all that the base class has laid out. While the strip's rows are open
+ * where there is no room for them, the upper end of the page is out of sight.
+ */
 void ImportWizard::makeRoom()
 {
-    const int height = m_readingBar->isVisibleTo(this) ? m_readingBar->sizeHint().height() : 0;
     fitPages();
-    content()->resize(width(), this->height() - height);
-    m_readingBar->setGeometry(0, this->height() - height, width(), height);
+    const int fixed = barHeight() + lineHeight();
+    const int needed
+        = content()->layout() == nullptr ? 0 : content()->layout()->totalMinimumSize().height();
+    const int room = std::max(0, height() - fixed - needed);
+    int rows = m_strip->isVisibleTo(this) ? m_strip->rowsHeight() : 0;
+    if (!m_wantsOpenStrip) {
+        const QSignalBlocker blocker(m_strip);
+        m_strip->setOpen(m_strip->hasTrouble() && rows <= room);
+    }
+    rows = m_strip->isOpen() ? std::min(rows, height() / 2) : 0;
+    const int hidden = std::max(0, rows - room);
+    content()->setGeometry(0, -hidden, width(), height() - fixed - (rows - hidden));
+    const int bottom = height() - barHeight();
+    m_readingBar->setGeometry(0, bottom, width(), barHeight());
+    m_strip->setGeometry(0, bottom - lineHeight() - rows, width(), lineHeight() + rows);
 }
 
 void ImportWizard::resizeEvent(QResizeEvent *event)
 {
     QWizard::resizeEvent(event);
-    if (m_readingBar->isVisibleTo(this)) {
-        makeRoom();
-    }
+    makeRoom();
 }
 
 /** Whoever shows a file dialog of the page: its photos can be read before the page asks. */
@@ -222,18 +353,50 @@ void ImportWizard::followPhotoDialogs(QObject *watched)
         || !page->findChildren<QFileDialog *>().contains(dialog)) {
         return;
     }
-    connect(dialog, &QFileDialog::filesSelected, this, &ImportWizard::beginReading,
-            Qt::UniqueConnection);
+    if (keeper() != nullptr && keeper()->isFitted() && !keeper()->photos().isEmpty()) {
+        // The page knows its photos by other names.
+        dialog->setDirectory(QFileInfo(keeper()->photos().first()).absolutePath());
+    }
+    connect(dialog, &QFileDialog::filesSelected, this, [this, dialog](const QStringList &files) {
+        if (!takeOtherRecord(files, dialog)) {
+            beginReading(files);
+        }
+    });
+}
+
+/** The page takes the record of another head for a photo: once the dialog is gone its head's page
+ * gets all. */
+bool ImportWizard::takeOtherRecord(const QStringList &files, const QFileDialog *dialog)
+{
+    GivenFiles given = sortFiles(files);
+    const PageKeeper *page = keeper();
+    if (page == nullptr || given.record.isEmpty() || page->head().isRecord(given.record)
+        || readerOf(given.record, &page->head()) == nullptr) {
+        return false;
+    }
+    if (given.photos.isEmpty()) {
+        given.photos = page->photos();
+    }
+    connect(
+        dialog, &QObject::destroyed, this, [this, given] { take(given); }, Qt::QueuedConnection);
+    return true;
 }
 
 void ImportWizard::beginReading(const QStringList &files)
 {
+    if (PageKeeper *page = keeper()) {
+        page->note(files);
+        m_desk->look();
+    }
     QStringList photos;
     std::remove_copy_if(files.begin(), files.end(), std::back_inserter(photos), &isRecord);
     if (photos.isEmpty()) {
         return;
     }
     photos.sort(Qt::CaseSensitive); // as the pages do
+    for (QString &photo : photos) {
+        photo = m_app.truePath(photo);
+    }
     m_app.photos().readAhead(photos);
     m_readingBar->begin(photos.size());
     for (QThread *reader : currentPage()->findChildren<QThread *>()) {
@@ -250,20 +413,75 @@ void ImportWizard::endReading()
     if (std::none_of(readers.begin(), readers.end(),
                      [](const QThread *reader) { return reader->isRunning(); })) {
         m_readingBar->end();
+        if (keeper() != nullptr) {
+            keeper()->readingEnded();
+        }
+        m_desk->look();
     }
 }
 
-void ImportWizard::dragEnterEvent(QDragEnterEvent *event)
+void ImportWizard::cleanupPage(int id)
 {
-    if (!localFiles(event->mimeData()).isEmpty() && currentId() != kResultId) {
-        event->acceptProposedAction();
+    if (PageKeeper *page = m_keepers.value(id - kFirstPluginId)) {
+        page->keep();
     }
+    QWizard::cleanupPage(id);
 }
 
-void ImportWizard::dropEvent(QDropEvent *event)
+void ImportWizard::enterPage()
 {
-    event->acceptProposedAction();
-    fillIn(localFiles(event->mimeData()));
+    button(QWizard::CustomButton1)->setVisible(currentId() == kResultId);
+    PageKeeper *page = keeper();
+    if (page != nullptr) {
+        page->giveBack();
+    }
+    m_drop->setTaking(currentId() != kResultId);
+    m_strip->setVisible(page != nullptr);
+    if (currentId() == kResultId) {
+        m_resultPage->setRemarks(m_desk->remarks()); // of the page before
+    } else {
+        m_desk->setPage(page);
+    }
+    makeRoom();
+}
+
+/** Photos that are still being read have only just been chosen. */
+bool ImportWizard::wouldLose() const
+{
+    if (currentId() == kResultId) {
+        return m_resultPage->isUnsaved();
+    }
+    const PageKeeper *page = keeper();
+    return page != nullptr && !page->photos().isEmpty() && !page->isReading();
+}
+
+void ImportWizard::reject()
+{
+    if (isVisible() && wouldLose()) {
+        QMessageBox box(QMessageBox::Question, tr("Close the window?"),
+                        currentId() == kResultId
+                            ? tr("The panorama has not been saved.")
+                            : tr("The photos and options of this page will be forgotten."),
+                        QMessageBox::Discard | QMessageBox::Cancel, this);
+        box.setDefaultButton(QMessageBox::Cancel);
+        if (box.exec() != QMessageBox::Discard) {
+            return;
+        }
+    }
+    QWizard::reject();
+}
+
+void ImportWizard::importAnother()
+{
+    if (!m_resultPage->validatePage()) {
+        return;
+    }
+    restart();
+    for (PageKeeper *page : qAsConst(m_keepers)) {
+        if (page != nullptr) {
+            page->forgetKept();
+        }
+    }
 }
 
 void ImportWizard::done(int result)
@@ -281,10 +499,11 @@ bool ImportWizard::validateCurrentPage()
     }
     const int before = m_app.deliveryCount();
     ImportRequest request;
-    request.filled = FilledPage();
+    request.filled = keeper() == nullptr ? FilledPage() : keeper()->filled();
     request.filled->page = currentPage();
     request.filled->source = plugin->source(recordPath(currentPage()));
     request.filled->deliveries = &m_deliveries;
+    m_desk->rememberFocal();
     m_panorama = importShoot(m_app, request, {});
     return m_app.deliveryCount() != before;
 }
@@ -318,12 +537,13 @@ void ImportWizard::showHelp()
     const bool choosing = currentId() == kChoiceId;
     const QString text = choosing
         ? tr("Choose the head that took the photos, then Next. You can also drop the head's record "
-             "and the photos onto this window.")
+             "and the photos, or the folder that holds them, onto this window.")
         : currentId() == kResultId
         ? tr("Save the project and open it in Hugin, or save the description as JSON. Back returns "
              "to the import page; its photos and options are kept.")
         : tr("Choose the head's record and all its photos. Next is enabled when every photo has "
-             "been read and their number is that of the record. Red text says what does not fit.");
+             "been read and their number is that of the record. Red text says what does not fit; "
+             "the line below all says why, and its buttons put it right.");
     showMessage(QMessageBox::Information, tr("Help"), text);
 }
 

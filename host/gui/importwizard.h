@@ -10,12 +10,22 @@
 #include <QMessageBox>
 #include <QWizard>
 
+#include <optional>
+
+class QFileDialog;
+
 namespace PanoHost
 {
 
 class ChoicePage;
+class FileDrop;
+class PageKeeper;
 class ReadingBar;
+class ReportRunner;
 class ResultPage;
+class ShootDesk;
+class ShootStrip;
+struct GivenFiles;
 
 /**
  * The import wizard: choose the head, work its plug-in's page, look at the result and save it.
@@ -33,9 +43,10 @@ public:
     [[nodiscard]] int nextId() const override;
 
     /**
-     * Fills \p files into the page of a plug-in, as if the user had chosen them there: the last
-     * one ending in ".xml" or ".txt" is the record, the others are photos. Goes to the page of a
-     * head that reads it first.
+     * Fills \p files, paths or file URLs, into the page of a plug-in, as if the user had chosen
+     * them there: the last one ending in ".xml" or ".txt" is the record, the others are photos.
+     * Goes to the page of a head that reads it first. Photos that were there stay when none are
+     * among them. What lies in folders follows later.
      */
     void fillIn(const QStringList &files);
 
@@ -43,18 +54,33 @@ public:
     /** What the last Next of a plug-in's page made; the reason when it cannot be used. */
     [[nodiscard]] const Result<Panorama> &panorama() const { return m_panorama; }
 
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-    void dragEnterEvent(QDragEnterEvent *event) override;
-    void dropEvent(QDropEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
+    void cleanupPage(int id) override;
+    /** Asks when something would be lost. */
+    void reject() override;
+    /** Closes without asking. */
     void done(int result) override;
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
+    void keepPages();
+    void setUpStrip();
+    void take(GivenFiles given);
+    void giveTo(const GivenFiles &given);
+    void goTo(int plugin);
+    [[nodiscard]] bool takeOtherRecord(const QStringList &files, const QFileDialog *dialog);
+    [[nodiscard]] PageKeeper *keeper() const;
+    void enterPage();
+    void importAnother();
+    [[nodiscard]] bool wouldLose() const;
     void followPhotoDialogs(QObject *watched);
     void beginReading(const QStringList &files);
     void endReading();
     void makeRoom();
+    [[nodiscard]] int barHeight() const;
+    [[nodiscard]] int lineHeight() const;
     [[nodiscard]] QWidget *content() const;
     void setUpSubtitle();
     void fitPages();
@@ -70,6 +96,12 @@ private:
     DeliveryLog m_deliveries;
     Result<Panorama> m_panorama = Failure();
     ReadingBar *m_readingBar;
+    ShootStrip *m_strip;
+    ShootDesk *m_desk;
+    FileDrop *m_drop;
+    ReportRunner *m_gatherer; ///< looks into folders
+    QVector<PageKeeper *> m_keepers; ///< one for each plug-in; null: it has no page
+    std::optional<bool> m_wantsOpenStrip; ///< nothing: the user has not said
 };
 
 } // namespace PanoHost

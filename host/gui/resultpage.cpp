@@ -113,6 +113,10 @@ void ResultPage::createWidgets()
     m_warnings->setObjectName(QStringLiteral("m_warnings"));
     m_warnings->setTextFormat(Qt::PlainText);
     m_warnings->setWordWrap(true);
+    m_remarks = new QLabel;
+    m_remarks->setObjectName(QStringLiteral("m_remarks"));
+    m_remarks->setTextFormat(Qt::PlainText);
+    m_remarks->setWordWrap(true);
     m_saved = new QLabel;
     m_saved->setObjectName(QStringLiteral("m_saved"));
     m_saved->setTextFormat(Qt::PlainText);
@@ -128,9 +132,12 @@ void ResultPage::createWidgets()
     connect(m_saveJson, &QPushButton::clicked, this, &ResultPage::askForJson);
     connect(m_openHugin, &QPushButton::clicked, this, &ResultPage::openInHugin);
 
+    auto *warningTexts = new QVBoxLayout;
+    warningTexts->addWidget(m_remarks);
+    warningTexts->addWidget(m_warnings);
     auto *warningRow = new QHBoxLayout;
     warningRow->addWidget(m_warningIcon, 0, Qt::AlignTop);
-    warningRow->addWidget(m_warnings, 1);
+    warningRow->addLayout(warningTexts, 1);
     auto *buttonRow = new QHBoxLayout;
     buttonRow->addWidget(m_saveProject);
     buttonRow->addWidget(m_saveJson);
@@ -157,11 +164,11 @@ void ResultPage::initializePage()
 
 bool ResultPage::validatePage()
 {
-    if (!m_panorama || m_somethingSaved) {
+    if (!isUnsaved()) {
         return true;
     }
     const QMessageBox::StandardButton answer = QMessageBox::question(
-        this, tr("Nothing saved"), tr("The panorama has not been saved. Finish all the same?"),
+        this, tr("Nothing saved"), tr("The panorama has not been saved. Go on all the same?"),
         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
     if (answer == QMessageBox::Save) {
         askForProject();
@@ -181,13 +188,20 @@ void ResultPage::showPanorama(const Result<Panorama> &panorama)
     const int iconSide = style()->pixelMetric(QStyle::PM_SmallIconSize);
     m_warningIcon->setPixmap(
         style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(iconSide, iconSide));
-    m_warningIcon->setVisible(!warnings.isEmpty());
-    m_warnings->setVisible(!warnings.isEmpty());
     m_warnings->setText(warnings);
+    setRemarks({});
     m_summary->setText(panorama ? summary(panorama.value()) : tr("Nothing that can be saved."));
     m_layout->show(panorama ? layoutScene(panorama.value()) : LayoutScene{});
     m_saveProject->setEnabled(panorama.ok());
     m_saveJson->setEnabled(panorama.ok());
+}
+
+void ResultPage::setRemarks(const QStringList &remarks)
+{
+    m_remarks->setText(remarks.join(QLatin1Char('\n')));
+    m_remarks->setVisible(!remarks.isEmpty());
+    m_warnings->setVisible(!m_warnings->text().isEmpty());
+    m_warningIcon->setVisible(!remarks.isEmpty() || !m_warnings->text().isEmpty());
 }
 
 bool ResultPage::saveProject(const QString &path)

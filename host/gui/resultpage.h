@@ -32,6 +32,11 @@ public:
     /** What is shown; nothing when the delivery could not be used. */
     [[nodiscard]] const std::optional<Panorama> &panorama() const { return m_panorama; }
 
+    /** What was found out about the shoot, before or after this page was entered. */
+    void setRemarks(const QStringList &remarks);
+    /** There is something that has been saved nowhere. */
+    [[nodiscard]] bool isUnsaved() const { return m_panorama && !m_somethingSaved; }
+
     /** Writes the project or the description; shows what happened. False when it failed. */
     bool saveProject(const QString &path);
     bool saveJson(const QString &path);
@@ -53,6 +58,7 @@ private:
     QLabel *m_summary = nullptr;
     QLabel *m_warnings = nullptr;
     QLabel *m_warningIcon = nullptr;
+    QLabel *m_remarks = nullptr;
     QLabel *m_saved = nullptr;
     LayoutPicture *m_layout = nullptr;
     QPushButton *m_saveProject = nullptr;

@@ -5,6 +5,7 @@
 #include "host/gui/layoutpicture.h"
 #include "host/gui/readingbar.h"
 #include "host/gui/resultpage.h"
+#include "host/gui/shootstrip.h"
 #include "host/import/dialogcatcher.h"
 #include "tests/host/testphotos.h"
 #include "tests/support/hosthead.h"
@@ -399,18 +400,22 @@ void TestImportWizard::barStandsUnderThePageWhilePhotosAreRead()
     QVERIFY(!bar->isVisible());
 
     const QWidget *content = next()->parentWidget();
+    auto *strip = m_wizard->findChild<ShootStrip *>();
+    QTRY_COMPARE(StripTexts::summary(strip->rows()), QStringLiteral("Everything agrees"));
+    strip->setOpen(false);
     const int before = content->height();
+    QCOMPARE(before, m_wizard->height() - strip->height());
     bar->begin(300);
     QTRY_VERIFY(bar->isVisible());
     QCOMPARE(bar->geometry().bottom(), m_wizard->rect().bottom());
     QCOMPARE(bar->width(), m_wizard->width());
-    QCOMPARE(content->height(), m_wizard->height() - bar->height());
+    QCOMPARE(content->height(), m_wizard->height() - bar->height() - strip->height());
     m_wizard->resize(m_wizard->size() + QSize(40, 50));
     QCOMPARE(bar->geometry().bottom(), m_wizard->rect().bottom());
-    QCOMPARE(content->height(), m_wizard->height() - bar->height());
+    QCOMPARE(content->height(), m_wizard->height() - bar->height() - strip->height());
     bar->end();
     QVERIFY(!bar->isVisible());
-    QCOMPARE(content->height(), before + 50);
+    QCOMPARE(content->height(), m_wizard->height() - strip->height());
 }
 
 void TestImportWizard::barSaysHowFarThePageHasCome()

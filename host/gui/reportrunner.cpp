@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/gui/reportrunner.h"
+
+#include "host/model/commanderror.h"
+
+#include <new>
+
+namespace PanoHost
+{
+
+ReportRunner::ReportRunner(PanoHostApplication &app, QObject *parent)
+    : QObject(parent)
+    , m_app(app)
+{
+}
+
+ReportRunner::~ReportRunner()
+{
+    stop();
+    {
+        const std::lock_guard lock(m_mutex);
+        m_ends = true;
+        m_changed.notify_all();
+    }
+    if (m_thread.joinable()) {
+        m_thread.join();
+    }
+}
+
+void ReportRunner::look(const ImportRequest &request)
+{
+    start([this, request](const JobWatch &watch) -> std::function<void()> {
+        auto report = std::make_shared<const ShootReport>(reportOn(m_app, request, watch));
+        return [this, report] { Q_EMIT done(report); };
+    });
+}
+
+void ReportRunner::start(Job job)
+{
+    const std::lock_guard lock(m_mutex);
+    ++m_wanted;
+    m_job = std::move(job);
+    if (m_job && !m_thread.joinable()) {
+        m_thread = std::thread([this] { work(); });
+    }
+    m_changed.notify_all();
+}
+
+void ReportRunner::work()
+{
+    std::unique_lock lock(m_mutex);
+    while (!m_ends) {
+        if (!m_job) {
+            m_changed.wait(lock);
+            continue;
+        }
+        const Job job = std::exchange(m_job, {});
+        const int number = m_wanted;
+        lock.unlock();
+        JobWatch watch;
+        watch.interrupted = [this, number] { return m_wanted != number; };
+        try {
+            const std::function<void()> tell = job(watch);
+            QMetaObject::invokeMethod(
+                this,
+                [this, number, tell] {
+                    if (m_wanted == number) {
+                        tell();
+                    }
+                },
+                Qt::QueuedConnection);
+        } catch (const CommandError &) { // NOLINT(bugprone-empty-catch): nobody waits for it
+        } catch (const std::bad_alloc &) { // NOLINT(bugprone-empty-catch): the page says so
+        }
+        lock.lock();
+    }
+}
+
+} // namespace PanoHost

@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "host/import/shootreport.h"
+
+#include <QObject>
+
+#include <atomic>
+#include <condition_variable>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <thread>
+
+namespace PanoHost
+{
+
+/** Does one job after the other on a thread of its own; a new one takes the place of those before.
+ */
+class ReportRunner : public QObject
+{
+    Q_OBJECT
+public:
+    /** What is done on the thread; what it answers is called on the thread of this object, unless
+     * something else was started meanwhile. */
+    using Job = std::function<std::function<void()>(const JobWatch &watch)>;
+
+    /** \p app outlives it. */
+    explicit ReportRunner(PanoHostApplication &app, QObject *parent = nullptr);
+    /** Waits until the job has heard that it is to stop. */
+    ~ReportRunner() override;
+
+    /** Looks at \p request; `done` comes later. */
+    void look(const ImportRequest &request);
+    void start(Job job);
+    /** Nothing comes of what was started. */
+    void stop() { start({}); }
+
+Q_SIGNALS:
+    void done(const std::shared_ptr<const PanoHost::ShootReport> &report);
+
+private:
+    void work();
+
+    PanoHostApplication &m_app;
+    std::atomic<int> m_wanted{ 0 }; ///< number of the last job
+    std::mutex m_mutex; ///< guards what follows
+    std::condition_variable m_changed;
+    Job m_job;
+    bool m_ends = false;
+    std::thread m_thread;
+};
+
+} // namespace PanoHost
