@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/import/cardscan.h"
 
+#include "host/import/givenfiles.h"
 #include "host/import/heads.h"
 #include "host/model/displayname.h"
 #include "host/model/parallel.h"
@@ -30,24 +31,6 @@ namespace PanoHost
 namespace
 {
 
-/** As cameras and their owners name photos. */
-const QSet<QString> &photoEndings()
-{
-    static const QSet<QString> endings = [] {
-        QSet<QString> set;
-        for (const char *const word :
-             { "jpg",  "jpeg", "jpe", "tif", "tiff", "png", "heic", "heif", "hif",
-               "avif", "webp", "jp2", "3fr", "arw",  "bay", "cap",  "cr2",  "cr3",
-               "crw",  "dcr",  "dcs", "dng", "erf",  "fff", "gpr",  "iiq",  "k25",
-               "kdc",  "mdc",  "mef", "mos", "mrw",  "nef", "nrw",  "orf",  "pef",
-               "ptx",  "raf",  "raw", "rw2", "rwl",  "sr2", "srf",  "srw",  "x3f" }) {
-            set.insert(QLatin1String(word));
-        }
-        return set;
-    }();
-    return endings;
-}
-
 QString baseOf(const QString &path)
 {
     const int dot = path.lastIndexOf(QLatin1Char('.'));
@@ -64,12 +47,10 @@ enum class FileKind { Photo, Record, Project, Other };
 FileKind kindOf(const QString &path)
 {
     const QString ending = endingOf(path);
-    if (photoEndings().contains(ending)) {
+    if (isPhotoName(path)) {
         return FileKind::Photo;
     }
-    const std::vector<const HeadFacts *> heads = PanoHead::allHeadFacts();
-    if (std::any_of(heads.begin(), heads.end(),
-                    [&path](const HeadFacts *head) { return head->isRecord(path); })) {
+    if (isRecord(path)) {
         return FileKind::Record;
     }
     return ending == QLatin1String("pto") ? FileKind::Project : FileKind::Other;

@@ -26,13 +26,20 @@ bool isRecord(const QString &path)
 
 bool isPhotoName(const QString &path)
 {
-    static const QByteArrayList kEndings
-        = QByteArray(
-              "jpg jpeg jpe tif tiff png webp bmp heic heif avif jxl exr hdr 3fr arw cr2 cr3 "
-              "crw dcr dng erf fff gpr iiq k25 kdc mef mos mrw nef nrw orf pef raf raw rw2 "
-              "rwl sr2 srf srw x3f")
-              .split(' ');
-    return kEndings.contains(QFileInfo(path).suffix().toLower().toLatin1());
+    // As cameras and their owners name photos.
+    static const QSet<QString> endings = [] {
+        QSet<QString> set;
+        for (const char *const word :
+             { "jpg",  "jpeg", "jpe", "tif", "tiff", "png", "heic", "heif", "hif",
+               "avif", "webp", "jp2", "3fr", "arw",  "bay", "cap",  "cr2",  "cr3",
+               "crw",  "dcr",  "dcs", "dng", "erf",  "fff", "gpr",  "iiq",  "k25",
+               "kdc",  "mdc",  "mef", "mos", "mrw",  "nef", "nrw",  "orf",  "pef",
+               "ptx",  "raf",  "raw", "rw2", "rwl",  "sr2", "srf",  "srw",  "x3f" }) {
+            set.insert(QLatin1String(word));
+        }
+        return set;
+    }();
+    return endings.contains(QFileInfo(path).suffix().toLower());
 }
 
 bool isOwnFile(const QString &path)

@@ -32,6 +32,23 @@ void nameVanished(ImportRequest &request, const JobWatch &watch, ShootReport &re
     request.photos = there;
 }
 
+/** Takes pictures that were made of photos, panoramas and layouts, out of \p request. */
+void nameOwn(PanoHostApplication &app, ImportRequest &request, const JobWatch &watch,
+             ShootReport &report)
+{
+    QStringList photos;
+    for (const QString &path : qAsConst(request.photos)) {
+        watch.check();
+        const Result<PhotoInfo> photo = app.photoInfo(path);
+        if (photo && photo.value().isPanorama) {
+            report.findings += badPhotoFinding(path, QStringLiteral("was made of other photos"));
+        } else {
+            photos += path;
+        }
+    }
+    request.photos = photos;
+}
+
 /** Of the photos at \p paths; names those that cannot be read where \p report is not null. */
 QVector<PhotoInfo> readPhotos(PanoHostApplication &app, const QStringList &paths,
                               const JobWatch &watch, ShootReport *report)
@@ -123,6 +140,7 @@ ShootReport reportOn(PanoHostApplication &app, ImportRequest request, const JobW
     report.record = request.record;
     report.given = request.photos.size();
     nameVanished(request, watch, report);
+    nameOwn(app, request, watch, report);
     const bool needsRecord = !request.head->isGrid();
     if (!request.photos.isEmpty() && !(needsRecord && request.record.isEmpty())) {
         tellShoot(app, request, watch, report);
@@ -197,7 +215,12 @@ std::optional<Finding> linksFinding(const HeadFacts &head, const QVector<NotedSh
 
 QString lensKey(const PhotoInfo &photo)
 {
-    return QStringLiteral("%1x%2").arg(photo.storedSize.width()).arg(photo.storedSize.height());
+    // No key of the settings may hold a slash.
+    return QStringLiteral("%1, %2, %3x%4")
+        .arg(photo.camera, photo.lensName)
+        .arg(photo.storedSize.width())
+        .arg(photo.storedSize.height())
+        .replace(QLatin1Char('/'), QLatin1Char('_'));
 }
 
 } // namespace PanoHost

@@ -114,7 +114,7 @@ StripRow StripTexts::next() const
                            : tr("%1 shots").arg(report->summary.shotCount));
         row.actions = { StripAction::FitPhotos };
     } else if (finding("bad") != nullptr) {
-        row.text = tr("waits: not all photos can be read");
+        row.text = tr("waits: not all photos can be used");
     } else if (report->refusal) {
         row.text = tr("waits: %1").arg(windowText(*report->refusal));
         row.actions = { StripAction::ChoosePhotos };
@@ -161,7 +161,7 @@ StripRow StripTexts::photos() const
         }
     }
     if (!row.files.isEmpty() && !m_state.isFitted) {
-        row.text = tr("%1 cannot be read: %2")
+        row.text = tr("%1 cannot be used: %2")
                        .arg(QString::number(row.files.size()), namesOf(row.files));
         row.state = State::Trouble;
         row.actions = { StripAction::RemovePhotos, StripAction::ReplacePhotos };

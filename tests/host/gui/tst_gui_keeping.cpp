@@ -42,6 +42,7 @@ private Q_SLOTS:
     void foldersAreUnderstood();
     void pastedFilesAreTaken();
     void ownFilesAreNoPhotos();
+    void ownPicturesAreNamed();
     void ofTwoRecordsTheLastIsTaken();
     void notesDoNotSwitchTheHead();
     void photosOfNoFileAreNamed();
@@ -233,6 +234,20 @@ void TestKeeping::ownFilesAreNoPhotos()
     QCOMPARE(m_bench->result().size(), 3);
 }
 
+void TestKeeping::ownPicturesAreNamed()
+{
+    QImage layout(60, 40, QImage::Format_RGB32);
+    layout.fill(Qt::gray);
+    markAsOwn(layout);
+    const QString picture = m_bench->path(QStringLiteral("layout.png"));
+    QVERIFY(layout.save(picture));
+    m_bench->drop(QStringList{ m_bench->record(3), picture } + m_bench->photos(0, 2));
+    QTRY_VERIFY(m_bench->isSettled());
+    QCOMPARE(m_bench->text("photos"), QStringLiteral("1 cannot be used: layout.png"));
+    m_bench->press("photos", StripAction::RemovePhotos);
+    QTRY_VERIFY(m_bench->isSettled() && m_bench->isNextEnabled());
+}
+
 void TestKeeping::ofTwoRecordsTheLastIsTaken()
 {
     const QString one = m_bench->record(5, "papywizard", QStringLiteral("a.xml"));
@@ -268,7 +283,7 @@ void TestKeeping::photosOfNoFileAreNamed()
     m_bench->drop(QStringList(record) + photos);
     // The page's dialog does not take what is not there; nothing else is lost.
     QTRY_VERIFY(page()->inherits("UIWPMerlin"));
-    QTRY_COMPARE(m_bench->text("photos"), QStringLiteral("1 cannot be read: IMG_0002.jpg"));
+    QTRY_COMPARE(m_bench->text("photos"), QStringLiteral("1 cannot be used: IMG_0002.jpg"));
     m_bench->press("photos", StripAction::RemovePhotos);
     QTRY_COMPARE(m_bench->text("next"), QStringLiteral("waits: 3 photos for 4 shots"));
 }
@@ -295,7 +310,7 @@ void TestKeeping::thousandsOfFilesDoNotStopTheWindow()
     }
     m_bench->choose("Gigapan");
     m_bench->drop(files);
-    QTRY_VERIFY(m_bench->text("photos").startsWith(QLatin1String("1500 cannot be read: ")));
+    QTRY_VERIFY(m_bench->text("photos").startsWith(QLatin1String("1500 cannot be used: ")));
     QVERIFY(m_bench->text("photos").endsWith(QLatin1String("p01499.jpg")));
     m_bench->picture(QStringLiteral("thousands"));
 }

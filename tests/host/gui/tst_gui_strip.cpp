@@ -185,7 +185,7 @@ void TestStrip::photosThatCannotBeReadAreNamedAndRemoved()
     QTRY_VERIFY(m_bench->isSettled());
     QVERIFY(!m_bench->isNextEnabled());
     QCOMPARE(m_bench->text("photos"),
-             QStringLiteral("2 cannot be read: IMG_0007.jpg, IMG_0014.jpg"));
+             QStringLiteral("2 cannot be used: IMG_0007.jpg, IMG_0014.jpg"));
     m_bench->picture(QStringLiteral("unreadable-1"));
     m_bench->press("photos", StripAction::RemovePhotos);
     QTRY_VERIFY(m_bench->isSettled());
