@@ -12,6 +12,30 @@ using namespace PanoHead;
 namespace
 {
 
+/** Every other shot: refused with a reason, or just these shots. */
+void checkExcerpt(const HeadFacts &head, const QByteArray &bytes, const QVector<NotedShot> &shots)
+{
+    if (head.excerpt == nullptr) {
+        return;
+    }
+    QVector<int> chosen;
+    for (int i = 0; i < shots.size(); i += 2) {
+        chosen += i;
+    }
+    ReadError error;
+    const auto excerpt = head.excerpt(bytes, chosen, &error);
+    FUZZ_CHECK(excerpt.has_value() == error.reason.isEmpty());
+    if (!excerpt) {
+        return;
+    }
+    const auto copied = head.shots(*excerpt, &error);
+    FUZZ_CHECK(copied && copied->size() == chosen.size());
+    for (int i = 0; i < chosen.size(); ++i) {
+        FUZZ_CHECK(copied->at(i).yawDegrees == shots.at(chosen.at(i)).yawDegrees);
+        FUZZ_CHECK(copied->at(i).pitchDegrees == shots.at(chosen.at(i)).pitchDegrees);
+    }
+}
+
 void checkShots(const HeadFacts &head, const QByteArray &bytes, const RecordSummary &summary)
 {
     if (head.shots == nullptr) {
@@ -26,6 +50,7 @@ void checkShots(const HeadFacts &head, const QByteArray &bytes, const RecordSumm
         FUZZ_CHECK(shot.level >= 0 && shot.level < summary.bracketCount);
         FUZZ_CHECK(shot.time.isValid() || shot.time.isNull());
     }
+    checkExcerpt(head, bytes, *shots);
 }
 
 } // namespace

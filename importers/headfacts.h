@@ -83,6 +83,14 @@ struct HeadFacts {
      * other records. Null: the head does not tell its shots.
      */
     std::optional<QVector<NotedShot>> (*shots)(const QByteArray &bytes, ReadError *error) = nullptr;
+    /**
+     * A record that `shots` accepts with only those of its shots that are listed, counted from 0,
+     * rising, for the head to take again. Nothing, with a reason, where it cannot be made. Null:
+     * the head runs no records.
+     */
+    std::optional<QByteArray> (*excerpt)(const QByteArray &bytes, const QVector<int> &shots,
+                                         ReadError *error)
+        = nullptr;
     /** The record that the head writes of \p shoot. */
     QByteArray (*write)(const NotedShoot &shoot) = nullptr;
     bool notesBrackets = false; ///< records say how many photos belong to a position

@@ -4,6 +4,8 @@
 
 #include "shoot/recordlimits.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace PanoHead
@@ -116,11 +118,93 @@ private:
     int m_line = 0;
 };
 
+/** Says of each line of a script in turn whether it stays in an excerpt. */
+class Choice
+{
+public:
+    explicit Choice(const QVector<int> &shots)
+        : m_shots(shots)
+    {
+    }
+
+    /** All lines once; what an angle is good for shows only behind it. */
+    void look(const Command &command)
+    {
+        if (command.key == "op_shoot") {
+            const bool stays = std::binary_search(m_shots.begin(), m_shots.end(), m_shot++);
+            for (const int angle : m_current) {
+                if (angle >= 0) {
+                    m_uses[angle] = std::max(m_uses[angle], stays ? Use::Needed : Use::Passed);
+                }
+            }
+        } else if (const int axis = axisOf(command); axis >= 0) {
+            m_current.at(static_cast<size_t>(axis)) = m_uses.size();
+            m_uses += Use::None;
+        }
+    }
+    /** Then all lines again. */
+    [[nodiscard]] bool stays(const Command &command)
+    {
+        if (command.key == "op_shoot") {
+            return std::binary_search(m_shots.begin(), m_shots.end(), m_shotAgain++);
+        }
+        return axisOf(command) < 0 || m_uses.at(m_angleAgain++) != Use::Passed;
+    }
+
+private:
+    enum class Use : quint8 {
+        None, ///< by no shot at all: the head goes home, say
+        Passed, ///< by shots that go
+        Needed,
+    };
+    /** -1: sets no angle. */
+    static int axisOf(const Command &command)
+    {
+        return command.key == "op_v-angle" ? 0 : command.key == "op_h-angle" ? 1 : -1;
+    }
+
+    const QVector<int> &m_shots;
+    QVector<Use> m_uses; // one for each line that sets an angle
+    std::array<int, 2> m_current{ -1, -1 }; // of each axis; -1: none yet
+    int m_shot = 0;
+    int m_shotAgain = 0;
+    int m_angleAgain = 0;
+};
+
+/** Calls \p visit with each line of \p bytes, its end included, and the command in it. */
+template <typename Visit> void forEachLine(const QByteArray &bytes, Visit visit)
+{
+    int start = 0;
+    while (start < bytes.size()) {
+        const int newline = bytes.indexOf('\n', start);
+        const int end = newline < 0 ? bytes.size() : newline + 1;
+        const QByteArray line = bytes.mid(start, end - start);
+        visit(line, parseLine(start == 0 ? commandsIn(line) : QByteArray(line).replace("\r", "")));
+        start = end;
+    }
+}
+
 } // namespace
 
 ClaussScript readClaussScript(const QByteArray &bytes)
 {
     return Reader().read(commandsIn(bytes));
+}
+
+QByteArray claussExcerpt(const QByteArray &bytes, const QVector<int> &shots)
+{
+    const int nul = bytes.indexOf('\0');
+    const QByteArray script = nul < 0 ? bytes : bytes.left(nul);
+    Choice choice(shots);
+    forEachLine(script,
+                [&](const QByteArray & /*line*/, const Command &command) { choice.look(command); });
+    QByteArray excerpt;
+    forEachLine(script, [&](const QByteArray &line, const Command &command) {
+        if (choice.stays(command)) {
+            excerpt += line;
+        }
+    });
+    return excerpt;
 }
 
 } // namespace PanoHead

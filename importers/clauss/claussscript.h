@@ -26,4 +26,11 @@ struct ClaussScript {
  */
 [[nodiscard]] ClaussScript readClaussScript(const QByteArray &bytes);
 
+/**
+ * The script in \p bytes with those of its shots only that \p shots counts from 0, rising, and
+ * without the angles that only the others need. All other lines stay as they are, up to the first
+ * NUL byte.
+ */
+[[nodiscard]] QByteArray claussExcerpt(const QByteArray &bytes, const QVector<int> &shots);
+
 } // namespace PanoHead

@@ -109,6 +109,12 @@ std::optional<QVector<NotedShot>> shotsOf(const QByteArray &bytes, ReadError *er
     return script ? std::optional(notedShots(script->shots)) : std::nullopt;
 }
 
+std::optional<QByteArray> excerptOf(const QByteArray &bytes, const QVector<int> &shots,
+                                    ReadError * /*error*/)
+{
+    return claussExcerpt(bytes, shots);
+}
+
 /** As the head runs it: whole degrees, an angle only where it changes. */
 QByteArray scriptOf(const NotedShoot &shoot)
 {
@@ -139,6 +145,7 @@ HeadFacts newFacts()
     facts.record = "SCRIPT.txt";
     facts.summary = &summaryOf;
     facts.shots = &shotsOf;
+    facts.excerpt = &excerptOf;
     facts.write = &scriptOf;
     facts.notesWholeDegrees = true;
     return facts;

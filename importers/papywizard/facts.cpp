@@ -3,6 +3,7 @@
 #include "importers/papywizard/facts.h"
 
 #include "importers/headfacts.h"
+#include "importers/papywizard/papywizardexcerpt.h"
 #include "importers/papywizard/papywizardreader.h"
 #include "importers/papywizard/papywizardwriter.h"
 #include "shoot/shottime.h"
@@ -85,6 +86,7 @@ HeadFacts newFacts()
     facts.record = "RECORD.xml";
     facts.summary = &summaryOf;
     facts.shots = &shotsOf;
+    facts.excerpt = &papywizardExcerpt;
     facts.write = &writePapywizard;
     facts.notesBrackets = true;
     facts.hasLens = true;
