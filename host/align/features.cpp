@@ -217,6 +217,15 @@ Result<GreyPicture> readGreyPicture(const QString &path, const QSize &storedSize
                         whiteShare(small) };
 }
 
+GreyPicture reduced(const GreyPicture &picture, int widest)
+{
+    GreyPicture small = picture;
+    small.picture = reduced(picture.picture, widest);
+    small.xScale *= double(small.picture.width()) / picture.picture.width();
+    small.yScale *= double(small.picture.height()) / picture.picture.height();
+    return small;
+}
+
 double sharpnessOf(const GreyPicture &picture)
 {
     useOneThread();

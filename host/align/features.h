@@ -31,6 +31,9 @@ struct GreyPicture {
 [[nodiscard]] Result<GreyPicture> readGreyPicture(const QString &path, const QSize &storedSize,
                                                   int widest);
 
+/** \p picture at most \p widest pixels wide. */
+[[nodiscard]] GreyPicture reduced(const GreyPicture &picture, int widest);
+
 /** Spots of a photo that can be found again in another one; 138 bytes each. */
 struct FeatureSet {
     /** Root-SIFT in units of 1 / 512: square roots of the shares of the gradients' directions, so

@@ -169,6 +169,20 @@ Result<StoredPixels> readStoredPixels(const QString &path, int leastWidth)
     return pixels;
 }
 
+bool isDamaged(const QString &path)
+{
+    const LostPageGuard guard;
+    const auto photo = openPhoto(path);
+    if (!photo) {
+        return true;
+    }
+    PhotoDevice &device = *photo.value().device;
+    device.seek(0);
+    const QImageReader reader(&device);
+    const bool isLookedInto = photo.value().pictureIsPhoto && decodable(reader);
+    return isLookedInto && (!looksComplete(device, reader.format()) || guard.lostAny());
+}
+
 Result<PhotoInfo> readPhotoInfo(const QString &path)
 {
     const LostPageGuard guard;

@@ -52,6 +52,12 @@ struct StoredPixels {
  */
 [[nodiscard]] Result<StoredPixels> readStoredPixels(const QString &path, int leastWidth);
 
+/**
+ * Whether the photo \p path is gone, is none, or ends before its picture does. RAW files and what
+ * takes too much memory are not looked into. Decodes nothing; thread-safe.
+ */
+[[nodiscard]] bool isDamaged(const QString &path);
+
 /** Like `readPhoto` without the thumbnail: reads the file's header only and decodes nothing. */
 [[nodiscard]] Result<PhotoInfo> readPhotoInfo(const QString &path);
 
