@@ -2,10 +2,15 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/check/findings.h"
 #include "host/cli/commands.h"
+#include "host/cli/outputs.h"
 #include "host/cli/requestline.h"
 #include "host/import/importjob.h"
+#include "host/import/inputcheck.h"
+#include "host/import/reshoot.h"
 #include "host/model/commanderror.h"
+#include "host/model/displayname.h"
 #include "host/model/messages.h"
+#include "host/model/safefile.h"
 
 namespace PanoHost
 {
@@ -18,12 +23,21 @@ CommandLine checkLine()
     return importingLine(
         { "panohost check HEAD [RECORD] PHOTO...",
           "Says what record and photos know: counts, focal length, lens, order, pauses.\n"
-          "Writes nothing. Exit status 3 when 'import' would refuse them.",
+          "Writes nothing but what --reshoot asks for. Exit status 3 when 'import' would\n"
+          "refuse them.",
           "# 33 photos, 36 shots: where did the shoot stop?\n"
           "panohost check papywizard shoot.xml IMG_*.jpg\n"
+          "# before leaving the spot: a record for the head with what is missing or blurred\n"
+          "panohost check papywizard shoot.xml IMG_*.jpg --reshoot again.xml\n"
           "# do 6 rows of brackets of 3 come out even?\n"
           "panohost check gigapan IMG_*.jpg --rows 6 --bracket 3" },
-        QVector<OptionRow>{ { "--json", nullptr, "the same as JSON, for other programs" } });
+        QVector<OptionRow>{
+            { "--json", nullptr, "the same as JSON, for other programs" },
+            { "--reshoot", "FILE|-",
+              "looks at all pictures too, lists the shots to take again (missing, unreadable, "
+              "blurred, exposure off, moved within a bracket) and writes a record of the head's "
+              "own with just these; '-': the list alone, all there is for gigapan" },
+        });
 }
 
 /** The findings so far, told as they come unless they are to be JSON. */
@@ -73,22 +87,73 @@ private:
     QVector<Finding> m_findings;
 };
 
-void check(Session &session, const ImportRequest &request, Report &report)
+/** What `--reshoot` asks for. */
+struct ReshootWish {
+    bool isGiven = false;
+    QString file; ///< absolute; empty: the list alone
+};
+
+ReshootWish reshootWish(const CommandLine &line, const ImportRequest &request)
+{
+    ReshootWish wish;
+    const QString option = QStringLiteral("reshoot");
+    wish.isGiven = line.isSet(option);
+    if (!wish.isGiven || line.value(option) == QLatin1String("-")) {
+        return wish;
+    }
+    if (line.value(option).isEmpty()) {
+        throw usageError(QStringLiteral("--reshoot names no file"),
+                         QStringLiteral("name one, or '-' for the list alone"));
+    }
+    if (request.head->excerpt == nullptr) {
+        throw usageError(
+            QStringLiteral("%1 takes no record that could be written").arg(request.head->name()),
+            QStringLiteral("use --reshoot - for the list alone"));
+    }
+    wish.file = absolutePath(line.value(option));
+    requireWritable(wish.file, QStringList(request.record) + request.photos);
+    return wish;
+}
+
+void tellAll(Session &session, const QVector<Finding> &findings, Report &report)
+{
+    session.console.endProgress();
+    for (const Finding &finding : findings) {
+        report.add(finding);
+    }
+}
+
+void findShotsToTakeAgain(Session &session, const ImportRequest &request, const ImportJob &job,
+                          const ReshootWish &wish, Report &report)
+{
+    const Reshoot reshoot = shotsToTakeAgain(session.app, request, job.check(), session.watch());
+    tellAll(session, reshoot.findings, report);
+    if (wish.file.isEmpty()) {
+        return;
+    }
+    if (reshoot.shots.isEmpty()) {
+        session.console.info(QStringLiteral("%1: not written").arg(displayName(wish.file)));
+        return;
+    }
+    (void)valueOrThrow(writeFileAtomically(
+        wish.file, valueOrThrow(recordExcerpt(*request.head, request.record, reshoot.shots))));
+    session.console.info(QStringLiteral("%1: %2 to take again")
+                             .arg(displayName(wish.file), counted(reshoot.shots.size(), "shot")));
+}
+
+void check(Session &session, const ImportRequest &request, const ReshootWish &wish, Report &report)
 {
     ImportJob job(session.app, request, session.watch());
-    const auto tell = [&] {
-        session.console.endProgress();
-        for (const Finding &finding : job.findings()) {
-            report.add(finding);
-        }
-    };
     try {
         job.examine();
     } catch (const CommandError &) {
-        tell();
+        tellAll(session, job.check().findings(), report);
         throw;
     }
-    tell();
+    tellAll(session, job.check().findings(), report);
+    if (wish.isGiven) {
+        findShotsToTakeAgain(session, request, job, wish, report);
+    }
     job.preparePage();
 }
 
@@ -102,9 +167,10 @@ ExitCode runCheck(Session &session, const QStringList &arguments)
     }
     applyCommonOptions(session, line);
     const ImportRequest request = importRequest(session, line);
+    const ReshootWish wish = reshootWish(line, request);
     Report report(line.isSet(QStringLiteral("json")));
     try {
-        check(session, request, report);
+        check(session, request, wish, report);
     } catch (const CommandError &error) {
         if (error.failure().code == ExitCode::InputRefused) {
             report.refuse(error.failure());

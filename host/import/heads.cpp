@@ -8,6 +8,8 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace PanoHost
 {
 
@@ -88,6 +90,33 @@ RecordSummary readRecord(const HeadFacts &head, const QString &path, QVector<Not
         *shots = shotsIn(bytes, head, path);
     }
     return summary;
+}
+
+Result<QByteArray> recordExcerpt(const HeadFacts &head, const QString &path,
+                                 const QVector<int> &shots)
+{
+    try {
+        const QByteArray bytes = bytesOf(path);
+        const QVector<NotedShot> all = shotsIn(bytes, head, path);
+        PanoHead::ReadError error;
+        const std::optional<QByteArray> excerpt = head.excerpt(bytes, shots, &error);
+        if (!excerpt) {
+            return unusable(path, error).failure();
+        }
+        const QVector<NotedShot> written = shotsIn(*excerpt, head, path);
+        const auto isRight = [&](const NotedShot &shot, int number) {
+            const NotedShot &own = all.at(number);
+            return shot.yawDegrees == own.yawDegrees && shot.pitchDegrees == own.pitchDegrees;
+        };
+        if (!std::equal(written.begin(), written.end(), shots.begin(), shots.end(), isRight)) {
+            return Failure{ ExitCode::InputRefused, displayName(path),
+                            QStringLiteral("no record of some of its shots can be made"),
+                            QStringLiteral("take the shots by hand") };
+        }
+        return *excerpt;
+    } catch (const CommandError &error) {
+        return error.failure();
+    }
 }
 
 Result<QVector<NotedShot>> readShots(const HeadFacts &head, const QString &path)

@@ -32,5 +32,11 @@ using PanoHead::RecordSummary;
  * not tell its shots.
  */
 [[nodiscard]] Result<QVector<NotedShot>> readShots(const HeadFacts &head, const QString &path);
+/**
+ * The record at \p path with only those of its shots that \p shots counts from 0, rising: for
+ * \p head, which runs records, to take these again. Read again before it is answered.
+ */
+[[nodiscard]] Result<QByteArray> recordExcerpt(const HeadFacts &head, const QString &path,
+                                               const QVector<int> &shots);
 
 } // namespace PanoHost

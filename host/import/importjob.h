@@ -40,8 +40,8 @@ public:
     /** After `preparePage`: presses Next and joins what was delivered with the photos' data. */
     [[nodiscard]] Panorama handOver();
 
-    /** What was found until now. */
-    [[nodiscard]] const QVector<Finding> &findings() const { return m_check.findings(); }
+    /** What is known until now. */
+    [[nodiscard]] const ShootCheck &check() const { return m_check; }
 
 private:
     [[nodiscard]] const ImportPlugin &openPlugin();
