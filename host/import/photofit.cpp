@@ -255,8 +255,8 @@ void Fitter::tellClock()
     }
 }
 
-/** Copies of one file are no two shots. RAW files are often of the same size, so only their beginnings
- * are compared, which name the time and hold the preview. */
+/** Copies of one file are no two shots. RAW files are often of the same size, so only their
+ * beginnings are compared, which name the time and hold the preview. */
 void Fitter::tellSamePictures()
 {
     constexpr qint64 kBeginningBytes = 256 * 1024;

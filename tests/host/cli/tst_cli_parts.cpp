@@ -315,10 +315,10 @@ void TestCliParts::optionsFollowWhatTheHeadHas_data()
     const auto row = [](const char *head, const char *options) {
         QTest::newRow(head) << QString::fromLatin1(head) << QString::fromLatin1(options);
     };
-    row("clauss", "fit invert-pitch recorded-location");
+    row("clauss", "invert-pitch recorded-location");
     row("gigapan", "bracket detect ignore mode overlap rows stack wrap360");
-    row("papywizard", "detect fit invert-pitch recorded-location rotate stack");
-    row("vrdrive2", "detect fit invert-pitch output-mode recorded-location rotate stack");
+    row("papywizard", "detect invert-pitch recorded-location rotate stack");
+    row("vrdrive2", "detect invert-pitch output-mode recorded-location rotate stack");
 }
 
 void TestCliParts::optionsFollowWhatTheHeadHas()
@@ -331,7 +331,7 @@ void TestCliParts::optionsFollowWhatTheHeadHas()
     }
     for (const char *everybodys :
          { "focal", "lens", "skip-optimization", "clean-links", "no-clean-links", "auto-detection",
-           "no-auto-detection", "ignore-exif-rotation", "order" }) {
+           "no-auto-detection", "ignore-exif-rotation", "order", "fit" }) {
         QVERIFY2(own.removeAll(QLatin1String(everybodys)) == 1, everybodys);
     }
     own.sort();
