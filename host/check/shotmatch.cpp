@@ -857,7 +857,10 @@ void Matcher::weighAsNamed()
         return;
     }
     const SeenAsNamed seen = lookAsNamed(places);
-    const double margin = m_reading.best.paths.best.cost - costAsNamed() - seen.cost;
+    // Pictures that show nothing in common speak for neither.
+    const bool isSeen = seen.confirmed + seen.refuted > 0;
+    const double margin = isSeen ? m_reading.best.paths.best.cost - costAsNamed() - seen.cost
+                                 : std::min(0.0, -unseen);
     m_refutesNames = seen.refuted > 0 && margin <= -kSettled;
     if (margin <= 0.0) {
         rival(shots, -margin);

@@ -5,6 +5,7 @@
 #include "host/align/seenturns.h"
 #include "host/check/gridmatch.h"
 #include "host/model/assumedgrid.h"
+#include "host/model/commanderror.h"
 #include "host/model/displayname.h"
 #include "host/model/panorama.h"
 
@@ -53,6 +54,19 @@ QString longestPause(const GridChoice &grid, int columns, const QVector<PhotoInf
         .arg(position / (byRows ? columns : grid.rows) + 1);
 }
 
+/** Why \p photos do not fill \p grid, and \p where one may be missing. */
+Failure refusal(const GridChoice &grid, const QVector<PhotoInfo> &photos, const QString &where)
+{
+    try {
+        requireFullGrid(grid, photos.size());
+    } catch (const CommandError &error) {
+        Failure failure = error.failure();
+        failure.tryThis += QStringLiteral("; the pictures do not tell which are missing: ") + where;
+        return failure;
+    }
+    return {};
+}
+
 } // namespace
 
 Result<PhotoFit> fitGrid(const GridChoice &grid, const QVector<PhotoInfo> &photos,
@@ -72,11 +86,7 @@ Result<PhotoFit> fitGrid(const GridChoice &grid, const QVector<PhotoInfo> &photo
     const auto matched = matchGrid(
         swept, used, [&turns](int one, int other) { return turns.between(one, other); });
     if (!matched) {
-        return Failure{ ExitCode::InputRefused, QStringLiteral("photos"),
-                        QStringLiteral("%1 do not divide %2 evenly, and the pictures do not tell "
-                                       "which are missing")
-                            .arg(counted(grid.rows, "row"), counted(used.size(), "photo")),
-                        longestPause(grid, used.size() / line + 1, used) };
+        return refusal(grid, photos, longestPause(grid, used.size() / line + 1, used));
     }
     PhotoFit fit = fitOf(matched->match, used, turns);
     for (Finding &finding : fit.findings) {

@@ -313,7 +313,13 @@ PhotoFit Fitter::fit()
 
 PhotoFit Fitter::asNamed(const QString &whyUnchecked)
 {
-    tellSamePictures();
+    // Where all is well, no photo is opened again.
+    const bool sameTime = std::all_of(m_photos.cbegin(), m_photos.cend(), [&](const auto &photo) {
+        return photo.timeMs == m_photos.first().timeMs;
+    });
+    if (!whyUnchecked.isEmpty() || (sameTime && m_photos.size() > 1)) {
+        tellSamePictures();
+    }
     if (whyUnchecked.isEmpty()) {
         tellClock();
     } else {

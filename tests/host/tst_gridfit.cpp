@@ -187,8 +187,9 @@ void TestGridFit::unsureGridsAreRefusedWithTheirLongestPause()
     const Result<PhotoFit> found = fitGrid(choice, photos, m_lens);
     QVERIFY(!found);
     QCOMPARE(found.error().text(),
-             QStringLiteral("photos: 3 rows do not divide 8 photos evenly, and the pictures do not "
-                            "tell which are missing; the longest pause: 28 s after 3.jpg (usually "
+             QStringLiteral("photos: 3 rows do not divide 8 photos evenly; are photos missing? "
+                            "--ignore N leaves out the first N photos; the pictures do not tell "
+                            "which are missing: the longest pause: 28 s after 3.jpg (usually "
                             "4 s), in column 2 as they were taken"));
 }
 

@@ -4,6 +4,7 @@
 
 #include "tests/host/testphotos.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QProcess>
 
@@ -87,7 +88,12 @@ QStringList CliBench::photos(int count, const QString &prefix)
     for (int i = 1; i <= count; ++i) {
         const QString number = QString::number(i).rightJustified(2, QLatin1Char('0'));
         names += prefix + number + QStringLiteral(".jpg");
-        TestPhotos::writeOrdinary(path(names.last()), QSize(60, 40));
+        TestPhotos::Exif exif = TestPhotos::ordinaryExif();
+        exif["Exif.Photo.DateTimeOriginal"] = QDateTime({ 2024, 5, 1 }, { 10, 0 }, Qt::UTC)
+                                                  .addSecs(i - 1)
+                                                  .toString(QStringLiteral("yyyy:MM:dd HH:mm:ss"))
+                                                  .toLatin1();
+        TestPhotos::writeJpeg(path(names.last()), TestPhotos::quarters(QSize(60, 40)), exif);
     }
     return names;
 }

@@ -123,6 +123,7 @@ void TestCliHeads::initTestCase()
     for (int i = 0; i < 6; ++i) {
         TestPhotos::Exif exif = TestPhotos::ordinaryExif();
         exif["Exif.Photo.ExposureTime"] = times.at(i % 3);
+        exif["Exif.Photo.DateTimeOriginal"] = "2024:05:01 10:00:0" + QByteArray::number(i);
         m_brackets += QStringLiteral("b%1.jpg").arg(i);
         TestPhotos::writeJpeg(m_bench.path(m_brackets.last()), TestPhotos::quarters(QSize(60, 40)),
                               exif);
