@@ -30,8 +30,8 @@ struct Finding {
     };
 
     QString topic; ///< "record", "grid", "bad", "shots", "missing", "left", "clock", "photos",
-                   ///< "lens", "order", "gaps", "links", "blurred", "exposure", "moved", "quality",
-                   ///< "reshoot", "result"
+                   ///< "lens", "order", "gaps", "pictures", "links", "blurred", "exposure",
+                   ///< "moved", "quality", "reshoot", "result"
     QString text; ///< one line, for the user
     Kind kind = Kind::Fact;
     QStringList files = {}; ///< paths of the photos that it is about; empty: of all

@@ -308,7 +308,7 @@ PhotoFit Fitter::fit()
     tellLeftOut(Kind::OtherShoot, QStringLiteral("not of this shoot: left out"));
     tellMissing();
     tellClock();
-    return PhotoFit{ shotFit(), m_findings };
+    return PhotoFit{ shotFit(), m_findings, {} };
 }
 
 PhotoFit Fitter::asNamed(const QString &whyUnchecked)
@@ -328,7 +328,12 @@ PhotoFit Fitter::asNamed(const QString &whyUnchecked)
                             "taken in the order of their names")
                  .arg(whyUnchecked));
     }
-    return PhotoFit{ {}, m_findings };
+    const bool isQuick = whyUnchecked.isEmpty() && m_match.measuredPairs == 0;
+    return PhotoFit{ {},
+                     m_findings,
+                     !isQuick                ? QString()
+                         : m_match.usesTimes ? QStringLiteral("names, times and counts")
+                                             : QStringLiteral("names and counts") };
 }
 
 /** One file of each of \p photos. */

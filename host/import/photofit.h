@@ -30,6 +30,9 @@ struct PhotoFit {
     /** Nothing: each photo, in the order given, belongs to the next shot. */
     std::optional<ShotFit> fit;
     QVector<Finding> findings; ///< topics "shots", "missing", "left", "clock"
+    /** What told it without a look at any picture: "names, times and counts"; empty: it took one.
+     */
+    QString toldBy;
 };
 
 /**

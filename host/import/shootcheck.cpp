@@ -124,6 +124,7 @@ void ShootCheck::matchPhotos()
         fitByNames();
     }
     m_findings += found.findings;
+    m_toldBy = found.toldBy;
 }
 
 /** The photos that can be read belong to the shots, one after the other. */
@@ -160,6 +161,10 @@ void ShootCheck::lookAtPhotos()
     }
     m_findings += orderFinding(ordered);
     m_findings += gapFinding(ordered);
+    if (!m_toldBy.isEmpty()) {
+        m_findings += Finding{ QStringLiteral("pictures"),
+                               QStringLiteral("not opened: %1 agree").arg(m_toldBy) };
+    }
 }
 
 void ShootCheck::checkCounts() const

@@ -54,6 +54,7 @@ private:
     RecordSummary m_record;
     QVector<NotedShot> m_shots;
     QVector<Finding> m_findings;
+    QString m_toldBy; ///< as `PhotoFit::toldBy`
     std::optional<Failure> m_doubt; ///< which photo belongs to which shot
     QStringList m_photos;
     std::optional<QVector<PhotoInfo>> m_readable; ///< of the photos given, once they are read

@@ -179,6 +179,15 @@ void TestCliFit::soundShootsGoByName()
     QCOMPARE(positions(import.out).size(), kShots);
     QCOMPARE(import.out,
              imported(photos, { QStringLiteral("--fit"), QStringLiteral("strict") }).out);
+    const QString quick = QStringLiteral("pictures not opened: names, times and counts agree\n");
+    QVERIFY(run("check", photos).out.contains(quick));
+    QStringList stopped;
+    for (int shot = 0; shot < 9; ++shot) {
+        stopped += take(named(shot + 1), shot);
+    }
+    const CliBench::Run less = run("check", stopped);
+    QVERIFY(less.out.contains(QLatin1String("no photo for shots 10 to 12"))
+            && !less.out.contains(quick));
 }
 
 void TestCliFit::strictRefusesAnotherNumberOfPhotos()
