@@ -189,9 +189,10 @@ void PictureDetail::addTensors(const QImage &picture, int size)
         const uchar *const below = picture.constScanLine(y + 1);
         const int row = y * kCellRows / picture.height() * kCellColumns;
         for (int x = 1; x + 1 < width; ++x) {
-            const int across = line[x + 1] - line[x - 1];
-            const int down = below[x] - above[x];
-            const auto cell = static_cast<size_t>(row + x * kCellColumns / width);
+            const qint64 across = line[x + 1] - line[x - 1];
+            const qint64 down = below[x] - above[x];
+            const int column = x * kCellColumns / width;
+            const auto cell = static_cast<size_t>(row) + static_cast<size_t>(column);
             sums[cell][0] += across * across;
             sums[cell][1] += across * down;
             sums[cell][2] += down * down;
@@ -202,7 +203,7 @@ void PictureDetail::addTensors(const QImage &picture, int size)
     for (size_t cell = 0; cell < kCells; ++cell) {
         for (const qint64 sum : sums[cell]) {
             const double mean = static_cast<double>(sum) / std::max(1, counts[cell]);
-            m_tensors.push_back(static_cast<float>(mean / 4.0)); // of pixels two apart
+            m_tensors.emplace_back(static_cast<float>(mean / 4.0)); // of pixels two apart
         }
     }
 }
@@ -213,7 +214,8 @@ double PictureDetail::brightness(double x, double y) const
     const double down = std::clamp(y * kRows - 0.5, 0.0, kRows - 1.001);
     const auto column = static_cast<int>(across);
     const auto row = static_cast<int>(down);
-    const std::uint8_t *const part = &m_brightness[static_cast<size_t>(row * kColumns + column)];
+    const std::uint8_t *const part
+        = &m_brightness[static_cast<size_t>(row) * kColumns + static_cast<size_t>(column)];
     const double u = across - column;
     const double v = down - row;
     return (1.0 - v) * ((1.0 - u) * part[0] + u * part[1])

@@ -121,7 +121,7 @@ private:
     bool placeAsCopy(int file)
     {
         const QVector<int> others = candidates(file);
-        const auto original = std::find_if(others.begin(), others.end(), [&](int other) {
+        const auto *const original = std::find_if(others.begin(), others.end(), [&](int other) {
             return m_photoOf[other] >= 0 && isCopy(m_files[file], m_files[other]);
         });
         if (original == others.end()) {

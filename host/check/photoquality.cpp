@@ -88,8 +88,8 @@ public:
             own.model = lens.lens == LensModel::Fisheye ? LensModel::Fisheye : LensModel::Standard;
             own.focalPixels = focalPixels(own.size, m_knowsLens ? lens.focal35mm : kAnyFocal35mm);
             m_lenses.push_back(own);
-            m_rotations.push_back(rotationOf(shot.recorded)
-                                  * rotationOf({ 0.0, 0.0, shot.turnDegrees }));
+            m_rotations.emplace_back(rotationOf(shot.recorded)
+                                     * rotationOf({ 0.0, 0.0, shot.turnDegrees }));
             if (i == 0 || shot.position != photos.at(i - 1).position) {
                 m_positions.emplace_back();
             }
@@ -233,6 +233,7 @@ private:
         QMap<int, double> off;
         for (const std::vector<int> &photos : qAsConst(levels)) {
             std::vector<double> values;
+            values.reserve(photos.size());
             for (const int photo : photos) {
                 values.push_back(*m_photos.at(photo).photo.exposureValue);
             }
