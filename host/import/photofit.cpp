@@ -259,7 +259,7 @@ void Fitter::tellClock()
  * beginnings are compared, which name the time and hold the preview. */
 void Fitter::tellSamePictures()
 {
-    constexpr qint64 kBeginningBytes = 256 * 1024;
+    constexpr qint64 kBeginningBytes = 256 * 1024LL;
     QHash<std::pair<qint64, qint64>, QVector<int>> alike; // by size and time
     for (int photo = 0; photo < m_photos.size(); ++photo) {
         const PhotoInfo &info = m_photos.at(photo);
