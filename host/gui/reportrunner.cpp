@@ -13,6 +13,7 @@ ReportRunner::ReportRunner(PanoHostApplication &app, QObject *parent)
     : QObject(parent)
     , m_app(app)
 {
+    connect(this, &ReportRunner::answered, this, &ReportRunner::tellAnswer, Qt::QueuedConnection);
 }
 
 ReportRunner::~ReportRunner()
@@ -61,19 +62,31 @@ void ReportRunner::work()
         JobWatch watch;
         watch.interrupted = [this, number] { return m_wanted != number; };
         try {
-            const std::function<void()> tell = job(watch);
-            QMetaObject::invokeMethod(
-                this,
-                [this, number, tell] {
-                    if (m_wanted == number) {
-                        tell();
-                    }
-                },
-                Qt::QueuedConnection);
+            std::function<void()> answer = job(watch);
+            {
+                const std::lock_guard guard(m_mutex);
+                m_answer = std::move(answer);
+                m_answerNumber = number;
+            }
+            Q_EMIT answered();
         } catch (const CommandError &) { // NOLINT(bugprone-empty-catch): nobody waits for it
         } catch (const std::bad_alloc &) { // NOLINT(bugprone-empty-catch): the page says so
         }
         lock.lock();
+    }
+}
+
+void ReportRunner::tellAnswer()
+{
+    std::function<void()> answer;
+    {
+        const std::lock_guard lock(m_mutex);
+        if (m_answerNumber == m_wanted) {
+            answer = std::exchange(m_answer, {});
+        }
+    }
+    if (answer) {
+        answer();
     }
 }
 

@@ -39,15 +39,20 @@ public:
 
 Q_SIGNALS:
     void done(const std::shared_ptr<const PanoHost::ShootReport> &report);
+    /** From the thread of the jobs to that of this object: `m_answer` is new. */
+    void answered();
 
 private:
     void work();
+    void tellAnswer();
 
     PanoHostApplication &m_app;
     std::atomic<int> m_wanted{ 0 }; ///< number of the last job
     std::mutex m_mutex; ///< guards what follows
     std::condition_variable m_changed;
     Job m_job;
+    std::function<void()> m_answer;
+    int m_answerNumber = 0; ///< of its job
     bool m_ends = false;
     std::thread m_thread;
 };
