@@ -22,9 +22,7 @@ QString cellNames(const GridChoice &grid, int columns, const QVector<int> &shots
     QStringList names;
     for (const int shot : shots) {
         const GridCell cell = gridCellOf(shot / grid.bracketCount, grid.mode, grid.rows, columns);
-        const QString name
-            = QStringLiteral("row %1 of column %2")
-                  .arg(QString::number(cell.row + 1), QString::number(cell.column + 1));
+        const QString name = gridCellName(cell);
         if (!names.contains(name)) {
             names += name;
         }

@@ -17,32 +17,32 @@ namespace
 /** A larger part than this is more than rounding and crop factors explain. */
 constexpr double kNotableDifference = 0.1;
 
-double givenOrThrow(double focal35mm, const char *where)
-{
-    if (!(focal35mm > 0.0)) {
-        throw inputRefused(QStringLiteral("focal length"),
-                           QStringLiteral("not known from %1").arg(QString::fromLatin1(where)),
-                           QStringLiteral("give it with --focal MM (35 mm equivalent)"));
-    }
-    return focal35mm;
-}
-
-double chooseFocal(const ImportRequest &request, const KnownLens &photos, const KnownLens &record)
+/** 0: the wanted source does not know it. */
+double knownFocal(const ImportRequest &request, const KnownLens &photos, const KnownLens &record)
 {
     switch (request.focalSource) {
     case ValueSource::Given:
         return request.focal35mm;
     case ValueSource::Photos:
-        return givenOrThrow(photos.focal35mm, "the photos' EXIF data");
+        return photos.focal35mm;
     case ValueSource::Record:
-        return givenOrThrow(record.focal35mm, "the record");
+        return record.focal35mm;
     case ValueSource::Default:
         break;
     }
+    return photos.focal35mm > 0.0 ? photos.focal35mm : record.focal35mm;
+}
+
+/** Where a focal length was looked for in vain. */
+QString searchedPlaces(const ImportRequest &request)
+{
     const bool photosAlone = request.head != nullptr && !request.head->hasLens;
-    return givenOrThrow(photos.focal35mm > 0.0 ? photos.focal35mm : record.focal35mm,
-                        photosAlone ? "the photos' EXIF data"
-                                    : "the photos' EXIF data or the record");
+    if (request.focalSource == ValueSource::Record) {
+        return QStringLiteral("the record");
+    }
+    return request.focalSource == ValueSource::Photos || photosAlone
+        ? QStringLiteral("the photos' EXIF data")
+        : QStringLiteral("the photos' EXIF data or the record");
 }
 
 LensModel chooseLensModel(const ImportRequest &request, const KnownLens &photos,
@@ -59,12 +59,22 @@ LensModel chooseLensModel(const ImportRequest &request, const KnownLens &photos,
 
 } // namespace
 
+KnownLens lensInUse(const ImportRequest &request, const KnownLens &photos, const KnownLens &record)
+{
+    return { knownFocal(request, photos, record), chooseLensModel(request, photos, record) };
+}
+
 LensChoice chooseLens(const ImportRequest &request, const KnownLens &photos,
                       const KnownLens &record)
 {
-    LensChoice choice;
-    choice.focal35mm = chooseFocal(request, photos, record);
-    choice.lens = chooseLensModel(request, photos, record);
+    const KnownLens used = lensInUse(request, photos, record);
+    const bool isGiven = request.focalSource == ValueSource::Given;
+    if (!isGiven && !(used.focal35mm > 0.0)) {
+        throw inputRefused(QStringLiteral("focal length"),
+                           QStringLiteral("not known from %1").arg(searchedPlaces(request)),
+                           QStringLiteral("give it with --focal MM (35 mm equivalent)"));
+    }
+    LensChoice choice{ used.focal35mm, used.lens, {} };
     if (request.focalSource != ValueSource::Default) {
         return choice;
     }

@@ -15,6 +15,10 @@ struct LensChoice {
     QStringList warnings;
 };
 
+/** The lens that an import would use, as far as it is known; a focal length of 0: it is not. */
+[[nodiscard]] KnownLens lensInUse(const ImportRequest &request, const KnownLens &photos,
+                                  const KnownLens &record);
+
 /**
  * Chooses between what the user gave, the photos and the record: without a wish the photos win
  * where they say something. Throws when the wanted source does not know the focal length.

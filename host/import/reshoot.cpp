@@ -78,14 +78,8 @@ private:
                 infos += photo.value();
             }
         }
-        try {
-            const LensChoice choice
-                = chooseLens(m_request, knownLensOf(infos),
-                             { m_check.record().focal35mm, m_check.record().lens });
-            m_lens = { choice.focal35mm, choice.lens };
-        } catch (const CommandError &) {
-            m_lens = {}; // whoever imports hears of it
-        }
+        m_lens = lensInUse(m_request, knownLensOf(infos),
+                           { m_check.record().focal35mm, m_check.record().lens });
     }
 
     void addRecorded()
@@ -131,13 +125,11 @@ private:
             const GridCell cell = gridCellOf(position, grid.mode, grid.rows,
                                              description.imageGroups.size() / grid.rows);
             const GridDirection direction = layout.directions.value(position);
-            m_shots
-                += Shot{ photos.at(i),
-                         QStringLiteral("row %1 of column %2")
-                             .arg(QString::number(cell.row + 1), QString::number(cell.column + 1)),
-                         { direction.yawDegrees, direction.pitchDegrees, 0.0 },
-                         position,
-                         i % grid.bracketCount };
+            m_shots += Shot{ photos.at(i),
+                             gridCellName(cell),
+                             { direction.yawDegrees, direction.pitchDegrees, 0.0 },
+                             position,
+                             i % grid.bracketCount };
         }
     }
 

@@ -4,6 +4,7 @@
 
 #include "host/import/gridfit.h"
 #include "host/import/inputcheck.h"
+#include "host/import/lenschoice.h"
 #include "host/import/photofit.h"
 #include "host/model/commanderror.h"
 #include "host/model/displayname.h"
@@ -88,11 +89,7 @@ const QVector<PhotoInfo> &ShootCheck::readable()
 
 KnownLens ShootCheck::lensOf(const QVector<PhotoInfo> &photos) const
 {
-    const KnownLens lens = knownLensOf(photos);
-    if (m_request.focalSource == ValueSource::Given) {
-        return { m_request.focal35mm, lens.lens };
-    }
-    return lens.focal35mm > 0.0 ? lens : KnownLens{ m_record.focal35mm, m_record.lens };
+    return lensInUse(m_request, knownLensOf(photos), { m_record.focal35mm, m_record.lens });
 }
 
 void ShootCheck::matchPhotos()

@@ -3,6 +3,7 @@
 #include "host/import/shootreport.h"
 
 #include "host/import/givenfiles.h"
+#include "host/import/lenschoice.h"
 #include "host/import/shootcheck.h"
 #include "host/model/commanderror.h"
 #include "host/model/displayname.h"
@@ -153,12 +154,8 @@ ShootReport reportOn(PanoHostApplication &app, ImportRequest request, const JobW
         report.otherHead = readerOf(request.record, request.head);
     }
     report.lens = knownLensOf(report.photos);
-    KnownLens used = report.lens;
-    if (request.focalSource == ValueSource::Given) {
-        used.focal35mm = request.focal35mm;
-    } else if (!(used.focal35mm > 0.0)) {
-        used = { report.summary.focal35mm, report.summary.lens };
-    }
+    const KnownLens used
+        = lensInUse(request, report.lens, { report.summary.focal35mm, report.summary.lens });
     if (const auto links
         = linksFinding(*report.head, shotsWithPhotos(report), report.summary.bracketCount, used)) {
         report.findings += *links;

@@ -62,6 +62,12 @@ GridCell gridCellOf(int shot, int mode, int rows, int columns)
     }
 }
 
+QString gridCellName(const GridCell &cell)
+{
+    return QStringLiteral("row %1 of column %2")
+        .arg(QString::number(cell.row + 1), QString::number(cell.column + 1));
+}
+
 AssumedGrid assumedGrid(const StructuredPanoramaProperties &description, const QSize &frame,
                         double focal35mm, LensModel lens, const QVector<qint32> &missing)
 {

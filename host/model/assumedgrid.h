@@ -34,6 +34,9 @@ struct GridCell {
 /** The cell that was shot as number \p shot, from 0, in the order \p mode. */
 [[nodiscard]] GridCell gridCellOf(int shot, int mode, int rows, int columns);
 
+/** "row 2 of column 5", as they are counted on a wall. */
+[[nodiscard]] QString gridCellName(const GridCell &cell);
+
 /** A start layout for a grid whose angles nobody recorded. */
 struct AssumedGrid {
     QVector<GridDirection> directions; ///< one per position, shooting order
