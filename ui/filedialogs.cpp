@@ -119,6 +119,10 @@ QStringList sortedPhotos(QStringList files)
 
 void readPhotos(ReadingThread &thread, const QStringList &files)
 {
+    if (findHost() == nullptr) {
+        thread.Clear(); // nobody reads the new ones, and the old ones are not chosen any more
+        return;
+    }
     // The photo in hand would join the new list.
     clearIfRunning(thread);
     thread.Start(files);

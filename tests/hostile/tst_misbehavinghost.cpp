@@ -407,6 +407,8 @@ private Q_SLOTS:
     void nextIsEnabledOnlyWhenEverythingFits_data();
     void nextIsEnabledOnlyWhenEverythingFits();
     void aHostThatLeavesAsReadingBeginsReadsNothing();
+    void photosChosenWithoutAHostTakeThePlaceOfOthers_data();
+    void photosChosenWithoutAHostTakeThePlaceOfOthers();
 
 private:
     ShootFolder m_folder;
@@ -510,6 +512,37 @@ void TestMisbehavingHost::aHostThatLeavesAsReadingBeginsReadsNothing()
     thread.Start(photos);
     QVERIFY(thread.wait());
     QCOMPARE(thread.XIImageDefs().size(), 3);
+}
+
+void TestMisbehavingHost::photosChosenWithoutAHostTakeThePlaceOfOthers_data()
+{
+    QTest::addColumn<const Head *>("head");
+    for (const Head *head : allHeads()) {
+        QTest::newRow(head->name) << head;
+    }
+}
+
+void TestMisbehavingHost::photosChosenWithoutAHostTakeThePlaceOfOthers()
+{
+    QFETCH(const Head *, head);
+    fakeHost().setPhotos(m_files, {});
+    const HeadPage made = head->newPage();
+    const std::unique_ptr<QWizardPage> page(made.page);
+    PageDriver driver(page.get());
+    auto *thread = static_cast<ReadingThread *>(page->findChild<QThread *>());
+    const auto choose = [&](const QStringList &files) {
+        DialogClicker clicker;
+        clicker.chooseFiles(files);
+        driver.click("m_pbSelectImages");
+        driver.waitUntilRead();
+    };
+    choose(m_files.mid(0, 2));
+    QCOMPARE(thread->XIImageDefs().size(), 2);
+
+    application().hidesInterface = true;
+    choose(m_files.mid(2, 2));
+    application().hidesInterface = false;
+    QCOMPARE(thread->XIImageDefs().size(), 0);
 }
 
 TEST_CLASS(TestMisbehavingHost, MisbehavingApplication)
