@@ -267,20 +267,28 @@ double costInOrder(const ShotClock &photos, const ShotClock &shots, double drift
     constexpr double kNudgedCost = 12.0; // a clock is set by minutes at least, but for telephones
     constexpr double kNudgeSeconds = 60.0;
     constexpr std::size_t kMostOffsets = 24;
+    struct Near {
+        int count = 0;
+        double sum = 0.0;
+    };
     std::vector<double> offsets;
-    std::map<double, int> counts;
+    std::map<double, Near> nears; // by whole seconds
     for (std::size_t i = 0; i < std::min(photos.seconds.size(), shots.seconds.size()); ++i) {
         const double head = shots.seconds[i];
         const double offset = photos.seconds[i] - head - drift * (head - shots.rising.front());
         if (std::isfinite(offset)) {
             offsets.push_back(offset);
-            ++counts[std::round(offset)];
+            for (const double step : { -1.0, 0.0, 1.0 }) {
+                Near &near = nears[std::round(offset) + step];
+                ++near.count;
+                near.sum += offset;
+            }
         }
     }
     std::vector<std::pair<int, double>> often;
-    often.reserve(counts.size());
-    for (const auto &[offset, count] : counts) {
-        often.emplace_back(-count, offset);
+    often.reserve(nears.size());
+    for (const auto &[second, near] : nears) {
+        often.emplace_back(-near.count, near.sum / near.count);
     }
     std::sort(often.begin(), often.end());
     often.resize(std::min(often.size(), kMostOffsets));
