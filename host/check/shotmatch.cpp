@@ -349,7 +349,8 @@ public:
 
 private:
     [[nodiscard]] double secondsOf(int photo) const;
-    [[nodiscard]] bool hasWildTime(std::size_t rank) const;
+    [[nodiscard]] std::size_t endOfWildTimes(std::size_t rank, double before) const;
+    [[nodiscard]] bool isEarly(std::size_t rank, double before) const;
     void orderPhotos();
     [[nodiscard]] ShotEvidence evidenceOf(const std::vector<int> &order) const;
     [[nodiscard]] std::vector<std::vector<int>> cameras() const;
@@ -357,9 +358,11 @@ private:
     void lookUpRotations();
     void askPictures();
     [[nodiscard]] std::set<int> doubtfulPlaces() const;
-    [[nodiscard]] bool isHasty(int place) const;
+    enum class Pace { Usual, Unknown, Hasty, Impossible };
+    [[nodiscard]] Pace paceOf(int place) const;
     [[nodiscard]] bool settlesWithoutPictures() const;
     [[nodiscard]] NamesAndTimes namesAndTimes() const;
+    void weighPace();
     void weighDoubts();
     void weighNames();
     /** Of photos that are each taken for the next shot by name. */
@@ -423,19 +426,41 @@ double Matcher::secondsOf(int photo) const
     return static_cast<double>(m_photos.at(photo).timeMs) / 1000.0;
 }
 
-/** Whether the photo of \p rank by name was counted between two of quite another time. */
-bool Matcher::hasWildTime(std::size_t rank) const
+/** The end of photos, from \p rank by name on, that were counted between two taken shortly after
+ * each other, the first of them at \p before, and yet are of quite another time; \p rank: they are
+ * not. */
+std::size_t Matcher::endOfWildTimes(std::size_t rank, double before) const
 {
-    if (rank < 1 || rank + 1 >= m_names.counted.size()) {
-        return false;
+    constexpr std::size_t kMost = 8;
+    const auto photo = [this](std::size_t at) { return m_names.counted[at]; };
+    const auto isNext = [&](std::size_t at) {
+        return isCountedNext(m_photos.at(photo(at - 1)).path, m_photos.at(photo(at)).path, 1);
+    };
+    const std::size_t last = std::min(rank + kMost, m_names.counted.size() - 1);
+    for (std::size_t end = rank + 1; rank > 0 && end <= last; ++end) {
+        bool isWild = m_photos.at(photo(end)).timeMs != 0;
+        for (std::size_t at = rank; at < end && isWild; ++at) {
+            isWild = isWildTime(before, secondsOf(photo(at)), secondsOf(photo(end)));
+        }
+        for (std::size_t at = rank; at <= end && isWild; ++at) {
+            isWild = isNext(at);
+        }
+        if (isWild) {
+            return end;
+        }
     }
-    const int before = m_names.counted[rank - 1];
-    const int photo = m_names.counted[rank];
-    const int after = m_names.counted[rank + 1];
-    const auto path = [this](int of) { return m_photos.at(of).path; };
-    return isWildTime(secondsOf(before), secondsOf(photo), secondsOf(after))
-        && isCountedNext(path(before), path(photo), 1)
-        && isCountedNext(path(photo), path(after), 1);
+    return rank;
+}
+
+/** Whether the photo of \p rank by name was counted after one taken at \p before and yet is some
+ * seconds older. */
+bool Matcher::isEarly(std::size_t rank, double before) const
+{
+    constexpr double kFewSeconds = 10.0;
+    const double early = before - secondsOf(m_names.counted[rank]);
+    return early > 0.0 && early <= kFewSeconds && m_names.other.empty()
+        && isCountedNext(m_photos.at(m_names.counted[rank - 1]).path,
+                         m_photos.at(m_names.counted[rank]).path, 1);
 }
 
 /** By time, and by name where the times are the same or missing. */
@@ -450,10 +475,12 @@ void Matcher::orderPhotos()
     m_seconds.resize(m_photos.size(), kUnknown);
     std::vector<double> times(m_photos.size());
     double before = -std::numeric_limits<double>::infinity();
+    std::size_t wildEnd = 0;
     for (std::size_t rank = 0; rank < m_names.counted.size(); ++rank) {
         const int photo = m_names.counted[rank];
         m_nameRank[photo] = static_cast<int>(rank);
-        if (m_photos.at(photo).timeMs != 0 && !hasWildTime(rank)) {
+        wildEnd = std::max(wildEnd, endOfWildTimes(rank, before));
+        if (m_photos.at(photo).timeMs != 0 && rank >= wildEnd && !isEarly(rank, before)) {
             m_seconds[photo] = secondsOf(photo);
             before = m_seconds[photo];
         }
@@ -553,28 +580,35 @@ bool Matcher::isComplete() const
     return isOneToOne(m_reading.best.paths.best.shots, m_evidence.shotCount());
 }
 
-/** Whether photo \p place, in order, came much sooner than the head was ready for its shot: a
- * doubled photo in place of one that is missing looks like that. */
-bool Matcher::isHasty(int place) const
+/** How photo \p place, in order, came after the one before: a doubled photo in place of one that is
+ * missing comes sooner than the head was ready for its shot. */
+Matcher::Pace Matcher::paceOf(int place) const
 {
     constexpr double kLeastSeconds = 1.5;
     constexpr double kSoon = 0.6;
     const std::vector<int> &shots = m_reading.best.paths.best.shots;
     const int before = shots[place - 1];
     if (!m_reading.best.assumption.clock || before < 0 || shots[place] <= before) {
-        return false;
+        return Pace::Usual;
     }
+    const ShotClock &photos = m_evidence.photos;
     const double head = m_shotClock.seconds[shots[place]] - m_shotClock.seconds[before];
-    const double camera = m_evidence.photos.seconds[place] - m_evidence.photos.seconds[place - 1];
-    const double slack = m_shotClock.slackSeconds + m_evidence.photos.slackSeconds;
-    return slack == 0.0 && head >= kLeastSeconds && camera <= kSoon * head;
+    const double camera = photos.seconds[place] - photos.seconds[place - 1];
+    if (!std::isfinite(head) || !std::isfinite(camera)) {
+        return Pace::Unknown;
+    }
+    const bool isHasty = m_shotClock.slackSeconds + photos.slackSeconds == 0.0
+        && head >= kLeastSeconds && camera <= kSoon * head;
+    const double cutOff
+        = (m_shotClock.isWholeSeconds ? 1.0 : 0.0) + (photos.isWholeSeconds ? 1.0 : 0.0);
+    return !isHasty ? Pace::Usual : camera + cutOff <= head ? Pace::Impossible : Pace::Hasty;
 }
 
 bool Matcher::settlesWithoutPictures() const
 {
     constexpr double kSettled = 4.0;
     for (int k = 1; k < static_cast<int>(m_order.size()); ++k) {
-        if (isHasty(k)) {
+        if (paceOf(k) != Pace::Usual) {
             return false;
         }
     }
@@ -612,7 +646,7 @@ std::set<int> Matcher::doubtfulPlaces() const
         // Within another shoot nothing is to be learnt.
         const bool isNext = shots[k] == last + 1 || (m_evidence.isBurst && shots[k] == last);
         if ((isStrange && before >= 0) || (!isStrange && !isNext)
-            || (!isStrange && k > 0 && before < 0) || (k > 0 && isHasty(k))) {
+            || (!isStrange && k > 0 && before < 0) || (k > 0 && paceOf(k) != Pace::Usual)) {
             lookAround(k);
         }
         last = isStrange ? last : shots[k];
@@ -840,7 +874,7 @@ Matcher::SeenAsNamed Matcher::lookAsNamed(const std::vector<int> &places)
 void Matcher::weighAsNamed()
 {
     constexpr double kHopeless = 20.0;
-    constexpr double kUnsure = 4.0;
+    constexpr double kUnsure = 3.0; // also where a complete reading is the usual
     constexpr double kSettled = 6.0;
     const int n = m_photos.size();
     const std::vector<int> places = placesAsNamed();
@@ -878,6 +912,20 @@ void Matcher::weighAsNamed()
         const auto known = m_turns.find({ m_order[k - 1], m_order[k] });
         if (known != m_turns.end()) {
             m_evidence.measured.emplace(k, known->second);
+        }
+    }
+}
+
+/** Where photos came sooner than the head was ready and no picture shows that it was all the same.
+ */
+void Matcher::weighPace()
+{
+    constexpr double kUnsure = 3.0; // also where a complete reading is the usual
+    for (int k = 1; k < static_cast<int>(m_order.size()); ++k) {
+        const auto measured = m_evidence.measured.find(k);
+        const bool isSeen = measured != m_evidence.measured.end() && measured->second;
+        if (paceOf(k) == Pace::Impossible && !isSeen) {
+            m_reading.margin = std::min(m_reading.margin, kUnsure);
         }
     }
 }
@@ -1032,6 +1080,7 @@ ShotMatch Matcher::match()
     if (m_neededPictures && m_measure) {
         askPictures();
     }
+    weighPace();
     weighAsNamed();
     weighDoubts();
     return result();
@@ -1083,8 +1132,7 @@ ShotMatch matchShots(const QVector<PanoHead::NotedShot> &shots, int bracketCount
     }
     match.measuredPairs += other.measuredPairs;
     match.refutesNames |= other.refutesNames;
-    if (!other.isSure()
-        || !(match.doubtsTimes || isReadAs(first) || isReadAs(match.secondReading))) {
+    if (!other.isSure() || !(match.doubtsTimes || isReadAs(first))) {
         return match;
     }
     other.measuredPairs = match.measuredPairs;

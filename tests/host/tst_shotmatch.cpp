@@ -16,6 +16,7 @@ using namespace PanoHost;
 Q_DECLARE_METATYPE(Fault)
 Q_DECLARE_METATYPE(Times)
 Q_DECLARE_METATYPE(OddClock)
+Q_DECLARE_METATYPE(ShootRecipe)
 
 /** Made-up shoots know what is true; nothing else decides here. */
 class TestShotMatch : public QObject
@@ -32,6 +33,8 @@ private Q_SLOTS:
     void oddClocksDoNotUndoNames();
     void oddClocksHideNoFault_data();
     void oddClocksHideNoFault();
+    void whatWasMisreadOnceIsNot_data();
+    void whatWasMisreadOnceIsNot();
     void driftIsMeasuredOverALongShoot();
     void whatCannotBeToldIsNotGuessed_data();
     void whatCannotBeToldIsNotGuessed();
@@ -372,6 +375,50 @@ void TestShotMatch::oddClocksHideNoFault()
                                     .arg(misread)));
         }
     }
+}
+
+void TestShotMatch::whatWasMisreadOnceIsNot_data()
+{
+    QTest::addColumn<QVector<Fault>>("faults");
+    QTest::addColumn<OddClock>("clock");
+    QTest::addColumn<ShootRecipe>("recipe");
+    QTest::addColumn<bool>("hasPictures");
+    const auto addRow = [](const char *name, const QVector<Fault> &faults, OddClock clock, int seed,
+                           bool inBrackets, int spheres = 1, bool hasPictures = true) {
+        ShootRecipe recipe;
+        recipe.seed = seed;
+        recipe.inBrackets = inBrackets;
+        recipe.spheres = spheres;
+        recipe.isSubtle = hasPictures;
+        QTest::newRow(name) << faults << clock << recipe << hasPictures;
+    };
+    const QVector<Fault> none;
+    const QVector<Fault> missing{ Fault::MissingOne };
+    const QVector<Fault> both{ Fault::MissingAndDoubled };
+    addRow("test shot that looks like the first", { Fault::BracketDoubled, Fault::TestShot },
+           OddClock::Sound, 91113, true);
+    addRow("doubled of 1980", { Fault::Doubled }, OddClock::CameraWildOnce, 36, false);
+    addRow("brackets, clock set", none, OddClock::CameraSetOnTheWay, 36, true);
+    addRow("brackets, clock set early", none, OddClock::CameraSetOnTheWay, 54, true, 3);
+    addRow("named as if complete", both, OddClock::CameraRandom, 40, false);
+    addRow("fault without times", both, OddClock::CameraSomeNone, 2003, false);
+    addRow("fault without times of the head", both, OddClock::HeadSomeNone, 2009, false);
+    addRow("two of one second", both, OddClock::Sound, 2027, false, 1, false);
+    addRow("brackets, early once", missing, OddClock::CameraEarlyOnce, 2019, true);
+}
+
+void TestShotMatch::whatWasMisreadOnceIsNot()
+{
+    QFETCH(QVector<Fault>, faults);
+    QFETCH(OddClock, clock);
+    QFETCH(ShootRecipe, recipe);
+    QFETCH(bool, hasPictures);
+    recipe.faults = faults;
+    recipe.times = timesOf(faults.contains(Fault::TestShot) ? 0 : recipe.seed);
+    const MadeShoot shoot = withClock(madeShoot(recipe), clock, recipe.seed);
+    const ShotMatch match = matchOf(shoot, hasPictures ? shoot.pictures() : MeasureRotation());
+    QVERIFY2(!match.isSure() || misreadIn(match, shoot).isEmpty(),
+             qPrintable(misreadIn(match, shoot)));
 }
 
 void TestShotMatch::driftIsMeasuredOverALongShoot()
