@@ -4,6 +4,7 @@
 
 #include "host/align/geometry.h"
 #include "host/check/clocklines.h"
+#include "host/check/otherclock.h"
 #include "host/check/photonames.h"
 #include "host/check/shotpath.h"
 
@@ -375,7 +376,7 @@ private:
     [[nodiscard]] double costAsNamed() const;
     [[nodiscard]] SeenAsNamed lookAsNamed(const std::vector<int> &places);
     void weighAsNamed();
-    [[nodiscard]] bool strangersFitMissingShots();
+    void weighOtherClocks();
     [[nodiscard]] const std::optional<Eigen::Matrix3d> &turn(int one, int other);
     void rival(const std::vector<int> &shots, double margin);
     [[nodiscard]] int takenCount() const;
@@ -930,55 +931,45 @@ void Matcher::weighPace()
     }
 }
 
-/** Whether photos that are of no shot turn as the shots do that have no photo: when the camera's
- * clock was set on the way, the rest of the shoot looks like another one. */
-bool Matcher::strangersFitMissingShots()
+/** Where the camera's clock may have been set on the way, or lost its time. */
+void Matcher::weighOtherClocks()
 {
-    constexpr double kClearly = 9.0;
-    constexpr std::size_t kMost = 12;
-    const std::vector<int> &shots = m_reading.best.paths.best.shots;
-    std::vector<bool> isMissing(m_shots.size(), true);
-    for (int shot : shots) {
-        if (shot >= 0) {
-            isMissing[shot] = false;
+    constexpr std::size_t kMostRuns = 8;
+    if (!m_reading.best.assumption.clock) {
+        return;
+    }
+    std::vector<int> placeOf(m_photos.size(), -1);
+    for (std::size_t k = 0; k < m_order.size(); ++k) {
+        placeOf[m_order[k]] = static_cast<int>(k);
+    }
+    std::vector<int> named;
+    for (int photo : m_names.counted) {
+        if (placeOf[photo] >= 0) {
+            named.push_back(placeOf[photo]);
         }
     }
-    std::vector<int> missing; // with the one before
-    for (int shot = 1; shot < m_shots.size(); ++shot) {
-        if (isMissing[shot] && isMissing[shot - 1] && m_levels[shot] == m_levels[shot - 1]) {
-            missing.push_back(shot);
+    const std::vector<int> shots = m_reading.best.paths.best.shots;
+    const std::vector<StrangeRun> runs = strangeRuns(shots, named, m_evidence.shotCount());
+    if (m_measure && !runs.empty()) {
+        lookUpRotations();
+    }
+    const auto measure = [this](int one, int other) { return turn(m_order[one], m_order[other]); };
+    m_isSetOnTheWay = runs.size() > kMostRuns;
+    for (std::size_t i = 0; i < std::min(kMostRuns, runs.size()); ++i) {
+        const ShotPath other
+            = pathByOtherClock(runs[i], shots, m_evidence, m_reading.best.assumption,
+                               m_measure ? MeasureRotation(measure) : MeasureRotation());
+        if (other.shots != shots) {
+            rival(other.shots, std::max(0.0, other.cost));
+            m_isSetOnTheWay = m_isSetOnTheWay || other.cost <= 0.0;
         }
     }
-    std::vector<int> strangers; // the same
-    for (int k = 1; k < static_cast<int>(shots.size()); ++k) {
-        if (shots[k] < 0 && shots[k - 1] < 0) {
-            strangers.push_back(k);
-        }
-    }
-    if (!m_measure || missing.empty() || strangers.empty()) {
-        return false;
-    }
-    lookUpRotations();
-    const std::size_t asked = std::min(kMost, strangers.size());
-    int alike = 0;
-    int unlike = 0;
-    for (std::size_t i = 0; i < asked; ++i) {
-        const int k = strangers[i * strangers.size() / asked];
-        if (const auto &measured = turn(m_order[k - 1], m_order[k])) {
-            const std::vector<Eigen::Matrix3d> &rotations = m_evidence.rotations;
-            const bool isAlike = std::any_of(missing.begin(), missing.end(), [&](int shot) {
-                return turnCost(rotations[shot] * *measured, rotations[shot - 1]) < kClearly;
-            });
-            ++(isAlike ? alike : unlike);
-        }
-    }
-    return alike > 2 * unlike;
 }
 
 /** What the costs of a path do not know. */
 void Matcher::weighDoubts()
 {
-    m_isSetOnTheWay = strangersFitMissingShots();
+    weighOtherClocks();
     if (isComplete()) {
         constexpr double kUsual = 2.0; // most shoots are sound
         m_reading.margin += kUsual;

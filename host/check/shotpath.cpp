@@ -466,6 +466,12 @@ double turnCost(const Eigen::Matrix3d &turned, const Eigen::Matrix3d &rotation)
     return atMost(kMostRotationCost, (turned - rotation).squaredNorm() / 2.0 * kSquareDegrees);
 }
 
+double farStrangersCost(int photos, int overlaps, int shots)
+{
+    return kFarStrangerCost + kMoreFarStrangersCost * (photos - 1) + kStrangeOverlapCost * overlaps
+        + kSkipCost + kSkippedShotCost * shots;
+}
+
 bool Walk::hasRoomFor(const ShotPath &path) const
 {
     constexpr int kRoom = 3;

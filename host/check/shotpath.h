@@ -79,6 +79,10 @@ struct ShotAssumption {
  * the earlier one is \p rotation. */
 [[nodiscard]] double turnCost(const Eigen::Matrix3d &turned, const Eigen::Matrix3d &rotation);
 
+/** How unlikely it is that \p photos, of which \p overlaps overlap with the one before, were taken
+ * long before or after any shot, and that \p shots in a row have no photo. */
+[[nodiscard]] double farStrangersCost(int photos, int overlaps, int shots);
+
 /** One way to pair them: for each photo its shot; -1: it is of none. */
 struct ShotPath {
     std::vector<int> shots;
