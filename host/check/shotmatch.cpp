@@ -458,10 +458,13 @@ std::size_t Matcher::endOfWildTimes(std::size_t rank, double before) const
 bool Matcher::isEarly(std::size_t rank, double before) const
 {
     constexpr double kFewSeconds = 10.0;
-    const double early = before - secondsOf(m_names.counted[rank]);
-    return early > 0.0 && early <= kFewSeconds && m_names.other.empty()
-        && isCountedNext(m_photos.at(m_names.counted[rank - 1]).path,
-                         m_photos.at(m_names.counted[rank]).path, 1);
+    const std::vector<int> &counted = m_names.counted;
+    const double early = before - secondsOf(counted[rank]);
+    // Where names run against times on either side too, it is the names that are wrong.
+    const bool isRising = (rank < 2 || secondsOf(counted[rank - 2]) <= before)
+        && (rank + 1 >= counted.size() || secondsOf(counted[rank + 1]) > before);
+    return early > 0.0 && early <= kFewSeconds && isRising && m_names.other.empty()
+        && isCountedNext(m_photos.at(counted[rank - 1]).path, m_photos.at(counted[rank]).path, 1);
 }
 
 /** By time, and by name where the times are the same or missing. */
