@@ -91,13 +91,17 @@ void TestUIWPMerlinPreview::picturesComeWithEveryTenthPhoto()
     held.colour = kGreen;
     held.shotTime = 100;
     held.leave = &leave;
-    FakePhoto plain;
-    plain.colour = kRed;
-    QStringList photos = shoot.folder.addPhotos(10, plain);
+    FakePhoto first = held;
+    first.colour = kRed;
+    first.shotTime = 0;
+    QStringList photos = shoot.folder.addPhotos(10, first);
     photos.append(shoot.folder.addPhoto(QStringLiteral("Z1.jpg"), held));
     photos.append(shoot.folder.addPhoto(QStringLiteral("Z2.jpg"), held));
 
+    // Held until the choice itself has been shown, which draws the photos that it finds.
     shoot.driver.chooseFiles(kSelectPhotos, photos);
+    QVERIFY(shoot.driver.picture().isNull());
+    leave.open(10);
     // Ten are there, two are held back: their cells are outlines.
     QTRY_VERIFY(!shoot.driver.picture().isNull());
     const QImage ten = shoot.driver.picture();
