@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
+#include <QHash>
 #include <QProcess>
 #include <QStandardPaths>
 
@@ -37,6 +38,17 @@ protected:
 private:
     const pid_t m_parent = ::getpid();
 };
+
+/** What Debian calls it. */
+QString packagesOf(const QString &tool)
+{
+    static const QHash<QString, QString> own{
+        { QStringLiteral("enfuse"), QStringLiteral("enfuse") },
+        { QStringLiteral("vips"), QStringLiteral("libvips-tools") },
+        { QStringLiteral("vipsedit"), QStringLiteral("libvips-tools") },
+    };
+    return own.value(tool, QStringLiteral("hugin-tools enblend"));
+}
 
 /** The last line that says something, for an error message. */
 QString lastLine(const QString &output)
@@ -89,7 +101,7 @@ Result<QString> findTool(const QString &name)
     }
     return Failure{ ExitCode::ToolMissing, name,
                     QStringLiteral("this program is needed for stitching and was not found"),
-                    QStringLiteral("apt install hugin-tools enblend") };
+                    QStringLiteral("apt install %1").arg(packagesOf(name)) };
 }
 
 Result<ToolEnd> runToEnd(const QString &path, const QStringList &arguments, const QString &folder,
