@@ -673,6 +673,56 @@ Canvas PtoFile::canvas() const
     return canvas;
 }
 
+bool PtoFile::isEquirectangular() const
+{
+    return ptoInt(valueIn(m_panoramaLine, "f")).value_or(0) == 2;
+}
+
+std::optional<double> PtoFile::exposure() const
+{
+    return ptoDouble(valueIn(m_panoramaLine, "E"));
+}
+
+std::string_view PtoFile::ownValue(int image, std::string_view name) const
+{
+    std::string_view value = valueIn(m_imageLines[size_t(image)], name);
+    // A link leads to an image before the one that it is in: the way has an end.
+    for (int at = image; value.substr(0, 1) == "=";) {
+        const int target = ptoInt(value.substr(1)).value_or(-1);
+        if (target < 0 || target >= at) {
+            return "0";
+        }
+        at = target;
+        value = valueIn(m_imageLines[size_t(at)], name);
+    }
+    return value;
+}
+
+Vignetting PtoFile::vignettingOf(int image) const
+{
+    const auto number
+        = [&](std::string_view name) { return ptoDouble(ownValue(image, name)).value_or(0.0); };
+    return { number("Vb"), number("Vc"), number("Vd") };
+}
+
+QByteArray PtoFile::loneLine(int image, const QByteArray &name, double yawCentreDegrees) const
+{
+    const QByteArray &own = m_imageLines[size_t(image)];
+    QByteArray line = own;
+    std::string_view rest = viewOf(own).substr(1);
+    while (const auto variable = takeVariable(rest)) {
+        if (variable->value.substr(0, 1) == "=") {
+            const std::string_view value = ownValue(image, variable->name);
+            setVariable(line, variable->name, QByteArray(value.data(), int(value.size())));
+        }
+    }
+    const double yaw = m_images.at(image).angles.yaw - yawCentreDegrees;
+    setVariable(line, "y", ptoNumber(wrappedDegrees(yaw), 6));
+    setVariable(line, "j", "0");
+    setVariable(line, "n", '"' + name + '"');
+    return line.trimmed() + '\n';
+}
+
 void PtoFile::layOutCanvas()
 {
     QVector<Frame> frames;

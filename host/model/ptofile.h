@@ -13,6 +13,7 @@
 #include <QVector>
 
 #include <optional>
+#include <string_view>
 #include <vector>
 
 namespace PanoHost
@@ -110,6 +111,16 @@ public:
 
     /** The picture that the project asks for. */
     [[nodiscard]] Canvas canvas() const;
+    /** Whether that picture is equirectangular. */
+    [[nodiscard]] bool isEquirectangular() const;
+    /** How bright the panorama is: as a photo of this exposure value; nothing: not said. */
+    [[nodiscard]] std::optional<double> exposure() const;
+    /** How the light of \p image falls off towards its corners. */
+    [[nodiscard]] Vignetting vignettingOf(int image) const;
+    /** All that the project says of \p image with no other image beside it: links become values.
+     * The file's name is \p name, yaw is counted from \p yawCentreDegrees. */
+    [[nodiscard]] QByteArray loneLine(int image, const QByteArray &name,
+                                      double yawCentreDegrees) const;
 
     /** Gives \p image the angles, unless they are another one's, and the exposure, if there is one.
      */
@@ -145,6 +156,8 @@ private:
 
     PtoFile() = default;
     [[nodiscard]] double longestFocalPixels() const;
+    /** The value of a variable of \p image, or of the image that it links to; empty: none. */
+    [[nodiscard]] std::string_view ownValue(int image, std::string_view name) const;
     void writeYaw(int image);
     /** Before one image's exposure changes: the others keep theirs. */
     void unlinkExposures();

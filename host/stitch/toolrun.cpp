@@ -9,6 +9,7 @@
 #include <QProcess>
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <csignal>
 
 #include <sys/prctl.h>
@@ -115,6 +116,9 @@ Result<ToolEnd> runToEnd(const QString &path, const QStringList &arguments, cons
     // minutes.
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("OMP_WAIT_POLICY"), QStringLiteral("PASSIVE"));
+    if (name == QLatin1String("nona")) { // photos are warped side by side
+        environment.insert(QStringLiteral("OMP_NUM_THREADS"), QStringLiteral("1"));
+    }
     process.setProcessEnvironment(environment);
     process.start(path, arguments, QIODevice::ReadOnly);
     if (!process.waitForStarted()) {
@@ -168,6 +172,18 @@ Result<QString> runTool(const QString &path, const QStringList &arguments, const
                        line.isEmpty() ? QStringLiteral("it failed without a message")
                                       : QStringLiteral("it failed and said: %1").arg(line),
                        QStringLiteral("is there enough room in %1?").arg(QDir::tempPath()));
+}
+
+QString shellQuoted(const QString &word)
+{
+    const bool isPlain = !word.isEmpty()
+        && std::all_of(word.cbegin(), word.cend(), [](QChar c) {
+               return c.isLetterOrNumber() || QStringLiteral("/._-+=:,%@").contains(c);
+           });
+    QString quoted = word;
+    return isPlain ? word
+                   : QLatin1Char('\'')
+            + quoted.replace(QLatin1Char('\''), QStringLiteral("'\\''")) + QLatin1Char('\'');
 }
 
 } // namespace PanoHost

@@ -39,4 +39,7 @@ struct ToolEnd {
                                       const QString &folder, const JobWatch &watch,
                                       const std::function<void()> &tick = {});
 
+/** \p word as a shell reads it back. */
+[[nodiscard]] QString shellQuoted(const QString &word);
+
 } // namespace PanoHost

@@ -1,0 +1,447 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/stitch/panoramastitch.h"
+
+#include "host/model/commanderror.h"
+#include "host/model/displayname.h"
+#include "host/model/parallel.h"
+#include "host/model/safefile.h"
+#include "host/stitch/hdrmerge.h"
+#include "host/stitch/stitchneeds.h"
+#include "host/stitch/tiffplace.h"
+#include "host/stitch/toolrun.h"
+#include "host/stitch/vipsfile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QMap>
+#include <QStorageInfo>
+
+#include <atomic>
+
+namespace PanoHost
+{
+namespace
+{
+
+const QString kBlended = QStringLiteral("blended.tif");
+const QString kPanorama = QStringLiteral("panorama.v");
+
+/** The path without its ending. */
+QString stemOf(const QString &path)
+{
+    const int dot = path.lastIndexOf(QLatin1Char('.'));
+    return path.left(dot);
+}
+
+QString withoutFolder(const QString &work, const QString &path)
+{
+    return QDir(work).relativeFilePath(path);
+}
+
+/** One stitch, step by step; what fails is thrown. */
+class Run
+{
+public:
+    Run(StitchPlan plan, const WorkFolder &work, const JobWatch &watch)
+        : m_plan(std::move(plan))
+        , m_work(work)
+        , m_watch(watch)
+    {
+    }
+
+    StitchedPicture run();
+
+private:
+    struct Tool {
+        QString path;
+        QByteArray stamp; ///< another version makes another picture
+    };
+    void findTools();
+    void checkPhotos() const;
+    void linkPhotos();
+    void checkRoom() const;
+    void inParallel(int steps, const QString &text, const std::function<void(int)> &step);
+    void call(const Tool &tool, const QStringList &arguments) const;
+    void makeLight(int bracket);
+    void warp(int index);
+    void fuse(int index);
+    void blend();
+    void finish();
+    QString make(const QString &name, const QByteArray &source,
+                 const std::function<void(const QString &part)> &maker) const;
+    [[nodiscard]] QByteArray photoKey(int image) const;
+    [[nodiscard]] QByteArray lightKey(const StitchBracket &bracket) const;
+    [[nodiscard]] QByteArray warpKey(int index) const;
+    [[nodiscard]] QByteArray fusionKey(int index) const;
+    [[nodiscard]] QByteArray blendKey() const;
+    [[nodiscard]] QByteArray pictureKey() const;
+    [[nodiscard]] qint64 doneBytes() const;
+
+    const StitchPlan m_plan;
+    const WorkFolder &m_work;
+    const JobWatch &m_watch;
+    QMap<QString, Tool> m_tools;
+    std::atomic<bool> m_stops = false;
+};
+
+void Run::findTools()
+{
+    QStringList names{ QStringLiteral("nona"), QStringLiteral("vips"),
+                       m_plan.options.blender == Blender::Internal ? QStringLiteral("verdandi")
+                                                                   : QStringLiteral("enblend") };
+    if (!m_plan.fusions.isEmpty()) {
+        names += QStringLiteral("enfuse");
+    }
+    for (const QString &name : qAsConst(names)) {
+        const QString path = valueOrThrow(findTool(name));
+        m_tools.insert(name, { path, name.toLatin1() + ' ' + stampOf(path) + '\n' });
+    }
+}
+
+void Run::checkPhotos() const
+{
+    QStringList gone;
+    for (int image = 0; image < m_plan.photos.size(); ++image) {
+        const QString &path = m_plan.layout.project.images()[image].path;
+        if (!m_plan.photos.at(image).isEmpty() && !QFileInfo(path).isFile()) {
+            gone += displayName(path);
+        }
+    }
+    if (!gone.isEmpty()) {
+        constexpr int kNamed = 3;
+        throw inputRefused(
+            QStringList(gone.mid(0, kNamed)).join(QStringLiteral(", ")),
+            gone.size() > kNamed
+                ? QStringLiteral("these photos of the project, and %1 more, are not there any more")
+                      .arg(gone.size() - kNamed)
+                : QStringLiteral("not there any more"),
+            QStringLiteral("put the photos back where they were, or import them again"));
+    }
+}
+
+/** Programs read photos by plain names, whatever they are called. */
+void Run::linkPhotos()
+{
+    QDir().mkpath(m_work.path(QStringLiteral("photos")));
+    for (int image = 0; image < m_plan.photos.size(); ++image) {
+        const QString &name = m_plan.photos.at(image);
+        const QString &photo = m_plan.layout.project.images()[image].path;
+        if (name.isEmpty() || QFileInfo(m_work.path(name)).symLinkTarget() == photo) {
+            continue;
+        }
+        QFile::remove(m_work.path(name));
+        // Memory cards know no links.
+        if (!QFile::link(photo, m_work.path(name)) && !QFile::copy(photo, m_work.path(name))) {
+            throw CommandError({ ExitCode::ToolFailed, m_work.path(name),
+                                 QStringLiteral("cannot be written"),
+                                 QStringLiteral("is the disk full?") });
+        }
+    }
+}
+
+qint64 Run::doneBytes() const
+{
+    qint64 bytes = 0;
+    const auto add = [&](const QString &name) { bytes += QFileInfo(m_work.path(name)).size(); };
+    for (const StitchBracket &light : m_plan.lights) {
+        add(light.joined);
+    }
+    for (const StitchWarp &warp : m_plan.warps) {
+        add(warp.warped);
+    }
+    for (const StitchBracket &fusion : m_plan.fusions) {
+        add(fusion.joined);
+    }
+    add(kBlended);
+    add(kPanorama);
+    return bytes;
+}
+
+void Run::checkRoom() const
+{
+    const QStorageInfo disk(m_work.path());
+    if (const auto lack = lackOfRoom(needsOf(m_plan), m_work.path(), doneBytes(),
+                                     disk.bytesAvailable(), availableMemory())) {
+        throw CommandError(*lack);
+    }
+}
+
+void Run::inParallel(int steps, const QString &text, const std::function<void(int)> &step)
+{
+    const auto follow = [&](int done) {
+        m_stops = m_watch.stopWanted();
+        m_watch.report(done, steps, text);
+    };
+    if (steps > 0) {
+        forEachRow(steps, step, m_plan.options.jobs, follow);
+        m_watch.report(steps, steps, text);
+    }
+}
+
+void Run::call(const Tool &tool, const QStringList &arguments) const
+{
+    JobWatch watch;
+    watch.interrupted = [this] { return m_stops.load(); };
+    watch.patience = m_watch.patience;
+    (void)valueOrThrow(runTool(tool.path, arguments, m_work.path(), watch));
+}
+
+QString Run::make(const QString &name, const QByteArray &source,
+                  const std::function<void(const QString &part)> &maker) const
+{
+    if (m_stops) {
+        throw CommandError(interruption());
+    }
+    return valueOrThrow(m_work.make(name, source, [&](const QString &part) -> Result<QString> {
+        try {
+            maker(withoutFolder(m_work.path(), part));
+        } catch (const CommandError &error) {
+            return error.failure();
+        }
+        const bool isWhole = name.endsWith(QLatin1String(".v")) ? VipsFile::open(part).ok()
+                                                                 : tiffPlace(part).has_value();
+        if (!isWhole) {
+            return Failure{ ExitCode::ToolFailed, name,
+                            QStringLiteral("was not written to its end"),
+                            QStringLiteral("is there enough room in %1?").arg(m_work.path()) };
+        }
+        return part;
+    }));
+}
+
+QByteArray Run::photoKey(int image) const
+{
+    const QString &path = m_plan.layout.project.images()[image].path;
+    return path.toUtf8() + '\n' + stampOf(path) + '\n';
+}
+
+QByteArray Run::lightKey(const StitchBracket &bracket) const
+{
+    QByteArray key = m_plan.options.isLinear ? "linear\n" : "sRGB\n";
+    key += QByteArray::number(m_plan.lightScale) + '\n';
+    for (const int image : bracket.levels) {
+        const Vignetting v = m_plan.layout.project.vignettingOf(image);
+        key += photoKey(image);
+        for (const double number : { m_plan.gainOf(image), v.b, v.c, v.d }) {
+            key += QByteArray::number(number, 'g', 17) + '\n';
+        }
+    }
+    return key;
+}
+
+QByteArray Run::warpKey(int index) const
+{
+    const StitchWarp &warp = m_plan.warps.at(index);
+    const QByteArray source
+        = m_plan.lights.isEmpty() ? photoKey(warp.image) : lightKey(m_plan.lights.at(index));
+    return m_tools[QStringLiteral("nona")].stamp + warp.projectText + source;
+}
+
+QByteArray Run::fusionKey(int index) const
+{
+    QByteArray key = m_tools[QStringLiteral("enfuse")].stamp;
+    for (const int warp : m_plan.fusions.at(index).levels) {
+        key += warpKey(warp);
+    }
+    return key;
+}
+
+QByteArray Run::blendKey() const
+{
+    QByteArray key;
+    for (const Tool &tool : m_tools) {
+        key += tool.stamp;
+    }
+    key += blendArguments(m_plan, QString()).join(QLatin1Char('\n')).toUtf8();
+    for (int index = 0; index < m_plan.warps.size(); ++index) {
+        key += warpKey(index);
+    }
+    return key;
+}
+
+QByteArray Run::pictureKey() const
+{
+    const QRect &area = m_plan.layout.area;
+    QByteArray key = blendKey();
+    for (const int number : { area.x(), area.y(), area.width(), area.height() }) {
+        key += QByteArray::number(number) + ' ';
+    }
+    return key;
+}
+
+void Run::makeLight(int bracket)
+{
+    const StitchBracket &light = m_plan.lights.at(bracket);
+    make(light.joined, lightKey(light), [&](const QString &part) {
+        QVector<HdrLevel> levels;
+        for (const int image : light.levels) {
+            const QString pixels = stemOf(part) + QStringLiteral("-%1.v").arg(image);
+            call(m_tools[QStringLiteral("vips")],
+                 { QStringLiteral("copy"), m_plan.photos.at(image), pixels });
+            levels += { m_work.path(pixels), m_plan.gainOf(image) / m_plan.lightScale };
+        }
+        const HdrCurve curve{ m_plan.options.isLinear,
+                              m_plan.layout.project.vignettingOf(light.levels.first()) };
+        const Result<QString> merged = mergeLevels(levels, curve, m_work.path(part));
+        for (const HdrLevel &level : qAsConst(levels)) {
+            QFile::remove(level.path);
+        }
+        (void)valueOrThrow(merged);
+    });
+}
+
+void Run::warp(int index)
+{
+    const StitchWarp &warp = m_plan.warps.at(index);
+    make(warp.warped, warpKey(index), [&](const QString &part) {
+        (void)valueOrThrow(writeFileAtomically(m_work.path(warp.project), warp.projectText));
+        call(m_tools[QStringLiteral("nona")], warpArguments(warp, stemOf(part)));
+        // nona numbers what it makes.
+        const QString made = m_work.path(stemOf(part) + QStringLiteral("0000.tif"));
+        if (!QFile::rename(made, m_work.path(part))) {
+            throw CommandError(
+                { ExitCode::ToolFailed, QStringLiteral("nona"),
+                  QStringLiteral("made no picture of %1")
+                      .arg(displayName(m_plan.layout.project.images()[warp.image].path)),
+                  QStringLiteral("is it a photo that other programs open?") });
+        }
+    });
+}
+
+void Run::fuse(int index)
+{
+    const StitchBracket &fusion = m_plan.fusions.at(index);
+    make(fusion.joined, fusionKey(index), [&](const QString &part) {
+        call(m_tools[QStringLiteral("enfuse")], fuseArguments(m_plan, fusion, part));
+    });
+}
+
+void Run::blend()
+{
+    make(kBlended, blendKey(), [&](const QString &part) {
+        const bool isInternal = m_plan.options.blender == Blender::Internal;
+        const QString name = isInternal ? QStringLiteral("verdandi") : QStringLiteral("enblend");
+        (void)valueOrThrow(
+            runTool(m_tools[name].path, blendArguments(m_plan, part), m_work.path(), m_watch));
+    });
+}
+
+/** Crops and pads what the blender left to the wished area. */
+void Run::finish()
+{
+    make(kPanorama, pictureKey(), [&](const QString &part) {
+        const QRect area = m_plan.layout.area;
+        const QRect place = tiffPlace(m_work.path(kBlended)).value_or(area);
+        const bool isLight = m_plan.depth == StitchedPicture::Depth::Radiance;
+        const QString placed = isLight ? stemOf(part) + QStringLiteral("-scaled.v") : part;
+        const Tool &vips = m_tools[QStringLiteral("vips")];
+        call(vips,
+             { QStringLiteral("embed"), kBlended, placed, QString::number(place.x() - area.x()),
+               QString::number(place.y() - area.y()), QString::number(area.width()),
+               QString::number(area.height()) });
+        if (isLight) {
+            const QString factor = QString::number(m_plan.lightScale, 'g', 17);
+            call(vips,
+                 { QStringLiteral("linear"), placed, part,
+                   QStringLiteral("%1 %1 %1 1").arg(factor), QStringLiteral("0 0 0 0") });
+            QFile::remove(m_work.path(placed));
+        }
+    });
+}
+
+StitchedPicture Run::run()
+{
+    findTools();
+    checkPhotos();
+    checkRoom();
+    linkPhotos();
+    inParallel(m_plan.lights.size(), QStringLiteral("joining brackets to light"),
+               [this](int bracket) { makeLight(bracket); });
+    inParallel(m_plan.warps.size(), QStringLiteral("warping photos with nona"),
+               [this](int index) { warp(index); });
+    inParallel(m_plan.fusions.size(), QStringLiteral("fusing brackets with enfuse"),
+               [this](int index) { fuse(index); });
+    m_watch.report(0, 1, QStringLiteral("blending"));
+    blend();
+    finish();
+    m_watch.report(1, 1, QStringLiteral("blending"));
+    const StitchLayout &layout = m_plan.layout;
+    StitchedPicture picture;
+    picture.path = m_work.path(kPanorama);
+    picture.size = layout.area.size();
+    picture.depth = m_plan.depth;
+    picture.sphere = layout.sphere();
+    const int left = (picture.sphere.width() - layout.canvas.width()) / 2;
+    picture.onSphere = layout.area.topLeft() + QPoint(left, 0);
+    picture.centreYawDegrees = layout.yawCentreDegrees;
+    picture.exposureValue = layout.exposure;
+    return picture;
+}
+
+/** Why a tool failed where there is hardly any room left. */
+Failure orLackOfRoom(const Failure &failure, const QString &folder)
+{
+    constexpr qint64 kHardlyAny = 16LL << 20; // a warped photo may take as much
+    const qint64 free = QStorageInfo(folder).bytesAvailable();
+    if (failure.code != ExitCode::ToolFailed || free >= kHardlyAny) {
+        return failure;
+    }
+    return { failure.code, failure.what,
+             QStringLiteral("it failed, and there is hardly any room left in %1 (%2)")
+                 .arg(folder, bytesText(free)),
+             QStringLiteral("make room there and go on with the same command; nothing is lost") };
+}
+
+} // namespace
+
+Result<StitchNeeds> needsOf(const PtoFile &project, const StitchOptions &options)
+{
+    const Result<StitchPlan> plan = planStitch(project, options);
+    return plan ? Result<StitchNeeds>(needsOf(plan.value())) : plan.error();
+}
+
+Result<QStringList> stitchCommands(const PtoFile &project, const StitchOptions &options,
+                                   const QString &work)
+{
+    const Result<StitchPlan> planned = planStitch(project, options);
+    if (!planned) {
+        return planned.error();
+    }
+    const StitchPlan &plan = planned.value();
+    QStringList commands{ QStringLiteral("cd ") + shellQuoted(work) };
+    const auto add = [&](const QString &tool, const QStringList &arguments) {
+        QStringList words{ tool };
+        for (const QString &argument : arguments) {
+            words += shellQuoted(argument);
+        }
+        commands += words.join(QLatin1Char(' '));
+    };
+    for (const StitchWarp &warp : plan.warps) {
+        add(QStringLiteral("nona"), warpArguments(warp, stemOf(warp.warped)));
+    }
+    for (const StitchBracket &fusion : plan.fusions) {
+        add(QStringLiteral("enfuse"), fuseArguments(plan, fusion, fusion.joined));
+    }
+    add(options.blender == Blender::Internal ? QStringLiteral("verdandi")
+                                             : QStringLiteral("enblend"),
+        blendArguments(plan, kBlended));
+    return commands;
+}
+
+Result<StitchedPicture> stitchProject(const PtoFile &project, const StitchOptions &options,
+                                      const WorkFolder &work, const JobWatch &watch)
+{
+    Result<StitchPlan> plan = planStitch(project, options);
+    if (!plan) {
+        return plan.error();
+    }
+    try {
+        return Run(std::move(plan).value(), work, watch).run();
+    } catch (const CommandError &error) {
+        return orLackOfRoom(error.failure(), work.path());
+    }
+}
+
+} // namespace PanoHost

@@ -1,0 +1,201 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/stitch/stitchplan.h"
+
+#include "host/model/ptoline.h"
+#include "host/stitch/tiffplace.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace PanoHost
+{
+namespace
+{
+
+QString numbered(const char *folder, int number, const QString &suffix)
+{
+    return QStringLiteral("%1/%2.%3")
+        .arg(QLatin1String(folder))
+        .arg(number, 5, 10, QLatin1Char('0'))
+        .arg(suffix);
+}
+
+QString tiffOf(const char *folder, int number)
+{
+    return numbered(folder, number, QStringLiteral("tif"));
+}
+
+/** The ending of a photo's name where it says what the file is. */
+QString plainSuffix(const QString &path)
+{
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    const bool isPlain = !suffix.isEmpty()
+        && std::all_of(suffix.cbegin(), suffix.cend(), [](QChar c) {
+               return c.unicode() < 128 && c.isLetterOrNumber();
+           });
+    return isPlain ? suffix : QStringLiteral("photo");
+}
+
+/** A power of two that no light of the shoot is larger than. */
+double lightScaleOf(const StitchPlan &plan)
+{
+    constexpr double kDarkestCorner = 0.05;
+    double most = 1.0;
+    for (const StitchBracket &bracket : plan.lights) {
+        for (const int image : bracket.levels) {
+            const Vignetting v = plan.layout.project.vignettingOf(image);
+            const double corner = std::clamp(1.0 + v.b + v.c + v.d, kDarkestCorner, 1.0);
+            most = std::max(most, plan.gainOf(image) / corner);
+        }
+    }
+    return std::exp2(std::ceil(std::log2(most)));
+}
+
+/** Light is warped as it is: without a camera's curve, exposure and vignetting. */
+QByteArray lightLine(QByteArray line)
+{
+    constexpr std::array<const char *, 11> kCamera{ "Ra", "Rb", "Rc", "Rd", "Re", "Vb",
+                                                    "Vc", "Vd", "Vx", "Vy", "Eev" };
+    for (const char *const name : kCamera) {
+        setVariable(line, name, "0");
+    }
+    return line;
+}
+
+StitchWarp warpOf(const StitchPlan &plan, int image, int reference)
+{
+    const StitchLayout &layout = plan.layout;
+    const bool isLight = plan.options.output == StitchOutput::Hdr;
+    StitchWarp warp{ image, isLight ? tiffOf("light", image) : plan.photos.at(image),
+                     numbered("warped", image, QStringLiteral("pto")), {},
+                     tiffOf("warped", image) };
+    const QByteArray line = layout.project.loneLine(image, "../" + warp.source.toLatin1(),
+                                                    layout.yawCentreDegrees);
+    // A level stays as much brighter than its reference as it was taken.
+    const double exposure
+        = layout.exposure + layout.exposureOf(image) - layout.exposureOf(reference);
+    warp.projectText = layout.panoramaLine(isLight ? 0.0 : exposure) + "m i0\n"
+        + (isLight ? lightLine(line) : line);
+    return warp;
+}
+
+StitchedPicture::Depth depthOf(const PtoFile &project, const StitchOptions &options)
+{
+    constexpr int kDeep = 16;
+    if (options.output == StitchOutput::Hdr) {
+        return StitchedPicture::Depth::Radiance;
+    }
+    return tiffBits(project.images().first().path).value_or(0) >= kDeep
+        ? StitchedPicture::Depth::Bits16
+        : StitchedPicture::Depth::Bits8;
+}
+
+void addLight(StitchPlan &plan, const QVector<int> &stack)
+{
+    plan.lights += StitchBracket{ stack, tiffOf("light", stack.first()) };
+}
+
+void addWarps(StitchPlan &plan, const QVector<int> &stack)
+{
+    StitchBracket fusion;
+    for (const int image : stack) {
+        fusion.levels += plan.warps.size();
+        plan.warps += warpOf(plan, image, stack.first());
+    }
+    if (stack.size() == 1) {
+        plan.layers += plan.warps.constLast().warped;
+        return;
+    }
+    fusion.joined = tiffOf("fused", stack.first());
+    plan.layers += fusion.joined;
+    plan.fusions += fusion;
+}
+
+} // namespace
+
+int StitchPlan::bytesPerPixel() const
+{
+    constexpr int kBands = 4;
+    switch (depth) {
+    case StitchedPicture::Depth::Bits8:
+        return kBands;
+    case StitchedPicture::Depth::Bits16:
+        return kBands * 2;
+    case StitchedPicture::Depth::Radiance:
+        break;
+    }
+    return kBands * 4;
+}
+
+double StitchPlan::gainOf(int image) const
+{
+    return std::exp2(layout.exposureOf(image) - layout.exposure);
+}
+
+Result<StitchPlan> planStitch(const PtoFile &project, const StitchOptions &options)
+{
+    const Result<StitchLayout> layout = layOut(project, options);
+    if (!layout) {
+        return layout.error();
+    }
+    StitchPlan plan(layout.value(), options);
+    plan.depth = depthOf(project, options);
+    plan.photos.resize(project.images().size());
+    for (const QVector<int> &stack : layout.value().stacks) {
+        for (const int image : stack) {
+            plan.photos[image]
+                = numbered("photos", image, plainSuffix(project.images()[image].path));
+        }
+    }
+    for (const QVector<int> &stack : layout.value().stacks) {
+        if (options.output == StitchOutput::Hdr) {
+            addLight(plan, stack);
+            addWarps(plan, { stack.first() });
+        } else {
+            addWarps(plan, stack);
+        }
+    }
+    plan.lightScale = lightScaleOf(plan);
+    return plan;
+}
+
+QStringList warpArguments(const StitchWarp &warp, const QString &stem)
+{
+    return { QStringLiteral("-m"), QStringLiteral("TIFF_m"), QStringLiteral("-r"),
+             QStringLiteral("ldr"), QStringLiteral("-z"),     QStringLiteral("NONE"),
+             QStringLiteral("-o"), stem,                      warp.project };
+}
+
+QStringList fuseArguments(const StitchPlan &plan, const StitchBracket &bracket, const QString &out)
+{
+    QStringList arguments{ QStringLiteral("--compression=none"), QStringLiteral("-o"), out };
+    if (plan.layout.isFullTurn()) {
+        arguments += QStringLiteral("--wrap=horizontal");
+    }
+    for (const int warp : bracket.levels) {
+        arguments += plan.warps.at(warp).warped;
+    }
+    return arguments;
+}
+
+QStringList blendArguments(const StitchPlan &plan, const QString &out)
+{
+    constexpr qint64 kMostOfClassic = 4'000'000'000;
+    const qint64 bytes = static_cast<qint64>(plan.layout.canvas.width())
+        * plan.layout.canvas.height() * plan.bytesPerPixel();
+    const bool isInternal = plan.options.blender == Blender::Internal;
+    QStringList arguments{ QStringLiteral("--output=") + out };
+    if (plan.layout.isFullTurn()) {
+        arguments += isInternal ? QStringLiteral("--wrap") : QStringLiteral("--wrap=horizontal");
+    }
+    if (isInternal && bytes > kMostOfClassic) {
+        arguments += QStringLiteral("--bigtiff");
+    }
+    return arguments + plan.layers;
+}
+
+} // namespace PanoHost

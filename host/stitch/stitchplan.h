@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "host/stitch/stitchlayout.h"
+
+#include <QStringList>
+
+namespace PanoHost
+{
+
+/** A photo, or the light of a bracket, on its way onto the canvas. Names are of the work folder. */
+struct StitchWarp {
+    int image = 0; ///< whose place it takes
+    QString source; ///< what is warped
+    QString project; ///< of this one image, for nona
+    QByteArray projectText;
+    QString warped; ///< what comes out
+};
+
+/** A bracket that becomes one picture. */
+struct StitchBracket {
+    QVector<int> levels; ///< images or warps, the reference first
+    QString joined; ///< what comes out
+};
+
+/** Everything that is done, in order. */
+struct StitchPlan {
+    StitchPlan(StitchLayout laidOut, const StitchOptions &wishes)
+        : layout(std::move(laidOut))
+        , options(wishes)
+    {
+    }
+
+    StitchLayout layout;
+    StitchOptions options;
+    StitchedPicture::Depth depth = StitchedPicture::Depth::Bits8;
+    QVector<QString> photos; ///< a name for each image, whatever it is called; empty: not used
+    QVector<StitchBracket> lights; ///< of images: become light before they are warped
+    QVector<StitchWarp> warps;
+    QVector<StitchBracket> fusions; ///< of warps
+    QStringList layers; ///< what is blended
+    /** Light is warped in numbers from 0 to 1: this much smaller, a power of two. */
+    double lightScale = 1.0;
+
+    [[nodiscard]] int bytesPerPixel() const; ///< with alpha
+    /** The light that white means at \p image, 1 being white in the panorama. */
+    [[nodiscard]] double gainOf(int image) const;
+};
+
+/** Refuses what `layOut` refuses. Opens the first photo to see how deep its colours are. */
+[[nodiscard]] Result<StitchPlan> planStitch(const PtoFile &project, const StitchOptions &options);
+
+/** What the tools are told; names as they are, relative to the work folder. */
+[[nodiscard]] QStringList warpArguments(const StitchWarp &warp, const QString &stem);
+[[nodiscard]] QStringList fuseArguments(const StitchPlan &plan, const StitchBracket &bracket,
+                                        const QString &out);
+[[nodiscard]] QStringList blendArguments(const StitchPlan &plan, const QString &out);
+
+} // namespace PanoHost
