@@ -221,7 +221,8 @@ Result<QString> mergeLevels(const QVector<HdrLevel> &levels, const HdrCurve &cur
             return file.error();
         }
         if (!rows.empty() && file.value().size() != rows.front().file().size()) {
-            return Failure{ ExitCode::InputRefused, level.path,
+            return Failure{ ExitCode::InputRefused,
+                            level.path,
                             QStringLiteral("is of another size than the others of its bracket"),
                             {} };
         }

@@ -201,7 +201,7 @@ QString Run::make(const QString &name, const QByteArray &source,
             return error.failure();
         }
         const bool isWhole = name.endsWith(QLatin1String(".v")) ? VipsFile::open(part).ok()
-                                                                 : tiffPlace(part).has_value();
+                                                                : tiffPlace(part).has_value();
         if (!isWhole) {
             return Failure{ ExitCode::ToolFailed, name,
                             QStringLiteral("was not written to its end"),
@@ -344,8 +344,8 @@ void Run::finish()
         if (isLight) {
             const QString factor = QString::number(m_plan.lightScale, 'g', 17);
             call(vips,
-                 { QStringLiteral("linear"), placed, part,
-                   QStringLiteral("%1 %1 %1 1").arg(factor), QStringLiteral("0 0 0 0") });
+                 { QStringLiteral("linear"), placed, part, QStringLiteral("%1 %1 %1 1").arg(factor),
+                   QStringLiteral("0 0 0 0") });
             QFile::remove(m_work.path(placed));
         }
     });

@@ -94,30 +94,29 @@ QSize StitchLayout::sphere() const
 QByteArray StitchLayout::panoramaLine(double value) const
 {
     return "p f2 w" + QByteArray::number(canvas.width()) + " h"
-        + QByteArray::number(canvas.height()) + " v" + QByteArray::number(horizontalFovDegrees, 'g', 9)
-        + " k0 E" + ptoNumber(value, 6) + " R0 n\"TIFF_m c:NONE r:CROP\"\n";
+        + QByteArray::number(canvas.height()) + " v"
+        + QByteArray::number(horizontalFovDegrees, 'g', 9) + " k0 E" + ptoNumber(value, 6)
+        + " R0 n\"TIFF_m c:NONE r:CROP\"\n";
 }
 
 QRect StitchLayout::boundsOf(int image) const
 {
     const PtoImage &placed = project.images()[image];
-    const Coverage covered
-        = coverageOf({ { placed.size, placed.focalPixels(), placed.lens,
-                         placed.angles.yaw - yawCentreDegrees, placed.angles.pitch,
-                         placed.angles.roll } });
+    const Coverage covered = coverageOf(
+        { { placed.size, placed.focalPixels(), placed.lens, placed.angles.yaw - yawCentreDegrees,
+            placed.angles.pitch, placed.angles.roll } });
     const double perDegree = canvas.width() / horizontalFovDegrees;
-    const double left
-        = canvas.width() / 2.0 + (covered.yawCentreDegrees - covered.yawSpanDegrees / 2.0) * perDegree;
+    const double left = canvas.width() / 2.0
+        + (covered.yawCentreDegrees - covered.yawSpanDegrees / 2.0) * perDegree;
     const double right = left + covered.yawSpanDegrees * perDegree;
-    const QRect bounds(
-        QPoint(static_cast<int>(std::floor(left)) - 1,
-               static_cast<int>(
-                   std::floor(canvas.height() / 2.0 - covered.highestPitchDegrees * perDegree))
-                   - 1),
-        QPoint(static_cast<int>(std::ceil(right)) + 1,
-               static_cast<int>(
-                   std::ceil(canvas.height() / 2.0 - covered.lowestPitchDegrees * perDegree))
-                   + 1));
+    const QRect bounds(QPoint(static_cast<int>(std::floor(left)) - 1,
+                              static_cast<int>(std::floor(
+                                  canvas.height() / 2.0 - covered.highestPitchDegrees * perDegree))
+                                  - 1),
+                       QPoint(static_cast<int>(std::ceil(right)) + 1,
+                              static_cast<int>(std::ceil(canvas.height() / 2.0
+                                                         - covered.lowestPitchDegrees * perDegree))
+                                  + 1));
     const QRect all(QPoint(0, 0), canvas);
     // Across the join nona writes the whole width.
     const bool crosses = isFullTurn() && (bounds.left() < 0 || bounds.right() >= canvas.width());
@@ -150,14 +149,13 @@ Result<StitchLayout> layOut(const PtoFile &project, const StitchOptions &options
     }
     const int width = 2 * static_cast<int>(std::lround(wanted));
     layout.canvas = QSize(width, qRound(180.0 * width / layout.horizontalFovDegrees));
-    layout.yawCentreDegrees = layout.isFullTurn() ? options.centreYawDegrees.value_or(0.0)
-                                                  : full.yawCentreDegrees;
+    layout.yawCentreDegrees
+        = layout.isFullTurn() ? options.centreYawDegrees.value_or(0.0) : full.yawCentreDegrees;
     layout.area = QRect(QPoint(0, 0), layout.canvas);
     if (options.crops && !full.crop.isNull()) {
-        layout.area
-            = scaled(full.crop, static_cast<double>(width) / full.size.width(),
-                     static_cast<double>(layout.canvas.height()) / full.size.height())
-                  .intersected(layout.area);
+        layout.area = scaled(full.crop, static_cast<double>(width) / full.size.width(),
+                             static_cast<double>(layout.canvas.height()) / full.size.height())
+                          .intersected(layout.area);
     }
     layout.exposure = project.exposure().value_or(usualExposure(project));
     layout.stacks = stacksOf(layout.project, options.output);

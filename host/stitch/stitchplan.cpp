@@ -34,9 +34,8 @@ QString plainSuffix(const QString &path)
 {
     const QString suffix = QFileInfo(path).suffix().toLower();
     const bool isPlain = !suffix.isEmpty()
-        && std::all_of(suffix.cbegin(), suffix.cend(), [](QChar c) {
-               return c.unicode() < 128 && c.isLetterOrNumber();
-           });
+        && std::all_of(suffix.cbegin(), suffix.cend(),
+                       [](QChar c) { return c.unicode() < 128 && c.isLetterOrNumber(); });
     return isPlain ? suffix : QStringLiteral("photo");
 }
 
@@ -70,11 +69,13 @@ StitchWarp warpOf(const StitchPlan &plan, int image, int reference)
 {
     const StitchLayout &layout = plan.layout;
     const bool isLight = plan.options.output == StitchOutput::Hdr;
-    StitchWarp warp{ image, isLight ? tiffOf("light", image) : plan.photos.at(image),
-                     numbered("warped", image, QStringLiteral("pto")), {},
+    StitchWarp warp{ image,
+                     isLight ? tiffOf("light", image) : plan.photos.at(image),
+                     numbered("warped", image, QStringLiteral("pto")),
+                     {},
                      tiffOf("warped", image) };
-    const QByteArray line = layout.project.loneLine(image, "../" + warp.source.toLatin1(),
-                                                    layout.yawCentreDegrees);
+    const QByteArray line
+        = layout.project.loneLine(image, "../" + warp.source.toLatin1(), layout.yawCentreDegrees);
     // A level stays as much brighter than its reference as it was taken.
     const double exposure
         = layout.exposure + layout.exposureOf(image) - layout.exposureOf(reference);
@@ -165,9 +166,11 @@ Result<StitchPlan> planStitch(const PtoFile &project, const StitchOptions &optio
 
 QStringList warpArguments(const StitchWarp &warp, const QString &stem)
 {
-    return { QStringLiteral("-m"), QStringLiteral("TIFF_m"), QStringLiteral("-r"),
-             QStringLiteral("ldr"), QStringLiteral("-z"),     QStringLiteral("NONE"),
-             QStringLiteral("-o"), stem,                      warp.project };
+    return { QStringLiteral("-m"), QStringLiteral("TIFF_m"),
+             QStringLiteral("-r"), QStringLiteral("ldr"),
+             QStringLiteral("-z"), QStringLiteral("NONE"),
+             QStringLiteral("-o"), stem,
+             warp.project };
 }
 
 QStringList fuseArguments(const StitchPlan &plan, const StitchBracket &bracket, const QString &out)

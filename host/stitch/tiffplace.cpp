@@ -29,14 +29,14 @@ TiffFile opened(const QString &path)
     }();
     return TiffFile(isQuiet && QFileInfo(path).isFile()
                         ? TIFFOpen(QFile::encodeName(path).constData(), "r")
-                                             : nullptr);
+                        : nullptr);
 }
 
 /** Whether the file is long enough for all strips or tiles. */
 bool isComplete(TIFF *file, qint64 bytes)
 {
-    const uint32_t strips = TIFFIsTiled(file) != 0 ? TIFFNumberOfTiles(file)
-                                                   : TIFFNumberOfStrips(file);
+    const uint32_t strips
+        = TIFFIsTiled(file) != 0 ? TIFFNumberOfTiles(file) : TIFFNumberOfStrips(file);
     for (uint32_t strip = 0; strip < strips; ++strip) {
         const uint64_t length = TIFFGetStrileByteCount(file, strip);
         const uint64_t begin = TIFFGetStrileOffset(file, strip);

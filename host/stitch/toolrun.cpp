@@ -176,14 +176,13 @@ Result<QString> runTool(const QString &path, const QStringList &arguments, const
 
 QString shellQuoted(const QString &word)
 {
-    const bool isPlain = !word.isEmpty()
-        && std::all_of(word.cbegin(), word.cend(), [](QChar c) {
-               return c.isLetterOrNumber() || QStringLiteral("/._-+=:,%@").contains(c);
-           });
+    const bool isPlain = !word.isEmpty() && std::all_of(word.cbegin(), word.cend(), [](QChar c) {
+        return c.isLetterOrNumber() || QStringLiteral("/._-+=:,%@").contains(c);
+    });
     QString quoted = word;
     return isPlain ? word
-                   : QLatin1Char('\'')
-            + quoted.replace(QLatin1Char('\''), QStringLiteral("'\\''")) + QLatin1Char('\'');
+                   : QLatin1Char('\'') + quoted.replace(QLatin1Char('\''), QStringLiteral("'\\''"))
+            + QLatin1Char('\'');
 }
 
 } // namespace PanoHost
