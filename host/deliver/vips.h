@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "host/model/jobwatch.h"
+#include "host/model/result.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace PanoHost
+{
+
+/**
+ * Runs `vips` in \p folder: an operation of its own, files and options. It reads "NAME[OPTIONS]"
+ * where a file name is expected, so name files by `vipsName`. Answers the program's path.
+ */
+[[nodiscard]] Result<QString> runVips(const QStringList &arguments, const QString &folder,
+                                      const JobWatch &watch);
+
+/** \p path seen from \p folder: what both have in common, which users have named, is not in it. */
+[[nodiscard]] QString vipsName(const QString &path, const QString &folder);
+
+} // namespace PanoHost
