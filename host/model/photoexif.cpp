@@ -275,8 +275,10 @@ bool isRaw(const Exiv2::Image &image)
 bool isPanorama(const Exiv2::Image &image)
 {
     const Exiv2::XmpData &xmp = image.xmpData();
-    return std::any_of(xmp.begin(), xmp.end(),
-                       [](const Exiv2::Xmpdatum &entry) { return entry.groupName() == "GPano"; });
+    return std::any_of(xmp.begin(), xmp.end(), [](const Exiv2::Xmpdatum &entry) {
+        return entry.groupName() == "GPano"
+            || (entry.key() == "Xmp.xmp.CreatorTool" && entry.toString() == kOwnSoftware);
+    });
 }
 
 bool isPictureWithin(const Exiv2::Image &image, qint64 bytes)

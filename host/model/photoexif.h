@@ -46,7 +46,11 @@ struct PhotoInfo {
 /** Whether \p image is for RAW converters, of which decoders find a preview at best. */
 [[nodiscard]] bool isRaw(const Exiv2::Image &image);
 
-/** Whether \p image bears the data by which viewers know a panorama. */
+/** The name under which results say that this program made them. */
+constexpr const char *kOwnSoftware = "panohost";
+
+/** Whether \p image bears the data by which viewers know a panorama, or is one of this program's
+ * results. */
 [[nodiscard]] bool isPanorama(const Exiv2::Image &image);
 
 /** Whether the strips or tiles that \p image, a TIFF, names lie within the file's \p bytes. */

@@ -27,11 +27,6 @@ QString softwareKey()
     return QStringLiteral("Software");
 }
 
-QString ownSoftware()
-{
-    return QStringLiteral("panohost");
-}
-
 /** A photo that is open, its header read. */
 struct OpenPhoto {
     PhotoInfo info;
@@ -68,7 +63,7 @@ Result<OpenPhoto> openPhoto(const QString &path)
         QImageReader reader(&device, format);
         const QSize decoded = reader.size();
         photo.info.isPanorama
-            = photo.info.isPanorama || reader.text(softwareKey()) == ownSoftware();
+            = photo.info.isPanorama || reader.text(softwareKey()) == QLatin1String(kOwnSoftware);
         photo.pictureIsPhoto = !decoded.isEmpty();
         if (photo.pictureIsPhoto) {
             photo.info.storedSize = decoded;
@@ -94,7 +89,7 @@ bool isOfFullSize(const QImage &thumbnail, const PhotoInfo &info)
 
 void markAsOwn(QImage &picture)
 {
-    picture.setText(softwareKey(), ownSoftware());
+    picture.setText(softwareKey(), QLatin1String(kOwnSoftware));
 }
 
 void initializePhotoReading()
