@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QDateTime>
 #include <QString>
+#include <QVector>
 
 #include <optional>
 
@@ -21,7 +22,9 @@ struct Place {
 /** What a panorama carries on from its photos. */
 struct PictureOrigin {
     QByteArray iccProfile; ///< empty: the photos have none, or not the same
-    QDateTime taken; ///< of the first photo; not valid: not known
+    /** Of the first photo; UTC: by the camera's clock, its zone is not known; not valid: not known.
+     */
+    QDateTime taken;
     std::optional<Place> place;
     QString author;
     QString copyright;
@@ -30,5 +33,19 @@ struct PictureOrigin {
     /** The compass direction of the panorama's middle; nothing where no photo knows. */
     std::optional<double> headingDegrees;
 };
+
+/** A photo of a panorama, and where it looks in the head's frame. */
+struct PhotoView {
+    QString path;
+    double yawDegrees = 0.0;
+    double pitchDegrees = 0.0;
+};
+
+/**
+ * What the panorama of \p photos, in shooting order, carries on from them, \p centreYawDegrees of
+ * the head in its middle. Reads the headers of a handful, spread over the shoot: all come from one
+ * camera. The time is the first photo's, all else the first's that knows. Thread-safe.
+ */
+[[nodiscard]] PictureOrigin originOf(const QVector<PhotoView> &photos, double centreYawDegrees);
 
 } // namespace PanoHost

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/deliver/finalplace.h"
 #include "host/model/safefile.h"
+#include "tests/host/deliver/deliverbench.h"
 #include "tests/support/testprogram.h"
 
 #include <QDir>
@@ -9,10 +10,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include <csignal>
 #include <memory>
 
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -49,30 +48,6 @@ dev_t deviceOf(const QString &path)
     struct stat status = {};
     return ::stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_dev : 0;
 }
-
-/** No file grows beyond some bytes while it lives, as on a disk that is full. */
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t bytes)
-        : m_handler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        ::getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{ bytes, m_before.rlim_max };
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit()
-    {
-        ::setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    FileSizeLimit(const FileSizeLimit &) = delete;
-    FileSizeLimit &operator=(const FileSizeLimit &) = delete;
-
-private:
-    rlimit m_before = {};
-    void (*m_handler)(int);
-};
 
 /** The finished thing is on another file system than its place, where there is one. */
 void eachFileSystem()
@@ -288,7 +263,7 @@ void TestFinalPlace::fullDiskLeavesEverythingAsItWas()
         write(QDir(wanted).filePath(folderMark()), "");
     }
     const Result<QString> moved = [&] {
-        const FileSizeLimit limit(4096);
+        const DeliverBench::FileSizeLimit limit(4096);
         return isFolder ? moveFolder(part, wanted) : moveFile(part, wanted);
     }();
     QVERIFY(!moved);
