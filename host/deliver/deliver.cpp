@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/deliver/deliver.h"
 
+#include "host/deliver/flatpicture.h"
+
 #include <array>
 
 namespace PanoHost
@@ -15,7 +17,9 @@ struct DeliveryRow {
 };
 
 /** One row per kind: the function that makes it. */
-constexpr std::array<DeliveryRow, 0> kRows{};
+constexpr std::array<DeliveryRow, 1> kRows{ {
+    { Delivery::Picture, deliverFlatPicture },
+} };
 
 } // namespace
 
