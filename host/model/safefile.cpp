@@ -34,20 +34,6 @@ Failure notWritten(const QString &path, const QString &why, const QString &tryTh
     return { ExitCode::ToolFailed, path, why, tryThis };
 }
 
-/** A disk that fills up takes a part first; only the next attempt says why it takes no more. */
-bool writeAll(QSaveFile &file, const QByteArray &content)
-{
-    int done = 0;
-    while (done < content.size()) {
-        const qint64 written = file.write(content.constData() + done, content.size() - done);
-        if (written <= 0) {
-            return false;
-        }
-        done += static_cast<int>(written);
-    }
-    return true;
-}
-
 } // namespace
 
 Result<std::unique_ptr<QFile>> openRegularFile(const QString &path)
@@ -93,6 +79,19 @@ Result<QByteArray> readRegularFile(const QString &path, qint64 maxBytes)
         return refused(path, QStringLiteral("larger than %1 bytes").arg(maxBytes));
     }
     return content;
+}
+
+bool writeAll(QFileDevice &file, const QByteArray &content)
+{
+    int done = 0;
+    while (done < content.size()) {
+        const qint64 written = file.write(content.constData() + done, content.size() - done);
+        if (written <= 0) {
+            return false;
+        }
+        done += static_cast<int>(written);
+    }
+    return true;
 }
 
 Result<QString> writeFileAtomically(const QString &path, const QByteArray &content)

@@ -23,6 +23,12 @@ namespace PanoHost
 [[nodiscard]] Result<QByteArray> readRegularFile(const QString &path, qint64 maxBytes);
 
 /**
+ * Writes all of \p content to an unbuffered \p file; when that fails the file knows why: a disk
+ * that fills up takes a part first, and only the next attempt says why it takes no more.
+ */
+[[nodiscard]] bool writeAll(QFileDevice &file, const QByteArray &content);
+
+/**
  * Writes \p content to \p path at once: afterwards the file is complete, or what was there before
  * is untouched. Answers the path written.
  */
