@@ -3,6 +3,7 @@
 #include "host/deliver/deliver.h"
 
 #include "host/deliver/flatpicture.h"
+#include "host/deliver/radiancepicture.h"
 
 #include <array>
 
@@ -17,8 +18,9 @@ struct DeliveryRow {
 };
 
 /** One row per kind: the function that makes it. */
-constexpr std::array<DeliveryRow, 1> kRows{ {
+constexpr std::array<DeliveryRow, 2> kRows{ {
     { Delivery::Picture, deliverFlatPicture },
+    { Delivery::Radiance, deliverRadiance },
 } };
 
 } // namespace

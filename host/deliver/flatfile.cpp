@@ -5,6 +5,7 @@
 #include "host/deliver/tiffcheck.h"
 #include "host/deliver/vips.h"
 #include "host/deliver/vipswriter.h"
+#include "host/model/safefile.h"
 
 #include <QDir>
 #include <QFile>
@@ -82,15 +83,15 @@ Result<QString> addSegments(const QString &plain, const QString &path, const QBy
     constexpr qint64 kStartBytes = 2; // the marker that every JPEG begins with
     QFile from(plain);
     QFile to(path);
-    bool isSound = from.open(QIODevice::ReadOnly) && to.open(QIODevice::WriteOnly);
-    const auto add
-        = [&](const QByteArray &bytes) { isSound = isSound && to.write(bytes) == bytes.size(); };
+    bool isSound
+        = from.open(QIODevice::ReadOnly) && to.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+    const auto add = [&](const QByteArray &bytes) { isSound = isSound && writeAll(to, bytes); };
     add(from.read(kStartBytes));
     add(segments);
     while (isSound && !from.atEnd()) {
         add(from.read(kChunk));
     }
-    if (isSound && to.flush() && from.error() == QFileDevice::NoError) {
+    if (isSound && from.error() == QFileDevice::NoError) {
         return path;
     }
     return Failure{ ExitCode::ToolFailed, path,

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/deliver/vipswriter.h"
 
+#include "host/model/safefile.h"
+
 #include <array>
 
 namespace PanoHost
@@ -48,13 +50,13 @@ VipsWriter::VipsWriter(const QString &path, const QSize &size, StitchedPicture::
     const std::array<qint32, 16> header{
         kMagic, size.width(), size.height(), kBands, 0, format.sample, 0, format.meaning, kOne, kOne
     };
-    m_isSound = m_file.open(QIODevice::WriteOnly | QIODevice::Truncate);
+    m_isSound = m_file.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
     add(QByteArray(reinterpret_cast<const char *>(header.data()), sizeof header));
 }
 
 void VipsWriter::add(const QByteArray &rows)
 {
-    m_isSound = m_isSound && m_file.write(rows) == rows.size();
+    m_isSound = m_isSound && writeAll(m_file, rows);
 }
 
 Result<QString> VipsWriter::finish(const QByteArray &xmp, const QByteArray &iccProfile)
@@ -66,7 +68,7 @@ Result<QString> VipsWriter::finish(const QByteArray &xmp, const QByteArray &iccP
             "  <header>\n  </header>\n  <meta>\n"
             + fields + "  </meta>\n</root>\n");
     }
-    if (m_isSound && m_file.flush()) {
+    if (m_isSound) {
         m_file.close();
         return m_file.fileName();
     }

@@ -9,7 +9,13 @@
 #include <QtDebug>
 #include <QtEndian>
 
+#include <OpenEXR/ImfChannelList.h>
+#include <OpenEXR/ImfFrameBuffer.h>
+#include <OpenEXR/ImfHeader.h>
+#include <OpenEXR/ImfInputFile.h>
+
 #include <algorithm>
+#include <vector>
 
 namespace DeliverBench
 {
@@ -62,6 +68,41 @@ QString pixelOf(const QString &name, int x, int y, const QString &folder)
                 { QStringLiteral("getpoint"), name, QString::number(x), QString::number(y) },
                 folder)
         .simplified();
+}
+
+QVector<PanoHost::Pixel> readExr(const QString &path, QSize *size)
+{
+    try {
+        Imf::InputFile exr(QFile::encodeName(path).constData());
+        const Imath::Box2i window = exr.header().dataWindow();
+        const QSize pixels(window.max.x + 1, window.max.y + 1);
+        std::vector<float> values(static_cast<size_t>(pixels.width() * pixels.height()) * 4);
+        Imf::FrameBuffer buffer;
+        size_t channel = 0;
+        for (const char *const name : { "R", "G", "B", "A" }) {
+            const Imf::Channel *const stored = exr.header().channels().findChannel(name);
+            if (stored == nullptr || stored->type != Imf::FLOAT) {
+                return {};
+            }
+            buffer.insert(name,
+                          Imf::Slice(Imf::FLOAT, reinterpret_cast<char *>(&values[channel++]),
+                                     4 * sizeof(float),
+                                     4 * sizeof(float) * static_cast<size_t>(pixels.width())));
+        }
+        exr.setFrameBuffer(buffer);
+        exr.readPixels(0, window.max.y);
+        QVector<PanoHost::Pixel> read;
+        for (size_t i = 0; i < values.size(); i += 4) {
+            read.append({ values[i], values[i + 1], values[i + 2], values[i + 3] });
+        }
+        if (size != nullptr) {
+            *size = pixels;
+        }
+        return read;
+    } catch (const std::exception &problem) {
+        qWarning() << problem.what();
+        return {};
+    }
 }
 
 QStringList allIn(const QString &folder)

@@ -33,6 +33,9 @@ QString said(const QString &name, const QStringList &arguments, const QString &f
 /** As vips reads pixel (\p x, \p y) of the file \p name in \p folder: "255 0 0 255". */
 QString pixelOf(const QString &name, int x, int y, const QString &folder);
 
+/** Red, green, blue and alpha of the OpenEXR file \p path, row by row; empty: it is none. */
+QVector<PanoHost::Pixel> readExr(const QString &path, QSize *size = nullptr);
+
 /** Everything that lies in \p folder and below. */
 QStringList allIn(const QString &folder);
 
