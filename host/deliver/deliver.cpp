@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/deliver/deliver.h"
 
+#include "host/deliver/cube.h"
 #include "host/deliver/flatpicture.h"
 #include "host/deliver/radiancepicture.h"
 
@@ -18,9 +19,10 @@ struct DeliveryRow {
 };
 
 /** One row per kind: the function that makes it. */
-constexpr std::array<DeliveryRow, 2> kRows{ {
+constexpr std::array<DeliveryRow, 3> kRows{ {
     { Delivery::Picture, deliverFlatPicture },
     { Delivery::Radiance, deliverRadiance },
+    { Delivery::Cube, deliverCube },
 } };
 
 } // namespace

@@ -5,7 +5,7 @@
 #include "host/deliver/finalplace.h"
 #include "host/deliver/partfolder.h"
 #include "host/deliver/radiancefile.h"
-#include "host/stitch/vipsfile.h"
+#include "host/deliver/stitchedfile.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -25,7 +25,7 @@ Result<QString> deliverRadiance(const DeliverJob &job, const JobWatch &watch)
                         QStringLiteral("this panorama's values are not light"),
                         QStringLiteral("needs --output hdr") };
     }
-    const Result<VipsFile> opened = VipsFile::open(job.picture.path);
+    const Result<VipsFile> opened = openStitched(job.picture);
     if (!opened) {
         return opened.error();
     }
