@@ -67,8 +67,8 @@ Result<QString> makeFlatFace(const CubeJob &cube, const CubeFace &face, const QS
 {
     const QString path = QDir(cube.folder).filePath(QStringLiteral("face.v"));
     const bool isDeep = cube.job.picture.depth == StitchedPicture::Depth::Bits16;
-    const Result<QString> written = isDeep ? writeFlat<quint16>(cube, face, path, reached)
-                                           : writeFlat<quint8>(cube, face, path, reached);
+    Result<QString> written = isDeep ? writeFlat<quint16>(cube, face, path, reached)
+                                     : writeFlat<quint8>(cube, face, path, reached);
     if (!written || !reached) {
         QFile::remove(path);
         return written;
@@ -76,8 +76,7 @@ Result<QString> makeFlatFace(const CubeJob &cube, const CubeFace &face, const QS
     const QSize size(cube.side, cube.side);
     const FlatPicture picture{ path, size, cube.job.picture.depth,
                                factsOf(cube.job.origin, size, nullptr) };
-    const Result<QString> saved
-        = saveFlat(picture, cube.folder, name, cube.job.jpegQuality, cube.watch);
+    Result<QString> saved = saveFlat(picture, cube.folder, name, cube.job.jpegQuality, cube.watch);
     QFile::remove(path);
     return saved;
 }
@@ -93,7 +92,7 @@ Result<QString> makeExrFace(const CubeJob &cube, const CubeFace &face, const QSt
         }
     };
     const QString path = QDir(cube.folder).filePath(name);
-    const Result<QString> saved = saveExr(picture, cube.job.origin, path, cube.watch);
+    Result<QString> saved = saveExr(picture, cube.job.origin, path, cube.watch);
     if (!reached) {
         QFile::remove(path);
     }
@@ -110,7 +109,7 @@ Result<QString> deliverCube(const DeliverJob &job, const JobWatch &watch)
     const bool isRadiance = job.picture.depth == StitchedPicture::Depth::Radiance;
     const QString suffix = isRadiance ? QStringLiteral("exr") : output.suffix().toLower();
     const int side = cubeFaceSide(job.picture.sphere.width());
-    if (const Result<QString> place = checkFolderPlace(wanted); !place) {
+    if (Result<QString> place = checkFolderPlace(wanted); !place) {
         return place;
     }
     const Result<VipsFile> file = openStitched(job.picture);
@@ -134,8 +133,8 @@ Result<QString> deliverCube(const DeliverJob &job, const JobWatch &watch)
         const QString name = QLatin1String(face.name);
         Reached reached(false);
         const QString fileName = name + QLatin1Char('.') + suffix;
-        const Result<QString> made = isRadiance ? makeExrFace(cube, face, fileName, reached)
-                                                : makeFlatFace(cube, face, fileName, reached);
+        Result<QString> made = isRadiance ? makeExrFace(cube, face, fileName, reached)
+                                          : makeFlatFace(cube, face, fileName, reached);
         if (!made) {
             return made;
         }

@@ -110,11 +110,11 @@ Result<QString> convert(const FlatPicture &picture, const PictureFacts &facts,
     // One pixel below the picture: what is made of two pictures says what the first one says.
     VipsWriter below(QDir(folder).filePath(QStringLiteral("facts.v")), QSize(1, 1), picture.depth);
     below.add(QByteArray(picture.depth == StitchedPicture::Depth::Bits16 ? 8 : 4, '\0'));
-    const Result<QString> written = below.finish(facts.xmp, facts.iccProfile);
+    Result<QString> written = below.finish(facts.xmp, facts.iccProfile);
     if (!written) {
         return written;
     }
-    const Result<QString> ran
+    Result<QString> ran
         = runVips({ QStringLiteral("insert"), vipsName(written.value(), folder),
                     vipsName(picture.path, folder), QStringLiteral("%1[%2]").arg(name, options),
                     QStringLiteral("0"), QStringLiteral("0"), QStringLiteral("--expand") },
@@ -128,7 +128,7 @@ Result<QString> saveJpeg(const FlatPicture &picture, const QString &folder, cons
 {
     const QString plain = QStringLiteral("plain.jpg");
     // From quality 90 on vips keeps colours as fine as brightness.
-    if (const Result<QString> made
+    if (Result<QString> made
         = convert(picture, {}, folder, plain, QStringLiteral("Q=%1,strip").arg(quality), watch);
         !made) {
         return made;
@@ -137,7 +137,7 @@ Result<QString> saveJpeg(const FlatPicture &picture, const QString &folder, cons
     if (!isCompleteJpeg(plainPath, picture.size)) {
         return cutOff();
     }
-    const Result<QString> saved
+    Result<QString> saved
         = addSegments(plainPath, QDir(folder).filePath(name), segmentsOf(picture.facts));
     QFile::remove(plainPath);
     return saved;
@@ -155,7 +155,7 @@ Result<QString> saveTiff(const FlatPicture &picture, const QString &folder, cons
     if (bytes > kLargest) {
         options += QStringLiteral(",bigtiff");
     }
-    if (const Result<QString> made = convert(picture, picture.facts, folder, name, options, watch);
+    if (Result<QString> made = convert(picture, picture.facts, folder, name, options, watch);
         !made) {
         return made;
     }
@@ -185,7 +185,7 @@ Result<QString> checkFlatSize(const QString &name, const QSize &size)
 Result<QString> saveFlat(const FlatPicture &picture, const QString &folder, const QString &name,
                          int quality, const JobWatch &watch)
 {
-    if (const Result<QString> size = checkFlatSize(name, picture.size); !size) {
+    if (Result<QString> size = checkFlatSize(name, picture.size); !size) {
         return size;
     }
     return isJpeg(name) ? saveJpeg(picture, folder, name, quality, watch)

@@ -27,7 +27,7 @@ Result<QString> deliverFlatPicture(const DeliverJob &job, const JobWatch &watch)
     FlatPicture picture{ job.picture.path, job.picture.size, job.picture.depth, {} };
     PictureOrigin origin = job.origin;
     if (job.picture.depth == StitchedPicture::Depth::Radiance) {
-        const Result<QString> screen = screenPicture(job.picture, {}, folder, watch);
+        Result<QString> screen = screenPicture(job.picture, {}, folder, watch);
         if (!screen) {
             return screen;
         }
