@@ -27,8 +27,14 @@ function(panohead_write_notices table folder result)
       message(FATAL_ERROR "${table}: this line has ${count} fields instead of 8:\n${line}")
     endif()
     list(POP_FRONT fields file component holders licence use evidence package home)
-    execute_process(COMMAND dpkg-query -W -f "\${Version}" ${package}
-                    OUTPUT_VARIABLE installed ERROR_QUIET)
+    if(evidence MATCHES "^npm ")
+      get_property(installed GLOBAL PROPERTY PANOHEAD_NPM_${package})
+      set(text "${package}-license.txt beside this file")
+    else()
+      execute_process(COMMAND dpkg-query -W -f "\${Version}" ${package}
+                      OUTPUT_VARIABLE installed ERROR_QUIET)
+      set(text "/usr/share/doc/${package}/copyright on Debian")
+    endif()
     # Without the epoch and what Debian adds.
     if(installed MATCHES "^([0-9]+:)?([0-9]+(\\.[0-9]+)*)")
       string(APPEND component " ${CMAKE_MATCH_2}")

@@ -5,6 +5,7 @@
 #include "host/deliver/cube.h"
 #include "host/deliver/flatpicture.h"
 #include "host/deliver/radiancepicture.h"
+#include "host/deliver/spherepage.h"
 
 #include <array>
 
@@ -19,8 +20,9 @@ struct DeliveryRow {
 };
 
 /** One row per kind: the function that makes it. */
-constexpr std::array<DeliveryRow, 3> kRows{ {
+constexpr std::array<DeliveryRow, 4> kRows{ {
     { Delivery::Picture, deliverFlatPicture },
+    { Delivery::Page, makeSpherePage },
     { Delivery::Radiance, deliverRadiance },
     { Delivery::Cube, deliverCube },
 } };

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/deliver/vips.h"
 
+#include "host/deliver/viewerpage.h"
+#include "host/model/safefile.h"
 #include "host/stitch/toolrun.h"
 
 #include <QDir>
@@ -18,6 +20,32 @@ Result<QString> runVips(const QStringList &arguments, const QString &folder, con
 QString vipsName(const QString &path, const QString &folder)
 {
     return QDir(folder).relativeFilePath(path);
+}
+
+QString jpegOptions(int quality)
+{
+    return QStringLiteral("[Q=%1,strip,background=%2 %2 %2]")
+        .arg(QString::number(quality), QString::number(kBackgroundGrey));
+}
+
+Failure notWhole(const QString &path)
+{
+    return { ExitCode::ToolFailed, QStringLiteral("vips"),
+             QStringLiteral("it left %1 incomplete").arg(path),
+             QStringLiteral("is the disk full?") };
+}
+
+Result<QString> wholeJpeg(const QString &path)
+{
+    const auto file = openRegularFile(path);
+    constexpr qint64 kMarkBytes = 2;
+    if (file && file.value()->size() > 2 * kMarkBytes
+        && file.value()->read(kMarkBytes) == "\xff\xd8"
+        && file.value()->seek(file.value()->size() - kMarkBytes)
+        && file.value()->read(kMarkBytes) == "\xff\xd9") {
+        return path;
+    }
+    return notWhole(path);
 }
 
 } // namespace PanoHost

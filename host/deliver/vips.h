@@ -21,4 +21,13 @@ namespace PanoHost
 /** \p path seen from \p folder: what both have in common, which users have named, is not in it. */
 [[nodiscard]] QString vipsName(const QString &path, const QString &folder);
 
+/** What `vips` reads after the name of a JPEG; the background shows where no photo reaches. */
+[[nodiscard]] QString jpegOptions(int quality);
+
+/** That `vips` ended well and left only part of \p path. */
+[[nodiscard]] Failure notWhole(const QString &path);
+
+/** Whether \p path is a JPEG that has its end; answers the path. */
+[[nodiscard]] Result<QString> wholeJpeg(const QString &path);
+
 } // namespace PanoHost
