@@ -6,6 +6,7 @@
 #include "host/deliver/flatpicture.h"
 #include "host/deliver/radiancepicture.h"
 #include "host/deliver/spherepage.h"
+#include "host/deliver/zoomtiles.h"
 
 #include <array>
 
@@ -20,11 +21,13 @@ struct DeliveryRow {
 };
 
 /** One row per kind: the function that makes it. */
-constexpr std::array<DeliveryRow, 4> kRows{ {
+constexpr std::array<DeliveryRow, 6> kRows{ {
     { Delivery::Picture, deliverFlatPicture },
     { Delivery::Page, makeSpherePage },
+    { Delivery::Zoom, makeZoomFolder },
     { Delivery::Radiance, deliverRadiance },
     { Delivery::Cube, deliverCube },
+    { Delivery::Iiif, makeIiifFolder },
 } };
 
 } // namespace
