@@ -69,6 +69,7 @@ TestSphere::TestSphere(QSize sphere, QRect part, StitchedPicture::Depth depth)
     job.picture.sphere = sphere;
     job.picture.onSphere = part.topLeft();
     QVector<Pixel> pixels;
+    pixels.reserve(part.width() * part.height());
     for (int y = part.top(); y <= part.bottom(); ++y) {
         for (int x = part.left(); x <= part.right(); ++x) {
             pixels += pixelOf(colourAt((x + 0.5) * 360 / sphere.width() - 180,

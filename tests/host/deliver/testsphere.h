@@ -27,7 +27,7 @@ constexpr QRgb kElsewhere = 0xff808080;
 /** A folder with a name that nobody expects, and a job that makes \p kind in it of the part \p part
  * of a drawn sphere of \p sphere pixels; null: of all of it. */
 struct TestSphere {
-    explicit TestSphere(QSize sphere = { 1024, 512 }, QRect part = {},
+    explicit TestSphere(QSize sphere = { 512, 256 }, QRect part = {},
                         StitchedPicture::Depth depth = StitchedPicture::Depth::Bits8);
 
     QTemporaryDir folder;

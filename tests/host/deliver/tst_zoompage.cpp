@@ -6,7 +6,7 @@
 #include "tests/support/testprogram.h"
 #include "testsphere.h"
 
-#include <QGuiApplication>
+#include <QCoreApplication>
 
 #include <memory>
 
@@ -54,7 +54,7 @@ void TestZoomPage::pageShowsAllAtFirst()
     QVERIFY(show(made.value()));
     const QImage picture = m_browser->picture();
     QCOMPARE(picture.size(), QSize(800, 450));
-    // 1024 x 512 become 800 x 400, from row 25 to 424.
+    // The picture becomes 800 x 400, from row 25 to 424.
     QVERIFY(isAlike(picture.pixel(400, 225), Marks::kFront));
     QVERIFY(isAlike(picture.pixel(600, 225), Marks::kRight));
     QVERIFY(isAlike(picture.pixel(200, 225), Marks::kLeft));
@@ -131,5 +131,5 @@ void TestZoomPage::titleIsOnlyText()
         sphere.job.title);
 }
 
-TEST_CLASS(TestZoomPage, QGuiApplication)
+TEST_CLASS(TestZoomPage, QCoreApplication)
 #include "tst_zoompage.moc"

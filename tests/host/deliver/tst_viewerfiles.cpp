@@ -1,13 +1,14 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/deliver/spherepage.h"
 #include "host/deliver/zoomtiles.h"
 #include "tests/support/testprogram.h"
 #include "testsphere.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
-#include <QGuiApplication>
 #include <QImageReader>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -50,7 +51,7 @@ QStringList filesIn(const QString &folder)
 
 } // namespace
 
-class TestZoomTiles : public QObject
+class TestViewerFiles : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
@@ -67,29 +68,42 @@ private Q_SLOTS:
     void folderOfOthersIsRefused();
     void olderFolderStaysWhenSomethingFails_data();
     void olderFolderStaysWhenSomethingFails();
+    void interruptionLeavesNothing_data() { eachKind(); }
+    void interruptionLeavesNothing();
+    void leftoversOfAKilledRunGo_data() { eachKind(); }
+    void leftoversOfAKilledRunGo();
+    void placeThatCannotBeWrittenIsNamed_data() { eachKind(); }
+    void placeThatCannotBeWrittenIsNamed();
     void startAndEndAreReported_data() { eachKind(); }
     void startAndEndAreReported();
 
 private:
+    static void eachFolder();
     static void eachKind();
 };
 
-void TestZoomTiles::eachKind()
+void TestViewerFiles::eachKind()
+{
+    eachFolder();
+    QTest::newRow("page") << Maker(&makeSpherePage) << QStringLiteral("my pano[x].html");
+}
+
+void TestViewerFiles::eachFolder()
 {
     QTest::addColumn<Maker>("make");
-    QTest::addColumn<QString>("folder");
+    QTest::addColumn<QString>("made");
     QTest::newRow("zoom") << &makeZoomFolder << QStringLiteral("my pano[x]_zoom");
     QTest::newRow("iiif") << &makeIiifFolder << QStringLiteral("my pano[x]_iiif");
 }
 
-void TestZoomTiles::everyDepthShowsTheSame_data()
+void TestViewerFiles::everyDepthShowsTheSame_data()
 {
     QTest::addColumn<Depth>("depth");
     QTest::newRow("16 bits") << Depth::Bits16;
     QTest::newRow("radiance") << Depth::Radiance;
 }
 
-void TestZoomTiles::everyDepthShowsTheSame()
+void TestViewerFiles::everyDepthShowsTheSame()
 {
     QFETCH(Depth, depth);
     const TestSphere sphere({ 512, 256 }, {}, depth);
@@ -100,7 +114,7 @@ void TestZoomTiles::everyDepthShowsTheSame()
     QVERIFY(isAlike(tile.pixel(320, 128), Marks::kElsewhere));
 }
 
-void TestZoomTiles::folderHoldsNothingElse()
+void TestViewerFiles::folderHoldsNothingElse()
 {
     const TestSphere sphere({ 1, 1 });
     const Result<QString> made = makeZoomFolder(sphere.job, {});
@@ -112,7 +126,7 @@ void TestZoomTiles::folderHoldsNothingElse()
     QCOMPARE(filesIn(sphere.job.workFolder), QStringList{ QStringLiteral("panorama.v") });
 }
 
-void TestZoomTiles::infoNamesEveryTile_data()
+void TestViewerFiles::infoNamesEveryTile_data()
 {
     QTest::addColumn<QSize>("size");
     QTest::addColumn<QString>("address");
@@ -123,7 +137,7 @@ void TestZoomTiles::infoNamesEveryTile_data()
     QTest::newRow("high") << QSize(20, 1100) << QStringLiteral("https://example.org/\u00fc?x");
 }
 
-void TestZoomTiles::infoNamesEveryTile()
+void TestViewerFiles::infoNamesEveryTile()
 {
     QFETCH(QSize, size);
     QFETCH(QString, address);
@@ -158,7 +172,7 @@ void TestZoomTiles::infoNamesEveryTile()
     const int side = tiles.value(QStringLiteral("width")).toInt();
     QCOMPARE(side, 512);
     int asked = 0;
-    for (const QJsonValue &factor : tiles.value(QStringLiteral("scaleFactors")).toArray()) {
+    for (const QJsonValue factor : tiles.value(QStringLiteral("scaleFactors")).toArray()) {
         const int step = side * factor.toInt();
         for (int y = 0; y < size.height(); y += step) {
             for (int x = 0; x < size.width(); x += step) {
@@ -188,14 +202,14 @@ void TestZoomTiles::infoNamesEveryTile()
              wholeSize);
 }
 
-void TestZoomTiles::addressIsNeeded_data()
+void TestViewerFiles::addressIsNeeded_data()
 {
     QTest::addColumn<QString>("address");
     QTest::newRow("none") << QString();
     QTest::newRow("nothing in it") << QStringLiteral("//");
 }
 
-void TestZoomTiles::addressIsNeeded()
+void TestViewerFiles::addressIsNeeded()
 {
     QFETCH(QString, address);
     TestSphere sphere({ 64, 32 });
@@ -207,24 +221,24 @@ void TestZoomTiles::addressIsNeeded()
     QVERIFY(!QFile::exists(sphere.path("my pano[x]_iiif")));
 }
 
-void TestZoomTiles::olderFolderIsReplaced_data()
+void TestViewerFiles::olderFolderIsReplaced_data()
 {
-    eachKind();
+    eachFolder();
 }
 
-void TestZoomTiles::olderFolderIsReplaced()
+void TestViewerFiles::olderFolderIsReplaced()
 {
     QFETCH(Maker, make);
-    QFETCH(QString, folder);
-    TestSphere sphere({ 2048, 1024 });
+    QFETCH(QString, made);
+    TestSphere sphere({ 2048, 1024 }, { 0, 0, 1300, 4 });
     sphere.job.iiifAddress = QStringLiteral("https://example.org");
     QVERIFY(make(sphere.job, {}));
-    const QStringList before = filesIn(sphere.folder.filePath(folder));
+    const QStringList before = filesIn(sphere.folder.filePath(made));
     TestSphere smaller({ 64, 32 });
     sphere.job.picture = smaller.job.picture;
     sphere.job.workFolder = smaller.job.workFolder;
     QVERIFY(make(sphere.job, {}));
-    const QStringList after = filesIn(sphere.folder.filePath(folder));
+    const QStringList after = filesIn(sphere.folder.filePath(made));
     QVERIFY(before.size() > 8);
     QVERIFY(after.size() < before.size());
     QCOMPARE(QDir(sphere.folder.path())
@@ -233,27 +247,27 @@ void TestZoomTiles::olderFolderIsReplaced()
              2); // it and the work folder
 }
 
-void TestZoomTiles::folderOfOthersIsRefused_data()
+void TestViewerFiles::folderOfOthersIsRefused_data()
 {
-    eachKind();
+    eachFolder();
 }
 
-void TestZoomTiles::folderOfOthersIsRefused()
+void TestViewerFiles::folderOfOthersIsRefused()
 {
     QFETCH(Maker, make);
-    QFETCH(QString, folder);
+    QFETCH(QString, made);
     TestSphere sphere({ 64, 32 });
     sphere.job.iiifAddress = QStringLiteral("https://example.org");
-    const QString diary = sphere.folder.filePath(folder + QStringLiteral("/diary.txt"));
+    const QString diary = sphere.folder.filePath(made + QStringLiteral("/diary.txt"));
     QVERIFY(write(diary, "mine"));
-    const Result<QString> made = make(sphere.job, {});
-    QVERIFY(!made);
-    QCOMPARE(made.error().what, sphere.folder.filePath(folder));
-    QCOMPARE(filesIn(sphere.folder.filePath(folder)), QStringList{ QStringLiteral("diary.txt") });
+    const Result<QString> result = make(sphere.job, {});
+    QVERIFY(!result);
+    QCOMPARE(result.error().what, sphere.folder.filePath(made));
+    QCOMPARE(filesIn(sphere.folder.filePath(made)), QStringList{ QStringLiteral("diary.txt") });
     QCOMPARE(contentOf(diary), QByteArray("mine"));
 }
 
-void TestZoomTiles::olderFolderStaysWhenSomethingFails_data()
+void TestViewerFiles::olderFolderStaysWhenSomethingFails_data()
 {
     QTest::addColumn<Maker>("make");
     QTest::addColumn<QByteArray>("vips"); ///< a program in its place; empty: none
@@ -279,13 +293,13 @@ void TestZoomTiles::olderFolderStaysWhenSomethingFails_data()
     rows("iiif", &makeIiifFolder);
 }
 
-void TestZoomTiles::olderFolderStaysWhenSomethingFails()
+void TestViewerFiles::olderFolderStaysWhenSomethingFails()
 {
     QFETCH(Maker, make);
     QFETCH(QByteArray, vips);
     QFETCH(ExitCode, code);
     QFETCH(QString, said);
-    TestSphere sphere({ 1024, 512 });
+    TestSphere sphere({ 2048, 1024 }, { 0, 0, 600, 2 });
     sphere.job.iiifAddress = QStringLiteral("https://example.org");
     const QString mark = QStringLiteral("/.panohost");
     for (const char *folder : { "my pano[x]_zoom", "my pano[x]_iiif" }) {
@@ -310,7 +324,50 @@ void TestZoomTiles::olderFolderStaysWhenSomethingFails()
     QCOMPARE(filesIn(sphere.job.workFolder), QStringList{ QStringLiteral("panorama.v") });
 }
 
-void TestZoomTiles::startAndEndAreReported()
+void TestViewerFiles::interruptionLeavesNothing()
+{
+    QFETCH(Maker, make);
+    QFETCH(QString, made);
+    TestSphere sphere({ 64, 32 });
+    sphere.job.iiifAddress = QStringLiteral("https://example.org");
+    JobWatch watch;
+    watch.interrupted = [] { return true; };
+    const Result<QString> result = make(sphere.job, watch);
+    QVERIFY(!result);
+    QCOMPARE(result.error().code, ExitCode::Interrupted);
+    QVERIFY(!QFile::exists(sphere.folder.filePath(made)));
+    QCOMPARE(filesIn(sphere.job.workFolder), QStringList{ QStringLiteral("panorama.v") });
+}
+
+void TestViewerFiles::leftoversOfAKilledRunGo()
+{
+    QFETCH(Maker, make);
+    TestSphere sphere({ 64, 32 });
+    sphere.job.iiifAddress = QStringLiteral("https://example.org");
+    for (const char *part : { "html", "zoom", "iiif" }) {
+        QVERIFY(write(QDir(sphere.job.workFolder)
+                          .filePath(QStringLiteral("part-%1/%1/tiles_files/9/0_0.jpg")
+                                        .arg(QString::fromLatin1(part))),
+                      "half"));
+    }
+    QVERIFY(make(sphere.job, {}));
+    QCOMPARE(filesIn(sphere.job.workFolder).size(), 3); // the other two are not its own
+}
+
+void TestViewerFiles::placeThatCannotBeWrittenIsNamed()
+{
+    QFETCH(Maker, make);
+    TestSphere sphere({ 64, 32 });
+    sphere.job.iiifAddress = QStringLiteral("https://example.org");
+    sphere.job.output = sphere.path("not there/a.jpg");
+    const Result<QString> result = make(sphere.job, {});
+    QVERIFY(!result);
+    QVERIFY2(result.error().text().contains(QStringLiteral("not there")),
+             qPrintable(result.error().text()));
+    QCOMPARE(filesIn(sphere.job.workFolder), QStringList{ QStringLiteral("panorama.v") });
+}
+
+void TestViewerFiles::startAndEndAreReported()
 {
     QFETCH(Maker, make);
     TestSphere sphere({ 64, 32 });
@@ -318,14 +375,12 @@ void TestZoomTiles::startAndEndAreReported()
     QStringList reports;
     JobWatch watch;
     watch.progress = [&reports](int done, int total, const QString &text) {
-        reports += QStringLiteral("%1/%2 %3")
-                       .arg(QString::number(done), QString::number(total), text.left(13));
+        reports += QStringLiteral("%1/%2%3").arg(QString::number(done), QString::number(total),
+                                                 text.isEmpty() ? QStringLiteral(" ?") : QString());
     };
     QVERIFY(make(sphere.job, watch));
-    QCOMPARE(
-        reports,
-        QStringList({ QStringLiteral("0/1 cutting tiles"), QStringLiteral("1/1 cutting tiles") }));
+    QCOMPARE(reports, QStringList({ QStringLiteral("0/1"), QStringLiteral("1/1") }));
 }
 
-TEST_CLASS(TestZoomTiles, QGuiApplication)
-#include "tst_zoomtiles.moc"
+TEST_CLASS(TestViewerFiles, QCoreApplication)
+#include "tst_viewerfiles.moc"
