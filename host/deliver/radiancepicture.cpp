@@ -46,7 +46,7 @@ Result<QString> deliverRadiance(const DeliverJob &job, const JobWatch &watch)
         if (row < 0 || row >= source.size().height()) {
             return;
         }
-        const float *const from = source.row<float>(row);
+        const auto *const from = source.row<float>(row);
         float *const to = pixels + static_cast<ptrdiff_t>(corner.x()) * kBands;
         for (int i = 0; i < source.size().width() * kBands; ++i) {
             to[i] = from[i - i % kBands + 3] > 0.0F ? from[i] : 0.0F;

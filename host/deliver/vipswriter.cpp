@@ -33,7 +33,7 @@ Format formatOf(StitchedPicture::Depth depth)
 QByteArray field(const char *name, const QByteArray &content)
 {
     return content.isEmpty() ? QByteArray()
-                             : "    <field type=\"VipsBlob\" name=\"" + QByteArray(name) + "\">"
+                             : R"(    <field type="VipsBlob" name=")" + QByteArray(name) + R"(">)"
             + content.toBase64() + "</field>\n";
 }
 
