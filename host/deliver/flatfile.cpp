@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/deliver/flatfile.h"
 
-#include "host/deliver/tiffcheck.h"
 #include "host/deliver/vips.h"
 #include "host/deliver/vipswriter.h"
 #include "host/model/safefile.h"
+#include "host/model/tifffile.h"
 
 #include <QDir>
 #include <QFile>

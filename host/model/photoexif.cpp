@@ -236,6 +236,14 @@ void readTime(const Entries &exif, PhotoInfo &info)
     info.timeMs = time.toMSecsSinceEpoch();
 }
 
+bool isPanorama(const Exiv2::XmpData &xmp)
+{
+    return std::any_of(xmp.begin(), xmp.end(), [](const Exiv2::Xmpdatum &entry) {
+        return entry.groupName() == "GPano"
+            || (entry.key() == "Xmp.xmp.CreatorTool" && entry.toString() == kOwnSoftware);
+    });
+}
+
 int orientationOf(const Entries &exif)
 {
     const double number = positiveNumber(exif, "Exif.Image.Orientation");
@@ -274,11 +282,17 @@ bool isRaw(const Exiv2::Image &image)
 
 bool isPanorama(const Exiv2::Image &image)
 {
-    const Exiv2::XmpData &xmp = image.xmpData();
-    return std::any_of(xmp.begin(), xmp.end(), [](const Exiv2::Xmpdatum &entry) {
-        return entry.groupName() == "GPano"
-            || (entry.key() == "Xmp.xmp.CreatorTool" && entry.toString() == kOwnSoftware);
-    });
+    return isPanorama(image.xmpData());
+}
+
+bool isPanorama(const QByteArray &xmpPacket)
+{
+    try {
+        Exiv2::XmpData xmp;
+        return Exiv2::XmpParser::decode(xmp, xmpPacket.toStdString()) == 0 && isPanorama(xmp);
+    } catch (const std::exception &) {
+        return false;
+    }
 }
 
 bool isPictureWithin(const Exiv2::Image &image, qint64 bytes)

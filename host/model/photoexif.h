@@ -4,6 +4,7 @@
 
 #include "model/lensmodel.h"
 
+#include <QByteArray>
 #include <QSize>
 #include <QString>
 
@@ -52,6 +53,8 @@ constexpr const char *kOwnSoftware = "panohost";
 /** Whether \p image bears the data by which viewers know a panorama, or is one of this program's
  * results. */
 [[nodiscard]] bool isPanorama(const Exiv2::Image &image);
+/** The same of an XMP packet. */
+[[nodiscard]] bool isPanorama(const QByteArray &xmpPacket);
 
 /** Whether the strips or tiles that \p image, a TIFF, names lie within the file's \p bytes. */
 [[nodiscard]] bool isPictureWithin(const Exiv2::Image &image, qint64 bytes);

@@ -8,6 +8,7 @@
 #include "host/model/lostpageguard.h"
 #include "host/model/photodevice.h"
 #include "host/model/safefile.h"
+#include "host/model/tifffile.h"
 
 #include <QDateTime>
 #include <QImageReader>
@@ -56,6 +57,8 @@ Result<OpenPhoto> openPhoto(const QString &path)
     photo.exiv = readExivImage(device);
     if (photo.exiv) {
         photo.info = photoInfo(*photo.exiv);
+    } else if (format == "tiff") { // exiv2 reads none above 4 GB
+        photo.info.isPanorama = isPanorama(tiffXmp(device));
     }
     photo.info.path = path;
     if (isPhotoFormat(format) && !photo.info.isRaw) {

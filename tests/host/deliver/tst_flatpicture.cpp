@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/deliver/deliver.h"
 #include "host/model/photofile.h"
+#include "host/model/tifffile.h"
 #include "tests/host/deliver/deliverbench.h"
 #include "tests/support/testprogram.h"
 
+#include <QBuffer>
 #include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -95,6 +97,9 @@ private Q_SLOTS:
     void nothingIsSaidOfWhatIsNotKnown();
     void resultIsKnownAsOwn_data();
     void resultIsKnownAsOwn();
+    void giantIsKnownAsOwnToo();
+    void cutTiffIsNotComplete_data();
+    void cutTiffIsNotComplete();
     void outputMayHaveAnyName_data();
     void outputMayHaveAnyName();
     void tooLargeForAJpegIsRefusedWithACure();
@@ -424,6 +429,60 @@ void TestFlatPicture::resultIsKnownAsOwn()
     QVERIFY(info.value().isPanorama);
     QVERIFY(!info.value().isRaw);
     QCOMPARE(info.value().storedSize, QSize(64, 32));
+}
+
+void TestFlatPicture::giantIsKnownAsOwnToo()
+{
+    const QString name = QStringLiteral("a.tif");
+    QVERIFY(deliver(jobFor(small(), name), {}).ok());
+    // As it is written where 4 GB would not do.
+    DeliverBench::said(QStringLiteral("vips"),
+                       { QStringLiteral("tiffsave"), name, QStringLiteral("big.tif"),
+                         QStringLiteral("--bigtiff"), QStringLiteral("--tile") },
+                       m_out->path());
+    const Result<PhotoInfo> info = readPhotoInfo(output(QStringLiteral("big.tif")));
+    QVERIFY2(info.ok(), info ? "" : qPrintable(info.error().text()));
+    QVERIFY(info.value().isPanorama);
+    DeliverBench::said(QStringLiteral("vips"),
+                       { QStringLiteral("tiffsave"), name, QStringLiteral("bare.tif"),
+                         QStringLiteral("--bigtiff"), QStringLiteral("--strip") },
+                       m_out->path());
+    QVERIFY(!readPhotoInfo(output(QStringLiteral("bare.tif"))).value().isPanorama);
+}
+
+void TestFlatPicture::cutTiffIsNotComplete_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::newRow("TIFF") << QStringList();
+    QTest::newRow("BigTIFF") << QStringList(QStringLiteral("--bigtiff"));
+}
+
+void TestFlatPicture::cutTiffIsNotComplete()
+{
+    QFETCH(QStringList, options);
+    DeliverBench::writePanorama(m_work->path(), { 300, 150 }, { 300, 150 }, { 0, 0 }, Depth::Bits8,
+                                [](int x, int) { return flag(x, 300, 255.0); });
+    DeliverBench::said(QStringLiteral("vips"),
+                       QStringList{ QStringLiteral("tiffsave"), QStringLiteral("panorama.v"),
+                                    QStringLiteral("a.tif"), QStringLiteral("--tile"),
+                                    QStringLiteral("--pyramid"), QStringLiteral("--compression"),
+                                    QStringLiteral("deflate") }
+                           + options,
+                       m_work->path());
+    QFile file(m_work->filePath(QStringLiteral("a.tif")));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QByteArray bytes = file.readAll();
+    QBuffer buffer(&bytes);
+    QVERIFY(buffer.open(QIODevice::ReadOnly));
+    QVERIFY(isCompleteTiff(buffer, { 300, 150 }));
+    QVERIFY(!isCompleteTiff(buffer, { 300, 151 }));
+    QVERIFY(!isCompleteTiff(buffer, { 299, 150 }));
+    for (int length = 0; length < bytes.size(); ++length) {
+        QByteArray cut = bytes.left(length);
+        QBuffer part(&cut);
+        QVERIFY(part.open(QIODevice::ReadOnly));
+        QVERIFY2(!isCompleteTiff(part, { 300, 150 }), qPrintable(QString::number(length)));
+    }
 }
 
 void TestFlatPicture::outputMayHaveAnyName_data()

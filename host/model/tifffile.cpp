@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "host/deliver/tiffcheck.h"
+#include "host/model/tifffile.h"
 
 #include <QIODevice>
 #include <QtEndian>
@@ -18,6 +18,7 @@ constexpr int kWidth = 256;
 constexpr int kHeight = 257;
 constexpr int kTileOffsets = 324;
 constexpr int kTileByteCounts = 325;
+constexpr int kXmp = 700;
 
 /** Reads numbers of a file; all of them are 0 once one is beyond its end. */
 class Numbers
@@ -94,28 +95,52 @@ std::vector<quint64> listOf(Numbers &file, const Values &values)
     return list;
 }
 
+/** Where a file's first picture is described, and how. */
+struct Start {
+    Layout layout;
+    quint64 directory; ///< 0: no such file
+};
+
+Start startOf(Numbers &file)
+{
+    constexpr quint64 kIntel = 0x4949;
+    constexpr quint64 kBigVersion = 43;
+    if (file.at(0, 2) != kIntel) {
+        return { kClassic, 0 };
+    }
+    const bool isBig = file.at(2, 2) == kBigVersion;
+    return { isBig ? kBig : kClassic, isBig ? file.at(8, 8) : file.at(4, 4) };
+}
+
+/** The places of a picture's entries; none when they are more than sense makes. */
+std::vector<quint64> entriesOf(Numbers &file, quint64 directory, const Layout &layout)
+{
+    constexpr quint64 kMost = 4096;
+    const quint64 count = file.at(directory, layout.count);
+    std::vector<quint64> entries(count > kMost ? 0 : count);
+    quint64 place = directory + static_cast<quint64>(layout.count);
+    for (quint64 &entry : entries) {
+        entry = place;
+        place += static_cast<quint64>(layout.entry);
+    }
+    return entries;
+}
+
 } // namespace
 
 bool isCompleteTiff(QIODevice &device, const QSize &size)
 {
-    constexpr quint64 kIntel = 0x4949;
-    constexpr quint64 kBigVersion = 43;
     constexpr int kMostPictures = 64;
     Numbers file(device);
-    if (file.at(0, 2) != kIntel) {
-        return false;
-    }
-    const bool isBig = file.at(2, 2) == kBigVersion;
-    const Layout layout = isBig ? kBig : kClassic;
-    quint64 directory = isBig ? file.at(8, 8) : file.at(4, 4);
+    const Start start = startOf(file);
+    const Layout &layout = start.layout;
+    quint64 directory = start.directory;
     int pictures = 0;
     for (; directory != 0 && pictures < kMostPictures; ++pictures) {
-        const quint64 entries = file.at(directory, layout.count);
-        const quint64 first = directory + static_cast<quint64>(layout.count);
+        const std::vector<quint64> entries = entriesOf(file, directory, layout);
         std::vector<quint64> offsets;
         std::vector<quint64> counts;
-        for (quint64 i = 0; i < entries && file.isSound(); ++i) {
-            const quint64 entry = first + i * static_cast<quint64>(layout.entry);
+        for (const quint64 entry : entries) {
             const quint64 tag = file.at(entry, 2);
             const Values values = valuesOf(file, entry, layout);
             if (values.count > file.end()
@@ -134,17 +159,37 @@ bool isCompleteTiff(QIODevice &device, const QSize &size)
                 }
             }
         }
-        const bool isThere = std::equal(offsets.begin(), offsets.end(), counts.begin(),
-                                        counts.end(), [&file](quint64 offset, quint64 count) {
-                                            return offset > 0 && count > 0 && offset <= file.end()
-                                                && count <= file.end() - offset;
-                                        });
+        const bool isThere
+            = std::equal(offsets.begin(), offsets.end(), counts.begin(), counts.end(),
+                         [&file](quint64 offset, quint64 count) {
+                             return offset > 0 && count > 0 && isWithin(offset, count, file.end());
+                         });
         if (!file.isSound() || offsets.empty() || !isThere) {
             return false;
         }
-        directory = file.at(first + entries * static_cast<quint64>(layout.entry), isBig ? 8 : 4);
+        directory = file.at(entries.back() + static_cast<quint64>(layout.entry),
+                            layout.value); // of the next picture
     }
     return file.isSound() && directory == 0 && pictures > 0;
+}
+
+QByteArray tiffXmp(QIODevice &device)
+{
+    constexpr quint64 kMostBytes = 1 << 20;
+    Numbers file(device);
+    const Start start = startOf(file);
+    if (start.directory == 0) {
+        return {};
+    }
+    for (const quint64 entry : entriesOf(file, start.directory, start.layout)) {
+        if (file.at(entry, 2) == kXmp) {
+            const Values values = valuesOf(file, entry, start.layout);
+            return values.count <= kMostBytes && device.seek(static_cast<qint64>(values.place))
+                ? device.read(static_cast<qint64>(values.count * values.bytes))
+                : QByteArray();
+        }
+    }
+    return {};
 }
 
 } // namespace PanoHost
