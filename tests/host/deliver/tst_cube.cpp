@@ -8,7 +8,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QGuiApplication>
 #include <QImage>
 #include <QTemporaryDir>
 #include <QtMath>
@@ -529,5 +528,5 @@ void TestCube::anotherPictureIsRefused()
     QCOMPARE(result.error().why, QStringLiteral("is not the panorama that was stitched last"));
 }
 
-TEST_CLASS(TestCube, QGuiApplication)
+TEST_CLASS(TestCube, QCoreApplication)
 #include "tst_cube.moc"

@@ -9,7 +9,6 @@
 #include <QBuffer>
 #include <QFile>
 #include <QFileInfo>
-#include <QGuiApplication>
 #include <QImageReader>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -655,5 +654,5 @@ void TestFlatPicture::targetThatTakesNothingIsNamed()
     QCOMPARE(DeliverBench::allIn(m_work->path()), QStringList(QStringLiteral("panorama.v")));
 }
 
-TEST_CLASS(TestFlatPicture, QGuiApplication)
+TEST_CLASS(TestFlatPicture, QCoreApplication)
 #include "tst_flatpicture.moc"
