@@ -10,22 +10,6 @@ namespace PanoHost
 namespace
 {
 
-/** The value of \p option, from \p least to \p most; \p usual when it is not given. */
-int number(const CommandLine &line, const QString &option, int usual, int least, int most)
-{
-    if (!line.isSet(option)) {
-        return usual;
-    }
-    bool isNumber = false;
-    const int value = line.value(option).toInt(&isNumber);
-    if (!isNumber || value < least || value > most) {
-        throw usageError(
-            QStringLiteral("--%1 %2: not a number from %3 to %4")
-                .arg(option, line.value(option), QString::number(least), QString::number(most)));
-    }
-    return value;
-}
-
 void freeLens(const QString &list, AlignOptions &options)
 {
     options.freesFocal = options.freesA = options.freesB = options.freesC = false;
@@ -76,10 +60,10 @@ AlignOptions alignOptions(const CommandLine &line)
     constexpr int kMost = 100'000;
     constexpr int kMostJobs = 1024;
     options.features
-        = number(line, QStringLiteral("features"), options.features, kFewestFeatures, kMost);
+        = numberOf(line, QStringLiteral("features"), options.features, kFewestFeatures, kMost);
     options.workSize
-        = number(line, QStringLiteral("work-size"), options.workSize, kLeastSize, kMost);
-    options.jobs = number(line, QStringLiteral("jobs"), options.jobs, 1, kMostJobs);
+        = numberOf(line, QStringLiteral("work-size"), options.workSize, kLeastSize, kMost);
+    options.jobs = numberOf(line, QStringLiteral("jobs"), options.jobs, 1, kMostJobs);
     options.keepsPoints = line.isSet(QStringLiteral("keep-points"));
     options.photometry = !line.isSet(QStringLiteral("no-photometry"));
     const bool level = line.isSet(QStringLiteral("level"));

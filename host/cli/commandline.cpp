@@ -103,6 +103,21 @@ void printOut(const QString &text)
     }
 }
 
+int numberOf(const CommandLine &line, const QString &option, int usual, int least, int most)
+{
+    if (!line.isSet(option)) {
+        return usual;
+    }
+    bool isNumber = false;
+    const int value = line.value(option).toInt(&isNumber);
+    if (!isNumber || value < least || value > most) {
+        throw usageError(
+            QStringLiteral("--%1 %2: not a number from %3 to %4")
+                .arg(option, line.value(option), QString::number(least), QString::number(most)));
+    }
+    return value;
+}
+
 const QVector<OptionRow> &CommandLine::commonOptions()
 {
     static const QVector<OptionRow> rows{

@@ -63,6 +63,11 @@ private:
 /** The long name of \p row without dashes. */
 [[nodiscard]] QString longName(const OptionRow &row);
 
+/** The whole number that \p option of \p line names; \p usual when it is not given. Throws the
+ * usage error unless it is one from \p least to \p most. */
+[[nodiscard]] int numberOf(const CommandLine &line, const QString &option, int usual, int least,
+                           int most);
+
 /** Writes \p text to stdout, as UTF-8; throws when it does not take it (a full disk). */
 void printOut(const QString &text);
 
