@@ -39,8 +39,11 @@ ExitCode run(Session &session, const Invocation &invocation)
     } catch (const CommandError &error) {
         session.console.endProgress();
         if (error.failure().code == ExitCode::Interrupted) {
-            session.console.info(QStringLiteral("stopped; your files are as they were, and no "
-                                                "unfinished result is left"));
+            const QString text = error.failure().text();
+            session.console.info(
+                text.isEmpty() ? QStringLiteral("stopped; your files are as they were, and no "
+                                                "unfinished result is left")
+                               : text);
         } else {
             session.console.error(error.failure());
         }

@@ -53,10 +53,13 @@ JobWatch Session::watch() const
     };
     watch.interrupted = &Interrupt::requested;
     watch.log = [&console = console](JobWatch::Note note, const QString &text) {
-        if (note == JobWatch::Note::Warning) {
-            console.warning(text);
-        } else {
-            console.detail(text);
+        switch (note) {
+        case JobWatch::Note::Warning:
+            return console.warning(text);
+        case JobWatch::Note::Info:
+            return console.info(text);
+        case JobWatch::Note::Detail:
+            return console.detail(text);
         }
     };
     return watch;

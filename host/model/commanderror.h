@@ -21,7 +21,7 @@ public:
     {
     }
 
-    /** Without any text when the user has interrupted the command. */
+    /** When the user has interrupted the command: without any text, or with how to go on. */
     [[nodiscard]] const Failure &failure() const { return m_failure; }
     [[nodiscard]] const char *what() const noexcept override { return "panohost command error"; }
 

@@ -19,6 +19,7 @@ namespace PanoHost
 struct JobWatch {
     enum class Note {
         Detail, ///< for whoever wants to know exactly
+        Info, ///< what was done or learnt
         Warning, ///< the user should know, and the job goes on
     };
 
