@@ -106,15 +106,23 @@ QStringList PluginLibrary::searchPath(const QString &fileOrFolder)
     return places;
 }
 
-Result<std::unique_ptr<PluginLibrary>> PluginLibrary::open(const QString &fileOrFolder)
+QString PluginLibrary::fileFor(const QString &fileOrFolder)
 {
-    const QStringList places = searchPath(fileOrFolder);
-    for (const QString &place : places) {
+    for (const QString &place : searchPath(fileOrFolder)) {
         const QStringList files = librariesAt(place);
         if (!files.isEmpty()) {
-            return load(files.first());
+            return files.first();
         }
     }
+    return {};
+}
+
+Result<std::unique_ptr<PluginLibrary>> PluginLibrary::open(const QString &fileOrFolder)
+{
+    if (const QString file = fileFor(fileOrFolder); !file.isEmpty()) {
+        return load(file);
+    }
+    const QStringList places = searchPath(fileOrFolder);
     if (!fileOrFolder.isEmpty() && !QFileInfo::exists(places.first())) {
         return noPlugin(places.first(), QStringLiteral("no such file or folder"));
     }

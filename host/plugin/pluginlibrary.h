@@ -50,6 +50,8 @@ public:
      */
     [[nodiscard]] static Result<std::unique_ptr<PluginLibrary>> open(const QString &fileOrFolder);
 
+    /** The file that `open` would load; empty: there is none. */
+    [[nodiscard]] static QString fileFor(const QString &fileOrFolder);
     /** The files and folders that `open` looks at, in order. */
     [[nodiscard]] static QStringList searchPath(const QString &fileOrFolder);
 
