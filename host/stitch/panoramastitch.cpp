@@ -338,9 +338,10 @@ void Run::finish()
         const QString placed = isLight ? stemOf(part) + QStringLiteral("-scaled.v") : part;
         const Tool &vips = m_tools[QStringLiteral("vips")];
         call(vips,
-             { QStringLiteral("embed"), kBlended, placed, QString::number(place.x() - area.x()),
-               QString::number(place.y() - area.y()), QString::number(area.width()),
-               QString::number(area.height()) });
+             // Behind "--" a number below 0 is no option.
+             { QStringLiteral("embed"), QStringLiteral("--"), kBlended, placed,
+               QString::number(place.x() - area.x()), QString::number(place.y() - area.y()),
+               QString::number(area.width()), QString::number(area.height()) });
         if (isLight) {
             const QString factor = QString::number(m_plan.lightScale, 'g', 17);
             call(vips,
