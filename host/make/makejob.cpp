@@ -1,0 +1,604 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/make/makejob.h"
+
+#include "host/import/importjob.h"
+#include "host/import/inputcheck.h"
+#include "host/make/makekeys.h"
+#include "host/make/overallprogress.h"
+#include "host/make/saidlines.h"
+#include "host/make/worklog.h"
+#include "host/model/canvas.h"
+#include "host/model/displayname.h"
+#include "host/model/panoramajson.h"
+#include "host/model/ptoproject.h"
+#include "host/model/safefile.h"
+#include "host/plugin/pluginlibrary.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLocale>
+#include <QStorageInfo>
+
+#include <algorithm>
+
+namespace PanoHost
+{
+namespace
+{
+
+constexpr double kMegapixel = 1.0e6;
+
+double megapixels(const QSize &size)
+{
+    return double(size.width()) * size.height() / kMegapixel;
+}
+
+/** Seconds that steps take on a machine of two processors; what is off is corrected on the way. */
+double importSeconds(int photos)
+{
+    constexpr double kPerPhoto = 0.02;
+    return 1.0 + kPerPhoto * photos;
+}
+
+double alignSeconds(int photos, double megapixelsOfAll)
+{
+    constexpr double kPerPhoto = 0.4;
+    constexpr double kPerMegapixel = 0.03;
+    return 1.0 + kPerPhoto * photos + kPerMegapixel * megapixelsOfAll;
+}
+
+double stitchSeconds(double megapixelsOfAll, const QSize &canvas)
+{
+    constexpr double kPerPhotoMegapixel = 0.15;
+    constexpr double kPerCanvasMegapixel = 0.4;
+    return 1.0 + kPerPhotoMegapixel * megapixelsOfAll + kPerCanvasMegapixel * megapixels(canvas);
+}
+
+double deliverSeconds(int kinds, const QSize &picture)
+{
+    constexpr double kPerMegapixel = 0.15;
+    return 0.5 + kPerMegapixel * kinds * megapixels(picture);
+}
+
+/** How many of \p kinds there are, or would be. */
+int usualCount(const QVector<Delivery> &kinds)
+{
+    constexpr int kUsual = 2;
+    return kinds.isEmpty() ? kUsual : kinds.size();
+}
+
+double megapixelsOf(const PtoFile &project)
+{
+    double sum = 0.0;
+    for (const PtoImage &image : project.images()) {
+        sum += megapixels(image.size);
+    }
+    return sum;
+}
+
+QString bytesText(qint64 bytes)
+{
+    return QLocale::c().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat);
+}
+
+/** What is there of \p path: it, or the next folder above it that exists. */
+QString existingFolder(const QString &path)
+{
+    QString folder = path;
+    while (!QFileInfo::exists(folder) && !QFileInfo(folder).isRoot()) {
+        folder = QFileInfo(folder).absolutePath();
+    }
+    return folder;
+}
+
+QString needsText(const StitchNeeds &needs, const QString &work)
+{
+    return QStringLiteral(
+               "panorama of %1 x %2 pixels: takes about %3 in %4 (%5 are free) and %6 of memory")
+        .arg(QString::number(needs.picture.width()), QString::number(needs.picture.height()),
+             bytesText(needs.diskBytes), displayName(work),
+             bytesText(QStorageInfo(existingFolder(work)).bytesAvailable()),
+             bytesText(needs.memoryBytes));
+}
+
+/** Refuses a folder of that name that somebody keeps other things in. */
+void requireOwnFolder(const QString &path)
+{
+    QStringList content
+        = QDir(path).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    content.removeAll(QStringLiteral("lock")); // who stopped just after it began has left no more
+    if (!content.isEmpty() && !content.contains(WorkLog::fileName())) {
+        throw inputRefused(displayName(path),
+                           QStringLiteral("is to hold what is kept of this panorama, and holds "
+                                          "something else"),
+                           QStringLiteral("rename it, or choose another name with -o"));
+    }
+}
+
+WorkFolder openWork(const QString &path)
+{
+    requireOwnFolder(path);
+    return valueOrThrow(WorkFolder::open(path));
+}
+
+bool hasBrackets(const PtoFile &project)
+{
+    return std::any_of(project.images().begin(), project.images().end(),
+                       [](const PtoImage &image) { return image.stackMaster >= 0; });
+}
+
+/** A project to be stitched, and what the page says of it. */
+struct PlacedProject {
+    PtoFile project;
+    int renderMode = -1;
+    bool levels = false; ///< has yet to be turned upright
+};
+
+StitchOptions stitchOptions(const PictureWishes &wishes, const PlacedProject &placed)
+{
+    StitchOptions options = wishes.stitch;
+    options.output = outputFor(wishes, placed.renderMode, hasBrackets(placed.project));
+    options.levels = options.levels || placed.levels;
+    return options;
+}
+
+QVector<Delivery> kindsOf(const PictureWishes &wishes, StitchOutput output)
+{
+    if (!wishes.kinds.isEmpty()) {
+        return wishes.kinds;
+    }
+    QVector<Delivery> kinds{ Delivery::Picture, Delivery::Page };
+    if (output == StitchOutput::Hdr) {
+        kinds += Delivery::Radiance;
+    }
+    return kinds;
+}
+
+QStringList photosOf(const PtoFile &project)
+{
+    QStringList photos;
+    for (const PtoImage &image : project.images()) {
+        photos += image.path;
+    }
+    return photos;
+}
+
+PlacedProject readInput(const StitchRequest &request, const JobWatch &watch)
+{
+    if (request.input.endsWith(QLatin1String(".pto"), Qt::CaseInsensitive)) {
+        return { valueOrThrow(PtoFile::read(request.input)) };
+    }
+    const Panorama panorama = valueOrThrow(readPanoramaJson(request.input));
+    PtoOptions options;
+    options.ignoreExifRotation = request.ignoresExifRotation;
+    for (const QString &warning : valueOrThrow(makePtoProject(panorama, options)).warnings) {
+        watch.note(JobWatch::Note::Warning, warning);
+    }
+    return { valueOrThrow(projectOf(panorama, options)), panorama.description.renderMode };
+}
+
+/** One run of steps in a work folder. */
+class MakeRun
+{
+public:
+    MakeRun(const PictureWishes &wishes, const MakeSteps &steps, const JobWatch &watch,
+            QVector<OverallProgress::Step> expected)
+        : m_wishes(wishes)
+        , m_steps(steps)
+        , m_watch(watch)
+        , m_work(openWork(workFolderOf(wishes.path)))
+        , m_log(m_work.path(WorkLog::fileName()))
+        , m_progress(std::move(expected))
+    {
+        m_clock.start();
+    }
+
+    /** What to make of record and photos. */
+    PlacedProject place(const MakeRequest &request);
+    /** \p step is the first of the two. */
+    QStringList stitchAndDeliver(int step, const PlacedProject &placed);
+    void tellKept();
+
+private:
+    using Time = OverallProgress::Time;
+    using Contents = QVector<QByteArray>;
+
+    [[nodiscard]] Time now() const { return Time(m_clock.elapsed()); }
+    [[nodiscard]] JobWatch begin(int step);
+    void note(JobWatch::Note note, const QString &text);
+    /** Has \p run make the contents of \p files, unless they are there already. */
+    void keptStep(int step, const QString &name, const QStringList &files, const QByteArray &key,
+                  const std::function<Contents(const JobWatch &watch)> &run);
+    [[nodiscard]] Panorama import(const MakeRequest &request);
+    [[nodiscard]] StitchedPicture stitch(int step, const PtoFile &project,
+                                         const StitchOptions &options);
+    [[nodiscard]] QStringList deliver(const DeliverJob &job, Delivery kind, const JobWatch &watch);
+
+    const PictureWishes &m_wishes;
+    const MakeSteps &m_steps;
+    const JobWatch &m_watch;
+    WorkFolder m_work;
+    WorkLog m_log;
+    OverallProgress m_progress;
+    QElapsedTimer m_clock;
+    SaidLines m_said; ///< in the step that is at work
+    QStringList m_kept; ///< and not told yet
+};
+
+void MakeRun::note(JobWatch::Note note, const QString &text)
+{
+    m_log.add(text);
+    m_said.add(note, text);
+    m_watch.note(note, text);
+}
+
+/** The watch of a step that begins. */
+JobWatch MakeRun::begin(int step)
+{
+    m_watch.check();
+    m_said = {};
+    m_progress.begin(step, now());
+    JobWatch watch = m_watch;
+    watch.progress = [this](int done, int total, const QString &text) {
+        const OverallProgress::State state = m_progress.at(done, total, text, now());
+        m_watch.report(state.done, OverallProgress::kTotal, state.text);
+    };
+    watch.log = [this](JobWatch::Note kind, const QString &text) { note(kind, text); };
+    return watch;
+}
+
+void MakeRun::tellKept()
+{
+    if (!m_kept.isEmpty()) {
+        note(JobWatch::Note::Info,
+             QStringLiteral("kept: %1").arg(m_kept.join(QStringLiteral(", "))));
+    }
+    m_kept.clear();
+}
+
+void MakeRun::keptStep(int step, const QString &name, const QStringList &files,
+                       const QByteArray &key,
+                       const std::function<Contents(const JobWatch &watch)> &run)
+{
+    const JobWatch watch = begin(step);
+    const QString saidFile = QStringLiteral("%1_said.txt").arg(step + 1);
+    const QStringList all = files + QStringList(saidFile);
+    if (std::all_of(all.begin(), all.end(),
+                    [&](const QString &file) { return m_work.has(file, key); })) {
+        m_kept += name;
+        const SaidLines before = SaidLines::read(m_work.path(saidFile));
+        for (const auto &[kind, text] : before.lines()) {
+            note(kind, text);
+        }
+        return;
+    }
+    m_log.add(name);
+    Contents contents = run(watch);
+    contents += m_said.text();
+    m_watch.check();
+    for (int i = 0; i < all.size(); ++i) {
+        (void)valueOrThrow(m_work.make(all.at(i), key, [&](const QString &part) {
+            return writeFileAtomically(part, contents.at(i));
+        }));
+    }
+}
+
+Panorama MakeRun::import(const MakeRequest &request)
+{
+    const QString json = QStringLiteral("1_import.json");
+    const QByteArray key
+        = importKey(request.import, PluginLibrary::fileFor(request.import.pluginPath));
+    keptStep(0, QStringLiteral("import"), { json, QStringLiteral("1_import.pto") }, key,
+             [&](const JobWatch &watch) {
+                 watch.report(0, 1, QStringLiteral("reading record and photos"));
+                 Panorama panorama = valueOrThrow(m_steps.import(request.import, watch));
+                 PtoOptions options;
+                 options.ignoreExifRotation = request.import.ignoreExifRotation;
+                 options.projectFolder = m_work.path();
+                 const PtoProject project = valueOrThrow(makePtoProject(panorama, options));
+                 for (const QString &warning : project.warnings) {
+                     watch.note(JobWatch::Note::Warning, warning);
+                 }
+                 panorama.warnings += project.warnings;
+                 panorama.project = ProjectReference{ m_work.path(QStringLiteral("1_import.pto")),
+                                                      project.yawCentreDegrees };
+                 return Contents{ panoramaToJson(panorama, m_work.path()), project.text };
+             });
+    // Numbers are rounded there: every run goes on from the same ones.
+    return valueOrThrow(readPanoramaJson(m_work.path(json)));
+}
+
+PlacedProject MakeRun::place(const MakeRequest &request)
+{
+    const Panorama panorama = import(request);
+    PtoOptions options;
+    options.ignoreExifRotation = request.import.ignoreExifRotation;
+    const PtoFile recorded
+        = valueOrThrow(PtoFile::read(m_work.path(QStringLiteral("1_import.pto"))));
+    const double photoMegapixels = megapixelsOf(recorded);
+    m_progress.expect(1, alignSeconds(recorded.images().size(), photoMegapixels));
+    const QSize canvas = recorded.canvas().size;
+    m_progress.expect(2, stitchSeconds(photoMegapixels, canvas));
+    m_progress.expect(3, deliverSeconds(usualCount(m_wishes.kinds), canvas));
+    if (panorama.description.skipOptimization) {
+        note(JobWatch::Note::Info,
+             QStringLiteral("photos stay where the head says: optimisation is skipped"));
+        return { recorded, panorama.description.renderMode, request.align.levels.value_or(false) };
+    }
+    const QString project = QStringLiteral("2_aligned.pto");
+    const QByteArray key = alignKey(panoramaToJson(panorama, {}), options.ignoreExifRotation,
+                                    request.align, photosOf(recorded));
+    keptStep(1, QStringLiteral("alignment"), { project, QStringLiteral("2_alignment.json") }, key,
+             [&](const JobWatch &watch) {
+                 const Alignment aligned
+                     = valueOrThrow(m_steps.align(panorama, options, request.align, watch));
+                 for (const QString &sentence : sentences(aligned.report)) {
+                     watch.note(JobWatch::Note::Info, sentence);
+                 }
+                 return Contents{ valueOrThrow(aligned.project.text(m_work.path())),
+                                  alignmentToJson(aligned.report, m_work.path()) };
+             });
+    return { valueOrThrow(PtoFile::read(m_work.path(project))), panorama.description.renderMode };
+}
+
+StitchedPicture MakeRun::stitch(int step, const PtoFile &project, const StitchOptions &options)
+{
+    const StitchNeeds needs = valueOrThrow(m_steps.needs(project, options));
+    m_progress.expect(step, stitchSeconds(megapixelsOf(project), needs.canvas));
+    m_progress.expect(step + 1, deliverSeconds(usualCount(m_wishes.kinds), needs.picture));
+    const JobWatch watch = begin(step);
+    note(JobWatch::Note::Info, needsText(needs, m_work.path()));
+    for (const QString &command : valueOrThrow(m_steps.commands(project, options, m_work.path()))) {
+        m_log.add(QStringLiteral("$ ") + command);
+    }
+    const QByteArray before = stampOf(m_work.path(QStringLiteral("panorama.v")));
+    StitchedPicture picture = valueOrThrow(m_steps.stitch(project, options, m_work, watch));
+    if (!before.isEmpty() && stampOf(picture.path) == before) {
+        m_kept += QStringLiteral("stitched panorama");
+    }
+    return picture;
+}
+
+/** As it was when it was delivered: whoever has changed it since gets it anew. */
+bool isUnchanged(const QByteArray &note, QStringList *paths)
+{
+    const QJsonArray files = QJsonDocument::fromJson(note).array();
+    for (const QJsonValue &file : files) {
+        const QString path = file[QLatin1String("path")].toString();
+        if (file[QLatin1String("stamp")].toString().toLatin1() != stampOf(path)) {
+            return false;
+        }
+        *paths += path;
+    }
+    return !files.isEmpty();
+}
+
+QStringList MakeRun::deliver(const DeliverJob &job, Delivery kind, const JobWatch &watch)
+{
+    const QString word = deliveryWords().at(static_cast<int>(kind));
+    const QString name = QStringLiteral("delivered_%1.json").arg(word);
+    const QByteArray key = deliveryKey(job, kind);
+    constexpr qint64 kMostNoteBytes = 1 << 20;
+    QStringList paths;
+    if (m_work.has(name, key)) {
+        const Result<QByteArray> note = readRegularFile(m_work.path(name), kMostNoteBytes);
+        if (note && isUnchanged(note.value(), &paths)) {
+            m_kept += word;
+            return paths;
+        }
+    }
+    (void)QFile::remove(m_work.path(name)); // is not true any more
+    DeliverJob one = job;
+    one.kinds = { kind };
+    paths = valueOrThrow(m_steps.deliver(one, watch));
+    QJsonArray files;
+    for (const QString &path : paths) {
+        files += QJsonObject{ { QStringLiteral("path"), path },
+                              { QStringLiteral("stamp"), QString::fromLatin1(stampOf(path)) } };
+    }
+    (void)valueOrThrow(m_work.make(name, key, [&](const QString &part) {
+        return writeFileAtomically(part, QJsonDocument(files).toJson());
+    }));
+    return paths;
+}
+
+QStringList MakeRun::stitchAndDeliver(int step, const PlacedProject &placed)
+{
+    tellKept();
+    const StitchOptions options = stitchOptions(m_wishes, placed);
+    DeliverJob job;
+    job.picture = stitch(step, placed.project, options);
+    job.origin = m_steps.origin(placed.project, job.picture);
+    job.title = QFileInfo(m_wishes.path).completeBaseName();
+    job.output = m_wishes.path;
+    job.jpegQuality = m_wishes.jpegQuality;
+    job.iiifAddress = m_wishes.iiifAddress;
+    job.workFolder = m_work.path();
+    const JobWatch watch = begin(step + 1);
+    QStringList made;
+    for (const Delivery kind : kindsOf(m_wishes, options.output)) {
+        m_watch.check();
+        made += deliver(job, kind, watch);
+    }
+    tellKept();
+    m_watch.report(OverallProgress::kTotal, OverallProgress::kTotal, QStringLiteral("done"));
+    for (const QString &path : qAsConst(made)) {
+        m_log.add(QStringLiteral("written: %1").arg(path));
+    }
+    return made;
+}
+
+/** What \p work answers, or throws. */
+Result<QStringList> answerOf(const std::function<QStringList()> &work)
+{
+    try {
+        return work();
+    } catch (const CommandError &error) {
+        return error.failure();
+    }
+}
+
+/** The same of work that is gone on from: where it has stopped the user learns how. */
+Result<QStringList> resumableAnswerOf(const QString &workFolder, const JobWatch &watch,
+                                      const std::function<QStringList()> &work)
+{
+    const Result<QStringList> answer = answerOf(work);
+    if (answer) {
+        return answer;
+    }
+    Failure failure = answer.error();
+    if (failure.code == ExitCode::Interrupted) {
+        failure.what = QStringLiteral("stopped; the same command goes on from here");
+    } else if (failure.code == ExitCode::ToolFailed) {
+        watch.note(JobWatch::Note::Info,
+                   QStringLiteral("what was finished is kept in %1: the same command goes on from "
+                                  "there")
+                       .arg(displayName(workFolder)));
+    }
+    return failure;
+}
+
+Result<QStringList> commandsOf(const PlacedProject &placed, const PictureWishes &wishes,
+                               const MakeSteps &steps, const JobWatch &watch)
+{
+    const QString work = workFolderOf(wishes.path);
+    const StitchOptions options = stitchOptions(wishes, placed);
+    const Result<StitchNeeds> needs = steps.needs(placed.project, options);
+    if (!needs) {
+        return needs.error();
+    }
+    watch.note(JobWatch::Note::Info, needsText(needs.value(), work));
+    return steps.commands(placed.project, options, work);
+}
+
+constexpr double kMegapixelsOfUnknownPhotos = 20.0;
+
+QVector<OverallProgress::Step> stitchingSteps(double photoMegapixels, const QSize &canvas,
+                                              int kinds)
+{
+    return { { stitchSeconds(photoMegapixels, canvas), { 0.6, 0.35 } },
+             { deliverSeconds(kinds, canvas) } };
+}
+
+QVector<OverallProgress::Step> allSteps(const MakeRequest &request)
+{
+    const int photos = request.import.photos.size();
+    const double photoMegapixels = kMegapixelsOfUnknownPhotos * photos;
+    const QSize unknownCanvas(8192, 4096);
+    return QVector<OverallProgress::Step>{
+        { importSeconds(photos), { 0.9 } },
+        // Features, matches, places, matches again, places again, light.
+        { alignSeconds(photos, photoMegapixels), { 0.5, 0.2, 0.05, 0.15, 0.05, 0.04 } },
+    }
+    + stitchingSteps(photoMegapixels, unknownCanvas, usualCount(request.picture.kinds));
+}
+
+} // namespace
+
+QString workFolderOf(const QString &path)
+{
+    const QFileInfo file(path);
+    return file.absoluteDir().filePath(file.completeBaseName() + QStringLiteral(".work"));
+}
+
+QStringList deliveryWords()
+{
+    return { QStringLiteral("picture"),  QStringLiteral("html"), QStringLiteral("zoom"),
+             QStringLiteral("radiance"), QStringLiteral("cube"), QStringLiteral("iiif") };
+}
+
+StitchOutput outputFor(const PictureWishes &wishes, int renderMode, bool hasBrackets)
+{
+    if (wishes.output) {
+        return *wishes.output;
+    }
+    constexpr int kHdrRadiance = 3; // as pages number it
+    if (wishes.kinds.contains(Delivery::Radiance) || renderMode == kHdrRadiance) {
+        return StitchOutput::Hdr;
+    }
+    return hasBrackets ? StitchOutput::Fused : StitchOutput::Ldr;
+}
+
+MakeSteps makeSteps(PanoHostApplication &app)
+{
+    MakeSteps steps;
+    steps.import = [&app](const ImportRequest &request, const JobWatch &watch) {
+        return importShoot(app, request, watch);
+    };
+    steps.align = [](const Panorama &panorama, const PtoOptions &projectOptions,
+                     const AlignOptions &options, const JobWatch &watch) {
+        return align(panorama, projectOptions, options, watch);
+    };
+    steps.needs = &needsOf;
+    steps.commands = &stitchCommands;
+    steps.stitch = &stitchProject;
+    steps.origin = [](const PtoFile & /*project*/, const StitchedPicture & /*picture*/) {
+        return PictureOrigin();
+    };
+    steps.deliver = &deliver;
+    return steps;
+}
+
+Result<QStringList> makePanorama(const MakeRequest &request, const MakeSteps &steps,
+                                 const JobWatch &watch)
+{
+    return resumableAnswerOf(workFolderOf(request.picture.path), watch, [&] {
+        requireWritable(request.picture.path,
+                        QStringList(request.import.record) + request.import.photos);
+        MakeRun run(request.picture, steps, watch, allSteps(request));
+        const PlacedProject placed = run.place(request);
+        return run.stitchAndDeliver(2, placed);
+    });
+}
+
+Result<QStringList> stitchPanorama(const StitchRequest &request, const MakeSteps &steps,
+                                   const JobWatch &watch)
+{
+    return resumableAnswerOf(workFolderOf(request.picture.path), watch, [&] {
+        const PlacedProject placed = readInput(request, watch);
+        requireWritable(request.picture.path,
+                        QStringList(request.input) + photosOf(placed.project));
+        QStringList made;
+        {
+            MakeRun run(request.picture, steps, watch,
+                        stitchingSteps(megapixelsOf(placed.project), placed.project.canvas().size,
+                                       usualCount(request.picture.kinds)));
+            made = run.stitchAndDeliver(0, placed);
+        }
+        const QString work = workFolderOf(request.picture.path);
+        const bool isMakes
+            = QFileInfo::exists(QDir(work).filePath(QStringLiteral("1_import.json")));
+        if (!request.keepsWork && !isMakes) {
+            QDir(work).removeRecursively();
+        }
+        return made;
+    });
+}
+
+Result<QStringList> makeCommands(const MakeRequest &request, const MakeSteps &steps,
+                                 const JobWatch &watch)
+{
+    return answerOf([&] {
+        const Panorama panorama = valueOrThrow(steps.import(request.import, watch));
+        PtoOptions options;
+        options.ignoreExifRotation = request.import.ignoreExifRotation;
+        const PlacedProject placed{ valueOrThrow(projectOf(panorama, options)),
+                                    panorama.description.renderMode };
+        return valueOrThrow(commandsOf(placed, request.picture, steps, watch));
+    });
+}
+
+Result<QStringList> stitchCommandsOf(const StitchRequest &request, const MakeSteps &steps,
+                                     const JobWatch &watch)
+{
+    return answerOf([&] {
+        return valueOrThrow(commandsOf(readInput(request, watch), request.picture, steps, watch));
+    });
+}
+
+} // namespace PanoHost
