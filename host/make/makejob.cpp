@@ -6,6 +6,7 @@
 #include "host/import/inputcheck.h"
 #include "host/make/makekeys.h"
 #include "host/make/overallprogress.h"
+#include "host/make/plainnames.h"
 #include "host/make/saidlines.h"
 #include "host/make/worklog.h"
 #include "host/model/canvas.h"
@@ -300,7 +301,9 @@ Panorama MakeRun::import(const MakeRequest &request)
                  PtoOptions options;
                  options.ignoreExifRotation = request.import.ignoreExifRotation;
                  options.projectFolder = m_work.path();
-                 const PtoProject project = valueOrThrow(makePtoProject(panorama, options));
+                 Panorama named = panorama;
+                 givePlainNames(named, m_work);
+                 const PtoProject project = valueOrThrow(makePtoProject(named, options));
                  for (const QString &warning : project.warnings) {
                      watch.note(JobWatch::Note::Warning, warning);
                  }
@@ -310,7 +313,9 @@ Panorama MakeRun::import(const MakeRequest &request)
                  return Contents{ panoramaToJson(panorama, m_work.path()), project.text };
              });
     // Numbers are rounded there: every run goes on from the same ones.
-    return valueOrThrow(readPanoramaJson(m_work.path(json)));
+    Panorama panorama = valueOrThrow(readPanoramaJson(m_work.path(json)));
+    givePlainNames(panorama, m_work);
+    return panorama;
 }
 
 PlacedProject MakeRun::place(const MakeRequest &request)
@@ -318,6 +323,7 @@ PlacedProject MakeRun::place(const MakeRequest &request)
     const Panorama panorama = import(request);
     PtoOptions options;
     options.ignoreExifRotation = request.import.ignoreExifRotation;
+    options.projectFolder = m_work.path();
     const PtoFile recorded
         = valueOrThrow(PtoFile::read(m_work.path(QStringLiteral("1_import.pto"))));
     const double photoMegapixels = megapixelsOf(recorded);
