@@ -10,11 +10,13 @@ namespace PanoHost
 const QVector<CommandRow> &commands()
 {
     static const QVector<CommandRow> rows{
+        { "make", "from record and photos to the finished panorama, in one go", runMake },
         { "import", "make a Hugin project from a head's record and photos", runImport },
         { "check", "say what is known about record and photos; writes nothing", runCheck },
         { "sort", "find out which photos of a card belong to which record", runSort },
         { "describe", "print a panorama's description as JSON or as a table", runDescribe },
         { "align", "put every photo exactly where it belongs", runAlign },
+        { "stitch", "make the panorama that a project describes", runStitch },
         { "preview", "save the layout picture of the import page", runPreview },
         { "demo", "photograph a made-up scene, import and stitch it", runDemoCommand },
         { "plugins", "list the import plug-ins found", runPlugins },
@@ -55,7 +57,9 @@ CommandLine generalLine()
           QByteArray("Turns the record of a motorised panoramic head and its photos into a Hugin\n"
                      "project, through the import plug-ins of the XPanoHead library.")
               + list.toUtf8(),
-          "# a record and its photos, to a project for Hugin\n"
+          "# a record and its photos, to the panorama and a page that shows it\n"
+          "panohost make papywizard shoot.xml IMG_*.jpg -o pano.jpg\n"
+          "# to a project for Hugin\n"
           "panohost import papywizard shoot.xml IMG_*.jpg -o shoot.pto\n"
           "# a head without a record: a grid of 4 rows\n"
           "panohost import gigapan IMG_*.jpg --rows 4 -o shoot.pto\n"

@@ -35,6 +35,8 @@ ExitCode runCheck(Session &session, const QStringList &arguments);
 ExitCode runSort(Session &session, const QStringList &arguments);
 ExitCode runDescribe(Session &session, const QStringList &arguments);
 ExitCode runAlign(Session &session, const QStringList &arguments);
+ExitCode runMake(Session &session, const QStringList &arguments);
+ExitCode runStitch(Session &session, const QStringList &arguments);
 ExitCode runPreview(Session &session, const QStringList &arguments);
 ExitCode runDemoCommand(Session &session, const QStringList &arguments);
 ExitCode runPlugins(Session &session, const QStringList &arguments);

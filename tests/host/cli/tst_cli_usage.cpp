@@ -58,8 +58,8 @@ void TestCliUsage::helpTeachesOnEveryLevel_data()
     QTest::addColumn<QString>("line");
     for (const char *line :
          { "--help", "-h", "import --help", "check --help", "sort --help", "describe --help",
-           "preview --help", "plugins --help", "import papywizard --help",
-           "import papywizard r.xml -o --help -h" }) {
+           "preview --help", "plugins --help", "make --help", "stitch --help",
+           "import papywizard --help", "import papywizard r.xml -o --help -h" }) {
         QTest::newRow(line) << QString::fromLatin1(line);
     }
 }

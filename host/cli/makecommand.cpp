@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/cli/alignline.h"
+#include "host/cli/commands.h"
+#include "host/cli/outputs.h"
+#include "host/cli/requestline.h"
+#include "host/cli/stitchline.h"
+#include "host/model/commanderror.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace PanoHost
+{
+
+namespace
+{
+
+CommandLine makeLine()
+{
+    return importingLine(
+        { "panohost make HEAD [RECORD] PHOTO... [-o NAME.jpg]",
+          "From the record and the photos to the finished panorama: checks and imports them\n"
+          "through the head's import page, puts every photo exactly where it belongs,\n"
+          "stitches, and writes NAME.jpg and NAME.html, a page that any browser opens. NAME\n"
+          "is that of the record when -o is not given.\n"
+          "\n"
+          "What each step has made is kept in NAME.work. Stopped by Ctrl-C or a power cut,\n"
+          "the same command goes on from there; with other options it does again only what\n"
+          "they change. Remove NAME.work when you are content.",
+          "# the usual case: pano.jpg and pano.html\n"
+          "panohost make papywizard shoot.xml IMG_*.jpg -o pano.jpg\n"
+          "# a quick look first: the next line goes on from its alignment\n"
+          "panohost make papywizard shoot.xml IMG_*.jpg -o pano.jpg --size 20%\n"
+          "panohost make papywizard shoot.xml IMG_*.jpg -o pano.jpg\n"
+          "# any size, for a web site: a folder of tiles with its page\n"
+          "panohost make gigapan IMG_*.jpg --rows 4 -o town.jpg --deliver picture,zoom\n"
+          "# brackets to the light itself, for 3D programs\n"
+          "panohost make vrdrive2 shoot.xml *.jpg -o room.jpg --output hdr\n"
+          "# how much room and memory would it take?\n"
+          "panohost make papywizard shoot.xml IMG_*.jpg -o pano.tif --dry-run" },
+        stitchOptionRows() + alignOptionRows());
+}
+
+/** Named after the record, of grids after the photos' folder; in the current folder. */
+QString usualPath(const ImportRequest &request)
+{
+    const QString name = request.record.isEmpty()
+        ? QFileInfo(QFileInfo(request.photos.first()).absolutePath()).fileName()
+        : QFileInfo(request.record).completeBaseName();
+    return absolutePath((name.isEmpty() ? QStringLiteral("panorama") : name)
+                        + QStringLiteral(".jpg"));
+}
+
+} // namespace
+
+ExitCode runMake(Session &session, const QStringList &arguments)
+{
+    CommandLine line = makeLine();
+    if (!line.parse(arguments)) {
+        return ExitCode::Done;
+    }
+    applyCommonOptions(session, line);
+    MakeRequest request;
+    request.import = importRequest(session, line);
+    request.align = alignOptions(line);
+    request.picture = pictureWishes(line, usualPath(request.import));
+    request.picture.stitch.jobs = request.align.jobs;
+    const MakeSteps steps = makeSteps(session.app);
+    if (line.isSet(QStringLiteral("dry-run"))) {
+        for (const QString &command : valueOrThrow(makeCommands(request, steps, session.watch()))) {
+            printOut(command + QLatin1Char('\n'));
+        }
+        return ExitCode::Done;
+    }
+    tell(session, makePanorama(request, steps, session.watch()));
+    return ExitCode::Done;
+}
+
+} // namespace PanoHost
