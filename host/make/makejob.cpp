@@ -543,8 +543,12 @@ MakeSteps makeSteps(PanoHostApplication &app)
     steps.needs = &needsOf;
     steps.commands = &stitchCommands;
     steps.stitch = &stitchProject;
-    steps.origin = [](const PtoFile & /*project*/, const StitchedPicture & /*picture*/) {
-        return PictureOrigin();
+    steps.origin = [](const PtoFile &project, const StitchedPicture &picture) {
+        QVector<PhotoView> views;
+        for (const PtoImage &image : project.images()) {
+            views.append({ image.path, image.angles.yaw, image.angles.pitch });
+        }
+        return originOf(views, picture.centreYawDegrees);
     };
     steps.deliver = &deliver;
     return steps;
