@@ -67,12 +67,16 @@ void Console::progress(int done, int total, const QString &text)
     if (m_progress == Progress::None || m_volume == Volume::Quiet) {
         return;
     }
+    const bool plain = m_progress == Progress::Plain;
+    if (plain && done == m_done && total == m_total && text == m_lastText) {
+        return; // whoever waits for a helper program tells several times a second
+    }
+    m_lastText = text;
     const int digits = QString::number(total).size();
     const QByteArray line = QStringLiteral("[%1/%2] %3%4")
                                 .arg(done, digits)
                                 .arg(QString::number(total), onOneLine(text), timeLeft(done, total))
                                 .toUtf8();
-    const bool plain = m_progress == Progress::Plain;
     if (!plain && !progressIsDue()) {
         return;
     }

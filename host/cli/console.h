@@ -50,6 +50,7 @@ private:
     bool m_colored = false;
     bool m_progressShown = false;
     QElapsedTimer m_sinceLastProgress;
+    QString m_lastText; ///< of the progress
     int m_done = 0; ///< of the job that reports, to see where the next begins
     int m_total = 0;
     QElapsedTimer m_sinceStart;
