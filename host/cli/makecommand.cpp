@@ -39,7 +39,13 @@ CommandLine makeLine()
           "panohost make vrdrive2 shoot.xml *.jpg -o room.jpg --output hdr\n"
           "# how much room and memory would it take?\n"
           "panohost make papywizard shoot.xml IMG_*.jpg -o pano.tif --dry-run" },
-        stitchOptionRows() + alignOptionRows());
+        stitchOptionRows()
+            + QVector<OptionRow>{
+                { "--raw-converter", "COMMAND",
+                  "develop RAW files with it first: darktable-cli, rawtherapee-cli, dcraw, or any "
+                  "command with %i for the RAW file and %o for the TIFF" },
+            }
+            + alignOptionRows());
 }
 
 /** Named after the record, of grids after the photos' folder; in the current folder. */
@@ -63,6 +69,7 @@ ExitCode runMake(Session &session, const QStringList &arguments)
     applyCommonOptions(session, line);
     MakeRequest request;
     request.import = importRequest(session, line);
+    request.rawConverter = line.value(QStringLiteral("raw-converter"));
     request.align = alignOptions(line);
     request.picture = pictureWishes(line, usualPath(request.import));
     request.picture.stitch.jobs = request.align.jobs;

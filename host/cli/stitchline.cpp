@@ -119,6 +119,11 @@ void refuseContradictions(const PictureWishes &wishes)
             QStringLiteral("--deliver radiance is the light itself, and needs --output hdr"),
             QStringLiteral("drop one of the two"));
     }
+    if (wishes.stitch.isLinear && wishes.output && *wishes.output != StitchOutput::Hdr) {
+        throw usageError(QStringLiteral("--linear says how brackets become light, and needs "
+                                        "--output hdr"),
+                         QStringLiteral("drop one of the two"));
+    }
 }
 
 } // namespace
@@ -143,7 +148,7 @@ QVector<OptionRow> stitchOptionRows()
         { "--centre", "YAW", "the direction of the head in the middle, degrees" },
         { "--blender", "internal|enblend",
           "internal (default) is quick and sharp; enblend hides seams where light changed", true },
-        { "--linear", nullptr, "the photos' values are light itself, without any curve" },
+        { "--linear", nullptr, "with hdr: the photos' values are light itself, without any curve" },
         { "--jpeg", "QUALITY", "of JPEG files, 1 to 100; 92 when not given" },
         { "--iiif-address", "URL", "where a server will offer the folder of iiif" },
         { "--dry-run", nullptr,

@@ -7,6 +7,7 @@
 #include "host/make/makekeys.h"
 #include "host/make/overallprogress.h"
 #include "host/make/plainnames.h"
+#include "host/make/rawconverter.h"
 #include "host/make/saidlines.h"
 #include "host/make/worklog.h"
 #include "host/model/canvas.h"
@@ -138,6 +139,7 @@ struct PlacedProject {
     PtoFile project;
     int renderMode = -1;
     bool levels = false; ///< has yet to be turned upright
+    bool isLinear = false; ///< of light, whatever is wished
 };
 
 StitchOptions stitchOptions(const PictureWishes &wishes, const PlacedProject &placed)
@@ -145,6 +147,7 @@ StitchOptions stitchOptions(const PictureWishes &wishes, const PlacedProject &pl
     StitchOptions options = wishes.stitch;
     options.output = outputFor(wishes, placed.renderMode, hasBrackets(placed.project));
     options.levels = options.levels || placed.levels;
+    options.isLinear = options.isLinear || placed.isLinear;
     return options;
 }
 
@@ -216,6 +219,7 @@ private:
     void keptStep(int step, const QString &name, const QStringList &files, const QByteArray &key,
                   const std::function<Contents(const JobWatch &watch)> &run);
     [[nodiscard]] Panorama import(const MakeRequest &request);
+    [[nodiscard]] bool develop(int step, Panorama &panorama, const QString &command);
     [[nodiscard]] StitchedPicture stitch(int step, const PtoFile &project,
                                          const StitchOptions &options);
     [[nodiscard]] QStringList deliver(const DeliverJob &job, Delivery kind, const JobWatch &watch);
@@ -267,7 +271,8 @@ void MakeRun::keptStep(int step, const QString &name, const QStringList &files,
                        const std::function<Contents(const JobWatch &watch)> &run)
 {
     const JobWatch watch = begin(step);
-    const QString saidFile = QStringLiteral("%1_said.txt").arg(step + 1);
+    const QString saidFile
+        = files.first().section(QLatin1Char('_'), 0, 0) + QStringLiteral("_said.txt");
     const QStringList all = files + QStringList(saidFile);
     if (std::all_of(all.begin(), all.end(),
                     [&](const QString &file) { return m_work.has(file, key); })) {
@@ -294,7 +299,8 @@ Panorama MakeRun::import(const MakeRequest &request)
     const QString json = QStringLiteral("1_import.json");
     const QByteArray key
         = importKey(request.import, PluginLibrary::fileFor(request.import.pluginPath));
-    keptStep(0, QStringLiteral("import"), { json, QStringLiteral("1_import.pto") }, key,
+    const QString raw = QStringLiteral("1_raw.txt");
+    keptStep(0, QStringLiteral("import"), { json, QStringLiteral("1_import.pto"), raw }, key,
              [&](const JobWatch &watch) {
                  watch.report(0, 1, QStringLiteral("reading record and photos"));
                  Panorama panorama = valueOrThrow(m_steps.import(request.import, watch));
@@ -310,37 +316,69 @@ Panorama MakeRun::import(const MakeRequest &request)
                  panorama.warnings += project.warnings;
                  panorama.project = ProjectReference{ m_work.path(QStringLiteral("1_import.pto")),
                                                       project.yawCentreDegrees };
-                 return Contents{ panoramaToJson(panorama, m_work.path()), project.text };
+                 return Contents{ panoramaToJson(panorama, m_work.path()), project.text,
+                                  rawMarks(panorama) };
              });
     // Numbers are rounded there: every run goes on from the same ones.
     Panorama panorama = valueOrThrow(readPanoramaJson(m_work.path(json)));
-    givePlainNames(panorama, m_work);
+    constexpr qint64 kMostMarks = 1LL << 24;
+    setRawMarks(panorama, valueOrThrow(readRegularFile(m_work.path(raw), kMostMarks)));
     return panorama;
+}
+
+/** Puts TIFFs in the place of RAW files; answers whether they hold light. */
+bool MakeRun::develop(int step, Panorama &panorama, const QString &command)
+{
+    const int count = rawCount(panorama);
+    if (count == 0) {
+        return false;
+    }
+    if (command.isEmpty()) {
+        throw inputRefused(QStringLiteral("photos"),
+                           QStringLiteral("%1 of them are RAW files").arg(count),
+                           QStringLiteral("add --raw-converter darktable-cli, rawtherapee-cli or "
+                                          "dcraw, or give JPEGs or TIFFs of them"));
+    }
+    const bool wantsLight
+        = outputFor(m_wishes, panorama.description.renderMode, false) == StitchOutput::Hdr;
+    const RawConverter converter = valueOrThrow(rawConverterNamed(command, wantsLight));
+    const JobWatch watch = begin(step);
+    m_log.add(QStringLiteral("$ ")
+              + (QStringList(converter.program) + converter.arguments).join(QLatin1Char(' ')));
+    developPhotos(panorama, converter, m_work, watch);
+    return converter.isLinear;
 }
 
 PlacedProject MakeRun::place(const MakeRequest &request)
 {
-    const Panorama panorama = import(request);
+    Panorama panorama = import(request);
+    int step = 1;
+    bool isLinear = false;
+    if (!request.rawConverter.isEmpty() || rawCount(panorama) > 0) {
+        isLinear = develop(step, panorama, request.rawConverter);
+        ++step;
+    }
+    givePlainNames(panorama, m_work);
     PtoOptions options;
     options.ignoreExifRotation = request.import.ignoreExifRotation;
     options.projectFolder = m_work.path();
-    const PtoFile recorded
-        = valueOrThrow(PtoFile::read(m_work.path(QStringLiteral("1_import.pto"))));
+    const PtoFile recorded = valueOrThrow(projectOf(panorama, options));
     const double photoMegapixels = megapixelsOf(recorded);
-    m_progress.expect(1, alignSeconds(recorded.images().size(), photoMegapixels));
+    m_progress.expect(step, alignSeconds(recorded.images().size(), photoMegapixels));
     const QSize canvas = recorded.canvas().size;
-    m_progress.expect(2, stitchSeconds(photoMegapixels, canvas));
-    m_progress.expect(3, deliverSeconds(usualCount(m_wishes.kinds), canvas));
+    m_progress.expect(step + 1, stitchSeconds(photoMegapixels, canvas));
+    m_progress.expect(step + 2, deliverSeconds(usualCount(m_wishes.kinds), canvas));
     if (panorama.description.skipOptimization) {
         note(JobWatch::Note::Info,
              QStringLiteral("photos stay where the head says: optimisation is skipped"));
-        return { recorded, panorama.description.renderMode, request.align.levels.value_or(false) };
+        return { recorded, panorama.description.renderMode, request.align.levels.value_or(false),
+                 isLinear };
     }
     const QString project = QStringLiteral("2_aligned.pto");
     const QByteArray key = alignKey(panoramaToJson(panorama, {}), options.ignoreExifRotation,
                                     request.align, photosOf(recorded));
-    keptStep(1, QStringLiteral("alignment"), { project, QStringLiteral("2_alignment.json") }, key,
-             [&](const JobWatch &watch) {
+    keptStep(step, QStringLiteral("alignment"), { project, QStringLiteral("2_alignment.json") },
+             key, [&](const JobWatch &watch) {
                  const Alignment aligned
                      = valueOrThrow(m_steps.align(panorama, options, request.align, watch));
                  for (const QString &sentence : sentences(aligned.report)) {
@@ -349,7 +387,8 @@ PlacedProject MakeRun::place(const MakeRequest &request)
                  return Contents{ valueOrThrow(aligned.project.text(m_work.path())),
                                   alignmentToJson(aligned.report, m_work.path()) };
              });
-    return { valueOrThrow(PtoFile::read(m_work.path(project))), panorama.description.renderMode };
+    return { valueOrThrow(PtoFile::read(m_work.path(project))), panorama.description.renderMode,
+             false, isLinear };
 }
 
 StitchedPicture MakeRun::stitch(int step, const PtoFile &project, const StitchOptions &options)
@@ -496,12 +535,17 @@ QVector<OverallProgress::Step> allSteps(const MakeRequest &request)
     const int photos = request.import.photos.size();
     const double photoMegapixels = kMegapixelsOfUnknownPhotos * photos;
     const QSize unknownCanvas(8192, 4096);
-    return QVector<OverallProgress::Step>{
-        { importSeconds(photos), { 0.9 } },
-        // Features, matches, places, matches again, places again, light.
-        { alignSeconds(photos, photoMegapixels), { 0.5, 0.2, 0.05, 0.15, 0.05, 0.04 } },
+    QVector<OverallProgress::Step> steps;
+    steps.append(OverallProgress::Step{ importSeconds(photos), { 0.9 } });
+    if (!request.rawConverter.isEmpty()) {
+        constexpr double kSecondsOfRawFile = 8.0;
+        steps.append(OverallProgress::Step{ kSecondsOfRawFile * photos, { 1.0 } });
     }
-    + stitchingSteps(photoMegapixels, unknownCanvas, usualCount(request.picture.kinds));
+    // Features, matches, places, matches again, places again, light.
+    steps.append(OverallProgress::Step{ alignSeconds(photos, photoMegapixels),
+                                        { 0.5, 0.2, 0.05, 0.15, 0.05, 0.04 } });
+    return steps
+        + stitchingSteps(photoMegapixels, unknownCanvas, usualCount(request.picture.kinds));
 }
 
 } // namespace
@@ -560,9 +604,12 @@ Result<QStringList> makePanorama(const MakeRequest &request, const MakeSteps &st
     return resumableAnswerOf(workFolderOf(request.picture.path), watch, [&] {
         requireWritable(request.picture.path,
                         QStringList(request.import.record) + request.import.photos);
+        if (!request.rawConverter.isEmpty()) { // nothing is begun with a wrong one
+            (void)valueOrThrow(rawConverterNamed(request.rawConverter, false));
+        }
         MakeRun run(request.picture, steps, watch, allSteps(request));
         const PlacedProject placed = run.place(request);
-        return run.stitchAndDeliver(2, placed);
+        return run.stitchAndDeliver(request.rawConverter.isEmpty() ? 2 : 3, placed);
     });
 }
 

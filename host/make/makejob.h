@@ -35,6 +35,7 @@ struct PictureWishes {
 /** From record and photos. */
 struct MakeRequest {
     ImportRequest import;
+    QString rawConverter; ///< as `rawConverterNamed` takes it; empty: none
     AlignOptions align;
     PictureWishes picture;
 };

@@ -154,6 +154,8 @@ private Q_SLOTS:
     void outputFollowsWishesPageAndBrackets_data();
     void outputFollowsWishesPageAndBrackets();
     void lightIsDeliveredAsLightToo();
+    void rawFilesAreDevelopedFirst();
+    void rawFilesNeedAConverter();
     void progressIsOneOfAllSteps();
     void folderOfSomethingElseIsRefused();
     void folderInUseIsRefused();
@@ -396,6 +398,43 @@ void TestMakeJob::lightIsDeliveredAsLightToo()
     m_fake.panorama.description.renderMode = 3;
     QVERIFY(make().ok());
     QCOMPARE(calls(), QStringLiteral("import align stitch picture html radiance"));
+}
+
+void TestMakeJob::rawFilesAreDevelopedFirst()
+{
+    const QString tiff = file(QStringLiteral("made.tif"));
+    QVERIFY(TestPhotos::quarters(QSize(60, 40)).save(tiff, "TIFF"));
+    PhotoInfo &photo = m_fake.panorama.positions[1].photos[0];
+    photo.path = TestPhotos::writeFile(file(QStringLiteral("b.NEF")), "raw");
+    photo.isRaw = true;
+    m_request.rawConverter = QStringLiteral("sh -c \"echo x >> '%1'; cp '%2' $1\" %i %o")
+                                 .arg(file(QStringLiteral("count")), tiff);
+    for (int run = 0; run < 2; ++run) {
+        Said said;
+        const auto made = make(&said);
+        QVERIFY2(made.ok(), made.ok() ? "" : qPrintable(made.error().text()));
+        QVERIFY(std::is_sorted(said.progress.begin(), said.progress.end()));
+        QCOMPARE(QFileInfo(file(QStringLiteral("count"))).size(), 2); // once
+    }
+    QCOMPARE(calls(), QString());
+    const auto project = PtoFile::read(work(QStringLiteral("2_aligned.pto")));
+    QVERIFY(project.ok());
+    QCOMPARE(project.value().images().at(1).path, work(QStringLiteral("developed/00001.tif")));
+    QCOMPARE(project.value().images().at(1).size, QSize(60, 40));
+}
+
+void TestMakeJob::rawFilesNeedAConverter()
+{
+    m_fake.panorama.positions[1].photos[0].isRaw = true;
+    const auto made = make();
+    QVERIFY(!made.ok());
+    QVERIFY2(made.error().text().startsWith(
+                 QStringLiteral("photos: 1 of them are RAW files; add --raw-converter ")),
+             qPrintable(made.error().text()));
+    QCOMPARE(calls(), QStringLiteral("import"));
+    m_request.rawConverter = QStringLiteral("nonsense");
+    QVERIFY(!make().ok());
+    QCOMPARE(calls(), QString());
 }
 
 void TestMakeJob::progressIsOneOfAllSteps()

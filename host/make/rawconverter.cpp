@@ -1,0 +1,203 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/make/rawconverter.h"
+
+#include "host/model/displayname.h"
+#include "host/model/jobwatch.h"
+#include "host/model/photofile.h"
+#include "host/stitch/toolrun.h"
+#include "host/stitch/workfolder.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QProcess>
+
+#include <algorithm>
+
+namespace PanoHost
+{
+namespace
+{
+
+const QString kInput = QStringLiteral("%i");
+const QString kOutput = QStringLiteral("%o");
+const QString kDcrawsLight = QStringLiteral("-4");
+const QString kDarktablesLight = QStringLiteral("LIN_REC709"); // of sRGB's primaries
+
+QStringList words(const char *line)
+{
+    return QString::fromLatin1(line).split(QLatin1Char(' '));
+}
+
+/** Brightness is never adjusted to the picture: photos are to go together. */
+std::optional<QStringList> knownArguments(const QString &program, bool wantsLight)
+{
+    const QString name = QFileInfo(program).fileName();
+    if (name == QLatin1String("dcraw")) { // the camera's white balance, sRGB's primaries
+        return wantsLight ? words("-w -o 1 -4 -T %i") : words("-w -o 1 -6 -W -g 2.4 12.92 -T %i");
+    }
+    if (name == QLatin1String("rawtherapee-cli")) { // without a profile nothing is embellished
+        return words("-o %o -b16 -t -Y -c %i");
+    }
+    if (name == QLatin1String("darktable-cli")) {
+        QStringList arguments = words("%i %o --icc-type SRGB --apply-custom-presets false --core "
+                                      "--library :memory: --conf plugins/darkroom/workflow=none "
+                                      "--conf plugins/imageio/format/tiff/bpp=16");
+        if (wantsLight) {
+            arguments.replace(arguments.indexOf(QStringLiteral("SRGB")), kDarktablesLight);
+        }
+        return arguments;
+    }
+    return {};
+}
+
+Failure notAConverter(const QString &command, const QString &why)
+{
+    return { ExitCode::Usage, QStringLiteral("--raw-converter %1").arg(command), why,
+             QStringLiteral("name dcraw, darktable-cli or rawtherapee-cli, or a command with %i "
+                            "for the RAW file and %o for the TIFF") };
+}
+
+Result<QString> programOf(const RawConverter &converter)
+{
+    if (QFileInfo(converter.program).isAbsolute()) {
+        return converter.program;
+    }
+    if (converter.program.contains(QLatin1Char('/'))) {
+        return QDir().absoluteFilePath(converter.program);
+    }
+    Result<QString> found = findTool(converter.program);
+    if (found) {
+        return found;
+    }
+    return Failure{ ExitCode::ToolMissing, converter.program,
+                    QStringLiteral("this RAW converter was not found"),
+                    QStringLiteral("is its name right? of those known: apt install darktable, "
+                                   "rawtherapee or dcraw") };
+}
+
+/** One RAW file, by a plain name in the work folder, where the program runs. */
+Result<QString> develop(const QString &program, const RawConverter &converter, const QString &raw,
+                        const QString &part, const WorkFolder &work, const JobWatch &watch)
+{
+    const QFileInfo tiff(part);
+    const QString link = tiff.dir().filePath(QStringLiteral("raw-") + tiff.completeBaseName()
+                                             + QLatin1Char('.') + QFileInfo(raw).suffix());
+    QFile::remove(link);
+    if (!QFile::link(raw, link)) {
+        return Failure{ ExitCode::ToolFailed, displayName(link),
+                        QStringLiteral("this link to a photo cannot be made"),
+                        QStringLiteral("make the panorama on a disk that holds links") };
+    }
+    QStringList arguments = converter.arguments;
+    for (QString &argument : arguments) {
+        argument.replace(kInput, QDir(work.path()).relativeFilePath(link));
+        argument.replace(kOutput, QDir(work.path()).relativeFilePath(part));
+    }
+    const Result<QString> run = runTool(program, arguments, work.path(), watch);
+    QFile::remove(link);
+    if (!run) {
+        return run.error();
+    }
+    const QFileInfo file(link);
+    QFile::rename(file.dir().filePath(file.completeBaseName() + QStringLiteral(".tiff")), part);
+    if (isDamaged(part)) {
+        return Failure{ ExitCode::ToolFailed, QFileInfo(program).fileName(),
+                        QStringLiteral("it left no whole picture of %1").arg(displayName(raw)),
+                        QStringLiteral("can it read this camera's files? is the disk full?") };
+    }
+    return part;
+}
+
+} // namespace
+
+Result<RawConverter> rawConverterNamed(const QString &command, bool wantsLight)
+{
+    QStringList parts = QProcess::splitCommand(command);
+    if (parts.isEmpty()) {
+        return notAConverter(command, QStringLiteral("names no program"));
+    }
+    RawConverter converter;
+    converter.program = parts.takeFirst();
+    const std::optional<QStringList> known = knownArguments(converter.program, wantsLight);
+    if (parts.isEmpty() && known) {
+        converter.arguments = *known;
+        converter.isLinear = known->contains(kDcrawsLight) || known->contains(kDarktablesLight);
+        return converter;
+    }
+    const QString all = parts.join(QLatin1Char(' '));
+    if (!all.contains(kInput) || !all.contains(kOutput)) {
+        return notAConverter(command, QStringLiteral("does not say where its files go"));
+    }
+    converter.arguments = parts;
+    return converter;
+}
+
+int rawCount(const Panorama &panorama)
+{
+    int count = 0;
+    for (const Position &position : panorama.positions) {
+        count
+            += static_cast<int>(std::count_if(position.photos.begin(), position.photos.end(),
+                                              [](const PhotoInfo &photo) { return photo.isRaw; }));
+    }
+    return count;
+}
+
+QByteArray rawMarks(const Panorama &panorama)
+{
+    QByteArray marks;
+    for (const Position &position : panorama.positions) {
+        for (const PhotoInfo &photo : position.photos) {
+            marks += photo.isRaw ? '1' : '0';
+        }
+    }
+    return marks;
+}
+
+void setRawMarks(Panorama &panorama, const QByteArray &marks)
+{
+    int photoNumber = 0;
+    for (Position &position : panorama.positions) {
+        for (PhotoInfo &photo : position.photos) {
+            photo.isRaw = photoNumber < marks.size() && marks.at(photoNumber) == '1';
+            ++photoNumber;
+        }
+    }
+}
+
+void developPhotos(Panorama &panorama, const RawConverter &converter, const WorkFolder &work,
+                   const JobWatch &watch)
+{
+    const int total = rawCount(panorama);
+    const QString program = valueOrThrow(programOf(converter));
+    const QByteArray command
+        = (QStringList(program) + converter.arguments).join(QLatin1Char('\n')).toUtf8()
+        + stampOf(program);
+    int number = 0;
+    for (Position &position : panorama.positions) {
+        for (PhotoInfo &photo : position.photos) {
+            if (!photo.isRaw) {
+                continue;
+            }
+            watch.check();
+            watch.report(number, total,
+                         QStringLiteral("developing %1").arg(QFileInfo(photo.path).fileName()));
+            const QString name
+                = QStringLiteral("developed/%1.tif").arg(++number, 5, 10, QLatin1Char('0'));
+            const QByteArray key = command + photo.path.toUtf8() + '\n' + stampOf(photo.path);
+            const QString raw = photo.path;
+            photo.path = valueOrThrow(work.make(name, key, [&](const QString &part) {
+                return develop(program, converter, raw, part, work, watch);
+            }));
+            // Converters turn photos upright, and cut their edges.
+            const PhotoInfo developed = valueOrThrow(readPhotoInfo(photo.path));
+            photo.storedSize = developed.storedSize;
+            photo.orientation = developed.orientation;
+            photo.isRaw = false;
+        }
+    }
+    watch.report(total, total, QStringLiteral("developing photos"));
+}
+
+} // namespace PanoHost
