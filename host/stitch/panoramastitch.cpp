@@ -19,6 +19,7 @@
 #include <QStorageInfo>
 
 #include <atomic>
+#include <utility>
 
 namespace PanoHost
 {
@@ -33,6 +34,11 @@ QString stemOf(const QString &path)
 {
     const int dot = path.lastIndexOf(QLatin1Char('.'));
     return path.left(dot);
+}
+
+QString blenderName(Blender blender)
+{
+    return blender == Blender::Internal ? QStringLiteral("verdandi") : QStringLiteral("enblend");
 }
 
 QString withoutFolder(const QString &work, const QString &path)
@@ -59,6 +65,10 @@ private:
         QByteArray stamp; ///< another version makes another picture
     };
     void findTools();
+    [[nodiscard]] Tool blender() const
+    {
+        return m_tools.value(blenderName(m_plan.options.blender));
+    }
     void checkPhotos() const;
     void linkPhotos();
     void checkRoom() const;
@@ -66,15 +76,15 @@ private:
     void call(const Tool &tool, const QStringList &arguments) const;
     void makeLight(int bracket);
     void warp(int index);
-    void fuse(int index);
-    void blend();
+    void blend(int layer);
+    void fuse();
     void finish();
     QString make(const QString &name, const QByteArray &source,
                  const std::function<void(const QString &part)> &maker) const;
     [[nodiscard]] QByteArray photoKey(int image) const;
-    [[nodiscard]] QByteArray lightKey(const StitchBracket &bracket) const;
+    [[nodiscard]] QByteArray lightKey(const StitchLight &light) const;
     [[nodiscard]] QByteArray warpKey(int index) const;
-    [[nodiscard]] QByteArray fusionKey(int index) const;
+    [[nodiscard]] QByteArray layerKey(const StitchLayer &layer) const;
     [[nodiscard]] QByteArray blendKey() const;
     [[nodiscard]] QByteArray pictureKey() const;
     [[nodiscard]] qint64 doneBytes() const;
@@ -89,9 +99,8 @@ private:
 void Run::findTools()
 {
     QStringList names{ QStringLiteral("nona"), QStringLiteral("vips"),
-                       m_plan.options.blender == Blender::Internal ? QStringLiteral("verdandi")
-                                                                   : QStringLiteral("enblend") };
-    if (!m_plan.fusions.isEmpty()) {
+                       blenderName(m_plan.options.blender) };
+    if (m_plan.isFused()) {
         names += QStringLiteral("enfuse");
     }
     for (const QString &name : qAsConst(names)) {
@@ -145,14 +154,14 @@ qint64 Run::doneBytes() const
 {
     qint64 bytes = 0;
     const auto add = [&](const QString &name) { bytes += QFileInfo(m_work.path(name)).size(); };
-    for (const StitchBracket &light : m_plan.lights) {
+    for (const StitchLight &light : m_plan.lights) {
         add(light.joined);
     }
     for (const StitchWarp &warp : m_plan.warps) {
         add(warp.warped);
     }
-    for (const StitchBracket &fusion : m_plan.fusions) {
-        add(fusion.joined);
+    for (const StitchLayer &layer : m_plan.layers) {
+        add(layer.blended);
     }
     add(kBlended);
     add(kPanorama);
@@ -170,13 +179,16 @@ void Run::checkRoom() const
 
 void Run::inParallel(int steps, const QString &text, const std::function<void(int)> &step)
 {
+    int told = -1;
     const auto follow = [&](int done) {
         m_stops = m_watch.stopWanted();
-        m_watch.report(done, steps, text);
+        if (std::exchange(told, done) != done) {
+            m_watch.report(done, steps, text);
+        }
     };
     if (steps > 0) {
         forEachRow(steps, step, m_plan.options.jobs, follow);
-        m_watch.report(steps, steps, text);
+        follow(steps);
     }
 }
 
@@ -217,11 +229,11 @@ QByteArray Run::photoKey(int image) const
     return path.toUtf8() + '\n' + stampOf(path) + '\n';
 }
 
-QByteArray Run::lightKey(const StitchBracket &bracket) const
+QByteArray Run::lightKey(const StitchLight &light) const
 {
     QByteArray key = m_plan.options.isLinear ? "linear\n" : "sRGB\n";
     key += QByteArray::number(m_plan.lightScale) + '\n';
-    for (const int image : bracket.levels) {
+    for (const int image : light.images) {
         const Vignetting v = m_plan.layout.project.vignettingOf(image);
         key += photoKey(image);
         for (const double number : { m_plan.gainOf(image), v.b, v.c, v.d }) {
@@ -236,27 +248,26 @@ QByteArray Run::warpKey(int index) const
     const StitchWarp &warp = m_plan.warps.at(index);
     const QByteArray source
         = m_plan.lights.isEmpty() ? photoKey(warp.image) : lightKey(m_plan.lights.at(index));
-    return m_tools[QStringLiteral("nona")].stamp + warp.projectText + source;
+    return m_tools.value(QStringLiteral("nona")).stamp + warp.projectText + source;
 }
 
-QByteArray Run::fusionKey(int index) const
+QByteArray Run::layerKey(const StitchLayer &layer) const
 {
-    QByteArray key = m_tools[QStringLiteral("enfuse")].stamp;
-    for (const int warp : m_plan.fusions.at(index).levels) {
+    QByteArray key = blender().stamp
+        + blendArguments(m_plan, layer, QString()).join(QLatin1Char('\n')).toUtf8();
+    for (const int warp : layer.warps) {
         key += warpKey(warp);
     }
     return key;
 }
 
+/** Of what is left when everything is one picture. */
 QByteArray Run::blendKey() const
 {
-    QByteArray key;
-    for (const Tool &tool : m_tools) {
-        key += tool.stamp;
-    }
-    key += blendArguments(m_plan, QString()).join(QLatin1Char('\n')).toUtf8();
-    for (int index = 0; index < m_plan.warps.size(); ++index) {
-        key += warpKey(index);
+    QByteArray key
+        = m_plan.isFused() ? m_tools.value(QStringLiteral("enfuse")).stamp : QByteArray();
+    for (const StitchLayer &layer : m_plan.layers) {
+        key += layerKey(layer);
     }
     return key;
 }
@@ -264,7 +275,7 @@ QByteArray Run::blendKey() const
 QByteArray Run::pictureKey() const
 {
     const QRect &area = m_plan.layout.area;
-    QByteArray key = blendKey();
+    QByteArray key = m_tools.value(QStringLiteral("vips")).stamp + blendKey();
     for (const int number : { area.x(), area.y(), area.width(), area.height() }) {
         key += QByteArray::number(number) + ' ';
     }
@@ -273,17 +284,17 @@ QByteArray Run::pictureKey() const
 
 void Run::makeLight(int bracket)
 {
-    const StitchBracket &light = m_plan.lights.at(bracket);
+    const StitchLight &light = m_plan.lights.at(bracket);
     make(light.joined, lightKey(light), [&](const QString &part) {
         QVector<HdrLevel> levels;
-        for (const int image : light.levels) {
+        for (const int image : light.images) {
             const QString pixels = stemOf(part) + QStringLiteral("-%1.v").arg(image);
-            call(m_tools[QStringLiteral("vips")],
+            call(m_tools.value(QStringLiteral("vips")),
                  { QStringLiteral("copy"), m_plan.photos.at(image), pixels });
             levels += { m_work.path(pixels), m_plan.gainOf(image) / m_plan.lightScale };
         }
         const HdrCurve curve{ m_plan.options.isLinear,
-                              m_plan.layout.project.vignettingOf(light.levels.first()) };
+                              m_plan.layout.project.vignettingOf(light.images.first()) };
         const Result<QString> merged = mergeLevels(levels, curve, m_work.path(part));
         for (const HdrLevel &level : qAsConst(levels)) {
             QFile::remove(level.path);
@@ -297,7 +308,7 @@ void Run::warp(int index)
     const StitchWarp &warp = m_plan.warps.at(index);
     make(warp.warped, warpKey(index), [&](const QString &part) {
         (void)valueOrThrow(writeFileAtomically(m_work.path(warp.project), warp.projectText));
-        call(m_tools[QStringLiteral("nona")], warpArguments(warp, stemOf(part)));
+        call(m_tools.value(QStringLiteral("nona")), warpArguments(warp, stemOf(part)));
         // nona numbers what it makes.
         const QString made = m_work.path(stemOf(part) + QStringLiteral("0000.tif"));
         if (!QFile::rename(made, m_work.path(part))) {
@@ -310,21 +321,20 @@ void Run::warp(int index)
     });
 }
 
-void Run::fuse(int index)
+void Run::blend(int layer)
 {
-    const StitchBracket &fusion = m_plan.fusions.at(index);
-    make(fusion.joined, fusionKey(index), [&](const QString &part) {
-        call(m_tools[QStringLiteral("enfuse")], fuseArguments(m_plan, fusion, part));
+    const StitchLayer &photos = m_plan.layers.at(layer);
+    make(photos.blended, layerKey(photos), [&](const QString &part) {
+        (void)valueOrThrow(
+            runTool(blender().path, blendArguments(m_plan, photos, part), m_work.path(), m_watch));
     });
 }
 
-void Run::blend()
+void Run::fuse()
 {
     make(kBlended, blendKey(), [&](const QString &part) {
-        const bool isInternal = m_plan.options.blender == Blender::Internal;
-        const QString name = isInternal ? QStringLiteral("verdandi") : QStringLiteral("enblend");
-        (void)valueOrThrow(
-            runTool(m_tools[name].path, blendArguments(m_plan, part), m_work.path(), m_watch));
+        (void)valueOrThrow(runTool(m_tools.value(QStringLiteral("enfuse")).path,
+                                   fuseArguments(m_plan, part), m_work.path(), m_watch));
     });
 }
 
@@ -336,7 +346,7 @@ void Run::finish()
         const QRect place = tiffPlace(m_work.path(kBlended)).value_or(area);
         const bool isLight = m_plan.depth == StitchedPicture::Depth::Radiance;
         const QString placed = isLight ? stemOf(part) + QStringLiteral("-scaled.v") : part;
-        const Tool &vips = m_tools[QStringLiteral("vips")];
+        const Tool &vips = m_tools.value(QStringLiteral("vips"));
         call(vips,
              // Behind "--" a number below 0 is no option.
              { QStringLiteral("embed"), QStringLiteral("--"), kBlended, placed,
@@ -362,12 +372,19 @@ StitchedPicture Run::run()
                [this](int bracket) { makeLight(bracket); });
     inParallel(m_plan.warps.size(), QStringLiteral("warping photos with nona"),
                [this](int index) { warp(index); });
-    inParallel(m_plan.fusions.size(), QStringLiteral("fusing brackets with enfuse"),
-               [this](int index) { fuse(index); });
-    m_watch.report(0, 1, QStringLiteral("blending"));
-    blend();
+    // One after the other, each may take all the memory that there is.
+    const int pictures = m_plan.layers.size() + (m_plan.isFused() ? 1 : 0);
+    for (int layer = 0; layer < m_plan.layers.size(); ++layer) {
+        m_watch.report(layer, pictures, QStringLiteral("blending"));
+        blend(layer);
+    }
+    if (m_plan.isFused()) {
+        m_watch.report(m_plan.layers.size(), pictures,
+                       QStringLiteral("fusing brackets with enfuse"));
+        fuse();
+    }
     finish();
-    m_watch.report(1, 1, QStringLiteral("blending"));
+    m_watch.report(pictures, pictures, QStringLiteral("blending"));
     const StitchLayout &layout = m_plan.layout;
     StitchedPicture picture;
     picture.path = m_work.path(kPanorama);
@@ -422,12 +439,12 @@ Result<QStringList> stitchCommands(const PtoFile &project, const StitchOptions &
     for (const StitchWarp &warp : plan.warps) {
         add(QStringLiteral("nona"), warpArguments(warp, stemOf(warp.warped)));
     }
-    for (const StitchBracket &fusion : plan.fusions) {
-        add(QStringLiteral("enfuse"), fuseArguments(plan, fusion, fusion.joined));
+    for (const StitchLayer &layer : plan.layers) {
+        add(blenderName(options.blender), blendArguments(plan, layer, layer.blended));
     }
-    add(options.blender == Blender::Internal ? QStringLiteral("verdandi")
-                                             : QStringLiteral("enblend"),
-        blendArguments(plan, kBlended));
+    if (plan.isFused()) {
+        add(QStringLiteral("enfuse"), fuseArguments(plan, kBlended));
+    }
     return commands;
 }
 

@@ -20,11 +20,12 @@ qint64 pixelsOf(const QSize &size)
     return static_cast<qint64>(size.width()) * size.height();
 }
 
-/** nona keeps the photo, what comes out and both with alpha; measured. */
-constexpr qint64 kWarpCopies = 2;
-/** Bytes a pixel of the canvas, beside the picture itself: measured. */
-constexpr qint64 kSeamBytes = 8;
-constexpr qint64 kPyramidCopies = 6;
+/* Measured with 2,048 and 8,192 pixels of width: what the tools hold at a time, in copies of what
+ * they read or write. */
+constexpr qint64 kWarpCopies = 2; ///< of photo and result: nona
+constexpr qint64 kSeamBytes = 5; ///< a pixel, beside the picture itself: verdandi, 8.4 in all
+constexpr qint64 kPyramidCopies = 4; ///< enblend, 10 bytes a pixel where little overlaps
+constexpr qint64 kFusionCopies = 10; ///< enfuse, 37 bytes a pixel
 constexpr qint64 kProgramBytes = 60LL << 20;
 
 } // namespace
@@ -44,18 +45,14 @@ StitchNeeds needsOf(const StitchPlan &plan)
         }
         largestWarp = std::max(largestWarp, (pixels + photo) * perPixel * kWarpCopies);
     }
-    for (const StitchBracket &fusion : plan.fusions) {
-        needs.diskBytes
-            += pixelsOf(layout.boundsOf(plan.warps.at(fusion.levels.first()).image).size())
-            * perPixel;
-    }
     // The blended picture, cropped and padded, and once more while it is delivered.
     constexpr qint64 kFinalCopies = 3;
     const qint64 picture = pixelsOf(layout.area.size());
-    needs.diskBytes += kFinalCopies * picture * perPixel;
-    const qint64 perBlendedPixel = plan.options.blender == Blender::Enblend
-        ? kPyramidCopies * perPixel
-        : perPixel + kSeamBytes;
+    const qint64 layers = plan.isFused() ? plan.layers.size() : 0;
+    needs.diskBytes += (kFinalCopies + layers) * picture * perPixel;
+    const qint64 perBlendedPixel = plan.isFused()  ? kFusionCopies * perPixel
+        : plan.options.blender == Blender::Enblend ? kPyramidCopies * perPixel
+                                                   : perPixel + kSeamBytes;
     const int jobs = std::min(threadCount(plan.options.jobs), plan.warps.size());
     needs.memoryBytes = std::max({ jobs * (largestWarp + kProgramBytes),
                                    picture * perBlendedPixel + largestWarp + kProgramBytes });

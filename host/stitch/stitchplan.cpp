@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <vector>
 
 namespace PanoHost
 {
@@ -44,8 +45,8 @@ double lightScaleOf(const StitchPlan &plan)
 {
     constexpr double kDarkestCorner = 0.05;
     double most = 1.0;
-    for (const StitchBracket &bracket : plan.lights) {
-        for (const int image : bracket.levels) {
+    for (const StitchLight &light : plan.lights) {
+        for (const int image : light.images) {
             const Vignetting v = plan.layout.project.vignettingOf(image);
             const double corner = std::clamp(1.0 + v.b + v.c + v.d, kDarkestCorner, 1.0);
             most = std::max(most, plan.gainOf(image) / corner);
@@ -95,25 +96,67 @@ StitchedPicture::Depth depthOf(const PtoFile &project, const StitchOptions &opti
         : StitchedPicture::Depth::Bits8;
 }
 
-void addLight(StitchPlan &plan, const QVector<int> &stack)
+/** The exposures of whole brackets, stops from the reference. */
+std::vector<double> levelsOf(const StitchLayout &layout)
 {
-    plan.lights += StitchBracket{ stack, tiffOf("light", stack.first()) };
+    const auto whole = std::max_element(
+        layout.stacks.cbegin(), layout.stacks.cend(),
+        [](const QVector<int> &a, const QVector<int> &b) { return a.size() < b.size(); });
+    std::vector<double> levels;
+    for (const int image : *whole) {
+        levels.push_back(layout.exposureOf(image) - layout.exposureOf(whole->first()));
+    }
+    return levels;
 }
 
-void addWarps(StitchPlan &plan, const QVector<int> &stack)
+/** Which of \p levels each photo of \p stack is; of a bracket that is not whole, by its exposure.
+ */
+int levelOf(const StitchLayout &layout, const QVector<int> &stack, int index,
+            const std::vector<double> &levels)
 {
-    StitchBracket fusion;
-    for (const int image : stack) {
-        fusion.levels += plan.warps.size();
-        plan.warps += warpOf(plan, image, stack.first());
+    if (stack.size() == static_cast<int>(levels.size())) {
+        return index;
     }
-    if (stack.size() == 1) {
-        plan.layers += plan.warps.constLast().warped;
-        return;
+    const double stops = layout.exposureOf(stack.at(index)) - layout.exposure;
+    const auto nearest
+        = std::min_element(levels.cbegin(), levels.cend(), [stops](double a, double b) {
+              return std::abs(a - stops) < std::abs(b - stops);
+          });
+    return static_cast<int>(nearest - levels.cbegin());
+}
+
+void addLight(StitchPlan &plan, const QVector<int> &stack)
+{
+    plan.lights += StitchLight{ stack, tiffOf("light", stack.first()) };
+    plan.layers.first().warps += plan.warps.size();
+    plan.warps += warpOf(plan, stack.first(), stack.first());
+}
+
+void addLevels(StitchPlan &plan, const QVector<int> &stack, const std::vector<double> &levels)
+{
+    for (int i = 0; i < stack.size(); ++i) {
+        plan.layers[levelOf(plan.layout, stack, i, levels)].warps += plan.warps.size();
+        plan.warps += warpOf(plan, stack.at(i), stack.first());
     }
-    fusion.joined = tiffOf("fused", stack.first());
-    plan.layers += fusion.joined;
-    plan.fusions += fusion;
+}
+
+/** One panorama for each level, to be fused as a whole: so brackets meet without seams. */
+void addLayers(StitchPlan &plan)
+{
+    const bool isLight = plan.options.output == StitchOutput::Hdr;
+    const std::vector<double> levels = isLight ? std::vector<double>(1) : levelsOf(plan.layout);
+    plan.layers.resize(static_cast<int>(levels.size()));
+    for (int level = 0; level < plan.layers.size(); ++level) {
+        plan.layers[level].blended
+            = plan.isFused() ? tiffOf("layers", level) : QStringLiteral("blended.tif");
+    }
+    for (const QVector<int> &stack : qAsConst(plan.layout.stacks)) {
+        if (isLight) {
+            addLight(plan, stack);
+        } else {
+            addLevels(plan, stack, levels);
+        }
+    }
 }
 
 } // namespace
@@ -152,14 +195,7 @@ Result<StitchPlan> planStitch(const PtoFile &project, const StitchOptions &optio
                 = numbered("photos", image, plainSuffix(project.images()[image].path));
         }
     }
-    for (const QVector<int> &stack : layout.value().stacks) {
-        if (options.output == StitchOutput::Hdr) {
-            addLight(plan, stack);
-            addWarps(plan, { stack.first() });
-        } else {
-            addWarps(plan, stack);
-        }
-    }
+    addLayers(plan);
     plan.lightScale = lightScaleOf(plan);
     return plan;
 }
@@ -173,19 +209,7 @@ QStringList warpArguments(const StitchWarp &warp, const QString &stem)
              warp.project };
 }
 
-QStringList fuseArguments(const StitchPlan &plan, const StitchBracket &bracket, const QString &out)
-{
-    QStringList arguments{ QStringLiteral("--compression=none"), QStringLiteral("-o"), out };
-    if (plan.layout.isFullTurn()) {
-        arguments += QStringLiteral("--wrap=horizontal");
-    }
-    for (const int warp : bracket.levels) {
-        arguments += plan.warps.at(warp).warped;
-    }
-    return arguments;
-}
-
-QStringList blendArguments(const StitchPlan &plan, const QString &out)
+QStringList blendArguments(const StitchPlan &plan, const StitchLayer &layer, const QString &out)
 {
     constexpr qint64 kMostOfClassic = 4'000'000'000;
     const qint64 bytes = static_cast<qint64>(plan.layout.canvas.width())
@@ -198,7 +222,22 @@ QStringList blendArguments(const StitchPlan &plan, const QString &out)
     if (isInternal && bytes > kMostOfClassic) {
         arguments += QStringLiteral("--bigtiff");
     }
-    return arguments + plan.layers;
+    for (const int warp : layer.warps) {
+        arguments += plan.warps.at(warp).warped;
+    }
+    return arguments;
+}
+
+QStringList fuseArguments(const StitchPlan &plan, const QString &out)
+{
+    QStringList arguments{ QStringLiteral("--output=") + out };
+    if (plan.layout.isFullTurn()) {
+        arguments += QStringLiteral("--wrap=horizontal");
+    }
+    for (const StitchLayer &layer : plan.layers) {
+        arguments += layer.blended;
+    }
+    return arguments;
 }
 
 } // namespace PanoHost

@@ -18,10 +18,16 @@ struct StitchWarp {
     QString warped; ///< what comes out
 };
 
-/** A bracket that becomes one picture. */
-struct StitchBracket {
-    QVector<int> levels; ///< images or warps, the reference first
+/** The levels of a bracket that become light. */
+struct StitchLight {
+    QVector<int> images; ///< the reference first
     QString joined; ///< what comes out
+};
+
+/** Photos of one exposure, all around. */
+struct StitchLayer {
+    QVector<int> warps;
+    QString blended; ///< what comes out
 };
 
 /** Everything that is done, in order. */
@@ -36,13 +42,13 @@ struct StitchPlan {
     StitchOptions options;
     StitchedPicture::Depth depth = StitchedPicture::Depth::Bits8;
     QVector<QString> photos; ///< a name for each image, whatever it is called; empty: not used
-    QVector<StitchBracket> lights; ///< of images: become light before they are warped
+    QVector<StitchLight> lights; ///< become light before they are warped
     QVector<StitchWarp> warps;
-    QVector<StitchBracket> fusions; ///< of warps
-    QStringList layers; ///< what is blended
+    QVector<StitchLayer> layers; ///< what is blended; more than one: those are fused
     /** Light is warped in numbers from 0 to 1: this much smaller, a power of two. */
     double lightScale = 1.0;
 
+    [[nodiscard]] bool isFused() const { return layers.size() > 1; }
     [[nodiscard]] int bytesPerPixel() const; ///< with alpha
     /** The light that white means at \p image, 1 being white in the panorama. */
     [[nodiscard]] double gainOf(int image) const;
@@ -53,8 +59,8 @@ struct StitchPlan {
 
 /** What the tools are told; names as they are, relative to the work folder. */
 [[nodiscard]] QStringList warpArguments(const StitchWarp &warp, const QString &stem);
-[[nodiscard]] QStringList fuseArguments(const StitchPlan &plan, const StitchBracket &bracket,
-                                        const QString &out);
-[[nodiscard]] QStringList blendArguments(const StitchPlan &plan, const QString &out);
+[[nodiscard]] QStringList blendArguments(const StitchPlan &plan, const StitchLayer &layer,
+                                         const QString &out);
+[[nodiscard]] QStringList fuseArguments(const StitchPlan &plan, const QString &out);
 
 } // namespace PanoHost

@@ -32,7 +32,7 @@ const QByteArray kBrackets = image("y0 j0 Eev12", "a1.jpg") + image("y=0 j=0 Eev
 
 PtoFile projectOf(QByteArray text)
 {
-    text.replace("y=0", "y=0 p=0 r=0").replace("y=3", "y=3 p=3 r=3");
+    text.replace("y=0 j", "y=0 p=0 r=0 j").replace("y=3 j", "y=3 p=3 r=3 j");
     // A variable counts where it stands first.
     text.replace("r0 p0 Vb-0.25 Vc0 Vd0 y=", "Vb-0.25 Vc0 Vd0 y=");
     return PtoFile::parse(text, QStringLiteral("/photos")).value();
@@ -74,6 +74,7 @@ private Q_SLOTS:
     void sizesThatAreNoneAreRefused();
     void referencesAloneMakeThePlainPanorama();
     void levelsKeepTheirDistanceWhenTheyAreFused();
+    void brokenBracketsJoinTheLayersOfTheirExposures();
     void lightIsWarpedAsItIs();
     void photosGetPlainNames();
     void linesStandAlone();
@@ -172,10 +173,9 @@ void TestStitchPlan::referencesAloneMakeThePlainPanorama()
     const auto plan = planStitch(projectOf(kSphere + kBrackets), withOutput(StitchOutput::Ldr));
     QCOMPARE(plan.value().warps.size(), 2);
     QCOMPARE(plan.value().warps[1].image, 3);
-    QCOMPARE(plan.value().fusions.size(), 0);
-    QCOMPARE(
-        plan.value().layers,
-        (QStringList{ QStringLiteral("warped/00000.tif"), QStringLiteral("warped/00003.tif") }));
+    QVERIFY(!plan.value().isFused());
+    QCOMPARE(plan.value().layers[0].warps, (QVector<int>{ 0, 1 }));
+    QCOMPARE(plan.value().layers[0].blended, QStringLiteral("blended.tif"));
     // All become as bright as the panorama is to be.
     for (const StitchWarp &warp : plan.value().warps) {
         QCOMPARE(exposureOf(warp.projectText), 12.0);
@@ -186,8 +186,9 @@ void TestStitchPlan::levelsKeepTheirDistanceWhenTheyAreFused()
 {
     const auto plan = planStitch(projectOf(kSphere + kBrackets), withOutput(StitchOutput::Fused));
     QCOMPARE(plan.value().warps.size(), 6);
-    QCOMPARE(plan.value().layers,
-             (QStringList{ QStringLiteral("fused/00000.tif"), QStringLiteral("fused/00003.tif") }));
+    QCOMPARE(plan.value().layers.size(), 3);
+    QCOMPARE(plan.value().layers[0].warps, (QVector<int>{ 0, 3 }));
+    QCOMPARE(plan.value().layers[2].warps, (QVector<int>{ 2, 5 }));
     // nona brightens a photo by the panorama's exposure value less its own: 0, 0, 0 stops for the
     // first bracket; the second one was taken half a stop darker, all of its levels.
     QVector<double> stops;
@@ -197,11 +198,24 @@ void TestStitchPlan::levelsKeepTheirDistanceWhenTheyAreFused()
     QCOMPARE(stops, (QVector<double>{ 0.0, 0.0, 0.0, 0.5, 0.5, 0.5 }));
 }
 
+void TestStitchPlan::brokenBracketsJoinTheLayersOfTheirExposures()
+{
+    // Of a third bracket only the darker photo (EV 14, two stops) and the brighter one are left.
+    const auto plan = planStitch(projectOf(kSphere + kBrackets + image("y80 j6 Eev14", "c2.jpg")
+                                           + image("y=6 p=6 r=6 j=6 Eev10", "c3.jpg")),
+                                 withOutput(StitchOutput::Fused));
+    QVERIFY(plan);
+    QCOMPARE(plan.value().layers.size(), 3);
+    QCOMPARE(plan.value().layers[0].warps, (QVector<int>{ 0, 3 }));
+    QCOMPARE(plan.value().layers[1].warps, (QVector<int>{ 1, 4, 6 }));
+    QCOMPARE(plan.value().layers[2].warps, (QVector<int>{ 2, 5, 7 }));
+}
+
 void TestStitchPlan::lightIsWarpedAsItIs()
 {
     const auto plan = planStitch(projectOf(kSphere + kBrackets), withOutput(StitchOutput::Hdr));
     QCOMPARE(plan.value().lights.size(), 2);
-    QCOMPARE(plan.value().lights[1].levels, (QVector<int>{ 3, 4, 5 }));
+    QCOMPARE(plan.value().lights[1].images, (QVector<int>{ 3, 4, 5 }));
     QCOMPARE(plan.value().warps.size(), 2);
     QCOMPARE(plan.value().depth, StitchedPicture::Depth::Radiance);
     // White of the darkest photo, EV 14, is 4 times that of EV 12, and a corner that gets 0.75 of
@@ -248,16 +262,16 @@ void TestStitchPlan::commandsSayWhatIsMade()
         = stitchCommands(projectOf(kSphere + kBrackets), withOutput(StitchOutput::Fused), work);
     QVERIFY(commands);
     const QStringList &lines = commands.value();
-    QCOMPARE(lines.size(), 1 + 6 + 2 + 1);
+    QCOMPARE(lines.size(), 1 + 6 + 3 + 1);
     QCOMPARE(lines[0], QStringLiteral("cd '/tmp/it'\\''s here.work'"));
     QCOMPARE(lines[1],
              QStringLiteral("nona -m TIFF_m -r ldr -z NONE -o warped/00000 warped/00000.pto"));
     QCOMPARE(lines[7],
-             QStringLiteral("enfuse --compression=none -o fused/00000.tif --wrap=horizontal "
-                            "warped/00000.tif warped/00001.tif warped/00002.tif"));
-    QCOMPARE(lines[9],
-             QStringLiteral("verdandi --output=blended.tif --wrap fused/00000.tif "
-                            "fused/00003.tif"));
+             QStringLiteral("verdandi --output=layers/00000.tif --wrap warped/00000.tif "
+                            "warped/00003.tif"));
+    QCOMPARE(lines[10],
+             QStringLiteral("enfuse --output=blended.tif --wrap=horizontal layers/00000.tif "
+                            "layers/00001.tif layers/00002.tif"));
     StitchOptions options;
     options.blender = Blender::Enblend;
     const auto part = stitchCommands(projectOf(kPart + image("y0 j0", "a.jpg")), options, work);

@@ -134,7 +134,7 @@ void TestStitchRun::makeTools() const
     makeTool("enblend",
              "echo enblend >> '" + folder + "/log'; cp '" + folder
                  + "/made.tif' \"${1#--output=}\"\n");
-    makeTool("vips", "echo vips $1 >> '" + folder + "/log'; cp '" + folder + "/made.v' \"$3\"\n");
+    makeTool("vips", "echo vips $1 >> '" + folder + "/log'; cp '" + folder + "/made.v' \"$4\"\n");
 }
 
 PtoFile TestStitchRun::project() const
@@ -270,7 +270,7 @@ void TestStitchRun::badToolsAreExplained_data()
         << QStringLiteral("verdandi") << QByteArray("head -c 150 made.tif > \"${1#--output=}\"\n")
         << QStringLiteral("was not written to its end");
     QTest::newRow("vips writes half")
-        << QStringLiteral("vips") << QByteArray("head -c 65 made.v > \"$3\"\n")
+        << QStringLiteral("vips") << QByteArray("head -c 65 made.v > \"$4\"\n")
         << QStringLiteral("was not written to its end");
 }
 
