@@ -9,7 +9,8 @@
 #include "host/model/ptofile.h"
 #include "host/model/ptoproject.h"
 #include "host/model/safefile.h"
-#include "host/stitch/stitcher.h"
+#include "host/stitch/panoramastitch.h"
+#include "host/stitch/vipsfile.h"
 
 #include <QDir>
 #include <QFile>
@@ -313,30 +314,51 @@ TestShoots::Rotations AlignRoutes::rotationsIn(const QString &project, const Tak
     return rotations;
 }
 
+namespace
+{
+
+/** A stitched panorama of 8 bits, with its alpha. */
+Result<QImage> pictureIn(const QString &path)
+{
+    const Result<VipsFile> file = VipsFile::open(path);
+    if (!file) {
+        return file.error();
+    }
+    QImage picture(file.value().size(), QImage::Format_RGBA8888);
+    for (int y = 0; y < picture.height(); ++y) {
+        std::copy_n(file.value().row<uchar>(y), picture.width() * 4, picture.scanLine(y));
+    }
+    return picture;
+}
+
+} // namespace
+
 double AlignRoutes::psnrOf(const QString &project, const Taken &taken,
                            const Eigen::Matrix3d &common, int width)
 {
     // The project's photos on the whole sphere, whatever part and projection it has come to.
-    static const QRegularExpression kExposure(QStringLiteral(" E(-?[0-9.]+)"));
-    QByteArrayList lines = linesOf(project);
-    for (QByteArray &line : lines) {
-        if (line.startsWith("p ")) {
-            line = QStringLiteral("p f2 w%1 h%2 v360 k0 E%3 R0 n\"TIFF_m c:LZW r:CROP\"")
-                       .arg(width)
-                       .arg(width / 2)
-                       .arg(kExposure.match(QString::fromLatin1(line)).captured(1))
-                       .toLatin1();
-        }
-    }
-    const QString whole = pathIn(taken, "whole.pto");
-    writeLines(whole, lines);
-    const QSize canvas(width, width / 2);
-    const Result<PtoFile> file = PtoFile::read(whole);
+    const Result<PtoFile> file = PtoFile::read(project);
     if (!file) {
         return 0.0;
     }
+    const QSize canvas(width, width / 2);
+    QByteArray text = QStringLiteral("p f2 w%1 h%2 v360 k0 E%3 R0 n\"TIFF_m c:LZW r:CROP\"\n")
+                          .arg(width)
+                          .arg(width / 2)
+                          .arg(file.value().exposure().value_or(0.0), 0, 'f', 6)
+                          .toLatin1();
+    for (const int image : referenceImages(file.value(), taken)) {
+        text += file.value().loneLine(image, QFile::encodeName(file.value().images()[image].path),
+                                      file.value().yawCentreDegrees());
+    }
+    const Result<PtoFile> whole = PtoFile::parse(text, taken.folder);
+    const Result<WorkFolder> work = WorkFolder::open(pathIn(taken, "whole.work"));
+    if (!whole || !work) {
+        return 0.0;
+    }
+    const Result<StitchedPicture> made = stitchProject(whole.value(), {}, work.value(), {});
     const Result<QImage> stitched
-        = stitch({ whole, canvas, true, referenceImages(file.value(), taken) }, {});
+        = made ? pictureIn(made.value().path) : Result<QImage>(made.error());
     if (!stitched) {
         return 0.0;
     }

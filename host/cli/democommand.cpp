@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/cli/commands.h"
 #include "host/demo/demo.h"
-#include "host/import/importjob.h"
+#include "host/import/heads.h"
 #include "host/model/commanderror.h"
 #include "host/model/displayname.h"
 #include "host/model/wordsuggestion.h"
@@ -22,11 +22,14 @@ CommandLine demoLine()
     return CommandLine(
         { "panohost demo [DIR]",
           "Shows the whole way with photos of its own: draws a scene, photographs it with a\n"
-          "made-up head, imports record and photos through the head's import page, aligns the\n"
-          "photos, writes a Hugin project, stitches it and compares the panorama with the scene.\n"
+          "made-up head, and does what 'panohost make' does: imports record and photos through "
+          "the\n"
+          "head's import page, aligns the photos, stitches them, and writes the panorama and a "
+          "page\n"
+          "that shows it. Then it compares the panorama with the scene.\n"
           "The Papywizard's head stops up to 0.3 degrees from where its record says. Everything\n"
           "is left in DIR (panohost-demo when not given). Succeeds when the two agree.",
-          "# half a minute, then look at panohost-demo/demo.jpg\n"
+          "# half a minute, then open panohost-demo/demo.html\n"
           "panohost demo\n"
           "# quicker, smaller, into another folder, and show the result\n"
           "panohost demo /tmp/try --size small --open\n"
@@ -57,24 +60,6 @@ DemoOptions optionsFrom(const CommandLine &line)
     return options;
 }
 
-DemoImport importThroughPage(Session &session, const HeadFacts &head, const QString &record,
-                             const QStringList &photos)
-{
-    ImportRequest request;
-    request.head = &head;
-    if (head.isGrid()) {
-        request.grid = GridChoice();
-        request.grid->rows = kDemoGrid.rows;
-        request.grid->overlapPercent = kDemoGrid.overlapPercent;
-    }
-    request.pluginPath = session.pluginPath;
-    request.record = record;
-    request.photos = photos;
-    DemoImport made;
-    made.panorama = valueOrThrow(importShoot(session.app, request, session.watch(), &made.layout));
-    return made;
-}
-
 void showPicture(Session &session, const QString &path)
 {
     // Not through Qt's desktop services: the commands run without a desktop platform.
@@ -90,9 +75,6 @@ ExitCode report(Session &session, const DemoReport &made)
         session.console.info(
             QStringLiteral("%1: %2 s").arg(step.name).arg(step.seconds, 0, 'f', 1));
     }
-    for (const QString &sentence : made.findings) {
-        session.console.info(sentence);
-    }
     for (const QString &check : made.checks) {
         session.console.info(QStringLiteral("checked: %1").arg(check));
     }
@@ -107,6 +89,10 @@ ExitCode report(Session &session, const DemoReport &made)
                  .arg(made.size.height())
                  .arg(counted(made.photoCount, "photo"))
                  .arg(psnr, 0, 'f', 1));
+    if (!made.pagePath.isEmpty()) {
+        printOut(
+            QStringLiteral("Page: %1 (open it in any browser)\n").arg(displayName(made.pagePath)));
+    }
     if (made.agreement.coveredShare < 1.0) {
         session.console.warning(QStringLiteral("%1 % of the panorama is not covered by any photo")
                                     .arg(100.0 * (1.0 - made.agreement.coveredShare), 0, 'f', 1));
@@ -138,12 +124,9 @@ ExitCode runDemoCommand(Session &session, const QStringList &arguments)
         return ExitCode::Done;
     }
     applyCommonOptions(session, line);
-    const DemoOptions options = optionsFrom(line);
-    const auto importer
-        = [&session](const HeadFacts &head, const QString &record, const QStringList &photos) {
-              return importThroughPage(session, head, record, photos);
-          };
-    const DemoReport made = valueOrThrow(runDemo(options, importer, session.watch()));
+    DemoOptions options = optionsFrom(line);
+    options.pluginPath = session.pluginPath;
+    const DemoReport made = valueOrThrow(runDemo(session.app, options, session.watch()));
     session.console.endProgress();
     const ExitCode code = report(session, made);
     if (line.isSet(QStringLiteral("open"))) {

@@ -53,7 +53,7 @@ AttitudeErrors attitudeErrors(const Rotations &truth, const Rotations &found)
     return attitudeErrors(truth, found, commonRotation(truth, found, all), all);
 }
 
-Radiance turnedBy(const Eigen::Matrix3d &common, Radiance radiance)
+RayLight turnedBy(const Eigen::Matrix3d &common, RayLight radiance)
 {
     // The world of rotations has y up, that of directions has y to the north.
     return [common, radiance = std::move(radiance)](const Vec3 &direction) {

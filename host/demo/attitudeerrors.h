@@ -41,6 +41,6 @@ struct AttitudeErrors {
 
 /** \p radiance as it is seen in the frame of found rotations, which \p common brings to the true
  * one. */
-[[nodiscard]] Radiance turnedBy(const Eigen::Matrix3d &common, Radiance radiance);
+[[nodiscard]] RayLight turnedBy(const Eigen::Matrix3d &common, RayLight radiance);
 
 } // namespace PanoHost

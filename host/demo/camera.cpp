@@ -12,7 +12,7 @@ namespace
 constexpr double kDiagonal35mm = 43.266615305567875; // of a 36 x 24 mm frame
 
 /** Averages the light of \p rayAt over every pixel of a picture of \p size. */
-LightField exposed(const Radiance &radiance, const QSize &size, int side,
+LightField exposed(const RayLight &radiance, const QSize &size, int side,
                    const std::function<Vec3(double x, double y)> &rayAt)
 {
     LightField light{ size, std::vector<Rgb>(static_cast<size_t>(size.width()) * size.height()) };
@@ -144,7 +144,7 @@ std::optional<QPointF> View::pixelAt(const Vec3 &direction) const
     return inside ? std::optional(pixel) : std::nullopt;
 }
 
-LightField exposePhoto(const Radiance &radiance, const Camera &camera, const Pose &pose,
+LightField exposePhoto(const RayLight &radiance, const Camera &camera, const Pose &pose,
                        int samplesPerSide)
 {
     const View view(camera, pose);
@@ -154,13 +154,13 @@ LightField exposePhoto(const Radiance &radiance, const Camera &camera, const Pos
     return light;
 }
 
-LightField exposeSphere(const Radiance &radiance, int width, int samplesPerSide)
+LightField exposeSphere(const RayLight &radiance, int width, int samplesPerSide)
 {
     const QSize size(width, width / 2);
     return exposePart(radiance, { size, 360.0, 0.0, QRect(QPoint(0, 0), size) }, samplesPerSide);
 }
 
-LightField exposePart(const Radiance &radiance, const SpherePart &part, int samplesPerSide)
+LightField exposePart(const RayLight &radiance, const SpherePart &part, int samplesPerSide)
 {
     const double perPixel = part.horizontalFovDegrees / part.canvas.width();
     const double right = part.crop.left() - part.canvas.width() / 2.0;

@@ -18,7 +18,7 @@ namespace PanoHost
 {
 
 /** What a ray from the head meets; called from several threads at a time. */
-using Radiance = std::function<Rgb(const Vec3 &direction)>;
+using RayLight = std::function<Rgb(const Vec3 &direction)>;
 
 enum class Projection {
     Rectilinear,
@@ -93,14 +93,14 @@ struct LightField {
  * What a photo receives, averaged over each pixel.
  * \param samplesPerSide rays per pixel: the square of this
  */
-[[nodiscard]] LightField exposePhoto(const Radiance &radiance, const Camera &camera,
+[[nodiscard]] LightField exposePhoto(const RayLight &radiance, const Camera &camera,
                                      const Pose &pose, int samplesPerSide = 2);
 
 /**
  * The whole sphere as \p width x \p width / 2 pixels, yaw -180 at the left edge, pitch 90 at the
  * top, averaged over each pixel: what a faultless panorama of the scene receives.
  */
-[[nodiscard]] LightField exposeSphere(const Radiance &radiance, int width, int samplesPerSide = 2);
+[[nodiscard]] LightField exposeSphere(const RayLight &radiance, int width, int samplesPerSide = 2);
 
 /** A part of an equirectangular picture. */
 struct SpherePart {
@@ -111,7 +111,7 @@ struct SpherePart {
 };
 
 /** What a faultless panorama of \p part receives, averaged over each pixel. */
-[[nodiscard]] LightField exposePart(const Radiance &radiance, const SpherePart &part,
+[[nodiscard]] LightField exposePart(const RayLight &radiance, const SpherePart &part,
                                     int samplesPerSide = 2);
 
 /** 32-bit RGB with the sRGB curve, \p stops brighter than the reference exposure. */

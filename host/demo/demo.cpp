@@ -2,24 +2,25 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/demo/demo.h"
 
-#include "host/align/alignment.h"
 #include "host/align/geometry.h"
 #include "host/demo/exifwriter.h"
 #include "host/demo/nearestphoto.h"
 #include "host/demo/ordercheck.h"
 #include "host/demo/photoshoot.h"
-#include "host/model/canvas.h"
+#include "host/import/importjob.h"
+#include "host/make/makejob.h"
 #include "host/model/panoramajson.h"
 #include "host/model/photofile.h"
-#include "host/model/ptoproject.h"
 #include "host/model/safefile.h"
 #include "host/stitch/projectcheck.h"
-#include "host/stitch/stitcher.h"
-#include "host/stitch/toolrun.h"
+#include "host/stitch/stitchlayout.h"
+#include "host/stitch/vipsfile.h"
 
 #include <QBuffer>
 #include <QDir>
 #include <QElapsedTimer>
+
+#include <utility>
 
 namespace PanoHost
 {
@@ -48,25 +49,6 @@ int sphereWidth(const Sizes &sizes, const Camera &camera)
 {
     constexpr double kUsualFocal35mm = 24.0;
     return sizes.panoramaWidth * qRound(camera.focal35mm / kUsualFocal35mm);
-}
-
-/** Of the whole sphere, at the scale of \p part. */
-QSize sphereSizeOf(const SpherePart &part)
-{
-    return { qRound(part.canvas.width() * 360.0 / part.horizontalFovDegrees),
-             part.canvas.height() };
-}
-
-/** The images of the project that show the reference exposures: each position's first. */
-QVector<int> referenceIndices(const Panorama &panorama)
-{
-    QVector<int> images;
-    int index = 0;
-    for (const Position &position : panorama.positions) {
-        images.append(index);
-        index += position.photos.size();
-    }
-    return images;
 }
 
 Rotations rotationsOf(const QVector<PtoImage> &images)
@@ -99,13 +81,42 @@ QImage withoutStitching(const QVector<PtoImage> &images, int width)
     return nearestPhotoPanorama(photos, width);
 }
 
+/** Where \p picture shows anything; empty when it cannot be read. */
+QImage alphaOf(const StitchedPicture &picture)
+{
+    const Result<VipsFile> file = VipsFile::open(picture.path);
+    if (!file || file.value().sample() != VipsFile::Sample::Bits8) {
+        return {};
+    }
+    const int bands = file.value().bands();
+    QImage alpha(picture.size, QImage::Format_Alpha8);
+    for (int y = 0; y < alpha.height(); ++y) {
+        const auto *const row = file.value().row<quint8>(y);
+        for (int x = 0; x < alpha.width(); ++x) {
+            alpha.scanLine(y)[x] = row[x * bands + bands - 1];
+        }
+    }
+    return alpha;
+}
+
+/** \p step, which tells \p hear what it was called with and what it answered. */
+template <typename Answer, typename... Arguments, typename Hear>
+std::function<Answer(Arguments...)> heard(std::function<Answer(Arguments...)> step, Hear hear)
+{
+    return [step = std::move(step), hear = std::move(hear)](Arguments... arguments) {
+        Answer answer = step(arguments...);
+        hear(answer, arguments...);
+        return answer;
+    };
+}
+
 /** The steps of the demo, in order; each answers why it could not be done. */
 class Demo
 {
 public:
-    Demo(const DemoOptions &options, const DemoImporter &importer, const JobWatch &watch)
-        : m_options(options)
-        , m_importer(importer)
+    Demo(PanoHostApplication &app, const DemoOptions &options, const JobWatch &watch)
+        : m_app(app)
+        , m_options(options)
         , m_watch(watch)
         , m_sizes(sizesOf(options.size))
         , m_plan(demoPlan(*options.head, m_sizes.photo))
@@ -121,26 +132,26 @@ private:
 
     Outcome makeFolder();
     Outcome photograph();
-    Outcome import();
-    Outcome alignPhotos();
+    Outcome make();
     Outcome writeProject();
     Outcome checkLayout();
     Outcome checkAngles();
-    Outcome makePanorama();
     Outcome compare();
 
     [[nodiscard]] QString path(const char *name) const
     {
         return QDir(m_options.folder).absoluteFilePath(QLatin1String(name));
     }
+    [[nodiscard]] MakeSteps steps();
+    [[nodiscard]] MakeRequest request() const;
+    Outcome withoutStitchingTools(const Failure &missing);
     Outcome note(const Result<QString> &check);
     [[nodiscard]] QVector<PtoImage> referenceImages() const;
-    [[nodiscard]] SpherePart wholeSphere() const;
     [[nodiscard]] Outcome write(const QString &file, const QByteArray &content) const;
     void finishStep(const char *name);
 
+    PanoHostApplication &m_app;
     const DemoOptions &m_options;
-    const DemoImporter &m_importer;
     const JobWatch &m_watch;
     const Sizes m_sizes;
     const ShootPlan m_plan;
@@ -149,12 +160,12 @@ private:
     QElapsedTimer m_timer;
     QString m_record;
     QStringList m_photos;
+    QImage m_layout;
     Panorama m_panorama; ///< as recorded
     std::optional<PtoFile> m_project; ///< aligned
     Eigen::Matrix3d m_common = Eigen::Matrix3d::Identity(); ///< from the project to the truth
-    StitchJob m_job;
     SpherePart m_part; ///< what the panorama shows
-    QImage m_stitched;
+    QImage m_covered; ///< opaque where it shows anything
     DemoReport m_report;
 };
 
@@ -198,61 +209,112 @@ Demo::Outcome Demo::photograph()
     return {};
 }
 
-Demo::Outcome Demo::import()
+/** The real ones; what goes through them is kept for the comparison. */
+MakeSteps Demo::steps()
 {
-    DemoImport imported = m_importer(*m_options.head, m_record, m_photos);
-    m_panorama = std::move(imported.panorama);
-    QByteArray picture;
-    QBuffer buffer(&picture);
-    buffer.open(QIODevice::WriteOnly);
-    markAsOwn(imported.layout);
-    if (imported.layout.save(&buffer, "PNG")) {
-        if (Outcome failure = write(path("layout.png"), picture)) {
-            return failure;
+    MakeSteps steps = makeSteps(m_app);
+    steps.import = [this](const ImportRequest &request, const JobWatch &watch) {
+        Result<Panorama> imported = importShoot(m_app, request, watch, &m_layout);
+        if (imported) {
+            m_panorama = imported.value();
         }
+        finishStep("importing them");
+        return imported;
+    };
+    steps.align = heard(steps.align, [this](const Result<Alignment> &aligned, auto &&...) {
+        if (aligned) {
+            m_project = aligned.value().project;
+        }
+        finishStep("aligning them");
+    });
+    steps.stitch = heard(steps.stitch,
+                         [this](const Result<StitchedPicture> &stitched, const PtoFile &project,
+                                const StitchOptions &options, auto &&...) {
+                             const auto layout = layOut(project, options);
+                             if (stitched && layout) {
+                                 m_part
+                                     = { layout.value().canvas, layout.value().horizontalFovDegrees,
+                                         layout.value().yawCentreDegrees, layout.value().area };
+                                 m_covered = alphaOf(stitched.value());
+                             }
+                             finishStep("stitching");
+                         });
+    return steps;
+}
+
+MakeRequest Demo::request() const
+{
+    MakeRequest request;
+    request.import.head = m_options.head;
+    request.import.pluginPath = m_options.pluginPath;
+    request.import.record = m_record;
+    request.import.photos = m_photos;
+    request.picture.path = path("demo.jpg");
+    request.picture.output = StitchOutput::Ldr; // the scene as one exposure shows it
+    request.picture.jpegQuality = 98; // as good as the comparison
+    request.picture.stitch.size = { StitchSize::Unit::Width, static_cast<double>(m_sphereWidth) };
+    if (m_options.head->isGrid()) {
+        request.import.grid = GridChoice();
+        request.import.grid->rows = kDemoGrid.rows;
+        request.import.grid->overlapPercent = kDemoGrid.overlapPercent;
+        // A part of the sphere is drawn to the scale of the whole one.
+        request.picture.stitch.size
+            = { StitchSize::Unit::Percent,
+                100.0 * m_sphereWidth / (2.0 * kPi * m_plan.camera.focalPixels()) };
     }
-    finishStep("importing them");
+    return request;
+}
+
+Demo::Outcome Demo::make()
+{
+    const Result<QStringList> made = makePanorama(request(), steps(), m_watch);
+    if (!made && made.error().code == ExitCode::ToolMissing && m_project) {
+        return withoutStitchingTools(made.error());
+    }
+    if (!made) {
+        return made.error();
+    }
+    m_report.panoramaPath = made.value().value(0);
+    m_report.pagePath = made.value().value(1);
+    finishStep("writing the panorama");
     return {};
 }
 
-Demo::Outcome Demo::alignPhotos()
+Demo::Outcome Demo::withoutStitchingTools(const Failure &missing)
 {
-    // A part of the sphere is drawn to the scale of the whole one.
-    const Result<PtoProject> draft = makePtoProject(m_panorama);
-    if (!draft) {
-        return draft.error();
+    m_report.missingTool = missing;
+    const QSize size(m_sphereWidth, m_sphereWidth / 2);
+    m_part = { size, 360.0, 0.0, QRect(QPoint(0, 0), size) };
+    const QImage picture = withoutStitching(referenceImages(), m_sphereWidth);
+    m_covered = picture.convertToFormat(QImage::Format_Alpha8);
+    const Result<QString> written = writePanorama(path("demo.jpg"), picture, size, m_part.crop);
+    if (!written) {
+        return written.error();
     }
-    m_panorama.warnings += draft.value().warnings;
-    PtoOptions options;
-    options.projectFolder = m_options.folder;
-    options.width = 2 * qRound(m_sphereWidth * draft.value().horizontalFovDegrees / (2.0 * 360.0));
-    Result<Alignment> aligned = align(m_panorama, options, {}, m_watch);
-    if (!aligned) {
-        return aligned.error();
-    }
-    m_project = std::move(aligned.value().project);
-    m_report.findings = sentences(aligned.value().report);
-    finishStep("aligning them");
+    m_report.panoramaPath = written.value();
+    finishStep("putting them together");
     return {};
 }
 
 Demo::Outcome Demo::writeProject()
 {
-    m_job.projectPath = path("demo.pto");
+    QByteArray picture;
+    QBuffer buffer(&picture);
+    buffer.open(QIODevice::WriteOnly);
+    markAsOwn(m_layout);
+    if (m_layout.save(&buffer, "PNG")) {
+        if (Outcome failure = write(path("layout.png"), picture)) {
+            return failure;
+        }
+    }
     const Result<QByteArray> text = m_project->text(m_options.folder);
     if (!text) {
         return text.error();
     }
-    if (Outcome failure = write(m_job.projectPath, text.value())) {
+    if (Outcome failure = write(path("demo.pto"), text.value())) {
         return failure;
     }
-    const Canvas canvas = m_project->canvas();
-    m_job.canvas = canvas.size;
-    m_job.fullTurn = canvas.horizontalFovDegrees >= 360.0;
-    m_job.images = referenceIndices(m_panorama);
-    m_part = { canvas.size, canvas.horizontalFovDegrees, canvas.yawCentreDegrees,
-               canvas.crop.isNull() ? QRect(QPoint(0, 0), canvas.size) : canvas.crop };
-    m_panorama.project = ProjectReference{ m_job.projectPath, canvas.yawCentreDegrees };
+    m_panorama.project = ProjectReference{ path("demo.pto"), m_project->yawCentreDegrees() };
     const Result<QString> json = writePanoramaJson(m_panorama, path("demo.json"));
     return json ? Outcome() : Outcome(json.error());
 }
@@ -260,16 +322,12 @@ Demo::Outcome Demo::writeProject()
 QVector<PtoImage> Demo::referenceImages() const
 {
     QVector<PtoImage> images;
-    for (const int index : m_job.images) {
-        images.append(m_project->images()[index]);
+    for (const PtoImage &image : m_project->images()) {
+        if (image.stackMaster < 0) {
+            images.append(image);
+        }
     }
     return images;
-}
-
-SpherePart Demo::wholeSphere() const
-{
-    const QSize size(m_sphereWidth, m_sphereWidth / 2);
-    return { size, 360.0, 0.0, QRect(QPoint(0, 0), size) };
 }
 
 Demo::Outcome Demo::note(const Result<QString> &check)
@@ -290,7 +348,7 @@ Demo::Outcome Demo::checkLayout()
             return failure;
         }
     }
-    return note(checkProject(m_job.projectPath, m_photos.size(), m_watch));
+    return note(checkProject(path("demo.pto"), m_photos.size(), m_watch));
 }
 
 Demo::Outcome Demo::checkAngles()
@@ -302,7 +360,7 @@ Demo::Outcome Demo::checkAngles()
     const double turned = degreesBetween(m_common, Eigen::Matrix3d::Identity());
     if (turned > kLargestTurnDegrees) {
         return Failure{ ExitCode::ToolFailed,
-                        m_job.projectPath,
+                        path("demo.pto"),
                         QStringLiteral("the panorama as a whole is turned by %1 degrees")
                             .arg(turned, 0, 'f', 1),
                         {} };
@@ -312,38 +370,12 @@ Demo::Outcome Demo::checkAngles()
     return {};
 }
 
-Demo::Outcome Demo::makePanorama()
-{
-    const Result<QImage> stitched = stitch(m_job, m_watch);
-    if (stitched) {
-        m_stitched = stitched.value().copy(m_part.crop);
-    } else if (stitched.error().code == ExitCode::ToolMissing) {
-        m_report.missingTool = stitched.error();
-        m_part = wholeSphere();
-        m_stitched = withoutStitching(referenceImages(), m_sphereWidth);
-    } else {
-        return stitched.error();
-    }
-    m_report.size = m_stitched.size();
-    const QSize sphere = sphereSizeOf(m_part);
-    const QRect onSphere
-        = m_part.crop.translated(qRound((sphere.width() - m_part.canvas.width()) / 2.0
-                                        + m_part.yawCentreDegrees * sphere.width() / 360.0),
-                                 0);
-    const Result<QString> written = writePanorama(path("demo.jpg"), m_stitched, sphere, onSphere);
-    if (!written) {
-        return written.error();
-    }
-    m_report.panoramaPath = written.value();
-    finishStep("stitching");
-    return {};
-}
-
 Demo::Outcome Demo::compare()
 {
     m_watch.report(0, 1, QStringLiteral("comparing with the scene"));
     QImage written(m_report.panoramaPath);
-    written.setAlphaChannel(m_stitched.convertToFormat(QImage::Format_Alpha8));
+    m_report.size = written.size();
+    written.setAlphaChannel(m_covered);
     m_report.agreement = agreementOf(written, truthOf(m_scene, m_part, m_common));
     finishStep("comparing with the scene");
     return {};
@@ -352,10 +384,9 @@ Demo::Outcome Demo::compare()
 Result<DemoReport> Demo::run()
 {
     using Step = Outcome (Demo::*)();
-    constexpr std::array<Step, 9> kSteps{ &Demo::makeFolder,   &Demo::photograph,
-                                          &Demo::import,       &Demo::alignPhotos,
-                                          &Demo::writeProject, &Demo::checkLayout,
-                                          &Demo::checkAngles,  &Demo::makePanorama,
+    constexpr std::array<Step, 7> kSteps{ &Demo::makeFolder,  &Demo::photograph,
+                                          &Demo::make,        &Demo::writeProject,
+                                          &Demo::checkLayout, &Demo::checkAngles,
                                           &Demo::compare };
     for (const Step step : kSteps) {
         if (m_watch.stopWanted()) {
@@ -373,10 +404,10 @@ Result<DemoReport> Demo::run()
 
 } // namespace
 
-Result<DemoReport> runDemo(const DemoOptions &options, const DemoImporter &importer,
+Result<DemoReport> runDemo(PanoHostApplication &app, const DemoOptions &options,
                            const JobWatch &watch)
 {
-    return Demo(options, importer, watch).run();
+    return Demo(app, options, watch).run();
 }
 
 } // namespace PanoHost

@@ -5,7 +5,6 @@
 #include "host/demo/demohead.h"
 #include "host/demo/psnr.h"
 #include "host/model/jobwatch.h"
-#include "host/model/panorama.h"
 
 #include <QImage>
 #include <QVector>
@@ -14,6 +13,8 @@
 
 namespace PanoHost
 {
+
+class PanoHostApplication;
 
 enum class DemoSize {
     Small, ///< photos of 600 x 400, panorama of 1024 x 512 pixels
@@ -24,20 +25,8 @@ struct DemoOptions {
     QString folder; ///< made when it does not exist; files of the demo's own names are replaced
     DemoSize size = DemoSize::Normal;
     const HeadFacts *head = nullptr;
+    QString pluginPath; ///< file or folder of the library; empty: the usual places
 };
-
-/** What the import page gives for the demo's record and photos. */
-struct DemoImport {
-    Panorama panorama;
-    QImage layout; ///< the page's own picture of the layout
-};
-
-/**
- * Imports \p photos with \p record (empty for heads without one) through the page of \p head.
- * What it throws passes through `runDemo`.
- */
-using DemoImporter = std::function<DemoImport(const HeadFacts &head, const QString &record,
-                                              const QStringList &photos)>;
 
 /** One part of the work and how long it took. */
 struct DemoStep {
@@ -48,11 +37,11 @@ struct DemoStep {
 /** What the demo has made. */
 struct DemoReport {
     QString panoramaPath;
+    QString pagePath; ///< that shows it; empty where the stitching programs are missing
     QSize size;
     int photoCount = 0;
     Agreement agreement; ///< of the written file with the same part of the scene
     double leastPsnrDecibels = 0.0; ///< less agreement: something has gone wrong
-    QStringList findings; ///< of the alignment, a sentence each
     QStringList checks; ///< what else was found to be right, in words
     QVector<DemoStep> steps;
     /** The stitching programs are missing: the panorama is made without them and not blended. */
@@ -60,10 +49,11 @@ struct DemoReport {
 };
 
 /**
- * Photographs the made-up scene, imports and aligns the photos and stitches the panorama. Leaves
- * in the folder: photos/, the head's record, layout.png, demo.pto, demo.json and demo.jpg.
+ * Photographs the made-up scene and makes a panorama of it as `makePanorama` does. Leaves in the
+ * folder: photos/, the head's record, layout.png (the page's own picture), demo.pto, demo.json,
+ * demo.jpg, demo.html, and demo.work/ with what each step has made.
  */
-[[nodiscard]] Result<DemoReport> runDemo(const DemoOptions &options, const DemoImporter &importer,
+[[nodiscard]] Result<DemoReport> runDemo(PanoHostApplication &app, const DemoOptions &options,
                                          const JobWatch &watch);
 
 } // namespace PanoHost

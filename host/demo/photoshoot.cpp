@@ -16,7 +16,7 @@ namespace
 constexpr int kSamplesPerPhotoPixelSide = 1;
 constexpr int kSamplesPerTruthPixelSide = 2;
 
-Radiance radianceOf(const Scene &scene)
+RayLight radianceOf(const Scene &scene)
 {
     return [&scene](const Vec3 &direction) { return scene.radiance(direction); };
 }

@@ -12,7 +12,7 @@ using namespace PanoHost;
 namespace AlignPictures
 {
 
-Radiance texture(quint32 seed)
+RayLight texture(quint32 seed)
 {
     return [seed](const Vec3 &direction) {
         // Cells from 1 / 3 radian down to 1 / 192.
@@ -22,7 +22,7 @@ Radiance texture(quint32 seed)
     };
 }
 
-Radiance facade()
+RayLight facade()
 {
     return [faint = texture(11)](const Vec3 &direction) {
         constexpr double kStep = 4.0;
@@ -37,7 +37,7 @@ Radiance facade()
     };
 }
 
-QImage photo(const Radiance &radiance, const Camera &camera, const Pose &pose)
+QImage photo(const RayLight &radiance, const Camera &camera, const Pose &pose)
 {
     return developed(exposePhoto(radiance, camera, pose, 1));
 }
@@ -62,7 +62,7 @@ Angles anglesOf(const Pose &pose)
     return { pose.yawDegrees, pose.pitchDegrees, pose.rollDegrees };
 }
 
-Shot::Shot(const Radiance &radiance, const Camera &itsCamera, const Pose &itsPose)
+Shot::Shot(const RayLight &radiance, const Camera &itsCamera, const Pose &itsPose)
     : camera(itsCamera)
     , pose(itsPose)
     , lens(lensOf(itsCamera))

@@ -13,12 +13,12 @@ namespace AlignPictures
 {
 
 /** Grey light full of detail, from 20 degrees down to about 0.3. */
-[[nodiscard]] PanoHost::Radiance texture(quint32 seed = 7);
+[[nodiscard]] PanoHost::RayLight texture(quint32 seed = 7);
 
 /** The same window every four degrees, on a wall with faint texture of its own. */
-[[nodiscard]] PanoHost::Radiance facade();
+[[nodiscard]] PanoHost::RayLight facade();
 
-[[nodiscard]] QImage photo(const PanoHost::Radiance &radiance, const PanoHost::Camera &camera,
+[[nodiscard]] QImage photo(const PanoHost::RayLight &radiance, const PanoHost::Camera &camera,
                            const PanoHost::Pose &pose);
 
 /** \p picture as it is, without being reduced. */
@@ -29,7 +29,7 @@ namespace AlignPictures
 
 /** A photo of the demo's camera, with what is found in it. */
 struct Shot {
-    Shot(const PanoHost::Radiance &radiance, const PanoHost::Camera &camera,
+    Shot(const PanoHost::RayLight &radiance, const PanoHost::Camera &camera,
          const PanoHost::Pose &pose);
 
     [[nodiscard]] PanoHost::MatchSide side() const { return { features, lens }; }

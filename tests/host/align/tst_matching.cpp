@@ -217,7 +217,7 @@ void TestMatching::sameWindowsAreNotTakenForEachOther()
 
 void TestMatching::photosWithoutTextureHaveNoMatches()
 {
-    const Radiance fog = [](const Vec3 &) { return Rgb{ 0.5F, 0.5F, 0.5F }; };
+    const RayLight fog = [](const Vec3 &) { return Rgb{ 0.5F, 0.5F, 0.5F }; };
     const Shot one(fog, kLandscape, { 0, 0, 0 });
     const Shot other(AlignPictures::texture(), kLandscape, { 30, 0, 0 });
     for (const auto &[first, second] :

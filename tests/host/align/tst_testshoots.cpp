@@ -307,8 +307,8 @@ void TestTestShoots::nearWallsShiftWithTheEye()
 {
     // From (0.03, 0.04, 0) a ray to the north meets the wall at y = 2.5 in (0.03, 2.5, 0), which
     // lies atan(0.03 / 2.5) = 0.68751 degrees to the right of the north of the head.
-    const Radiance still = lightOf(TestScene::Room);
-    const Radiance moved = lightOf(TestScene::Room, { 0.03, 0.04, 0.0 });
+    const RayLight still = lightOf(TestScene::Room);
+    const RayLight moved = lightOf(TestScene::Room, { 0.03, 0.04, 0.0 });
     const auto same = [](const Rgb &a, const Rgb &b) {
         return near(a.red, b.red, 1e-5) && near(a.green, b.green, 1e-5)
             && near(a.blue, b.blue, 1e-5);
@@ -332,18 +332,18 @@ void TestTestShoots::nearWallsShiftWithTheEye()
 
 void TestTestShoots::scenesAreWhatTheirNamesSay()
 {
-    const Radiance terrace = lightOf(TestScene::Terrace);
+    const RayLight terrace = lightOf(TestScene::Terrace);
     const auto same = [](const Rgb &a, const Rgb &b) {
         return a.red == b.red && a.green == b.green && a.blue == b.blue;
     };
-    const Radiance sky = lightOf(TestScene::OpenSky);
+    const RayLight sky = lightOf(TestScene::OpenSky);
     QVERIFY(same(sky(directionTo(17.0, 23.0)), sky(directionTo(-100.0, 88.0))));
     QVERIFY(same(sky(directionTo(17.0, 10.0)), terrace(directionTo(17.0, 10.0))));
-    const Radiance belt = lightOf(TestScene::PlainBelt);
+    const RayLight belt = lightOf(TestScene::PlainBelt);
     QVERIFY(same(belt(directionTo(17.0, 5.9)), belt(directionTo(140.0, -5.9))));
     QVERIFY(same(belt(directionTo(17.0, -9.1)), terrace(directionTo(17.0, -9.1))));
     // Glass alike in every window, plaster not.
-    const Radiance facade = lightOf(TestScene::Facade);
+    const RayLight facade = lightOf(TestScene::Facade);
     const auto alike = [](const Rgb &a, const Rgb &b) { return near(a.red, b.red, 1e-5); };
     QVERIFY(alike(facade(directionTo(0.5, 1.0)), facade(directionTo(40.5, 1.0))));
     QVERIFY(!alike(facade(directionTo(2.0, 1.0)), facade(directionTo(42.0, 1.0))));
@@ -352,7 +352,7 @@ void TestTestShoots::scenesAreWhatTheirNamesSay()
     const Rgb coarse = terrace(directionTo(10.0, -20.0));
     QVERIFY(fine.red != coarse.red && near(fine.red / coarse.red, fine.blue / coarse.blue, 1e-4));
     // Four differences of the haze make one of the terrace.
-    const Radiance haze = lightOf(TestScene::Haze);
+    const RayLight haze = lightOf(TestScene::Haze);
     const Vec3 one = directionTo(0.0, -30.0);
     const Vec3 other = directionTo(5.0, -60.0);
     QVERIFY(

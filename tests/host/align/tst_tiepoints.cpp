@@ -86,7 +86,7 @@ private:
 
 void TestTiePoints::initTestCase()
 {
-    const Radiance texture = AlignPictures::texture();
+    const RayLight texture = AlignPictures::texture();
     m_model.lenses.push_back(AlignPictures::lensOf(kCamera));
     for (int i = 0; i < kPhotos; ++i) {
         m_poses.push_back({ i * kStepDegrees, 3.0 * (i % 2), 0.0 });

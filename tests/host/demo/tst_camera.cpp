@@ -16,7 +16,7 @@ constexpr double kStandardFocal = 24.0;
 constexpr double kFisheyeFocal = 12.0; // 300 pixels per radian
 
 /** A soft white spot on black, \p widthDegrees wide. */
-Radiance spotAt(double yawDegrees, double pitchDegrees, double widthDegrees)
+RayLight spotAt(double yawDegrees, double pitchDegrees, double widthDegrees)
 {
     const Vec3 spot = directionTo(yawDegrees, pitchDegrees);
     return [spot, widthDegrees](const Vec3 &direction) {
@@ -182,7 +182,7 @@ void TestCamera::distortionMovesMarkersAlongTheirRadius()
 
 void TestCamera::vignettingTakesItsShareOfTheLight()
 {
-    const Radiance even = [](const Vec3 &) { return Rgb{ 0.8F, 0.4F, 0.2F }; };
+    const RayLight even = [](const Vec3 &) { return Rgb{ 0.8F, 0.4F, 0.2F }; };
     LensErrors errors;
     errors.vignettingB = -0.45;
     errors.vignettingC = 0.1;
@@ -260,7 +260,7 @@ void TestCamera::markerLandsOnItsPixelOfTheSphere()
 void TestCamera::pixelsAverageTheLightThatFallsOnThem()
 {
     // White above the horizon, black below: the rays of the middle row fall half on either.
-    const Radiance horizon = [](const Vec3 &direction) {
+    const RayLight horizon = [](const Vec3 &direction) {
         return direction.z > 0.0 ? Rgb{ 1.0F, 1.0F, 1.0F } : Rgb{};
     };
     const Camera camera{ QSize(3, 3), kStandardFocal, Projection::Rectilinear };
@@ -292,7 +292,7 @@ void TestCamera::stopsDoubleTheLightBeforeTheCurve()
 void TestCamera::partOfTheSphereIsThatPartOfTheWholePicture()
 {
     // 90 degrees about yaw 90 of a picture of 360 degrees: columns 640 to 895 of 1024.
-    const Radiance light = spotAt(100.0, 10.0, 1.0);
+    const RayLight light = spotAt(100.0, 10.0, 1.0);
     const QImage whole = developed(exposeSphere(light, 1024, 1));
     const QRect crop(20, 200, 200, 90);
     const QImage part = developed(exposePart(light, { QSize(256, 512), 90.0, 90.0, crop }, 1));

@@ -67,7 +67,7 @@ void TestNearestPhoto::detailsStandWhereTheyWere()
         const double pitch = pitchDegreesOf(direction);
         return yaw > 10.0 && yaw < 20.0 && pitch > 5.0 && pitch < 15.0;
     };
-    const Radiance window = [&](const Vec3 &direction) {
+    const RayLight window = [&](const Vec3 &direction) {
         return isWhite(direction) ? Rgb{ 1.0F, 1.0F, 1.0F } : Rgb{};
     };
     const Camera camera{ QSize(900, 600), 24.0, Projection::Rectilinear };

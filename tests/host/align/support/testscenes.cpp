@@ -104,7 +104,7 @@ Rgb wallOfRoom(const Vec3 &eye, const Vec3 &direction)
 
 } // namespace
 
-Radiance TestShoots::lightOf(TestScene scene, const Vec3 &eye)
+RayLight TestShoots::lightOf(TestScene scene, const Vec3 &eye)
 {
     switch (scene) {
     case TestScene::OpenSky:

@@ -30,6 +30,6 @@ struct Room {
 constexpr Room kRoom{ { -3.0, -2.0, -1.5 }, { 2.5, 2.5, 1.3 } };
 
 /** The light of \p scene for an eye at \p eye, metres off the head's axes. Thread-safe. */
-[[nodiscard]] PanoHost::Radiance lightOf(TestScene scene, const PanoHost::Vec3 &eye = {});
+[[nodiscard]] PanoHost::RayLight lightOf(TestScene scene, const PanoHost::Vec3 &eye = {});
 
 } // namespace TestShoots
