@@ -36,8 +36,7 @@ struct StitchLayout {
     [[nodiscard]] double exposureOf(int image) const;
 };
 
-/** Refuses sizes that make no picture, and brackets for light whose levels have angles of their
- * own. */
+/** Refuses sizes that make no picture. */
 [[nodiscard]] Result<StitchLayout> layOut(const PtoFile &project, const StitchOptions &options);
 
 } // namespace PanoHost

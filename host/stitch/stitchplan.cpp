@@ -125,6 +125,18 @@ int levelOf(const StitchLayout &layout, const QVector<int> &stack, int index,
     return static_cast<int>(nearest - levels.cbegin());
 }
 
+/** Whether all levels of each bracket look into just the same direction. */
+bool haveCommonAngles(const StitchLayout &layout)
+{
+    return std::all_of(
+        layout.stacks.cbegin(), layout.stacks.cend(), [&](const QVector<int> &stack) {
+            return std::all_of(stack.cbegin(), stack.cend(), [&](int image) {
+                const int master = layout.project.images()[image].angleMaster;
+                return image == stack.first() || master == stack.first();
+            });
+        });
+}
+
 void addLight(StitchPlan &plan, const QVector<int> &stack)
 {
     plan.lights += StitchLight{ stack, tiffOf("light", stack.first()) };
@@ -185,6 +197,13 @@ Result<StitchPlan> planStitch(const PtoFile &project, const StitchOptions &optio
     const Result<StitchLayout> layout = layOut(project, options);
     if (!layout) {
         return layout.error();
+    }
+    if (options.output == StitchOutput::Hdr && !haveCommonAngles(layout.value())) {
+        return Failure{ ExitCode::InputRefused, QStringLiteral("brackets"),
+                        QStringLiteral("the photos of a bracket have angles of their own, and can "
+                                       "only be joined to light where they look into the same "
+                                       "direction"),
+                        QStringLiteral("import them with --stack hard, or choose --output fused") };
     }
     StitchPlan plan(layout.value(), options);
     plan.depth = depthOf(project, options);

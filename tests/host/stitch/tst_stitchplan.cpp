@@ -76,6 +76,7 @@ private Q_SLOTS:
     void levelsKeepTheirDistanceWhenTheyAreFused();
     void brokenBracketsJoinTheLayersOfTheirExposures();
     void lightIsWarpedAsItIs();
+    void bracketsOfSeveralDirectionsAreNoLight();
     void photosGetPlainNames();
     void linesStandAlone();
     void commandsSayWhatIsMade();
@@ -227,6 +228,18 @@ void TestStitchPlan::lightIsWarpedAsItIs()
     QCOMPARE(valueIn(project, "Eev"), 0.0);
     QCOMPARE(valueIn(project, "Vb"), 0.0);
     QVERIFY(project.contains("n\"../light/00003.tif\""));
+}
+
+void TestStitchPlan::bracketsOfSeveralDirectionsAreNoLight()
+{
+    const PtoFile project
+        = projectOf(kSphere + image("y0 j0 Eev12", "a1.jpg") + image("y0.1 j=0 Eev14", "a2.jpg"));
+    const auto plan = planStitch(project, withOutput(StitchOutput::Hdr));
+    QVERIFY(!plan);
+    QCOMPARE(plan.error().code, ExitCode::InputRefused);
+    QCOMPARE(plan.error().tryThis,
+             QStringLiteral("import them with --stack hard, or choose --output fused"));
+    QVERIFY(planStitch(project, withOutput(StitchOutput::Fused)));
 }
 
 void TestStitchPlan::photosGetPlainNames()
