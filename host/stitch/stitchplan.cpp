@@ -128,13 +128,13 @@ int levelOf(const StitchLayout &layout, const QVector<int> &stack, int index,
 /** Whether all levels of each bracket look into just the same direction. */
 bool haveCommonAngles(const StitchLayout &layout)
 {
-    return std::all_of(
-        layout.stacks.cbegin(), layout.stacks.cend(), [&](const QVector<int> &stack) {
-            return std::all_of(stack.cbegin(), stack.cend(), [&](int image) {
-                const int master = layout.project.images()[image].angleMaster;
-                return image == stack.first() || master == stack.first();
-            });
-        });
+    return std::all_of(layout.stacks.cbegin(), layout.stacks.cend(),
+                       [&](const QVector<int> &stack) {
+                           return std::all_of(stack.cbegin(), stack.cend(), [&](int image) {
+                               const int master = layout.project.images()[image].angleMaster;
+                               return image == stack.first() || master == stack.first();
+                           });
+                       });
 }
 
 void addLight(StitchPlan &plan, const QVector<int> &stack)

@@ -54,7 +54,8 @@ struct StitchPlan {
     [[nodiscard]] double gainOf(int image) const;
 };
 
-/** Refuses what `layOut` refuses, and brackets for light whose levels have angles of their own. Opens the first photo to see how deep its colours are. */
+/** Refuses what `layOut` refuses, and brackets for light whose levels have angles of their own.
+ * Opens the first photo to see how deep its colours are. */
 [[nodiscard]] Result<StitchPlan> planStitch(const PtoFile &project, const StitchOptions &options);
 
 /** What the tools are told; names as they are, relative to the work folder. */
