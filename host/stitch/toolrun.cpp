@@ -40,15 +40,19 @@ private:
     const pid_t m_parent = ::getpid();
 };
 
-/** What Debian calls it. */
+/** The tools that the host runs, and what Debian calls them. */
 QString packagesOf(const QString &tool)
 {
-    static const QHash<QString, QString> own{
+    static const QString hugin = QStringLiteral("hugin-tools enblend");
+    static const QHash<QString, QString> packages{
+        { QStringLiteral("nona"), hugin },
+        { QStringLiteral("verdandi"), hugin },
+        { QStringLiteral("checkpto"), hugin },
+        { QStringLiteral("enblend"), hugin },
         { QStringLiteral("enfuse"), QStringLiteral("enfuse") },
         { QStringLiteral("vips"), QStringLiteral("libvips-tools") },
-        { QStringLiteral("vipsedit"), QStringLiteral("libvips-tools") },
     };
-    return own.value(tool, QStringLiteral("hugin-tools enblend"));
+    return packages.value(tool, tool);
 }
 
 /** The last line that says something, for an error message. */
