@@ -89,7 +89,7 @@ QVector<Delivery> kindsFrom(const QString &list)
 QString picturePath(const CommandLine &line, const QString &usualPath)
 {
     const QString name = line.value(QStringLiteral("out"));
-    const QString path = name.isEmpty() ? usualPath : absolutePath(name);
+    QString path = name.isEmpty() ? usualPath : absolutePath(name);
     const QString ending = QFileInfo(path).suffix().toLower();
     const QStringList known{ QStringLiteral("jpg"), QStringLiteral("jpeg"), QStringLiteral("tif"),
                              QStringLiteral("tiff") };

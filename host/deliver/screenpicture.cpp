@@ -31,7 +31,7 @@ Result<QString> screenPicture(const StitchedPicture &picture, const QByteArray &
     }
     if (managed) {
         const QString profile = QStringLiteral("screen.icc");
-        if (const Result<QString> written
+        if (Result<QString> written
             = writeFileAtomically(QDir(folder).filePath(profile), iccProfile);
             !written) {
             return written;
@@ -45,7 +45,7 @@ Result<QString> screenPicture(const StitchedPicture &picture, const QByteArray &
         const QString next = QStringLiteral("screen%1.v").arg(i);
         const QStringList arguments
             = steps[i].mid(0, 1) + QStringList{ file, next } + steps[i].mid(1);
-        if (const Result<QString> ran = runVips(arguments, folder, watch); !ran) {
+        if (Result<QString> ran = runVips(arguments, folder, watch); !ran) {
             return ran;
         }
         if (i > 0) {

@@ -492,7 +492,7 @@ Result<QStringList> answerOf(const std::function<QStringList()> &work)
 Result<QStringList> resumableAnswerOf(const QString &workFolder, const JobWatch &watch,
                                       const std::function<QStringList()> &work)
 {
-    const Result<QStringList> answer = answerOf(work);
+    Result<QStringList> answer = answerOf(work);
     if (answer) {
         return answer;
     }

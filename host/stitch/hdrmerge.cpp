@@ -35,7 +35,7 @@ double linearOfSrgb(double v)
 std::vector<float> tableOf(int bits, bool isLinear)
 {
     std::vector<float> table(size_t{ 1 } << bits);
-    const double most = static_cast<double>(table.size() - 1);
+    const auto most = static_cast<double>(table.size() - 1);
     for (size_t i = 0; i < table.size(); ++i) {
         const double v = static_cast<double>(i) / most;
         table[i] = static_cast<float>(isLinear ? v : linearOfSrgb(v));
@@ -83,7 +83,7 @@ private:
         const int bands = m_file.bands();
         for (int x = 0; x < m_file.size().width(); ++x) {
             for (int colour = 0; colour < kColours; ++colour) {
-                row[static_cast<size_t>(x * kColours + colour)]
+                row[static_cast<size_t>(x) * kColours + static_cast<size_t>(colour)]
                     = get(x * bands + (bands < kColours ? 0 : colour));
             }
         }
@@ -139,7 +139,7 @@ public:
         , m_values(m_levels.size(),
                    std::vector<float>(static_cast<size_t>(m_size.width()) * kColours))
     {
-        const auto shortest = std::max_element(
+        const auto *const shortest = std::max_element(
             wanted.cbegin(), wanted.cend(),
             [](const HdrLevel &a, const HdrLevel &b) { return a.gain < b.gain; });
         m_shortest = static_cast<size_t>(shortest - wanted.cbegin());

@@ -99,7 +99,7 @@ StitchedPicture::Depth depthOf(const PtoFile &project, const StitchOptions &opti
 /** The exposures of whole brackets, stops from the reference. */
 std::vector<double> levelsOf(const StitchLayout &layout)
 {
-    const auto whole = std::max_element(
+    const auto *const whole = std::max_element(
         layout.stacks.cbegin(), layout.stacks.cend(),
         [](const QVector<int> &a, const QVector<int> &b) { return a.size() < b.size(); });
     std::vector<double> levels;
