@@ -173,8 +173,11 @@ private:
     /** \p exposure is the value at which the scene is shown as it was photographed; nothing: that
      * of the panorama. */
     Likeness likenessOf(const TestShoot &shoot, int width, std::optional<double> exposure = {});
+    /** That of the shoot with play in even light, which two tests ask for; made once. */
+    Likeness likenessOfPlay();
 
     std::unique_ptr<CliBench> m_bench;
+    std::optional<Likeness> m_play;
 };
 
 void TestMakeShoots::init()
@@ -245,6 +248,14 @@ TestMakeShoots::Likeness TestMakeShoots::likenessOf(const TestShoot &shoot, int 
     return { agreementOf(result.picture, truth).psnrDecibels, own };
 }
 
+TestMakeShoots::Likeness TestMakeShoots::likenessOfPlay()
+{
+    if (!m_play) {
+        m_play = likenessOf(*named(QStringLiteral("play")), kWidth);
+    }
+    return *m_play;
+}
+
 void TestMakeShoots::panoramasLookLikeTheScene_data()
 {
     QTest::addColumn<QString>("name");
@@ -264,7 +275,8 @@ void TestMakeShoots::panoramasLookLikeTheScene()
     if (shoot.camera.projection == Projection::EquidistantFisheye) {
         shoot.camera.size *= 2; // else its photos are coarser than the scene
     }
-    const double psnr = likenessOf(shoot, width).psnr;
+    const double psnr
+        = (name == QLatin1String("play") ? likenessOfPlay() : likenessOf(shoot, width)).psnr;
     qInfo("%s: %.1f dB (at least %.0f)", qPrintable(name), psnr, kLeast);
     QVERIFY(psnr >= kLeast);
 }
@@ -292,12 +304,11 @@ void TestMakeShoots::bracketsAreFusedAsTheSceneWouldBe()
 void TestMakeShoots::unevenLightCostsLittle()
 {
     constexpr double kMostLost = 2.0;
-    const TestShoot even = *named(QStringLiteral("play"));
-    TestShoot uneven = even;
+    TestShoot uneven = *named(QStringLiteral("play"));
     uneven.name = QStringLiteral("uneven");
     uneven.camera.errors.vignettingB = -0.45;
     uneven.exposures.automatic = 0.7;
-    const Likeness inEven = likenessOf(even, kWidth);
+    const Likeness inEven = likenessOfPlay();
     const Likeness inUneven = likenessOf(uneven, kWidth, inEven.exposure);
     qInfo("even light %.1f dB, vignetting and automatic exposure %.1f dB (%.0f less at most)",
           inEven.psnr, inUneven.psnr, kMostLost);
