@@ -6,6 +6,7 @@
 #include "host/deliver/vipswriter.h"
 #include "host/model/safefile.h"
 #include "host/model/tifffile.h"
+#include "host/stitch/toolrun.h"
 
 #include <QDir>
 #include <QFile>
@@ -69,11 +70,12 @@ bool isCompleteJpeg(const QString &path, const QSize &size)
     return file.seek(file.size() - kEndBytes) && file.read(kEndBytes) == "\xff\xd9";
 }
 
-Failure cutOff()
+Failure cutOff(const QString &folder)
 {
-    return { ExitCode::ToolFailed, QStringLiteral("vips"),
-             QStringLiteral("it left a file that is not complete"),
-             QStringLiteral("is the disk full? make room and try again") };
+    return orLackOfRoom({ ExitCode::ToolFailed, QStringLiteral("vips"),
+                          QStringLiteral("it left a file that is not complete"),
+                          QStringLiteral("is the disk full? make room and try again") },
+                        folder);
 }
 
 /** Copies the JPEG \p plain with \p segments in front. */
@@ -135,7 +137,7 @@ Result<QString> saveJpeg(const FlatPicture &picture, const QString &folder, cons
     }
     const QString plainPath = QDir(folder).filePath(plain);
     if (!isCompleteJpeg(plainPath, picture.size)) {
-        return cutOff();
+        return cutOff(folder);
     }
     Result<QString> saved
         = addSegments(plainPath, QDir(folder).filePath(name), segmentsOf(picture.facts));
@@ -161,7 +163,7 @@ Result<QString> saveTiff(const FlatPicture &picture, const QString &folder, cons
     }
     QFile file(QDir(folder).filePath(name));
     if (!file.open(QIODevice::ReadOnly) || !isCompleteTiff(file, picture.size)) {
-        return cutOff();
+        return cutOff(folder);
     }
     return file.fileName();
 }

@@ -3,10 +3,12 @@
 #include "host/deliver/vips.h"
 
 #include "host/deliver/viewerpage.h"
+#include "host/model/displayname.h"
 #include "host/model/safefile.h"
 #include "host/stitch/toolrun.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 namespace PanoHost
 {
@@ -30,9 +32,10 @@ QString jpegOptions(int quality)
 
 Failure notWhole(const QString &path)
 {
-    return { ExitCode::ToolFailed, QStringLiteral("vips"),
-             QStringLiteral("it left %1 incomplete").arg(path),
-             QStringLiteral("is the disk full?") };
+    return orLackOfRoom({ ExitCode::ToolFailed, QStringLiteral("vips"),
+                          QStringLiteral("it left %1 incomplete").arg(displayName(path)),
+                          QStringLiteral("is the disk full?") },
+                        QFileInfo(path).path());
 }
 
 Result<QString> wholeJpeg(const QString &path)

@@ -28,7 +28,7 @@ struct JobWatch {
     /** True when the user wants to stop; asked several times a second. */
     std::function<bool()> interrupted;
     std::function<void(Note note, const QString &text)> log;
-    /** A helper program that runs longer is stuck, and stopped. */
+    /** A helper program that uses no processor for so long is stuck, and stopped. */
     std::chrono::milliseconds patience = std::chrono::minutes(15);
 
     void report(int done, int total, const QString &text) const;

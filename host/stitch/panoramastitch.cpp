@@ -215,9 +215,10 @@ QString Run::make(const QString &name, const QByteArray &source,
         const bool isWhole = name.endsWith(QLatin1String(".v")) ? VipsFile::open(part).ok()
                                                                 : tiffPlace(part).has_value();
         if (!isWhole) {
-            return Failure{ ExitCode::ToolFailed, name,
-                            QStringLiteral("was not written to its end"),
-                            QStringLiteral("is there enough room in %1?").arg(m_work.path()) };
+            return orLackOfRoom(
+                { ExitCode::ToolFailed, name, QStringLiteral("was not written to its end"),
+                  QStringLiteral("is there enough room in %1?").arg(displayName(m_work.path())) },
+                m_work.path());
         }
         return part;
     }));
@@ -308,15 +309,22 @@ void Run::warp(int index)
     const StitchWarp &warp = m_plan.warps.at(index);
     make(warp.warped, warpKey(index), [&](const QString &part) {
         (void)valueOrThrow(writeFileAtomically(m_work.path(warp.project), warp.projectText));
-        call(m_tools.value(QStringLiteral("nona")), warpArguments(warp, stemOf(part)));
+        const QString photo = displayName(m_plan.layout.project.images()[warp.image].path);
+        try {
+            call(m_tools.value(QStringLiteral("nona")), warpArguments(warp, stemOf(part)));
+        } catch (const CommandError &error) {
+            Failure failure = error.failure();
+            if (failure.code == ExitCode::ToolFailed) {
+                failure.what = QStringLiteral("nona, of %1").arg(photo);
+            }
+            throw CommandError(failure);
+        }
         // nona numbers what it makes.
         const QString made = m_work.path(stemOf(part) + QStringLiteral("0000.tif"));
         if (!QFile::rename(made, m_work.path(part))) {
-            throw CommandError(
-                { ExitCode::ToolFailed, QStringLiteral("nona"),
-                  QStringLiteral("made no picture of %1")
-                      .arg(displayName(m_plan.layout.project.images()[warp.image].path)),
-                  QStringLiteral("is it a photo that other programs open?") });
+            throw CommandError({ ExitCode::ToolFailed, QStringLiteral("nona"),
+                                 QStringLiteral("made no picture of %1").arg(photo),
+                                 QStringLiteral("is it a photo that other programs open?") });
         }
     });
 }
@@ -398,20 +406,6 @@ StitchedPicture Run::run()
     return picture;
 }
 
-/** Why a tool failed where there is hardly any room left. */
-Failure orLackOfRoom(const Failure &failure, const QString &folder)
-{
-    constexpr qint64 kHardlyAny = 16LL << 20; // a warped photo may take as much
-    const qint64 free = QStorageInfo(folder).bytesAvailable();
-    if (failure.code != ExitCode::ToolFailed || free >= kHardlyAny) {
-        return failure;
-    }
-    return { failure.code, failure.what,
-             QStringLiteral("it failed, and there is hardly any room left in %1 (%2)")
-                 .arg(folder, bytesText(free)),
-             QStringLiteral("make room there and go on with the same command; nothing is lost") };
-}
-
 } // namespace
 
 Result<StitchNeeds> needsOf(const PtoFile &project, const StitchOptions &options)
@@ -458,7 +452,7 @@ Result<StitchedPicture> stitchProject(const PtoFile &project, const StitchOption
     try {
         return Run(std::move(plan).value(), work, watch).run();
     } catch (const CommandError &error) {
-        return orLackOfRoom(error.failure(), work.path());
+        return error.failure();
     }
 }
 

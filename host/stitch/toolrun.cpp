@@ -2,15 +2,24 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/stitch/toolrun.h"
 
+#include "host/model/displayname.h"
+#include "host/model/safefile.h"
+#include "host/stitch/stitchneeds.h"
+
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QHash>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QStandardPaths>
+#include <QStorageInfo>
 
 #include <algorithm>
+#include <cerrno>
 #include <csignal>
+#include <cstring>
+#include <utility>
 
 #include <sys/prctl.h>
 #include <unistd.h>
@@ -23,6 +32,11 @@ namespace
 constexpr int kTickMilliseconds = 100;
 constexpr int kPatienceMilliseconds = 2000;
 constexpr int kKeptBytes = 1 << 20;
+
+QString systemText(int error)
+{
+    return QRegularExpression::escape(QString::fromLocal8Bit(std::strerror(error)));
+}
 
 /** A program that goes when this one goes, however that comes about. */
 class ToolProcess : public QProcess
@@ -52,15 +66,104 @@ QString packagesOf(const QString &tool)
         { QStringLiteral("enfuse"), QStringLiteral("enfuse") },
         { QStringLiteral("vips"), QStringLiteral("libvips-tools") },
     };
-    return packages.value(tool, tool);
+    return packages.value(tool);
 }
 
-/** The last line that says something, for an error message. */
-QString lastLine(const QString &output)
+QString installAgain(const QString &tool)
 {
-    const QStringList lines = output.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    return lines.isEmpty() ? QString() : lines.last().trimmed();
+    const QString packages = packagesOf(tool);
+    return packages.isEmpty() ? QStringLiteral("does it run by itself?")
+                              : QStringLiteral("apt install --reinstall %1").arg(packages);
 }
+
+/** How the tools say that there is no room. */
+bool tellsOfWriting(const QString &line)
+{
+    static const QRegularExpression words(
+        QStringLiteral("write error|write failed|error writing|unable to write|%1|%2|%3")
+            .arg(systemText(ENOSPC), systemText(EDQUOT), systemText(EFBIG)),
+        QRegularExpression::CaseInsensitiveOption);
+    return words.match(line).hasMatch();
+}
+
+bool isPlaceInSource(const QString &line)
+{
+    static const QRegularExpression place(QStringLiteral("^\\(\\S+:\\d+\\)$"));
+    return place.match(line).hasMatch();
+}
+
+/** The last line that says something, for an error message: of writing, when one does. */
+QString tellingLine(const QString &output)
+{
+    const QStringList lines = output.split(QRegularExpression(QStringLiteral("[\r\n]")));
+    QString last;
+    QString ofWriting;
+    for (const QString &line : lines) {
+        const QString text = line.simplified();
+        // Where in its own source a program has failed says nothing to anybody.
+        last = text.isEmpty() || isPlaceInSource(text) ? last : text;
+        ofWriting = tellsOfWriting(text) ? text : ofWriting;
+    }
+    return ofWriting.isEmpty() ? last : ofWriting;
+}
+
+/** Processor time that a process and all that it has started have used, in the system's ticks. */
+qint64 usedTicks(qint64 process)
+{
+    const QString folder = QStringLiteral("/proc/%1/").arg(process);
+    constexpr qint64 kMostBytes = 1 << 16;
+    const auto stat = readRegularFile(folder + QStringLiteral("stat"), kMostBytes);
+    const auto children
+        = readRegularFile(folder + QStringLiteral("task/%1/children").arg(process), kMostBytes);
+    qint64 ticks = 0;
+    if (stat) {
+        // Behind the name, which may hold anything: its own time and that of children that ended.
+        const QByteArray &line = stat.value();
+        const QList<QByteArray> fields = line.mid(line.lastIndexOf(')') + 2).split(' ');
+        for (const int field : { 11, 12, 13, 14 }) {
+            ticks += fields.value(field).toLongLong();
+        }
+    }
+    if (children) {
+        for (const QByteArray &child : children.value().simplified().split(' ')) {
+            ticks += child.isEmpty() ? 0 : usedTicks(child.toLongLong());
+        }
+    }
+    return ticks;
+}
+
+/** Tells a process that does nothing from one that takes its time. */
+class Patience
+{
+public:
+    Patience(qint64 process, std::chrono::milliseconds patience)
+        : m_process(process)
+        , m_patience(patience)
+    {
+        m_clock.start();
+    }
+
+    [[nodiscard]] bool isOver()
+    {
+        if (!m_clock.hasExpired(m_patience.count())) {
+            return false;
+        }
+        // Who waits for something looks after it now and then; starting takes a moment too.
+        constexpr double kLeastShare = 0.01;
+        constexpr double kStartTicks = 3.0;
+        const qint64 used = usedTicks(m_process);
+        const double least = kLeastShare * double(m_clock.restart()) / 1000.0
+            * static_cast<double>(::sysconf(_SC_CLK_TCK));
+        return static_cast<double>(used - std::exchange(m_used, used))
+            < std::max(least, kStartTicks);
+    }
+
+private:
+    const qint64 m_process;
+    const std::chrono::milliseconds m_patience;
+    QElapsedTimer m_clock;
+    qint64 m_used = 0;
+};
 
 void stop(QProcess &process)
 {
@@ -83,17 +186,26 @@ QString inWords(std::chrono::milliseconds time)
                          : QStringLiteral("%1 minutes").arg(seconds / 60);
 }
 
+QString askForRoom(const QString &folder)
+{
+    return QStringLiteral("is there enough room in %1?").arg(displayName(folder));
+}
+
 /** Why \p process did not come to an end of its own. */
-Failure crash(const QString &name, const QProcess &process)
+Failure crash(const QString &name, const QProcess &process, const QString &said,
+              const QString &folder)
 {
     // Of a program that crashed this is the signal.
     if (process.exitCode() == SIGKILL) {
         return toolFailure(name, QStringLiteral("it was killed, perhaps because memory ran out"),
                            QStringLiteral("close other programs and try again"));
     }
-    return toolFailure(name, QStringLiteral("it crashed (signal %1)").arg(process.exitCode()),
-                       QStringLiteral("try again; if it crashes again: "
-                                      "apt install --reinstall hugin-tools"));
+    const QString line = tellingLine(said);
+    const QString why = QStringLiteral("it crashed (signal %1)").arg(process.exitCode());
+    return toolFailure(name, line.isEmpty() ? why : why + QStringLiteral(" and said: ") + line,
+                       tellsOfWriting(line) ? askForRoom(folder)
+                                            : QStringLiteral("try again; if it crashes again: ")
+                               + installAgain(name));
 }
 
 } // namespace
@@ -104,9 +216,10 @@ Result<QString> findTool(const QString &name)
     if (!path.isEmpty()) {
         return path;
     }
+    const QString packages = packagesOf(name);
     return Failure{ ExitCode::ToolMissing, name,
                     QStringLiteral("this program is needed for stitching and was not found"),
-                    QStringLiteral("apt install %1").arg(packagesOf(name)) };
+                    QStringLiteral("apt install %1").arg(packages.isEmpty() ? name : packages) };
 }
 
 Result<ToolEnd> runToEnd(const QString &path, const QStringList &arguments, const QString &folder,
@@ -123,26 +236,27 @@ Result<ToolEnd> runToEnd(const QString &path, const QStringList &arguments, cons
     if (name == QLatin1String("nona")) { // photos are warped side by side
         environment.insert(QStringLiteral("OMP_NUM_THREADS"), QStringLiteral("1"));
     }
+    // There is room where their results go; elsewhere nobody has looked.
+    environment.insert(QStringLiteral("TMPDIR"), QDir(folder).absolutePath());
     process.setProcessEnvironment(environment);
     process.start(path, arguments, QIODevice::ReadOnly);
     if (!process.waitForStarted()) {
         return toolFailure(name,
                            QStringLiteral("cannot be started (%1)").arg(process.errorString()),
-                           QStringLiteral("apt install --reinstall hugin-tools"));
+                           installAgain(name));
     }
-    QElapsedTimer clock;
-    clock.start();
+    Patience patience(process.processId(), watch.patience);
     QByteArray said;
     while (!process.waitForFinished(kTickMilliseconds) && process.state() != QProcess::NotRunning) {
         if (watch.stopWanted()) {
             stop(process);
             return interruption();
         }
-        if (clock.hasExpired(watch.patience.count())) {
+        if (patience.isOver()) {
             stop(process);
             return toolFailure(
                 name,
-                QStringLiteral("it was stopped since it did not end within %1")
+                QStringLiteral("it was stopped since it did nothing for %1")
                     .arg(inWords(watch.patience)),
                 QStringLiteral("is the machine very busy, or a network drive away? try again"));
         }
@@ -154,10 +268,10 @@ Result<ToolEnd> runToEnd(const QString &path, const QStringList &arguments, cons
     if (watch.stopWanted()) { // Ctrl-C reaches the helper program too
         return interruption();
     }
-    if (process.exitStatus() != QProcess::NormalExit) {
-        return crash(name, process);
-    }
     said = (said + process.readAll()).right(kKeptBytes);
+    if (process.exitStatus() != QProcess::NormalExit) {
+        return orLackOfRoom(crash(name, process, QString::fromLocal8Bit(said), folder), folder);
+    }
     return ToolEnd{ process.exitCode(), QString::fromLocal8Bit(said) };
 }
 
@@ -171,11 +285,29 @@ Result<QString> runTool(const QString &path, const QStringList &arguments, const
     if (end.value().exitCode == 0) {
         return path;
     }
-    const QString line = lastLine(end.value().said);
-    return toolFailure(QFileInfo(path).fileName(),
-                       line.isEmpty() ? QStringLiteral("it failed without a message")
-                                      : QStringLiteral("it failed and said: %1").arg(line),
-                       QStringLiteral("is there enough room in %1?").arg(QDir::tempPath()));
+    const QString line = tellingLine(end.value().said);
+    return orLackOfRoom(
+        toolFailure(QFileInfo(path).fileName(),
+                    line.isEmpty() ? QStringLiteral("it failed without a message")
+                                   : QStringLiteral("it failed and said: %1").arg(line),
+                    tellsOfWriting(line)
+                        ? askForRoom(folder)
+                        : QStringLiteral("is the disk full, or a file damaged that it reads?")),
+        folder);
+}
+
+Failure orLackOfRoom(const Failure &failure, const QString &folder)
+{
+    constexpr qint64 kHardlyAny = 16LL << 20; // a warped photo may take as much
+    const QStorageInfo disk(folder);
+    const qint64 free = disk.bytesAvailable();
+    if (failure.code != ExitCode::ToolFailed || free >= kHardlyAny) {
+        return failure;
+    }
+    return { failure.code, failure.what,
+             QStringLiteral("it failed, and there is hardly any room left on the disk at %1 (%2)")
+                 .arg(disk.rootPath(), bytesText(free)),
+             QStringLiteral("make room there and go on with the same command; nothing is lost") };
 }
 
 QString shellQuoted(const QString &word)

@@ -23,9 +23,9 @@ struct ToolEnd {
 };
 
 /**
- * Runs the program \p path in \p folder until it ends; \p tick is called several times a second.
- * An interruption stops it, and so does the end of the watch's patience; it never outlives this
- * process. A crash is a failure, an exit code is not.
+ * Runs the program \p path in \p folder, where its temporary files go too, until it ends; \p tick
+ * is called several times a second. An interruption stops it, and so does the end of the watch's
+ * patience; it never outlives this process. A crash is a failure, an exit code is not.
  */
 [[nodiscard]] Result<ToolEnd> runToEnd(const QString &path, const QStringList &arguments,
                                        const QString &folder, const JobWatch &watch,
@@ -38,6 +38,10 @@ struct ToolEnd {
 [[nodiscard]] Result<QString> runTool(const QString &path, const QStringList &arguments,
                                       const QString &folder, const JobWatch &watch,
                                       const std::function<void()> &tick = {});
+
+/** \p failure of a tool; where there is hardly any room left in \p folder, that as its reason. To
+ * be asked before what the tool has left is removed. */
+[[nodiscard]] Failure orLackOfRoom(const Failure &failure, const QString &folder);
 
 /** \p word as a shell reads it back. */
 [[nodiscard]] QString shellQuoted(const QString &word);

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/stitch/panoramastitch.h"
+#include "host/stitch/toolrun.h"
 #include "tests/support/testprogram.h"
 
 #include <QCoreApplication>
@@ -65,6 +66,8 @@ private Q_SLOTS:
     void missingToolsAreNamedWithTheirPackages();
     void badToolsAreExplained_data();
     void badToolsAreExplained();
+    void toolsThatWorkAreWaitedFor();
+    void temporaryFilesOfToolsGoIntoTheWorkFolder();
     void stoppedStitchGoesOn();
     void photosThatAreGoneAreNamed();
 
@@ -256,9 +259,23 @@ void TestStitchRun::badToolsAreExplained_data()
             << name << QByteArray("kill -KILL $$\n")
             << QStringLiteral("it was killed, perhaps because memory ran out");
         QTest::addRow("%s hangs", tool) << name << QByteArray("exec sleep 600\n")
-                                        << QStringLiteral("it was stopped since it did not end "
-                                                          "within 1 s");
+                                        << QStringLiteral("it was stopped since it did nothing "
+                                                          "for 1 s");
     }
+    // The line that tells of the disk, not the last one.
+    QTest::newRow("nona cannot write")
+        << QStringLiteral("nona")
+        << QByteArray("echo 'exportImage(): Unable to write TIFF data.'; echo '(tiff.cxx:876)'\n"
+                      "exit 1\n")
+        << QStringLiteral("it failed and said: exportImage(): Unable to write TIFF data.");
+    QTest::newRow("verdandi crashes when it cannot write")
+        << QStringLiteral("verdandi")
+        << QByteArray("echo 'Write error at scanline 0.'; echo terminate called\n"
+                      "ulimit -c 0; kill -ABRT $$\n")
+        << QStringLiteral("it crashed (signal 6) and said: Write error at scanline 0.");
+    QTest::newRow("nona fails somewhere in its source")
+        << QStringLiteral("nona") << QByteArray("echo no codec; echo '(./a.cxx:233)'; exit 1\n")
+        << QStringLiteral("it failed and said: no codec");
     QTest::newRow("nona leaves nothing") << QStringLiteral("nona") << QByteArray("exit 0\n")
                                          << QStringLiteral("made no picture of it's a.jpg");
     QTest::newRow("nona writes half")
@@ -282,7 +299,7 @@ void TestStitchRun::badToolsAreExplained()
     script.replace("made.", "'" + QFile::encodeName(m_folder->path()) + "'/made.");
     makeTool(tool.toLatin1().constData(), script);
     JobWatch watch;
-    watch.patience = std::chrono::seconds(why.endsWith(QLatin1String("within 1 s")) ? 1 : 600);
+    watch.patience = std::chrono::seconds(why.endsWith(QLatin1String("for 1 s")) ? 1 : 600);
     StitchOptions options;
     options.jobs = 1;
     QDir::setCurrent(m_folder->path());
@@ -297,6 +314,31 @@ void TestStitchRun::badToolsAreExplained()
     makeTools();
     const auto mended = stitched(options);
     QVERIFY2(mended, mended ? "" : qPrintable(mended.error().text()));
+}
+
+void TestStitchRun::toolsThatWorkAreWaitedFor()
+{
+    JobWatch watch;
+    watch.patience = std::chrono::seconds(1);
+    // Some seconds, and its child's, with a processor of its own; as long as it takes without.
+    const auto end = runToEnd(
+        QStringLiteral("/bin/sh"),
+        { QStringLiteral("-c"),
+          QStringLiteral(
+              "i=0; while [ $i -lt 600000 ]; do i=$((i + 1)); done\n"
+              "sh -c 'i=600000; while [ $i -lt 1200000 ]; do i=$((i + 1)); done' & wait $!") },
+        m_folder->path(), watch);
+    QVERIFY2(end, end ? "" : qPrintable(end.error().text()));
+    QCOMPARE(end.value().exitCode, 0);
+}
+
+void TestStitchRun::temporaryFilesOfToolsGoIntoTheWorkFolder()
+{
+    const auto end = runToEnd(QStringLiteral("/bin/sh"),
+                              { QStringLiteral("-c"), QStringLiteral("printf %s \"$TMPDIR\"") },
+                              m_folder->path(), {});
+    QVERIFY(end);
+    QCOMPARE(end.value().said, m_folder->path());
 }
 
 void TestStitchRun::stoppedStitchGoesOn()
