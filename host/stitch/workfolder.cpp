@@ -10,6 +10,8 @@
 #include <QFileInfo>
 #include <QLockFile>
 
+#include <algorithm>
+
 namespace PanoHost
 {
 namespace
@@ -17,9 +19,12 @@ namespace
 
 const QString kKeySuffix = QStringLiteral(".key");
 
-QByteArray keyOf(const QByteArray &source)
+/** What \p path was made of, and its size: a power cut can leave the name without the content. */
+QByteArray keyOf(const QByteArray &source, const QString &path)
 {
-    return QCryptographicHash::hash(source, QCryptographicHash::Sha256).toHex();
+    const QFileInfo file(path);
+    return QCryptographicHash::hash(source, QCryptographicHash::Sha256).toHex() + ' '
+        + QByteArray::number(file.isDir() ? 0 : file.size());
 }
 
 Failure notWritable(const QString &path)
@@ -35,6 +40,33 @@ bool removeAll(const QString &path)
         return true;
     }
     return file.isDir() && !file.isSymLink() ? QDir(path).removeRecursively() : QFile::remove(path);
+}
+
+/** Removes \p part, and what tools have left beside it under names that begin or end like its. */
+bool removeParts(const QString &part)
+{
+    const QFileInfo file(part);
+    const QStringList left
+        = file.dir().entryList({ QLatin1Char('*') + file.completeBaseName() + QLatin1Char('*') },
+                               QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot);
+    return std::all_of(left.begin(), left.end(), [&file](const QString &name) {
+        return removeAll(file.dir().filePath(name));
+    });
+}
+
+/** Of a lock that a power cut has left empty nobody can tell whose it was. */
+bool takeLock(QLockFile &lock)
+{
+    if (lock.tryLock()) {
+        return true;
+    }
+    qint64 process = 0;
+    QString host;
+    QString program;
+    return lock.error() == QLockFile::LockFailedError
+        && !lock.getLockInfo(&process, &host, &program)
+        && lock.removeStaleLockFile() // whoever lives holds it besides
+        && lock.tryLock();
 }
 
 QString lockedBy(QLockFile &lock)
@@ -63,11 +95,16 @@ WorkFolder::~WorkFolder() = default;
 Result<WorkFolder> WorkFolder::open(const QString &path)
 {
     if (!QDir().mkpath(path)) {
-        return Failure{ ExitCode::ToolFailed, path, QStringLiteral("this folder cannot be made"),
-                        QStringLiteral("is there a file of that name, or no right to write?") };
+        const QString why = QStringLiteral("this folder cannot be made");
+        return QFileInfo::exists(path)
+            ? Failure{ ExitCode::InputRefused, path, why,
+                       QStringLiteral("there is a file of that name: rename it, or choose another "
+                                      "name with -o") }
+            : Failure{ ExitCode::ToolFailed, path, why,
+                       QStringLiteral("is the disk full, or the folder above it read-only?") };
     }
     WorkFolder folder(QDir(path).absolutePath());
-    if (folder.m_lock->tryLock()) {
+    if (takeLock(*folder.m_lock)) {
         return folder;
     }
     if (folder.m_lock->error() == QLockFile::LockFailedError) {
@@ -85,9 +122,10 @@ QString WorkFolder::path(const QString &name) const
 
 bool WorkFolder::has(const QString &name, const QByteArray &source) const
 {
-    constexpr qint64 kKeyBytes = 64;
-    const Result<QByteArray> key = readRegularFile(path(name) + kKeySuffix, kKeyBytes);
-    return key && key.value() == keyOf(source) && QFileInfo::exists(path(name));
+    constexpr qint64 kMostKeyBytes = 128;
+    const QString wanted = path(name);
+    const Result<QByteArray> key = readRegularFile(wanted + kKeySuffix, kMostKeyBytes);
+    return key && QFileInfo::exists(wanted) && key.value() == keyOf(source, wanted);
 }
 
 Result<QString> WorkFolder::make(const QString &name, const QByteArray &source,
@@ -100,17 +138,18 @@ Result<QString> WorkFolder::make(const QString &name, const QByteArray &source,
     const QFileInfo file(wanted);
     // The same ending: programs go by it.
     const QString part = file.dir().filePath(QStringLiteral("part-") + file.fileName());
-    if (!QDir().mkpath(file.path()) || !removeAll(wanted + kKeySuffix) || !removeAll(part)) {
+    if (!QDir().mkpath(file.path()) || !removeAll(wanted + kKeySuffix) || !removeParts(part)) {
         return notWritable(file.path());
     }
     if (const Result<QString> made = maker(part); !made) {
-        removeAll(part);
+        removeParts(part);
         return made.error();
     }
     if (!removeAll(wanted) || !QFile::rename(part, wanted)) {
         return notWritable(wanted);
     }
-    if (const Result<QString> key = writeFileAtomically(wanted + kKeySuffix, keyOf(source)); !key) {
+    if (const Result<QString> key = writeFileAtomically(wanted + kKeySuffix, keyOf(source, wanted));
+        !key) {
         return key.error();
     }
     return wanted;

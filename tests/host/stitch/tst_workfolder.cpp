@@ -46,10 +46,13 @@ private Q_SLOTS:
     void resultsAreMadeOnce();
     void anotherSourceMakesThemAnew();
     void whatIsGoneIsMadeAgain();
+    void whatLostItsEndIsMadeAgain();
     void failureLeavesNothingButTheOldResult();
+    void whatToolsLeaveBesideIsRemoved();
     void foldersAreResultsToo();
     void whoeverWasKilledBetweenStepsGoesOn();
     void twoProcessesDoNotShareIt();
+    void emptyLockOfAPowerCutIsNobodys();
     void aFileInItsPlaceIsRefused();
 
 private:
@@ -101,6 +104,17 @@ void TestWorkFolder::whatIsGoneIsMadeAgain()
     QCOMPARE(calls, 1);
 }
 
+void TestWorkFolder::whatLostItsEndIsMadeAgain()
+{
+    const auto work = WorkFolder::open(path());
+    const QString name = QStringLiteral("one.txt");
+    QVERIFY(work.value().make(name, "source", writes("whole")));
+    QVERIFY(QFile::resize(work.value().path(name), 0));
+    const auto made = work.value().make(name, "source", writes("whole"));
+    QVERIFY(made);
+    QCOMPARE(contentOf(made.value()), QByteArray("whole"));
+}
+
 void TestWorkFolder::failureLeavesNothingButTheOldResult()
 {
     const auto work = WorkFolder::open(path());
@@ -117,6 +131,23 @@ void TestWorkFolder::failureLeavesNothingButTheOldResult()
     QCOMPARE(contentOf(work.value().path(name)), QByteArray("1"));
     QVERIFY(!work.value().has(name, "second"));
     QCOMPARE(QDir(path()).entryList(QDir::Files), (QStringList{ QStringLiteral("lock"), name }));
+}
+
+void TestWorkFolder::whatToolsLeaveBesideIsRemoved()
+{
+    const auto work = WorkFolder::open(path());
+    const QString name = QStringLiteral("one.tif");
+    QVERIFY(writes("of a killed run")(path() + QStringLiteral("/part-one.tif.XyZ")));
+    QVERIFY(writes("another's")(path() + QStringLiteral("/part-two.tif")));
+    const auto failed = work.value().make(name, "1", [&](const QString &) -> Result<QString> {
+        for (const char *left : { "/part-one0000.tif", "/raw-part-one.tiff" }) {
+            (void)writes("half")(path() + QLatin1String(left));
+        }
+        return Failure{};
+    });
+    QVERIFY(!failed);
+    QCOMPARE(QDir(path()).entryList(QDir::Files),
+             (QStringList{ QStringLiteral("lock"), QStringLiteral("part-two.tif") }));
 }
 
 void TestWorkFolder::foldersAreResultsToo()
@@ -160,6 +191,15 @@ void TestWorkFolder::twoProcessesDoNotShareIt()
     QCOMPARE(second.error().code, ExitCode::InputRefused);
     QVERIFY(second.error().why.startsWith(QStringLiteral("is in use by ")));
     QVERIFY(second.error().why.contains(QString::number(QCoreApplication::applicationPid())));
+}
+
+void TestWorkFolder::emptyLockOfAPowerCutIsNobodys()
+{
+    QVERIFY(QDir().mkpath(path()));
+    QVERIFY(writes({})(path() + QStringLiteral("/lock")));
+    const auto work = WorkFolder::open(path());
+    QVERIFY2(work, work ? "" : qPrintable(work.error().text()));
+    QVERIFY(!WorkFolder::open(path()));
 }
 
 void TestWorkFolder::aFileInItsPlaceIsRefused()
