@@ -37,7 +37,7 @@ void requireUnicodeFileNames()
 bool isPlatformNote(const QByteArray &text)
 {
     return text.contains("propagateSizeHints") || text.contains("XDG_RUNTIME_DIR")
-        || text.contains("This plugin does not support");
+        || text.contains("runtime directory") || text.contains("This plugin does not support");
 }
 
 void messageHandler(QtMsgType type, const QMessageLogContext &, const QString &message)

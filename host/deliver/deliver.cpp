@@ -3,7 +3,9 @@
 #include "host/deliver/deliver.h"
 
 #include "host/deliver/cube.h"
+#include "host/deliver/finalplace.h"
 #include "host/deliver/flatpicture.h"
+#include "host/deliver/outputname.h"
 #include "host/deliver/radiancepicture.h"
 #include "host/deliver/spherepage.h"
 #include "host/deliver/zoomtiles.h"
@@ -30,7 +32,37 @@ constexpr std::array<DeliveryRow, 6> kRows{ {
     { Delivery::Iiif, makeIiifFolder },
 } };
 
+/** Whether \p kind can go where it belongs. */
+Result<QString> checkPlace(const DeliverJob &job, Delivery kind)
+{
+    switch (kind) {
+    case Delivery::Picture:
+        return checkFilePlace(job.output);
+    case Delivery::Page:
+        return checkFilePlace(outputName(job.output, QStringLiteral(".html")));
+    case Delivery::Radiance:
+        return checkFilePlace(outputName(job.output, QLatin1Char('.') + job.radianceSuffix));
+    case Delivery::Zoom:
+        return checkFolderPlace(outputName(job.output, QStringLiteral("_zoom")));
+    case Delivery::Cube:
+        return checkFolderPlace(outputName(job.output, QStringLiteral("_cube")));
+    case Delivery::Iiif:
+        break;
+    }
+    return checkFolderPlace(outputName(job.output, QStringLiteral("_iiif")));
+}
+
 } // namespace
+
+Result<QString> checkPlaces(const DeliverJob &job)
+{
+    for (const Delivery kind : job.kinds) {
+        if (Result<QString> place = checkPlace(job, kind); !place) {
+            return place;
+        }
+    }
+    return job.output;
+}
 
 Result<QStringList> deliver(const DeliverJob &job, const JobWatch &watch)
 {

@@ -36,6 +36,10 @@ struct DeliverJob {
     QString workFolder; ///< on the file system of the output
 };
 
+/** Whether all results can go where they belong: to be asked before hours are spent. Of \p job only
+ * kinds and names are needed. */
+[[nodiscard]] Result<QString> checkPlaces(const DeliverJob &job);
+
 /** Makes them one after the other. Answers the final paths, in the order of the kinds: what to open
  * of each (a folder's page). What is finished stays when a later one fails. */
 [[nodiscard]] Result<QStringList> deliver(const DeliverJob &job, const JobWatch &watch);

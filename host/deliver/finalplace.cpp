@@ -14,6 +14,7 @@
 #include <cstring>
 
 #include <fcntl.h>
+#include <unistd.h>
 
 namespace PanoHost
 {
@@ -111,6 +112,22 @@ int putInPlace(const QString &part, const QString &place)
     return 0;
 }
 
+/**
+ * Sees to it that a file, or a folder with all that is in it, lies on the disk: what gets its name
+ * before its content has no content after a power cut. Answers 0 or the reason.
+ */
+int sync(const QString &path)
+{
+    const bool isFolder = QFileInfo(path).isDir();
+    const int file = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NOCTTY | O_CLOEXEC);
+    if (file < 0) {
+        return errno;
+    }
+    const int error = (isFolder ? ::syncfs(file) : ::fsync(file)) == 0 ? 0 : errno;
+    ::close(file);
+    return error == EINVAL || error == ENOSYS ? 0 : error; // some file systems cannot be asked
+}
+
 Result<QString> moveTo(const QString &part, const QString &place, const QString &wanted)
 {
     const QFileInfo info(place);
@@ -119,7 +136,8 @@ Result<QString> moveTo(const QString &part, const QString &place, const QString 
                           QStringLiteral("the folder %1 does not exist").arg(info.absolutePath()),
                           QStringLiteral("create it or choose another place"));
     }
-    int error = putInPlace(part, place);
+    int error = sync(part);
+    error = error == 0 ? putInPlace(part, place) : error;
     if (error == EXDEV) {
         // A folder of its own takes the copy with it when anything goes wrong.
         const QTemporaryDir beside(info.absoluteDir().filePath(QStringLiteral(".panohost-XXXXXX")));
@@ -130,7 +148,8 @@ Result<QString> moveTo(const QString &part, const QString &place, const QString 
         if (const Result<QString> copied = copyAll(part, copy); !copied) {
             return cannotWrite(wanted, copied.error().why);
         }
-        error = putInPlace(copy, place);
+        error = sync(copy);
+        error = error == 0 ? putInPlace(copy, place) : error;
         if (error == 0) {
             QFileInfo(part).isDir() ? QDir(part).removeRecursively() : QFile::remove(part);
         }
@@ -142,14 +161,8 @@ Result<QString> moveTo(const QString &part, const QString &place, const QString 
 
 Result<QString> moveFile(const QString &part, const QString &wanted)
 {
-    const QFileInfo info(wanted);
-    if (info.exists() && !info.isFile()) {
-        return notWritten(wanted,
-                          info.isDir() ? QStringLiteral("is a folder")
-                                       : QStringLiteral("is not a regular file"),
-                          QStringLiteral("give the name of a file"));
-    }
-    return moveTo(part, behindLinks(wanted), wanted);
+    const Result<QString> place = checkFilePlace(wanted);
+    return place ? moveTo(part, behindLinks(wanted), wanted) : place;
 }
 
 Result<QString> moveFolder(const QString &part, const QString &wanted)
@@ -161,6 +174,18 @@ Result<QString> moveFolder(const QString &part, const QString &wanted)
         QDir(part).filePath(folderMark()),
         "Made by panohost, which replaces this folder when it makes it again.\n");
     return mark ? moveTo(part, behindLinks(wanted), wanted) : mark;
+}
+
+Result<QString> checkFilePlace(const QString &wanted)
+{
+    const QFileInfo info(wanted);
+    if (info.exists() && !info.isFile()) {
+        return notWritten(wanted,
+                          info.isDir() ? QStringLiteral("is a folder")
+                                       : QStringLiteral("is not a regular file"),
+                          QStringLiteral("remove it or choose another name with -o"));
+    }
+    return wanted;
 }
 
 Result<QString> checkFolderPlace(const QString &wanted)

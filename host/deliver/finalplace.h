@@ -22,7 +22,9 @@ namespace PanoHost
  */
 [[nodiscard]] Result<QString> moveFolder(const QString &part, const QString &wanted);
 
-/** Whether `moveFolder` would accept \p wanted as a place: to be asked before hours are spent. */
+/** Whether `moveFile` and `moveFolder` would accept \p wanted as a place: to be asked before hours
+ * are spent. */
+[[nodiscard]] Result<QString> checkFilePlace(const QString &wanted);
 [[nodiscard]] Result<QString> checkFolderPlace(const QString &wanted);
 
 /** The name of the file that marks this program's own folders. */

@@ -13,6 +13,7 @@
 #include "host/model/canvas.h"
 #include "host/model/displayname.h"
 #include "host/model/panoramajson.h"
+#include "host/model/photofile.h"
 #include "host/model/ptoproject.h"
 #include "host/model/safefile.h"
 #include "host/plugin/pluginlibrary.h"
@@ -163,6 +164,19 @@ QVector<Delivery> kindsOf(const PictureWishes &wishes, StitchOutput output)
     return kinds;
 }
 
+/** Refuses what is in the way of a result, before hours are spent. */
+void requirePlaces(const PictureWishes &wishes)
+{
+    DeliverJob job;
+    job.output = wishes.path;
+    job.kinds = kindsOf(wishes, wishes.output.value_or(StitchOutput::Ldr));
+    const Result<QString> places = checkPlaces(job);
+    if (!places) {
+        const Failure &failure = places.error();
+        throw inputRefused(displayName(failure.what), failure.why, failure.tryThis);
+    }
+}
+
 QStringList photosOf(const PtoFile &project)
 {
     QStringList photos;
@@ -184,6 +198,22 @@ PlacedProject readInput(const StitchRequest &request, const JobWatch &watch)
         watch.note(JobWatch::Note::Warning, warning);
     }
     return { valueOrThrow(projectOf(panorama, options)), panorama.description.renderMode };
+}
+
+/** Such photos are put in their places all the same: what they show is worth more than nothing. */
+void warnOfDamage(const Panorama &panorama, const JobWatch &watch)
+{
+    for (const Position &position : panorama.positions) {
+        for (const PhotoInfo &photo : position.photos) {
+            watch.check();
+            if (isDamaged(photo.path)) {
+                watch.note(JobWatch::Note::Warning,
+                           QStringLiteral("%1: cannot be read to its end; copy it from the card "
+                                          "again, or take it again")
+                               .arg(displayName(photo.path)));
+            }
+        }
+    }
 }
 
 /** One run of steps in a work folder. */
@@ -497,6 +527,9 @@ Result<QStringList> resumableAnswerOf(const QString &workFolder, const JobWatch 
         return answer;
     }
     Failure failure = answer.error();
+    if (QDir::isAbsolutePath(failure.what)) {
+        failure.what = displayName(failure.what);
+    }
     if (failure.code == ExitCode::Interrupted) {
         failure.what = QStringLiteral("stopped; the same command goes on from here");
     } else if (failure.code == ExitCode::ToolFailed) {
@@ -578,7 +611,11 @@ MakeSteps makeSteps(PanoHostApplication &app)
 {
     MakeSteps steps;
     steps.import = [&app](const ImportRequest &request, const JobWatch &watch) {
-        return importShoot(app, request, watch);
+        Result<Panorama> panorama = importShoot(app, request, watch);
+        if (panorama) {
+            warnOfDamage(panorama.value(), watch);
+        }
+        return panorama;
     };
     steps.align = [](const Panorama &panorama, const PtoOptions &projectOptions,
                      const AlignOptions &options, const JobWatch &watch) {
@@ -604,6 +641,7 @@ Result<QStringList> makePanorama(const MakeRequest &request, const MakeSteps &st
     return resumableAnswerOf(workFolderOf(request.picture.path), watch, [&] {
         requireWritable(request.picture.path,
                         QStringList(request.import.record) + request.import.photos);
+        requirePlaces(request.picture);
         if (!request.rawConverter.isEmpty()) { // nothing is begun with a wrong one
             (void)valueOrThrow(rawConverterNamed(request.rawConverter, false));
         }
@@ -620,6 +658,7 @@ Result<QStringList> stitchPanorama(const StitchRequest &request, const MakeSteps
         const PlacedProject placed = readInput(request, watch);
         requireWritable(request.picture.path,
                         QStringList(request.input) + photosOf(placed.project));
+        requirePlaces(request.picture);
         QStringList made;
         {
             MakeRun run(request.picture, steps, watch,
