@@ -18,6 +18,8 @@
 #include <QJsonDocument>
 #include <QUrl>
 
+#include <algorithm>
+
 namespace PanoHost
 {
 namespace
@@ -28,26 +30,45 @@ constexpr int kTileOverlap = 1;
 constexpr int kWholeSide = 1024; ///< of the picture that IIIF's viewers show while tiles load
 constexpr qint64 kInfoBytes = 1 << 20;
 
-/** Cuts \p screen into tiles that are named after \p name in \p folder, a new one in the work
- * folder, and looks at each. */
-Result<QString> cutTiles(const QString &screen, const QString &folder, const QString &name,
-                         const QStringList &options, const DeliverJob &job, const JobWatch &watch)
+/** A way to lay out tiles, each half as fine a picture as the one before, as `vips` knows it. */
+struct TileLayout {
+    QString name; ///< of the tiles, in their folder
+    QStringList options;
+    int coarsestSide; ///< pixels at most: there the pictures end
+};
+
+/** How many tiles a picture of \p size has, with all its coarser ones. */
+int tileCount(QSize size, int coarsestSide)
+{
+    const auto along = [](int pixels) { return (pixels + kTileSide - 1) / kTileSide; };
+    const auto halved = [](int pixels) { return (pixels + 1) / 2; };
+    int count = along(size.width()) * along(size.height());
+    while (std::max(size.width(), size.height()) > coarsestSide) {
+        size = { halved(size.width()), halved(size.height()) };
+        count += along(size.width()) * along(size.height());
+    }
+    return count;
+}
+
+/** Cuts \p screen into tiles in \p folder, a new one in the work folder, and looks at each. */
+Result<QString> cutTiles(const QString &screen, const QString &folder, const TileLayout &layout,
+                         const DeliverJob &job, const JobWatch &watch)
 {
     const QString work = QFileInfo(folder).path();
     const QStringList arguments
         = QStringList{ QStringLiteral("dzsave"),
                        vipsName(screen, work),
-                       vipsName(QDir(folder).filePath(name), work),
+                       vipsName(QDir(folder).filePath(layout.name), work),
                        QStringLiteral("--tile-size"),
                        QString::number(kTileSide),
                        QStringLiteral("--suffix"),
                        QStringLiteral(".jpg") + jpegOptions(job.jpegQuality) }
-        + options;
+        + layout.options;
     if (Result<QString> cut = runVips(arguments, work, watch); !cut) {
         return cut;
     }
-    const auto tilesAlong = [](int pixels) { return (pixels + kTileSide - 1) / kTileSide; };
-    int missing = tilesAlong(job.picture.size.width()) * tilesAlong(job.picture.size.height());
+    // On a full disk it leaves tiles out and says that all is well.
+    int missing = tileCount(job.picture.size, layout.coarsestSide);
     QDirIterator files(folder, QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext()) {
         const QString file = files.next();
@@ -90,8 +111,11 @@ Result<QString> zoomFolder(const DeliverJob &job, const JobWatch &watch)
         return screen;
     }
     if (Result<QString> cut
-        = cutTiles(screen.value(), folder, QStringLiteral("tiles"),
-                   { QStringLiteral("--overlap"), QString::number(kTileOverlap) }, job, watch);
+        = cutTiles(screen.value(), folder,
+                   { QStringLiteral("tiles"),
+                     { QStringLiteral("--overlap"), QString::number(kTileOverlap) },
+                     1 },
+                   job, watch);
         !cut) {
         return cut;
     }
@@ -142,9 +166,9 @@ Result<QSize> addWholePicture(const QString &screen, int quality, const PartFold
     const QSize size = QImageReader(part.path(name)).size();
     const QString sized
         = part.path(QStringLiteral("iiif/full/%1,%2/0").arg(size.width()).arg(size.height()));
-    QDir().mkpath(sized);
-    QFile::copy(part.path(name), QDir(sized).filePath(QStringLiteral("default.jpg")));
-    return size;
+    const QString copy = QDir(sized).filePath(QStringLiteral("default.jpg"));
+    return QDir().mkpath(sized) && QFile::copy(part.path(name), copy) ? Result<QSize>(size)
+                                                                      : notWhole(copy);
 }
 
 /** Completes what `vips` says in \p path of the tiles. */
@@ -196,9 +220,11 @@ Result<QString> iiifFolder(const DeliverJob &job, const JobWatch &watch)
         return screen;
     }
     const QString folder = part.value().path(QStringLiteral("iiif"));
-    if (Result<QString> cut = cutTiles(screen.value(), folder, {},
-                                       { QStringLiteral("--layout"), QStringLiteral("iiif3"),
-                                         QStringLiteral("--id"), address },
+    if (Result<QString> cut = cutTiles(screen.value(), folder,
+                                       { {},
+                                         { QStringLiteral("--layout"), QStringLiteral("iiif3"),
+                                           QStringLiteral("--id"), address },
+                                         kTileSide },
                                        job, watch);
         !cut) {
         return cut;
