@@ -72,7 +72,7 @@ QString packagesOf(const QString &tool)
 QString installAgain(const QString &tool)
 {
     const QString packages = packagesOf(tool);
-    return packages.isEmpty() ? QStringLiteral("does it run by itself?")
+    return packages.isEmpty() ? QStringLiteral("try it by itself")
                               : QStringLiteral("apt install --reinstall %1").arg(packages);
 }
 
@@ -202,10 +202,9 @@ Failure crash(const QString &name, const QProcess &process, const QString &said,
     }
     const QString line = tellingLine(said);
     const QString why = QStringLiteral("it crashed (signal %1)").arg(process.exitCode());
+    // vips says nothing when it crashes on a full disk.
     return toolFailure(name, line.isEmpty() ? why : why + QStringLiteral(" and said: ") + line,
-                       tellsOfWriting(line) ? askForRoom(folder)
-                                            : QStringLiteral("try again; if it crashes again: ")
-                               + installAgain(name));
+                       askForRoom(folder) + QStringLiteral(" if so: ") + installAgain(name));
 }
 
 } // namespace
