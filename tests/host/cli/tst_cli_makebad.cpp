@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "tests/host/cli/makebench.h"
+#include "tests/host/cli/tinydisk.h"
 #include "tests/host/testphotos.h"
 #include "tests/support/testprogram.h"
 
@@ -16,6 +17,16 @@ const QString kFolder = QStringLiteral("bad"); ///< of what is made, and its wor
 const QStringList kAllKinds{ QStringLiteral("picture"), QStringLiteral("html"),
                              QStringLiteral("zoom"), QStringLiteral("cube"),
                              QStringLiteral("iiif") };
+
+/** A disk that fills up when a tool begins. */
+struct FullDiskRow {
+    QString output;
+    QString kind;
+    QString tool;
+    QString first; ///< of the tool's arguments
+    int kilobytes; ///< that are left
+    QString message;
+};
 
 /** Paths below \p folder with what the files hold, in order. */
 QMap<QString, QByteArray> treeOf(const QString &folder)
@@ -71,6 +82,7 @@ private Q_SLOTS:
     void toolFails();
     void diskIsFull_data();
     void diskIsFull();
+    void diskFillsUpAtATool();
     void temporaryFolderIsNotNeeded_data();
     void temporaryFolderIsNotNeeded();
     void placeIsTaken_data();
@@ -80,11 +92,15 @@ private Q_SLOTS:
 
 private:
     /** Has the tool \p name do \p script when its arguments begin with \p first. */
-    void setTool(const QString &name, const QString &first, const QByteArray &script);
+    void setTool(const QString &name, const QString &first, const QByteArray &script,
+                 const QString &folder = QStringLiteral("tools"));
     /** Puts an older result where \p kind of \p output goes. */
     void putOlder(const QString &output, const QString &kind);
     /** What is not as it should be after a run that failed with \p message. */
     [[nodiscard]] QString problemOf(const CliBench::Run &run, const QString &message) const;
+    [[nodiscard]] QString scriptFor(const FullDiskRow &row, const QString &number,
+                                    const TinyDisk &disk);
+    [[nodiscard]] QString problemOf(const FullDiskRow &row, const QString &number) const;
     /** The same once the cause is gone: what it makes is compared with an undisturbed run. */
     [[nodiscard]] QString problemOfCured(const QString &output, const QString &kind,
                                          const QStringList &options) const;
@@ -133,19 +149,20 @@ void TestCliMakeBad::cleanup()
     }
 }
 
-void TestCliMakeBad::setTool(const QString &name, const QString &first, const QByteArray &script)
+void TestCliMakeBad::setTool(const QString &name, const QString &first, const QByteArray &script,
+                             const QString &folder)
 {
     const QString real = QStandardPaths::findExecutable(name);
     QVERIFY(!real.isEmpty());
-    m_bench.makeFolder(QStringLiteral("tools"));
-    const QString file = m_bench.file(QStringLiteral("tools/") + name,
+    m_bench.makeFolder(folder);
+    const QString file = m_bench.file(folder + QLatin1Char('/') + name,
                                       "#!/bin/sh\nreal=" + QFile::encodeName(real)
                                           + "\ncase \"$*\" in " + first.toUtf8() + "*)\n" + script
                                           + "\n;;\nesac\nexec \"$real\" \"$@\"\n");
     QVERIFY(
         QFile::setPermissions(path(file), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     m_bench.environment().insert(QStringLiteral("PATH"),
-                                 path(QStringLiteral("tools")) + QLatin1Char(':') + m_usualPath);
+                                 path(folder) + QLatin1Char(':') + m_usualPath);
 }
 
 void TestCliMakeBad::putOlder(const QString &output, const QString &kind)
@@ -227,7 +244,7 @@ void TestCliMakeBad::toolFails_data()
     };
     // As on a disk that is full: nothing that grows beyond some kilobytes can be written.
     const QByteArray full = "ulimit -f 16";
-    const char *const room = "; is there enough room in bad/.*\\?";
+    const char *const room = "; is there enough room in bad/.*\\?.*";
     const auto noRoom = [&](const QByteArray &who) {
         return QByteArray(who + ": it (failed|crashed \\(signal 6\\)) and said: .*" + room);
     };
@@ -251,7 +268,7 @@ void TestCliMakeBad::toolFails_data()
         "\"$real\" \"$@\"; truncate -s 5000 plain.jpg; exit 0",
         "vips: it left a file that is not complete; is the disk full\\? make room and try again");
     row("TIFF: full disk", tif, "picture", "vips", "insert", full,
-        "vips: it (failed|crashed \\(signal [0-9]+\\)).*");
+        "vips: it (failed|crashed \\(signal [0-9]+\\)).*; is there enough room in .*");
     row("TIFF: half", tif, "picture", "vips", "insert",
         "\"$real\" \"$@\"; truncate -s 500000 panorama.tif; exit 0",
         "vips: it left a file that is not complete; is the disk full\\? make room and try again");
@@ -336,6 +353,117 @@ void TestCliMakeBad::diskIsFull()
                                             "there (and try again|or choose another place)")),
              QString());
     QCOMPARE(problemOfCured(output, kind, options), QString());
+}
+
+/** Shell lines that make \p row on the full file system, and once more when it has room. */
+QString TestCliMakeBad::scriptFor(const FullDiskRow &row, const QString &number,
+                                  const TinyDisk &disk)
+{
+    const QString tools = QStringLiteral("full/") + number;
+    setTool(row.tool, row.first,
+            "[ -e '" + path(QStringLiteral("tiny/filler")).toUtf8() + "' ] || {\n"
+                + disk.fill(row.kilobytes).toUtf8() + "}",
+            tools);
+    m_bench.environment().insert(QStringLiteral("PATH"), m_usualPath);
+    QString words;
+    for (const QString &word : m_bench.makeWords(row.output, optionsFor(row.kind))) {
+        words += QStringLiteral(" '%1'").arg(word);
+    }
+    const QString made = nameFor(row.output, row.kind);
+    const bool isFile = made.contains(QLatin1Char('.'));
+    const QString older = isFile ? made : made + QStringLiteral("/old");
+    return QStringLiteral("rm -rf %1\n").arg(made)
+        + (isFile ? QString() : QStringLiteral("mkdir %1; : > %1/.panohost\n").arg(made))
+        + QStringLiteral("printf 'older\\n' > %1\n").arg(older)
+        + QStringLiteral("one() { '%1' %2; }\n").arg(QStringLiteral(PANOHOST_TEST_BINARY), words)
+        + QStringLiteral("PATH='%1':$PATH one > said%2 2>&1; echo $? > code%2\n")
+              .arg(path(tools), number)
+        + QStringLiteral("{ cat %1; ls -A tiny; find tiny -name '*part*'; } > left%2\n")
+              .arg(older, number)
+        + QStringLiteral("rm -rf tiny/filler %1; one > cured%2 2>&1; cp -r %1 made%2; rm -rf %1\n")
+              .arg(made, number);
+}
+
+QString TestCliMakeBad::problemOf(const FullDiskRow &row, const QString &number) const
+{
+    const auto kept = [&](const char *name) {
+        return QString::fromUtf8(m_bench.content(QLatin1String(name) + number));
+    };
+    const QString said = kept("said");
+    const QRegularExpression expected(QStringLiteral("^panohost: error: %1").arg(row.message));
+    if (kept("code") != QLatin1String("1\n")
+        || !expected.match(said.trimmed().section(QLatin1Char('\n'), -1)).hasMatch()) {
+        return kept("code") + said;
+    }
+    const QString made = nameFor(row.output, row.kind);
+    QStringList left{ QStringLiteral("filler"), QFileInfo(made).fileName(),
+                      QFileInfo(row.output).completeBaseName() + QStringLiteral(".work") };
+    if (row.output.endsWith(QLatin1String(".tif"))) {
+        left += QStringLiteral("pano.work"); // of the rows before
+    }
+    QStringList seen = kept("left").split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    const QString older = seen.takeFirst();
+    std::sort(seen.begin(), seen.end());
+    std::sort(left.begin(), left.end());
+    if (older != QLatin1String("older") || seen != left) {
+        return kept("left");
+    }
+    const QString whole
+        = nameFor(QStringLiteral("whole/") + QFileInfo(row.output).fileName(), row.kind);
+    const QString cured = QStringLiteral("made") + number;
+    const bool isSame = QFileInfo(path(cured)).isDir()
+        ? treeOf(path(cured)) == treeOf(path(whole))
+        : m_bench.content(cured) == m_bench.content(whole);
+    return isSame ? QString() : kept("cured");
+}
+
+/** A real file system, to the last byte; one for all, since it is gone with who has mounted it. */
+void TestCliMakeBad::diskFillsUpAtATool()
+{
+    constexpr int kMegabytes = 64;
+    TinyDisk disk(&m_bench, kMegabytes);
+    if (const QString problem = disk.problem(); !problem.isEmpty()) {
+        QSKIP(qPrintable(problem));
+    }
+    const QByteArray noRoom = ": it failed, and there is hardly any room left on the disk at "
+        + path(QStringLiteral("tiny")).toUtf8()
+        + " \\(0 MB\\); make room there and go on with the same command; nothing is lost$";
+    const QByteArray notWritten = ": cannot be written \\(No space left on device\\); make room";
+    const auto row = [](const char *output, const char *kind, const char *tool, const char *first,
+                        int kilobytes, const QByteArray &message) {
+        return FullDiskRow{
+            QLatin1String(output), QLatin1String(kind), QLatin1String(tool),
+            QLatin1String(first),  kilobytes,           QString::fromUtf8(message)
+        };
+    };
+    const char *const jpg = "tiny/pano.jpg";
+    const QVector<FullDiskRow> rows{
+        row(jpg, "picture", "nona", "", 0, "(nona, of photos/|warped/).*" + noRoom),
+        row(jpg, "picture", "nona", "", 100, "(nona, of photos/|warped/).*" + noRoom),
+        row(jpg, "picture", "verdandi", "", 100, "verdandi" + noRoom),
+        row(jpg, "picture", "vips", "embed", 100, "vips" + noRoom),
+        row(jpg, "picture", "vips", "insert", 0, "vips" + noRoom),
+        row(jpg, "picture", "vips", "insert", 100,
+            "tiny/pano.work/picture.part/panorama.jpg" + notWritten),
+        row(jpg, "html", "vips", "copy", 100, "tiny/pano.work/part-html/page.html" + notWritten),
+        row(jpg, "zoom", "vips", "dzsave", 0, "vips" + noRoom),
+        row(jpg, "cube", "vips", "insert", 0, "vips" + noRoom),
+        row(jpg, "iiif", "vips", "thumbnail", 0, "vips" + noRoom),
+        row("tiny/deep.tif", "picture", "vips", "insert", 100, "vips" + noRoom),
+    };
+    QString script;
+    for (int i = 0; i < rows.size(); ++i) {
+        script += scriptFor(rows.at(i), QString::number(i), disk);
+    }
+    const auto run = disk.shell(script, {});
+    QVERIFY2(run.exitCode == 0, qPrintable(run.err));
+    for (int i = 0; i < rows.size(); ++i) {
+        const FullDiskRow &tried = rows.at(i);
+        const QString problem = problemOf(tried, QString::number(i));
+        QVERIFY2(
+            problem.isEmpty(),
+            qPrintable(tried.tool + QLatin1Char(' ') + tried.first + QLatin1Char(' ') + problem));
+    }
 }
 
 void TestCliMakeBad::temporaryFolderIsNotNeeded_data()

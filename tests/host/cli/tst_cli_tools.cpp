@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "tests/host/cli/clibench.h"
+#include "tests/host/cli/tinydisk.h"
 #include "tests/host/testphotos.h"
 #include "tests/support/testprogram.h"
 
@@ -26,75 +27,6 @@ bool isRunning(qint64 process)
 {
     return ::kill(static_cast<pid_t>(process), 0) == 0;
 }
-
-/** A small file system without room, seen by nobody but the programs that it starts. */
-class TinyDisk
-{
-public:
-    explicit TinyDisk(CliBench *bench)
-        : m_bench(bench)
-    {
-        QDir(bench->path({})).mkpath(QStringLiteral("tiny"));
-    }
-
-    /** Why there can be none; empty when there can. */
-    [[nodiscard]] QString problem()
-    {
-        QString answer;
-        // Root needs no more; others become root of a name space of their own.
-        for (const QString &options : { QStringLiteral("-m"), QStringLiteral("-rm") }) {
-            m_unshare = options;
-            const CliBench::Run run = shell(mount(), {});
-            if (run.exitCode == 0) {
-                return {};
-            }
-            answer += run.err.simplified() + QLatin1Char(' ');
-        }
-        return QStringLiteral("No file system can be mounted here: ") + answer;
-    }
-
-    /**
-     * Runs panohost with an old result in tiny/NAME and \p kilobytes of room in tiny. What there
-     * is in tiny afterwards stands in after.txt, the result's copy in after.
-     */
-    [[nodiscard]] CliBench::Run run(const QString &name, const QStringList &arguments,
-                                    int kilobytes = 0) const
-    {
-        const QString script = mount()
-            + QStringLiteral("mkdir -p tiny/photos; printf 'the old result' > tiny/%1\n"
-                             "%2"
-                             "\"$0\" \"$@\"; code=$?\n"
-                             "ls -A tiny > after.txt; cp tiny/%1 after; exit $code")
-                  .arg(name, fill(kilobytes));
-        return shell(script, QStringList(QStringLiteral(PANOHOST_TEST_BINARY)) + arguments);
-    }
-
-    /** Shell commands that leave \p kilobytes (whole pages) of room. */
-    [[nodiscard]] QString fill(int kilobytes) const
-    {
-        return QStringLiteral("cat /dev/zero > '%1/filler' 2> /dev/null\n"
-                              "truncate -s -%2K '%1/filler'\n")
-            .arg(m_bench->path(QStringLiteral("tiny")))
-            .arg(kilobytes);
-    }
-
-private:
-    [[nodiscard]] static QString mount()
-    {
-        return QStringLiteral("mount -t tmpfs -o size=4M none tiny || exit 125\n");
-    }
-
-    [[nodiscard]] CliBench::Run shell(const QString &script, const QStringList &arguments) const
-    {
-        return m_bench->runProgram(
-            QStringLiteral("unshare"),
-            QStringList{ m_unshare, QStringLiteral("/bin/sh"), QStringLiteral("-c"), script }
-                + arguments);
-    }
-
-    CliBench *m_bench;
-    QString m_unshare;
-};
 
 /** A small demo that says nothing about its progress, however slow the processor. */
 QStringList silentDemo()
