@@ -97,14 +97,20 @@ Result<QString> develop(const QString &program, const RawConverter &converter, c
     const Result<QString> run = runTool(program, arguments, work.path(), watch);
     QFile::remove(link);
     if (!run) {
-        return run.error();
+        Failure failure = run.error();
+        if (failure.code == ExitCode::ToolFailed) {
+            failure.what += QStringLiteral(", of %1").arg(displayName(raw));
+        }
+        return failure;
     }
     const QFileInfo file(link);
     QFile::rename(file.dir().filePath(file.completeBaseName() + QStringLiteral(".tiff")), part);
     if (isDamaged(part)) {
-        return Failure{ ExitCode::ToolFailed, QFileInfo(program).fileName(),
-                        QStringLiteral("it left no whole picture of %1").arg(displayName(raw)),
-                        QStringLiteral("can it read this camera's files? is the disk full?") };
+        return orLackOfRoom(
+            { ExitCode::ToolFailed, QFileInfo(program).fileName(),
+              QStringLiteral("it left no whole picture of %1").arg(displayName(raw)),
+              QStringLiteral("can it read this camera's files? is the disk full?") },
+            work.path());
     }
     return part;
 }

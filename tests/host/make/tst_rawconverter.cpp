@@ -169,11 +169,13 @@ void TestRawConverter::failuresAreNamed_data()
     QTest::addColumn<QString>("script");
     QTest::addColumn<QString>("message");
     QTest::newRow("fails") << QStringLiteral("echo no such camera; exit 1")
-                           << QStringLiteral("sh: it failed and said: no such camera");
+                           << QStringLiteral("sh, of %1: it failed and said: no such camera; ");
+    QTest::newRow("killed") << QStringLiteral("kill -KILL $$")
+                            << QStringLiteral("sh, of %1: it was killed, perhaps because memory");
     QTest::newRow("nothing") << QStringLiteral("true")
-                             << QStringLiteral("sh: it left no whole picture of ");
+                             << QStringLiteral("sh: it left no whole picture of %1; ");
     QTest::newRow("half a file") << QStringLiteral("printf 'II*\\0' > \"$1\"")
-                                 << QStringLiteral("sh: it left no whole picture of ");
+                                 << QStringLiteral("sh: it left no whole picture of %1; ");
 }
 
 void TestRawConverter::failuresAreNamed()
@@ -188,7 +190,10 @@ void TestRawConverter::failuresAreNamed()
         developPhotos(panorama, shell(script), work.value(), {});
         QFAIL("it is taken for a picture");
     } catch (const CommandError &error) {
+        message = message.arg(folder.filePath(QStringLiteral("a.NEF")));
         QVERIFY2(error.failure().text().startsWith(message), qPrintable(error.failure().text()));
+        const QDir developed(work.value().path(QStringLiteral("developed")));
+        QVERIFY(developed.isEmpty(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot));
     }
     RawConverter missing;
     missing.program = QStringLiteral("no-such-converter");
