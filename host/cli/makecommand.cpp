@@ -42,8 +42,8 @@ CommandLine makeLine()
         stitchOptionRows()
             + QVector<OptionRow>{
                 { "--raw-converter", "COMMAND",
-                  "develop RAW files with it first: darktable-cli, rawtherapee-cli, dcraw, or any "
-                  "command with %i for the RAW file and %o for the TIFF" },
+                  "develop RAW files with it first: dcraw, dcraw_emu, darktable-cli, "
+                  "rawtherapee-cli, or any command with %i for the RAW file and %o for the TIFF" },
             }
             + alignOptionRows());
 }

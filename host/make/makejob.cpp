@@ -366,8 +366,8 @@ bool MakeRun::develop(int step, Panorama &panorama, const QString &command)
     if (command.isEmpty()) {
         throw inputRefused(QStringLiteral("photos"),
                            QStringLiteral("%1 of them are RAW files").arg(count),
-                           QStringLiteral("add --raw-converter darktable-cli, rawtherapee-cli or "
-                                          "dcraw, or give JPEGs or TIFFs of them"));
+                           QStringLiteral("add --raw-converter dcraw, dcraw_emu, darktable-cli or "
+                                          "rawtherapee-cli, or give JPEGs or TIFFs of them"));
     }
     const bool wantsLight
         = outputFor(m_wishes, panorama.description.renderMode, false) == StitchOutput::Hdr;

@@ -264,6 +264,7 @@ PhotoInfo photoInfo(const Exiv2::Image &image)
     info.camera = cameraOf(exif);
     info.exposureValue = exposureOf(exif);
     readTime(exif, info);
+    info.hasAutomaticBalance = signedNumber(exif, "Exif.Photo.WhiteBalance") == 0.0;
     info.isRaw = isRaw(image);
     info.isPanorama = isPanorama(image);
     return info;
@@ -271,11 +272,16 @@ PhotoInfo photoInfo(const Exiv2::Image &image)
 
 bool isRaw(const Exiv2::Image &image)
 {
-    // They have a type of their own, or are TIFF files that begin with a smaller picture.
+    // They have a type of their own, or are TIFF files of a sensor's values, or such that begin
+    // with a smaller picture.
     const QByteArray type = QByteArray::fromStdString(image.mimeType());
     if (type == "image/tiff") {
-        const double first = positiveNumber(Entries(image.exifData()), "Exif.Image.ImageWidth");
-        return first > 0.0 && first < image.pixelWidth();
+        constexpr double kMosaic = 32803.0;
+        constexpr double kLinearRaw = 34892.0;
+        const Entries exif(image.exifData());
+        const double kind = positiveNumber(exif, "Exif.Image.PhotometricInterpretation");
+        const double first = positiveNumber(exif, "Exif.Image.ImageWidth");
+        return kind == kMosaic || kind == kLinearRaw || (first > 0.0 && first < image.pixelWidth());
     }
     return type.startsWith("image/x-") && type != "image/x-ms-bmp" && type != "image/x-exv";
 }

@@ -37,6 +37,7 @@ struct PhotoInfo {
     QString timeText;
     QString camera; ///< maker, model and serial number, as far as the photo names them
     QString lensName; ///< empty: not named
+    bool hasAutomaticBalance = false; ///< the camera chose the white balance of this photo alone
     bool isRaw = false; ///< for RAW converters
     bool isPanorama = false; ///< says of itself that it was made of other photos, or is a layout
 };

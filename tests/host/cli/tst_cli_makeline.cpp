@@ -136,7 +136,7 @@ void TestCliMakeLine::mistakesAreNamed_data()
     mistake("--deliver radiance --output ldr", "--deliver radiance is the light itself");
     mistake("--linear --output fused", "--linear says how brackets become light");
     row("make papywizard r.xml IMG_01.jpg --raw-converter ufraw", 2,
-        "--raw-converter ufraw: does not say where its files go; name dcraw, darktable-cli or");
+        "--raw-converter ufraw: does not say where its files go; name dcraw, dcraw_emu, ");
     row("make", 2, "no head given");
     row("make papywizard r.xml", 2, "no photos given");
     row("make papywizard r.xml IMG_01.jpg --keep", 2, "unknown option '--keep'");
