@@ -21,6 +21,7 @@ namespace
 {
 
 constexpr int kColours = 3;
+constexpr int kWithAlpha = 4;
 /** From here on a value may be clipped, and there it is: between, it counts less and less. */
 constexpr double kNearlyWhite = 0.8;
 constexpr double kWhite = 0.97;
@@ -43,12 +44,13 @@ std::vector<float> tableOf(int bits, bool isLinear)
     return table;
 }
 
-/** Rows of one photo as light from 0 to 1. */
+/** Rows of one photo as light from 0 to 1; in a file of floats \p white is 1. */
 class LevelRows
 {
 public:
-    LevelRows(VipsFile file, bool isLinear)
+    LevelRows(VipsFile file, bool isLinear, double white)
         : m_file(std::move(file))
+        , m_white(static_cast<float>(white))
     {
         if (m_file.sample() != VipsFile::Sample::Float) {
             m_table = tableOf(m_file.sample() == VipsFile::Sample::Bits8 ? 8 : 16, isLinear);
@@ -66,10 +68,15 @@ public:
             break;
         case VipsFile::Sample::Float: {
             const auto *const from = m_file.row<float>(y);
-            copy(row, [from](int i) { return from[i]; });
+            copy(row, [this, from](int i) { return from[i] / m_white; });
             break;
         }
         }
+    }
+    /** Whether there is anything at \p x, \p y of a file of floats with alpha. */
+    [[nodiscard]] bool shows(int x, int y) const
+    {
+        return m_file.row<float>(y)[x * kWithAlpha + kColours] > 0.0F;
     }
     [[nodiscard]] const VipsFile &file() const { return m_file; }
 
@@ -90,6 +97,7 @@ private:
     }
 
     VipsFile m_file;
+    float m_white;
     std::vector<float> m_table;
 };
 
@@ -105,18 +113,18 @@ struct TiffCloser {
 };
 using TiffFile = std::unique_ptr<TIFF, TiffCloser>;
 
-TiffFile floatTiff(const QString &path, const QSize &size)
+TiffFile floatTiff(const QString &path, const QSize &size, int bands)
 {
     TIFFSetErrorHandler(nullptr);
     TIFFSetWarningHandler(nullptr);
     constexpr qint64 kMostOfClassic = 4'000'000'000;
-    const qint64 bytes = static_cast<qint64>(size.width()) * size.height() * kColours * 4;
+    const qint64 bytes = static_cast<qint64>(size.width()) * size.height() * bands * 4;
     TiffFile file(
         TIFFOpen(QFile::encodeName(path).constData(), bytes > kMostOfClassic ? "w8" : "w"));
     if (file != nullptr) {
         TIFFSetField(file.get(), TIFFTAG_IMAGEWIDTH, static_cast<uint32_t>(size.width()));
         TIFFSetField(file.get(), TIFFTAG_IMAGELENGTH, static_cast<uint32_t>(size.height()));
-        TIFFSetField(file.get(), TIFFTAG_SAMPLESPERPIXEL, kColours);
+        TIFFSetField(file.get(), TIFFTAG_SAMPLESPERPIXEL, bands);
         TIFFSetField(file.get(), TIFFTAG_BITSPERSAMPLE, 32);
         TIFFSetField(file.get(), TIFFTAG_SAMPLEFORMAT, SAMPLEFORMAT_IEEEFP);
         TIFFSetField(file.get(), TIFFTAG_PHOTOMETRIC, PHOTOMETRIC_RGB);
@@ -127,22 +135,36 @@ TiffFile floatTiff(const QString &path, const QSize &size)
     return file;
 }
 
+/** Says as nona does where on its canvas a picture with alpha lies. */
+void placeOnCanvas(TIFF *file, const QPoint &corner, const QSize &canvas)
+{
+    constexpr double kPerInch = 150.0;
+    const uint16_t alpha = EXTRASAMPLE_UNASSALPHA;
+    TIFFSetField(file, TIFFTAG_EXTRASAMPLES, 1, &alpha);
+    TIFFSetField(file, TIFFTAG_RESOLUTIONUNIT, RESUNIT_INCH);
+    TIFFSetField(file, TIFFTAG_XRESOLUTION, kPerInch);
+    TIFFSetField(file, TIFFTAG_YRESOLUTION, kPerInch);
+    TIFFSetField(file, TIFFTAG_XPOSITION, corner.x() / kPerInch);
+    TIFFSetField(file, TIFFTAG_YPOSITION, corner.y() / kPerInch);
+    TIFFSetField(file, TIFFTAG_PIXAR_IMAGEFULLWIDTH, static_cast<uint32_t>(canvas.width()));
+    TIFFSetField(file, TIFFTAG_PIXAR_IMAGEFULLLENGTH, static_cast<uint32_t>(canvas.height()));
+}
+
 /** One bracket, row by row. */
 class Merge
 {
 public:
-    Merge(std::vector<LevelRows> levels, const QVector<HdrLevel> &wanted, const HdrCurve &curve)
+    /** Photos give \p bands of light, warped ones alpha too. */
+    Merge(std::vector<LevelRows> levels, const QVector<HdrLevel> &wanted, const HdrCurve &curve,
+          int bands)
         : m_levels(std::move(levels))
         , m_wanted(wanted)
         , m_curve(curve)
+        , m_bands(bands)
         , m_size(m_levels.front().file().size())
         , m_values(m_levels.size(),
                    std::vector<float>(static_cast<size_t>(m_size.width()) * kColours))
     {
-        const auto *const shortest = std::max_element(
-            wanted.cbegin(), wanted.cend(),
-            [](const HdrLevel &a, const HdrLevel &b) { return a.gain < b.gain; });
-        m_shortest = static_cast<size_t>(shortest - wanted.cbegin());
     }
 
     [[nodiscard]] QSize size() const { return m_size; }
@@ -153,7 +175,7 @@ public:
             m_levels[level].read(y, m_values[level]);
         }
         for (int x = 0; x < m_size.width(); ++x) {
-            pixel(x, y, &light[static_cast<size_t>(x) * kColours]);
+            pixel(x, y, &light[static_cast<size_t>(x) * static_cast<size_t>(m_bands)]);
         }
     }
 
@@ -163,22 +185,33 @@ private:
         const auto at = static_cast<size_t>(x) * kColours;
         std::array<double, kColours> sum{};
         double gathered = 0.0;
+        std::array<double, kColours> ofShortest{};
+        double shortestGain = 0.0; // nothing seen
         for (size_t level = 0; level < m_levels.size(); ++level) {
+            if (m_bands == kWithAlpha && !m_levels[level].shows(x, y)) {
+                continue;
+            }
             const float *const value = &m_values[level][at];
+            const double gain = m_wanted.at(static_cast<int>(level)).gain;
             // What a level shows of the same light, and how exactly, goes with its exposure.
             const double weight = trust(std::max({ value[0], value[1], value[2] }));
-            gathered += weight / m_wanted.at(static_cast<int>(level)).gain;
+            gathered += weight / gain;
             for (size_t colour = 0; colour < kColours; ++colour) {
                 sum[colour] += weight * static_cast<double>(value[colour]);
             }
+            if (gain > shortestGain) {
+                shortestGain = gain;
+                std::copy_n(value, kColours, ofShortest.begin());
+            }
         }
         const double inCorner = fallOff(x, y);
-        const double shortestGain = m_wanted.at(static_cast<int>(m_shortest)).gain;
         for (size_t colour = 0; colour < kColours; ++colour) {
-            const double found = gathered > 0.0
-                ? sum[colour] / gathered
-                : static_cast<double>(m_values[m_shortest][at + colour]) * shortestGain;
+            const double found
+                = gathered > 0.0 ? sum[colour] / gathered : ofShortest[colour] * shortestGain;
             light[colour] = static_cast<float>(found / inCorner);
+        }
+        if (m_bands == kWithAlpha) {
+            light[kColours] = shortestGain > 0.0 ? 1.0F : 0.0F;
         }
     }
 
@@ -198,15 +231,43 @@ private:
     std::vector<LevelRows> m_levels;
     const QVector<HdrLevel> &m_wanted;
     const HdrCurve &m_curve;
+    int m_bands;
     QSize m_size;
     std::vector<std::vector<float>> m_values; ///< one row of each level
-    size_t m_shortest = 0;
 };
 
 Failure notWritten(const QString &path)
 {
     return { ExitCode::ToolFailed, path, QStringLiteral("cannot be written"),
              QStringLiteral("is the disk full?") };
+}
+
+Result<VipsFile> openLevel(const HdrLevel &level, const std::vector<LevelRows> &others)
+{
+    Result<VipsFile> file = VipsFile::open(level.path);
+    if (file && !others.empty() && file.value().size() != others.front().file().size()) {
+        return Failure{ ExitCode::InputRefused,
+                        level.path,
+                        QStringLiteral("is of another size than the others of its bracket"),
+                        {} };
+    }
+    return file;
+}
+
+Result<QString> write(Merge &merge, int bands, TIFF *out, const QString &path)
+{
+    if (out == nullptr) {
+        return notWritten(path);
+    }
+    std::vector<float> light(static_cast<size_t>(merge.size().width())
+                             * static_cast<size_t>(bands));
+    for (int y = 0; y < merge.size().height(); ++y) {
+        merge.row(y, light);
+        if (TIFFWriteScanline(out, light.data(), static_cast<uint32_t>(y), 0) < 0) {
+            return notWritten(path);
+        }
+    }
+    return TIFFFlush(out) != 0 ? Result<QString>(path) : notWritten(path);
 }
 
 } // namespace
@@ -216,31 +277,42 @@ Result<QString> mergeLevels(const QVector<HdrLevel> &levels, const HdrCurve &cur
 {
     std::vector<LevelRows> rows;
     for (const HdrLevel &level : levels) {
-        Result<VipsFile> file = VipsFile::open(level.path);
+        Result<VipsFile> file = openLevel(level, rows);
         if (!file) {
             return file.error();
         }
-        if (!rows.empty() && file.value().size() != rows.front().file().size()) {
-            return Failure{ ExitCode::InputRefused,
-                            level.path,
-                            QStringLiteral("is of another size than the others of its bracket"),
-                            {} };
+        rows.emplace_back(std::move(file).value(), curve.isLinear, 1.0);
+    }
+    Merge merge(std::move(rows), levels, curve, kColours);
+    const TiffFile out = floatTiff(tiffPath, merge.size(), kColours);
+    return write(merge, kColours, out.get(), tiffPath);
+}
+
+Result<QString> mergeWarped(const QVector<HdrLevel> &levels, const QRect &place,
+                            const QSize &canvas, const QString &tiffPath)
+{
+    std::vector<LevelRows> rows;
+    for (const HdrLevel &level : levels) {
+        Result<VipsFile> file = openLevel(level, rows);
+        if (!file) {
+            return file.error();
         }
-        rows.emplace_back(std::move(file).value(), curve.isLinear);
-    }
-    Merge merge(std::move(rows), levels, curve);
-    const TiffFile out = floatTiff(tiffPath, merge.size());
-    if (out == nullptr) {
-        return notWritten(tiffPath);
-    }
-    std::vector<float> light(static_cast<size_t>(merge.size().width()) * kColours);
-    for (int y = 0; y < merge.size().height(); ++y) {
-        merge.row(y, light);
-        if (TIFFWriteScanline(out.get(), light.data(), static_cast<uint32_t>(y), 0) < 0) {
-            return notWritten(tiffPath);
+        const VipsFile &picture = file.value();
+        if (picture.size() != place.size() || picture.bands() != kWithAlpha
+            || picture.sample() != VipsFile::Sample::Float) {
+            return Failure{
+                ExitCode::ToolFailed, level.path, QStringLiteral("is no warped light"), {}
+            };
         }
+        rows.emplace_back(std::move(file).value(), true, level.gain);
     }
-    return TIFFFlush(out.get()) != 0 ? Result<QString>(tiffPath) : notWritten(tiffPath);
+    const HdrCurve light{ true, {} };
+    Merge merge(std::move(rows), levels, light, kWithAlpha);
+    const TiffFile out = floatTiff(tiffPath, place.size(), kWithAlpha);
+    if (out != nullptr) {
+        placeOnCanvas(out.get(), place.topLeft(), canvas);
+    }
+    return write(merge, kWithAlpha, out.get(), tiffPath);
 }
 
 } // namespace PanoHost

@@ -5,6 +5,7 @@
 #include "host/model/result.h"
 #include "host/model/vignetting.h"
 
+#include <QRect>
 #include <QString>
 #include <QVector>
 
@@ -32,5 +33,13 @@ struct HdrCurve {
  */
 [[nodiscard]] Result<QString> mergeLevels(const QVector<HdrLevel> &levels, const HdrCurve &curve,
                                           const QString &tiffPath);
+
+/**
+ * Joins light that levels showed one by one, each warped onto the part \p place of a canvas of the
+ * size \p canvas: as above, where alpha says that a level shows anything. Of four bands, 32-bit
+ * floats, is what goes in (.v) and what comes out (TIFF).
+ */
+[[nodiscard]] Result<QString> mergeWarped(const QVector<HdrLevel> &levels, const QRect &place,
+                                          const QSize &canvas, const QString &tiffPath);
 
 } // namespace PanoHost

@@ -74,8 +74,11 @@ private:
     void checkRoom() const;
     void inParallel(int steps, const QString &text, const std::function<void(int)> &step);
     void call(const Tool &tool, const QStringList &arguments) const;
+    void embed(const QString &picture, const QString &out, const QRect &place,
+               const QRect &area) const;
     void makeLight(int bracket);
     void warp(int index);
+    void join(int bracket);
     void blend(int layer);
     void fuse();
     void finish();
@@ -84,6 +87,7 @@ private:
     [[nodiscard]] QByteArray photoKey(int image) const;
     [[nodiscard]] QByteArray lightKey(const StitchLight &light) const;
     [[nodiscard]] QByteArray warpKey(int index) const;
+    [[nodiscard]] QByteArray joinKey(const StitchJoin &join) const;
     [[nodiscard]] QByteArray layerKey(const StitchLayer &layer) const;
     [[nodiscard]] QByteArray blendKey() const;
     [[nodiscard]] QByteArray pictureKey() const;
@@ -159,6 +163,9 @@ qint64 Run::doneBytes() const
     }
     for (const StitchWarp &warp : m_plan.warps) {
         add(warp.warped);
+    }
+    for (const StitchJoin &join : m_plan.joins) {
+        add(join.joined);
     }
     for (const StitchLayer &layer : m_plan.layers) {
         add(layer.blended);
@@ -252,12 +259,24 @@ QByteArray Run::warpKey(int index) const
     return m_tools.value(QStringLiteral("nona")).stamp + warp.projectText + source;
 }
 
+QByteArray Run::joinKey(const StitchJoin &join) const
+{
+    QByteArray key = m_tools.value(QStringLiteral("vips")).stamp;
+    for (const int warp : join.warps) {
+        key += warpKey(warp);
+    }
+    return key;
+}
+
 QByteArray Run::layerKey(const StitchLayer &layer) const
 {
     QByteArray key = blender().stamp
         + blendArguments(m_plan, layer, QString()).join(QLatin1Char('\n')).toUtf8();
     for (const int warp : layer.warps) {
         key += warpKey(warp);
+    }
+    for (const int join : layer.joins) {
+        key += joinKey(m_plan.joins.at(join));
     }
     return key;
 }
@@ -281,6 +300,17 @@ QByteArray Run::pictureKey() const
         key += QByteArray::number(number) + ' ';
     }
     return key;
+}
+
+/** Cuts \p area of the canvas out of \p picture, which lies at \p place there. */
+void Run::embed(const QString &picture, const QString &out, const QRect &place,
+                const QRect &area) const
+{
+    call(m_tools.value(QStringLiteral("vips")),
+         // Behind "--" a number below 0 is no option.
+         { QStringLiteral("embed"), QStringLiteral("--"), picture, out,
+           QString::number(place.x() - area.x()), QString::number(place.y() - area.y()),
+           QString::number(area.width()), QString::number(area.height()) });
 }
 
 void Run::makeLight(int bracket)
@@ -329,6 +359,34 @@ void Run::warp(int index)
     });
 }
 
+/** Joins levels that look into directions of their own, on the part of the canvas of them all. */
+void Run::join(int bracket)
+{
+    const StitchJoin &join = m_plan.joins.at(bracket);
+    make(join.joined, joinKey(join), [&](const QString &part) {
+        const auto placeOf = [this](int warp) {
+            return tiffPlace(m_work.path(m_plan.warps.at(warp).warped)).value_or(QRect());
+        };
+        QRect all;
+        for (const int warp : join.warps) {
+            all |= placeOf(warp);
+        }
+        QVector<HdrLevel> levels;
+        for (const int warp : join.warps) {
+            const StitchWarp &level = m_plan.warps.at(warp);
+            const QString pixels = stemOf(part) + QStringLiteral("-%1.v").arg(level.image);
+            embed(level.warped, pixels, placeOf(warp), all);
+            levels += { m_work.path(pixels), m_plan.gainOf(level.image) / m_plan.lightScale };
+        }
+        const Result<QString> merged
+            = mergeWarped(levels, all, m_plan.layout.canvas, m_work.path(part));
+        for (const HdrLevel &level : qAsConst(levels)) {
+            QFile::remove(level.path);
+        }
+        (void)valueOrThrow(merged);
+    });
+}
+
 void Run::blend(int layer)
 {
     const StitchLayer &photos = m_plan.layers.at(layer);
@@ -354,15 +412,10 @@ void Run::finish()
         const QRect place = tiffPlace(m_work.path(kBlended)).value_or(area);
         const bool isLight = m_plan.depth == StitchedPicture::Depth::Radiance;
         const QString placed = isLight ? stemOf(part) + QStringLiteral("-scaled.v") : part;
-        const Tool &vips = m_tools.value(QStringLiteral("vips"));
-        call(vips,
-             // Behind "--" a number below 0 is no option.
-             { QStringLiteral("embed"), QStringLiteral("--"), kBlended, placed,
-               QString::number(place.x() - area.x()), QString::number(place.y() - area.y()),
-               QString::number(area.width()), QString::number(area.height()) });
+        embed(kBlended, placed, place, area);
         if (isLight) {
             const QString factor = QString::number(m_plan.lightScale, 'g', 17);
-            call(vips,
+            call(m_tools.value(QStringLiteral("vips")),
                  { QStringLiteral("linear"), placed, part, QStringLiteral("%1 %1 %1 1").arg(factor),
                    QStringLiteral("0 0 0 0") });
             QFile::remove(m_work.path(placed));
@@ -380,6 +433,8 @@ StitchedPicture Run::run()
                [this](int bracket) { makeLight(bracket); });
     inParallel(m_plan.warps.size(), QStringLiteral("warping photos with nona"),
                [this](int index) { warp(index); });
+    inParallel(m_plan.joins.size(), QStringLiteral("joining warped brackets"),
+               [this](int bracket) { join(bracket); });
     // One after the other, each may take all the memory that there is.
     const int pictures = m_plan.layers.size() + (m_plan.isFused() ? 1 : 0);
     for (int layer = 0; layer < m_plan.layers.size(); ++layer) {

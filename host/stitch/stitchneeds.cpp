@@ -45,6 +45,14 @@ StitchNeeds needsOf(const StitchPlan &plan)
         }
         largestWarp = std::max(largestWarp, (pixels + photo) * perPixel * kWarpCopies);
     }
+    for (const StitchJoin &join : plan.joins) {
+        QRect all;
+        for (const int warp : join.warps) {
+            all |= layout.boundsOf(plan.warps.at(warp).image);
+        }
+        // The levels once more while they are joined.
+        needs.diskBytes += (1 + join.warps.size()) * pixelsOf(all.size()) * perPixel;
+    }
     // The blended picture, cropped and padded, and once more while it is delivered.
     constexpr qint64 kFinalCopies = 3;
     const qint64 picture = pixelsOf(layout.area.size());

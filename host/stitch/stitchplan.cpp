@@ -125,23 +125,37 @@ int levelOf(const StitchLayout &layout, const QVector<int> &stack, int index,
     return static_cast<int>(nearest - levels.cbegin());
 }
 
-/** Whether all levels of each bracket look into just the same direction. */
-bool haveCommonAngles(const StitchLayout &layout)
+/** Whether all levels of \p stack look into just the same direction. */
+bool haveCommonAngles(const StitchLayout &layout, const QVector<int> &stack)
 {
-    return std::all_of(layout.stacks.cbegin(), layout.stacks.cend(),
-                       [&](const QVector<int> &stack) {
-                           return std::all_of(stack.cbegin(), stack.cend(), [&](int image) {
-                               const int master = layout.project.images()[image].angleMaster;
-                               return image == stack.first() || master == stack.first();
-                           });
-                       });
+    return std::all_of(stack.cbegin(), stack.cend(), [&](int image) {
+        return image == stack.first()
+            || layout.project.images()[image].angleMaster == stack.first();
+    });
 }
 
-void addLight(StitchPlan &plan, const QVector<int> &stack)
+/** Answers the number of the warp. */
+int addLight(StitchPlan &plan, const QVector<int> &levels)
 {
-    plan.lights += StitchLight{ stack, tiffOf("light", stack.first()) };
-    plan.layers.first().warps += plan.warps.size();
-    plan.warps += warpOf(plan, stack.first(), stack.first());
+    plan.lights += StitchLight{ levels, tiffOf("light", levels.first()) };
+    plan.warps += warpOf(plan, levels.first(), levels.first());
+    return plan.warps.size() - 1;
+}
+
+/** Levels are joined before they are warped, once for all, or where they meet. */
+void addBracket(StitchPlan &plan, const QVector<int> &stack)
+{
+    StitchLayer &layer = plan.layers.first();
+    if (haveCommonAngles(plan.layout, stack)) {
+        layer.warps += addLight(plan, stack);
+        return;
+    }
+    StitchJoin join{ {}, tiffOf("joined", stack.first()) };
+    for (const int image : stack) {
+        join.warps += addLight(plan, { image });
+    }
+    layer.joins += plan.joins.size();
+    plan.joins += join;
 }
 
 void addLevels(StitchPlan &plan, const QVector<int> &stack, const std::vector<double> &levels)
@@ -164,7 +178,7 @@ void addLayers(StitchPlan &plan)
     }
     for (const QVector<int> &stack : qAsConst(plan.layout.stacks)) {
         if (isLight) {
-            addLight(plan, stack);
+            addBracket(plan, stack);
         } else {
             addLevels(plan, stack, levels);
         }
@@ -192,18 +206,23 @@ double StitchPlan::gainOf(int image) const
     return std::exp2(layout.exposureOf(image) - layout.exposure);
 }
 
+QStringList StitchPlan::partsOf(const StitchLayer &layer) const
+{
+    QStringList parts;
+    for (const int warp : layer.warps) {
+        parts += warps.at(warp).warped;
+    }
+    for (const int join : layer.joins) {
+        parts += joins.at(join).joined;
+    }
+    return parts;
+}
+
 Result<StitchPlan> planStitch(const PtoFile &project, const StitchOptions &options)
 {
     const Result<StitchLayout> layout = layOut(project, options);
     if (!layout) {
         return layout.error();
-    }
-    if (options.output == StitchOutput::Hdr && !haveCommonAngles(layout.value())) {
-        return Failure{ ExitCode::InputRefused, QStringLiteral("brackets"),
-                        QStringLiteral("the photos of a bracket have angles of their own, and can "
-                                       "only be joined to light where they look into the same "
-                                       "direction"),
-                        QStringLiteral("import them with --stack hard, or choose --output fused") };
     }
     StitchPlan plan(layout.value(), options);
     plan.depth = depthOf(project, options);
@@ -241,10 +260,7 @@ QStringList blendArguments(const StitchPlan &plan, const StitchLayer &layer, con
     if (isInternal && bytes > kMostOfClassic) {
         arguments += QStringLiteral("--bigtiff");
     }
-    for (const int warp : layer.warps) {
-        arguments += plan.warps.at(warp).warped;
-    }
-    return arguments;
+    return arguments + plan.partsOf(layer);
 }
 
 QStringList fuseArguments(const StitchPlan &plan, const QString &out)

@@ -24,9 +24,16 @@ struct StitchLight {
     QString joined; ///< what comes out
 };
 
-/** Photos of one exposure, all around. */
+/** Warped light of a bracket whose photos have angles of their own, on its way to one picture. */
+struct StitchJoin {
+    QVector<int> warps;
+    QString joined; ///< what comes out
+};
+
+/** Photos of one exposure, all around, or light. */
 struct StitchLayer {
     QVector<int> warps;
+    QVector<int> joins;
     QString blended; ///< what comes out
 };
 
@@ -42,8 +49,9 @@ struct StitchPlan {
     StitchOptions options;
     StitchedPicture::Depth depth = StitchedPicture::Depth::Bits8;
     QVector<QString> photos; ///< a name for each image, whatever it is called; empty: not used
-    QVector<StitchLight> lights; ///< become light before they are warped
+    QVector<StitchLight> lights; ///< become light before they are warped, one for each warp
     QVector<StitchWarp> warps;
+    QVector<StitchJoin> joins;
     QVector<StitchLayer> layers; ///< what is blended; more than one: those are fused
     /** Light is warped in numbers from 0 to 1: this much smaller, a power of two. */
     double lightScale = 1.0;
@@ -52,10 +60,11 @@ struct StitchPlan {
     [[nodiscard]] int bytesPerPixel() const; ///< with alpha
     /** The light that white means at \p image, 1 being white in the panorama. */
     [[nodiscard]] double gainOf(int image) const;
+    /** Everything that becomes part of \p layer, by name. */
+    [[nodiscard]] QStringList partsOf(const StitchLayer &layer) const;
 };
 
-/** Refuses what `layOut` refuses, and brackets for light whose levels have angles of their own.
- * Opens the first photo to see how deep its colours are. */
+/** Refuses what `layOut` refuses. Opens the first photo to see how deep its colours are. */
 [[nodiscard]] Result<StitchPlan> planStitch(const PtoFile &project, const StitchOptions &options);
 
 /** What the tools are told; names as they are, relative to the work folder. */

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/stitch/hdrmerge.h"
+#include "host/stitch/tiffplace.h"
 #include "host/stitch/vipsfile.h"
 #include "tests/support/testprogram.h"
 
@@ -49,6 +50,8 @@ private Q_SLOTS:
     void theCurveIsUndone();
     void vignettingIsTakenOut();
     void alphaAndGreyAreUnderstood();
+    void warpedLightIsJoinedWhereItIsSeen();
+    void whatIsNoWarpedLightIsRefused();
     void unlikeSizesAreRefused();
     void whatIsNoPictureIsRefused_data();
     void whatIsNoPictureIsRefused();
@@ -57,6 +60,9 @@ private Q_SLOTS:
 private:
     QString write(const char *name, const QByteArray &bytes);
     QVector<float> merged(const QVector<HdrLevel> &levels, const HdrCurve &curve);
+
+    /** All samples of the TIFF file \p path of \p bands. */
+    static QVector<float> samplesOf(const QString &path, int bands);
 
     std::unique_ptr<QTemporaryDir> m_folder;
 };
@@ -80,14 +86,19 @@ QVector<float> TestHdrMerge::merged(const QVector<HdrLevel> &levels, const HdrCu
     if (!mergeLevels(levels, curve, path)) {
         return {};
     }
+    return samplesOf(path, 3);
+}
+
+QVector<float> TestHdrMerge::samplesOf(const QString &path, int bands)
+{
     TIFF *const file = TIFFOpen(QFile::encodeName(path).constData(), "r");
     uint32_t width = 0;
     uint32_t height = 0;
     TIFFGetField(file, TIFFTAG_IMAGEWIDTH, &width);
     TIFFGetField(file, TIFFTAG_IMAGELENGTH, &height);
-    QVector<float> samples(int(width * height * 3));
+    QVector<float> samples(int(width * height) * bands);
     for (uint32_t y = 0; y < height; ++y) {
-        TIFFReadScanline(file, samples.data() + y * width * 3, y, 0);
+        TIFFReadScanline(file, samples.data() + y * width * uint32_t(bands), y, 0);
     }
     TIFFClose(file);
     return samples;
@@ -165,6 +176,42 @@ void TestHdrMerge::alphaAndGreyAreUnderstood()
     const QVector<float> grey = merged(
         { { write("grey.v", vipsBytes<quint8>(1, 1, 1, kBytes, { 51 })), 1.0 } }, { true, {} });
     QCOMPARE(grey, (QVector<float>{ 0.2F, 0.2F, 0.2F }));
+}
+
+void TestHdrMerge::warpedLightIsJoinedWhereItIsSeen()
+{
+    // Pixels: both levels show it, the short one alone, the long one alone, the long one is clipped
+    // at its white of 0.25, it alone and clipped, none.
+    const float none = 0.0F;
+    const QVector<float> shortest{ 0.1F, 0.1F, 0.1F, 1.0F, 0.8F, 0.4F, 0.2F, 1.0F,
+                                   none, none, none, none, 0.5F, 0.4F, 0.3F, 1.0F,
+                                   none, none, none, none, none, none, none, none };
+    const QVector<float> longest{ 0.1F,  0.1F,  0.1F, 1.0F, none,  none,  none,  none,
+                                  0.1F,  0.05F, 0.0F, 1.0F, 0.25F, 0.25F, 0.25F, 1.0F,
+                                  0.25F, 0.25F, 0.2F, 1.0F, none,  none,  none,  none };
+    const QVector<float> expected{ 0.1F,  0.1F,  0.1F, 1.0F, 0.8F, 0.4F, 0.2F, 1.0F,
+                                   0.1F,  0.05F, 0.0F, 1.0F, 0.5F, 0.4F, 0.3F, 1.0F,
+                                   0.25F, 0.25F, 0.2F, 1.0F, none, none, none, none };
+    const QString path = m_folder->filePath(QStringLiteral("joined.tif"));
+    QVERIFY(mergeWarped({ { write("long.v", vipsBytes(6, 1, 4, kFloats, longest)), 0.25 },
+                          { write("short.v", vipsBytes(6, 1, 4, kFloats, shortest)), 1.0 } },
+                        QRect(30, 20, 6, 1), QSize(100, 50), path));
+    const QVector<float> found = samplesOf(path, 4);
+    QCOMPARE(found.size(), expected.size());
+    for (int i = 0; i < expected.size(); ++i) {
+        QVERIFY2(std::abs(found[i] - expected[i]) < 1e-6F, qPrintable(QString::number(i)));
+    }
+    QCOMPARE(tiffPlace(path), std::make_optional(QRect(30, 20, 6, 1)));
+}
+
+void TestHdrMerge::whatIsNoWarpedLightIsRefused()
+{
+    const QString path = m_folder->filePath(QStringLiteral("no.tif"));
+    const QString photo = write("photo.v", vipsBytes<quint8>(1, 1, 4, kBytes, { 1, 2, 3, 255 }));
+    QVERIFY(!mergeWarped({ { photo, 1.0 } }, QRect(0, 0, 1, 1), QSize(9, 9), path));
+    const QString light = write("light.v", vipsBytes<float>(1, 1, 4, kFloats, { 1, 1, 1, 1 }));
+    QVERIFY(mergeWarped({ { light, 1.0 } }, QRect(0, 0, 1, 1), QSize(9, 9), path));
+    QVERIFY(!mergeWarped({ { light, 1.0 } }, QRect(0, 0, 2, 1), QSize(9, 9), path));
 }
 
 void TestHdrMerge::unlikeSizesAreRefused()

@@ -76,7 +76,7 @@ private Q_SLOTS:
     void levelsKeepTheirDistanceWhenTheyAreFused();
     void brokenBracketsJoinTheLayersOfTheirExposures();
     void lightIsWarpedAsItIs();
-    void bracketsOfSeveralDirectionsAreNoLight();
+    void lightOfSeveralDirectionsIsJoinedOnTheCanvas();
     void photosGetPlainNames();
     void linesStandAlone();
     void commandsSayWhatIsMade();
@@ -230,16 +230,27 @@ void TestStitchPlan::lightIsWarpedAsItIs()
     QVERIFY(project.contains("n\"../light/00003.tif\""));
 }
 
-void TestStitchPlan::bracketsOfSeveralDirectionsAreNoLight()
+void TestStitchPlan::lightOfSeveralDirectionsIsJoinedOnTheCanvas()
 {
-    const PtoFile project
-        = projectOf(kSphere + image("y0 j0 Eev12", "a1.jpg") + image("y0.1 j=0 Eev14", "a2.jpg"));
-    const auto plan = planStitch(project, withOutput(StitchOutput::Hdr));
-    QVERIFY(!plan);
-    QCOMPARE(plan.error().code, ExitCode::InputRefused);
-    QCOMPARE(plan.error().tryThis,
-             QStringLiteral("import them with --stack hard, or choose --output fused"));
-    QVERIFY(planStitch(project, withOutput(StitchOutput::Fused)));
+    const QByteArray turned = image("y80 j6 Eev12", "c1.jpg") + image("y80.3 j=6 Eev14", "c2.jpg");
+    const auto plan
+        = planStitch(projectOf(kSphere + kBrackets + turned), withOutput(StitchOutput::Hdr));
+    QVERIFY(plan);
+    QCOMPARE(plan.value().lights.size(), 4);
+    QCOMPARE(plan.value().lights[2].images, (QVector<int>{ 6 }));
+    QCOMPARE(plan.value().lights[3].images, (QVector<int>{ 7 }));
+    QCOMPARE(valueIn(plan.value().warps[3].projectText, "y"), 80.3);
+    QCOMPARE(plan.value().joins.size(), 1);
+    QCOMPARE(plan.value().joins[0].warps, (QVector<int>{ 2, 3 }));
+    QCOMPARE(plan.value().layers.size(), 1);
+    QCOMPARE(plan.value().partsOf(plan.value().layers[0]),
+             (QStringList{ QStringLiteral("warped/00000.tif"), QStringLiteral("warped/00003.tif"),
+                           QStringLiteral("joined/00006.tif") }));
+    // Joining takes room: the part of the canvas of both, 50 x 34 degrees, three times over.
+    const StitchNeeds needs = needsOf(plan.value());
+    const auto common = planStitch(projectOf(kSphere + kBrackets + image("y80 j6 Eev12", "c1.jpg")),
+                                   withOutput(StitchOutput::Hdr));
+    QVERIFY(needs.diskBytes - needsOf(common.value()).diskBytes > 4LL * 500 * 340 * 16);
 }
 
 void TestStitchPlan::photosGetPlainNames()
