@@ -82,6 +82,7 @@ private:
     void blend(int layer);
     void fuse();
     void finish();
+    [[nodiscard]] StitchedPicture::Depth depth() const;
     QString make(const QString &name, const QByteArray &source,
                  const std::function<void(const QString &part)> &maker) const;
     [[nodiscard]] QByteArray photoKey(int image) const;
@@ -404,23 +405,44 @@ void Run::fuse()
     });
 }
 
-/** Crops and pads what the blender left to the wished area. */
+/** Crops and pads what the blender left to the wished area; grey becomes red, green and blue. */
 void Run::finish()
 {
     make(kPanorama, pictureKey(), [&](const QString &part) {
+        const auto change = [&](const QString &operation, const QStringList &wishes) {
+            const QString before = stemOf(part) + QStringLiteral("-before.v");
+            QFile::rename(m_work.path(part), m_work.path(before));
+            call(m_tools.value(QStringLiteral("vips")),
+                 QStringList{ operation, QStringLiteral("--"), before, part } + wishes);
+            QFile::remove(m_work.path(before));
+        };
         const QRect area = m_plan.layout.area;
         const QRect place = tiffPlace(m_work.path(kBlended)).value_or(area);
-        const bool isLight = m_plan.depth == StitchedPicture::Depth::Radiance;
-        const QString placed = isLight ? stemOf(part) + QStringLiteral("-scaled.v") : part;
-        embed(kBlended, placed, place, area);
-        if (isLight) {
+        embed(kBlended, part, place, area);
+        if (m_plan.depth == StitchedPicture::Depth::Radiance) {
             const QString factor = QString::number(m_plan.lightScale, 'g', 17);
-            call(m_tools.value(QStringLiteral("vips")),
-                 { QStringLiteral("linear"), placed, part, QStringLiteral("%1 %1 %1 1").arg(factor),
-                   QStringLiteral("0 0 0 0") });
-            QFile::remove(m_work.path(placed));
+            change(QStringLiteral("linear"),
+                   { QStringLiteral("%1 %1 %1 1").arg(factor), QStringLiteral("0 0 0 0") });
+        }
+        const Result<VipsFile> made = VipsFile::open(m_work.path(part));
+        constexpr int kColours = 3;
+        if (made && made.value().bands() < kColours) {
+            const bool isDeep = made.value().sample() == VipsFile::Sample::Bits16;
+            change(QStringLiteral("colourspace"),
+                   { isDeep ? QStringLiteral("rgb16") : QStringLiteral("srgb") });
         }
     });
+}
+
+/** What came out tells: not all kinds of photos say how deep they are before they are read. */
+StitchedPicture::Depth Run::depth() const
+{
+    const Result<VipsFile> made = VipsFile::open(m_work.path(kPanorama));
+    if (made && made.value().sample() == VipsFile::Sample::Bits16) {
+        return StitchedPicture::Depth::Bits16;
+    }
+    return m_plan.depth == StitchedPicture::Depth::Radiance ? m_plan.depth
+                                                            : StitchedPicture::Depth::Bits8;
 }
 
 StitchedPicture Run::run()
@@ -452,7 +474,7 @@ StitchedPicture Run::run()
     StitchedPicture picture;
     picture.path = m_work.path(kPanorama);
     picture.size = layout.area.size();
-    picture.depth = m_plan.depth;
+    picture.depth = depth();
     picture.sphere = layout.sphere();
     const int left = (picture.sphere.width() - layout.canvas.width()) / 2;
     picture.onSphere = layout.area.topLeft() + QPoint(left, 0);

@@ -5,6 +5,7 @@
 #include "host/model/ptoline.h"
 #include "host/stitch/tiffplace.h"
 
+#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -85,15 +86,26 @@ StitchWarp warpOf(const StitchPlan &plan, int image, int reference)
     return warp;
 }
 
+/** Bits of each colour in the PNG file \p path; 0: it is none. */
+int pngBits(const QString &path)
+{
+    constexpr int kPlace = 24; // in the first chunk, behind width and height
+    QFile file(path);
+    const QByteArray head = QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly)
+        ? file.read(kPlace + 1)
+        : QByteArray();
+    return head.size() > kPlace && head.startsWith("\x89PNG") ? head.at(kPlace) : 0;
+}
+
 StitchedPicture::Depth depthOf(const PtoFile &project, const StitchOptions &options)
 {
     constexpr int kDeep = 16;
     if (options.output == StitchOutput::Hdr) {
         return StitchedPicture::Depth::Radiance;
     }
-    return tiffBits(project.images().first().path).value_or(0) >= kDeep
-        ? StitchedPicture::Depth::Bits16
-        : StitchedPicture::Depth::Bits8;
+    const QString photo = project.images().first().path;
+    return tiffBits(photo).value_or(pngBits(photo)) >= kDeep ? StitchedPicture::Depth::Bits16
+                                                             : StitchedPicture::Depth::Bits8;
 }
 
 /** The exposures of whole brackets, stops from the reference. */

@@ -43,12 +43,13 @@ bool writeTiff(const QString &path)
     return true;
 }
 
-/** A picture of libvips' own format, 2 x 1 grey pixels. */
-QByteArray vipsPicture()
+/** A picture of libvips' own format, 2 x 1 pixels; \p format 0 is of 8 bits, 2 of 16. */
+QByteArray vipsPicture(int bands = 4, int format = 0)
 {
-    const QVector<qint32> header{ 0x08f2a6b6, 2, 1, 1, 8, 0 };
+    const QVector<qint32> header{ 0x08f2a6b6, 2, 1, bands, 8, format };
     QByteArray bytes(reinterpret_cast<const char *>(header.constData()), header.size() * 4);
-    return bytes + QByteArray(64 - bytes.size(), '\0') + "xx";
+    return bytes + QByteArray(64 - bytes.size(), '\0')
+        + QByteArray(2 * bands * (format == 0 ? 1 : 2), 'x');
 }
 
 } // namespace
@@ -70,6 +71,8 @@ private Q_SLOTS:
     void temporaryFilesOfToolsGoIntoTheWorkFolder();
     void stoppedStitchGoesOn();
     void photosThatAreGoneAreNamed();
+    void greyPhotosBecomeColoured_data();
+    void greyPhotosBecomeColoured();
 
 private:
     void makeTool(const char *name, const QByteArray &script) const;
@@ -374,6 +377,43 @@ void TestStitchRun::photosThatAreGoneAreNamed()
              QStringLiteral("c.jpg: not there any more; put the photos back where they were, or "
                             "import them again"));
     QVERIFY(!QFile::exists(path("out.work/photos")));
+}
+
+void TestStitchRun::greyPhotosBecomeColoured_data()
+{
+    QTest::addColumn<int>("bands");
+    QTest::addColumn<int>("format");
+    QTest::addColumn<QStringList>("calls");
+    QTest::addColumn<int>("depth");
+    const int bits8 = static_cast<int>(StitchedPicture::Depth::Bits8);
+    const int bits16 = static_cast<int>(StitchedPicture::Depth::Bits16);
+    const QString embed = QStringLiteral("vips embed");
+    QTest::newRow("colours") << 4 << 0 << QStringList{ embed } << bits8;
+    // Its depth is that of what came out: PNG and others do not say theirs before.
+    QTest::newRow("deep colours") << 4 << 2 << QStringList{ embed } << bits16;
+    QTest::newRow("grey") << 2 << 0 << QStringList{ embed, QStringLiteral("vips colourspace srgb") }
+                          << bits8;
+    QTest::newRow("deep grey") << 2 << 2
+                               << QStringList{ embed, QStringLiteral("vips colourspace rgb16") }
+                               << bits16;
+}
+
+void TestStitchRun::greyPhotosBecomeColoured()
+{
+    QFETCH(int, bands);
+    QFETCH(int, format);
+    QFETCH(int, depth);
+    QFile picture(path("made.v"));
+    QVERIFY(picture.open(QIODevice::WriteOnly) && picture.write(vipsPicture(bands, format)) > 0);
+    picture.close();
+    const QByteArray folder = QFile::encodeName(m_folder->path());
+    makeTool("vips",
+             "word=$5; test $1 = embed && word=; echo vips $1 $word >> '" + folder + "/log'; cp '"
+                 + folder + "/made.v' \"$4\"\n");
+    const auto result = stitched({});
+    QVERIFY2(result, result ? "" : qPrintable(result.error().text()));
+    QCOMPARE(static_cast<int>(result.value().depth), depth);
+    QTEST(calls().filter(QStringLiteral("vips")), "calls");
 }
 
 TEST_CLASS(TestStitchRun, QCoreApplication)
