@@ -88,8 +88,8 @@ OverallProgress::State OverallProgress::at(int done, int total, const QString &t
         = over > 0.0 ? static_cast<int>(std::floor(kTotal * over / (over + left))) : 0;
     m_told = std::clamp(permille, m_told, kTotal - 1);
     return { m_told,
-             QStringLiteral("[%1/%2] %3")
-                 .arg(QString::number(m_step + 1), QString::number(m_steps.size()), text) };
+             QStringLiteral("%1 (step %2 of %3)")
+                 .arg(text, QString::number(m_step + 1), QString::number(m_steps.size())) };
 }
 
 } // namespace PanoHost

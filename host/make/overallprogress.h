@@ -36,7 +36,7 @@ public:
     /** For `JobWatch::report`, with `kTotal`. */
     struct State {
         int done = 0;
-        QString text; ///< "[3/4] warping photos"
+        QString text; ///< "warping photos (step 3 of 4)"
     };
     static constexpr int kTotal = 1000;
     /** The step that began last has done \p done of \p total of what \p text says. */

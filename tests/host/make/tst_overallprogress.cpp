@@ -30,10 +30,10 @@ void TestOverallProgress::stepsAreCountedInTheText()
     OverallProgress progress({ { 1.0 }, { 1.0 }, { 1.0 } });
     progress.begin(0, 0ms);
     QCOMPARE(progress.at(0, 5, QStringLiteral("reading"), 0ms).text,
-             QStringLiteral("[1/3] reading"));
+             QStringLiteral("reading (step 1 of 3)"));
     progress.begin(2, 10ms);
     QCOMPARE(progress.at(0, 5, QStringLiteral("warping %1.jpg"), 10ms).text,
-             QStringLiteral("[3/3] warping %1.jpg"));
+             QStringLiteral("warping %1.jpg (step 3 of 3)"));
 }
 
 void TestOverallProgress::shareFollowsFromGuessAndMeasurement_data()
