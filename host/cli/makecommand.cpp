@@ -6,6 +6,7 @@
 #include "host/cli/requestline.h"
 #include "host/cli/stitchline.h"
 #include "host/model/commanderror.h"
+#include "host/model/displayname.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -58,6 +59,22 @@ QString usualPath(const ImportRequest &request)
                         + QStringLiteral(".jpg"));
 }
 
+/** What this program has made lies beside the photos, where "*.jpg" finds it the next time. */
+void leaveOutPanoramas(Session &session, QStringList &photos)
+{
+    QStringList rest;
+    for (const QString &path : qAsConst(photos)) {
+        const Result<PhotoInfo> photo = session.app.photoInfo(path);
+        if (photo && photo.value().isPanorama) {
+            session.console.info(
+                QStringLiteral("%1: made of other photos, left out").arg(displayName(path)));
+        } else {
+            rest += path;
+        }
+    }
+    photos = rest.isEmpty() ? photos : rest;
+}
+
 } // namespace
 
 ExitCode runMake(Session &session, const QStringList &arguments)
@@ -69,6 +86,7 @@ ExitCode runMake(Session &session, const QStringList &arguments)
     applyCommonOptions(session, line);
     MakeRequest request;
     request.import = importRequest(session, line);
+    leaveOutPanoramas(session, request.import.photos);
     request.rawConverter = line.value(QStringLiteral("raw-converter"));
     request.align = alignOptions(line);
     request.picture = pictureWishes(line, usualPath(request.import));

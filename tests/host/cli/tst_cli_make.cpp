@@ -19,6 +19,7 @@ private Q_SLOTS:
     void initTestCase();
     void panoramaAndPageAreMade();
     void secondRunKeepsAll();
+    void panoramaAmongThePhotosIsLeftOut();
     void changedPhotoIsTakenIntoAccount();
     void anotherSizeIsStitchedOnly();
     void anotherFocalLengthChangesAll();
@@ -65,6 +66,20 @@ void TestCliMake::secondRunKeepsAll()
     QVERIFY(run.err.contains(QStringLiteral("panohost: kept: import, alignment\n")));
     QVERIFY(run.err.contains(QStringLiteral("panohost: kept: stitched panorama, picture, html\n")));
     QCOMPARE(m_bench.content(QStringLiteral("whole/pano.jpg")), picture);
+}
+
+/** As "*.jpg" names it when the panorama lies beside its photos. */
+void TestCliMake::panoramaAmongThePhotosIsLeftOut()
+{
+    QVERIFY(!m_bench.wholePicture().isEmpty());
+    QStringList words = m_bench.makeWords(QStringLiteral("whole/pano.jpg"));
+    words.insert(words.indexOf(QStringLiteral("-o")), QStringLiteral("whole/pano.jpg"));
+    const auto run = m_bench.run(words);
+    QVERIFY2(run.exitCode == 0, qPrintable(run.err));
+    QVERIFY2(run.err.startsWith(QStringLiteral("panohost: whole/pano.jpg: made of other photos, "
+                                               "left out\n")),
+             qPrintable(run.err));
+    QVERIFY(run.err.contains(QStringLiteral("panohost: kept: import, alignment\n")));
 }
 
 void TestCliMake::changedPhotoIsTakenIntoAccount()
