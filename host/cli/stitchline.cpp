@@ -143,16 +143,20 @@ QVector<OptionRow> stitchOptionRows()
           true },
         { "--size", "full|PERCENT%|WIDTH",
           "of the panorama; full, the default: as fine as the photos" },
-        { "--crop", "yes|no", "cut to what photos cover (default), or leave the whole sphere",
+        { "--crop", "yes|no",
+          "cut to what photos cover (default), or leave the whole sphere, of a part of it all from "
+          "zenith to nadir",
           true },
-        { "--centre", "YAW", "the direction of the head in the middle, degrees" },
+        { "--centre", "YAW",
+          "the direction of the head in the middle of a full turn, degrees; a part of the sphere "
+          "stays as it is" },
         { "--blender", "internal|enblend",
           "internal (default) is quick and sharp; enblend hides seams where light changed", true },
         { "--linear", nullptr, "with hdr: the photos' values are light itself, without any curve" },
         { "--jpeg", "QUALITY", "of JPEG files, 1 to 100; 92 when not given" },
         { "--iiif-address", "URL", "where a server will offer the folder of iiif" },
         { "--dry-run", nullptr,
-          "say what it takes, print the commands of the stitch, and do nothing" },
+          "say what it takes, print the stitch as a script for a shell, and do nothing" },
     };
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/make/makejob.h"
 
+#include "host/deliver/outputname.h"
 #include "host/import/importjob.h"
 #include "host/import/inputcheck.h"
 #include "host/make/makekeys.h"
@@ -17,6 +18,7 @@
 #include "host/model/ptoproject.h"
 #include "host/model/safefile.h"
 #include "host/plugin/pluginlibrary.h"
+#include "host/stitch/toolrun.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -141,6 +143,7 @@ struct PlacedProject {
     int renderMode = -1;
     bool levels = false; ///< has yet to be turned upright
     bool isLinear = false; ///< of light, whatever is wished
+    QVector<PlainName> names = {}; ///< of its photos, that have yet to be linked
 };
 
 StitchOptions stitchOptions(const PictureWishes &wishes, const PlacedProject &placed)
@@ -186,18 +189,28 @@ QStringList photosOf(const PtoFile &project)
     return photos;
 }
 
-PlacedProject readInput(const StitchRequest &request, const JobWatch &watch)
+/** \p panorama as it is before any alignment, to be worked on in the folder \p work. */
+PlacedProject asRecorded(Panorama panorama, bool ignoresExifRotation, const QString &work,
+                         const JobWatch &watch)
+{
+    const QVector<PlainName> names = takePlainNames(panorama, work);
+    PtoOptions options;
+    options.ignoreExifRotation = ignoresExifRotation;
+    options.projectFolder = work;
+    for (const QString &warning : valueOrThrow(makePtoProject(panorama, options)).warnings) {
+        watch.note(JobWatch::Note::Warning, warning);
+    }
+    return { valueOrThrow(projectOf(panorama, options)), panorama.description.renderMode, false,
+             false, names };
+}
+
+PlacedProject readInput(const StitchRequest &request, const QString &work, const JobWatch &watch)
 {
     if (request.input.endsWith(QLatin1String(".pto"), Qt::CaseInsensitive)) {
         return { valueOrThrow(PtoFile::read(request.input)) };
     }
-    const Panorama panorama = valueOrThrow(readPanoramaJson(request.input));
-    PtoOptions options;
-    options.ignoreExifRotation = request.ignoresExifRotation;
-    for (const QString &warning : valueOrThrow(makePtoProject(panorama, options)).warnings) {
-        watch.note(JobWatch::Note::Warning, warning);
-    }
-    return { valueOrThrow(projectOf(panorama, options)), panorama.description.renderMode };
+    return asRecorded(valueOrThrow(readPanoramaJson(request.input)), request.ignoresExifRotation,
+                      work, watch);
 }
 
 /** Such photos are put in their places all the same: what they show is worth more than nothing. */
@@ -338,7 +351,7 @@ Panorama MakeRun::import(const MakeRequest &request)
                  options.ignoreExifRotation = request.import.ignoreExifRotation;
                  options.projectFolder = m_work.path();
                  Panorama named = panorama;
-                 givePlainNames(named, m_work);
+                 linkPlainNames(takePlainNames(named, m_work.path()));
                  const PtoProject project = valueOrThrow(makePtoProject(named, options));
                  for (const QString &warning : project.warnings) {
                      watch.note(JobWatch::Note::Warning, warning);
@@ -388,7 +401,7 @@ PlacedProject MakeRun::place(const MakeRequest &request)
         isLinear = develop(step, panorama, request.rawConverter);
         ++step;
     }
-    givePlainNames(panorama, m_work);
+    linkPlainNames(takePlainNames(panorama, m_work.path()));
     PtoOptions options;
     options.ignoreExifRotation = request.import.ignoreExifRotation;
     options.projectFolder = m_work.path();
@@ -429,7 +442,9 @@ StitchedPicture MakeRun::stitch(int step, const PtoFile &project, const StitchOp
     const JobWatch watch = begin(step);
     note(JobWatch::Note::Info, needsText(needs, m_work.path()));
     for (const QString &command : valueOrThrow(m_steps.commands(project, options, m_work.path()))) {
-        m_log.add(QStringLiteral("$ ") + command);
+        if (!command.startsWith(QLatin1String("printf "))) { // what it writes stays in a file
+            m_log.add(QStringLiteral("$ ") + command);
+        }
     }
     const QByteArray before = stampOf(m_work.path(QStringLiteral("panorama.v")));
     StitchedPicture picture = valueOrThrow(m_steps.stitch(project, options, m_work, watch));
@@ -485,6 +500,7 @@ QStringList MakeRun::deliver(const DeliverJob &job, Delivery kind, const JobWatc
 QStringList MakeRun::stitchAndDeliver(int step, const PlacedProject &placed)
 {
     tellKept();
+    linkPlainNames(placed.names);
     const StitchOptions options = stitchOptions(m_wishes, placed);
     DeliverJob job;
     job.picture = stitch(step, placed.project, options);
@@ -541,6 +557,12 @@ Result<QStringList> resumableAnswerOf(const QString &workFolder, const JobWatch 
     return failure;
 }
 
+/** Where a user runs the commands: what is kept in the work folder stays as it is. */
+QString scriptFolderOf(const PictureWishes &wishes)
+{
+    return outputName(wishes.path, QStringLiteral(".commands"));
+}
+
 Result<QStringList> commandsOf(const PlacedProject &placed, const PictureWishes &wishes,
                                const MakeSteps &steps, const JobWatch &watch)
 {
@@ -551,7 +573,15 @@ Result<QStringList> commandsOf(const PlacedProject &placed, const PictureWishes 
         return needs.error();
     }
     watch.note(JobWatch::Note::Info, needsText(needs.value(), work));
-    return steps.commands(placed.project, options, work);
+    QStringList commands;
+    for (const PlainName &name : placed.names) {
+        commands += QStringLiteral("mkdir -p ") + shellQuoted(QFileInfo(name.link).path());
+        commands += QStringLiteral("ln -sf ") + shellQuoted(name.photo) + QLatin1Char(' ')
+            + shellQuoted(name.link);
+    }
+    const Result<QStringList> stitch
+        = steps.commands(placed.project, options, scriptFolderOf(wishes));
+    return stitch ? Result<QStringList>(commands + stitch.value()) : stitch;
 }
 
 constexpr double kMegapixelsOfUnknownPhotos = 20.0;
@@ -585,8 +615,7 @@ QVector<OverallProgress::Step> allSteps(const MakeRequest &request)
 
 QString workFolderOf(const QString &path)
 {
-    const QFileInfo file(path);
-    return file.absoluteDir().filePath(file.completeBaseName() + QStringLiteral(".work"));
+    return outputName(path, QStringLiteral(".work"));
 }
 
 QStringList deliveryWords()
@@ -655,9 +684,13 @@ Result<QStringList> stitchPanorama(const StitchRequest &request, const MakeSteps
                                    const JobWatch &watch)
 {
     return resumableAnswerOf(workFolderOf(request.picture.path), watch, [&] {
-        const PlacedProject placed = readInput(request, watch);
-        requireWritable(request.picture.path,
-                        QStringList(request.input) + photosOf(placed.project));
+        const QString work = workFolderOf(request.picture.path);
+        const PlacedProject placed = readInput(request, work, watch);
+        QStringList inputs = QStringList(request.input) + photosOf(placed.project);
+        for (const PlainName &name : placed.names) {
+            inputs += name.photo;
+        }
+        requireWritable(request.picture.path, inputs);
         requirePlaces(request.picture);
         QStringList made;
         {
@@ -666,7 +699,6 @@ Result<QStringList> stitchPanorama(const StitchRequest &request, const MakeSteps
                                        usualCount(request.picture.kinds)));
             made = run.stitchAndDeliver(0, placed);
         }
-        const QString work = workFolderOf(request.picture.path);
         const bool isMakes
             = QFileInfo::exists(QDir(work).filePath(QStringLiteral("1_import.json")));
         if (!request.keepsWork && !isMakes) {
@@ -681,10 +713,13 @@ Result<QStringList> makeCommands(const MakeRequest &request, const MakeSteps &st
 {
     return answerOf([&] {
         const Panorama panorama = valueOrThrow(steps.import(request.import, watch));
-        PtoOptions options;
-        options.ignoreExifRotation = request.import.ignoreExifRotation;
-        const PlacedProject placed{ valueOrThrow(projectOf(panorama, options)),
-                                    panorama.description.renderMode };
+        if (!panorama.description.skipOptimization) {
+            watch.note(JobWatch::Note::Info,
+                       QStringLiteral("photos lie where the record puts them in these commands: "
+                                      "nothing is aligned yet"));
+        }
+        const PlacedProject placed = asRecorded(panorama, request.import.ignoreExifRotation,
+                                                scriptFolderOf(request.picture), watch);
         return valueOrThrow(commandsOf(placed, request.picture, steps, watch));
     });
 }
@@ -693,7 +728,8 @@ Result<QStringList> stitchCommandsOf(const StitchRequest &request, const MakeSte
                                      const JobWatch &watch)
 {
     return answerOf([&] {
-        return valueOrThrow(commandsOf(readInput(request, watch), request.picture, steps, watch));
+        const PlacedProject placed = readInput(request, scriptFolderOf(request.picture), watch);
+        return valueOrThrow(commandsOf(placed, request.picture, steps, watch));
     });
 }
 

@@ -4,7 +4,6 @@
 
 #include "host/model/commanderror.h"
 #include "host/model/relativepath.h"
-#include "host/stitch/workfolder.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -29,37 +28,45 @@ QString linkName(int number, const QString &path)
     return QStringLiteral("names/%1-%2").arg(QString::number(number), name.right(kMostLetters));
 }
 
-QString linkTo(const QString &path, const QString &link)
+void makeLink(const PlainName &name)
 {
-    if (QFileInfo(link).symLinkTarget() == path) {
-        return link;
+    if (QFileInfo(name.link).symLinkTarget() == name.photo) {
+        return;
     }
-    QFile::remove(link);
-    if (!QDir().mkpath(QFileInfo(link).absolutePath()) || !QFile::link(path, link)) {
-        throw CommandError({ ExitCode::ToolFailed, path,
+    QFile::remove(name.link);
+    const QString folder = QFileInfo(name.link).absolutePath();
+    if (!QDir().mkpath(folder) || !QFile::link(name.photo, name.link)) {
+        throw CommandError({ ExitCode::ToolFailed, name.photo,
                              QStringLiteral("a Hugin project cannot hold a file name with "
                                             "quotation marks or line ends, and no link to it can "
                                             "be made in %1")
-                                 .arg(QFileInfo(link).absolutePath()),
+                                 .arg(folder),
                              QStringLiteral("rename the file") });
     }
-    return link;
 }
 
 } // namespace
 
-void givePlainNames(Panorama &panorama, const WorkFolder &work)
+QVector<PlainName> takePlainNames(Panorama &panorama, const QString &work)
 {
+    QVector<PlainName> names;
     int number = 0;
     for (Position &position : panorama.positions) {
         for (PhotoInfo &photo : position.photos) {
             ++number;
-            const QString name = relativePath(photo.path, work.path());
+            const QString name = relativePath(photo.path, work);
             if (std::any_of(name.begin(), name.end(), isUnfit)) {
-                photo.path = linkTo(photo.path, work.path(linkName(number, photo.path)));
+                names.append({ photo.path, QDir(work).filePath(linkName(number, photo.path)) });
+                photo.path = names.last().link;
             }
         }
     }
+    return names;
+}
+
+void linkPlainNames(const QVector<PlainName> &names)
+{
+    std::for_each(names.begin(), names.end(), makeLink);
 }
 
 } // namespace PanoHost

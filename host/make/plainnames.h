@@ -7,13 +7,20 @@
 namespace PanoHost
 {
 
-class WorkFolder;
+/** A photo that projects cannot name, and the link that they name in its place. Absolute. */
+struct PlainName {
+    QString photo;
+    QString link;
+};
 
 /**
- * Projects in \p work cannot name files with quotation marks or line ends: photos of \p panorama
- * that are called so are named by links in the folder, which hold as much of the name as may be.
- * Throws when these cannot be made.
+ * Projects in the folder \p work cannot name files with quotation marks or line ends: photos of \p
+ * panorama that are called so are named by links in it, which hold as much of the name as may be.
+ * The links are not made yet.
  */
-void givePlainNames(Panorama &panorama, const WorkFolder &work);
+[[nodiscard]] QVector<PlainName> takePlainNames(Panorama &panorama, const QString &work);
+
+/** Makes the links; throws when it cannot. */
+void linkPlainNames(const QVector<PlainName> &names);
 
 } // namespace PanoHost

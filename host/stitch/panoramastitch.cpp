@@ -36,6 +36,12 @@ QString stemOf(const QString &path)
     return path.left(dot);
 }
 
+/** nona numbers what it makes. */
+QString nonasName(const QString &stem)
+{
+    return stem + QStringLiteral("0000.tif");
+}
+
 QString blenderName(Blender blender)
 {
     return blender == Blender::Internal ? QStringLiteral("verdandi") : QStringLiteral("enblend");
@@ -350,8 +356,7 @@ void Run::warp(int index)
             }
             throw CommandError(failure);
         }
-        // nona numbers what it makes.
-        const QString made = m_work.path(stemOf(part) + QStringLiteral("0000.tif"));
+        const QString made = m_work.path(nonasName(stemOf(part)));
         if (!QFile::rename(made, m_work.path(part))) {
             throw CommandError({ ExitCode::ToolFailed, QStringLiteral("nona"),
                                  QStringLiteral("made no picture of %1").arg(photo),
@@ -499,23 +504,56 @@ Result<QStringList> stitchCommands(const PtoFile &project, const StitchOptions &
         return planned.error();
     }
     const StitchPlan &plan = planned.value();
-    QStringList commands{ QStringLiteral("cd ") + shellQuoted(work) };
-    const auto add = [&](const QString &tool, const QStringList &arguments) {
-        QStringList words{ tool };
-        for (const QString &argument : arguments) {
-            words += shellQuoted(argument);
+    QStringList commands;
+    const auto add = [&](const QStringList &words) {
+        QStringList quoted;
+        for (const QString &word : words) {
+            quoted += shellQuoted(word);
         }
-        commands += words.join(QLatin1Char(' '));
+        commands += quoted.join(QLatin1Char(' '));
     };
+    QStringList folders{ QStringLiteral("mkdir"), QStringLiteral("-p") };
+    for (const char *const name : { "photos", "light", "warped", "layers" }) {
+        folders += QDir(work).filePath(QLatin1String(name));
+    }
+    add(folders);
+    add({ QStringLiteral("cd"), work });
+    for (int image = 0; image < plan.photos.size(); ++image) {
+        if (!plan.photos.at(image).isEmpty()) {
+            add({ QStringLiteral("ln"), QStringLiteral("-sf"),
+                  plan.layout.project.images()[image].path, plan.photos.at(image) });
+        }
+    }
+    for (const StitchLight &light : plan.lights) {
+        QStringList levels;
+        for (const int image : light.images) {
+            levels += plan.photos.at(image);
+        }
+        commands += QStringLiteral("# panohost joins %1 to %2")
+                        .arg(levels.join(QLatin1Char(' ')), light.joined);
+    }
     for (const StitchWarp &warp : plan.warps) {
-        add(QStringLiteral("nona"), warpArguments(warp, stemOf(warp.warped)));
+        const QString stem = stemOf(warp.warped);
+        commands += QStringLiteral("printf %s %1 > %2")
+                        .arg(shellQuoted(QString::fromUtf8(warp.projectText)), warp.project);
+        add(QStringList{ QStringLiteral("OMP_NUM_THREADS=1"), QStringLiteral("nona") }
+            + warpArguments(warp, stem));
+        add({ QStringLiteral("mv"), nonasName(stem), warp.warped });
     }
     for (const StitchLayer &layer : plan.layers) {
-        add(blenderName(options.blender), blendArguments(plan, layer, layer.blended));
+        add(QStringList{ blenderName(options.blender) }
+            + blendArguments(plan, layer, layer.blended));
     }
     if (plan.isFused()) {
-        add(QStringLiteral("enfuse"), fuseArguments(plan, kBlended));
+        add(QStringList{ QStringLiteral("enfuse") } + fuseArguments(plan, kBlended));
     }
+    const QRect &area = plan.layout.area;
+    commands += QStringLiteral("# panohost cuts %1 to %2 x %3 pixels from (%4, %5) of the canvas")
+                    .arg(kBlended)
+                    .arg(area.width())
+                    .arg(area.height())
+                    .arg(area.x())
+                    .arg(area.y());
     return commands;
 }
 

@@ -56,7 +56,8 @@ struct StitchNeeds {
 /** What a project needs to become a panorama. Opens no photo. */
 [[nodiscard]] Result<StitchNeeds> needsOf(const PtoFile &project, const StitchOptions &options);
 
-/** The commands that `stitchProject` runs, one a line, for a shell in the folder \p work. */
+/** A script that does in the folder \p work what `stitchProject` does there; what no other program
+ * can do is a comment in it. */
 [[nodiscard]] Result<QStringList> stitchCommands(const PtoFile &project,
                                                  const StitchOptions &options, const QString &work);
 

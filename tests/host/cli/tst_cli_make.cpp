@@ -184,6 +184,21 @@ void TestCliMake::strangeNamesAreBorne()
     const auto run = m_bench.run(words + QStringList{ QStringLiteral("-o"), output });
     QVERIFY2(run.exitCode == 0, qPrintable(run.err));
     QCOMPARE(m_bench.content(output), m_bench.wholePicture());
+
+    const QString work = strange + QLatin1Char('/') + strange + QStringLiteral(".work");
+    const auto stitch
+        = m_bench.run({ QStringLiteral("stitch"), work + QStringLiteral("/1_import.json"),
+                        QStringLiteral("-o"), strange + QStringLiteral("/s.tif") });
+    QVERIFY2(stitch.exitCode == 0, qPrintable(stitch.err));
+    QVERIFY(!m_bench.content(strange + QStringLiteral("/s.tif")).isEmpty());
+    const auto dry = m_bench.run(words
+                                 + QStringList{ QStringLiteral("--dry-run"), QStringLiteral("-o"),
+                                                strange + QStringLiteral("/dry.jpg") });
+    QVERIFY2(dry.exitCode == 0, qPrintable(dry.err));
+    const auto script
+        = m_bench.runProgram(QStringLiteral("sh"), { QStringLiteral("-ec"), dry.out });
+    QVERIFY2(script.exitCode == 0, qPrintable(script.err));
+    QVERIFY(!m_bench.content(strange + QStringLiteral("/dry.commands/blended.tif")).isEmpty());
 }
 
 void TestCliMake::folderInUseIsNamed()
@@ -213,6 +228,15 @@ void TestCliMake::dryRunsSayAndPrintOnly()
     QVERIFY2(stitch.exitCode == 0, qPrintable(stitch.err));
     QVERIFY(stitch.out.contains(QStringLiteral("nona ")));
     QVERIFY(!QFile::exists(m_bench.path(QStringLiteral("dry.work"))));
+    QVERIFY(!QFile::exists(m_bench.path(QStringLiteral("dry.commands"))));
+
+    // What it prints is a script that comes to the same.
+    const auto script
+        = m_bench.runProgram(QStringLiteral("sh"), { QStringLiteral("-ec"), stitch.out });
+    QVERIFY2(script.exitCode == 0, qPrintable(script.err));
+    const QImage blended(m_bench.path(QStringLiteral("whole/pano.work/blended.tif")));
+    QVERIFY(!blended.isNull());
+    QCOMPARE(QImage(m_bench.path(QStringLiteral("dry.commands/blended.tif"))), blended);
 }
 
 TEST_CLASS(TestCliMake, QCoreApplication)

@@ -286,20 +286,32 @@ void TestStitchPlan::commandsSayWhatIsMade()
         = stitchCommands(projectOf(kSphere + kBrackets), withOutput(StitchOutput::Fused), work);
     QVERIFY(commands);
     const QStringList &lines = commands.value();
-    QCOMPARE(lines.size(), 1 + 6 + 3 + 1);
-    QCOMPARE(lines[0], QStringLiteral("cd '/tmp/it'\\''s here.work'"));
-    QCOMPARE(lines[1],
-             QStringLiteral("nona -m TIFF_m -r ldr -z NONE -o warped/00000 warped/00000.pto"));
-    QCOMPARE(lines[7],
+    QCOMPARE(lines.size(), 2 + 6 + 3 * 6 + 3 + 1 + 1);
+    QCOMPARE(lines[1], QStringLiteral("cd '/tmp/it'\\''s here.work'"));
+    QCOMPARE(lines[7].section(QLatin1Char(' '), -1), QStringLiteral("photos/00005.jpg"));
+    QVERIFY2(lines[8].startsWith(QStringLiteral("printf %s 'p f2 ")), qPrintable(lines[8]));
+    QVERIFY2(lines[8].endsWith(QStringLiteral("' > warped/00000.pto")), qPrintable(lines[8]));
+    QCOMPARE(
+        lines[9],
+        QStringLiteral(
+            "OMP_NUM_THREADS=1 nona -m TIFF_m -r ldr -z NONE -o warped/00000 warped/00000.pto"));
+    QCOMPARE(lines[10], QStringLiteral("mv warped/000000000.tif warped/00000.tif"));
+    QCOMPARE(lines[26],
              QStringLiteral("verdandi --output=layers/00000.tif --wrap warped/00000.tif "
                             "warped/00003.tif"));
-    QCOMPARE(lines[10],
+    QCOMPARE(lines[29],
              QStringLiteral("enfuse --output=blended.tif --wrap=horizontal layers/00000.tif "
                             "layers/00001.tif layers/00002.tif"));
+    QVERIFY2(lines[30].startsWith(QStringLiteral("# panohost cuts blended.tif to ")),
+             qPrintable(lines[30]));
     StitchOptions options;
     options.blender = Blender::Enblend;
     const auto part = stitchCommands(projectOf(kPart + image("y0 j0", "a.jpg")), options, work);
-    QCOMPARE(part.value().last(), QStringLiteral("enblend --output=blended.tif warped/00000.tif"));
+    QVERIFY(part.value().contains(QStringLiteral("enblend --output=blended.tif warped/00000.tif")));
+    const auto light
+        = stitchCommands(projectOf(kSphere + kBrackets), withOutput(StitchOutput::Hdr), work);
+    QVERIFY(light.value().contains(QStringLiteral(
+        "# panohost joins photos/00000.jpg photos/00001.jpg photos/00002.jpg to light/00000.tif")));
 }
 
 void TestStitchPlan::lackOfRoomIsSaidWithFiguresAndCures_data()
