@@ -137,6 +137,24 @@ bool hasBrackets(const PtoFile &project)
                        [](const PtoImage &image) { return image.stackMaster >= 0; });
 }
 
+/** Says what of a project and of wishes a panorama does not follow. */
+void tellNotFollowed(const PtoFile &project, const StitchOptions &options, const JobWatch &watch)
+{
+    const auto warn = [&](const QString &text) { watch.note(JobWatch::Note::Warning, text); };
+    if (!project.isEquirectangular()) {
+        warn(QStringLiteral("the project asks for another projection; the panorama becomes "
+                            "equirectangular"));
+    }
+    if (project.hasKeepingMasks()) {
+        warn(QStringLiteral("masks that include a region are passed over, only those that exclude "
+                            "one count"));
+    }
+    if (options.centreYawDegrees && project.canvas().horizontalFovDegrees < 360.0) {
+        warn(QStringLiteral("--centre turns full turns only; this part of the sphere stays as it "
+                            "is"));
+    }
+}
+
 /** A project to be stitched, and what the page says of it. */
 struct PlacedProject {
     PtoFile project;
@@ -440,6 +458,7 @@ StitchedPicture MakeRun::stitch(int step, const PtoFile &project, const StitchOp
     m_progress.expect(step, stitchSeconds(megapixelsOf(project), needs.canvas));
     m_progress.expect(step + 1, deliverSeconds(usualCount(m_wishes.kinds), needs.picture));
     const JobWatch watch = begin(step);
+    tellNotFollowed(project, options, watch);
     note(JobWatch::Note::Info, needsText(needs, m_work.path()));
     for (const QString &command : valueOrThrow(m_steps.commands(project, options, m_work.path()))) {
         if (!command.startsWith(QLatin1String("printf "))) { // what it writes stays in a file
@@ -572,6 +591,7 @@ Result<QStringList> commandsOf(const PlacedProject &placed, const PictureWishes 
     if (!needs) {
         return needs.error();
     }
+    tellNotFollowed(placed.project, options, watch);
     watch.note(JobWatch::Note::Info, needsText(needs.value(), work));
     QStringList commands;
     for (const PlainName &name : placed.names) {

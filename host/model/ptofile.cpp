@@ -115,6 +115,7 @@ private:
     void readLine(std::string_view line);
     void readImage(std::string_view line);
     void readPoint(std::string_view line, bool isWrong);
+    void readMask(std::string_view line);
     void readCentre(std::string_view line);
     void readRecord(std::string_view line);
     void readPath(std::string_view name, PtoImage &image);
@@ -202,6 +203,8 @@ void PtoFile::Reader::readLine(std::string_view line)
         (void)valuesOf(line.substr(1), {}); // every mark is closed
         keep(Kind::Panorama);
         m_file.m_panoramaLine = QByteArray(line.data(), int(line.size()));
+    } else if (startsWith(line, "k")) {
+        readMask(line.substr(1));
     } else if (startsWith(line, "o")) {
         refuse(QStringLiteral("o-lines are of programs older than Hugin"));
     } else if (line.substr(0, kOwnComment.size()) != kOwnComment) {
@@ -324,7 +327,7 @@ void PtoFile::Reader::readLens(std::string_view projection, PtoImage &image) con
     const bool isFisheye = f == 2 || f == 3;
     if (f != 0 && !isFisheye) {
         refuse(
-            QStringLiteral("only normal (f0) and fisheye lenses (f2, f3) can be aligned, not f%1")
+            QStringLiteral("only normal (f0) and fisheye lenses (f2, f3) are understood, not f%1")
                 .arg(f),
             QStringLiteral("choose one of them in Hugin"));
     }
@@ -409,6 +412,20 @@ void PtoFile::Reader::readPoint(std::string_view line, bool isWrong)
     point.y2 = number("Y", values[5]);
     point.isWrong = isWrong;
     m_file.m_points.append(point);
+}
+
+void PtoFile::Reader::readMask(std::string_view line)
+{
+    const Values values = valuesOf(line, { "i", "t", "p" });
+    constexpr std::string_view kNumbers = "0123456789+-.eE ";
+    if (values[2].find_first_not_of(kNumbers) != std::string_view::npos) {
+        refuse(QStringLiteral("p is no list of corners: '%1'").arg(textOf(values[2])));
+    }
+    const int type = values[1].data() == nullptr
+        ? Mask::Cut
+        : wholeNumber("t", values[1], Mask::Cut, Mask::CutInLens);
+    m_file.m_masks.push_back({ wholeNumber("i", values[0], 0, kMostImages - 1), type,
+                               QByteArray(values[2].data(), int(values[2].size())) });
 }
 
 void PtoFile::Reader::readCentre(std::string_view line)
@@ -721,6 +738,35 @@ QByteArray PtoFile::loneLine(int image, const QByteArray &name, double yawCentre
     setVariable(line, "j", "0");
     setVariable(line, "n", '"' + name + '"');
     return line.trimmed() + '\n';
+}
+
+QByteArray PtoFile::maskLines(int image) const
+{
+    const auto stackOf = [this](int i) {
+        const int master = m_images.at(i).stackMaster;
+        return master < 0 ? i : master;
+    };
+    const auto lensOf = [this](int i) {
+        const int master = m_images.at(i).lensMaster;
+        return master < 0 ? i : master;
+    };
+    QByteArray lines;
+    for (const Mask &mask : m_masks) {
+        const bool isKnown = mask.image < m_images.size();
+        if ((mask.type == Mask::Cut && mask.image == image)
+            || (mask.type == Mask::CutInStack && isKnown && stackOf(mask.image) == stackOf(image))
+            || (mask.type == Mask::CutInLens && isKnown && lensOf(mask.image) == lensOf(image))) {
+            lines += "k i0 t0 p\"" + mask.corners + "\"\n";
+        }
+    }
+    return lines;
+}
+
+bool PtoFile::hasKeepingMasks() const
+{
+    return std::any_of(m_masks.begin(), m_masks.end(), [](const Mask &mask) {
+        return mask.type == Mask::Keep || mask.type == Mask::KeepInStack;
+    });
 }
 
 void PtoFile::layOutCanvas()

@@ -122,6 +122,13 @@ public:
     [[nodiscard]] QByteArray loneLine(int image, const QByteArray &name,
                                       double yawCentreDegrees) const;
 
+    /** What of \p image is cut out, by masks of its own or those of its stack or lens, for a
+     * project of this image alone; lines that end. Masks that keep something are not among them:
+     * they cut it out of all other images. */
+    [[nodiscard]] QByteArray maskLines(int image) const;
+    /** Whether there are such masks. */
+    [[nodiscard]] bool hasKeepingMasks() const;
+
     /** Gives \p image the angles, unless they are another one's, and the exposure, if there is one.
      */
     void place(int image, const PtoPlacement &placement);
@@ -156,6 +163,13 @@ private:
 
     PtoFile() = default;
     [[nodiscard]] double longestFocalPixels() const;
+    /** A region of an image, as Hugin's editor draws it. */
+    struct Mask {
+        enum Type { Cut = 0, Keep = 1, CutInStack = 2, KeepInStack = 3, CutInLens = 4 };
+        int image = 0;
+        int type = Cut;
+        QByteArray corners;
+    };
     /** The value of a variable of \p image, or of the image that it links to; empty: none. */
     [[nodiscard]] std::string_view ownValue(int image, std::string_view name) const;
     void writeYaw(int image);
@@ -175,6 +189,7 @@ private:
     std::vector<int> m_nextOfLens; ///< the next image with the same field of view; -1: none
     std::vector<int> m_nextOfStack; ///< the next image with the same angles
     QVector<PtoPoint> m_points;
+    std::vector<Mask> m_masks;
     QByteArray m_head;
     double m_yawCentreDegrees = 0.0;
     int m_chosenWidth = 0; ///< of the canvas; 0: it is what the import's rules make

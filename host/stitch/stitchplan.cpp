@@ -82,7 +82,7 @@ StitchWarp warpOf(const StitchPlan &plan, int image, int reference)
     const double exposure
         = layout.exposure + layout.exposureOf(image) - layout.exposureOf(reference);
     warp.projectText = layout.panoramaLine(isLight ? 0.0 : exposure) + "m i0\n"
-        + (isLight ? lightLine(line) : line);
+        + (isLight ? lightLine(line) : line) + layout.project.maskLines(image);
     return warp;
 }
 

@@ -141,6 +141,8 @@ void PtoFileTest::badProjectIsRefused_data()
     QTest::newRow("old program") << project(
         image(),
         "o f0 y0\n") << QStringLiteral("line 3: o-lines are of programs older than Hugin") + again;
+    badImage("mask of no known kind", "k i0 t5 p\"1 2 3 4 5 6\"\n", "t cannot be 5");
+    badImage("mask of no corners", "k i0 t0 p\"1 2 x 4\"\n", "p is no list of corners: '1 2 x 4'");
     badImage("no width", "i h40 v50 n\"a\"\n", "w is missing");
     badImage("no height", "i w40 v50 n\"a\"\n", "h is missing");
     badImage("height of nothing", "i w40 h0 v50 n\"a\"\n", "h cannot be 0");
@@ -180,8 +182,8 @@ void PtoFileTest::badProjectIsRefused_data()
         << "line 3: shares the lens of image 0, of another size or kind; give it a lens of its own "
            "in Hugin";
     QTest::newRow("cylinder") << project("i w40 h60 f1 v90 n\"a\"\n")
-                              << "line 2: only normal (f0) and fisheye lenses (f2, f3) can be "
-                                 "aligned, not f1; choose one of them in Hugin";
+                              << "line 2: only normal (f0) and fisheye lenses (f2, f3) are "
+                                 "understood, not f1; choose one of them in Hugin";
     for (const QByteArray &name : { QByteArray("a\0b", 3), QByteArray("a\x1b[31m") }) {
         QTest::addRow("name with the control character %d", int(name[1]))
             << project(image({}, name))

@@ -222,10 +222,13 @@ void TestCliMake::dryRunsSayAndPrintOnly()
     QVERIFY(!QFile::exists(m_bench.path(QStringLiteral("dry.jpg"))));
     QVERIFY(!QFile::exists(m_bench.path(QStringLiteral("dry.work"))));
     QVERIFY(!m_bench.wholePicture().isEmpty());
-    const auto stitch = m_bench.run(
-        { QStringLiteral("stitch"), QStringLiteral("whole/pano.work/2_aligned.pto"),
-          QStringLiteral("-o"), QStringLiteral("dry.tif"), QStringLiteral("--dry-run") });
+    const auto stitch
+        = m_bench.run({ QStringLiteral("stitch"), QStringLiteral("whole/pano.work/2_aligned.pto"),
+                        QStringLiteral("-o"), QStringLiteral("dry.tif"), QStringLiteral("--centre"),
+                        QStringLiteral("20"), QStringLiteral("--dry-run") });
     QVERIFY2(stitch.exitCode == 0, qPrintable(stitch.err));
+    QVERIFY2(stitch.err.contains(QStringLiteral("--centre turns full turns only")),
+             qPrintable(stitch.err));
     QVERIFY(stitch.out.contains(QStringLiteral("nona ")));
     QVERIFY(!QFile::exists(m_bench.path(QStringLiteral("dry.work"))));
     QVERIFY(!QFile::exists(m_bench.path(QStringLiteral("dry.commands"))));

@@ -79,6 +79,7 @@ private Q_SLOTS:
     void lightOfSeveralDirectionsIsJoinedOnTheCanvas();
     void photosGetPlainNames();
     void linesStandAlone();
+    void masksCutOutWhatTheyCover();
     void commandsSayWhatIsMade();
     void lackOfRoomIsSaidWithFiguresAndCures_data();
     void lackOfRoomIsSaidWithFiguresAndCures();
@@ -277,6 +278,33 @@ void TestStitchPlan::linesStandAlone()
     QCOMPARE(valueIn(project, "a"), 0.01);
     QCOMPARE(valueIn(project, "y"), 40.0);
     QCOMPARE(project.count("\ni "), 1);
+}
+
+void TestStitchPlan::masksCutOutWhatTheyCover()
+{
+    const QByteArray images = image("y0 j0", "a.jpg")
+        + image("y40 j1", "b.jpg").replace("v50", "v=0") + image("y80 j2", "c.jpg");
+    const auto linesOf = [&](const QByteArray &masks) {
+        const auto plan = planStitch(projectOf(kSphere + images + masks), {});
+        QList<QByteArray> lines;
+        for (const StitchWarp &warp : plan.value().warps) {
+            const int begin = warp.projectText.indexOf("\nk ");
+            lines += begin < 0 ? QByteArray() : warp.projectText.mid(begin + 1);
+        }
+        return lines;
+    };
+    const QByteArray cut = "k i0 t0 p\"1 2 30.5 4 5 6\"\n";
+    using Lines = QList<QByteArray>;
+    QCOMPARE(linesOf({}), (Lines{ {}, {}, {} }));
+    QCOMPARE(linesOf("k i1 t0 p\"1 2 30.5 4 5 6\"\n"), (Lines{ {}, cut, {} }));
+    QCOMPARE(linesOf("k i1 t2 p\"1 2 30.5 4 5 6\"\n"), (Lines{ {}, cut, {} })); // of its stack
+    QCOMPARE(linesOf("k i1 t4 p\"1 2 30.5 4 5 6\"\n"), (Lines{ cut, cut, {} })); // of its lens
+    // Those that keep something would cut it out of all others.
+    QCOMPARE(linesOf("k i1 t1 p\"1 2 30.5 4 5 6\"\n"), (Lines{ {}, {}, {} }));
+    QVERIFY(projectOf(kSphere + images + "k i1 t3 p\"1 2\"\n").hasKeepingMasks());
+    QVERIFY(!projectOf(kSphere + images + cut).hasKeepingMasks());
+    // Of no image.
+    QCOMPARE(linesOf("k i7 t4 p\"1 2 30.5 4 5 6\"\n"), (Lines{ {}, {}, {} }));
 }
 
 void TestStitchPlan::commandsSayWhatIsMade()
