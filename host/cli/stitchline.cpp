@@ -8,6 +8,7 @@
 #include "host/model/wordsuggestion.h"
 
 #include <QFileInfo>
+#include <QUrl>
 
 namespace PanoHost
 {
@@ -112,6 +113,13 @@ void refuseContradictions(const PictureWishes &wishes)
     if (!isIiif && !wishes.iiifAddress.isEmpty()) {
         throw usageError(QStringLiteral("--iiif-address is for --deliver iiif"),
                          QStringLiteral("add iiif to --deliver, or drop the address"));
+    }
+    const QUrl address(wishes.iiifAddress, QUrl::StrictMode);
+    if (isIiif
+        && (!address.scheme().startsWith(QLatin1String("http")) || address.host().isEmpty())) {
+        throw usageError(QStringLiteral("--iiif-address %1: not the address of a server")
+                             .arg(wishes.iiifAddress),
+                         QStringLiteral("give one like https://example.org/panoramas"));
     }
     if (wishes.kinds.contains(Delivery::Radiance) && wishes.output
         && *wishes.output != StitchOutput::Hdr) {

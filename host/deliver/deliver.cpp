@@ -4,6 +4,7 @@
 
 #include "host/deliver/cube.h"
 #include "host/deliver/finalplace.h"
+#include "host/deliver/flatfile.h"
 #include "host/deliver/flatpicture.h"
 #include "host/deliver/outputname.h"
 #include "host/deliver/radiancepicture.h"
@@ -62,6 +63,20 @@ Result<QString> checkPlaces(const DeliverJob &job)
         }
     }
     return job.output;
+}
+
+Result<QString> checkSize(const QVector<Delivery> &kinds, const QString &output, const QSize &size)
+{
+    if (!kinds.contains(Delivery::Picture)) {
+        return output;
+    }
+    Result<QString> checked = checkFlatSize(output, size);
+    if (checked) {
+        return checked;
+    }
+    Failure failure = checked.error();
+    failure.code = ExitCode::InputRefused; // nothing has been done yet
+    return failure;
 }
 
 Result<QStringList> deliver(const DeliverJob &job, const JobWatch &watch)

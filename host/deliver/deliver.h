@@ -39,6 +39,10 @@ struct DeliverJob {
 /** Whether all results can go where they belong: to be asked before hours are spent. Of \p job only
  * kinds and names are needed. */
 [[nodiscard]] Result<QString> checkPlaces(const DeliverJob &job);
+/** Refuses a picture of \p size at \p output that is larger than a JPEG can be. Answers \p output.
+ */
+[[nodiscard]] Result<QString> checkSize(const QVector<Delivery> &kinds, const QString &output,
+                                        const QSize &size);
 
 /** Makes them one after the other. Answers the final paths, in the order of the kinds: what to open
  * of each (a folder's page). What is finished stays when a later one fails. */

@@ -455,6 +455,7 @@ PlacedProject MakeRun::place(const MakeRequest &request)
 StitchedPicture MakeRun::stitch(int step, const PtoFile &project, const StitchOptions &options)
 {
     const StitchNeeds needs = valueOrThrow(m_steps.needs(project, options));
+    (void)valueOrThrow(checkSize(kindsOf(m_wishes, options.output), m_wishes.path, needs.picture));
     m_progress.expect(step, stitchSeconds(megapixelsOf(project), needs.canvas));
     m_progress.expect(step + 1, deliverSeconds(usualCount(m_wishes.kinds), needs.picture));
     const JobWatch watch = begin(step);
@@ -591,6 +592,8 @@ Result<QStringList> commandsOf(const PlacedProject &placed, const PictureWishes 
     if (!needs) {
         return needs.error();
     }
+    (void)valueOrThrow(
+        checkSize(kindsOf(wishes, options.output), wishes.path, needs.value().picture));
     tellNotFollowed(placed.project, options, watch);
     watch.note(JobWatch::Note::Info, needsText(needs.value(), work));
     QStringList commands;

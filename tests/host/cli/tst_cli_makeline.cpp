@@ -132,6 +132,8 @@ void TestCliMakeLine::mistakesAreNamed_data()
     mistake("--deliver picture,htm", "'htm' is none of picture, html, zoom, radiance, cube, iiif");
     mistake("--deliver picture,htm", "did you mean 'html'?");
     mistake("--deliver iiif", "--deliver iiif needs the address");
+    mistake("--deliver iiif --iiif-address example.org",
+            "example.org: not the address of a server");
     mistake("--iiif-address http://a", "--iiif-address is for --deliver iiif");
     mistake("--deliver radiance --output ldr", "--deliver radiance is the light itself");
     mistake("--linear --output fused", "--linear says how brackets become light");

@@ -158,6 +158,7 @@ private Q_SLOTS:
     void rawFilesNeedAConverter();
     void progressIsOneOfAllSteps();
     void folderOfSomethingElseIsRefused();
+    void whatCannotBeDeliveredIsSaidFirst();
     void folderInUseIsRefused();
     void inputsAreNeverOverwritten();
     void stitchCleansUp_data();
@@ -457,6 +458,30 @@ void TestMakeJob::folderOfSomethingElseIsRefused()
     QVERIFY(answer.error().text().contains(QStringLiteral("holds something else")));
     QCOMPARE(QDir(work()).entryList(QDir::Files), QStringList(QStringLiteral("diary.txt")));
     QCOMPARE(calls(), QString());
+}
+
+void TestMakeJob::whatCannotBeDeliveredIsSaidFirst()
+{
+    const QString zoom = file(QStringLiteral("pano_zoom"));
+    QVERIFY(QDir().mkpath(zoom));
+    TestPhotos::writeFile(zoom + QStringLiteral("/mine.txt"), "mine");
+    m_request.picture.kinds = { Delivery::Picture, Delivery::Zoom };
+    const auto refused = make();
+    QVERIFY(!refused.ok());
+    QCOMPARE(refused.error().code, ExitCode::InputRefused);
+    QCOMPARE(refused.error().why, QStringLiteral("is a folder that panohost has not made"));
+    QCOMPARE(calls(), QString());
+
+    // How large the panorama becomes is known after the alignment.
+    m_request.picture.kinds = {};
+    MakeSteps steps = m_fake.steps();
+    steps.needs = [](const PtoFile &, const StitchOptions &) {
+        return StitchNeeds{ { 70'000, 35'000 }, { 70'000, 35'000 }, 1, 1 };
+    };
+    const auto large = makePanorama(m_request, steps, {});
+    QVERIFY(!large.ok());
+    QCOMPARE(large.error().code, ExitCode::InputRefused);
+    QCOMPARE(calls(), QStringLiteral("import align"));
 }
 
 void TestMakeJob::folderInUseIsRefused()
