@@ -18,6 +18,7 @@
 #include "host/model/ptoproject.h"
 #include "host/model/safefile.h"
 #include "host/plugin/pluginlibrary.h"
+#include "host/stitch/stitchneeds.h"
 #include "host/stitch/toolrun.h"
 
 #include <QDir>
@@ -26,7 +27,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QLocale>
 #include <QStorageInfo>
 
 #include <algorithm>
@@ -84,11 +84,6 @@ double megapixelsOf(const PtoFile &project)
         sum += megapixels(image.size);
     }
     return sum;
-}
-
-QString bytesText(qint64 bytes)
-{
-    return QLocale::c().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat);
 }
 
 /** What is there of \p path: it, or the next folder above it that exists. */
@@ -673,7 +668,9 @@ MakeSteps makeSteps(PanoHostApplication &app)
                      const AlignOptions &options, const JobWatch &watch) {
         return align(panorama, projectOptions, options, watch);
     };
-    steps.needs = &needsOf;
+    steps.needs = [](const PtoFile &project, const StitchOptions &options) {
+        return needsOf(project, options);
+    };
     steps.commands = &stitchCommands;
     steps.stitch = &stitchProject;
     steps.origin = [](const PtoFile &project, const StitchedPicture &picture) {
