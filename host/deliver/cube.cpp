@@ -5,6 +5,7 @@
 #include "host/deliver/cubeface.h"
 #include "host/deliver/finalplace.h"
 #include "host/deliver/flatfile.h"
+#include "host/deliver/outputname.h"
 #include "host/deliver/partfolder.h"
 #include "host/deliver/radiancefile.h"
 #include "host/deliver/stitchedfile.h"
@@ -104,8 +105,7 @@ Result<QString> makeExrFace(const CubeJob &cube, const CubeFace &face, const QSt
 Result<QString> deliverCube(const DeliverJob &job, const JobWatch &watch)
 {
     const QFileInfo output(job.output);
-    const QString wanted
-        = output.dir().filePath(output.completeBaseName() + QStringLiteral("_cube"));
+    const QString wanted = outputName(job.output, QStringLiteral("_cube"));
     const bool isRadiance = job.picture.depth == StitchedPicture::Depth::Radiance;
     const QString suffix = isRadiance ? QStringLiteral("exr") : output.suffix().toLower();
     const int side = cubeFaceSide(job.picture.sphere.width());

@@ -3,12 +3,10 @@
 #include "host/deliver/radiancepicture.h"
 
 #include "host/deliver/finalplace.h"
+#include "host/deliver/outputname.h"
 #include "host/deliver/partfolder.h"
 #include "host/deliver/radiancefile.h"
 #include "host/deliver/stitchedfile.h"
-
-#include <QDir>
-#include <QFileInfo>
 
 #include <algorithm>
 
@@ -17,9 +15,7 @@ namespace PanoHost
 
 Result<QString> deliverRadiance(const DeliverJob &job, const JobWatch &watch)
 {
-    const QFileInfo output(job.output);
-    const QString wanted
-        = output.dir().filePath(output.completeBaseName() + QLatin1Char('.') + job.radianceSuffix);
+    const QString wanted = outputName(job.output, QLatin1Char('.') + job.radianceSuffix);
     if (job.picture.depth != StitchedPicture::Depth::Radiance) {
         return Failure{ ExitCode::InputRefused, wanted,
                         QStringLiteral("this panorama's values are not light"),

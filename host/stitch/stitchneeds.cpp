@@ -24,7 +24,7 @@ qint64 pixelsOf(const QSize &size)
  * they read or write. */
 constexpr qint64 kWarpCopies = 2; ///< of photo and result: nona
 constexpr qint64 kSeamBytes = 5; ///< a pixel, beside the picture itself: verdandi, 8.4 in all
-constexpr qint64 kPyramidCopies = 4; ///< enblend, 10 bytes a pixel where little overlaps
+constexpr qint64 kPyramidCopies = 6; ///< enblend, 10 to 24 bytes a pixel, as photos overlap
 constexpr qint64 kFusionCopies = 10; ///< enfuse, 37 bytes a pixel
 constexpr qint64 kProgramBytes = 60LL << 20;
 
