@@ -76,6 +76,7 @@ private:
         return m_tools.value(blenderName(m_plan.options.blender));
     }
     void checkPhotos() const;
+    void checkDepths() const;
     void linkPhotos();
     void checkRoom() const;
     void inParallel(int steps, const QString &text, const std::function<void(int)> &step);
@@ -138,6 +139,31 @@ void Run::checkPhotos() const
                       .arg(gone.size() - kNamed)
                 : QStringLiteral("not there any more"),
             QStringLiteral("put the photos back where they were, or import them again"));
+    }
+    if (m_plan.depth != StitchedPicture::Depth::Radiance) {
+        checkDepths();
+    }
+}
+
+/** Blenders take photos of one depth only, and say so when all are warped. */
+void Run::checkDepths() const
+{
+    QString first;
+    for (int image = 0; image < m_plan.photos.size(); ++image) {
+        const QString &path = m_plan.layout.project.images()[image].path;
+        if (m_plan.photos.at(image).isEmpty()) {
+            continue;
+        }
+        if (first.isEmpty()) {
+            first = path;
+        } else if (bitsOf(path) != bitsOf(first)) {
+            throw inputRefused(QStringLiteral("photos"),
+                               QStringLiteral("%1 has %2 bits a colour, %3 has %4, and all must be "
+                                              "alike to be blended")
+                                   .arg(displayName(first), QString::number(bitsOf(first)),
+                                        displayName(path), QString::number(bitsOf(path))),
+                               QStringLiteral("convert or develop them alike"));
+        }
     }
 }
 

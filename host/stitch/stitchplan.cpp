@@ -103,9 +103,8 @@ StitchedPicture::Depth depthOf(const PtoFile &project, const StitchOptions &opti
     if (options.output == StitchOutput::Hdr) {
         return StitchedPicture::Depth::Radiance;
     }
-    const QString photo = project.images().first().path;
-    return tiffBits(photo).value_or(pngBits(photo)) >= kDeep ? StitchedPicture::Depth::Bits16
-                                                             : StitchedPicture::Depth::Bits8;
+    return bitsOf(project.images().first().path) >= kDeep ? StitchedPicture::Depth::Bits16
+                                                          : StitchedPicture::Depth::Bits8;
 }
 
 /** The exposures of whole brackets, stops from the reference. */
@@ -248,6 +247,12 @@ Result<StitchPlan> planStitch(const PtoFile &project, const StitchOptions &optio
     addLayers(plan);
     plan.lightScale = lightScaleOf(plan);
     return plan;
+}
+
+int bitsOf(const QString &photo)
+{
+    constexpr int kUsual = 8;
+    return std::max(tiffBits(photo).value_or(pngBits(photo)), kUsual);
 }
 
 QStringList warpArguments(const StitchWarp &warp, const QString &stem)

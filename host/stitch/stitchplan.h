@@ -67,6 +67,9 @@ struct StitchPlan {
 /** Refuses what `layOut` refuses. Opens the first photo to see how deep its colours are. */
 [[nodiscard]] Result<StitchPlan> planStitch(const PtoFile &project, const StitchOptions &options);
 
+/** Bits of each colour in a photo, by the head of its file; 8 where that does not say. */
+[[nodiscard]] int bitsOf(const QString &photo);
+
 /** What the tools are told; names as they are, relative to the work folder. */
 [[nodiscard]] QStringList warpArguments(const StitchWarp &warp, const QString &stem);
 [[nodiscard]] QStringList blendArguments(const StitchPlan &plan, const StitchLayer &layer,

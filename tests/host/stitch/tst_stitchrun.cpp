@@ -19,7 +19,7 @@ namespace
 {
 
 /** A grey TIFF of 4 x 4 pixels, at (2, 1) of its canvas. */
-bool writeTiff(const QString &path)
+bool writeTiff(const QString &path, int bits = 8)
 {
     TIFF *const file = TIFFOpen(QFile::encodeName(path).constData(), "w");
     if (file == nullptr) {
@@ -27,7 +27,7 @@ bool writeTiff(const QString &path)
     }
     TIFFSetField(file, TIFFTAG_IMAGEWIDTH, 4);
     TIFFSetField(file, TIFFTAG_IMAGELENGTH, 4);
-    TIFFSetField(file, TIFFTAG_BITSPERSAMPLE, 8);
+    TIFFSetField(file, TIFFTAG_BITSPERSAMPLE, bits);
     TIFFSetField(file, TIFFTAG_SAMPLESPERPIXEL, 1);
     TIFFSetField(file, TIFFTAG_PHOTOMETRIC, PHOTOMETRIC_MINISBLACK);
     TIFFSetField(file, TIFFTAG_ROWSPERSTRIP, 4);
@@ -35,7 +35,7 @@ bool writeTiff(const QString &path)
     TIFFSetField(file, TIFFTAG_YRESOLUTION, 150.0);
     TIFFSetField(file, TIFFTAG_XPOSITION, 2.0 / 150.0);
     TIFFSetField(file, TIFFTAG_YPOSITION, 1.0 / 150.0);
-    QByteArray row(4, 'x');
+    QByteArray row(4 * bits / 8, 'x');
     for (uint32_t y = 0; y < 4; ++y) {
         TIFFWriteScanline(file, row.data(), y, 0);
     }
@@ -71,6 +71,7 @@ private Q_SLOTS:
     void temporaryFilesOfToolsGoIntoTheWorkFolder();
     void stoppedStitchGoesOn();
     void photosThatAreGoneAreNamed();
+    void photosOfDifferentDepthsAreRefusedFirst();
     void greyPhotosBecomeColoured_data();
     void greyPhotosBecomeColoured();
 
@@ -377,6 +378,21 @@ void TestStitchRun::photosThatAreGoneAreNamed()
              QStringLiteral("c.jpg: not there any more; put the photos back where they were, or "
                             "import them again"));
     QVERIFY(!QFile::exists(path("out.work/photos")));
+}
+
+void TestStitchRun::photosOfDifferentDepthsAreRefusedFirst()
+{
+    QVERIFY(writeTiff(path("c.jpg"), 16));
+    QDir::setCurrent(m_folder->path());
+    const auto result = stitched({});
+    QDir::setCurrent(QDir::rootPath());
+    QVERIFY(!result);
+    QCOMPARE(result.error().code, ExitCode::InputRefused);
+    QCOMPARE(
+        result.error().why,
+        QStringLiteral("it's a.jpg has 8 bits a colour, c.jpg has 16, and all must be alike to "
+                       "be blended"));
+    QVERIFY(calls().isEmpty());
 }
 
 void TestStitchRun::greyPhotosBecomeColoured_data()
