@@ -254,7 +254,7 @@ void TestCliMakeBad::toolFails_data()
         "nona, of photos/demo_000[1-6].jpg: it was killed, perhaps because memory ran out; close "
         "other programs and try again");
     row("nona: half", jpg, "picture", "nona", "",
-        "\"$real\" \"$@\"; for f in warped/part-*0000.tif; do truncate -s 90000 $f; done; exit 0",
+        "\"$real\" \"$@\"; for f in warped/part-*0000.tif; do truncate -cs 90000 $f; done; exit 0",
         "warped/0000[0-5].tif: was not written to its end"
         "; is there enough room in bad/pano.work\\?");
     row("verdandi: full disk", jpg, "picture", "verdandi", "", full,
