@@ -19,6 +19,7 @@
 #include <QStorageInfo>
 
 #include <atomic>
+#include <thread>
 #include <utility>
 
 namespace PanoHost
@@ -106,6 +107,7 @@ private:
     const JobWatch &m_watch;
     QMap<QString, Tool> m_tools;
     std::atomic<bool> m_stops = false;
+    const std::thread::id m_thread = std::this_thread::get_id(); ///< the job's own
 };
 
 void Run::findTools()
@@ -235,7 +237,10 @@ void Run::inParallel(int steps, const QString &text, const std::function<void(in
 void Run::call(const Tool &tool, const QStringList &arguments) const
 {
     JobWatch watch;
-    watch.interrupted = [this] { return m_stops.load(); };
+    // The user's wish is asked for by the job's own thread, which tells the others.
+    watch.interrupted = [this] {
+        return m_stops || (std::this_thread::get_id() == m_thread && m_watch.stopWanted());
+    };
     watch.patience = m_watch.patience;
     (void)valueOrThrow(runTool(tool.path, arguments, m_work.path(), watch));
 }
