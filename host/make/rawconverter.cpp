@@ -100,7 +100,7 @@ QStringList withBalance(const QString &dcraw, const QStringList &arguments, cons
     const ToolEnd said = valueOrThrow(runToEnd(
         dcraw, { QStringLiteral("-i"), QStringLiteral("-v"), first }, work.path(), watch, {}));
     static const QRegularExpression kFour(
-        QLatin1String("^Camera multipliers: ([\\d.]+) ([\\d.]+) ([\\d.]+) ([\\d.]+)$"),
+        QLatin1String(R"(^Camera multipliers: ([\d.]+) ([\d.]+) ([\d.]+) ([\d.]+)$)"),
         QRegularExpression::MultilineOption);
     const QRegularExpressionMatch found = kFour.match(said.said);
     QStringList balanced;
