@@ -106,6 +106,16 @@ QString needsText(const StitchNeeds &needs, const QString &work)
              bytesText(needs.memoryBytes));
 }
 
+/** How far the light of the panorama can be trusted. */
+QString lightText(bool isLinear)
+{
+    return isLinear ? QStringLiteral("the light is exact to a fraction of a percent, but where "
+                                     "every exposure clips it or shows noise")
+                    : QStringLiteral("the light is good for looking at, not for measuring: the "
+                                     "photos' curve is taken for sRGB's; RAW files, or TIFFs "
+                                     "without a curve and --linear, make it exact");
+}
+
 /** Refuses a folder of that name that somebody keeps other things in. */
 void requireOwnFolder(const QString &path)
 {
@@ -456,6 +466,9 @@ StitchedPicture MakeRun::stitch(int step, const PtoFile &project, const StitchOp
     const JobWatch watch = begin(step);
     tellNotFollowed(project, options, watch);
     note(JobWatch::Note::Info, needsText(needs, m_work.path()));
+    if (options.output == StitchOutput::Hdr) {
+        note(JobWatch::Note::Info, lightText(options.isLinear));
+    }
     for (const QString &command : valueOrThrow(m_steps.commands(project, options, m_work.path()))) {
         if (!command.startsWith(QLatin1String("printf "))) { // what it writes stays in a file
             m_log.add(QStringLiteral("$ ") + command);

@@ -397,8 +397,18 @@ void TestMakeJob::lightIsDeliveredAsLightToo()
 {
     m_fake.panorama = TestPanoramas::row(4, 3);
     m_fake.panorama.description.renderMode = 3;
-    QVERIFY(make().ok());
+    Said said;
+    QVERIFY(make(&said).ok());
     QCOMPARE(calls(), QStringLiteral("import align stitch picture html radiance"));
+    // How far it can be trusted is said.
+    const QString curve = QStringLiteral("the light is good for looking at, not for measuring");
+    QCOMPARE(said.infos.filter(curve).size(), 1);
+
+    m_request.picture.stitch.isLinear = true;
+    Said ofLinear;
+    QVERIFY(make(&ofLinear).ok());
+    QCOMPARE(ofLinear.infos.filter(curve).size(), 0);
+    QCOMPARE(ofLinear.infos.filter(QStringLiteral("the light is exact")).size(), 1);
 }
 
 void TestMakeJob::rawFilesAreDevelopedFirst()
