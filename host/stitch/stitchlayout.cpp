@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace PanoHost
 {
@@ -77,10 +78,12 @@ QVector<QVector<int>> stacksOf(const PtoFile &project, StitchOutput output)
     return stacks;
 }
 
-Failure refusedSize(const QSize &size)
+Failure refusedSize(const QSizeF &size)
 {
     return { ExitCode::InputRefused, QStringLiteral("size of the panorama"),
-             QStringLiteral("%1 x %2 pixels cannot be made").arg(size.width()).arg(size.height()),
+             QStringLiteral("%1 x %2 pixels cannot be made")
+                 .arg(size.width(), 0, 'f', 0)
+                 .arg(size.height(), 0, 'f', 0),
              QStringLiteral("choose another --size") };
 }
 
@@ -145,10 +148,14 @@ Result<StitchLayout> layOut(const PtoFile &project, const StitchOptions &options
     layout.horizontalFovDegrees = std::min(full.horizontalFovDegrees, 360.0);
     const double wanted = full.size.width() * scaleOf(options.size, full.size.width()) / 2.0;
     if (!(wanted >= 1.0 && wanted <= kLongestSide / 2.0)) {
-        return refusedSize(full.size * scaleOf(options.size, full.size.width()));
+        return refusedSize(QSizeF(full.size) * scaleOf(options.size, full.size.width()));
     }
     const int width = 2 * static_cast<int>(std::lround(wanted));
-    layout.canvas = QSize(width, qRound(180.0 * width / layout.horizontalFovDegrees));
+    const double height = 180.0 * width / layout.horizontalFovDegrees;
+    if (!(height <= std::numeric_limits<int>::max() / 2)) {
+        return refusedSize({ static_cast<double>(width), height });
+    }
+    layout.canvas = QSize(width, qRound(height));
     layout.yawCentreDegrees
         = layout.isFullTurn() ? options.centreYawDegrees.value_or(0.0) : full.yawCentreDegrees;
     layout.area = QRect(QPoint(0, 0), layout.canvas);

@@ -62,10 +62,11 @@ Result<VipsFile> VipsFile::open(const QString &path)
         return unfit(path, QStringLiteral("is no picture of 8, 16 or floating bits"));
     }
     file.m_rowBytes = static_cast<qint64>(file.m_size.width()) * file.m_bands * sampleBytes;
-    const qint64 bytes = file.m_rowBytes * file.m_size.height();
-    if (file.m_file->size() < kHeaderBytes + bytes) {
+    // Rows that are there; a header may promise more bytes than a number holds.
+    if ((file.m_file->size() - kHeaderBytes) / file.m_rowBytes < file.m_size.height()) {
         return unfit(path, QStringLiteral("is cut off"));
     }
+    const qint64 bytes = file.m_rowBytes * file.m_size.height();
     const uchar *const mapped = file.m_file->map(0, kHeaderBytes + bytes);
     if (mapped == nullptr) {
         return unfit(path, QStringLiteral("cannot be mapped into memory"));

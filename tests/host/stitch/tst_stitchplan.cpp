@@ -72,6 +72,7 @@ private Q_SLOTS:
     void centreTurnsFullTurnsOnly();
     void sizesThatAreNoneAreRefused_data();
     void sizesThatAreNoneAreRefused();
+    void spheresTooHighForAnyPictureAreRefused();
     void referencesAloneMakeThePlainPanorama();
     void levelsKeepTheirDistanceWhenTheyAreFused();
     void brokenBracketsJoinTheLayersOfTheirExposures();
@@ -166,6 +167,14 @@ void TestStitchPlan::sizesThatAreNoneAreRefused()
     StitchOptions options;
     options.size = { StitchSize::Unit(unit), value };
     const auto layout = layOut(projectOf(kSphere + image("y0 j0", "a.jpg")), options);
+    QVERIFY(!layout);
+    QCOMPARE(layout.error().tryThis, QStringLiteral("choose another --size"));
+}
+
+void TestStitchPlan::spheresTooHighForAnyPictureAreRefused()
+{
+    const QByteArray sliver = "p f2 w4000 h3 v0.0001 n\"TIFF_m\"\n";
+    const auto layout = layOut(projectOf(sliver + image("y0 j0", "a.jpg")), {});
     QVERIFY(!layout);
     QCOMPARE(layout.error().tryThis, QStringLiteral("choose another --size"));
 }
