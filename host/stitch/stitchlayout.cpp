@@ -152,7 +152,7 @@ Result<StitchLayout> layOut(const PtoFile &project, const StitchOptions &options
     }
     const int width = 2 * static_cast<int>(std::lround(wanted));
     const double height = 180.0 * width / layout.horizontalFovDegrees;
-    if (!(height <= std::numeric_limits<int>::max() / 2)) {
+    if (!(2.0 * height <= std::numeric_limits<int>::max())) {
         return refusedSize({ static_cast<double>(width), height });
     }
     layout.canvas = QSize(width, qRound(height));
