@@ -8,6 +8,7 @@
 #include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QtTest>
 
 #include <algorithm>
@@ -33,7 +34,8 @@ constexpr int kSlowness = 1;
 
 constexpr int kPhotos = 12;
 
-/** What a page may take for one file. */
+/** What a page may take for one file; seconds of a processor that needs `kUsualPlainSeconds` for
+ * `plainWork`. */
 struct Limits {
     double cpuSeconds;
     int megabytes;
@@ -78,6 +80,26 @@ Outcome runApart(const std::function<void()> &work)
     outcome.cpuSeconds = seconds(usage.ru_utime) + seconds(usage.ru_stime);
     outcome.megabytes = usage.ru_maxrss / 1024;
     return outcome;
+}
+
+/** Work like that of a page with much to show, written down plainly. */
+void plainWork()
+{
+    QImage image(2000, 1000, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    constexpr int kNumbers = 100000;
+    for (int i = 0; i < kNumbers; ++i) {
+        painter.drawText(i * 37 % image.width(), i * 17 % image.height(), QString::number(i));
+    }
+}
+constexpr double kUsualPlainSeconds = 0.5;
+
+/** How much slower than usual processor time goes by now: machines differ, and neighbours on the
+ * same processor slow each other down. */
+double slownessNow()
+{
+    return std::max(1.0, runApart(&plainWork).cpuSeconds / kUsualPlainSeconds);
 }
 
 /** Shows the tool tip of the record's path, as a resting mouse does. */
@@ -130,7 +152,7 @@ private Q_SLOTS:
     void cleanupTestCase();
 
 private:
-    void judge(const Outcome &outcome, const Limits &limits);
+    void judge(const std::function<void()> &work, const Limits &limits);
 
     ShootFolder m_folder;
     QStringList m_photos;
@@ -145,8 +167,15 @@ void TestHostile::initTestCase()
     useRecord(*headsWithRecords().front(), m_photos, {});
 }
 
-void TestHostile::judge(const Outcome &outcome, const Limits &limits)
+void TestHostile::judge(const std::function<void()> &work, const Limits &limits)
 {
+    Outcome outcome = runApart(work);
+    double allowed = limits.cpuSeconds * kSlowness;
+    if (outcome.cpuSeconds > allowed) { // is it the machine?
+        const double slowness = slownessNow();
+        outcome = runApart(work);
+        allowed *= std::max(slowness, slownessNow());
+    }
     ++m_judged;
     m_worst.cpuSeconds = std::max(m_worst.cpuSeconds, outcome.cpuSeconds);
     m_worst.megabytes = std::max(m_worst.megabytes, outcome.megabytes);
@@ -157,8 +186,8 @@ void TestHostile::judge(const Outcome &outcome, const Limits &limits)
     QVERIFY2(!WIFSIGNALED(outcome.status),
              qPrintable(QStringLiteral("Ended by signal %1").arg(WTERMSIG(outcome.status))));
     QCOMPARE(WEXITSTATUS(outcome.status), 0);
-    QVERIFY2(outcome.cpuSeconds <= limits.cpuSeconds * kSlowness,
-             qPrintable(QStringLiteral("Took %1 s").arg(outcome.cpuSeconds)));
+    QVERIFY2(outcome.cpuSeconds <= allowed,
+             qPrintable(QStringLiteral("Took %1 of %2 s").arg(outcome.cpuSeconds).arg(allowed)));
     QVERIFY2(outcome.megabytes <= limits.megabytes * kSlowness,
              qPrintable(QStringLiteral("Took %1 MB").arg(outcome.megabytes)));
 }
@@ -179,6 +208,9 @@ void TestHostile::aMeasuredProcessIsJudged()
         while (clock() < CLOCKS_PER_SEC) { }
     });
     QVERIFY(slow.cpuSeconds >= 0.9);
+    const double plain = runApart(&plainWork).cpuSeconds;
+    qInfo("plain work took %.2f s", plain);
+    QVERIFY(plain > 0.0);
 }
 
 void TestHostile::recordsAreSurvived_data()
@@ -202,7 +234,7 @@ void TestHostile::recordsAreSurvived()
     QFETCH(const Head *, head);
     QFETCH(const HostileFile, file);
     const QString path = m_folder.write(QString::fromLatin1(head->recordName), file.content());
-    judge(runApart([&] { useRecord(*head, m_photos, path); }), kFileLimits);
+    judge([&] { useRecord(*head, m_photos, path); }, kFileLimits);
 }
 
 void TestHostile::specialFilesAreRefused_data()
@@ -297,7 +329,7 @@ void TestHostile::specialFilesAreRefused()
             _exit(5);
         }
     };
-    judge(runApart(refused), kSpecialLimits);
+    judge(refused, kSpecialLimits);
 }
 
 void TestHostile::cleanupTestCase()
