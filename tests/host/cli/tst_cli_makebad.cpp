@@ -44,6 +44,25 @@ QMap<QString, QByteArray> treeOf(const QString &folder)
     return tree;
 }
 
+/** The files that are not in both folders alike, with their sizes. */
+QString differencesOf(const QString &made, const QString &whole)
+{
+    const QMap<QString, QByteArray> left = treeOf(made);
+    const QMap<QString, QByteArray> right = treeOf(whole);
+    QStringList names = left.keys() + right.keys();
+    names.removeDuplicates();
+    QString text;
+    for (const QString &name : qAsConst(names)) {
+        if (left.value(name) != right.value(name)) {
+            text += QStringLiteral("%1: %2 bytes, %3 in an undisturbed run\n")
+                        .arg(name)
+                        .arg(QFileInfo(QDir(made).filePath(name)).size())
+                        .arg(QFileInfo(QDir(whole).filePath(name)).size());
+        }
+    }
+    return text;
+}
+
 QStringList optionsFor(const QString &kind)
 {
     QStringList options{ QStringLiteral("--deliver"), kind, QStringLiteral("--progress"),
@@ -411,10 +430,11 @@ QString TestCliMakeBad::problemOf(const FullDiskRow &row, const QString &number)
     const QString whole
         = nameFor(QStringLiteral("whole/") + QFileInfo(row.output).fileName(), row.kind);
     const QString cured = QStringLiteral("made") + number;
-    const bool isSame = QFileInfo(path(cured)).isDir()
-        ? treeOf(path(cured)) == treeOf(path(whole))
-        : m_bench.content(cured) == m_bench.content(whole);
-    return isSame ? QString() : kept("cured");
+    if (QFileInfo(path(cured)).isDir()) {
+        const QString differences = differencesOf(path(cured), path(whole));
+        return differences.isEmpty() ? QString() : differences + kept("cured");
+    }
+    return m_bench.content(cured) == m_bench.content(whole) ? QString() : kept("cured");
 }
 
 /** A real file system, to the last byte; one for all, since it is gone with who has mounted it. */
