@@ -24,10 +24,15 @@ QString vipsName(const QString &path, const QString &folder)
     return QDir(folder).relativeFilePath(path);
 }
 
+QString backgroundText()
+{
+    return QStringLiteral("%1 %1 %1").arg(kBackgroundGrey);
+}
+
 QString jpegOptions(int quality)
 {
-    return QStringLiteral("[Q=%1,strip,background=%2 %2 %2]")
-        .arg(QString::number(quality), QString::number(kBackgroundGrey));
+    return QStringLiteral("[Q=%1,strip,background=%2]")
+        .arg(QString::number(quality), backgroundText());
 }
 
 Failure notWhole(const QString &path)

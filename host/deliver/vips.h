@@ -21,6 +21,9 @@ namespace PanoHost
 /** \p path seen from \p folder: what both have in common, which users have named, is not in it. */
 [[nodiscard]] QString vipsName(const QString &path, const QString &folder);
 
+/** The colour that shows where no photo reaches, as `vips` takes it: "24 24 24". */
+[[nodiscard]] QString backgroundText();
+
 /** What `vips` reads after the name of a JPEG; the background shows where no photo reaches. */
 [[nodiscard]] QString jpegOptions(int quality);
 

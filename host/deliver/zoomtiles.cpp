@@ -55,9 +55,17 @@ Result<QString> cutTiles(const QString &screen, const QString &folder, const Til
                          const DeliverJob &job, const JobWatch &watch)
 {
     const QString work = QFileInfo(folder).path();
+    // Several threads of `vips` write JPEGs at once, and some forget the background: it is put
+    // behind the picture before.
+    const QString opaque = QStringLiteral("opaque.v");
+    const QStringList flatten{ QStringLiteral("flatten"), vipsName(screen, work), opaque,
+                               QStringLiteral("--background"), backgroundText() };
+    if (Result<QString> flat = runVips(flatten, work, watch); !flat) {
+        return flat;
+    }
     const QStringList arguments
         = QStringList{ QStringLiteral("dzsave"),
-                       vipsName(screen, work),
+                       opaque,
                        vipsName(QDir(folder).filePath(layout.name), work),
                        QStringLiteral("--tile-size"),
                        QString::number(kTileSide),
@@ -110,15 +118,6 @@ Result<QString> zoomFolder(const DeliverJob &job, const JobWatch &watch)
     if (!screen) {
         return screen;
     }
-    if (Result<QString> cut
-        = cutTiles(screen.value(), folder,
-                   { QStringLiteral("tiles"),
-                     { QStringLiteral("--overlap"), QString::number(kTileOverlap) },
-                     1 },
-                   job, watch);
-        !cut) {
-        return cut;
-    }
     const QSize size = job.picture.size;
     const QJsonObject source{
         { QStringLiteral("Image"),
@@ -141,6 +140,15 @@ Result<QString> zoomFolder(const DeliverJob &job, const JobWatch &watch)
     if (Result<QString> written = writeFileAtomically(QDir(folder).filePath(opened), page);
         !written) {
         return written;
+    }
+    if (Result<QString> cut
+        = cutTiles(screen.value(), folder,
+                   { QStringLiteral("tiles"),
+                     { QStringLiteral("--overlap"), QString::number(kTileOverlap) },
+                     1 },
+                   job, watch);
+        !cut) {
+        return cut;
     }
     return place(folder, wanted, opened);
 }

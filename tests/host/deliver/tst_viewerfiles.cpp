@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "deliverbench.h"
 #include "host/deliver/spherepage.h"
 #include "host/deliver/zoomtiles.h"
 #include "tests/support/testprogram.h"
@@ -58,6 +59,8 @@ private Q_SLOTS:
     void everyDepthShowsTheSame_data();
     void everyDepthShowsTheSame();
     void folderHoldsNothingElse();
+    void tilesAreCutFromAnOpaquePicture_data() { eachFolder(); }
+    void tilesAreCutFromAnOpaquePicture();
     void infoNamesEveryTile_data();
     void infoNamesEveryTile();
     void addressIsNeeded_data();
@@ -124,6 +127,24 @@ void TestViewerFiles::folderHoldsNothingElse()
                            QStringLiteral("tiles.dzi"), QStringLiteral("tiles_files/0/0_0.jpg") }));
     QVERIFY(contentOf(made.value()).contains("Redistributions of source code must retain"));
     QCOMPARE(filesIn(sphere.job.workFolder), QStringList{ QStringLiteral("panorama.v") });
+}
+
+/** `vips` cuts tiles in several threads, and now and then one of them puts black behind what is
+ * transparent, whatever background was asked for. */
+void TestViewerFiles::tilesAreCutFromAnOpaquePicture()
+{
+    QFETCH(Maker, make);
+    TestSphere sphere({ 600, 300 });
+    sphere.job.iiifAddress = QStringLiteral("https://example.org");
+    const QTemporaryDir tools;
+    const DeliverBench::FakeTools fakes(tools.path());
+    fakes.add(QStringLiteral("vips"),
+              "[ \"$1\" = dzsave ] && vipsheader -f bands \"$2\" > '"
+                  + QFile::encodeName(tools.filePath(QStringLiteral("bands"))) + "'\n"
+                  + "exec vips \"$@\"\n");
+    const Result<QString> made = make(sphere.job, {});
+    QVERIFY2(made, made ? "" : qPrintable(made.error().text()));
+    QCOMPARE(contentOf(tools.filePath(QStringLiteral("bands"))), QByteArray("3\n"));
 }
 
 void TestViewerFiles::infoNamesEveryTile_data()
