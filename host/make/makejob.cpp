@@ -252,6 +252,21 @@ void warnOfDamage(const Panorama &panorama, const JobWatch &watch)
     }
 }
 
+/** What a result must not take the place of. */
+QStringList inputsOf(const MakeRequest &request)
+{
+    if (!request.imported) {
+        return QStringList(request.import.record) + request.import.photos;
+    }
+    QStringList inputs(request.imported->source.record);
+    for (const Position &position : request.imported->positions) {
+        for (const PhotoInfo &photo : position.photos) {
+            inputs += photo.path;
+        }
+    }
+    return inputs;
+}
+
 /** One run of steps in a work folder. */
 class MakeRun
 {
@@ -284,6 +299,7 @@ private:
     /** Has \p run make the contents of \p files, unless they are there already. */
     void keptStep(int step, const QString &name, const QStringList &files, const QByteArray &key,
                   const std::function<Contents(const JobWatch &watch)> &run);
+    [[nodiscard]] Panorama imported(const MakeRequest &request, const JobWatch &watch) const;
     [[nodiscard]] Panorama import(const MakeRequest &request);
     [[nodiscard]] bool develop(int step, Panorama &panorama, const QString &command);
     [[nodiscard]] StitchedPicture stitch(int step, const PtoFile &project,
@@ -360,16 +376,26 @@ void MakeRun::keptStep(int step, const QString &name, const QStringList &files,
     }
 }
 
+Panorama MakeRun::imported(const MakeRequest &request, const JobWatch &watch) const
+{
+    if (!request.imported) {
+        return valueOrThrow(m_steps.import(request.import, watch));
+    }
+    warnOfDamage(*request.imported, watch);
+    return *request.imported;
+}
+
 Panorama MakeRun::import(const MakeRequest &request)
 {
     const QString json = QStringLiteral("1_import.json");
-    const QByteArray key
-        = importKey(request.import, PluginLibrary::fileFor(request.import.pluginPath));
+    const QByteArray key = request.imported
+        ? importedKey(*request.imported)
+        : importKey(request.import, PluginLibrary::fileFor(request.import.pluginPath));
     const QString raw = QStringLiteral("1_raw.txt");
     keptStep(0, QStringLiteral("import"), { json, QStringLiteral("1_import.pto"), raw }, key,
              [&](const JobWatch &watch) {
                  watch.report(0, 1, QStringLiteral("reading record and photos"));
-                 Panorama panorama = valueOrThrow(m_steps.import(request.import, watch));
+                 Panorama panorama = imported(request, watch);
                  PtoOptions options;
                  options.ignoreExifRotation = request.import.ignoreExifRotation;
                  options.projectFolder = m_work.path();
@@ -626,7 +652,8 @@ QVector<OverallProgress::Step> stitchingSteps(double photoMegapixels, const QSiz
 
 QVector<OverallProgress::Step> allSteps(const MakeRequest &request)
 {
-    const int photos = request.import.photos.size();
+    const int photos
+        = request.imported ? photoCount(*request.imported) : request.import.photos.size();
     const double photoMegapixels = kMegapixelsOfUnknownPhotos * photos;
     const QSize unknownCanvas(8192, 4096);
     QVector<OverallProgress::Step> steps;
@@ -701,8 +728,7 @@ Result<QStringList> makePanorama(const MakeRequest &request, const MakeSteps &st
                                  const JobWatch &watch)
 {
     return resumableAnswerOf(workFolderOf(request.picture.path), watch, [&] {
-        requireWritable(request.picture.path,
-                        QStringList(request.import.record) + request.import.photos);
+        requireWritable(request.picture.path, inputsOf(request));
         requirePlaces(request.picture);
         if (!request.rawConverter.isEmpty()) { // nothing is begun with a wrong one
             (void)valueOrThrow(rawConverterNamed(request.rawConverter, false));

@@ -35,6 +35,8 @@ struct PictureWishes {
 /** From record and photos. */
 struct MakeRequest {
     ImportRequest import;
+    /** What a page has delivered already; of `import` only `ignoreExifRotation` counts then. */
+    std::optional<Panorama> imported;
     QString rawConverter; ///< as `rawConverterNamed` takes it; empty: none
     AlignOptions align;
     PictureWishes picture;

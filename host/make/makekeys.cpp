@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/make/makekeys.h"
 
+#include "host/model/panoramajson.h"
 #include "host/model/safefile.h"
 #include "host/stitch/workfolder.h"
 
@@ -96,6 +97,18 @@ QByteArray importKey(const ImportRequest &request, const QString &library)
         key << button.name << button.checked;
     }
     return key.addFile(library).text();
+}
+
+QByteArray importedKey(const Panorama &panorama)
+{
+    KeyText key("imported");
+    key << panoramaToJson(panorama, {});
+    for (const Position &position : panorama.positions) {
+        for (const PhotoInfo &photo : position.photos) {
+            key.addFile(photo.path);
+        }
+    }
+    return key.text();
 }
 
 QByteArray alignKey(const QByteArray &panoramaJson, bool ignoresExifRotation,

@@ -20,6 +20,9 @@ namespace PanoHost
 /** Of an import through \p library, the plug-in library's file. Not for filled pages. */
 [[nodiscard]] QByteArray importKey(const ImportRequest &request, const QString &library);
 
+/** Of what a page has delivered: the description, and its photos. */
+[[nodiscard]] QByteArray importedKey(const Panorama &panorama);
+
 /** Of the alignment of what \p panoramaJson describes, with its \p photos. */
 [[nodiscard]] QByteArray alignKey(const QByteArray &panoramaJson, bool ignoresExifRotation,
                                   const AlignOptions &options, const QStringList &photos);

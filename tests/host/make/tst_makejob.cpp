@@ -151,6 +151,7 @@ private Q_SLOTS:
     void stoppedAndFailedRunsGoOn_data();
     void stoppedAndFailedRunsGoOn();
     void recordThatIsTrustedIsNotAligned();
+    void whatAPageHasDeliveredIsNotImportedAgain();
     void outputFollowsWishesPageAndBrackets_data();
     void outputFollowsWishesPageAndBrackets();
     void lightIsDeliveredAsLightToo();
@@ -354,6 +355,24 @@ void TestMakeJob::recordThatIsTrustedIsNotAligned()
     m_request.align.levels = true;
     QVERIFY(make().ok());
     QCOMPARE(calls(), QStringLiteral("stitch picture html"));
+}
+
+void TestMakeJob::whatAPageHasDeliveredIsNotImportedAgain()
+{
+    m_request.imported = m_fake.panorama;
+    m_request.import = {};
+    QVERIFY(make().ok());
+    QCOMPARE(calls(), QStringLiteral("align stitch picture html"));
+    QVERIFY(QFile::exists(work(QStringLiteral("1_import.pto"))));
+    QVERIFY(make().ok());
+    QCOMPARE(calls(), QString());
+    m_request.imported->positions[1].yawDegrees += 1.0;
+    QVERIFY(make().ok());
+    QCOMPARE(calls(), QStringLiteral("align stitch picture html"));
+    // Its photos are inputs.
+    m_request.picture.path = TestPhotos::writeFile(file(QStringLiteral("photo.jpg")), "a photo");
+    m_request.imported->positions[1].photos[0].path = m_request.picture.path;
+    QVERIFY(!make().ok());
 }
 
 void TestMakeJob::outputFollowsWishesPageAndBrackets_data()
