@@ -4,6 +4,7 @@
 
 #include "host/gui/choicepage.h"
 #include "host/gui/filedrop.h"
+#include "host/gui/makepage.h"
 #include "host/gui/pagekeeper.h"
 #include "host/gui/readingbar.h"
 #include "host/gui/reportrunner.h"
@@ -36,6 +37,7 @@ namespace
 constexpr int kChoiceId = 0;
 constexpr int kFirstPluginId = 1;
 constexpr int kResultId = 1000;
+constexpr int kMakeId = 1001;
 constexpr QSize kFirstSize(900, 720);
 
 QString settingsGroup()
@@ -59,6 +61,7 @@ ImportWizard::ImportWizard(PanoHostApplication &app, const PluginLibrary &librar
     , m_library(library)
     , m_choicePage(new ChoicePage(library.plugins()))
     , m_resultPage(new ResultPage(app))
+    , m_makePage(new MakePage(app, makeSteps(app)))
     , m_readingBar(new ReadingBar(this))
     , m_strip(new ShootStrip(this))
     , m_desk(new ShootDesk(app, m_strip, this))
@@ -77,6 +80,7 @@ ImportWizard::ImportWizard(PanoHostApplication &app, const PluginLibrary &librar
         }
     }
     setPage(kResultId, m_resultPage);
+    setPage(kMakeId, m_makePage);
     setStartId(kChoiceId);
 
     m_choicePage->choose(0);
@@ -178,7 +182,16 @@ int ImportWizard::nextId() const
         const int chosen = m_choicePage->chosen();
         return chosen < 0 ? kResultId : kFirstPluginId + chosen;
     }
-    return currentId() == kResultId ? -1 : kResultId;
+    if (currentId() == kResultId) {
+        return m_panorama ? kMakeId : -1;
+    }
+    return currentId() == kMakeId ? -1 : kResultId;
+}
+
+/** Nothing can be dropped there any more. */
+bool ImportWizard::isBehindPages() const
+{
+    return currentId() == kResultId || currentId() == kMakeId;
 }
 
 void ImportWizard::fillIn(const QStringList &files)
@@ -198,7 +211,7 @@ void ImportWizard::fillIn(const QStringList &files)
 
 void ImportWizard::take(GivenFiles given)
 {
-    if (currentId() == kResultId) {
+    if (isBehindPages()) {
         return;
     }
     if ((QGuiApplication::keyboardModifiers() & Qt::ControlModifier) != 0) {
@@ -430,26 +443,34 @@ void ImportWizard::cleanupPage(int id)
 
 void ImportWizard::enterPage()
 {
-    button(QWizard::CustomButton1)->setVisible(currentId() == kResultId);
+    button(QWizard::CustomButton1)->setVisible(isBehindPages());
     PageKeeper *page = keeper();
     if (page != nullptr) {
         page->giveBack();
     }
-    m_drop->setTaking(currentId() != kResultId);
+    m_drop->setTaking(!isBehindPages());
     m_strip->setVisible(page != nullptr);
     if (currentId() == kResultId) {
         m_resultPage->setRemarks(m_desk->remarks()); // of the page before
+    } else if (currentId() == kMakeId) {
+        m_makePage->take(m_panorama);
     } else {
         m_desk->setPage(page);
     }
     makeRoom();
 }
 
+/** Neither saved nor made. */
+bool ImportWizard::isUnsaved() const
+{
+    return m_resultPage->isUnsaved() && !m_makePage->hasMade();
+}
+
 /** Photos that are still being read have only just been chosen. */
 bool ImportWizard::wouldLose() const
 {
-    if (currentId() == kResultId) {
-        return m_resultPage->isUnsaved();
+    if (isBehindPages()) {
+        return m_makePage->isRunning() || isUnsaved();
     }
     const PageKeeper *page = keeper();
     return page != nullptr && !page->photos().isEmpty() && !page->isReading();
@@ -459,7 +480,10 @@ void ImportWizard::reject()
 {
     if (isVisible() && wouldLose()) {
         QMessageBox box(QMessageBox::Question, tr("Close the window?"),
-                        currentId() == kResultId
+                        m_makePage->isRunning()
+                            ? tr("The panorama is still being made. What is finished of it is "
+                                 "kept: made again, it goes on from there.")
+                            : isBehindPages()
                             ? tr("The panorama has not been saved.")
                             : tr("The photos and options of this page will be forgotten."),
                         QMessageBox::Discard | QMessageBox::Cancel, this);
@@ -471,9 +495,16 @@ void ImportWizard::reject()
     QWizard::reject();
 }
 
+void ImportWizard::accept()
+{
+    if (!isUnsaved() || m_resultPage->confirmUnsaved()) {
+        QWizard::accept();
+    }
+}
+
 void ImportWizard::importAnother()
 {
-    if (!m_resultPage->validatePage()) {
+    if (isUnsaved() && !m_resultPage->confirmUnsaved()) {
         return;
     }
     restart();
@@ -538,8 +569,12 @@ void ImportWizard::showHelp()
     const QString text = choosing
         ? tr("Choose the head that took the photos, then Next. You can also drop the head's record "
              "and the photos, or the folder that holds them, onto this window.")
+        : currentId() == kMakeId
+        ? tr("Say where the panorama goes and press Make panorama. It can be stopped at any time: "
+             "what is finished is kept, and made again it goes on from there.")
         : currentId() == kResultId
-        ? tr("Save the project and open it in Hugin, or save the description as JSON. Back returns "
+        ? tr("Next makes the panorama here. Or save the project and open it in Hugin, or save the "
+             "description as JSON. Back returns "
              "to the import page; its photos and options are kept.")
         : tr("Choose the head's record and all its photos. Next is enabled when every photo has "
              "been read and their number is that of the record. Red text says what does not fit; "

@@ -19,6 +19,7 @@ namespace PanoHost
 
 class ChoicePage;
 class FileDrop;
+class MakePage;
 class PageKeeper;
 class ReadingBar;
 class ReportRunner;
@@ -55,7 +56,8 @@ public:
     [[nodiscard]] const Result<Panorama> &panorama() const { return m_panorama; }
 
     void cleanupPage(int id) override;
-    /** Asks when something would be lost. */
+    /** Both ask when something would be lost. */
+    void accept() override;
     void reject() override;
     /** Closes without asking. */
     void done(int result) override;
@@ -74,6 +76,8 @@ private:
     [[nodiscard]] PageKeeper *keeper() const;
     void enterPage();
     void importAnother();
+    [[nodiscard]] bool isBehindPages() const;
+    [[nodiscard]] bool isUnsaved() const;
     [[nodiscard]] bool wouldLose() const;
     void followPhotoDialogs(QObject *watched);
     void beginReading(const QStringList &files);
@@ -93,6 +97,7 @@ private:
     const PluginLibrary &m_library;
     ChoicePage *m_choicePage;
     ResultPage *m_resultPage;
+    MakePage *m_makePage;
     DeliveryLog m_deliveries;
     Result<Panorama> m_panorama = Failure();
     ReadingBar *m_readingBar;

@@ -99,6 +99,7 @@ ResultPage::ResultPage(PanoHostApplication &app, QWidget *parent)
     setSubTitle(tr("This is what the import page delivered. Save it as a project for Hugin, as a "
                    "description for other programs, or both."));
     setFinalPage(true);
+    setFinalPage(true); // making the picture may be left to others
     createWidgets();
 }
 
@@ -162,11 +163,8 @@ void ResultPage::initializePage()
     showPanorama(import->panorama());
 }
 
-bool ResultPage::validatePage()
+bool ResultPage::confirmUnsaved()
 {
-    if (!isUnsaved()) {
-        return true;
-    }
     const QMessageBox::StandardButton answer = QMessageBox::question(
         this, tr("Nothing saved"), tr("The panorama has not been saved. Go on all the same?"),
         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);

@@ -26,8 +26,8 @@ public:
 
     /** Takes over the wizard's description. */
     void initializePage() override;
-    /** Finish: asks when nothing has been saved. */
-    bool validatePage() override;
+    /** Asks whether to go without having saved anything. */
+    [[nodiscard]] bool confirmUnsaved();
 
     /** What is shown; nothing when the delivery could not be used. */
     [[nodiscard]] const std::optional<Panorama> &panorama() const { return m_panorama; }

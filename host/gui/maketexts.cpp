@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/gui/maketexts.h"
+
+#include "host/stitch/stitchneeds.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+#include <QRegularExpression>
+
+#include <utility>
+
+namespace PanoHost
+{
+
+namespace
+{
+
+/** Texts of this window. */
+struct MakeTexts {
+    Q_DECLARE_TR_FUNCTIONS(MakeTexts)
+};
+
+QString workText(const QString &work)
+{
+    const std::pair<const char *, QString> known[] = {
+        { "reading record and photos", MakeTexts::tr("Reading the photos") },
+        { "developing photos", MakeTexts::tr("Developing RAW files") },
+        { "looking for features", MakeTexts::tr("Looking for details in the photos") },
+        { "matching neighbours", MakeTexts::tr("Comparing neighbouring photos") },
+        { "placing photos", MakeTexts::tr("Putting the photos in their places") },
+        { "comparing light", MakeTexts::tr("Comparing the light of the photos") },
+        { "joining brackets to light", MakeTexts::tr("Joining brackets") },
+        { "warping photos with nona", MakeTexts::tr("Bending the photos into shape") },
+        { "joining warped brackets", MakeTexts::tr("Joining brackets") },
+        { "blending", MakeTexts::tr("Blending the photos") },
+        { "fusing brackets with enfuse", MakeTexts::tr("Fusing brackets") },
+        { "writing the picture", MakeTexts::tr("Writing the picture") },
+        { "making the page", MakeTexts::tr("Making the page") },
+        { "cutting tiles", MakeTexts::tr("Cutting tiles to zoom into") },
+        { "done", MakeTexts::tr("Done") },
+    };
+    for (const auto &[words, text] : known) {
+        if (work == QLatin1String(words)) {
+            return text;
+        }
+    }
+    return work;
+}
+
+} // namespace
+
+QString stepText(const QString &text)
+{
+    static const QRegularExpression kStep(QStringLiteral("^(.*) \\(step (\\d+) of (\\d+)\\)$"));
+    const QRegularExpressionMatch found = kStep.match(text);
+    return found.hasMatch()
+        ? MakeTexts::tr("%1 (step %2 of %3)")
+              .arg(workText(found.captured(1)), found.captured(2), found.captured(3))
+        : workText(text);
+}
+
+QString inWindow(const QString &text)
+{
+    // Where the field or button is that does it here; nothing: it is said already.
+    const std::pair<const char *, QString> options[] = {
+        { " with -o", QString() },
+        { "or choose a smaller --size", MakeTexts::tr("or choose a smaller size") },
+        { "choose --jobs 1 or a smaller --size", MakeTexts::tr("choose a smaller size") },
+        { "choose another --size", MakeTexts::tr("choose another size") },
+        { "make it smaller with --size", MakeTexts::tr("choose a smaller size") },
+        { "and --linear, make", MakeTexts::tr("make") },
+        { ": the same command goes on from there", QString() },
+        { "go on with the same command", MakeTexts::tr("press Make panorama again") },
+        { "give it with --focal", MakeTexts::tr("go back and enter it") },
+        { "the same command goes on from here", MakeTexts::tr("Make panorama goes on from here") },
+    };
+    QString answer = text;
+    for (const auto &[words, instead] : options) {
+        answer.replace(QLatin1String(words), instead);
+    }
+    return answer;
+}
+
+QString needsText(const StitchNeeds &needs)
+{
+    const QLocale locale;
+    return MakeTexts::tr("%1 x %2 pixels at most; takes up to %3 of the disk and %4 of memory.")
+        .arg(locale.toString(needs.picture.width()), locale.toString(needs.picture.height()),
+             bytesText(needs.diskBytes), bytesText(needs.memoryBytes));
+}
+
+} // namespace PanoHost

@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/gui/makepage.h"
+#include "importers/headfacts.h"
+#include "tests/host/align/support/shootlist.h"
+#include "tests/host/gui/guibench.h"
+#include "tests/host/testphotos.h"
+#include "tests/support/testprogram.h"
+
+#include <QDir>
+#include <QImageReader>
+#include <QLabel>
+#include <QPushButton>
+#include <QtTest>
+
+using namespace PanoHost;
+
+/** From a dropped folder to the finished panorama, with the real page and the real tools. */
+class TestGuiWhole : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void dropToPanoramaIsFourSteps();
+
+private:
+    /** Photos and record of a small shoot in the folder \p folder. */
+    static void shoot(const QString &folder);
+};
+
+void TestGuiWhole::shoot(const QString &folder)
+{
+    const TestShoots::TestShoot shoot = TestShoots::tiny();
+    QVERIFY(TestShoots::photographed(shoot, folder));
+    PanoHead::NotedShoot noted;
+    for (const Pose &pose : TestShoots::recordedAngles(shoot)) {
+        PanoHead::NotedShot shot;
+        shot.yawDegrees = pose.yawDegrees;
+        shot.pitchDegrees = pose.pitchDegrees;
+        noted.shots += shot;
+    }
+    const PanoHead::HeadFacts &head = *PanoHead::headFactsOf(QStringLiteral("papywizard"));
+    TestPhotos::writeFile(folder + QStringLiteral("/record.xml"), head.write(noted));
+}
+
+void TestGuiWhole::dropToPanoramaIsFourSteps()
+{
+    GuiBench bench;
+    const QString folder = bench.path(QStringLiteral("shoot"));
+    shoot(folder);
+    bench.drop({ folder }); // 1
+    QTRY_VERIFY(bench.isNextEnabled());
+    QTRY_VERIFY(bench.isSettled());
+    bench.picture(QStringLiteral("whole-import"));
+    bench.press(QWizard::NextButton); // 2
+    QTRY_COMPARE(bench.result().size(), 6);
+    bench.picture(QStringLiteral("whole-result"));
+    bench.press(QWizard::NextButton); // 3
+    auto *page = bench.wizard().findChild<MakePage *>();
+    QVERIFY(page->isVisible());
+    auto *make = page->findChild<QPushButton *>(QStringLiteral("m_make"));
+    QTRY_COMPARE(bench.wizard().focusWidget(), make);
+    auto *state = page->findChild<QLabel *>(QStringLiteral("m_makeState"));
+    QTRY_VERIFY2(state->text().contains(QStringLiteral(" pixels at most")),
+                 qPrintable(state->text()));
+    bench.picture(QStringLiteral("whole-make"));
+    QTest::keyClick(make, Qt::Key_Return); // 4
+    QTRY_VERIFY(page->isRunning());
+    bench.picture(QStringLiteral("whole-running"));
+    QTRY_VERIFY_WITH_TIMEOUT(!page->isRunning(), 600'000);
+    QVERIFY2(page->hasMade(), qPrintable(state->text()));
+    bench.picture(QStringLiteral("whole-made"));
+    const QSize size = QImageReader(page->path()).size();
+    QVERIFY2(size.width() > size.height() && size.height() > 100,
+             qPrintable(QStringLiteral("%1 x %2").arg(size.width()).arg(size.height())));
+    QCOMPARE(QFileInfo(page->path()).absolutePath(), bench.path(QStringLiteral("shoot panorama")));
+    QVERIFY(QFile::exists(bench.path(QStringLiteral("shoot panorama/record.html"))));
+    // No question: the panorama is there.
+    bench.press(QWizard::FinishButton);
+    QVERIFY(!bench.wizard().isVisible());
+}
+
+TEST_CLASS(TestGuiWhole, PanoHostApplication)
+#include "tst_gui_whole.moc"
