@@ -27,6 +27,7 @@ struct RecordSummary {
     double focal35mm = 0.0; ///< 0: the record names none
     LensModel lens = LensModel::NotChosen; ///< `NotChosen`: the record names none
     QStringList remarks; ///< what the importer leaves out of it, in English, for the user
+    QString title; ///< that the photographer gave the shoot; empty: none
 };
 
 /** One photo of a shoot as the head writes it down. */

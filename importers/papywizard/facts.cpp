@@ -52,6 +52,7 @@ std::optional<RecordSummary> summaryOf(const QByteArray &bytes, ReadError *error
     summary.bracketCount = bracketCountOf(*record);
     summary.focal35mm = std::max(record->xmlFocal, 0.0);
     summary.lens = static_cast<LensModel>(record->xmlLensType);
+    summary.title = record->title;
     return summary;
 }
 
