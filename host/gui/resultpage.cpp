@@ -6,6 +6,7 @@
 #include "host/gui/importwizard.h"
 #include "host/gui/layoutpicture.h"
 #include "host/gui/positionstable.h"
+#include "host/gui/savedlist.h"
 #include "host/import/proposedplace.h"
 #include "host/model/panoramajson.h"
 #include "host/model/ptoproject.h"
@@ -122,10 +123,8 @@ void ResultPage::createWidgets()
     m_remarks->setObjectName(QStringLiteral("m_remarks"));
     m_remarks->setTextFormat(Qt::PlainText);
     m_remarks->setWordWrap(true);
-    m_saved = new QLabel;
+    m_saved = new SavedList;
     m_saved->setObjectName(QStringLiteral("m_saved"));
-    m_saved->setTextFormat(Qt::PlainText);
-    m_saved->setWordWrap(true);
     m_layout = new LayoutPicture;
     m_table = new PositionsTable;
     m_table->setObjectName(QStringLiteral("m_table"));
@@ -274,8 +273,11 @@ void ResultPage::selectPosition(int position)
 void ResultPage::showSaved(const Result<QString> &saved)
 {
     m_somethingSaved = m_somethingSaved || saved.ok();
-    m_saved->setText(saved ? tr("Saved %1").arg(saved.value())
-                           : tr("Not saved: %1").arg(saved.error().text()));
+    if (saved) {
+        m_saved->addFile(saved.value());
+    } else {
+        m_saved->addProblem(tr("Not saved: %1").arg(saved.error().text()));
+    }
 }
 
 void ResultPage::askForProject()
@@ -322,8 +324,8 @@ void ResultPage::askAndSave(const QString &caption, const QString &suffix, const
 void ResultPage::openInHugin()
 {
     if (!QProcess::startDetached(QStringLiteral("hugin"), { m_projectPath })) {
-        m_saved->setText(tr("Hugin could not be started. Is it installed? Try to open the "
-                            "saved project from Hugin itself."));
+        m_saved->addProblem(tr("Hugin could not be started. Is it installed? Try to open the "
+                               "saved project from Hugin itself."));
     }
 }
 

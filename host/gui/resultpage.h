@@ -19,6 +19,7 @@ namespace PanoHost
 
 class LayoutPicture;
 class PositionsTable;
+class SavedList;
 
 /** The last page: what was delivered, and saving it. */
 class ResultPage : public QWizardPage
@@ -76,7 +77,7 @@ private:
     QLabel *m_warnings = nullptr;
     QLabel *m_warningIcon = nullptr;
     QLabel *m_remarks = nullptr;
-    QLabel *m_saved = nullptr;
+    SavedList *m_saved = nullptr;
     QTabWidget *m_views = nullptr;
     LayoutPicture *m_layout = nullptr;
     PositionsTable *m_table = nullptr;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/gui/positionstable.h"
 #include "host/gui/resultpage.h"
+#include "host/gui/savedlist.h"
 #include "host/model/photofile.h"
 #include "tests/host/gui/guibench.h"
 #include "tests/host/testpanoramas.h"
@@ -9,8 +10,11 @@
 #include "tests/support/testprogram.h"
 
 #include <QClipboard>
+#include <QDesktopServices>
+#include <QDir>
 #include <QFile>
 #include <QHeaderView>
+#include <QLabel>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QtTest>
@@ -68,9 +72,16 @@ public:
     /** Before the application. */
     static void initMain() { initializePhotoReading(); }
 
+    /** In place of the desktop. */
+    Q_SLOT void openUrl(const QUrl &url) { m_opened += url; }
+
 private Q_SLOTS:
     void init() { m_bench = std::make_unique<GuiBench>(); }
-    void cleanup() { m_bench.reset(); }
+    void cleanup()
+    {
+        m_bench.reset();
+        m_opened.clear();
+    }
     void tableSortsByTheColumnClicked();
     void tableIsSavedAsItIsSorted();
     void tableTakesOddNames();
@@ -80,6 +91,9 @@ private Q_SLOTS:
     void thousandsOfPositionsAreShown();
     void resultsGoBesideThePhotos();
     void cancelledSavingLeavesNoFolder();
+    void everySavedFileIsListed();
+    void savedFilesAreShownInTheirFolder();
+    void savingMovesNothing();
 
 private:
     /** To the page, with \p shots photos of a Papywizard in the folder "shoot". */
@@ -114,6 +128,7 @@ private:
     }
 
     std::unique_ptr<GuiBench> m_bench;
+    QVector<QUrl> m_opened;
 };
 
 void TestResult::showResult(int shots)
@@ -284,6 +299,65 @@ void TestResult::cancelledSavingLeavesNoFolder()
     click("m_saveProject");
     QVERIFY(!QFileInfo::exists(m_bench->path(QStringLiteral("shoot panorama"))));
     QVERIFY(page()->isUnsaved());
+}
+
+void TestResult::everySavedFileIsListed()
+{
+    showResult(2);
+    const auto *saved = page()->findChild<SavedList *>();
+    const auto path = [this](const char *name) { return m_bench->path(QLatin1String(name)); };
+    QVERIFY(page()->saveProject(path("a.pto")));
+    QVERIFY(page()->saveJson(path("a.json")));
+    QVERIFY(page()->saveTable(path("a.csv")));
+    QCOMPARE(saved->files(), QStringList({ path("a.csv"), path("a.json"), path("a.pto") }));
+    // The same once more is the last one again; a failure takes nobody's place.
+    QVERIFY(page()->saveProject(path("a.pto")));
+    QVERIFY(!page()->saveJson(path("nosuch/b.json")));
+    QCOMPARE(saved->files(), QStringList({ path("a.pto"), path("a.csv"), path("a.json") }));
+    QVERIFY(widget<QLabel>("m_problem")->isVisible());
+    m_bench->picture(QStringLiteral("result-saved"));
+    QVERIFY(page()->saveJson(path("b.json")));
+    QVERIFY(!widget<QLabel>("m_problem")->isVisible());
+    QCOMPARE(page()->findChildren<QPushButton *>(QStringLiteral("m_show")).size(), 4);
+}
+
+void TestResult::savedFilesAreShownInTheirFolder()
+{
+    showResult(2);
+    QDir(m_bench->path({})).mkdir(QStringLiteral("a b#c"));
+    QVERIFY(page()->saveProject(m_bench->path(QStringLiteral("a b#c/a.pto"))));
+    QCoreApplication::processEvents();
+    QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "openUrl");
+    auto *show = widget<QPushButton>("m_show");
+    QCOMPARE(show->accessibleName(), QStringLiteral("Show a.pto in its folder"));
+    show->setFocus();
+    QTest::keyClick(show, Qt::Key_Space);
+    QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+    QCOMPARE(m_opened,
+             QVector<QUrl>{ QUrl::fromLocalFile(m_bench->path(QStringLiteral("a b#c"))) });
+    QVERIFY(QDir(m_bench->path(QStringLiteral("a b#c"))).removeRecursively());
+    QTest::mouseClick(show, Qt::LeftButton);
+    QVERIFY(widget<QLabel>("m_problem")->text().contains(QLatin1String("not there any more")));
+}
+
+void TestResult::savingMovesNothing()
+{
+    showResult(2);
+    const auto places = [this] {
+        QVector<QRect> found;
+        for (const char *name : { "m_views", "m_saveProject", "m_openHugin", "m_saved" }) {
+            found += widget<QWidget>(name)->geometry();
+        }
+        return found;
+    };
+    QCoreApplication::processEvents();
+    const QVector<QRect> before = places();
+    for (int i = 0; i < 5; ++i) {
+        QVERIFY(page()->saveJson(m_bench->path(QStringLiteral("%1.json").arg(i))));
+    }
+    QVERIFY(!page()->saveJson(m_bench->path(QStringLiteral("nosuch/%1.json"))));
+    QCoreApplication::processEvents();
+    QCOMPARE(places(), before);
 }
 
 TEST_CLASS(TestResult, PanoHostApplication)
