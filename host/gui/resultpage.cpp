@@ -12,6 +12,7 @@
 #include "host/model/ptoproject.h"
 #include "host/model/safefile.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -24,6 +25,8 @@
 #include <QStyle>
 #include <QTabWidget>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace PanoHost
 {
@@ -87,6 +90,13 @@ QStringList troubles(const Panorama &panorama)
     return texts;
 }
 
+/** The same for the same description of the same photos, wherever it was saved. */
+QByteArray identityOf(Panorama panorama)
+{
+    panorama.project.reset();
+    return QCryptographicHash::hash(panoramaToJson(panorama, {}), QCryptographicHash::Sha1);
+}
+
 QString summary(const Panorama &panorama)
 {
     const QStringList lines{ countsText(panorama), lensText(panorama),
@@ -139,7 +149,7 @@ void ResultPage::createWidgets()
     m_saveJson->setObjectName(QStringLiteral("m_saveJson"));
     m_saveTable = new QPushButton(tr("Save &table..."));
     m_saveTable->setObjectName(QStringLiteral("m_saveTable"));
-    m_openHugin = new QPushButton(tr("Open in &Hugin"));
+    m_openHugin = new QPushButton(tr("Open in Hu&gin"));
     m_openHugin->setObjectName(QStringLiteral("m_openHugin"));
     connect(m_saveProject, &QPushButton::clicked, this, &ResultPage::askForProject);
     connect(m_saveJson, &QPushButton::clicked, this, &ResultPage::askForJson);
@@ -170,13 +180,31 @@ void ResultPage::createWidgets()
 void ResultPage::initializePage()
 {
     const auto *import = qobject_cast<const ImportWizard *>(wizard());
-    m_projectPath.clear();
-    m_somethingSaved = false;
     m_folder.clear();
-    m_saved->clear();
     m_openHugin->setVisible(!QStandardPaths::findExecutable(QStringLiteral("hugin")).isEmpty());
-    m_openHugin->setEnabled(false);
     showPanorama(import->panorama());
+    recallFiles();
+}
+
+/** Whoever goes back and comes again with the same panorama has saved it already. */
+void ResultPage::recallFiles()
+{
+    m_files = m_panorama ? m_memory.value(identityOf(*m_panorama)) : SavedFiles();
+    QStringList &paths = m_files.paths;
+    paths.erase(std::remove_if(paths.begin(), paths.end(),
+                               [](const QString &path) { return !QFileInfo::exists(path); }),
+                paths.end());
+    m_saved->clear();
+    for (const QString &path : qAsConst(paths)) {
+        m_saved->addFile(path);
+    }
+    if (m_files.project && !QFileInfo::exists(m_files.project->path)) {
+        m_files.project.reset();
+    }
+    if (m_panorama) {
+        m_panorama->project = m_files.project;
+    }
+    m_openHugin->setEnabled(m_files.project.has_value());
 }
 
 bool ResultPage::validatePage()
@@ -190,7 +218,7 @@ bool ResultPage::validatePage()
     if (answer == QMessageBox::Save) {
         askForProject();
     }
-    return answer == QMessageBox::Discard || m_somethingSaved;
+    return answer == QMessageBox::Discard || !isUnsaved();
 }
 
 void ResultPage::showPanorama(const Result<Panorama> &panorama)
@@ -233,8 +261,8 @@ bool ResultPage::saveProject(const QString &path)
         showSaved(project.error());
         return false;
     }
-    m_panorama->project = ProjectReference{ path, project.value().yawCentreDegrees };
-    m_projectPath = path;
+    m_files.project = ProjectReference{ path, project.value().yawCentreDegrees };
+    m_panorama->project = m_files.project;
     m_openHugin->setEnabled(true);
     showSaved(path);
     return true;
@@ -272,8 +300,9 @@ void ResultPage::selectPosition(int position)
 
 void ResultPage::showSaved(const Result<QString> &saved)
 {
-    m_somethingSaved = m_somethingSaved || saved.ok();
     if (saved) {
+        m_files.paths += saved.value();
+        m_memory.insert(identityOf(*m_panorama), m_files);
         m_saved->addFile(saved.value());
     } else {
         m_saved->addProblem(tr("Not saved: %1").arg(saved.error().text()));
@@ -323,7 +352,7 @@ void ResultPage::askAndSave(const QString &caption, const QString &suffix, const
 
 void ResultPage::openInHugin()
 {
-    if (!QProcess::startDetached(QStringLiteral("hugin"), { m_projectPath })) {
+    if (!QProcess::startDetached(QStringLiteral("hugin"), { m_files.project->path })) {
         m_saved->addProblem(tr("Hugin could not be started. Is it installed? Try to open the "
                                "saved project from Hugin itself."));
     }

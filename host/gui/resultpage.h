@@ -6,6 +6,7 @@
 #include "host/model/panorama.h"
 #include "host/plugin/panohostapplication.h"
 
+#include <QHash>
 #include <QWizardPage>
 
 #include <optional>
@@ -39,7 +40,7 @@ public:
     /** What was found out about the shoot, before or after this page was entered. */
     void setRemarks(const QStringList &remarks);
     /** There is something that has been saved nowhere. */
-    [[nodiscard]] bool isUnsaved() const { return m_panorama && !m_somethingSaved; }
+    [[nodiscard]] bool isUnsaved() const { return m_panorama && m_files.paths.isEmpty(); }
 
     /** Writes the project, the description or the table; shows what happened. False when it failed.
      */
@@ -57,8 +58,14 @@ Q_SIGNALS:
     void positionSelected(int position);
 
 private:
+    struct SavedFiles {
+        QStringList paths; ///< in the order in which they were saved
+        std::optional<ProjectReference> project; ///< the last one among them
+    };
+
     void createWidgets();
     void showPanorama(const Result<Panorama> &panorama);
+    void recallFiles();
     void showSaved(const Result<QString> &saved);
     void askForProject();
     void askForJson();
@@ -70,9 +77,10 @@ private:
 
     PanoHostApplication &m_app;
     std::optional<Panorama> m_panorama;
-    QString m_projectPath;
+    /** What was saved of each panorama, by what tells it from others. */
+    QHash<QByteArray, SavedFiles> m_memory;
+    SavedFiles m_files; ///< of the one shown
     QString m_folder; ///< where files of this panorama go; empty: not chosen yet
-    bool m_somethingSaved = false;
     QLabel *m_summary = nullptr;
     QLabel *m_warnings = nullptr;
     QLabel *m_warningIcon = nullptr;

@@ -94,6 +94,8 @@ private Q_SLOTS:
     void everySavedFileIsListed();
     void savedFilesAreShownInTheirFolder();
     void savingMovesNothing();
+    void savedFilesAreRememberedAfterBack();
+    void noTwoControlsShareALetter();
 
 private:
     /** To the page, with \p shots photos of a Papywizard in the folder "shoot". */
@@ -315,6 +317,9 @@ void TestResult::everySavedFileIsListed()
     QVERIFY(!page()->saveJson(path("nosuch/b.json")));
     QCOMPARE(saved->files(), QStringList({ path("a.pto"), path("a.csv"), path("a.json") }));
     QVERIFY(widget<QLabel>("m_problem")->isVisible());
+    // Rows that find no room are scrolled to, not squeezed.
+    const auto *show = widget<QPushButton>("m_show");
+    QTRY_COMPARE(show->height(), show->sizeHint().height());
     m_bench->picture(QStringLiteral("result-saved"));
     QVERIFY(page()->saveJson(path("b.json")));
     QVERIFY(!widget<QLabel>("m_problem")->isVisible());
@@ -358,6 +363,71 @@ void TestResult::savingMovesNothing()
     QVERIFY(!page()->saveJson(m_bench->path(QStringLiteral("nosuch/%1.json"))));
     QCoreApplication::processEvents();
     QCOMPARE(places(), before);
+}
+
+void TestResult::savedFilesAreRememberedAfterBack()
+{
+    showResult(2);
+    const QString project = m_bench->path(QStringLiteral("a.pto"));
+    QVERIFY(!widget<QPushButton>("m_openHugin")->isEnabled());
+    QVERIFY(page()->saveProject(project));
+    QVERIFY(page()->saveJson(m_bench->path(QStringLiteral("a.json"))));
+    const QStringList files = page()->findChild<SavedList *>()->files();
+    m_bench->press(QWizard::BackButton);
+    m_bench->press(QWizard::NextButton);
+    QVERIFY(widget<QPushButton>("m_openHugin")->isEnabled());
+    QCOMPARE(page()->findChild<SavedList *>()->files(), files);
+    QVERIFY(!page()->isUnsaved());
+    QVERIFY(page()->panorama()->project.has_value());
+
+    // Another option, another panorama: that is nowhere yet.
+    m_bench->press(QWizard::BackButton);
+    auto *trustsHead = m_bench->wizard().currentPage()->findChild<QAbstractButton *>(
+        QStringLiteral("m_noOptim"));
+    trustsHead->click();
+    m_bench->press(QWizard::NextButton);
+    QVERIFY(!widget<QPushButton>("m_openHugin")->isEnabled());
+    QVERIFY(page()->isUnsaved());
+    QCOMPARE(page()->findChild<SavedList *>()->files(), QStringList());
+
+    // As it was; meanwhile the project was deleted.
+    m_bench->press(QWizard::BackButton);
+    trustsHead->click();
+    QVERIFY(QFile::remove(project));
+    m_bench->press(QWizard::NextButton);
+    QVERIFY(!widget<QPushButton>("m_openHugin")->isEnabled());
+    QVERIFY(!page()->isUnsaved());
+    QCOMPARE(page()->findChild<SavedList *>()->files(), files.mid(0, 1)); // the description
+
+    m_bench->press(QWizard::BackButton);
+    QVERIFY(QFile::remove(files.first()));
+    m_bench->press(QWizard::NextButton);
+    QVERIFY(page()->isUnsaved()); // nothing is left of it
+}
+
+void TestResult::noTwoControlsShareALetter()
+{
+    showResult(2);
+    QStringList texts;
+    for (const QAbstractButton *button : m_bench->wizard().findChildren<QAbstractButton *>()) {
+        if (button->isVisible()) {
+            texts += button->text();
+        }
+    }
+    const auto *views = widget<QTabWidget>("m_views");
+    for (int i = 0; i < views->count(); ++i) {
+        texts += views->tabText(i);
+    }
+    QHash<QString, QString> owners;
+    for (const QString &text : qAsConst(texts)) {
+        const QKeySequence key = QKeySequence::mnemonic(text);
+        if (!key.isEmpty()) {
+            QVERIFY2(!owners.contains(key.toString()),
+                     qPrintable(text + QLatin1Char('/') + owners.value(key.toString())));
+            owners.insert(key.toString(), text);
+        }
+    }
+    QVERIFY(owners.size() >= 9); // five buttons, the views, the wizard's own
 }
 
 TEST_CLASS(TestResult, PanoHostApplication)
