@@ -17,18 +17,13 @@ QString degrees(double value)
     return QStringLiteral("%1").arg(value, 8, 'f', 2);
 }
 
-/** For each position the positions that it links to, as text. */
-QVector<QStringList> linkTargets(const Panorama &panorama)
+QString numbers(const QVector<int> &positions)
 {
-    QVector<QStringList> targets(panorama.positions.size());
-    for (const AuthorizedLink &link : panorama.description.authorizedLinks) {
-        const bool usable
-            = link.indices.size() == 2 && link.indices[0] >= 0 && link.indices[0] < targets.size();
-        if (usable) {
-            targets[link.indices[0]] += QString::number(link.indices[1]);
-        }
+    QStringList texts;
+    for (const int position : positions) {
+        texts += QString::number(position);
     }
-    return targets;
+    return texts.join(QLatin1Char(','));
 }
 
 QString photoNames(const Position &position, const QDir &folder)
@@ -52,15 +47,14 @@ QString panoramaTable(const Panorama &panorama, const QString &folder)
                             panorama.lens == LensModel::Fisheye ? QStringLiteral("fisheye")
                                                                 : QStringLiteral("standard"));
     text += QStringLiteral(" pos      yaw    pitch     roll  links to     photos\n");
-    const QVector<QStringList> targets = linkTargets(panorama);
+    const QVector<QVector<int>> targets = linkTargets(panorama);
     const QDir base(folder);
     for (int i = 0; i < panorama.positions.size(); ++i) {
         const Position &position = panorama.positions.at(i);
         text += QStringLiteral("%1 %2 %3 %4  %5 %6\n")
                     .arg(QString::number(i).rightJustified(4), degrees(position.yawDegrees),
                          degrees(position.pitchDegrees), degrees(position.rollDegrees),
-                         targets.at(i).join(QLatin1Char(',')).leftJustified(12),
-                         photoNames(position, base));
+                         numbers(targets.at(i)).leftJustified(12), photoNames(position, base));
     }
     return text;
 }

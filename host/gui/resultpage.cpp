@@ -5,9 +5,15 @@
 #include "host/check/findings.h"
 #include "host/gui/importwizard.h"
 #include "host/gui/layoutpicture.h"
+#include "host/gui/positionstable.h"
+#include "host/gui/savedlist.h"
+#include "host/import/proposedplace.h"
 #include "host/model/panoramajson.h"
 #include "host/model/ptoproject.h"
+#include "host/model/safefile.h"
 
+#include <QCryptographicHash>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHBoxLayout>
@@ -17,7 +23,10 @@
 #include <QPushButton>
 #include <QStandardPaths>
 #include <QStyle>
+#include <QTabWidget>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace PanoHost
 {
@@ -81,6 +90,13 @@ QStringList troubles(const Panorama &panorama)
     return texts;
 }
 
+/** The same for the same description of the same photos, wherever it was saved. */
+QByteArray identityOf(Panorama panorama)
+{
+    panorama.project.reset();
+    return QCryptographicHash::hash(panoramaToJson(panorama, {}), QCryptographicHash::Sha1);
+}
+
 QString summary(const Panorama &panorama)
 {
     const QStringList lines{ countsText(panorama), lensText(panorama),
@@ -118,19 +134,28 @@ void ResultPage::createWidgets()
     m_remarks->setObjectName(QStringLiteral("m_remarks"));
     m_remarks->setTextFormat(Qt::PlainText);
     m_remarks->setWordWrap(true);
-    m_saved = new QLabel;
+    m_saved = new SavedList;
     m_saved->setObjectName(QStringLiteral("m_saved"));
-    m_saved->setTextFormat(Qt::PlainText);
-    m_saved->setWordWrap(true);
     m_layout = new LayoutPicture;
+    m_table = new PositionsTable;
+    m_table->setObjectName(QStringLiteral("m_table"));
+    m_views = new QTabWidget;
+    m_views->setObjectName(QStringLiteral("m_views"));
+    m_views->setAccessibleName(tr("Views of the panorama"));
+    m_views->addTab(m_layout, tr("Pictu&re"));
+    m_views->addTab(m_table, tr("P&ositions"));
     m_saveProject = new QPushButton(tr("Save &project..."));
     m_saveProject->setObjectName(QStringLiteral("m_saveProject"));
     m_saveJson = new QPushButton(tr("Save &description..."));
     m_saveJson->setObjectName(QStringLiteral("m_saveJson"));
-    m_openHugin = new QPushButton(tr("Open in &Hugin"));
+    m_saveTable = new QPushButton(tr("Save &table..."));
+    m_saveTable->setObjectName(QStringLiteral("m_saveTable"));
+    m_openHugin = new QPushButton(tr("Open in Hu&gin"));
     m_openHugin->setObjectName(QStringLiteral("m_openHugin"));
     connect(m_saveProject, &QPushButton::clicked, this, &ResultPage::askForProject);
     connect(m_saveJson, &QPushButton::clicked, this, &ResultPage::askForJson);
+    connect(m_saveTable, &QPushButton::clicked, this, &ResultPage::askForTable);
+    connect(m_table, &PositionsTable::positionSelected, this, &ResultPage::positionSelected);
     connect(m_openHugin, &QPushButton::clicked, this, &ResultPage::openInHugin);
 
     auto *warningTexts = new QVBoxLayout;
@@ -142,12 +167,13 @@ void ResultPage::createWidgets()
     auto *buttonRow = new QHBoxLayout;
     buttonRow->addWidget(m_saveProject);
     buttonRow->addWidget(m_saveJson);
+    buttonRow->addWidget(m_saveTable);
     buttonRow->addWidget(m_openHugin);
     buttonRow->addStretch();
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_summary);
     layout->addLayout(warningRow);
-    layout->addWidget(m_layout, 1);
+    layout->addWidget(m_views, 1);
     layout->addLayout(buttonRow);
     layout->addWidget(m_saved);
 }
@@ -155,12 +181,31 @@ void ResultPage::createWidgets()
 void ResultPage::initializePage()
 {
     const auto *import = qobject_cast<const ImportWizard *>(wizard());
-    m_projectPath.clear();
-    m_somethingSaved = false;
-    m_saved->clear();
+    m_folder.clear();
     m_openHugin->setVisible(!QStandardPaths::findExecutable(QStringLiteral("hugin")).isEmpty());
-    m_openHugin->setEnabled(false);
     showPanorama(import->panorama());
+    recallFiles();
+}
+
+/** Whoever goes back and comes again with the same panorama has saved it already. */
+void ResultPage::recallFiles()
+{
+    m_files = m_panorama ? m_memory.value(identityOf(*m_panorama)) : SavedFiles();
+    QStringList &paths = m_files.paths;
+    paths.erase(std::remove_if(paths.begin(), paths.end(),
+                               [](const QString &path) { return !QFileInfo::exists(path); }),
+                paths.end());
+    m_saved->clear();
+    for (const QString &path : qAsConst(paths)) {
+        m_saved->addFile(path);
+    }
+    if (m_files.project && !QFileInfo::exists(m_files.project->path)) {
+        m_files.project.reset();
+    }
+    if (m_panorama) {
+        m_panorama->project = m_files.project;
+    }
+    m_openHugin->setEnabled(m_files.project.has_value());
 }
 
 bool ResultPage::confirmUnsaved()
@@ -171,7 +216,7 @@ bool ResultPage::confirmUnsaved()
     if (answer == QMessageBox::Save) {
         askForProject();
     }
-    return answer == QMessageBox::Discard || m_somethingSaved;
+    return answer == QMessageBox::Discard || !isUnsaved();
 }
 
 void ResultPage::showPanorama(const Result<Panorama> &panorama)
@@ -190,8 +235,10 @@ void ResultPage::showPanorama(const Result<Panorama> &panorama)
     setRemarks({});
     m_summary->setText(panorama ? summary(panorama.value()) : tr("Nothing that can be saved."));
     m_layout->show(panorama ? layoutScene(panorama.value()) : LayoutScene{});
+    m_table->setPanorama(panorama ? panorama.value() : Panorama());
     m_saveProject->setEnabled(panorama.ok());
     m_saveJson->setEnabled(panorama.ok());
+    m_saveTable->setEnabled(panorama.ok());
 }
 
 void ResultPage::setRemarks(const QStringList &remarks)
@@ -212,8 +259,8 @@ bool ResultPage::saveProject(const QString &path)
         showSaved(project.error());
         return false;
     }
-    m_panorama->project = ProjectReference{ path, project.value().yawCentreDegrees };
-    m_projectPath = path;
+    m_files.project = ProjectReference{ path, project.value().yawCentreDegrees };
+    m_panorama->project = m_files.project;
     m_openHugin->setEnabled(true);
     showSaved(path);
     return true;
@@ -229,49 +276,83 @@ bool ResultPage::saveJson(const QString &path)
     return written.ok();
 }
 
+bool ResultPage::saveTable(const QString &path)
+{
+    if (!m_panorama) {
+        return false;
+    }
+    const Result<QString> written = writeFileAtomically(path, m_table->csv());
+    showSaved(written);
+    return written.ok();
+}
+
+void ResultPage::setAlignment(const Alignment &alignment)
+{
+    m_table->setAlignment(alignment);
+}
+
+void ResultPage::selectPosition(int position)
+{
+    m_table->selectPosition(position);
+}
+
 void ResultPage::showSaved(const Result<QString> &saved)
 {
-    m_somethingSaved = m_somethingSaved || saved.ok();
-    m_saved->setText(saved ? tr("Saved %1").arg(saved.value())
-                           : tr("Not saved: %1").arg(saved.error().text()));
+    if (saved) {
+        m_files.paths += saved.value();
+        m_memory.insert(identityOf(*m_panorama), m_files);
+        m_saved->addFile(saved.value());
+    } else {
+        m_saved->addProblem(tr("Not saved: %1").arg(saved.error().text()));
+    }
 }
 
 void ResultPage::askForProject()
 {
-    const QString path
-        = askForFile(tr("Save the project"), QStringLiteral("pto"), tr("Hugin projects (*.pto)"));
-    if (!path.isEmpty()) {
-        saveProject(path);
-    }
+    askAndSave(tr("Save the project"), QStringLiteral("pto"), tr("Hugin projects (*.pto)"),
+               &ResultPage::saveProject);
 }
 
 void ResultPage::askForJson()
 {
-    const QString path = askForFile(tr("Save the description"), QStringLiteral("json"),
-                                    tr("Descriptions (*.json)"));
-    if (!path.isEmpty()) {
-        saveJson(path);
-    }
+    askAndSave(tr("Save the description"), QStringLiteral("json"), tr("Descriptions (*.json)"),
+               &ResultPage::saveJson);
 }
 
-QString ResultPage::askForFile(const QString &caption, const QString &suffix, const QString &filter)
+void ResultPage::askForTable()
 {
-    const QString photo = m_panorama->positions.first().photos.first().path;
-    const QString name = QStringLiteral("panorama.") + suffix;
-    QFileDialog dialog(this, caption, QFileInfo(photo).absolutePath(), filter);
+    askAndSave(tr("Save the table"), QStringLiteral("csv"), tr("Comma-separated values (*.csv)"),
+               &ResultPage::saveTable);
+}
+
+void ResultPage::askAndSave(const QString &caption, const QString &suffix, const QString &filter,
+                            bool (ResultPage::*save)(const QString &))
+{
+    const QString folder = m_folder.isEmpty() ? proposedFolder(*m_panorama) : m_folder;
+    // Dialogs open only in folders that are there.
+    const bool isMade = !QFileInfo::exists(folder) && QDir().mkpath(folder);
+    QFileDialog dialog(this, caption, folder, filter);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(suffix);
-    dialog.selectFile(name);
+    dialog.selectFile(proposedName(*m_panorama) + QLatin1Char('.') + suffix);
     dialog.setOption(QFileDialog::DontUseNativeDialog,
                      !m_app.UIInstances()->settings->useSystemFileDialog);
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    if (dialog.exec() == QDialog::Accepted) {
+        const QString path = dialog.selectedFiles().value(0);
+        if ((this->*save)(path)) {
+            m_folder = QFileInfo(path).absolutePath();
+        }
+    }
+    if (isMade) {
+        QDir().rmdir(folder); // unless something is in it now
+    }
 }
 
 void ResultPage::openInHugin()
 {
-    if (!QProcess::startDetached(QStringLiteral("hugin"), { m_projectPath })) {
-        m_saved->setText(tr("Hugin could not be started. Is it installed? Try to open the "
-                            "saved project from Hugin itself."));
+    if (!QProcess::startDetached(QStringLiteral("hugin"), { m_files.project->path })) {
+        m_saved->addProblem(tr("Hugin could not be started. Is it installed? Try to open the "
+                               "saved project from Hugin itself."));
     }
 }
 

@@ -2,20 +2,25 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "host/align/alignment.h"
 #include "host/model/panorama.h"
 #include "host/plugin/panohostapplication.h"
 
+#include <QHash>
 #include <QWizardPage>
 
 #include <optional>
 
 class QLabel;
 class QPushButton;
+class QTabWidget;
 
 namespace PanoHost
 {
 
 class LayoutPicture;
+class PositionsTable;
+class SavedList;
 
 /** The last page: what was delivered, and saving it. */
 class ResultPage : public QWizardPage
@@ -35,34 +40,58 @@ public:
     /** What was found out about the shoot, before or after this page was entered. */
     void setRemarks(const QStringList &remarks);
     /** There is something that has been saved nowhere. */
-    [[nodiscard]] bool isUnsaved() const { return m_panorama && !m_somethingSaved; }
+    [[nodiscard]] bool isUnsaved() const { return m_panorama && m_files.paths.isEmpty(); }
 
-    /** Writes the project or the description; shows what happened. False when it failed. */
+    /** Writes the project, the description or the table; shows what happened. False when it failed.
+     */
     bool saveProject(const QString &path);
     bool saveJson(const QString &path);
+    bool saveTable(const QString &path);
+
+    /** Where an alignment of this panorama has put the photos; until then it is not known. */
+    void setAlignment(const Alignment &alignment);
+    /** Shows \p position, counted from 0, as selected. */
+    void selectPosition(int position);
+
+Q_SIGNALS:
+    /** The user has selected \p position, counted from 0. */
+    void positionSelected(int position);
 
 private:
+    struct SavedFiles {
+        QStringList paths; ///< in the order in which they were saved
+        std::optional<ProjectReference> project; ///< the last one among them
+    };
+
     void createWidgets();
     void showPanorama(const Result<Panorama> &panorama);
+    void recallFiles();
     void showSaved(const Result<QString> &saved);
     void askForProject();
     void askForJson();
+    void askForTable();
     void openInHugin();
-    [[nodiscard]] QString askForFile(const QString &caption, const QString &suffix,
-                                     const QString &filter);
+    /** In the folder of what was saved last, or else in the proposed one. */
+    void askAndSave(const QString &caption, const QString &suffix, const QString &filter,
+                    bool (ResultPage::*save)(const QString &path));
 
     PanoHostApplication &m_app;
     std::optional<Panorama> m_panorama;
-    QString m_projectPath;
-    bool m_somethingSaved = false;
+    /** What was saved of each panorama, by what tells it from others. */
+    QHash<QByteArray, SavedFiles> m_memory;
+    SavedFiles m_files; ///< of the one shown
+    QString m_folder; ///< where files of this panorama go; empty: not chosen yet
     QLabel *m_summary = nullptr;
     QLabel *m_warnings = nullptr;
     QLabel *m_warningIcon = nullptr;
     QLabel *m_remarks = nullptr;
-    QLabel *m_saved = nullptr;
+    SavedList *m_saved = nullptr;
+    QTabWidget *m_views = nullptr;
     LayoutPicture *m_layout = nullptr;
+    PositionsTable *m_table = nullptr;
     QPushButton *m_saveProject = nullptr;
     QPushButton *m_saveJson = nullptr;
+    QPushButton *m_saveTable = nullptr;
     QPushButton *m_openHugin = nullptr;
 };
 

@@ -224,4 +224,17 @@ int photoCount(const Panorama &panorama)
     return photos;
 }
 
+QVector<QVector<int>> linkTargets(const Panorama &panorama)
+{
+    QVector<QVector<int>> targets(panorama.positions.size());
+    for (const AuthorizedLink &link : panorama.description.authorizedLinks) {
+        const bool usable
+            = link.indices.size() == 2 && link.indices[0] >= 0 && link.indices[0] < targets.size();
+        if (usable) {
+            targets[link.indices[0]] += link.indices[1];
+        }
+    }
+    return targets;
+}
+
 } // namespace PanoHost

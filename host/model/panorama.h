@@ -109,4 +109,8 @@ using PhotoLookup = std::function<Result<PhotoInfo>(const QString &path)>;
 /** The number of photos of all positions. */
 [[nodiscard]] int photoCount(const Panorama &panorama);
 
+/** For each position the positions that its links lead to, as they are described: each link stands
+ * at one end, and those of grids may lead to cells without a position. */
+[[nodiscard]] QVector<QVector<int>> linkTargets(const Panorama &panorama);
+
 } // namespace PanoHost

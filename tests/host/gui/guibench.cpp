@@ -18,6 +18,8 @@
 #include <QUrl>
 #include <QtTest>
 
+#include <functional>
+
 using namespace PanoHost;
 
 namespace
@@ -27,6 +29,20 @@ namespace
 QDateTime shotTime(int shot)
 {
     return QDateTime({ 2024, 5, 1 }, { 10, 0 }, Qt::UTC).addSecs(4 * shot + (shot * shot) % 3);
+}
+
+/** Calls \p act once, with the field for the name. */
+void inNextFileDialog(const std::function<void(QLineEdit *edit)> &act)
+{
+    auto *timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, act] {
+        const auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        if (dialog != nullptr) {
+            timer->deleteLater();
+            act(dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit")));
+        }
+    });
+    timer->start(0);
 }
 
 } // namespace
@@ -130,18 +146,21 @@ void GuiBench::choose(const char *head) const
 
 void GuiBench::answerFileDialog(const QString &file)
 {
-    auto *timer = new QTimer(qApp);
-    QObject::connect(timer, &QTimer::timeout, timer, [timer, file] {
-        const auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
-        if (dialog != nullptr) {
-            timer->deleteLater();
-            auto *edit = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
-            edit->selectAll();
-            QTest::keyClicks(edit, file);
-            QTest::keyClick(edit, Qt::Key_Return);
-        }
+    inNextFileDialog([file](QLineEdit *edit) {
+        edit->selectAll();
+        QTest::keyClicks(edit, file);
+        QTest::keyClick(edit, Qt::Key_Return);
     });
-    timer->start(0);
+}
+
+void GuiBench::acceptFileDialog()
+{
+    inNextFileDialog([](QLineEdit *edit) { QTest::keyClick(edit, Qt::Key_Return); });
+}
+
+void GuiBench::cancelFileDialog()
+{
+    inNextFileDialog([](QLineEdit *edit) { QTest::keyClick(edit, Qt::Key_Escape); });
 }
 
 bool GuiBench::isNextEnabled() const

@@ -39,6 +39,9 @@ public:
 
     /** Types \p file into the next file dialog and presses Enter. */
     static void answerFileDialog(const QString &file);
+    /** Presses Enter in the next file dialog, as it stands; or Esc. */
+    static void acceptFileDialog();
+    static void cancelFileDialog();
 
     [[nodiscard]] bool isNextEnabled() const;
     /** With the mouse. */

@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "host/model/ptofile.h"
+
+#include <optional>
+#include <vector>
+
+namespace PanoHost
+{
+
+/** How far the control points of each image of \p project land from their matches, as the project
+ * places the images now: the median in pixels. Nothing for images without right points. */
+[[nodiscard]] std::vector<std::optional<double>> photoResiduals(const PtoFile &project);
+
+} // namespace PanoHost

@@ -1,0 +1,434 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/gui/positionstable.h"
+#include "host/gui/resultpage.h"
+#include "host/gui/savedlist.h"
+#include "host/model/photofile.h"
+#include "tests/host/gui/guibench.h"
+#include "tests/host/testpanoramas.h"
+#include "tests/host/testphotos.h"
+#include "tests/support/testprogram.h"
+
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFile>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QtTest>
+
+using namespace PanoHost;
+
+namespace
+{
+
+/** Comma-separated values read by the book: fields in quotes may hold anything, quotes doubled. */
+QVector<QStringList> readCsv(const QByteArray &bytes)
+{
+    QVector<QStringList> lines;
+    QStringList line;
+    QByteArray field;
+    bool isQuoted = false;
+    for (int i = 0; i < bytes.size(); ++i) {
+        const char c = bytes.at(i);
+        if (isQuoted) {
+            if (c != '"') {
+                field += c;
+            } else if (i + 1 < bytes.size() && bytes.at(i + 1) == '"') {
+                field += bytes.at(++i);
+            } else {
+                isQuoted = false;
+            }
+        } else if (c == '"') {
+            isQuoted = true;
+        } else if (c == ',') {
+            line += QString::fromUtf8(field);
+            field.clear();
+        } else if (c == '\r' && i + 1 < bytes.size() && bytes.at(i + 1) == '\n') {
+            ++i;
+            lines += line << QString::fromUtf8(field);
+            line.clear();
+            field.clear();
+        } else {
+            field += c;
+        }
+    }
+    if (isQuoted || !field.isEmpty() || !line.isEmpty()) {
+        qFatal("The last line has no end");
+    }
+    return lines;
+}
+
+} // namespace
+
+/** The page that shows what was delivered, and saves it. */
+class TestResult : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** Before the application. */
+    static void initMain() { initializePhotoReading(); }
+
+    /** In place of the desktop. */
+    Q_SLOT void openUrl(const QUrl &url) { m_opened += url; }
+
+private Q_SLOTS:
+    void init() { m_bench = std::make_unique<GuiBench>(); }
+    void cleanup()
+    {
+        m_bench.reset();
+        m_opened.clear();
+    }
+    void tableSortsByTheColumnClicked();
+    void tableIsSavedAsItIsSorted();
+    void tableTakesOddNames();
+    void selectedRowsAreCopied();
+    void selectedPositionsAreTold();
+    void alignmentShowsItsColumns();
+    void thousandsOfPositionsAreShown();
+    void resultsGoBesideThePhotos();
+    void cancelledSavingLeavesNoFolder();
+    void everySavedFileIsListed();
+    void savedFilesAreShownInTheirFolder();
+    void savingMovesNothing();
+    void savedFilesAreRememberedAfterBack();
+    void noTwoControlsShareALetter();
+
+private:
+    /** To the page, with \p shots photos of a Papywizard in the folder "shoot". */
+    void showResult(int shots);
+    [[nodiscard]] ResultPage *page() const
+    {
+        return qobject_cast<ResultPage *>(m_bench->wizard().currentPage());
+    }
+    template <typename Widget> [[nodiscard]] Widget *widget(const char *name) const
+    {
+        return page()->findChild<Widget *>(QLatin1String(name));
+    }
+    [[nodiscard]] PositionsTable *table() const { return widget<PositionsTable>("m_table"); }
+    void showTable() const { widget<QTabWidget>("m_views")->setCurrentWidget(table()); }
+    void clickHeader(int column) const
+    {
+        QHeaderView *header = table()->horizontalHeader();
+        const int x = header->sectionViewportPosition(column) + header->sectionSize(column) / 2;
+        QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, { x, header->height() / 2 });
+    }
+    void click(const char *button) const
+    {
+        QTest::mouseClick(widget<QPushButton>(button), Qt::LeftButton);
+    }
+    [[nodiscard]] QStringList column(int column) const
+    {
+        QStringList texts;
+        for (int row = 0; row < table()->model()->rowCount(); ++row) {
+            texts += table()->model()->index(row, column).data().toString();
+        }
+        return texts;
+    }
+
+    std::unique_ptr<GuiBench> m_bench;
+    QVector<QUrl> m_opened;
+};
+
+void TestResult::showResult(int shots)
+{
+    QStringList files;
+    for (int shot = 0; shot < shots; ++shot) {
+        files += m_bench->photo(QStringLiteral("shoot/IMG_%1.jpg").arg(shot + 1), shot);
+    }
+    files += m_bench->record(shots, "papywizard", QStringLiteral("shoot/evening.xml"));
+    m_bench->drop(files);
+    QTRY_VERIFY(m_bench->isSettled() && m_bench->isNextEnabled());
+    m_bench->press(QWizard::NextButton);
+    QVERIFY(page());
+}
+
+void TestResult::tableSortsByTheColumnClicked()
+{
+    showResult(3);
+    showTable();
+    QCOMPARE(column(PositionsModel::Number),
+             QStringList({ QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3") }));
+    QCOMPARE(
+        column(PositionsModel::Yaw),
+        QStringList({ QStringLiteral("0.00"), QStringLiteral("10.00"), QStringLiteral("20.00") }));
+    clickHeader(PositionsModel::Yaw);
+    clickHeader(PositionsModel::Yaw); // once more: falling
+    QCOMPARE(column(PositionsModel::Number),
+             QStringList({ QStringLiteral("3"), QStringLiteral("2"), QStringLiteral("1") }));
+    m_bench->picture(QStringLiteral("result-table"));
+}
+
+void TestResult::tableIsSavedAsItIsSorted()
+{
+    showResult(3);
+    showTable();
+    clickHeader(PositionsModel::Number);
+    const QString path = m_bench->path(QStringLiteral("table.csv"));
+    GuiBench::answerFileDialog(path);
+    click("m_saveTable");
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QByteArray bytes = file.readAll();
+    QVERIFY(bytes.startsWith("\xef\xbb\xbf"));
+    const QVector<QStringList> lines = readCsv(bytes.mid(3));
+    QCOMPARE(lines.size(), 4);
+    QCOMPARE(lines.at(0).value(2), QStringLiteral("yaw_deg"));
+    QCOMPARE(lines.at(1).value(0), QStringLiteral("3"));
+    QCOMPARE(lines.at(1).value(1), QStringLiteral("IMG_3.jpg"));
+    QVERIFY(qAbs(lines.at(1).value(2).toDouble() - 20.0) < 1e-4);
+    QCOMPARE(lines.at(3).value(11), QStringLiteral("2024-05-01T10:00:00"));
+    for (const QStringList &line : lines) {
+        QCOMPARE(line.size(), lines.first().size());
+    }
+}
+
+void TestResult::tableTakesOddNames()
+{
+    const QStringList names{ QStringLiteral("a,b.jpg"),  QStringLiteral("\"a\".jpg"),
+                             QStringLiteral("a\nb.jpg"), QStringLiteral("a\r\nb.jpg"),
+                             QStringLiteral("é.jpg"),    QStringLiteral("\",\".jpg") };
+    Panorama panorama;
+    for (const QString &name : names) {
+        panorama.positions
+            += TestPanoramas::positionAt(1.5, 0, { TestPanoramas::photoNamed(name) });
+    }
+    PositionsTable table;
+    table.setPanorama(panorama);
+    const QVector<QStringList> lines = readCsv(table.csv().mid(3));
+    QCOMPARE(lines.size(), names.size() + 1);
+    for (int i = 0; i < names.size(); ++i) {
+        QCOMPARE(lines.at(i + 1).value(1), names.at(i));
+        QCOMPARE(lines.at(i + 1).value(2), QStringLiteral("1.500000"));
+    }
+}
+
+void TestResult::selectedRowsAreCopied()
+{
+    showResult(3);
+    showTable();
+    table()->setFocus();
+    table()->selectRow(1);
+    QTest::keyClick(table(), Qt::Key_Down, Qt::ShiftModifier);
+    QTest::keyClick(table(), Qt::Key_C, Qt::ControlModifier);
+    QTest::keyRelease(table(), Qt::Key_Control);
+    const QStringList lines
+        = QGuiApplication::clipboard()->text().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    QCOMPARE(lines.size(), 2);
+    // Without the columns that are not shown.
+    QVERIFY2(lines.at(0).startsWith(QLatin1String("2\tIMG_2.jpg\t10.00\t0.00\t0.00\t2024-05-01 ")),
+             qPrintable(lines.at(0)));
+    QVERIFY(lines.at(1).startsWith(QLatin1String("3\tIMG_3.jpg\t20.00\t")));
+}
+
+void TestResult::selectedPositionsAreTold()
+{
+    showResult(3);
+    showTable();
+    clickHeader(PositionsModel::Number); // falling
+    QSignalSpy selected(page(), &ResultPage::positionSelected);
+    const QPoint first = table()->visualRect(table()->model()->index(0, 1)).center();
+    QTest::mouseClick(table()->viewport(), Qt::LeftButton, {}, first);
+    QCOMPARE(selected.size(), 1);
+    QCOMPARE(selected.first().first().toInt(), 2);
+    page()->selectPosition(0);
+    QCOMPARE(selected.size(), 1);
+    const QModelIndexList rows = table()->selectionModel()->selectedRows();
+    QCOMPARE(rows.size(), 1);
+    QCOMPARE(rows.first().row(), 2); // the last one, as it is sorted
+    page()->selectPosition(99);
+    QVERIFY(!table()->selectionModel()->hasSelection());
+}
+
+void TestResult::alignmentShowsItsColumns()
+{
+    showResult(3);
+    showTable();
+    QVERIFY(table()->isColumnHidden(PositionsModel::AlignedYaw));
+    QVERIFY(table()->isColumnHidden(PositionsModel::Residual));
+    Result<PtoFile> project = projectOf(*page()->panorama());
+    QVERIFY(project.ok());
+    Alignment alignment{ std::move(project).value(), {} };
+    alignment.project.place(1, { { 12.5, 0.0, 0.0 }, {} });
+    page()->setAlignment(alignment);
+    QVERIFY(!table()->isColumnHidden(PositionsModel::AlignedYaw));
+    QCOMPARE(column(PositionsModel::AlignedYaw).at(1), QStringLiteral("12.500"));
+    m_bench->picture(QStringLiteral("result-table-aligned"));
+    m_bench->press(QWizard::BackButton);
+    m_bench->press(QWizard::NextButton);
+    QVERIFY(table()->isColumnHidden(PositionsModel::AlignedYaw)); // of the delivery before
+}
+
+void TestResult::thousandsOfPositionsAreShown()
+{
+    constexpr int kMany = 10000;
+    PositionsTable table;
+    table.resize(700, 400);
+    table.setPanorama(TestPanoramas::row(kMany));
+    table.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&table));
+    table.sortByColumn(PositionsModel::Yaw, Qt::DescendingOrder);
+    QCOMPARE(table.model()->index(0, PositionsModel::Number).data().toInt(), kMany);
+    table.selectPosition(4321);
+    const QModelIndex current = table.currentIndex();
+    QCOMPARE(current.siblingAtColumn(PositionsModel::Number).data().toInt(), 4322);
+    QVERIFY(table.viewport()->rect().contains(table.visualRect(current).center()));
+}
+
+void TestResult::resultsGoBesideThePhotos()
+{
+    showResult(3);
+    const QString folder = m_bench->path(QStringLiteral("shoot panorama"));
+    QVERIFY(!QFileInfo::exists(folder));
+    GuiBench::acceptFileDialog();
+    click("m_saveProject");
+    QVERIFY(QFileInfo(folder + QStringLiteral("/evening.pto")).isFile());
+    GuiBench::answerFileDialog(m_bench->path(QStringLiteral("other.json")));
+    click("m_saveJson");
+    // From now on there.
+    GuiBench::acceptFileDialog();
+    click("m_saveTable");
+    QVERIFY(QFileInfo(m_bench->path(QStringLiteral("evening.csv"))).isFile());
+}
+
+void TestResult::cancelledSavingLeavesNoFolder()
+{
+    showResult(2);
+    GuiBench::cancelFileDialog();
+    click("m_saveProject");
+    QVERIFY(!QFileInfo::exists(m_bench->path(QStringLiteral("shoot panorama"))));
+    QVERIFY(page()->isUnsaved());
+}
+
+void TestResult::everySavedFileIsListed()
+{
+    showResult(2);
+    const auto *saved = page()->findChild<SavedList *>();
+    const auto path = [this](const char *name) { return m_bench->path(QLatin1String(name)); };
+    QVERIFY(page()->saveProject(path("a.pto")));
+    QVERIFY(page()->saveJson(path("a.json")));
+    QVERIFY(page()->saveTable(path("a.csv")));
+    QCOMPARE(saved->files(), QStringList({ path("a.csv"), path("a.json"), path("a.pto") }));
+    // The same once more is the last one again; a failure takes nobody's place.
+    QVERIFY(page()->saveProject(path("a.pto")));
+    QVERIFY(!page()->saveJson(path("nosuch/b.json")));
+    QCOMPARE(saved->files(), QStringList({ path("a.pto"), path("a.csv"), path("a.json") }));
+    QVERIFY(widget<QLabel>("m_problem")->isVisible());
+    // Rows that find no room are scrolled to, not squeezed.
+    const auto *show = widget<QPushButton>("m_show");
+    QTRY_COMPARE(show->height(), show->sizeHint().height());
+    m_bench->picture(QStringLiteral("result-saved"));
+    QVERIFY(page()->saveJson(path("b.json")));
+    QVERIFY(!widget<QLabel>("m_problem")->isVisible());
+    QCOMPARE(page()->findChildren<QPushButton *>(QStringLiteral("m_show")).size(), 4);
+}
+
+void TestResult::savedFilesAreShownInTheirFolder()
+{
+    showResult(2);
+    QDir(m_bench->path({})).mkdir(QStringLiteral("a b#c"));
+    QVERIFY(page()->saveProject(m_bench->path(QStringLiteral("a b#c/a.pto"))));
+    QCoreApplication::processEvents();
+    QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "openUrl");
+    auto *show = widget<QPushButton>("m_show");
+    QCOMPARE(show->accessibleName(), QStringLiteral("Show a.pto in its folder"));
+    show->setFocus();
+    QTest::keyClick(show, Qt::Key_Space);
+    QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+    QCOMPARE(m_opened,
+             QVector<QUrl>{ QUrl::fromLocalFile(m_bench->path(QStringLiteral("a b#c"))) });
+    QVERIFY(QDir(m_bench->path(QStringLiteral("a b#c"))).removeRecursively());
+    QTest::mouseClick(show, Qt::LeftButton);
+    QVERIFY(widget<QLabel>("m_problem")->text().contains(QLatin1String("not there any more")));
+}
+
+void TestResult::savingMovesNothing()
+{
+    showResult(2);
+    const auto places = [this] {
+        QVector<QRect> found;
+        for (const char *name : { "m_views", "m_saveProject", "m_openHugin", "m_saved" }) {
+            found += widget<QWidget>(name)->geometry();
+        }
+        return found;
+    };
+    QCoreApplication::processEvents();
+    const QVector<QRect> before = places();
+    for (int i = 0; i < 5; ++i) {
+        QVERIFY(page()->saveJson(m_bench->path(QStringLiteral("%1.json").arg(i))));
+    }
+    QVERIFY(!page()->saveJson(m_bench->path(QStringLiteral("nosuch/%1.json"))));
+    QCoreApplication::processEvents();
+    QCOMPARE(places(), before);
+}
+
+void TestResult::savedFilesAreRememberedAfterBack()
+{
+    showResult(2);
+    const QString project = m_bench->path(QStringLiteral("a.pto"));
+    QVERIFY(!widget<QPushButton>("m_openHugin")->isEnabled());
+    QVERIFY(page()->saveProject(project));
+    QVERIFY(page()->saveJson(m_bench->path(QStringLiteral("a.json"))));
+    const QStringList files = page()->findChild<SavedList *>()->files();
+    m_bench->press(QWizard::BackButton);
+    m_bench->press(QWizard::NextButton);
+    QVERIFY(widget<QPushButton>("m_openHugin")->isEnabled());
+    QCOMPARE(page()->findChild<SavedList *>()->files(), files);
+    QVERIFY(!page()->isUnsaved());
+    QVERIFY(page()->panorama()->project.has_value());
+
+    // Another option, another panorama: that is nowhere yet.
+    m_bench->press(QWizard::BackButton);
+    auto *trustsHead = m_bench->wizard().currentPage()->findChild<QAbstractButton *>(
+        QStringLiteral("m_noOptim"));
+    trustsHead->click();
+    m_bench->press(QWizard::NextButton);
+    QVERIFY(!widget<QPushButton>("m_openHugin")->isEnabled());
+    QVERIFY(page()->isUnsaved());
+    QCOMPARE(page()->findChild<SavedList *>()->files(), QStringList());
+
+    // As it was; meanwhile the project was deleted.
+    m_bench->press(QWizard::BackButton);
+    trustsHead->click();
+    QVERIFY(QFile::remove(project));
+    m_bench->press(QWizard::NextButton);
+    QVERIFY(!widget<QPushButton>("m_openHugin")->isEnabled());
+    QVERIFY(!page()->isUnsaved());
+    QCOMPARE(page()->findChild<SavedList *>()->files(), files.mid(0, 1)); // the description
+
+    m_bench->press(QWizard::BackButton);
+    QVERIFY(QFile::remove(files.first()));
+    m_bench->press(QWizard::NextButton);
+    QVERIFY(page()->isUnsaved()); // nothing is left of it
+}
+
+void TestResult::noTwoControlsShareALetter()
+{
+    showResult(2);
+    QStringList texts;
+    for (const QAbstractButton *button : m_bench->wizard().findChildren<QAbstractButton *>()) {
+        if (button->isVisible()) {
+            texts += button->text();
+        }
+    }
+    const auto *views = widget<QTabWidget>("m_views");
+    for (int i = 0; i < views->count(); ++i) {
+        texts += views->tabText(i);
+    }
+    QHash<QString, QString> owners;
+    for (const QString &text : qAsConst(texts)) {
+        const QKeySequence key = QKeySequence::mnemonic(text);
+        if (!key.isEmpty()) {
+            QVERIFY2(!owners.contains(key.toString()),
+                     qPrintable(text + QLatin1Char('/') + owners.value(key.toString())));
+            owners.insert(key.toString(), text);
+        }
+    }
+    QVERIFY(owners.size() >= 9); // five buttons, the views, the wizard's own
+}
+
+TEST_CLASS(TestResult, PanoHostApplication)
+#include "tst_gui_result.moc"
