@@ -54,8 +54,9 @@ ExitCode runWindow(Session &session, const QStringList &arguments)
     QObject::connect(&session.interrupt, &Interrupt::interrupted, &wizard,
                      [&wizard] { wizard.done(QDialog::Rejected); });
     wizard.show();
+    wizard.activateWindow();
     if (!line.positional().isEmpty()) {
-        wizard.fillIn(line.positional());
+        wizard.fillInWhenActive(line.positional());
     }
     QApplication::exec();
     Interrupt::check();

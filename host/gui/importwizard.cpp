@@ -196,6 +196,26 @@ void ImportWizard::fillIn(const QStringList &files)
     });
 }
 
+void ImportWizard::fillInWhenActive(const QStringList &files)
+{
+    m_waiting = files;
+    if (isActiveWindow()) {
+        fillInWaiting();
+        return;
+    }
+    activateWindow();
+    // Desktops may leave the keyboard with the window where the user is writing.
+    constexpr int kPatienceMs = 2000;
+    QTimer::singleShot(kPatienceMs, this, &ImportWizard::fillInWaiting);
+}
+
+void ImportWizard::fillInWaiting()
+{
+    if (!m_waiting.isEmpty()) {
+        fillIn(std::exchange(m_waiting, {}));
+    }
+}
+
 void ImportWizard::take(GivenFiles given)
 {
     if (currentId() == kResultId) {
@@ -284,6 +304,8 @@ bool ImportWizard::eventFilter(QObject *watched, QEvent *event)
         makeRoom();
     } else if (event->type() == QEvent::Show) {
         followPhotoDialogs(watched);
+    } else if (event->type() == QEvent::WindowActivate && watched == this) {
+        QTimer::singleShot(0, this, &ImportWizard::fillInWaiting);
     }
     return QWizard::eventFilter(watched, event);
 }

@@ -49,6 +49,8 @@ public:
      * among them. What lies in folders follows later.
      */
     void fillIn(const QStringList &files);
+    /** The same once the keyboard is this window's: the dialogs of pages would keep it from it. */
+    void fillInWhenActive(const QStringList &files);
 
     [[nodiscard]] bool validateCurrentPage() override;
     /** What the last Next of a plug-in's page made; the reason when it cannot be used. */
@@ -67,6 +69,7 @@ protected:
 private:
     void keepPages();
     void setUpStrip();
+    void fillInWaiting();
     void take(GivenFiles given);
     void giveTo(const GivenFiles &given);
     void goTo(int plugin);
@@ -101,6 +104,7 @@ private:
     FileDrop *m_drop;
     ReportRunner *m_gatherer; ///< looks into folders
     QVector<PageKeeper *> m_keepers; ///< one for each plug-in; null: it has no page
+    QStringList m_waiting; ///< to be filled in
     std::optional<bool> m_wantsOpenStrip; ///< nothing: the user has not said
 };
 

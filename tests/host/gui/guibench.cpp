@@ -44,7 +44,7 @@ GuiBench::~GuiBench()
     m_library.reset();
 }
 
-void GuiBench::reopen()
+void GuiBench::reopen(const Start &start)
 {
     m_wizard.reset();
     m_library.reset();
@@ -52,6 +52,9 @@ void GuiBench::reopen()
     m_wizard = std::make_unique<ImportWizard>(*PanoHostApplication::instance(), *m_library);
     m_wizard->resize(m_size);
     m_wizard->show();
+    if (start) {
+        start(*m_wizard);
+    }
     (void)QTest::qWaitForWindowExposed(m_wizard.get());
 }
 
