@@ -10,7 +10,6 @@
 #include "host/gui/resultpage.h"
 #include "host/gui/shootdesk.h"
 #include "host/gui/shootstrip.h"
-#include "host/import/givenfiles.h"
 #include "host/import/importjob.h"
 
 #include <QAbstractButton>
@@ -51,6 +50,18 @@ QString geometryKey()
     return QStringLiteral("wizardGeometry");
 }
 
+/** Whether the window need not be kept alive while somebody looks at \p paths. */
+bool isSoonLookedAt(const QStringList &paths)
+{
+    constexpr int kMostPaths = 100;
+    constexpr qint64 kMostRecordBytes = 1 << 18;
+    return paths.size() <= kMostPaths
+        && std::none_of(paths.begin(), paths.end(), [](const QString &path) {
+               const QFileInfo file(path);
+               return file.isDir() || (isRecord(path) && file.size() > kMostRecordBytes);
+           });
+}
+
 } // namespace
 
 ImportWizard::ImportWizard(PanoHostApplication &app, const PluginLibrary &library, QWidget *parent)
@@ -79,7 +90,6 @@ ImportWizard::ImportWizard(PanoHostApplication &app, const PluginLibrary &librar
     setPage(kResultId, m_resultPage);
     setStartId(kChoiceId);
 
-    m_choicePage->choose(0);
     const QString last = app.ReadSetting(settingsGroup(), headKey(), QString()).toString();
     for (int i = 0; i < library.plugins().size(); ++i) {
         if (library.plugins().at(i).head() == last) {
@@ -184,14 +194,19 @@ int ImportWizard::nextId() const
 void ImportWizard::fillIn(const QStringList &files)
 {
     const QStringList paths = localPaths(files);
-    if (std::none_of(paths.begin(), paths.end(),
-                     [](const QString &path) { return QFileInfo(path).isDir(); })) {
+    const auto look = [paths](const JobWatch &watch) {
+        GivenFiles given = sortFiles(withoutFolders(paths, watch));
+        preferReadableRecord(given);
+        return given;
+    };
+    if (isSoonLookedAt(paths)) {
         m_gatherer->stop();
-        take(sortFiles(paths));
+        take(look({}));
         return;
     }
-    m_gatherer->start([this, paths](const JobWatch &watch) -> std::function<void()> {
-        const GivenFiles given = sortFiles(withoutFolders(paths, watch));
+    m_choicePage->setNothingGiven(true);
+    m_gatherer->start([this, look](const JobWatch &watch) -> std::function<void()> {
+        const GivenFiles given = look(watch);
         return [this, given] { take(given); };
     });
 }
@@ -227,16 +242,19 @@ void ImportWizard::take(GivenFiles given)
         QTimer::singleShot(kSoonMs, this, [this, given] { take(given); });
         return;
     }
-    preferReadableRecord(given);
     const int current = currentId() - kFirstPluginId;
     const bool isChoosing = currentId() == kChoiceId;
     int head = headFor(given, m_library.plugins(), isChoosing ? m_choicePage->chosen() : current);
-    if (!isChoosing && head != current && readerOf(given.record, nullptr) == nullptr) {
+    if (!isChoosing && head != current && given.reader == nullptr) {
         // Notes of somebody: no reason to go to another page.
         given.otherRecords += std::exchange(given.record, {});
         head = current;
     }
+    if (isChoosing && given.photos.isEmpty()) {
+        given.photos = m_held.photos;
+    }
     if (given.record.isEmpty() && given.photos.isEmpty()) {
+        m_choicePage->setNothingGiven();
         showMessage(QMessageBox::Information, tr("Files not taken"),
                     tr("Neither records nor photos are among these files."));
         return;
@@ -251,6 +269,12 @@ void ImportWizard::take(GivenFiles given)
     }
     QStringList photos = given.photos;
     if (isChoosing) {
+        m_choicePage->setGiven(given);
+        if (head < 0) {
+            m_held = given;
+            return;
+        }
+        m_held = {};
         m_choicePage->choose(head);
         if (keeper() == nullptr && m_keepers.value(head) != nullptr && !photos.isEmpty()) {
             m_keepers.value(head)->forgetKept();
@@ -399,6 +423,7 @@ bool ImportWizard::takeOtherRecord(const QStringList &files, const QFileDialog *
     if (given.photos.isEmpty()) {
         given.photos = page->photos();
     }
+    preferReadableRecord(given);
     connect(
         dialog, &QObject::destroyed, this, [this, given] { take(given); }, Qt::QueuedConnection);
     return true;
@@ -464,6 +489,9 @@ void ImportWizard::enterPage()
     } else {
         m_desk->setPage(page);
     }
+    if (page != nullptr && !m_held.photos.isEmpty()) {
+        giveTo(std::exchange(m_held, {}));
+    }
     makeRoom();
 }
 
@@ -499,6 +527,7 @@ void ImportWizard::importAnother()
         return;
     }
     restart();
+    m_choicePage->setNothingGiven();
     for (PageKeeper *page : qAsConst(m_keepers)) {
         if (page != nullptr) {
             page->forgetKept();

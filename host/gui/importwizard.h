@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "host/import/givenfiles.h"
 #include "host/model/delivery.h"
 #include "host/model/panorama.h"
 #include "host/plugin/panohostapplication.h"
@@ -25,7 +26,6 @@ class ReportRunner;
 class ResultPage;
 class ShootDesk;
 class ShootStrip;
-struct GivenFiles;
 
 /**
  * The import wizard: choose the head, work its plug-in's page, look at the result and save it.
@@ -45,8 +45,9 @@ public:
     /**
      * Fills \p files, paths or file URLs, into the page of a plug-in, as if the user had chosen
      * them there: the last one ending in ".xml" or ".txt" is the record, the others are photos.
-     * Goes to the page of a head that reads it first. Photos that were there stay when none are
-     * among them. What lies in folders follows later.
+     * Goes to the page of a head that reads it first; photos alone wait for the user to choose
+     * the head. Photos that were there stay when none are among them. What lies in folders, and
+     * what takes time to look at, follows later.
      */
     void fillIn(const QStringList &files);
     /** The same once the keyboard is this window's: the dialogs of pages would keep it from it. */
@@ -104,6 +105,7 @@ private:
     FileDrop *m_drop;
     ReportRunner *m_gatherer; ///< looks into folders
     QVector<PageKeeper *> m_keepers; ///< one for each plug-in; null: it has no page
+    GivenFiles m_held; ///< until the user chooses the head
     QStringList m_waiting; ///< to be filled in
     std::optional<bool> m_wantsOpenStrip; ///< nothing: the user has not said
 };
