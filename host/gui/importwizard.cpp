@@ -18,7 +18,10 @@
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
+#include <QResizeEvent>
+#include <QScreen>
 #include <QShortcut>
+#include <QStyle>
 #include <QThread>
 #include <QTimer>
 
@@ -96,7 +99,7 @@ ImportWizard::ImportWizard(PanoHostApplication &app, const PluginLibrary &librar
             m_choicePage->choose(i);
         }
     }
-    resize(kFirstSize);
+    resize(kFirstSize.boundedTo(largestSize()));
     restoreGeometry(app.ReadSetting(settingsGroup(), geometryKey(), QByteArray()).toByteArray());
     // Photos are read on the pages' threads.
     connect(&app, &PanoHostApplication::photoRead, m_readingBar, &ReadingBar::advance,
@@ -340,9 +343,19 @@ void ImportWizard::fitPages()
     // The base class asks a page for its size only when it comes to the front, but texts grow when
     // a record is read. All of the wizard's parts lie in one widget, its buttons too.
     if (content()->layout() != nullptr) {
-        setMinimumSize(content()->layout()->totalMinimumSize()
-                       + QSize(0, barHeight() + lineHeight()));
+        const QSize needed
+            = content()->layout()->totalMinimumSize() + QSize(0, barHeight() + lineHeight());
+        setMinimumSize(needed.boundedTo(largestSize()));
     }
+}
+
+/** That leaves the window on its screen, with its frame. */
+QSize ImportWizard::largestSize() const
+{
+    constexpr int kSides = 8;
+    const QSize usualFrame(
+        kSides, kSides / 2 + style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this));
+    return screen()->availableSize() - usualFrame.expandedTo(frameSize() - size());
 }
 
 int ImportWizard::barHeight() const
@@ -361,8 +374,9 @@ QWidget *ImportWizard::content() const
 }
 
 /**
- * Bar and strip stand below all that the base class has laid out. While the strip's rows are open
- * where there is no room for them, the upper end of the page is out of sight.
+ * Bar and strip stand below all that the base class has laid out. Where there is no room for it
+ * all, on a small screen or while the strip's rows are open, the upper end of the page is out of
+ * sight: its title first, and never Next.
  */
 void ImportWizard::makeRoom()
 {
@@ -370,14 +384,15 @@ void ImportWizard::makeRoom()
     const int fixed = barHeight() + lineHeight();
     const int needed
         = content()->layout() == nullptr ? 0 : content()->layout()->totalMinimumSize().height();
-    const int room = std::max(0, height() - fixed - needed);
+    const int free = height() - fixed - needed;
+    const int room = std::max(0, free);
     int rows = m_strip->isVisibleTo(this) ? m_strip->rowsHeight() : 0;
     if (!m_wantsOpenStrip) {
         const QSignalBlocker blocker(m_strip);
         m_strip->setOpen(m_strip->hasTrouble() && rows <= room);
     }
     rows = m_strip->isOpen() ? std::min(rows, height() / 2) : 0;
-    const int hidden = std::max(0, rows - room);
+    const int hidden = std::max(0, rows - free);
     content()->setGeometry(0, -hidden, width(), height() - fixed - (rows - hidden));
     const int bottom = height() - barHeight();
     m_readingBar->setGeometry(0, bottom, width(), barHeight());
@@ -387,7 +402,11 @@ void ImportWizard::makeRoom()
 void ImportWizard::resizeEvent(QResizeEvent *event)
 {
     QWizard::resizeEvent(event);
+    const bool hasGrown = minimumHeight() > largestSize().height();
     makeRoom();
+    if (hasGrown && event->oldSize().isValid()) {
+        resize(event->oldSize().expandedTo(minimumSize())); // the page that came is too large
+    }
 }
 
 /** Whoever shows a file dialog of the page: its photos can be read before the page asks. */

@@ -83,6 +83,7 @@ private:
     void beginReading(const QStringList &files);
     void endReading();
     void makeRoom();
+    [[nodiscard]] QSize largestSize() const;
     [[nodiscard]] int barHeight() const;
     [[nodiscard]] int lineHeight() const;
     [[nodiscard]] QWidget *content() const;

@@ -50,7 +50,9 @@ void GuiBench::reopen(const Start &start)
     m_library.reset();
     m_library = std::move(PluginLibrary::open(QStringLiteral(PANOHOST_TEST_LIBRARY))).value();
     m_wizard = std::make_unique<ImportWizard>(*PanoHostApplication::instance(), *m_library);
-    m_wizard->resize(m_size);
+    if (m_size.isValid()) {
+        m_wizard->resize(m_size);
+    }
     m_wizard->show();
     if (start) {
         start(*m_wizard);

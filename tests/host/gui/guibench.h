@@ -15,6 +15,7 @@
 class GuiBench
 {
 public:
+    /** A null size: the window's own. */
     explicit GuiBench(const QSize &size = QSize(900, 720));
     ~GuiBench();
 

@@ -99,6 +99,7 @@ void TestImportWizard::makeWizard()
     QVERIFY2(library.ok(), library.ok() ? "" : qPrintable(library.error().text()));
     m_library = std::move(library).value();
     m_wizard = std::make_unique<ImportWizard>(*PanoHostApplication::instance(), *m_library);
+    m_wizard->resize(900, 720); // room for all of every page
     m_wizard->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_wizard.get()));
 }
