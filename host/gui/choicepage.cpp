@@ -58,7 +58,7 @@ ChoicePage::ChoicePage(const QVector<ImportPlugin> &plugins, QWidget *parent)
         m_list->addItem(itemFor(plugin));
     }
     m_list->setCurrentIndex({}); // the view would choose the first one when it gets the focus
-    auto *label = new QLabel(tr("H&ead:"));
+    auto *label = new QLabel(tr("&Head:"));
     label->setBuddy(m_list);
     m_news->setObjectName(QStringLiteral("m_news"));
     m_news->setTextFormat(Qt::PlainText);

@@ -82,6 +82,8 @@ ImportWizard::ImportWizard(PanoHostApplication &app, const PluginLibrary &librar
     setWindowTitle(tr("Import a panorama"));
     setWizardStyle(QWizard::ModernStyle);
     setOption(QWizard::HaveHelpButton);
+    setButtonText(QWizard::HelpButton, tr("Help")); // F1; "H" is wanted by pages
+    button(QWizard::HelpButton)->setToolTip(tr("Help (F1)"));
     setOption(QWizard::HaveCustomButton1);
     setButtonText(QWizard::CustomButton1, tr("&Another import"));
     setPage(kChoiceId, m_choicePage);
@@ -587,8 +589,11 @@ void ImportWizard::setUpSubtitle()
     // The wizard shows a page's subtitle in a label of its own, which is no child of the page.
     for (QLabel *label : findChildren<QLabel *>()) {
         if (!label->text().isEmpty() && label->text() == currentPage()->subTitle()) {
-            label->setTextInteractionFlags(Qt::LinksAccessibleByMouse
-                                           | Qt::LinksAccessibleByKeyboard);
+            // Without a link it would be a place for the Tab key at which nothing is seen.
+            const bool hasLink = label->text().contains(QLatin1String("<a "));
+            label->setTextInteractionFlags(hasLink ? Qt::LinksAccessibleByMouse
+                                                   | Qt::LinksAccessibleByKeyboard
+                                                   : Qt::NoTextInteraction);
             // The wizard leaves room for two lines of Latin letters; others stand taller.
             label->parentWidget()->setMaximumHeight(QWIDGETSIZE_MAX);
         }
