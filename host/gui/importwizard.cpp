@@ -29,11 +29,27 @@
 #include <iterator>
 #include <utility>
 
+/** The linker takes only what is asked for out of this library. */
+static void initializeIcons()
+{
+    Q_INIT_RESOURCE(icons);
+}
+
 namespace PanoHost
 {
 
 namespace
 {
+
+QIcon programIcon()
+{
+    initializeIcons();
+    QIcon icon;
+    for (const char *const side : { "48", "64", "128" }) {
+        icon.addFile(QStringLiteral(":/panohost/icon-%1.png").arg(QLatin1String(side)));
+    }
+    return icon;
+}
 
 constexpr int kChoiceId = 0;
 constexpr int kFirstPluginId = 1;
@@ -80,6 +96,7 @@ ImportWizard::ImportWizard(PanoHostApplication &app, const PluginLibrary &librar
     , m_gatherer(new ReportRunner(app, this))
 {
     setWindowTitle(tr("Import a panorama"));
+    setWindowIcon(programIcon());
     setWizardStyle(QWizard::ModernStyle);
     setOption(QWizard::HaveHelpButton);
     setButtonText(QWizard::HelpButton, tr("Help")); // F1; "H" is wanted by pages

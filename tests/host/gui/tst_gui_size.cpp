@@ -50,6 +50,7 @@ void TestSize::firstWindowFitsTheScreen()
     bench.drop((isGrid ? QStringList() : QStringList(bench.record(3, qPrintable(head.toLower()))))
                + bench.photos(0, 2));
     QTRY_VERIFY(bench.isSettled() && bench.isNextEnabled());
+    QVERIFY(wizard.windowIcon().availableSizes().contains(QSize(128, 128)));
     const QWidget *next = wizard.button(QWizard::NextButton);
     QVERIFY(wizard.rect().contains(QRect(next->mapTo(&wizard, QPoint()), next->size())));
     // Without a window manager the frame of the window is missing.
