@@ -8,6 +8,7 @@
 #include "host/model/wordsuggestion.h"
 
 #include <new>
+#include <vector>
 
 using namespace PanoHost;
 
@@ -65,7 +66,7 @@ int main(int argc, char **argv)
     const Invocation invocation = Invocation::of(Environment::decodeArguments(argc, argv));
     const bool window = invocation.kind == Invocation::Kind::Window;
     Console console;
-    if (window && !Environment::hasDisplay()) {
+    if (window && !Environment::hasDisplay(invocation.qtOptions)) {
         console.error({ ExitCode::Usage,
                         QStringLiteral("no display to show the window on"),
                         {},
@@ -77,9 +78,18 @@ int main(int argc, char **argv)
     if (window) {
         Environment::prepareWindow();
     }
-    // Qt takes some options for its own, --plugin among them: it gets the program's name alone.
-    int qtArgumentCount = 1;
-    PanoHostApplication app(qtArgumentCount, argv);
+    // Qt takes some options for its own, --plugin among them: it gets those that are meant for it.
+    std::vector<QByteArray> qtWords{ QByteArray(argv[0]) };
+    for (const QString &word : invocation.qtOptions) {
+        qtWords.push_back(word.toLocal8Bit());
+    }
+    std::vector<char *> qtArguments;
+    for (QByteArray &word : qtWords) {
+        qtArguments.push_back(word.data());
+    }
+    int qtArgumentCount = static_cast<int>(qtArguments.size());
+    qtArguments.push_back(nullptr);
+    PanoHostApplication app(qtArgumentCount, qtArguments.data());
     QCoreApplication::setApplicationVersion(QStringLiteral(PANOHOST_VERSION));
     Interrupt interrupt;
     Session session{ app, console, interrupt, {} };

@@ -49,13 +49,15 @@ ExitCode runWindow(Session &session, const QStringList &arguments)
         throw CommandError(opened.error());
     }
     const auto library = std::move(opened).value();
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.orvane.panohost"));
     ImportWizard wizard(session.app, *library);
     // Without a question: the shell has been told to end it.
     QObject::connect(&session.interrupt, &Interrupt::interrupted, &wizard,
                      [&wizard] { wizard.done(QDialog::Rejected); });
     wizard.show();
+    wizard.activateWindow();
     if (!line.positional().isEmpty()) {
-        wizard.fillIn(line.positional());
+        wizard.fillInWhenActive(line.positional());
     }
     QApplication::exec();
     Interrupt::check();

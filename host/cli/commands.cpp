@@ -67,7 +67,13 @@ CommandLine generalLine()
           "panohost check papywizard shoot.xml IMG_*.jpg\n"
           "# the options of one command\n"
           "panohost import --help" },
-        {});
+        {
+            { "--style", "NAME",
+              "look of the window, e.g. fusion; Qt's -stylesheet, -platformtheme, -geometry, -name "
+              "and -reverse are understood as well, with one dash or two" },
+            { "--platform", "NAME", "what shows the window, e.g. xcb or wayland" },
+            { "--display", "NAME", "the X display that shows it" },
+        });
 }
 
 } // namespace PanoHost

@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QtGlobal>
 
+#include <algorithm>
 #include <clocale>
 #include <cstdio>
 #include <langinfo.h>
@@ -93,9 +94,13 @@ void Environment::prepareWindow()
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
 }
 
-bool Environment::hasDisplay()
+bool Environment::hasDisplay(const QStringList &qtOptions)
 {
-    return !qEnvironmentVariableIsEmpty("DISPLAY")
+    const bool isSaid = std::any_of(qtOptions.begin(), qtOptions.end(), [](const QString &option) {
+        const QString name = option.section(QLatin1Char('='), 0, 0);
+        return name == QLatin1String("-platform") || name == QLatin1String("-display");
+    });
+    return isSaid || !qEnvironmentVariableIsEmpty("DISPLAY")
         || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
         || !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
 }

@@ -30,8 +30,8 @@ public:
 
     /** What a window needs settled besides, before the application object exists. */
     static void prepareWindow();
-    /** False when a window cannot be shown. */
-    [[nodiscard]] static bool hasDisplay();
+    /** False when a window cannot be shown; \p qtOptions may say where. */
+    [[nodiscard]] static bool hasDisplay(const QStringList &qtOptions);
 
 private:
     std::unique_ptr<QTemporaryDir> m_configFolder;

@@ -3,6 +3,7 @@
 #include "host/cli/invocation.h"
 
 #include <QFileInfo>
+#include <QSet>
 
 #include <algorithm>
 
@@ -39,29 +40,74 @@ bool asksForHelp(const QStringList &words)
     });
 }
 
-} // namespace
+/**
+ * Takes Qt's options for a window out of \p words, "-style fusion", "--style=fusion". Not all of
+ * them: Qt's "-plugin" is something else than ours.
+ */
+QStringList takeQtOptions(QStringList &words)
+{
+    static const QSet<QString> withValue{
+        QStringLiteral("display"),       QStringLiteral("geometry"),
+        QStringLiteral("name"),          QStringLiteral("platform"),
+        QStringLiteral("platformtheme"), QStringLiteral("qwindowgeometry"),
+        QStringLiteral("session"),       QStringLiteral("style"),
+        QStringLiteral("stylesheet"),
+    };
+    QStringList taken;
+    for (int i = 0; i < words.size();) {
+        const QString word = words.at(i);
+        const int dashes = word.startsWith(QLatin1String("--")) ? 2 : 1;
+        const QString name = word.mid(dashes).section(QLatin1Char('='), 0, 0);
+        if (!word.startsWith(QLatin1Char('-'))
+            || (!withValue.contains(name) && name != QLatin1String("reverse"))) {
+            i += takesNextWord(word) ? 2 : 1;
+            continue;
+        }
+        taken += word.mid(dashes - 1); // some parts of Qt know one dash only
+        words.removeAt(i);
+        if (withValue.contains(name) && !word.contains(QLatin1Char('=')) && i < words.size()) {
+            taken += words.takeAt(i);
+        }
+    }
+    return taken;
+}
 
-Invocation Invocation::of(const QStringList &words)
+Invocation plainInvocation(const QStringList &words)
 {
     Invocation invocation;
     invocation.arguments = words;
     const int place = firstPlainWord(words);
     if (place == words.size()) {
-        invocation.kind = asksForHelp(words) ? Kind::General : Kind::Window;
+        invocation.kind = asksForHelp(words) ? Invocation::Kind::General : Invocation::Kind::Window;
         return invocation;
     }
     invocation.word = words.at(place);
     if (invocation.word == QLatin1String("help")) {
         invocation.arguments[place] = QStringLiteral("--help");
-        return Invocation::of(invocation.arguments);
+        return plainInvocation(invocation.arguments);
     }
     invocation.command = commandNamed(invocation.word);
     if (invocation.command != nullptr) {
-        invocation.kind = Kind::Command;
+        invocation.kind = Invocation::Kind::Command;
         invocation.arguments.removeAt(place);
     } else {
-        invocation.kind = QFileInfo::exists(invocation.word) ? Kind::Window : Kind::Unknown;
+        invocation.kind = QFileInfo::exists(invocation.word) ? Invocation::Kind::Window
+                                                             : Invocation::Kind::Unknown;
     }
+    return invocation;
+}
+
+} // namespace
+
+Invocation Invocation::of(const QStringList &words)
+{
+    QStringList others = words;
+    const QStringList qtOptions = takeQtOptions(others);
+    Invocation invocation = plainInvocation(others);
+    if (invocation.kind != Kind::Window) {
+        return plainInvocation(words); // commands show no window
+    }
+    invocation.qtOptions = qtOptions;
     return invocation;
 }
 

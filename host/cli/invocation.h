@@ -20,6 +20,7 @@ struct Invocation {
     const CommandRow *command = nullptr;
     QString word;
     QStringList arguments;
+    QStringList qtOptions; ///< for the window, as every Qt program takes them
 
     /** \p words are the arguments without the program's name. */
     [[nodiscard]] static Invocation of(const QStringList &words);

@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/gui/choicepage.h"
 
+#include "host/import/givenfiles.h"
 #include "hostlink/xiabout.h"
 
+#include <QFileInfo>
 #include <QLabel>
 #include <QListWidget>
 #include <QVBoxLayout>
@@ -17,14 +19,25 @@ namespace
 
 constexpr int kIconSide = 48;
 
-QListWidgetItem *itemFor(const XIAbout &about)
+/** Which files the import needs. */
+QString needs(const HeadFacts *head)
 {
-    auto *item
-        = new QListWidgetItem(about.Icon(), about.Name() + QLatin1Char('\n') + about.Comment());
+    return head == nullptr ? QString()
+        : head->isGrid()   ? ChoicePage::tr("Needs the photos")
+                           : ChoicePage::tr("Needs the head's record (*.%1) and the photos")
+                               .arg(QFileInfo(QString::fromLatin1(head->record)).suffix());
+}
+
+QListWidgetItem *itemFor(const ImportPlugin &plugin)
+{
+    const XIAbout &about = *plugin.about;
+    const QStringList lines{ about.Name(), about.Comment(),
+                             needs(PanoHead::headFactsOf(plugin.head())) };
+    auto *item = new QListWidgetItem(about.Icon(), lines.join(QLatin1Char('\n')).trimmed());
     item->setToolTip(
         ChoicePage::tr("%1 %2 by %3").arg(about.Name(), about.Version(), about.Company()));
     item->setData(Qt::AccessibleTextRole, about.Name());
-    item->setData(Qt::AccessibleDescriptionRole, about.Comment());
+    item->setData(Qt::AccessibleDescriptionRole, lines.mid(1).join(QStringLiteral(". ")));
     return item;
 }
 
@@ -33,6 +46,7 @@ QListWidgetItem *itemFor(const XIAbout &about)
 ChoicePage::ChoicePage(const QVector<ImportPlugin> &plugins, QWidget *parent)
     : QWizardPage(parent)
     , m_list(new QListWidget)
+    , m_news(new QLabel)
 {
     setTitle(tr("Which head took the photos?"));
     setSubTitle(tr("Choose the head, or drop its record and the photos onto this window."));
@@ -41,14 +55,21 @@ ChoicePage::ChoicePage(const QVector<ImportPlugin> &plugins, QWidget *parent)
     m_list->setIconSize(QSize(kIconSide, kIconSide));
     m_list->setUniformItemSizes(true);
     for (const ImportPlugin &plugin : plugins) {
-        m_list->addItem(itemFor(*plugin.about));
+        m_list->addItem(itemFor(plugin));
     }
+    m_list->setCurrentIndex({}); // the view would choose the first one when it gets the focus
     auto *label = new QLabel(tr("&Head:"));
     label->setBuddy(m_list);
+    m_news->setObjectName(QStringLiteral("m_news"));
+    m_news->setTextFormat(Qt::PlainText);
+    m_news->setWordWrap(true);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(label);
     layout->addWidget(m_list);
+    layout->addWidget(m_news);
     connect(m_list, &QListWidget::currentRowChanged, this, &ChoicePage::completeChanged);
+    connect(m_list, &QListWidget::currentRowChanged, this, &ChoicePage::tell);
+    tell();
     // Enter needs nothing here: it presses Next, the wizard's default button.
     connect(m_list, &QListWidget::itemDoubleClicked, this, [this] { wizard()->next(); });
 }
@@ -61,6 +82,41 @@ int ChoicePage::chosen() const
 void ChoicePage::choose(int index)
 {
     m_list->setCurrentRow(index);
+}
+
+void ChoicePage::setGiven(const GivenFiles &given)
+{
+    QStringList parts;
+    if (given.reader != nullptr) {
+        parts += tr("%1 record with %2 shots")
+                     .arg(QString::fromUtf8(given.reader->title), QString::number(given.shots));
+    } else if (!given.record.isEmpty()) {
+        parts += tr("%1, which no head can read").arg(QFileInfo(given.record).fileName());
+    }
+    if (!given.photos.isEmpty()) {
+        parts += given.photos.size() == 1 ? tr("one photo")
+                                          : tr("%1 photos").arg(given.photos.size());
+    }
+    m_given = parts.join(QStringLiteral(", "));
+    tell();
+}
+
+void ChoicePage::setNothingGiven(bool isLooking)
+{
+    m_given = isLooking ? tr("Looking at the files") : QString();
+    tell();
+}
+
+void ChoicePage::tell()
+{
+    QStringList sentences;
+    if (!m_given.isEmpty()) {
+        sentences += m_given + QLatin1Char('.');
+    }
+    if (chosen() < 0) {
+        sentences += tr("Next waits for the head that took the photos.");
+    }
+    m_news->setText(sentences.join(QLatin1Char(' ')));
 }
 
 bool ChoicePage::isComplete() const

@@ -6,10 +6,13 @@
 
 #include <QWizardPage>
 
+class QLabel;
 class QListWidget;
 
 namespace PanoHost
 {
+
+struct GivenFiles;
 
 /** The first page: which head took the photos. */
 class ChoicePage : public QWizardPage
@@ -21,11 +24,19 @@ public:
     /** Place of the chosen plug-in in the list given; -1 for none. */
     [[nodiscard]] int chosen() const;
     void choose(int index);
+    /** What has been dropped, as far as it is known. */
+    void setGiven(const GivenFiles &given);
+    /** Nothing has been dropped, or \p isLooking: it is being looked at. */
+    void setNothingGiven(bool isLooking = false);
 
     [[nodiscard]] bool isComplete() const override;
 
 private:
+    void tell();
+
     QListWidget *m_list;
+    QLabel *m_news; ///< what was recognised, and what Next waits for
+    QString m_given;
 };
 
 } // namespace PanoHost

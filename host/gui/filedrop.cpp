@@ -9,6 +9,7 @@
 #include <QDropEvent>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QPainter>
 #include <QUrl>
 #include <QWidget>
 
@@ -28,12 +29,48 @@ QStringList localFiles(const QMimeData *data)
     return words.isEmpty() ? pathsInText(data->text()) : localPaths(words);
 }
 
+class DropFrame : public QWidget
+{
+public:
+    explicit DropFrame(QWidget *window)
+        : QWidget(window)
+    {
+        setObjectName(QStringLiteral("m_dropFrame"));
+        setAccessibleName(FileDrop::tr("Drop the files here"));
+        setAttribute(Qt::WA_TransparentForMouseEvents); // the drag is for what lies below
+        hide();
+    }
+
+protected:
+    void paintEvent(QPaintEvent * /*event*/) override
+    {
+        constexpr int kLine = 4;
+        constexpr qreal kShade = 0.85;
+        constexpr qreal kLetters = 1.5;
+        QPainter painter(this);
+        QColor shade = palette().color(QPalette::Window);
+        shade.setAlphaF(kShade);
+        painter.fillRect(rect(), shade);
+        painter.setPen(QPen(palette().color(QPalette::Highlight), kLine));
+        painter.drawRect(rect().adjusted(kLine, kLine, -kLine, -kLine));
+        painter.setPen(palette().color(QPalette::WindowText));
+        QFont large = font();
+        large.setPointSizeF(large.pointSizeF() * kLetters);
+        painter.setFont(large);
+        painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, accessibleName());
+    }
+};
+
 } // namespace
 
 FileDrop::FileDrop(QWidget *window)
     : QObject(window)
     , m_window(window)
+    , m_frame(new DropFrame(window))
 {
+    m_left.setSingleShot(true);
+    m_left.setInterval(0);
+    connect(&m_left, &QTimer::timeout, m_frame, &QWidget::hide);
     window->setAcceptDrops(true);
     // Widgets inside see drags before their window does.
     qApp->installEventFilter(this);
@@ -53,6 +90,9 @@ bool FileDrop::eventFilter(QObject *watched, QEvent *event)
     case QEvent::DragMove:
     case QEvent::Drop:
         return takeDragged(static_cast<QDropEvent *>(event));
+    case QEvent::DragLeave:
+        m_left.start();
+        return m_bringsFiles;
     default:
         return false;
     }
@@ -68,12 +108,31 @@ bool FileDrop::take(const QStringList &files)
 
 bool FileDrop::takeDragged(QDropEvent *event)
 {
+    const QEvent::Type type = event->type();
+    if (type == QEvent::DragMove && !m_frame->isHidden()) {
+        event->acceptProposedAction(); // what it brings is known
+        return true;
+    }
     const QStringList files = localFiles(event->mimeData());
-    if (files.isEmpty()) {
+    m_bringsFiles = !files.isEmpty();
+    if (!m_bringsFiles) {
         return false;
     }
     event->acceptProposedAction();
-    return event->type() != QEvent::Drop || take(files);
+    if (type == QEvent::Drop) {
+        m_frame->hide();
+        return take(files);
+    }
+    showFrame();
+    return true;
+}
+
+void FileDrop::showFrame()
+{
+    m_left.stop();
+    m_frame->setGeometry(m_window->rect());
+    m_frame->show();
+    m_frame->raise();
 }
 
 } // namespace PanoHost

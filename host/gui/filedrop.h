@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QObject>
+#include <QTimer>
 
 class QDropEvent;
 class QWidget;
@@ -12,7 +13,7 @@ namespace PanoHost
 
 /**
  * Takes the files that are dropped anywhere in a window or pasted there, also where a field would
- * take their names as text.
+ * take their names as text. While they are dragged over the window a frame says so.
  */
 class FileDrop : public QObject
 {
@@ -33,8 +34,12 @@ protected:
 private:
     [[nodiscard]] bool take(const QStringList &files);
     [[nodiscard]] bool takeDragged(QDropEvent *event);
+    void showFrame();
 
     QWidget *m_window;
+    QWidget *m_frame; ///< over all of the window while something is dragged there
+    QTimer m_left; ///< from one widget to the next, or out of the window
+    bool m_bringsFiles = false; ///< what is dragged
     bool m_isTaking = true;
 };
 

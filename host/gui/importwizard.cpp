@@ -11,7 +11,6 @@
 #include "host/gui/resultpage.h"
 #include "host/gui/shootdesk.h"
 #include "host/gui/shootstrip.h"
-#include "host/import/givenfiles.h"
 #include "host/import/importjob.h"
 
 #include <QAbstractButton>
@@ -20,7 +19,10 @@
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
+#include <QResizeEvent>
+#include <QScreen>
 #include <QShortcut>
+#include <QStyle>
 #include <QThread>
 #include <QTimer>
 
@@ -28,11 +30,27 @@
 #include <iterator>
 #include <utility>
 
+/** The linker takes only what is asked for out of this library. */
+static void initializeIcons()
+{
+    Q_INIT_RESOURCE(icons);
+}
+
 namespace PanoHost
 {
 
 namespace
 {
+
+QIcon programIcon()
+{
+    initializeIcons();
+    QIcon icon;
+    for (const char *const side : { "48", "64", "128" }) {
+        icon.addFile(QStringLiteral(":/panohost/icon-%1.png").arg(QLatin1String(side)));
+    }
+    return icon;
+}
 
 constexpr int kChoiceId = 0;
 constexpr int kFirstPluginId = 1;
@@ -53,6 +71,18 @@ QString geometryKey()
     return QStringLiteral("wizardGeometry");
 }
 
+/** Whether the window need not be kept alive while somebody looks at \p paths. */
+bool isSoonLookedAt(const QStringList &paths)
+{
+    constexpr int kMostPaths = 100;
+    constexpr qint64 kMostRecordBytes = 1 << 18;
+    return paths.size() <= kMostPaths
+        && std::none_of(paths.begin(), paths.end(), [](const QString &path) {
+               const QFileInfo file(path);
+               return file.isDir() || (isRecord(path) && file.size() > kMostRecordBytes);
+           });
+}
+
 } // namespace
 
 ImportWizard::ImportWizard(PanoHostApplication &app, const PluginLibrary &library, QWidget *parent)
@@ -69,8 +99,11 @@ ImportWizard::ImportWizard(PanoHostApplication &app, const PluginLibrary &librar
     , m_gatherer(new ReportRunner(app, this))
 {
     setWindowTitle(tr("Import a panorama"));
+    setWindowIcon(programIcon());
     setWizardStyle(QWizard::ModernStyle);
     setOption(QWizard::HaveHelpButton);
+    setButtonText(QWizard::HelpButton, tr("Help")); // F1; "H" is wanted by pages
+    button(QWizard::HelpButton)->setToolTip(tr("Help (F1)"));
     setOption(QWizard::HaveCustomButton1);
     setButtonText(QWizard::CustomButton1, tr("&Another import"));
     setPage(kChoiceId, m_choicePage);
@@ -83,14 +116,13 @@ ImportWizard::ImportWizard(PanoHostApplication &app, const PluginLibrary &librar
     setPage(kMakeId, m_makePage);
     setStartId(kChoiceId);
 
-    m_choicePage->choose(0);
     const QString last = app.ReadSetting(settingsGroup(), headKey(), QString()).toString();
     for (int i = 0; i < library.plugins().size(); ++i) {
         if (library.plugins().at(i).head() == last) {
             m_choicePage->choose(i);
         }
     }
-    resize(kFirstSize);
+    resize(kFirstSize.boundedTo(largestSize()));
     restoreGeometry(app.ReadSetting(settingsGroup(), geometryKey(), QByteArray()).toByteArray());
     // Photos are read on the pages' threads.
     connect(&app, &PanoHostApplication::photoRead, m_readingBar, &ReadingBar::advance,
@@ -197,16 +229,41 @@ bool ImportWizard::isBehindPages() const
 void ImportWizard::fillIn(const QStringList &files)
 {
     const QStringList paths = localPaths(files);
-    if (std::none_of(paths.begin(), paths.end(),
-                     [](const QString &path) { return QFileInfo(path).isDir(); })) {
+    const auto look = [paths](const JobWatch &watch) {
+        GivenFiles given = sortFiles(withoutFolders(paths, watch));
+        preferReadableRecord(given);
+        return given;
+    };
+    if (isSoonLookedAt(paths)) {
         m_gatherer->stop();
-        take(sortFiles(paths));
+        take(look({}));
         return;
     }
-    m_gatherer->start([this, paths](const JobWatch &watch) -> std::function<void()> {
-        const GivenFiles given = sortFiles(withoutFolders(paths, watch));
+    m_choicePage->setNothingGiven(true);
+    m_gatherer->start([this, look](const JobWatch &watch) -> std::function<void()> {
+        const GivenFiles given = look(watch);
         return [this, given] { take(given); };
     });
+}
+
+void ImportWizard::fillInWhenActive(const QStringList &files)
+{
+    m_waiting = files;
+    if (isActiveWindow()) {
+        fillInWaiting();
+        return;
+    }
+    activateWindow();
+    // Desktops may leave the keyboard with the window where the user is writing.
+    constexpr int kPatienceMs = 2000;
+    QTimer::singleShot(kPatienceMs, this, &ImportWizard::fillInWaiting);
+}
+
+void ImportWizard::fillInWaiting()
+{
+    if (!m_waiting.isEmpty()) {
+        fillIn(std::exchange(m_waiting, {}));
+    }
 }
 
 void ImportWizard::take(GivenFiles given)
@@ -220,16 +277,19 @@ void ImportWizard::take(GivenFiles given)
         QTimer::singleShot(kSoonMs, this, [this, given] { take(given); });
         return;
     }
-    preferReadableRecord(given);
     const int current = currentId() - kFirstPluginId;
     const bool isChoosing = currentId() == kChoiceId;
     int head = headFor(given, m_library.plugins(), isChoosing ? m_choicePage->chosen() : current);
-    if (!isChoosing && head != current && readerOf(given.record, nullptr) == nullptr) {
+    if (!isChoosing && head != current && given.reader == nullptr) {
         // Notes of somebody: no reason to go to another page.
         given.otherRecords += std::exchange(given.record, {});
         head = current;
     }
+    if (isChoosing && given.photos.isEmpty()) {
+        given.photos = m_held.photos;
+    }
     if (given.record.isEmpty() && given.photos.isEmpty()) {
+        m_choicePage->setNothingGiven();
         showMessage(QMessageBox::Information, tr("Files not taken"),
                     tr("Neither records nor photos are among these files."));
         return;
@@ -244,6 +304,12 @@ void ImportWizard::take(GivenFiles given)
     }
     QStringList photos = given.photos;
     if (isChoosing) {
+        m_choicePage->setGiven(given);
+        if (head < 0) {
+            m_held = given;
+            return;
+        }
+        m_held = {};
         m_choicePage->choose(head);
         if (keeper() == nullptr && m_keepers.value(head) != nullptr && !photos.isEmpty()) {
             m_keepers.value(head)->forgetKept();
@@ -297,6 +363,8 @@ bool ImportWizard::eventFilter(QObject *watched, QEvent *event)
         makeRoom();
     } else if (event->type() == QEvent::Show) {
         followPhotoDialogs(watched);
+    } else if (event->type() == QEvent::WindowActivate && watched == this) {
+        QTimer::singleShot(0, this, &ImportWizard::fillInWaiting);
     }
     return QWizard::eventFilter(watched, event);
 }
@@ -307,9 +375,19 @@ void ImportWizard::fitPages()
     // The base class asks a page for its size only when it comes to the front, but texts grow when
     // a record is read. All of the wizard's parts lie in one widget, its buttons too.
     if (content()->layout() != nullptr) {
-        setMinimumSize(content()->layout()->totalMinimumSize()
-                       + QSize(0, barHeight() + lineHeight()));
+        const QSize needed
+            = content()->layout()->totalMinimumSize() + QSize(0, barHeight() + lineHeight());
+        setMinimumSize(needed.boundedTo(largestSize()));
     }
+}
+
+/** That leaves the window on its screen, with its frame. */
+QSize ImportWizard::largestSize() const
+{
+    constexpr int kSides = 8;
+    const QSize usualFrame(
+        kSides, kSides / 2 + style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this));
+    return screen()->availableSize() - usualFrame.expandedTo(frameSize() - size());
 }
 
 int ImportWizard::barHeight() const
@@ -328,8 +406,9 @@ QWidget *ImportWizard::content() const
 }
 
 /**
- * Bar and strip stand below all that the base class has laid out. While the strip's rows are open
- * where there is no room for them, the upper end of the page is out of sight.
+ * Bar and strip stand below all that the base class has laid out. Where there is no room for it
+ * all, on a small screen or while the strip's rows are open, the upper end of the page is out of
+ * sight: its title first, and never Next.
  */
 void ImportWizard::makeRoom()
 {
@@ -337,14 +416,15 @@ void ImportWizard::makeRoom()
     const int fixed = barHeight() + lineHeight();
     const int needed
         = content()->layout() == nullptr ? 0 : content()->layout()->totalMinimumSize().height();
-    const int room = std::max(0, height() - fixed - needed);
+    const int free = height() - fixed - needed;
+    const int room = std::max(0, free);
     int rows = m_strip->isVisibleTo(this) ? m_strip->rowsHeight() : 0;
     if (!m_wantsOpenStrip) {
         const QSignalBlocker blocker(m_strip);
         m_strip->setOpen(m_strip->hasTrouble() && rows <= room);
     }
     rows = m_strip->isOpen() ? std::min(rows, height() / 2) : 0;
-    const int hidden = std::max(0, rows - room);
+    const int hidden = std::max(0, rows - free);
     content()->setGeometry(0, -hidden, width(), height() - fixed - (rows - hidden));
     const int bottom = height() - barHeight();
     m_readingBar->setGeometry(0, bottom, width(), barHeight());
@@ -354,7 +434,11 @@ void ImportWizard::makeRoom()
 void ImportWizard::resizeEvent(QResizeEvent *event)
 {
     QWizard::resizeEvent(event);
+    const bool hasGrown = minimumHeight() > largestSize().height();
     makeRoom();
+    if (hasGrown && event->oldSize().isValid()) {
+        resize(event->oldSize().expandedTo(minimumSize())); // the page that came is too large
+    }
 }
 
 /** Whoever shows a file dialog of the page: its photos can be read before the page asks. */
@@ -390,6 +474,7 @@ bool ImportWizard::takeOtherRecord(const QStringList &files, const QFileDialog *
     if (given.photos.isEmpty()) {
         given.photos = page->photos();
     }
+    preferReadableRecord(given);
     connect(
         dialog, &QObject::destroyed, this, [this, given] { take(given); }, Qt::QueuedConnection);
     return true;
@@ -457,6 +542,9 @@ void ImportWizard::enterPage()
     } else {
         m_desk->setPage(page);
     }
+    if (page != nullptr && !m_held.photos.isEmpty()) {
+        giveTo(std::exchange(m_held, {}));
+    }
     makeRoom();
 }
 
@@ -508,6 +596,7 @@ void ImportWizard::importAnother()
         return;
     }
     restart();
+    m_choicePage->setNothingGiven();
     for (PageKeeper *page : qAsConst(m_keepers)) {
         if (page != nullptr) {
             page->forgetKept();
@@ -548,8 +637,11 @@ void ImportWizard::setUpSubtitle()
     // The wizard shows a page's subtitle in a label of its own, which is no child of the page.
     for (QLabel *label : findChildren<QLabel *>()) {
         if (!label->text().isEmpty() && label->text() == currentPage()->subTitle()) {
-            label->setTextInteractionFlags(Qt::LinksAccessibleByMouse
-                                           | Qt::LinksAccessibleByKeyboard);
+            // Without a link it would be a place for the Tab key at which nothing is seen.
+            const bool hasLink = label->text().contains(QLatin1String("<a "));
+            label->setTextInteractionFlags(hasLink ? Qt::LinksAccessibleByMouse
+                                                   | Qt::LinksAccessibleByKeyboard
+                                                   : Qt::NoTextInteraction);
             // The wizard leaves room for two lines of Latin letters; others stand taller.
             label->parentWidget()->setMaximumHeight(QWIDGETSIZE_MAX);
         }

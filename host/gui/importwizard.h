@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "host/import/givenfiles.h"
 #include "host/model/delivery.h"
 #include "host/model/panorama.h"
 #include "host/plugin/panohostapplication.h"
@@ -26,7 +27,6 @@ class ReportRunner;
 class ResultPage;
 class ShootDesk;
 class ShootStrip;
-struct GivenFiles;
 
 /**
  * The import wizard: choose the head, work its plug-in's page, look at the result and save it.
@@ -46,10 +46,13 @@ public:
     /**
      * Fills \p files, paths or file URLs, into the page of a plug-in, as if the user had chosen
      * them there: the last one ending in ".xml" or ".txt" is the record, the others are photos.
-     * Goes to the page of a head that reads it first. Photos that were there stay when none are
-     * among them. What lies in folders follows later.
+     * Goes to the page of a head that reads it first; photos alone wait for the user to choose
+     * the head. Photos that were there stay when none are among them. What lies in folders, and
+     * what takes time to look at, follows later.
      */
     void fillIn(const QStringList &files);
+    /** The same once the keyboard is this window's: the dialogs of pages would keep it from it. */
+    void fillInWhenActive(const QStringList &files);
 
     [[nodiscard]] bool validateCurrentPage() override;
     /** What the last Next of a plug-in's page made; the reason when it cannot be used. */
@@ -69,6 +72,7 @@ protected:
 private:
     void keepPages();
     void setUpStrip();
+    void fillInWaiting();
     void take(GivenFiles given);
     void giveTo(const GivenFiles &given);
     void goTo(int plugin);
@@ -83,6 +87,7 @@ private:
     void beginReading(const QStringList &files);
     void endReading();
     void makeRoom();
+    [[nodiscard]] QSize largestSize() const;
     [[nodiscard]] int barHeight() const;
     [[nodiscard]] int lineHeight() const;
     [[nodiscard]] QWidget *content() const;
@@ -106,6 +111,8 @@ private:
     FileDrop *m_drop;
     ReportRunner *m_gatherer; ///< looks into folders
     QVector<PageKeeper *> m_keepers; ///< one for each plug-in; null: it has no page
+    GivenFiles m_held; ///< until the user chooses the head
+    QStringList m_waiting; ///< to be filled in
     std::optional<bool> m_wantsOpenStrip; ///< nothing: the user has not said
 };
 

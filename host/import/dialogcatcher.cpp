@@ -54,6 +54,8 @@ bool DialogCatcher::eventFilter(QObject *watched, QEvent *event)
     if (dialog == nullptr) {
         return false;
     }
+    // On a screen it would flash up, and could take the keyboard away from its window for good.
+    dialog->setAttribute(Qt::WA_DontShowOnScreen);
     // The dialog's own loop does not run yet: it can be filled and closed only from there.
     const QPointer<QDialog> guard(dialog);
     QMetaObject::invokeMethod(

@@ -161,14 +161,17 @@ QStringList withoutFolders(const QStringList &files, const JobWatch &watch)
 void preferReadableRecord(GivenFiles &files)
 {
     QStringList records = files.otherRecords;
-    records += files.record;
-    while (records.size() > 1 && readerOf(records.last(), nullptr) == nullptr) {
-        records.removeLast();
+    if (!files.record.isEmpty()) {
+        records += files.record;
     }
-    if (readerOf(records.last(), nullptr) != nullptr && records.last() != files.record) {
-        files.otherRecords.removeAll(records.last());
-        files.otherRecords += files.record;
-        files.record = records.last();
+    for (int i = records.size() - 1; i >= 0; --i) {
+        files.reader = readerOf(records.at(i), nullptr);
+        if (files.reader != nullptr) {
+            files.shots = readRecord(*files.reader, records.at(i)).shotCount;
+            files.record = records.takeAt(i);
+            files.otherRecords = records;
+            return;
+        }
     }
 }
 

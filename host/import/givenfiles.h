@@ -19,6 +19,8 @@ struct GivenFiles {
     QStringList photos; ///< all others, each once
     QStringList otherRecords; ///< before that one
     QStringList own; ///< projects, descriptions and pictures that this program makes
+    const HeadFacts *reader = nullptr; ///< a head that reads the record; null: none does
+    int shots = 0; ///< of the record
 };
 
 /** Whether \p path ends like the record of a head. */
@@ -47,7 +49,10 @@ struct GivenFiles {
  */
 [[nodiscard]] const HeadFacts *readerOf(const QString &path, const HeadFacts *head);
 
-/** Of several records in \p files the last one that some head reads counts: many a text is none. */
+/**
+ * Finds out what reads the record in \p files. Of several records the last one that some head reads
+ * counts: many a text is none.
+ */
 void preferReadableRecord(GivenFiles &files);
 
 /**

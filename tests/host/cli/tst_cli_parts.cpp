@@ -27,6 +27,8 @@ private Q_SLOTS:
     void closestWordIsFound();
     void firstPlainWordDecides_data();
     void firstPlainWordDecides();
+    void windowTakesOptionsOfQt_data();
+    void windowTakesOptionsOfQt();
     void linksAreMadeOnlyWhenNeeded_data();
     void linksAreMadeOnlyWhenNeeded();
     void linksSortInTheOrderGivenAndGoAway();
@@ -101,6 +103,35 @@ void TestCliParts::firstPlainWordDecides()
     QCOMPARE(invocation.kind, kind);
     QCOMPARE(invocation.arguments.join(QLatin1Char(' ')), rest);
     QCOMPARE(invocation.command != nullptr, kind == Invocation::Kind::Command);
+}
+
+void TestCliParts::windowTakesOptionsOfQt_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QString>("options");
+    QTest::addColumn<QString>("rest");
+    const auto row = [](const char *line, const char *options, const char *rest) {
+        QTest::newRow(line) << QString::fromLatin1(line) << QString::fromLatin1(options)
+                            << QString::fromLatin1(rest);
+    };
+    row("-style fusion", "-style fusion", "");
+    row("--style fusion /dev/null", "-style fusion", "/dev/null");
+    row("-q -style=fusion -reverse /dev/null", "-style=fusion -reverse", "-q /dev/null");
+    row("--plugin -style --display :1", "-display :1", "--plugin -style");
+    row("-platform offscreen", "-platform offscreen", "");
+    row("/dev/null -style", "-style", "/dev/null");
+    row("import -style fusion", "", "-style fusion"); // shows no window
+    row("-stile fusion", "", "-stile fusion");
+}
+
+void TestCliParts::windowTakesOptionsOfQt()
+{
+    QFETCH(QString, line);
+    QFETCH(QString, options);
+    QFETCH(QString, rest);
+    const Invocation invocation = Invocation::of(line.split(QLatin1Char(' '), Qt::SkipEmptyParts));
+    QCOMPARE(invocation.qtOptions.join(QLatin1Char(' ')), options);
+    QCOMPARE(invocation.arguments.join(QLatin1Char(' ')), rest);
 }
 
 void TestCliParts::linksAreMadeOnlyWhenNeeded_data()

@@ -60,14 +60,19 @@ GuiBench::~GuiBench()
     m_library.reset();
 }
 
-void GuiBench::reopen()
+void GuiBench::reopen(const Start &start)
 {
     m_wizard.reset();
     m_library.reset();
     m_library = std::move(PluginLibrary::open(QStringLiteral(PANOHOST_TEST_LIBRARY))).value();
     m_wizard = std::make_unique<ImportWizard>(*PanoHostApplication::instance(), *m_library);
-    m_wizard->resize(m_size);
+    if (m_size.isValid()) {
+        m_wizard->resize(m_size);
+    }
     m_wizard->show();
+    if (start) {
+        start(*m_wizard);
+    }
     (void)QTest::qWaitForWindowExposed(m_wizard.get());
 }
 

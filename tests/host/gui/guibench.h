@@ -8,17 +8,20 @@
 #include <QAbstractButton>
 #include <QTemporaryDir>
 
+#include <functional>
 #include <memory>
 
 /** The import wizard in front of a user, with shoots of the test's own making. */
 class GuiBench
 {
 public:
+    /** A null size: the window's own. */
     explicit GuiBench(const QSize &size = QSize(900, 720));
     ~GuiBench();
 
-    /** The window anew, with the same settings. */
-    void reopen();
+    using Start = std::function<void(PanoHost::ImportWizard &)>;
+    /** The window anew, with the same settings; \p start is called at once. */
+    void reopen(const Start &start = {});
 
     [[nodiscard]] PanoHost::ImportWizard &wizard() const { return *m_wizard; }
     [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }

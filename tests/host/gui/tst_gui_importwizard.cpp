@@ -100,6 +100,7 @@ void TestImportWizard::makeWizard()
     QVERIFY2(library.ok(), library.ok() ? "" : qPrintable(library.error().text()));
     m_library = std::move(library).value();
     m_wizard = std::make_unique<ImportWizard>(*PanoHostApplication::instance(), *m_library);
+    m_wizard->resize(900, 720); // room for all of every page
     m_wizard->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_wizard.get()));
 }
@@ -173,14 +174,17 @@ void TestImportWizard::headsAreOfferedWithNameAndComment()
         const QListWidgetItem *item = list->item(row++);
         const QString title = item->data(Qt::AccessibleTextRole).toString();
         QCOMPARE(title, QString::fromLatin1(head->name));
-        QCOMPARE(item->text(), title + QLatin1Char('\n') + QLatin1String(head->comment));
+        const QStringList lines = item->text().split(QLatin1Char('\n'));
+        QCOMPARE(lines.size(), 3);
+        QCOMPARE(lines.mid(0, 2), QStringList({ title, QLatin1String(head->comment) }));
+        QVERIFY2(lines.last().startsWith(QLatin1String("Needs ")), qPrintable(lines.last()));
         QVERIFY(!item->icon().isNull());
     }
 }
 
 void TestImportWizard::lastHeadIsPreselected()
 {
-    QCOMPARE(heads()->currentRow(), 0);
+    QCOMPARE(heads()->currentRow(), -1); // that one sorts first is no reason
     heads()->setCurrentRow(rowOf("Gigapan"));
     next()->click();
     QVERIFY(m_wizard->currentPage()->inherits("UIWPGigapan"));
