@@ -246,6 +246,14 @@ QByteArray alignmentToJson(const AlignmentReport &report, const QString &folder)
     return writeJson([&](JsonFields &fields) { kReportFields(fields, report); }, folder);
 }
 
+Result<AlignmentReport> alignmentFromJson(const QByteArray &json, const QString &folder)
+{
+    AlignmentReport report;
+    const auto failure
+        = readJson(json, folder, [&](JsonFields &fields) { kReportFields(fields, report); });
+    return failure ? Result<AlignmentReport>(*failure) : report;
+}
+
 QByteArray alignmentSchema()
 {
     return jsonSchema(

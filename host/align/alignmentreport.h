@@ -3,6 +3,7 @@
 #pragma once
 
 #include "host/align/geometry.h"
+#include "host/model/result.h"
 
 #include <QByteArray>
 #include <QString>
@@ -74,8 +75,11 @@ struct AlignmentReport {
 /** The report for people: a sentence each, the most important first. */
 [[nodiscard]] QStringList sentences(const AlignmentReport &report);
 
-/** As a JSON document in \p folder (photos are named relative to it), and its schema. */
+/** As a JSON document in \p folder (photos are named relative to it), the way back, and its schema.
+ */
 [[nodiscard]] QByteArray alignmentToJson(const AlignmentReport &report, const QString &folder);
+[[nodiscard]] Result<AlignmentReport> alignmentFromJson(const QByteArray &json,
+                                                        const QString &folder);
 [[nodiscard]] QByteArray alignmentSchema();
 
 } // namespace PanoHost

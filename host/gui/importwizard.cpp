@@ -131,6 +131,11 @@ ImportWizard::ImportWizard(PanoHostApplication &app, const PluginLibrary &librar
     keepPages();
     setUpStrip();
     qApp->installEventFilter(this);
+    connect(m_makePage, &MakePage::made, this, [this](const MadePanorama &made) {
+        if (made.alignment) {
+            m_resultPage->setAlignment(*made.alignment);
+        }
+    });
     connect(this, &QWizard::currentIdChanged, this, &ImportWizard::setUpSubtitle);
     connect(this, &QWizard::currentIdChanged, this, [this] {
         // Its size was asked for before it was shown, when fonts and styles had not settled.

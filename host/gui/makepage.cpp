@@ -430,7 +430,7 @@ void MakePage::showMade(const Result<MadePanorama> &made)
     (made ? m_openFolder : m_make)->setFocus();
     Q_EMIT completeChanged();
     if (made) {
-        Q_EMIT this->made();
+        Q_EMIT this->made(m_made);
     }
 }
 

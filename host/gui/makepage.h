@@ -46,7 +46,7 @@ public:
     [[nodiscard]] QString path() const;
 
 Q_SIGNALS:
-    void made();
+    void made(const PanoHost::MadePanorama &made);
 
 private:
     void createWidgets();

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/gui/makerunner.h"
 
+#include "host/model/safefile.h"
+
 #include <QDir>
 #include <QElapsedTimer>
 #include <QImageReader>
@@ -34,6 +36,20 @@ QImage shownPicture(const QString &path)
         reader.setScaledSize(size.scaled(kMostWidth, kMostWidth, Qt::KeepAspectRatio));
     }
     return reader.read();
+}
+
+/** What an alignment has left in the work folder; null when it cannot be read. */
+std::shared_ptr<const Alignment> alignmentIn(const QDir &work)
+{
+    constexpr qint64 kMostBytes = 1LL << 30;
+    const Result<PtoFile> project = PtoFile::read(work.filePath(QStringLiteral("2_aligned.pto")));
+    const Result<QByteArray> json
+        = readRegularFile(work.filePath(QStringLiteral("2_alignment.json")), kMostBytes);
+    const Result<AlignmentReport> report
+        = json ? alignmentFromJson(json.value(), work.path()) : json.error();
+    return project && report
+        ? std::make_shared<const Alignment>(Alignment{ project.value(), report.value() })
+        : nullptr;
 }
 
 } // namespace
@@ -124,12 +140,10 @@ Result<MadePanorama> MakeRunner::make(const MakeRequest &request)
         }
         const QDir work(workFolderOf(request.picture.path));
         const bool isAligned = !request.imported->description.skipOptimization;
-        return MadePanorama{
-            made.value(),
-            work.filePath(isAligned ? QStringLiteral("2_aligned.pto")
-                                    : QStringLiteral("1_import.pto")),
-            shownPicture(made.value().value(0)),
-        };
+        const QString project = work.filePath(isAligned ? QStringLiteral("2_aligned.pto")
+                                                        : QStringLiteral("1_import.pto"));
+        return MadePanorama{ made.value(), project, shownPicture(made.value().value(0)),
+                             isAligned ? alignmentIn(work) : nullptr };
     } catch (const std::bad_alloc &) {
         return Failure{ ExitCode::ToolFailed,
                         tr("Not enough memory"),

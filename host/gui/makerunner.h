@@ -22,6 +22,7 @@ struct MadePanorama {
     QStringList paths; ///< in the order of the kinds
     QString project; ///< by which it was stitched; Hugin can open it
     QImage picture; ///< null: it cannot be shown
+    std::shared_ptr<const Alignment> alignment; ///< null: the head was trusted
 };
 
 /** Makes panoramas on a thread of its own, one at a time. Nothing of it blocks. */

@@ -337,16 +337,31 @@ QString takeJson(const QJsonValue &json, std::optional<double> &value)
     return json.isNull() ? QString() : takeJson(json, value.emplace());
 }
 
-QString takeJson(const QJsonValue &json, QVector<float> &values)
+namespace
+{
+
+template <typename Number> QString takeNumbers(const QJsonValue &json, QVector<Number> &values)
 {
     bool fine = true;
     const QJsonArray list = json.toArray();
     values.reserve(list.size());
     for (const QJsonValue &value : list) {
         fine = fine && (value.isDouble() || value.isNull());
-        values.append(static_cast<float>(value.toDouble(qQNaN())));
+        values.append(static_cast<Number>(value.toDouble(qQNaN())));
     }
     return unless(fine, "a list of numbers");
+}
+
+} // namespace
+
+QString takeJson(const QJsonValue &json, QVector<float> &values)
+{
+    return takeNumbers(json, values);
+}
+
+QString takeJson(const QJsonValue &json, QVector<double> &values)
+{
+    return takeNumbers(json, values);
 }
 
 QString takeJson(const QJsonValue &json, QVector<qint32> &values)

@@ -77,6 +77,7 @@ private:
 [[nodiscard]] QString takeJson(const QJsonValue &json, QString &value);
 [[nodiscard]] QString takeJson(const QJsonValue &json, std::optional<double> &value);
 [[nodiscard]] QString takeJson(const QJsonValue &json, QVector<float> &values);
+[[nodiscard]] QString takeJson(const QJsonValue &json, QVector<double> &values);
 [[nodiscard]] QString takeJson(const QJsonValue &json, QVector<qint32> &values);
 [[nodiscard]] QString takeJson(const QJsonValue &json, std::array<qint32, 3> &values);
 [[nodiscard]] QString takeJson(const QJsonValue &json, QStringList &values);

@@ -51,6 +51,7 @@ private Q_SLOTS:
     void keepsSilentAboutWhatIsAsItShouldBe();
     void notesComeLastAndAloneWhenNothingMoved();
     void jsonHoldsAllOfIt();
+    void jsonIsReadBack();
     void schemaIsTheOneInTheRepository();
 };
 
@@ -143,6 +144,28 @@ void TestAlignmentReport::jsonHoldsAllOfIt()
     QCOMPARE(first[QLatin1String("aligned")].toObject()[QLatin1String("pitchDeg")].toDouble(),
              -3.25);
     QCOMPARE(json[QLatin1String("bumps")].toArray().size(), 1);
+}
+
+void TestAlignmentReport::jsonIsReadBack()
+{
+    AlignmentReport report = goodReport();
+    report.photos[2].aligned = { 12.5, -3.25, 0.5 };
+    report.photos[2].movedDegrees = 0.25;
+    report.exposureShifts = { 0.5, -0.25 };
+    report.isPlaced = true;
+    const QString folder = QStringLiteral("/shoot");
+    const auto read = alignmentFromJson(alignmentToJson(report, folder), folder);
+    QVERIFY2(read.ok(), read.ok() ? "" : qPrintable(read.error().text()));
+    QCOMPARE(read.value().photos.size(), report.photos.size());
+    const AlignedPhoto &photo = read.value().photos.at(2);
+    QCOMPARE(photo.path, QStringLiteral("/shoot/IMG_3.jpg"));
+    QCOMPARE(photo.points, report.photos.at(2).points);
+    QCOMPARE(photo.movedDegrees, 0.25);
+    QCOMPARE(photo.aligned.yaw, 12.5);
+    QCOMPARE(read.value().exposureShifts, report.exposureShifts);
+    QVERIFY(read.value().isPlaced);
+    QVERIFY(!alignmentFromJson("{", folder).ok());
+    QVERIFY(!alignmentFromJson("{\"schema\": 2}", folder).ok());
 }
 
 void TestAlignmentReport::schemaIsTheOneInTheRepository()

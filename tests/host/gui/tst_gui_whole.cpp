@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/gui/makepage.h"
+#include "host/gui/positionsmodel.h"
 #include "importers/headfacts.h"
 #include "tests/host/align/support/shootlist.h"
 #include "tests/host/gui/guibench.h"
@@ -11,6 +12,7 @@
 #include <QImageReader>
 #include <QLabel>
 #include <QPushButton>
+#include <QTableView>
 #include <QtTest>
 
 using namespace PanoHost;
@@ -74,6 +76,18 @@ void TestGuiWhole::dropToPanoramaIsFourSteps()
              qPrintable(QStringLiteral("%1 x %2").arg(size.width()).arg(size.height())));
     QCOMPARE(QFileInfo(page->path()).absolutePath(), bench.path(QStringLiteral("shoot panorama")));
     QVERIFY(QFile::exists(bench.path(QStringLiteral("shoot panorama/record.html"))));
+    // Back, the table knows where the photos truly stand.
+    bench.press(QWizard::BackButton);
+    auto *table = bench.wizard().currentPage()->findChild<QTableView *>();
+    QVERIFY(table != nullptr);
+    const int residual = PositionsModel::Residual;
+    QVERIFY(!table->isColumnHidden(residual));
+    bool isNumber = false;
+    const double pixels
+        = table->model()->index(0, residual).data(PositionsModel::kSortRole).toDouble(&isNumber);
+    QVERIFY2(isNumber && pixels > 0.0 && pixels < 2.0, qPrintable(QString::number(pixels)));
+    bench.press(QWizard::NextButton);
+    QVERIFY(page->hasMade());
     // No question: the panorama is there.
     bench.press(QWizard::FinishButton);
     QVERIFY(!bench.wizard().isVisible());
