@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/gui/choicepage.h"
 
+#include "host/gui/recentlist.h"
 #include "host/import/givenfiles.h"
 #include "hostlink/xiabout.h"
 
 #include <QFileInfo>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
 #include <QVBoxLayout>
@@ -43,9 +45,10 @@ QListWidgetItem *itemFor(const ImportPlugin &plugin)
 
 } // namespace
 
-ChoicePage::ChoicePage(const QVector<ImportPlugin> &plugins, QWidget *parent)
+ChoicePage::ChoicePage(const QVector<ImportPlugin> &plugins, QSettings &settings, QWidget *parent)
     : QWizardPage(parent)
     , m_list(new QListWidget)
+    , m_recent(new RecentList(settings))
     , m_news(new QLabel)
 {
     setTitle(tr("Which head took the photos?"));
@@ -63,9 +66,14 @@ ChoicePage::ChoicePage(const QVector<ImportPlugin> &plugins, QWidget *parent)
     m_news->setObjectName(QStringLiteral("m_news"));
     m_news->setTextFormat(Qt::PlainText);
     m_news->setWordWrap(true);
+    auto *heads = new QVBoxLayout;
+    heads->addWidget(label);
+    heads->addWidget(m_list);
+    auto *lists = new QHBoxLayout;
+    lists->addLayout(heads, 1);
+    lists->addWidget(m_recent, 1);
     auto *layout = new QVBoxLayout(this);
-    layout->addWidget(label);
-    layout->addWidget(m_list);
+    layout->addLayout(lists);
     layout->addWidget(m_news);
     connect(m_list, &QListWidget::currentRowChanged, this, &ChoicePage::completeChanged);
     connect(m_list, &QListWidget::currentRowChanged, this, &ChoicePage::tell);

@@ -8,10 +8,12 @@
 
 class QLabel;
 class QListWidget;
+class QSettings;
 
 namespace PanoHost
 {
 
+class RecentList;
 struct GivenFiles;
 
 /** The first page: which head took the photos. */
@@ -19,7 +21,9 @@ class ChoicePage : public QWizardPage
 {
     Q_OBJECT
 public:
-    explicit ChoicePage(const QVector<ImportPlugin> &plugins, QWidget *parent = nullptr);
+    /** \p settings, which keep recent shoots, outlive it. */
+    ChoicePage(const QVector<ImportPlugin> &plugins, QSettings &settings,
+               QWidget *parent = nullptr);
 
     /** Place of the chosen plug-in in the list given; -1 for none. */
     [[nodiscard]] int chosen() const;
@@ -29,12 +33,15 @@ public:
     /** Nothing has been dropped, or \p isLooking: it is being looked at. */
     void setNothingGiven(bool isLooking = false);
 
+    [[nodiscard]] RecentList *recent() const { return m_recent; }
+
     [[nodiscard]] bool isComplete() const override;
 
 private:
     void tell();
 
     QListWidget *m_list;
+    RecentList *m_recent;
     QLabel *m_news; ///< what was recognised, and what Next waits for
     QString m_given;
 };

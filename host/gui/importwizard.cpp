@@ -7,6 +7,7 @@
 #include "host/gui/makepage.h"
 #include "host/gui/pagekeeper.h"
 #include "host/gui/readingbar.h"
+#include "host/gui/recentlist.h"
 #include "host/gui/reportrunner.h"
 #include "host/gui/resultpage.h"
 #include "host/gui/shootdesk.h"
@@ -21,6 +22,7 @@
 #include <QLineEdit>
 #include <QResizeEvent>
 #include <QScreen>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QStyle>
 #include <QThread>
@@ -89,7 +91,7 @@ ImportWizard::ImportWizard(PanoHostApplication &app, const PluginLibrary &librar
     : QWizard(parent)
     , m_app(app)
     , m_library(library)
-    , m_choicePage(new ChoicePage(library.plugins()))
+    , m_choicePage(new ChoicePage(library.plugins(), app.settings()))
     , m_resultPage(new ResultPage(app))
     , m_makePage(new MakePage(app, makeSteps(app)))
     , m_readingBar(new ReadingBar(this))
@@ -186,7 +188,10 @@ void ImportWizard::setUpStrip()
     m_strip->hide();
     connect(m_strip, &ShootStrip::heightChanged, this, &ImportWizard::makeRoom);
     connect(m_strip, &ShootStrip::opened, this, [this](bool open) { m_wantsOpenStrip = open; });
-    connect(m_drop, &FileDrop::given, this, &ImportWizard::fillIn);
+    connect(m_drop, &FileDrop::given, this,
+            QOverload<const QStringList &>::of(&ImportWizard::fillIn));
+    connect(m_choicePage->recent(), &RecentList::openWanted, this,
+            QOverload<const RecentShoot &>::of(&ImportWizard::fillIn));
     connect(m_desk, &ShootDesk::failed, this,
             [this](const QString &why) { showMessage(QMessageBox::Warning, tr("Not done"), why); });
     connect(m_desk, &ShootDesk::looked, this, [this] {
@@ -244,11 +249,46 @@ void ImportWizard::fillIn(const QStringList &files)
         take(look({}));
         return;
     }
+    gather(look);
+}
+
+/** Takes what \p look finds, on a thread of its own. */
+void ImportWizard::gather(const std::function<GivenFiles(const JobWatch &)> &look)
+{
     m_choicePage->setNothingGiven(true);
     m_gatherer->start([this, look](const JobWatch &watch) -> std::function<void()> {
         const GivenFiles given = look(watch);
         return [this, given] { take(given); };
     });
+}
+
+void ImportWizard::fillIn(const RecentShoot &shoot)
+{
+    for (int i = 0; i < m_library.plugins().size(); ++i) {
+        if (m_library.plugins().at(i).head() == shoot.head) {
+            m_choicePage->choose(i);
+        }
+    }
+    gather([shoot](const JobWatch &watch) {
+        GivenFiles given = sortFiles(withoutFolders(shoot.files(), watch));
+        preferReadableRecord(given);
+        return given;
+    });
+}
+
+void ImportWizard::rememberShoot()
+{
+    const PageKeeper *page = keeper();
+    if (page == nullptr || page->photos().isEmpty() || !m_panorama) {
+        return;
+    }
+    const auto *area = page->page()->findChild<QScrollArea *>(QStringLiteral("m_saPreview"));
+    const auto *preview = area == nullptr ? nullptr : qobject_cast<QLabel *>(area->widget());
+    QStringList photos = page->photos();
+    photos.sort(Qt::CaseSensitive);
+    m_choicePage->recent()->add(RecentShoot::of(page->head().name(), page->record(), photos),
+                                preview == nullptr ? QPixmap()
+                                                   : preview->pixmap(Qt::ReturnByValue));
 }
 
 void ImportWizard::fillInWhenActive(const QStringList &files)
@@ -630,6 +670,7 @@ bool ImportWizard::validateCurrentPage()
     request.filled->deliveries = &m_deliveries;
     m_desk->rememberFocal();
     m_panorama = importShoot(m_app, request, {});
+    rememberShoot();
     return m_app.deliveryCount() != before;
 }
 

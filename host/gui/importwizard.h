@@ -11,6 +11,7 @@
 #include <QMessageBox>
 #include <QWizard>
 
+#include <functional>
 #include <optional>
 
 class QFileDialog;
@@ -27,6 +28,7 @@ class ReportRunner;
 class ResultPage;
 class ShootDesk;
 class ShootStrip;
+struct RecentShoot;
 
 /**
  * The import wizard: choose the head, work its plug-in's page, look at the result and save it.
@@ -73,6 +75,9 @@ private:
     void keepPages();
     void setUpStrip();
     void fillInWaiting();
+    void fillIn(const RecentShoot &shoot);
+    void gather(const std::function<GivenFiles(const JobWatch &)> &look);
+    void rememberShoot();
     void take(GivenFiles given);
     void giveTo(const GivenFiles &given);
     void goTo(int plugin);
