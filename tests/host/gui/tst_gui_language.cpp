@@ -1,0 +1,192 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/gui/elidedlabel.h"
+#include "tests/host/gui/guibench.h"
+#include "tests/support/testprogram.h"
+
+#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QRegularExpression>
+#include <QTabBar>
+#include <QTranslator>
+#include <QtTest>
+
+using namespace PanoHost;
+
+namespace
+{
+
+const QChar kBegin(0x27e6); // brackets that no text of ours holds
+const QChar kEnd(0x27e7);
+
+/** A language in which every text is a third longer, and known by its brackets. */
+class PseudoLanguage : public QTranslator
+{
+public:
+    [[nodiscard]] bool isEmpty() const override { return false; }
+    [[nodiscard]] QString translate(const char *, const char *source, const char *,
+                                    int) const override
+    {
+        const QString text = QString::fromUtf8(source);
+        return kBegin + text + QString(text.size() / 3, QLatin1Char('~')) + kEnd;
+    }
+};
+
+/** What is left of \p text without what is translated, names of files and heads, and numbers. */
+QString untranslated(QString text)
+{
+    static const QRegularExpression kTag(QStringLiteral("<[^>]*>"));
+    text.remove(kTag);
+    // Translated texts may hold others.
+    static const QRegularExpression kTranslated(QStringLiteral("\u27e6[^\u27e6\u27e7]*\u27e7"));
+    while (text.contains(kTranslated)) {
+        text.replace(kTranslated, QString());
+    }
+    static const QRegularExpression kFile(QStringLiteral("[^\\s]*(/|\\.(jpg|xml|txt|html|pto))[^\\s]*"));
+    text.remove(kFile);
+    for (const char *name : { "Papywizard", "VR Drive 2", "Clauss", "Gigapan", "XML", "EXIF",
+                              "panohost", "Hugin", "Merlin", "mm", "JSON", "CSV", "IMG_", "shoot" }) {
+        text.remove(QLatin1String(name));
+    }
+    static const QRegularExpression kNoLetters(QStringLiteral("[^\\p{L}]+"));
+    return text.replace(kNoLetters, QStringLiteral(" ")).trimmed();
+}
+
+struct ShownText {
+    QString where;
+    QString text;
+};
+
+/** Every text of \p window that can be read now, or heard. */
+QVector<ShownText> textsOf(const QWidget &window)
+{
+    QVector<ShownText> texts;
+    for (const QWidget *widget : window.findChildren<QWidget *>()) {
+        if (!widget->isVisible()) {
+            continue;
+        }
+        const QString where = QString::fromLatin1(widget->metaObject()->className())
+            + QLatin1Char(' ') + widget->objectName();
+        const auto add = [&](const QString &text) { texts.append({ where, text }); };
+        if (const auto *label = qobject_cast<const QLabel *>(widget)) {
+            add(label->text());
+        } else if (const auto *button = qobject_cast<const QAbstractButton *>(widget)) {
+            add(button->text());
+        } else if (const auto *box = qobject_cast<const QGroupBox *>(widget)) {
+            add(box->title());
+        } else if (const auto *combo = qobject_cast<const QComboBox *>(widget)) {
+            for (int i = 0; i < combo->count(); ++i) {
+                add(combo->itemText(i));
+            }
+        } else if (const auto *tabs = qobject_cast<const QTabBar *>(widget)) {
+            for (int i = 0; i < tabs->count(); ++i) {
+                add(tabs->tabText(i));
+            }
+        } else if (const auto *edit = qobject_cast<const QLineEdit *>(widget)) {
+            add(edit->placeholderText());
+        } else if (const auto *view = qobject_cast<const QHeaderView *>(widget)) {
+            for (int i = 0; view->model() != nullptr && i < view->count(); ++i) {
+                add(view->model()->headerData(i, view->orientation()).toString());
+            }
+        }
+        if (widget->objectName() != QLatin1String("m_leConfigFile")) { // shows what the record says
+            add(widget->toolTip());
+        }
+        add(widget->accessibleName());
+    }
+    return texts;
+}
+
+/** Labels and buttons that do not show all of their text. */
+QStringList clippedIn(const QWidget &window)
+{
+    QStringList clipped;
+    for (const QWidget *widget : window.findChildren<QWidget *>()) {
+        const auto *label = qobject_cast<const QLabel *>(widget);
+        const bool isText = (label != nullptr && !label->text().isEmpty() && !label->wordWrap()
+                             && qobject_cast<const ElidedLabel *>(label) == nullptr)
+            || qobject_cast<const QAbstractButton *>(widget) != nullptr;
+        const bool isShown = widget->isVisible() && !widget->visibleRegion().isEmpty();
+        if (isText && isShown && widget->width() < widget->minimumSizeHint().width()) {
+            clipped += QStringLiteral("%1 %2: %3 of %4 pixels")
+                           .arg(QLatin1String(widget->metaObject()->className()),
+                                widget->objectName())
+                           .arg(widget->width())
+                           .arg(widget->minimumSizeHint().width());
+        }
+    }
+    return clipped;
+}
+
+} // namespace
+
+/** The window in a language that does not exist: what stays English was not translated. */
+class TestLanguage : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase() { QVERIFY(QCoreApplication::installTranslator(&m_language)); }
+    void cleanupTestCase() { QCoreApplication::removeTranslator(&m_language); }
+    void everyPageIsTranslated_data();
+    void everyPageIsTranslated();
+
+private:
+    PseudoLanguage m_language;
+};
+
+void TestLanguage::everyPageIsTranslated_data()
+{
+    QTest::addColumn<QByteArray>("head");
+    for (const char *head : { "papywizard", "vrdrive2", "clauss" }) {
+        QTest::newRow(head) << QByteArray(head);
+    }
+}
+
+void TestLanguage::everyPageIsTranslated()
+{
+    QFETCH(QByteArray, head);
+    GuiBench bench({ 1200, 900 });
+    QStringList english;
+    QStringList clipped;
+    const auto look = [&](const char *page) {
+        QCoreApplication::processEvents();
+        bench.picture(QStringLiteral("language-%1-%2").arg(QLatin1String(head), QLatin1String(page)));
+        for (const ShownText &shown : textsOf(bench.wizard())) {
+            const QString left = untranslated(shown.text);
+            if (!left.isEmpty()) {
+                english += QStringLiteral("%1: %2: %3").arg(QLatin1String(page), shown.where, left);
+            }
+        }
+        for (const QString &text : clippedIn(bench.wizard())) {
+            clipped += QLatin1String(page) + QStringLiteral(": ") + text;
+        }
+    };
+    look("choice");
+    const QString record = bench.record(4, head.constData());
+    bench.drop(QStringList(record) + bench.photos(0, 3));
+    QTRY_VERIFY(bench.isSettled());
+    bench.strip().setOpen(true);
+    look("import");
+    QTRY_VERIFY(bench.isNextEnabled());
+    bench.press(QWizard::NextButton);
+    QTRY_COMPARE(bench.result().size(), 4);
+    look("result");
+    if (auto *tabs = bench.wizard().currentPage()->findChild<QTabBar *>()) {
+        tabs->setCurrentIndex(1);
+        look("positions");
+    }
+    bench.press(QWizard::NextButton);
+    look("make");
+    english.removeDuplicates();
+    QVERIFY2(english.isEmpty(), qPrintable(QLatin1Char('\n') + english.join(QLatin1Char('\n'))));
+    QVERIFY2(clipped.isEmpty(), qPrintable(QLatin1Char('\n') + clipped.join(QLatin1Char('\n'))));
+}
+
+TEST_CLASS(TestLanguage, PanoHostApplication)
+#include "tst_gui_language.moc"
