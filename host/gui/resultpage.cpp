@@ -2,12 +2,13 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/gui/resultpage.h"
 
-#include "host/check/findings.h"
 #include "host/gui/importwizard.h"
 #include "host/gui/layoutpicture.h"
 #include "host/gui/positionstable.h"
+#include "host/gui/resulttexts.h"
 #include "host/gui/savedlist.h"
 #include "host/import/proposedplace.h"
+#include "host/import/striprows.h"
 #include "host/model/panoramajson.h"
 #include "host/model/ptoproject.h"
 #include "host/model/safefile.h"
@@ -16,11 +17,14 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QShowEvent>
 #include <QStandardPaths>
 #include <QStyle>
 #include <QTabWidget>
@@ -34,62 +38,6 @@ namespace PanoHost
 namespace
 {
 
-QString countsText(const Panorama &panorama)
-{
-    return ResultPage::tr("Positions: %1\nPhotos: %2\nLinks: %3")
-        .arg(QString::number(panorama.positions.size()), QString::number(photoCount(panorama)),
-             QString::number(panorama.description.authorizedLinks.size()));
-}
-
-QString lensText(const Panorama &panorama)
-{
-    const QString lens = panorama.lens == LensModel::Fisheye ? ResultPage::tr("fisheye")
-                                                             : ResultPage::tr("standard");
-    return ResultPage::tr("Lens: %1, %2 mm").arg(lens, QString::number(panorama.focal35mm, 'g', 5));
-}
-
-QString pointsText(const StructuredPanoramaProperties &description)
-{
-    const QString detection
-        = description.autoDetection ? ResultPage::tr("automatic") : ResultPage::tr("not automatic");
-    const QString level = description.levelLinking == 0 ? ResultPage::tr("the reference level")
-                                                        : ResultPage::tr("all stack levels");
-    const QString stack = description.stackLinking == 0 ? ResultPage::tr("hard links")
-                                                        : ResultPage::tr("detected links");
-    const QString wrong
-        = description.cleanWrongLinks ? ResultPage::tr("removed") : ResultPage::tr("kept");
-    return ResultPage::tr("Control points: %1 on %2, %3 within stacks, wrong links %4")
-        .arg(detection, level, stack, wrong);
-}
-
-QString optimizationText(const StructuredPanoramaProperties &description)
-{
-    if (description.skipOptimization) {
-        return description.useRecordedLocation
-            ? ResultPage::tr("Optimization: skipped, the recorded location is kept")
-            : ResultPage::tr("Optimization: skipped");
-    }
-    return description.useRecordedLocation
-        ? ResultPage::tr("Optimization: starts from the recorded location")
-        : ResultPage::tr("Optimization: starts without the recorded location");
-}
-
-/** What the photos say against the shoot. */
-QStringList troubles(const Panorama &panorama)
-{
-    QVector<PhotoInfo> photos;
-    for (const Position &position : panorama.positions) {
-        photos += position.photos;
-    }
-    QStringList texts;
-    for (const Finding &finding : photoFindings(photos, photos.size())) {
-        if (finding.kind == Finding::Kind::Trouble) {
-            texts += QStringLiteral("%1: %2").arg(finding.topic, finding.text);
-        }
-    }
-    return texts;
-}
-
 /** The same for the same description of the same photos, wherever it was saved. */
 QByteArray identityOf(Panorama panorama)
 {
@@ -97,12 +45,31 @@ QByteArray identityOf(Panorama panorama)
     return QCryptographicHash::hash(panoramaToJson(panorama, {}), QCryptographicHash::Sha1);
 }
 
-QString summary(const Panorama &panorama)
+/** Each line with its title before it. */
+QWidget *formOf(const QVector<SummaryLine> &lines)
 {
-    const QStringList lines{ countsText(panorama), lensText(panorama),
-                             pointsText(panorama.description),
-                             optimizationText(panorama.description) };
-    return lines.join(QLatin1Char('\n'));
+    auto *content = new QWidget;
+    auto *form = new QFormLayout(content);
+    form->setLabelAlignment(Qt::AlignLeading | Qt::AlignTop);
+    for (const SummaryLine &line : lines) {
+        QStringList parts;
+        if (!line.value.isEmpty()) {
+            parts += QStringLiteral("<b>%1</b>").arg(line.value.toHtmlEscaped());
+        }
+        if (!line.meaning.isEmpty()) {
+            parts += line.meaning.toHtmlEscaped();
+        }
+        auto *text = new QLabel(parts.join(QStringLiteral(" &ndash; ")));
+        text->setTextFormat(Qt::RichText);
+        text->setWordWrap(true);
+        auto *title = new QLabel(line.title);
+        for (QLabel *label : { title, text }) {
+            label->setToolTip(line.tip);
+            label->setAccessibleDescription(line.tip);
+        }
+        form->addRow(title, text);
+    }
+    return content;
 }
 
 } // namespace
@@ -112,8 +79,7 @@ ResultPage::ResultPage(PanoHostApplication &app, QWidget *parent)
     , m_app(app)
 {
     setTitle(tr("The panorama"));
-    setSubTitle(tr("This is what the import page delivered. Save it as a project for Hugin, as a "
-                   "description for other programs, or both."));
+    setSubTitle(tr("Look whether the photos stand where they belong, then save the panorama."));
     setFinalPage(true);
     setFinalPage(true); // making the picture may be left to others
     createWidgets();
@@ -124,6 +90,10 @@ void ResultPage::createWidgets()
     m_summary = new QLabel;
     m_summary->setObjectName(QStringLiteral("m_summary"));
     m_summary->setTextFormat(Qt::PlainText);
+    m_summary->setWordWrap(true);
+    QFont bold = m_summary->font();
+    bold.setBold(true);
+    m_summary->setFont(bold);
     m_summary->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_warningIcon = new QLabel;
     m_warnings = new QLabel;
@@ -144,6 +114,14 @@ void ResultPage::createWidgets()
     m_views->setAccessibleName(tr("Views of the panorama"));
     m_views->addTab(m_layout, tr("Pictu&re"));
     m_views->addTab(m_table, tr("P&ositions"));
+    m_lines = new QScrollArea;
+    m_lines->setObjectName(QStringLiteral("m_lines"));
+    m_lines->setAccessibleName(tr("Summary"));
+    m_lines->setWidgetResizable(true);
+    m_lines->setFrameShape(QFrame::NoFrame);
+    m_views->addTab(m_lines, tr("S&ummary"));
+    m_enterFocal = new QPushButton(tr("Back to &enter it"));
+    m_enterFocal->setObjectName(QStringLiteral("m_enterFocal"));
     m_saveProject = new QPushButton(tr("Save &project..."));
     m_saveProject->setObjectName(QStringLiteral("m_saveProject"));
     m_saveJson = new QPushButton(tr("Save &description..."));
@@ -152,6 +130,7 @@ void ResultPage::createWidgets()
     m_saveTable->setObjectName(QStringLiteral("m_saveTable"));
     m_openHugin = new QPushButton(tr("Open in Hu&gin"));
     m_openHugin->setObjectName(QStringLiteral("m_openHugin"));
+    connect(m_enterFocal, &QPushButton::clicked, this, [this] { wizard()->back(); });
     connect(m_saveProject, &QPushButton::clicked, this, &ResultPage::askForProject);
     connect(m_saveJson, &QPushButton::clicked, this, &ResultPage::askForJson);
     connect(m_saveTable, &QPushButton::clicked, this, &ResultPage::askForTable);
@@ -164,6 +143,7 @@ void ResultPage::createWidgets()
     auto *warningRow = new QHBoxLayout;
     warningRow->addWidget(m_warningIcon, 0, Qt::AlignTop);
     warningRow->addLayout(warningTexts, 1);
+    warningRow->addWidget(m_enterFocal, 0, Qt::AlignTop);
     auto *buttonRow = new QHBoxLayout;
     buttonRow->addWidget(m_saveProject);
     buttonRow->addWidget(m_saveJson);
@@ -208,6 +188,15 @@ void ResultPage::recallFiles()
     m_openHugin->setEnabled(m_files.project.has_value());
 }
 
+/** Else Help would have the focus, once Next is gone. */
+void ResultPage::showEvent(QShowEvent *event)
+{
+    QWizardPage::showEvent(event);
+    if (!event->spontaneous()) {
+        m_views->setFocus();
+    }
+}
+
 bool ResultPage::confirmUnsaved()
 {
     const QMessageBox::StandardButton answer = QMessageBox::question(
@@ -225,20 +214,43 @@ void ResultPage::showPanorama(const Result<Panorama> &panorama)
     if (panorama) {
         m_panorama = panorama.value();
     }
-    const QString warnings = panorama
-        ? (panorama.value().warnings + troubles(panorama.value())).join(QLatin1Char('\n'))
-        : panorama.error().text();
+    showTexts(panorama);
     const int iconSide = style()->pixelMetric(QStyle::PM_SmallIconSize);
     m_warningIcon->setPixmap(
         style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(iconSide, iconSide));
-    m_warnings->setText(warnings);
     setRemarks({});
-    m_summary->setText(panorama ? summary(panorama.value()) : tr("Nothing that can be saved."));
     m_layout->show(panorama ? layoutScene(panorama.value()) : LayoutScene{});
     m_table->setPanorama(panorama ? panorama.value() : Panorama());
     m_saveProject->setEnabled(panorama.ok());
     m_saveJson->setEnabled(panorama.ok());
     m_saveTable->setEnabled(panorama.ok());
+}
+
+void ResultPage::showTexts(const Result<Panorama> &panorama)
+{
+    constexpr int kMostWarnings = 3; // more would take the picture's room
+    QStringList warnings;
+    QVector<SummaryLine> lines;
+    if (panorama) {
+        warnings = ResultTexts::warnings(panorama.value());
+        lines = ResultTexts::lines(panorama.value());
+        m_summary->setText(ResultTexts::headline(panorama.value()));
+    } else {
+        warnings += windowText(panorama.error());
+        m_summary->setText(tr("Nothing that can be saved."));
+    }
+    if (warnings.size() > kMostWarnings) {
+        const QStringList others = warnings.mid(kMostWarnings);
+        for (const QString &other : others) {
+            lines += { tr("To look at"), {}, other, {} };
+        }
+        warnings = warnings.mid(0, kMostWarnings);
+        warnings += others.size() == 1 ? tr("One more stands in the summary.")
+                                       : tr("%1 more stand in the summary.").arg(others.size());
+    }
+    m_warnings->setText(warnings.join(QLatin1Char('\n')));
+    m_lines->setWidget(formOf(lines));
+    m_enterFocal->setVisible(panorama && ResultTexts::needsFocal(panorama.value()));
 }
 
 void ResultPage::setRemarks(const QStringList &remarks)
@@ -254,15 +266,20 @@ bool ResultPage::saveProject(const QString &path)
     if (!m_panorama) {
         return false;
     }
+    if (ResultTexts::needsFocal(*m_panorama)) {
+        m_saved->addProblem(tr("The project was not saved: the focal length is not known. Go back "
+                               "and enter it in the line below the page."));
+        return false;
+    }
     const Result<PtoProject> project = writePtoProject(*m_panorama, path);
     if (!project) {
-        showSaved(project.error());
+        showSaved(project.error(), path);
         return false;
     }
     m_files.project = ProjectReference{ path, project.value().yawCentreDegrees };
     m_panorama->project = m_files.project;
     m_openHugin->setEnabled(true);
-    showSaved(path);
+    showSaved(path, path);
     return true;
 }
 
@@ -272,7 +289,7 @@ bool ResultPage::saveJson(const QString &path)
         return false;
     }
     const Result<QString> written = writePanoramaJson(*m_panorama, path);
-    showSaved(written);
+    showSaved(written, path);
     return written.ok();
 }
 
@@ -282,7 +299,7 @@ bool ResultPage::saveTable(const QString &path)
         return false;
     }
     const Result<QString> written = writeFileAtomically(path, m_table->csv());
-    showSaved(written);
+    showSaved(written, path);
     return written.ok();
 }
 
@@ -296,14 +313,14 @@ void ResultPage::selectPosition(int position)
     m_table->selectPosition(position);
 }
 
-void ResultPage::showSaved(const Result<QString> &saved)
+void ResultPage::showSaved(const Result<QString> &saved, const QString &path)
 {
     if (saved) {
-        m_files.paths += saved.value();
+        m_files.paths += path;
         m_memory.insert(identityOf(*m_panorama), m_files);
-        m_saved->addFile(saved.value());
+        m_saved->addFile(path);
     } else {
-        m_saved->addProblem(tr("Not saved: %1").arg(saved.error().text()));
+        m_saved->addProblem(ResultTexts::savingProblem(saved.error(), path));
     }
 }
 

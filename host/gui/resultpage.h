@@ -13,6 +13,7 @@
 
 class QLabel;
 class QPushButton;
+class QScrollArea;
 class QTabWidget;
 
 namespace PanoHost
@@ -57,6 +58,9 @@ Q_SIGNALS:
     /** The user has selected \p position, counted from 0. */
     void positionSelected(int position);
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
     struct SavedFiles {
         QStringList paths; ///< in the order in which they were saved
@@ -66,7 +70,8 @@ private:
     void createWidgets();
     void showPanorama(const Result<Panorama> &panorama);
     void recallFiles();
-    void showSaved(const Result<QString> &saved);
+    void showTexts(const Result<Panorama> &panorama);
+    void showSaved(const Result<QString> &saved, const QString &path);
     void askForProject();
     void askForJson();
     void askForTable();
@@ -89,6 +94,8 @@ private:
     QTabWidget *m_views = nullptr;
     LayoutPicture *m_layout = nullptr;
     PositionsTable *m_table = nullptr;
+    QScrollArea *m_lines = nullptr;
+    QPushButton *m_enterFocal = nullptr;
     QPushButton *m_saveProject = nullptr;
     QPushButton *m_saveJson = nullptr;
     QPushButton *m_saveTable = nullptr;

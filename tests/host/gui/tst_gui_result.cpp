@@ -10,8 +10,10 @@
 #include "tests/support/testprogram.h"
 
 #include <QClipboard>
+#include <QComboBox>
 #include <QDesktopServices>
 #include <QDir>
+#include <QDoubleSpinBox>
 #include <QFile>
 #include <QHeaderView>
 #include <QLabel>
@@ -96,6 +98,9 @@ private Q_SLOTS:
     void savingMovesNothing();
     void savedFilesAreRememberedAfterBack();
     void noTwoControlsShareALetter();
+    void focalLengthCanBeEnteredAfterAll();
+    void warningsLeaveRoomForThePicture();
+    void optionsAreExplainedInTheSummary();
 
 private:
     /** To the page, with \p shots photos of a Papywizard in the folder "shoot". */
@@ -119,6 +124,14 @@ private:
     void click(const char *button) const
     {
         QTest::mouseClick(widget<QPushButton>(button), Qt::LeftButton);
+    }
+    /** A letter together with Alt, wherever the focus is. */
+    void pressAlt(Qt::Key key) const
+    {
+        m_bench->wizard().activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&m_bench->wizard()));
+        QTest::keyClick(m_bench->wizard().windowHandle(), key, Qt::AltModifier);
+        QTest::keyRelease(m_bench->wizard().windowHandle(), Qt::Key_Alt);
     }
     [[nodiscard]] QStringList column(int column) const
     {
@@ -428,6 +441,65 @@ void TestResult::noTwoControlsShareALetter()
         }
     }
     QVERIFY(owners.size() >= 9); // five buttons, the views, the wizard's own
+}
+
+void TestResult::focalLengthCanBeEnteredAfterAll()
+{
+    m_bench->choose("Gigapan");
+    m_bench->drop(m_bench->photos(0, 14, false));
+    QTRY_VERIFY(m_bench->isSettled() && m_bench->isNextEnabled());
+    m_bench->press(QWizard::NextButton);
+    QVERIFY(page());
+    auto *back = widget<QPushButton>("m_enterFocal");
+    QVERIFY(back->isVisible());
+    QVERIFY(widget<QLabel>("m_warnings")
+                ->text()
+                .contains(QLatin1String("Until then all 15 positions lie on one point.")));
+    QVERIFY(!page()->saveProject(m_bench->path(QStringLiteral("a.pto"))));
+    const QString problem = widget<QLabel>("m_problem")->text();
+    QVERIFY2(problem.contains(QLatin1String("the focal length is not known")), qPrintable(problem));
+    QVERIFY2(!problem.contains(QLatin1String("--")), qPrintable(problem));
+    m_bench->picture(QStringLiteral("result-nofocal"));
+    QTest::mouseClick(back, Qt::LeftButton);
+    QTRY_VERIFY(m_bench->isSettled());
+    QCOMPARE(m_bench->row("focal").state, StripRow::State::Trouble);
+    m_bench->strip().setOpen(true);
+    QDoubleSpinBox *field = m_bench->strip().findChild<QDoubleSpinBox *>();
+    QVERIFY(field);
+    field->setValue(28.0);
+    m_bench->press("focal", StripAction::EnterFocal);
+    QTRY_VERIFY(m_bench->isSettled() && m_bench->isNextEnabled());
+    m_bench->press(QWizard::NextButton);
+    QVERIFY(!widget<QPushButton>("m_enterFocal")->isVisible());
+    QVERIFY(widget<QLabel>("m_summary")->text().contains(QLatin1String("standard lens of 28 mm")));
+    QVERIFY(page()->saveProject(m_bench->path(QStringLiteral("a.pto"))));
+}
+
+void TestResult::warningsLeaveRoomForThePicture()
+{
+    showResult(2);
+    const int before = widget<QWidget>("m_views")->height();
+    m_bench->press(QWizard::BackButton);
+    m_bench->wizard()
+        .currentPage()
+        ->findChild<QComboBox *>(QStringLiteral("m_cbLensType"))
+        ->setCurrentIndex(1);
+    m_bench->press(QWizard::NextButton);
+    QVERIFY(widget<QLabel>("m_warnings")
+                ->text()
+                .startsWith(QLatin1String("The lens is taken for a fisheye")));
+    page()->setRemarks({ QStringLiteral("One."), QStringLiteral("Two.") });
+    QCoreApplication::processEvents();
+    QVERIFY(widget<QWidget>("m_views")->height() > before / 2);
+}
+
+void TestResult::optionsAreExplainedInTheSummary()
+{
+    showResult(2);
+    QVERIFY(page()->isAncestorOf(m_bench->wizard().focusWidget())); // not on Help
+    pressAlt(Qt::Key_U);
+    QVERIFY(widget<QWidget>("m_lines")->isVisible());
+    m_bench->picture(QStringLiteral("result-summary"));
 }
 
 TEST_CLASS(TestResult, PanoHostApplication)
