@@ -25,8 +25,8 @@ constexpr int kIconSide = 48;
 QString needs(const HeadFacts *head)
 {
     return head == nullptr ? QString()
-        : head->isGrid()   ? ChoicePage::tr("Needs the photos")
-                           : ChoicePage::tr("Needs the head's record (*.%1) and the photos")
+        : head->isGrid()   ? ChoicePage::tr("Needs photos only")
+                           : ChoicePage::tr("Needs *.%1 record and photos")
                                .arg(QFileInfo(QString::fromLatin1(head->record)).suffix());
 }
 

@@ -381,11 +381,16 @@ void ImportWizard::giveTo(const GivenFiles &given)
             page->enterRecord(given.record);
         }
         if (!given.photos.isEmpty()) {
+            constexpr int kMany = 1000;
+            if (given.photos.size() > kMany) {
+                m_readingBar->announce(given.photos.size());
+            }
             page->give(given.photos);
         }
         page->pageChanged();
         page->setNotTaken(given.otherRecords, given.own);
     } catch (const CommandError &error) {
+        m_readingBar->end();
         showMessage(QMessageBox::Warning, tr("Files not taken"), error.failure().text());
     }
     m_desk->look();

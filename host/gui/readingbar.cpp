@@ -30,6 +30,15 @@ ReadingBar::ReadingBar(QWidget *parent)
     connect(&m_patience, &QTimer::timeout, this, &QWidget::show);
 }
 
+void ReadingBar::announce(int total)
+{
+    m_bar->setRange(0, total);
+    m_bar->setValue(0);
+    m_text->setText(tr("%1 photos are handed over...").arg(total));
+    show();
+    window()->repaint(); // the event loop will not come to it
+}
+
 void ReadingBar::begin(int total)
 {
     m_total = total;

@@ -19,6 +19,8 @@ class ReadingBar : public QFrame
 public:
     explicit ReadingBar(QWidget *parent = nullptr);
 
+    /** The page is about to be given \p total photos; nothing moves until it has taken them. */
+    void announce(int total);
     /** \p total photos are about to be read; it shows itself unless that is soon done. */
     void begin(int total);
     /** One photo more was read, or could not be. */

@@ -3,6 +3,7 @@
 #include "host/import/importjob.h"
 
 #include "host/import/lenschoice.h"
+#include "host/import/pagetime.h"
 #include "host/model/commanderror.h"
 #include "host/model/displayname.h"
 #include "hostlink/xiabout.h"
@@ -189,7 +190,11 @@ namespace
 Result<Panorama> importFilled(PanoHostApplication &app, const FilledPage &filled)
 {
     const int before = app.deliveryCount();
-    if (!filled.page->validatePage() || app.deliveryCount() == before) {
+    const bool isAccepted = [&filled] {
+        const PageTime working;
+        return filled.page->validatePage();
+    }();
+    if (!isAccepted || app.deliveryCount() == before) {
         return Failure{ ExitCode::InputRefused,
                         QStringLiteral("photos"),
                         QStringLiteral("the page refuses them"),

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/import/pagedriver.h"
 
+#include "host/import/pagetime.h"
 #include "host/model/commanderror.h"
 #include "host/model/delivery.h"
 
@@ -68,6 +69,7 @@ template <typename Widget> Widget *PageDriver::widget(const QString &name) const
 void PageDriver::enterRecord(const QString &path)
 {
     auto *edit = widget<QLineEdit>(QStringLiteral("m_leConfigFile"));
+    const PageTime working;
     edit->setText(path);
     // Pages read it at each letter or at the Enter key.
     Q_EMIT edit->textEdited(path);
@@ -109,6 +111,7 @@ void PageDriver::choosePhotos(const QStringList &names)
 
 void PageDriver::offerPhotos(const QStringList &names)
 {
+    const PageTime working;
     m_app.clearUnreadablePhotos();
     m_dialogs.answerNextFileDialog(names);
     // Qt's own dialog is the one that can be filled in.
@@ -219,6 +222,7 @@ QPixmap PageDriver::layout()
 
 StructuredPanoramaProperties PageDriver::handOver()
 {
+    const PageTime working;
     const int before = m_app.deliveryCount();
     const bool accepted = m_page->validatePage();
     throwOnMessage();

@@ -79,11 +79,9 @@ void TestChoice::headsSayWhatTheyNeed()
         needs += heads()->item(row)->text().section(QLatin1Char('\n'), 0, 0) + QLatin1Char(':')
             + heads()->item(row)->text().section(QLatin1Char('\n'), 2);
     }
-    QVERIFY(needs.contains(QStringLiteral("Gigapan:Needs the photos")));
-    QVERIFY(needs.contains(QStringLiteral("Clauss:Needs the head's record (*.txt) and the "
-                                          "photos")));
-    QVERIFY(needs.contains(QStringLiteral("Papywizard:Needs the head's record (*.xml) and the "
-                                          "photos")));
+    QVERIFY(needs.contains(QStringLiteral("Gigapan:Needs photos only")));
+    QVERIFY(needs.contains(QStringLiteral("Clauss:Needs *.txt record and photos")));
+    QVERIFY(needs.contains(QStringLiteral("Papywizard:Needs *.xml record and photos")));
 }
 
 void TestChoice::photosAloneWaitForTheHead()

@@ -432,6 +432,9 @@ void TestImportWizard::barStandsUnderThePageWhilePhotosAreRead()
 void TestImportWizard::barSaysHowFarThePageHasCome()
 {
     ReadingBar bar;
+    bar.announce(3);
+    QVERIFY(bar.isVisible());
+    QCOMPARE(bar.findChild<QLabel *>()->text(), QStringLiteral("3 photos are handed over..."));
     bar.begin(3);
     QCOMPARE(bar.text(), QStringLiteral("0 of 3 photos"));
     bar.advance();
