@@ -228,7 +228,13 @@ void Photographer::everything(const HeadFacts &head, const QStringList &files)
     }
     tabs->setCurrentIndex(0);
     wizard.next();
-    bothSizes(wizard, name + QStringLiteral("-result"));
+    auto *views = wizard.currentPage()->findChild<QTabWidget *>();
+    for (int view = 0; view < views->count(); ++view) {
+        views->setCurrentIndex(view);
+        bothSizes(wizard,
+                  name + QStringLiteral("-result")
+                      + (view == 0 ? QString() : QString::number(view + 1)));
+    }
     wizard.back();
     // Reduced thumbnails lose pixels; here they are seen as they are.
     wizard.currentPage()->findChild<QSlider *>(QStringLiteral("m_hSlider"))->setValue(100);

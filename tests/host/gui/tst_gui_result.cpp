@@ -9,6 +9,7 @@
 #include "tests/host/testphotos.h"
 #include "tests/support/testprogram.h"
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QComboBox>
 #include <QDesktopServices>
@@ -17,7 +18,9 @@
 #include <QFile>
 #include <QHeaderView>
 #include <QLabel>
+#include <QProcess>
 #include <QPushButton>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QtTest>
 
@@ -97,10 +100,13 @@ private Q_SLOTS:
     void savedFilesAreShownInTheirFolder();
     void savingMovesNothing();
     void savedFilesAreRememberedAfterBack();
-    void noTwoControlsShareALetter();
     void focalLengthCanBeEnteredAfterAll();
     void warningsLeaveRoomForThePicture();
     void optionsAreExplainedInTheSummary();
+    void fullAndReadOnlyDisksAreSaid();
+    void everythingIsDoneByKeys();
+    void everyControlHasAName();
+    void fitsSmallScreens();
 
 private:
     /** To the page, with \p shots photos of a Papywizard in the folder "shoot". */
@@ -132,6 +138,15 @@ private:
         QVERIFY(QTest::qWaitForWindowActive(&m_bench->wizard()));
         QTest::keyClick(m_bench->wizard().windowHandle(), key, Qt::AltModifier);
         QTest::keyRelease(m_bench->wizard().windowHandle(), Qt::Key_Alt);
+    }
+    /** With the Tab key, as often as it takes. */
+    void tabTo(const QWidget *target) const
+    {
+        constexpr int kMost = 60;
+        for (int i = 0; i < kMost && m_bench->wizard().focusWidget() != target; ++i) {
+            QTest::keyClick(m_bench->wizard().focusWidget(), Qt::Key_Tab);
+        }
+        QCOMPARE(m_bench->wizard().focusWidget(), target);
     }
     [[nodiscard]] QStringList column(int column) const
     {
@@ -418,31 +433,6 @@ void TestResult::savedFilesAreRememberedAfterBack()
     QVERIFY(page()->isUnsaved()); // nothing is left of it
 }
 
-void TestResult::noTwoControlsShareALetter()
-{
-    showResult(2);
-    QStringList texts;
-    for (const QAbstractButton *button : m_bench->wizard().findChildren<QAbstractButton *>()) {
-        if (button->isVisible()) {
-            texts += button->text();
-        }
-    }
-    const auto *views = widget<QTabWidget>("m_views");
-    for (int i = 0; i < views->count(); ++i) {
-        texts += views->tabText(i);
-    }
-    QHash<QString, QString> owners;
-    for (const QString &text : qAsConst(texts)) {
-        const QKeySequence key = QKeySequence::mnemonic(text);
-        if (!key.isEmpty()) {
-            QVERIFY2(!owners.contains(key.toString()),
-                     qPrintable(text + QLatin1Char('/') + owners.value(key.toString())));
-            owners.insert(key.toString(), text);
-        }
-    }
-    QVERIFY(owners.size() >= 9); // five buttons, the views, the wizard's own
-}
-
 void TestResult::focalLengthCanBeEnteredAfterAll()
 {
     m_bench->choose("Gigapan");
@@ -500,6 +490,133 @@ void TestResult::optionsAreExplainedInTheSummary()
     pressAlt(Qt::Key_U);
     QVERIFY(widget<QWidget>("m_lines")->isVisible());
     m_bench->picture(QStringLiteral("result-summary"));
+}
+
+/** Once more in a process of its own, which has a full disk and one that can only be read. */
+void TestResult::fullAndReadOnlyDisksAreSaid()
+{
+    const QString place = qEnvironmentVariable("PANOHOST_TEST_DISKS");
+    if (place.isEmpty()) {
+        const QString script = QStringLiteral(
+            "mkdir \"$1/full\" \"$1/fixed\" && mount -t tmpfs -o size=64k none \"$1/full\" "
+            "&& mount -t tmpfs -o ro none \"$1/fixed\" || exit 125\n"
+            "printf old > \"$1/full/old.pto\"; cat /dev/zero > \"$1/full/filler\" 2> /dev/null\n"
+            "PANOHOST_TEST_DISKS=$1 exec \"$0\" tst_gui_result fullAndReadOnlyDisksAreSaid\n");
+        // Root needs no more; others become root of a name space of their own.
+        for (const char *options : { "-m", "-rm" }) {
+            const QTemporaryDir disks;
+            QProcess process;
+            process.setProcessChannelMode(QProcess::MergedChannels);
+            process.start(QStringLiteral("unshare"),
+                          { QLatin1String(options), QStringLiteral("/bin/sh"), QStringLiteral("-c"),
+                            script, QCoreApplication::applicationFilePath(), disks.path() });
+            QVERIFY(process.waitForFinished(-1));
+            const QByteArray output = process.readAll();
+            if (process.exitStatus() == QProcess::NormalExit
+                && output.contains("fullAndReadOnlyDisksAreSaid")) {
+                QVERIFY2(process.exitCode() == 0, output.constData());
+                return;
+            }
+        }
+        QSKIP("No file system can be mounted here");
+    }
+    showResult(3);
+    const auto save = [&](const char *button, const QString &file) {
+        GuiBench::answerFileDialog(QDir(place).filePath(file));
+        click(button);
+        return widget<QLabel>("m_problem")->text();
+    };
+    const QString full = QStringLiteral("%1 was not saved: the disk is full. Make room on it, or "
+                                        "choose a folder on another disk.");
+    QCOMPARE(save("m_saveProject", QStringLiteral("full/a.pto")), full.arg(QLatin1String("a.pto")));
+    m_bench->picture(QStringLiteral("result-full"));
+    QCOMPARE(save("m_saveJson", QStringLiteral("full/a.json")), full.arg(QLatin1String("a.json")));
+    QCOMPARE(save("m_saveTable", QStringLiteral("full/a.csv")), full.arg(QLatin1String("a.csv")));
+    QVERIFY(!page()->saveProject(QDir(place).filePath(QStringLiteral("full/old.pto"))));
+    QFile old(QDir(place).filePath(QStringLiteral("full/old.pto")));
+    QVERIFY(old.open(QIODevice::ReadOnly));
+    QCOMPARE(old.readAll(), QByteArray("old"));
+    QCOMPARE(QDir(QDir(place).filePath(QStringLiteral("full"))).entryList(QDir::Files),
+             QStringList({ QStringLiteral("filler"), QStringLiteral("old.pto") }));
+    QCOMPARE(save("m_saveProject", QStringLiteral("fixed/a.pto")),
+             QStringLiteral("a.pto was not saved: nothing can be written in %1/fixed. Choose a "
+                            "folder of your own, such as your pictures.")
+                 .arg(place));
+    // Nothing is lost: elsewhere it goes.
+    QVERIFY(page()->isUnsaved());
+    QCOMPARE(save("m_saveProject", m_bench->path(QStringLiteral("a.pto"))), QString());
+    QVERIFY(!page()->isUnsaved());
+}
+
+void TestResult::everythingIsDoneByKeys()
+{
+    showResult(3);
+    pressAlt(Qt::Key_O);
+    QVERIFY(table()->isVisible());
+    tabTo(table());
+    QSignalSpy selected(page(), &ResultPage::positionSelected);
+    QTest::keyClick(table(), Qt::Key_Down);
+    QTest::keyClick(table(), Qt::Key_Down);
+    QVERIFY(!selected.isEmpty());
+    tabTo(widget<QWidget>("m_saveProject")); // Tab leaves the table
+    int saved = 0;
+    for (const Qt::Key letter : { Qt::Key_P, Qt::Key_D, Qt::Key_T }) {
+        GuiBench::acceptFileDialog();
+        pressAlt(letter);
+        ++saved;
+        QTRY_COMPARE(page()->findChild<SavedList *>()->files().size(), saved);
+    }
+    QTRY_VERIFY(widget<QPushButton>("m_show")->isVisible());
+    QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "openUrl");
+    tabTo(widget<QWidget>("m_show"));
+    QTest::keyClick(m_bench->wizard().focusWidget(), Qt::Key_Space);
+    QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+    QCOMPARE(m_opened,
+             QVector<QUrl>{ QUrl::fromLocalFile(m_bench->path(QStringLiteral("shoot panorama"))) });
+}
+
+void TestResult::everyControlHasAName()
+{
+    showResult(2);
+    QVERIFY(page()->saveJson(m_bench->path(QStringLiteral("a.json"))));
+    auto *views = widget<QTabWidget>("m_views");
+    int controls = 0;
+    for (int view = 0; view < views->count(); ++view) {
+        views->setCurrentIndex(view);
+        QCoreApplication::processEvents();
+        for (QWidget *control : page()->findChildren<QWidget *>()) {
+            const bool isReached = control->isVisible() && control->isEnabled()
+                && (control->focusPolicy() & Qt::TabFocus) == Qt::TabFocus
+                && control->focusProxy() == nullptr;
+            if (isReached && qobject_cast<QTabBar *>(control) == nullptr) {
+                QAccessibleInterface *told = QAccessible::queryAccessibleInterface(control);
+                QVERIFY(told);
+                QVERIFY2(!told->text(QAccessible::Name).isEmpty(),
+                         control->metaObject()->className());
+                ++controls;
+            }
+        }
+    }
+    QVERIFY(controls >= 3 * 4);
+}
+
+void TestResult::fitsSmallScreens()
+{
+    QFont font = QApplication::font();
+    font.setPointSize(10); // as desktops have it
+    QApplication::setFont(font);
+    m_bench->reopen();
+    m_bench->wizard().resize(800, 570); // 800 x 600 with a frame
+    showResult(3);
+    page()->setRemarks({ QStringLiteral("The photos do not stand at their shots: go back, and "
+                                        "press Fix.") });
+    QCoreApplication::processEvents();
+    QVERIFY2(m_bench->wizard().minimumHeight() <= 570,
+             qPrintable(QString::number(m_bench->wizard().minimumHeight())));
+    QCOMPARE(m_bench->wizard().size(), QSize(800, 570));
+    QVERIFY2(widget<QWidget>("m_views")->height() >= 200,
+             qPrintable(QString::number(widget<QWidget>("m_views")->height())));
+    m_bench->picture(QStringLiteral("result-small"));
 }
 
 TEST_CLASS(TestResult, PanoHostApplication)
