@@ -6,6 +6,7 @@
 #include "host/gui/filedrop.h"
 #include "host/gui/makepage.h"
 #include "host/gui/pagekeeper.h"
+#include "host/gui/previewguide.h"
 #include "host/gui/readingbar.h"
 #include "host/gui/recentlist.h"
 #include "host/gui/reportrunner.h"
@@ -179,6 +180,7 @@ void ImportWizard::keepPages()
         if (head != nullptr && page != nullptr) {
             m_keepers[i] = new PageKeeper(page, *head, m_app, this);
             connect(m_keepers.at(i), &PageKeeper::changed, m_desk, &ShootDesk::look);
+            (void)new PreviewGuide(page, !head->isGrid(), m_keepers.at(i));
         }
     }
 }
