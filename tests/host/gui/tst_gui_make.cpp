@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/gui/makepage.h"
 #include "host/gui/pictureview.h"
+#include "host/stitch/workfolder.h"
 #include "tests/host/testpanoramas.h"
 #include "tests/host/testphotos.h"
 #include "tests/support/testprogram.h"
@@ -111,6 +112,7 @@ private Q_SLOTS:
     void stepsAreShownAndThePictureAtTheEnd();
     void stoppedAndGoneOnWith();
     void failureSaysWhatToDoInThisWindow();
+    void panoramaThatIsBeingMadeElsewhereIsLeftAlone();
     void settingsBecomeWishes();
     void trustedHeadIsNotAligned();
     void leavingThePageStops();
@@ -261,6 +263,23 @@ void TestGuiMake::failureSaysWhatToDoInThisWindow()
     QVERIFY(find<QLineEdit>("m_makePath")->isEnabled());
     const QString log = find<QPlainTextEdit>("m_makeLog")->toPlainText();
     QVERIFY2(!log.contains(QStringLiteral("command")), qPrintable(log));
+}
+
+void TestGuiMake::panoramaThatIsBeingMadeElsewhereIsLeftAlone()
+{
+    open();
+    const QString folder = m_folder->filePath(QStringLiteral("card panorama"));
+    QVERIFY(QDir().mkpath(folder));
+    const Result<WorkFolder> other = WorkFolder::open(folder + QStringLiteral("/card.work"));
+    QVERIFY(other.ok());
+    press("m_make");
+    QTRY_VERIFY(!m_page->isRunning());
+    QVERIFY2(state().contains(QStringLiteral("wait for it to end, or choose another name")),
+             qPrintable(state()));
+    QVERIFY2(!state().contains(QStringLiteral(" -o")), qPrintable(state()));
+    find<QLineEdit>("m_makePath")->setText(folder + QStringLiteral("/other.jpg"));
+    make();
+    QCOMPARE(m_held->stitched.load(), 1);
 }
 
 void TestGuiMake::settingsBecomeWishes()
