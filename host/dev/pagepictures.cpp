@@ -4,6 +4,7 @@
 #include "host/demo/demohead.h"
 #include "host/demo/photoshoot.h"
 #include "host/gui/importwizard.h"
+#include "host/gui/makepage.h"
 #include "host/gui/shootstrip.h"
 #include "host/model/photofile.h"
 #include "host/plugin/pluginlibrary.h"
@@ -12,9 +13,11 @@
 #include <QCommandLineParser>
 #include <QDeadlineTimer>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFont>
 #include <QLabel>
 #include <QListWidget>
+#include <QPushButton>
 #include <QSlider>
 #include <QStyleFactory>
 #include <QTabWidget>
@@ -44,6 +47,7 @@ constexpr std::array<WindowSize, 2> kSizes{ { { "small", { 790, 570 } },
                                               { "large", { 1000, 780 } } } };
 // The demo's layout pictures fit without scroll bars.
 constexpr WindowSize kWholePreview{ "large", { 900, 920 } };
+constexpr WindowSize kFilm{ "film", { 800, 640 } };
 constexpr QSize kPhotoSize(360, 240);
 
 [[noreturn]] void fail(const QString &what)
@@ -149,6 +153,9 @@ public:
     void everything(const HeadFacts &head, const QStringList &files);
     void smallTabs(const HeadFacts &head, const QStringList &files);
     void choicePage();
+    /** The whole way from dropped files to the panorama, as frames with the milliseconds that each
+     * is to be seen in their names. */
+    void film(const QStringList &files);
 
 private:
     void picture(ImportWizard &wizard, const QString &name, const WindowSize &size) const;
@@ -157,9 +164,12 @@ private:
     static void fill(ImportWizard &wizard, const QStringList &files);
     void misfit(ImportWizard &wizard, const QString &head, QStringList files) const;
 
+    void frame(ImportWizard &wizard, int milliseconds);
+
     PanoHostApplication &m_app;
     const PluginLibrary &m_library;
     QDir m_folder;
+    int m_frames = 0;
 };
 
 void Photographer::picture(ImportWizard &wizard, const QString &name, const WindowSize &size) const
@@ -267,6 +277,55 @@ void Photographer::choicePage()
     wizard.done(QDialog::Rejected);
 }
 
+void Photographer::frame(ImportWizard &wizard, int milliseconds)
+{
+    constexpr int kDigits = 3;
+    picture(wizard,
+            QStringLiteral("film-%1-%2")
+                .arg(m_frames++, kDigits, 10, QLatin1Char('0'))
+                .arg(milliseconds),
+            kFilm);
+}
+
+void Photographer::film(const QStringList &files)
+{
+    constexpr int kShortMs = 300;
+    constexpr int kLookMs = 1500;
+    constexpr int kReadMs = 2500;
+    ImportWizard wizard(m_app, m_library);
+    wizard.show();
+    frame(wizard, kLookMs);
+    fill(wizard, files);
+    frame(wizard, kReadMs);
+    wizard.next();
+    waitFor([&wizard] { return wizard.currentPage()->isComplete(); }, QStringLiteral("no result"));
+    frame(wizard, kReadMs);
+    wizard.next();
+    frame(wizard, kReadMs);
+    auto *page = qobject_cast<MakePage *>(wizard.currentPage());
+    page->findChild<QPushButton *>(QStringLiteral("m_make"))->click();
+    QElapsedTimer clock;
+    clock.start();
+    const QString text = QStringLiteral("m_makeState");
+    QString before;
+    waitFor(
+        [&] {
+            const QString now = page->findChild<QLabel *>(text)->text();
+            if (page->isRunning() && now != before && clock.elapsed() > kShortMs) {
+                before = now;
+                clock.start();
+                frame(wizard, kShortMs);
+            }
+            return !page->isRunning();
+        },
+        QStringLiteral("the panorama was not made"));
+    if (!page->hasMade()) {
+        fail(page->findChild<QLabel *>(text)->text());
+    }
+    frame(wizard, kReadMs + kReadMs);
+    wizard.done(QDialog::Accepted);
+}
+
 void addOptions(QCommandLineParser &line)
 {
     line.setApplicationDescription(QStringLiteral("Photographs the import wizard and its pages."));
@@ -277,6 +336,7 @@ void addOptions(QCommandLineParser &line)
         { QStringLiteral("shoots"), QStringLiteral("for the photos; those there are used again"),
           QStringLiteral("FOLDER"), QStringLiteral("shoots") },
         { QStringLiteral("dark"), QStringLiteral("dark theme") },
+        { QStringLiteral("film"), QStringLiteral("only the way from files to the panorama") },
         { QStringLiteral("lang"), QStringLiteral("only the small tabs, in this language"),
           QStringLiteral("CODE") },
     });
@@ -319,13 +379,19 @@ int main(int argc, char **argv)
     for (const HeadFacts *head : PanoHead::allHeadFacts()) {
         const QStringList files
             = shoot(*head, QDir(line.value(QStringLiteral("shoots"))).filePath(head->name()));
+        if (line.isSet(QStringLiteral("film"))) {
+            if (head->name() == QLatin1String("papywizard")) {
+                photographer.film(files);
+            }
+            continue;
+        }
         if (line.isSet(QStringLiteral("lang"))) {
             photographer.smallTabs(*head, files);
         } else {
             photographer.everything(*head, files);
         }
     }
-    if (!line.isSet(QStringLiteral("lang"))) {
+    if (!line.isSet(QStringLiteral("lang")) && !line.isSet(QStringLiteral("film"))) {
         photographer.choicePage();
     }
     return 0;
