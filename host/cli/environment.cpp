@@ -47,7 +47,13 @@ void messageHandler(QtMsgType type, const QMessageLogContext &, const QString &m
     if (isPlatformNote(text)) {
         return;
     }
-    std::fprintf(stderr, "panohost: %s\n", text.constData());
+    // Qt ends the program then.
+    const bool hasLostDisplay
+        = text.contains("X11 connection broke") || text.contains("Wayland connection broke");
+    std::fprintf(stderr, "panohost: %s\n",
+                 hasLostDisplay ? "error: the display has gone away; what was saved is there, your "
+                                  "photos are as they were: start panohost again"
+                                : text.constData());
     if (type == QtFatalMsg) {
         std::abort();
     }

@@ -130,6 +130,7 @@ ImportWizard::ImportWizard(PanoHostApplication &app, const PluginLibrary &librar
     // Photos are read on the pages' threads.
     connect(&app, &PanoHostApplication::photoRead, m_readingBar, &ReadingBar::advance,
             Qt::QueuedConnection);
+    app.setTellThrown([this](const QString &why) { tellThrown(why); });
     m_readingBar->installEventFilter(this);
     keepPages();
     setUpStrip();
@@ -156,6 +157,7 @@ ImportWizard::ImportWizard(PanoHostApplication &app, const PluginLibrary &librar
 
 ImportWizard::~ImportWizard()
 {
+    m_app.setTellThrown({});
     // The choice page and the result page are this wizard's; the others go with their plug-ins.
     disconnect(this, &QWizard::currentIdChanged, this, nullptr);
     qDeleteAll(m_keepers);
@@ -676,7 +678,15 @@ bool ImportWizard::validateCurrentPage()
     request.filled->source = plugin->source(recordPath(currentPage()));
     request.filled->deliveries = &m_deliveries;
     m_desk->rememberFocal();
-    m_panorama = importShoot(m_app, request, {});
+    try {
+        m_panorama = importShoot(m_app, request, {});
+    } catch (...) {
+        if (m_app.deliveryCount() != before) {
+            // The page will hand this over once more, with what comes next.
+            (void)m_deliveries.take(currentPage(), m_app.delivery());
+        }
+        throw;
+    }
     rememberShoot();
     return m_app.deliveryCount() != before;
 }
@@ -706,6 +716,21 @@ void ImportWizard::rememberChoice(int id)
     if (const ImportPlugin *plugin = pluginOf(id)) {
         m_app.WriteSetting(settingsGroup(), headKey(), plugin->head());
     }
+}
+
+/** Once the event loop is at rest again. What throws at each repaint is told once at a time. */
+void ImportWizard::tellThrown(const QString &why)
+{
+    if (std::exchange(m_isTellingThrown, true)) {
+        return;
+    }
+    QTimer::singleShot(0, this, [this, why] {
+        showMessage(QMessageBox::Warning, tr("A step has failed"),
+                    tr("This page could not do what you asked: %1. Your files are as they were. "
+                       "Try again, or go back and choose fewer files.")
+                        .arg(why));
+        m_isTellingThrown = false;
+    });
 }
 
 void ImportWizard::showHelp()

@@ -99,6 +99,7 @@ private:
     void setUpSubtitle();
     void fitPages();
     void rememberChoice(int id);
+    void tellThrown(const QString &why);
     void showHelp();
     void showMessage(QMessageBox::Icon icon, const QString &title, const QString &text);
     [[nodiscard]] const ImportPlugin *pluginOf(int id) const;
@@ -117,6 +118,7 @@ private:
     ReportRunner *m_gatherer; ///< looks into folders
     QVector<PageKeeper *> m_keepers; ///< one for each plug-in; null: it has no page
     GivenFiles m_held; ///< until the user chooses the head
+    bool m_isTellingThrown = false;
     QStringList m_waiting; ///< to be filled in
     std::optional<bool> m_wantsOpenStrip; ///< nothing: the user has not said
 };

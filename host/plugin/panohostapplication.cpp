@@ -2,10 +2,15 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/plugin/panohostapplication.h"
 
+#include "host/model/commanderror.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QMutexLocker>
 #include <QStandardPaths>
+#include <QThread>
+
+#include <new>
 
 namespace PanoHost
 {
@@ -40,6 +45,25 @@ PanoHostApplication::~PanoHostApplication()
 PanoHostApplication *PanoHostApplication::instance()
 {
     return qobject_cast<PanoHostApplication *>(QCoreApplication::instance());
+}
+
+bool PanoHostApplication::notify(QObject *receiver, QEvent *event)
+{
+    if (!m_tellThrown || QThread::currentThread() != thread()) {
+        return QApplication::notify(receiver, event);
+    }
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (const CommandError &error) {
+        m_tellThrown(error.failure().text());
+    } catch (const std::bad_alloc &) {
+        m_tellThrown(tr("not enough memory"));
+    } catch (const std::exception &error) {
+        m_tellThrown(QString::fromLocal8Bit(error.what()));
+    } catch (...) {
+        m_tellThrown(tr("it does not say why"));
+    }
+    return true;
 }
 
 QString PanoHostApplication::LastPath()

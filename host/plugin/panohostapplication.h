@@ -18,6 +18,7 @@
 #include <QSettings>
 #include <QTranslator>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -72,6 +73,16 @@ public:
     [[nodiscard]] QSettings &settings() { return *m_settings; }
     /** What `Locale()` answers from now on; libraries ask when they are loaded. */
     void setLocale(const QLocale &locale) { m_locale = locale; }
+    /**
+     * From now on \p tell is called with the reason when a slot throws, a plug-in's page mostly,
+     * and the event loop goes on; null: whoever runs the loop gets what is thrown.
+     */
+    void setTellThrown(std::function<void(const QString &why)> tell)
+    {
+        m_tellThrown = std::move(tell);
+    }
+    bool notify(QObject *receiver, QEvent *event) override;
+
     /** What the pages' file dialogs look like; kept in this run only. */
     void setUseSystemFileDialog(bool use) { m_xuiSettings.useSystemFileDialog = use; }
 
@@ -122,6 +133,7 @@ private:
 
     std::unique_ptr<QSettings> m_settings;
     QLocale m_locale;
+    std::function<void(const QString &)> m_tellThrown;
     XUISettings m_xuiSettings;
     XUIInstances m_xuiInstances;
     std::vector<std::unique_ptr<QTranslator>> m_translators;

@@ -19,6 +19,8 @@
 #include <QUrl>
 #include <QtTest>
 
+#include <stdexcept>
+
 using namespace PanoHost;
 
 /** What the window takes, keeps, and asks before it loses it. */
@@ -49,6 +51,7 @@ private Q_SLOTS:
     void droppingWhileReadingStartsAnew();
     void thousandsOfFilesDoNotStopTheWindow();
     void stripIsOneLineInASmallWindow();
+    void pageThatThrowsIsBorne();
 
 private:
     [[nodiscard]] QWizardPage *page() const { return m_bench->wizard().currentPage(); }
@@ -341,6 +344,34 @@ void TestKeeping::stripIsOneLineInASmallWindow()
     QVERIFY(bottom.y() < m_bench->strip().geometry().top());
     QTest::keyClick(opener, Qt::Key_Space);
     QVERIFY(!m_bench->strip().isOpen());
+}
+
+void TestKeeping::pageThatThrowsIsBorne()
+{
+    m_bench->drop(QStringList(m_bench->record(3)) + m_bench->photos(0, 2));
+    QTRY_VERIFY(m_bench->isSettled() && m_bench->isNextEnabled());
+    // As a slot of the page, and as what it does when Next is pressed.
+    auto *box = field<QCheckBox>("m_noOptim");
+    const QMetaObject::Connection slot = connect(box, &QCheckBox::clicked, this,
+                                                 [] { throw std::runtime_error("no such photo"); });
+    DialogCatcher boxes;
+    QStringList said;
+    box->setFocus();
+    QTest::keyClick(box, Qt::Key_Space);
+    QTRY_COMPARE((said += boxes.takeMessages()).size(), 1);
+    QVERIFY2(said.first().contains(QLatin1String("no such photo")), qPrintable(said.first()));
+    disconnect(slot);
+    const QMetaObject::Connection handOver
+        = connect(PanoHostApplication::instance(), &PanoHostApplication::delivered, this,
+                  [] { throw std::bad_alloc(); });
+    m_bench->press(QWizard::NextButton);
+    QTRY_COMPARE((said += boxes.takeMessages()).size(), 2);
+    QVERIFY2(said.last().contains(QLatin1String("not enough memory")), qPrintable(said.last()));
+    disconnect(handOver);
+    // Nothing is lost.
+    QVERIFY(page()->inherits("UIWPMerlin"));
+    m_bench->press(QWizard::NextButton);
+    QCOMPARE(m_bench->result().size(), 3);
 }
 
 TEST_CLASS(TestKeeping, PanoHostApplication)

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void cleanup() { m_bench.reset(); }
     void keysReachTheWindowThatStartsWithFiles_data();
     void keysReachTheWindowThatStartsWithFiles();
+    void goneDisplayIsSaid();
 
 private:
     /** As if typed on the keyboard of the screen: whoever has the focus gets it. */
@@ -62,6 +63,35 @@ void TestStart::keysReachTheWindowThatStartsWithFiles()
     QTRY_COMPARE((questions += boxes.takeMessages()).size(), 1);
     typeKey(QStringLiteral("alt+b"));
     QTRY_VERIFY(!m_bench->wizard().currentPage()->inherits("UIWPMerlin"));
+}
+
+void TestStart::goneDisplayIsSaid()
+{
+    QProcess screen;
+    screen.start(QStringLiteral("Xvfb"), { QStringLiteral("-displayfd"), QStringLiteral("1") });
+    QVERIFY(screen.waitForReadyRead());
+    QTRY_VERIFY(screen.canReadLine());
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DISPLAY"),
+                       QLatin1Char(':') + QString::fromLatin1(screen.readLine().trimmed()));
+    QProcess program;
+    program.setProcessEnvironment(environment);
+    program.start(
+        QStringLiteral(PANOHOST_PROGRAM),
+        { QStringLiteral("--plugin"), QStringLiteral(PANOHOST_TEST_LIBRARY), m_bench->record(3) });
+    QProcess looking;
+    looking.setProcessEnvironment(environment);
+    looking.start(QStringLiteral(XDOTOOL),
+                  { QStringLiteral("search"), QStringLiteral("--sync"), QStringLiteral("--name"),
+                    QStringLiteral("Import a panorama") });
+    QVERIFY(looking.waitForFinished());
+    screen.terminate();
+    QVERIFY(program.waitForFinished());
+    QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(program.exitCode(), 1);
+    const QByteArray said = program.readAllStandardError();
+    QVERIFY2(said.contains("error: the display has gone away"), said.constData());
+    QVERIFY(screen.waitForFinished());
 }
 
 TEST_CLASS(TestStart, PanoHostApplication)
