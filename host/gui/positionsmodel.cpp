@@ -192,7 +192,7 @@ QVariant PositionsModel::data(const QModelIndex &index, int role) const
             ? QVariant(*row.numbers[static_cast<size_t>(column)])
             : QVariant();
     case Qt::TextAlignmentRole:
-        return QVariant(Qt::AlignVCenter | (isText ? Qt::AlignLeading : Qt::AlignTrailing));
+        return int(Qt::AlignVCenter | (isText ? Qt::AlignLeading : Qt::AlignTrailing));
     case Qt::ToolTipRole:
         // File names may stand in it.
         return column == Photos ? QStringLiteral("<p>%1</p>").arg(text(row, column).toHtmlEscaped())

@@ -38,19 +38,12 @@ namespace PanoHost
 namespace
 {
 
-/** The same for the same description of the same photos, wherever it was saved. */
-QByteArray identityOf(Panorama panorama)
-{
-    panorama.project.reset();
-    return QCryptographicHash::hash(panoramaToJson(panorama, {}), QCryptographicHash::Sha1);
-}
-
 /** Each line with its title before it. */
 QWidget *formOf(const QVector<SummaryLine> &lines)
 {
     auto *content = new QWidget;
     auto *form = new QFormLayout(content);
-    form->setLabelAlignment(Qt::AlignLeading | Qt::AlignTop);
+    form->setLabelAlignment(Qt::AlignLeading);
     for (const SummaryLine &line : lines) {
         QStringList parts;
         if (!line.value.isEmpty()) {
@@ -63,6 +56,7 @@ QWidget *formOf(const QVector<SummaryLine> &lines)
         text->setTextFormat(Qt::RichText);
         text->setWordWrap(true);
         auto *title = new QLabel(line.title);
+        title->setAlignment(Qt::AlignLeading | Qt::AlignTop);
         for (QLabel *label : { title, text }) {
             label->setToolTip(line.tip);
             label->setAccessibleDescription(line.tip);
@@ -167,10 +161,24 @@ void ResultPage::initializePage()
     recallFiles();
 }
 
+/** The same for the same description of the same photos, wherever it was saved. */
+const QByteArray &ResultPage::identity()
+{
+    if (m_identity.isEmpty()) {
+        Panorama panorama = *m_panorama;
+        panorama.project.reset();
+        m_identity
+            = QCryptographicHash::hash(panoramaToJson(panorama, {}), QCryptographicHash::Sha1);
+    }
+    return m_identity;
+}
+
 /** Whoever goes back and comes again with the same panorama has saved it already. */
 void ResultPage::recallFiles()
 {
-    m_files = m_panorama ? m_memory.value(identityOf(*m_panorama)) : SavedFiles();
+    m_identity.clear();
+    // It takes long of thousands of photos, and most users save once.
+    m_files = m_panorama && !m_memory.isEmpty() ? m_memory.value(identity()) : SavedFiles();
     QStringList &paths = m_files.paths;
     paths.erase(std::remove_if(paths.begin(), paths.end(),
                                [](const QString &path) { return !QFileInfo::exists(path); }),
@@ -317,7 +325,7 @@ void ResultPage::showSaved(const Result<QString> &saved, const QString &path)
 {
     if (saved) {
         m_files.paths += path;
-        m_memory.insert(identityOf(*m_panorama), m_files);
+        m_memory.insert(identity(), m_files);
         m_saved->addFile(path);
     } else {
         m_saved->addProblem(ResultTexts::savingProblem(saved.error(), path));

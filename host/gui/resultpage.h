@@ -69,6 +69,7 @@ private:
 
     void createWidgets();
     void showPanorama(const Result<Panorama> &panorama);
+    [[nodiscard]] const QByteArray &identity();
     void recallFiles();
     void showTexts(const Result<Panorama> &panorama);
     void showSaved(const Result<QString> &saved, const QString &path);
@@ -85,6 +86,7 @@ private:
     /** What was saved of each panorama, by what tells it from others. */
     QHash<QByteArray, SavedFiles> m_memory;
     SavedFiles m_files; ///< of the one shown
+    QByteArray m_identity; ///< of the one shown; empty: not worked out yet
     QString m_folder; ///< where files of this panorama go; empty: not chosen yet
     QLabel *m_summary = nullptr;
     QLabel *m_warnings = nullptr;

@@ -73,11 +73,12 @@ QString ResultTexts::headline(const Panorama &panorama)
             : tr(" (brackets of %1 to %2)")
                   .arg(QString::number(sizes.fewest), QString::number(sizes.most));
     }
-    return tr("%1, %2, %3")
-        .arg(text, lens(panorama).value,
-             links == 0       ? tr("no links")
-                 : links == 1 ? tr("1 link")
-                              : tr("%1 links").arg(links));
+    text = tr("%1, %2, %3")
+               .arg(text, lens(panorama).value,
+                    links == 0       ? tr("no links")
+                        : links == 1 ? tr("1 link")
+                                     : tr("%1 links").arg(links));
+    return panorama.description.renderMode == kHdrRadiance ? tr("%1, into HDR").arg(text) : text;
 }
 
 QVector<SummaryLine> ResultTexts::lines(const Panorama &panorama)
@@ -257,7 +258,11 @@ QStringList ResultTexts::photoWarnings(const Panorama &panorama)
 {
     QVector<PhotoInfo> photos;
     for (const Position &position : panorama.positions) {
-        photos += position.photos;
+        QVector<PhotoInfo> bracket = position.photos; // the reference comes first in it
+        std::stable_sort(
+            bracket.begin(), bracket.end(),
+            [](const PhotoInfo &one, const PhotoInfo &other) { return one.timeMs < other.timeMs; });
+        photos += bracket;
     }
     QStringList texts;
     for (const Finding &finding : photoFindings(photos, photos.size())) {

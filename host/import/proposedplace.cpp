@@ -94,7 +94,7 @@ QString proposedName(const Panorama &panorama)
     const QString &record = panorama.source.record;
     for (const QString &text : { titleIn(record), QFileInfo(record).completeBaseName(),
                                  QFileInfo(photosFolder(panorama)).fileName() }) {
-        const QString name = asFileName(text);
+        QString name = asFileName(text);
         if (!name.isEmpty()) {
             return name;
         }

@@ -25,7 +25,7 @@ QString fieldText(const QString &field)
 
 QByteArray csvText(const QVector<QStringList> &lines)
 {
-    QString text(QChar(QChar::ByteOrderMark));
+    QString text{ QChar(QChar::ByteOrderMark) };
     for (const QStringList &line : lines) {
         for (int i = 0; i < line.size(); ++i) {
             text += (i == 0 ? QString() : QStringLiteral(",")) + fieldText(line.at(i));

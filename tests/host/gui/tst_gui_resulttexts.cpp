@@ -30,6 +30,7 @@ private Q_SLOTS:
     void unknownFocalIsSaidOnce();
     void otherLensesAreWarnedOf();
     void missingLinksAreWarnedOf();
+    void orderIsThatOfThePositions();
     void textsHoldNoWordsOfTheCode();
     void savingProblemsSayWhatToTry_data();
     void savingProblemsSayWhatToTry();
@@ -81,6 +82,11 @@ void TestResultTexts::headlineCounts_data()
     QTest::newRow("some") << 4 << 1 << 3
                           << QStringLiteral(
                                  "4 photos at 4 positions, standard lens of 24 mm, 3 links");
+    QTest::newRow("HDR")
+        << 2 << 3 << 1
+        << QStringLiteral(
+               "6 photos at 2 positions (brackets of 3), standard lens of 24 mm, 1 link, "
+               "into HDR");
     QTest::newRow("brackets")
         << 2 << 3 << 1
         << QStringLiteral(
@@ -93,7 +99,9 @@ void TestResultTexts::headlineCounts()
     QFETCH(int, each);
     QFETCH(int, links);
     QFETCH(QString, text);
-    QCOMPARE(ResultTexts::headline(linkedRow(positions, each, links)), text);
+    Panorama panorama = linkedRow(positions, each, links);
+    panorama.description.renderMode = text.endsWith(QLatin1String("HDR")) ? 3 : 2;
+    QCOMPARE(ResultTexts::headline(panorama), text);
 }
 
 void TestResultTexts::optionsAreExplained_data()
@@ -199,6 +207,22 @@ void TestResultTexts::missingLinksAreWarnedOf()
     QCOMPARE(ResultTexts::warnings(fisheye), QStringList());
     QVERIFY(all(fisheye).contains(
         QLatin1String("Links: none All photos that overlap are compared instead.")));
+}
+
+void TestResultTexts::orderIsThatOfThePositions()
+{
+    // The middle exposure, taken second, is the reference.
+    Panorama panorama = linkedRow(3, 3);
+    for (int position = 0; position < 3; ++position) {
+        QVector<PhotoInfo> &photos = panorama.positions[position].photos;
+        photos[0].timeMs = 10000 * (position + 1) + 1000;
+        photos[1].timeMs = 10000 * (position + 1);
+        photos[2].timeMs = 10000 * (position + 1) + 2000;
+    }
+    QVERIFY(ResultTexts::warnings(panorama).filter(QStringLiteral("Order")).isEmpty());
+    std::swap(panorama.positions[0], panorama.positions[1]);
+    QCOMPARE(ResultTexts::warnings(panorama).filter(QStringLiteral("Order")),
+             QStringList(QStringLiteral("Order: 2.jpg was taken before 6.jpg")));
 }
 
 void TestResultTexts::textsHoldNoWordsOfTheCode()
