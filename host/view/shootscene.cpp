@@ -107,7 +107,8 @@ private:
     {
         const int most = std::max(static_cast<int>(std::sqrt(m_cellsEach)), 1);
         const int cells = std::clamp(
-            static_cast<int>(std::ceil(2.0 * frame.radiusDegrees / kCellDegrees)), 1, most);
+            static_cast<int>(std::ceil(std::sqrt(2.0) * frame.radiusDegrees / kCellDegrees)), 1,
+            most);
         mesh->columns = cells;
         mesh->rows = cells;
         // The axis is one of the points: the others lie within half a turn of it.
@@ -132,7 +133,7 @@ private:
         const bool holdsPole = axis + reach >= 90.0 || axis - reach <= -90.0;
         const double sine = std::sin(qDegreesToRadians(reach)) / std::cos(qDegreesToRadians(axis));
         const double across = holdsPole || sine >= 1.0 ? 180.0 : qRadiansToDegrees(std::asin(sine));
-        const double step = std::min(kCellDegrees, reach / 6.0);
+        const double step = std::min(kCellDegrees, reach / 4.0);
         const double flattest = from <= 0.0 && to >= 0.0
             ? 1.0
             : std::cos(qDegreesToRadians(std::min(std::abs(from), std::abs(to))));

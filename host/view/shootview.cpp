@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/view/shootview.h"
 
+#include "host/view/gldrawer.h"
+
 #include <QApplication>
 #include <QFileInfo>
 #include <QHelpEvent>
@@ -24,7 +26,7 @@ namespace
 {
 
 // Beyond these, outlines, numbers and lines are a blur, and painting them takes long.
-constexpr int kMostOutlines = 1500;
+constexpr int kMostOutlines = 400;
 constexpr int kMostNumbers = 150;
 constexpr int kMostLinks = 20000;
 constexpr float kLeastOutlinedSide = 12.0F;
@@ -107,23 +109,22 @@ QColor residualColour(double part)
 
 ShootView::ShootView(QWidget *parent, Drawing drawing)
     : QWidget(parent)
+    , m_drawing(drawing)
 {
-    Q_UNUSED(drawing)
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setAttribute(Qt::WA_OpaquePaintEvent);
-    m_drawer = std::make_unique<SoftDrawer>();
+    // While the picture moves, nothing is read: both want the processor.
+    constexpr int kRestMs = 60;
     m_wantSoon.setSingleShot(true);
-    // While the picture moves, reading ahead for each step of it would be for nothing.
-    constexpr int kRestMs = 30;
     m_wantSoon.setInterval(kRestMs);
-    connect(&m_wantSoon, &QTimer::timeout, this, [this] {
-        const std::vector<WantedThumbnail> wanted = m_thumbnails.wantedFor(m_list, m_scene);
-        m_isLoaded = wanted.empty();
-        m_loader.want(wanted);
-    });
-    connect(&m_loader, &ThumbnailLoader::loaded, this, &ShootView::takeThumbnails);
+    connect(&m_wantSoon, &QTimer::timeout, this, &ShootView::wantThumbnails);
+    // Many photos arrive in one go.
+    m_takeSoon.setSingleShot(true);
+    m_takeSoon.setInterval(kRestMs);
+    connect(&m_takeSoon, &QTimer::timeout, this, &ShootView::takeThumbnails);
+    connect(&m_loader, &ThumbnailLoader::loaded, &m_takeSoon, qOverload<>(&QTimer::start));
     showScene({});
 }
 
@@ -197,6 +198,8 @@ void ShootView::zoom(double factor)
 void ShootView::changed()
 {
     m_isStale = true;
+    m_isLoaded = m_scene.frames.isEmpty();
+    m_loader.want({});
     m_wantSoon.start();
     update();
 }
@@ -275,7 +278,18 @@ void ShootView::takeThumbnails()
     for (const LoadedThumbnail &loaded : m_loader.take()) {
         m_thumbnails.put(loaded);
     }
-    changed();
+    m_isStale = true;
+    update();
+    if (!m_wantSoon.isActive()) {
+        wantThumbnails();
+    }
+}
+
+void ShootView::wantThumbnails()
+{
+    const std::vector<WantedThumbnail> wanted = m_thumbnails.wantedFor(m_list, m_scene);
+    m_isLoaded = wanted.empty();
+    m_loader.want(wanted);
 }
 
 double ShootView::worstShown() const
@@ -304,10 +318,26 @@ FrameFill ShootView::fillOf(const Patch &patch) const
 
 void ShootView::draw()
 {
+    if (size().isEmpty()) {
+        return;
+    }
     const double scale = devicePixelRatioF();
     m_list = drawListOf(m_scene, m_camera, scale, m_selected);
-    m_picture = m_drawer->draw(m_list, (QSizeF(size()) * scale).toSize(), mapRect(m_camera, scale),
-                               [this](const Patch &patch) { return fillOf(patch); });
+    if (!m_drawer && m_drawing != Drawing::Software) {
+        m_drawer = makeGlDrawer(m_drawing == Drawing::OpenGl ? GlBy::Any : GlBy::Card);
+        m_usesOpenGl = m_drawer != nullptr;
+    }
+    const auto drawWith = [this, scale](PictureDrawer *drawer) {
+        return drawer->draw(m_list, (QSizeF(size()) * scale).toSize(), mapRect(m_camera, scale),
+                            [this](const Patch &patch) { return fillOf(patch); });
+    };
+    m_picture = m_drawer ? drawWith(m_drawer.get()) : QImage();
+    if (m_picture.isNull()) {
+        // There is no graphics card that can, or it has gone away.
+        m_usesOpenGl = false;
+        m_drawer = std::make_unique<SoftDrawer>();
+        m_picture = drawWith(m_drawer.get());
+    }
     m_picture.setDevicePixelRatio(scale);
     m_isStale = false;
 }

@@ -27,6 +27,7 @@ class ShootView : public QWidget
 public:
     enum class Drawing {
         Best, ///< by the graphics card where there is one that can
+        OpenGl, ///< the processor's too
         Software,
     };
 
@@ -95,6 +96,7 @@ private:
     void hover(int frame);
     void step(int by);
     void takeThumbnails();
+    void wantThumbnails();
     void draw();
     [[nodiscard]] FrameFill fillOf(const Patch &patch) const;
     [[nodiscard]] double worstShown() const;
@@ -120,7 +122,8 @@ private:
     std::optional<QPointF> m_pressed; ///< while a button is down: where it was last
     bool m_isDragged = false;
 
-    std::unique_ptr<PictureDrawer> m_drawer;
+    const Drawing m_drawing;
+    std::unique_ptr<PictureDrawer> m_drawer; ///< null before the first picture
     bool m_usesOpenGl = false;
     DrawList m_list; ///< of the picture
     QImage m_picture;
@@ -128,6 +131,7 @@ private:
     ThumbnailCache m_thumbnails;
     bool m_isLoaded = true;
     QTimer m_wantSoon;
+    QTimer m_takeSoon;
     ThumbnailLoader m_loader;
 };
 

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace PanoHost
 {
@@ -180,6 +181,54 @@ void drawTriangle(QImage *picture, const Triangle &triangle, const QRect &clip, 
     }
 }
 
+/** A patch with what it is filled with, and the rows that it reaches. */
+struct Filled {
+    Filled(const DrawList &list, const Patch &patch, FrameFill with)
+        : corners(list.points.data() + patch.first)
+        , count(patch.count)
+        , isCut(patch.isCut)
+        , fill(std::move(with))
+        , top(corners[0].y)
+        , bottom(corners[0].y)
+    {
+        for (int i = 1; i < count; ++i) {
+            top = std::min(top, corners[i].y);
+            bottom = std::max(bottom, corners[i].y);
+        }
+    }
+
+    [[nodiscard]] bool reaches(const QRect &part) const
+    {
+        return bottom >= static_cast<float>(part.top())
+            && top <= static_cast<float>(part.bottom() + 1);
+    }
+
+    const ScreenPoint *corners;
+    int count;
+    bool isCut;
+    FrameFill fill;
+    float top;
+    float bottom;
+};
+
+void drawPatch(QImage *picture, const Filled &patch, const QRect &clip)
+{
+    const Sampler sampler(patch.fill);
+    const auto above = static_cast<float>(clip.top());
+    const auto below = static_cast<float>(clip.bottom() + 1);
+    for (int i = 0; i < patch.count; i += 3) {
+        const ScreenPoint *corners = patch.corners + i;
+        if ((corners[0].y < above && corners[1].y < above && corners[2].y < above)
+            || (corners[0].y > below && corners[1].y > below && corners[2].y > below)) {
+            continue;
+        }
+        const Triangle triangle(corners);
+        if (!triangle.isFlat()) {
+            drawTriangle(picture, triangle, clip, patch.isCut, sampler);
+        }
+    }
+}
+
 } // namespace
 
 QImage SoftDrawer::draw(const DrawList &list, const QSize &size, const QRect &clip,
@@ -190,32 +239,19 @@ QImage SoftDrawer::draw(const DrawList &list, const QSize &size, const QRect &cl
         return {};
     }
     picture.fill(0);
-    std::vector<FrameFill> fills;
-    fills.reserve(list.patches.size());
+    std::vector<Filled> filled;
+    filled.reserve(list.patches.size());
     for (const Patch &patch : list.patches) {
-        fills.push_back(fillOf(patch));
+        filled.emplace_back(list, patch, fillOf(patch));
     }
     const QRect all = clip.intersected(picture.rect());
     const int bands = (all.height() + kBand - 1) / kBand;
     forEachRow(bands, [&](int band) {
         QRect part(all.left(), all.top() + band * kBand, all.width(), kBand);
         part = part.intersected(all);
-        for (size_t i = list.patches.size(); i-- > 0;) {
-            const Patch &patch = list.patches[i];
-            const Sampler sampler(fills[i]);
-            for (int point = 0; point < patch.count; point += 3) {
-                const ScreenPoint *corners
-                    = list.points.data() + static_cast<size_t>(patch.first + point);
-                const auto top = static_cast<float>(part.top());
-                const auto bottom = static_cast<float>(part.bottom() + 1);
-                if ((corners[0].y < top && corners[1].y < top && corners[2].y < top)
-                    || (corners[0].y > bottom && corners[1].y > bottom && corners[2].y > bottom)) {
-                    continue;
-                }
-                const Triangle triangle(corners);
-                if (!triangle.isFlat()) {
-                    drawTriangle(&picture, triangle, part, patch.isCut, sampler);
-                }
+        for (auto one = filled.crbegin(); one != filled.crend(); ++one) {
+            if (one->reaches(part)) {
+                drawPatch(&picture, *one, part);
             }
         }
     });
