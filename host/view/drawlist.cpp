@@ -1,0 +1,194 @@
+// SPDX-FileCopyrightText: 2026 Orvane
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/view/drawlist.h"
+
+#include "host/model/ptoline.h"
+
+#include <QtMath>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace PanoHost
+{
+
+namespace
+{
+
+class ListMaker
+{
+public:
+    ListMaker(const ShootScene &scene, const ViewCamera &camera, double scale)
+        : m_scene(scene)
+        , m_camera(camera)
+        , m_scale(scale)
+        , m_middle(camera.size.width() * scale / 2.0, camera.size.height() * scale / 2.0)
+        , m_perDegree(camera.pixelsPerDegree * scale)
+        , m_toCamera(camera.toCamera().cast<float>())
+        , m_cornerDegrees(camera.cornerDegrees())
+        , m_axis(camera.toCamera().row(2))
+    {
+    }
+
+    void add(int frame)
+    {
+        const FrameMesh &mesh = m_scene.meshes[static_cast<size_t>(frame)];
+        if (mesh.columns == 0) {
+            return;
+        }
+        if (m_camera.mode == ViewMode::Sphere) {
+            addOnSphere(frame, mesh);
+        } else {
+            addOnMap(frame, mesh);
+        }
+    }
+
+    [[nodiscard]] DrawList take() { return std::move(m_list); }
+
+private:
+    void addOnMap(int frame, const FrameMesh &mesh)
+    {
+        const double yaw
+            = wrappedDegrees(m_scene.frames.at(frame).angles.yaw - m_camera.yawDegrees);
+        const double halfWidth = std::min(m_middle.x() / m_perDegree, 180.0);
+        const double halfHeight = m_middle.y() / m_perDegree;
+        if (mesh.pitchTo < m_camera.pitchDegrees - halfHeight
+            || mesh.pitchFrom > m_camera.pitchDegrees + halfHeight) {
+            return;
+        }
+        // At the edges of the map a frame has a place on either side.
+        for (const double turn : { -360.0, 0.0, 360.0 }) {
+            const double at = yaw + turn;
+            if (at + mesh.yawTo < -halfWidth || at + mesh.yawFrom > halfWidth) {
+                continue;
+            }
+            m_corners.clear();
+            for (int i = 0; i < pointCount(mesh); ++i) {
+                const MeshPoint &point = m_scene.points[static_cast<size_t>(mesh.first + i)];
+                m_corners.push_back(
+                    { static_cast<float>(m_middle.x() + (at + point.yaw) * m_perDegree),
+                      static_cast<float>(m_middle.y()
+                                         + (m_camera.pitchDegrees - point.pitch) * m_perDegree),
+                      point.u, point.v });
+            }
+            addCells(frame, mesh);
+        }
+    }
+
+    void addOnSphere(int frame, const FrameMesh &mesh)
+    {
+        const ShootFrame &photo = m_scene.frames.at(frame);
+        const double cosine = std::clamp(m_axis.dot(photo.toWorld.col(2)), -1.0, 1.0);
+        if (qRadiansToDegrees(std::acos(cosine)) > m_cornerDegrees + photo.radiusDegrees) {
+            return;
+        }
+        m_corners.clear();
+        const auto focal = static_cast<float>(m_camera.focalPixels() * m_scale);
+        for (int i = 0; i < pointCount(mesh); ++i) {
+            const MeshPoint &point = m_scene.points[static_cast<size_t>(mesh.first + i)];
+            const Eigen::Vector3f seen = m_toCamera * point.direction;
+            const bool isBehind = !(seen.z() > static_cast<float>(kLeastViewCosine));
+            const float perUnit = isBehind ? 0.0F : focal / seen.z();
+            m_corners.push_back({ static_cast<float>(m_middle.x()) + seen.x() * perUnit,
+                                  static_cast<float>(m_middle.y()) - seen.y() * perUnit, point.u,
+                                  isBehind ? std::nanf("") : point.v });
+        }
+        addCells(frame, mesh);
+    }
+
+    [[nodiscard]] static int pointCount(const FrameMesh &mesh)
+    {
+        return (mesh.columns + 1) * (mesh.rows + 1);
+    }
+
+    void addCells(int frame, const FrameMesh &mesh)
+    {
+        Patch patch;
+        patch.frame = frame;
+        patch.first = static_cast<int>(m_list.points.size());
+        patch.isCut = mesh.isCut;
+        for (int row = 0; row < mesh.rows; ++row) {
+            for (int column = 0; column < mesh.columns; ++column) {
+                const auto first = static_cast<size_t>(row * (mesh.columns + 1) + column);
+                const size_t below = first + static_cast<size_t>(mesh.columns) + 1;
+                addCell(m_corners[first], m_corners[first + 1], m_corners[below],
+                        m_corners[below + 1], mesh.isCut);
+            }
+        }
+        patch.count = static_cast<int>(m_list.points.size()) - patch.first;
+        if (patch.count > 0) {
+            patch.side = static_cast<float>(sideDegrees(frame) * m_perDegree);
+            m_list.patches.push_back(patch);
+        }
+    }
+
+    void addCell(const ScreenPoint &a, const ScreenPoint &b, const ScreenPoint &c,
+                 const ScreenPoint &d, bool isCut)
+    {
+        if (std::isnan(a.v) || std::isnan(b.v) || std::isnan(c.v) || std::isnan(d.v)) {
+            return;
+        }
+        const auto within = [](float p, float q, float r, float s, float from, float to) {
+            return std::max(std::max(p, q), std::max(r, s)) >= from
+                && std::min(std::min(p, q), std::min(r, s)) <= to;
+        };
+        if (!within(a.x, b.x, c.x, d.x, 0.0F, static_cast<float>(2.0 * m_middle.x()))
+            || !within(a.y, b.y, c.y, d.y, 0.0F, static_cast<float>(2.0 * m_middle.y()))
+            || (isCut
+                && (!within(a.u, b.u, c.u, d.u, 0.0F, 1.0F)
+                    || !within(a.v, b.v, c.v, d.v, 0.0F, 1.0F)))) {
+            return;
+        }
+        m_list.points.insert(m_list.points.end(), { a, b, c, c, b, d });
+    }
+
+    [[nodiscard]] double sideDegrees(int frame) const
+    {
+        const AlignLens &lens = m_scene.frames.at(frame).lens;
+        const double longer = std::max(lens.size.width(), lens.size.height());
+        return qRadiansToDegrees(longer / lens.focalPixels);
+    }
+
+    const ShootScene &m_scene;
+    const ViewCamera &m_camera;
+    const double m_scale;
+    const QPointF m_middle;
+    const double m_perDegree;
+    const Eigen::Matrix3f m_toCamera;
+    const double m_cornerDegrees;
+    const Eigen::Vector3d m_axis;
+    std::vector<ScreenPoint> m_corners; ///< of one mesh
+    DrawList m_list;
+};
+
+} // namespace
+
+DrawList drawListOf(const ShootScene &scene, const ViewCamera &camera, double scale, int front)
+{
+    ListMaker maker(scene, camera, scale);
+    for (int frame = 0; frame < scene.frames.size(); ++frame) {
+        if (frame != front) {
+            maker.add(frame);
+        }
+    }
+    if (front >= 0 && front < scene.frames.size()) {
+        maker.add(front);
+    }
+    return maker.take();
+}
+
+QRect mapRect(const ViewCamera &camera, double scale)
+{
+    const QRectF screen(QPointF(), camera.size * scale);
+    if (camera.mode == ViewMode::Sphere) {
+        return screen.toAlignedRect();
+    }
+    const double perDegree = camera.pixelsPerDegree * scale;
+    const double top = screen.center().y() + (camera.pitchDegrees - 90.0) * perDegree;
+    const QRectF map(screen.center().x() - 180.0 * perDegree, top, 360.0 * perDegree,
+                     180.0 * perDegree);
+    return map.intersected(screen).toRect();
+}
+
+} // namespace PanoHost
