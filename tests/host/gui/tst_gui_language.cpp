@@ -48,10 +48,12 @@ QString untranslated(QString text)
     while (text.contains(kTranslated)) {
         text.replace(kTranslated, QString());
     }
-    static const QRegularExpression kFile(QStringLiteral("[^\\s]*(/|\\.(jpg|xml|txt|html|pto))[^\\s]*"));
+    static const QRegularExpression kFile(
+        QStringLiteral("[^\\s]*(/|\\.(jpg|xml|txt|html|pto))[^\\s]*"));
     text.remove(kFile);
-    for (const char *name : { "Papywizard", "VR Drive 2", "Clauss", "Gigapan", "XML", "EXIF",
-                              "panohost", "Hugin", "Merlin", "mm", "JSON", "CSV", "IMG_", "shoot" }) {
+    for (const char *name :
+         { "Papywizard", "VR Drive 2", "Clauss", "Gigapan", "XML", "EXIF", "panohost", "Hugin",
+           "Merlin", "mm", "JSON", "CSV", "IMG_", "shoot" }) {
         text.remove(QLatin1String(name));
     }
     static const QRegularExpression kNoLetters(QStringLiteral("[^\\p{L}]+"));
@@ -114,11 +116,11 @@ QStringList clippedIn(const QWidget &window)
             || qobject_cast<const QAbstractButton *>(widget) != nullptr;
         const bool isShown = widget->isVisible() && !widget->visibleRegion().isEmpty();
         if (isText && isShown && widget->width() < widget->minimumSizeHint().width()) {
-            clipped += QStringLiteral("%1 %2: %3 of %4 pixels")
-                           .arg(QLatin1String(widget->metaObject()->className()),
-                                widget->objectName())
-                           .arg(widget->width())
-                           .arg(widget->minimumSizeHint().width());
+            clipped
+                += QStringLiteral("%1 %2: %3 of %4 pixels")
+                       .arg(QLatin1String(widget->metaObject()->className()), widget->objectName())
+                       .arg(widget->width())
+                       .arg(widget->minimumSizeHint().width());
         }
     }
     return clipped;
@@ -156,7 +158,8 @@ void TestLanguage::everyPageIsTranslated()
     QStringList clipped;
     const auto look = [&](const char *page) {
         QCoreApplication::processEvents();
-        bench.picture(QStringLiteral("language-%1-%2").arg(QLatin1String(head), QLatin1String(page)));
+        bench.picture(
+            QStringLiteral("language-%1-%2").arg(QLatin1String(head), QLatin1String(page)));
         for (const ShownText &shown : textsOf(bench.wizard())) {
             const QString left = untranslated(shown.text);
             if (!left.isEmpty()) {
