@@ -4,6 +4,7 @@
 
 #include "host/cli/commands.h"
 #include "host/gui/importwizard.h"
+#include "host/gui/preferences.h"
 #include "host/gui/windowtexts.h"
 #include "host/model/commanderror.h"
 #include "host/plugin/pluginlibrary.h"
@@ -40,6 +41,7 @@ ExitCode runWindow(Session &session, const QStringList &arguments)
         return ExitCode::Done;
     }
     applyCommonOptions(session, line);
+    Preferences::apply(session.app, line.isSet(QStringLiteral("lang")));
     loadWindowTexts(session.app.Locale());
     // Without a desktop's own style Qt falls back to one that looks like last century.
     if (QApplication::style()->objectName() == QLatin1String("windows")) {

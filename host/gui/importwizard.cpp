@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/gui/importwizard.h"
 
+#include "host/gui/aboutbox.h"
 #include "host/gui/choicepage.h"
 #include "host/gui/filedrop.h"
 #include "host/gui/makepage.h"
 #include "host/gui/pagekeeper.h"
+#include "host/gui/preferences.h"
 #include "host/gui/previewguide.h"
 #include "host/gui/readingbar.h"
 #include "host/gui/recentlist.h"
@@ -21,10 +23,11 @@
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
 #include <QResizeEvent>
 #include <QScreen>
 #include <QScrollArea>
-#include <QShortcut>
 #include <QStyle>
 #include <QThread>
 #include <QTimer>
@@ -106,7 +109,6 @@ ImportWizard::ImportWizard(PanoHostApplication &app, const PluginLibrary &librar
     setWizardStyle(QWizard::ModernStyle);
     setOption(QWizard::HaveHelpButton);
     setButtonText(QWizard::HelpButton, tr("Help")); // F1; "H" is wanted by pages
-    button(QWizard::HelpButton)->setToolTip(tr("Help (F1)"));
     setOption(QWizard::HaveCustomButton1);
     setButtonText(QWizard::CustomButton1, tr("&Another import"));
     setPage(kChoiceId, m_choicePage);
@@ -150,9 +152,7 @@ ImportWizard::ImportWizard(PanoHostApplication &app, const PluginLibrary &librar
     connect(this, &QWizard::currentIdChanged, this, &ImportWizard::rememberChoice);
     connect(this, &QWizard::currentIdChanged, this, &ImportWizard::enterPage);
     connect(this, &QWizard::customButtonClicked, this, &ImportWizard::importAnother);
-    connect(this, &QWizard::helpRequested, this, &ImportWizard::showHelp);
-    connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
-            &ImportWizard::showHelp);
+    setUpHelp();
 }
 
 ImportWizard::~ImportWizard()
@@ -731,6 +731,19 @@ void ImportWizard::tellThrown(const QString &why)
                         .arg(why));
         m_isTellingThrown = false;
     });
+}
+
+void ImportWizard::setUpHelp()
+{
+    auto *menu = new QMenu(this);
+    QAction *help = menu->addAction(tr("&Help"), this, &ImportWizard::showHelp);
+    help->setShortcut(QKeySequence::HelpContents);
+    addAction(help); // the menu's own keys work while it is open only
+    menu->addAction(tr("&Preferences..."), this, [this] { Preferences(m_app, this).exec(); });
+    menu->addAction(tr("&About panohost"), this, [this] { AboutBox(m_library, this).exec(); });
+    if (auto *opener = qobject_cast<QPushButton *>(button(QWizard::HelpButton))) {
+        opener->setMenu(menu);
+    }
 }
 
 void ImportWizard::showHelp()

@@ -100,6 +100,7 @@ private:
     void fitPages();
     void rememberChoice(int id);
     void tellThrown(const QString &why);
+    void setUpHelp();
     void showHelp();
     void showMessage(QMessageBox::Icon icon, const QString &title, const QString &text);
     [[nodiscard]] const ImportPlugin *pluginOf(int id) const;

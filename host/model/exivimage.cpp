@@ -111,6 +111,11 @@ void lockXmp(void *, bool lock)
 
 } // namespace
 
+QString exivVersion()
+{
+    return QString::fromLatin1(Exiv2::version());
+}
+
 void initializeExiv()
 {
     Exiv2::XmpParser::initialize(lockXmp);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include <QString>
+
 #include <memory>
 
 namespace Exiv2
@@ -16,6 +18,8 @@ class PhotoDevice;
 
 /** Prepares the EXIF library; once, before any thread is started. */
 void initializeExiv();
+/** "0.27.6" */
+[[nodiscard]] QString exivVersion();
 
 /**
  * What exiv2 knows about the photo in \p device, its metadata read; null when it does not know the

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/model/pace.h"
 
+#include <QCoreApplication>
+
 #include <cmath>
 
 namespace PanoHost
@@ -24,15 +26,17 @@ std::optional<std::chrono::seconds> Pace::left() const
 
 QString timeLeftText(std::chrono::seconds left)
 {
+    const auto tr
+        = [](const char *text) { return QCoreApplication::translate("PanoHost::Pace", text); };
     const qint64 seconds = left.count();
     const qint64 minutes = (seconds + 59) / 60;
     if (seconds < 100) {
-        return QStringLiteral("%1 s left").arg(seconds);
+        return tr("%1 s left").arg(seconds);
     }
     if (minutes < 100) {
-        return QStringLiteral("%1 min left").arg(minutes);
+        return tr("%1 min left").arg(minutes);
     }
-    return QStringLiteral("%1 h %2 min left").arg(minutes / 60).arg(minutes % 60);
+    return tr("%1 h %2 min left").arg(minutes / 60).arg(minutes % 60);
 }
 
 } // namespace PanoHost

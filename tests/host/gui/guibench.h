@@ -24,6 +24,7 @@ public:
     void reopen(const Start &start = {});
 
     [[nodiscard]] PanoHost::ImportWizard &wizard() const { return *m_wizard; }
+    [[nodiscard]] const PanoHost::PluginLibrary *library() const { return m_library.get(); }
     [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }
 
     /** Writes the record of \p shots shots of one row, by the head \p head; answers the path. */

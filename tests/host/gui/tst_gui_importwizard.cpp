@@ -444,6 +444,14 @@ void TestImportWizard::barSaysHowFarThePageHasCome()
     QCOMPARE(bar.total(), 0);
     bar.advance(); // of a run that was given up
     QCOMPARE(bar.total(), 0);
+    bar.begin(300);
+    for (int i = 0; i < 120; ++i) {
+        bar.advance();
+    }
+    // How much is left is not known in the first two seconds.
+    static const QRegularExpression all(
+        QStringLiteral("^120 of 300 photos, \\d+ per second, \\d+ s left$"));
+    QTRY_VERIFY2(bar.text().contains(all), qPrintable(bar.text()));
 }
 
 void TestImportWizard::namesThatTheDialogCannotTakeAreSaid()
