@@ -15,6 +15,7 @@
 
 #include <QCryptographicHash>
 #include <QDir>
+#include <QEventLoop>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFormLayout>
@@ -28,15 +29,33 @@
 #include <QStandardPaths>
 #include <QStyle>
 #include <QTabWidget>
+#include <QThread>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <future>
+#include <memory>
 
 namespace PanoHost
 {
 
 namespace
 {
+
+/** Has \p work done on a thread of its own, while the window is still painted and takes nothing
+ * else: thousands of photos take a while. */
+template <typename Work> auto aside(const Work &work)
+{
+    std::packaged_task<decltype(work())()> task(work);
+    auto answer = task.get_future();
+    const std::unique_ptr<QThread> thread(QThread::create([&task] { task(); }));
+    QEventLoop loop;
+    QObject::connect(thread.get(), &QThread::finished, &loop, &QEventLoop::quit);
+    thread->start();
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+    thread->wait();
+    return answer.get();
+}
 
 /** Each line with its title before it. */
 QWidget *formOf(const QVector<SummaryLine> &lines)
@@ -279,7 +298,8 @@ bool ResultPage::saveProject(const QString &path)
                                "and enter it in the line below the page."));
         return false;
     }
-    const Result<PtoProject> project = writePtoProject(*m_panorama, path);
+    const Result<PtoProject> project
+        = aside([this, &path] { return writePtoProject(*m_panorama, path); });
     if (!project) {
         showSaved(project.error(), path);
         return false;
@@ -296,7 +316,8 @@ bool ResultPage::saveJson(const QString &path)
     if (!m_panorama) {
         return false;
     }
-    const Result<QString> written = writePanoramaJson(*m_panorama, path);
+    const Result<QString> written
+        = aside([this, &path] { return writePanoramaJson(*m_panorama, path); });
     showSaved(written, path);
     return written.ok();
 }
@@ -325,7 +346,7 @@ void ResultPage::showSaved(const Result<QString> &saved, const QString &path)
 {
     if (saved) {
         m_files.paths += path;
-        m_memory.insert(identity(), m_files);
+        m_memory.insert(aside([this] { return identity(); }), m_files);
         m_saved->addFile(path);
     } else {
         m_saved->addProblem(ResultTexts::savingProblem(saved.error(), path));

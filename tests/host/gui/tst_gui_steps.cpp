@@ -133,6 +133,17 @@ void TestSteps::thousandsOfPhotosAreDropped()
     QVERIFY(bar->total() > 0);
     QTRY_VERIFY_WITH_TIMEOUT(m_bench->isSettled() && m_bench->isNextEnabled(), 60000);
     judge();
+    m_bench->press(QWizard::NextButton);
+    QVERIFY(qobject_cast<ResultPage *>(page()));
+    const char *const kFiles[][2]
+        = { { "m_saveProject", "a.pto" }, { "m_saveJson", "a.json" }, { "m_saveTable", "a.csv" } };
+    for (const auto &[button, name] : kFiles) {
+        const QString file = m_bench->path(QLatin1String(name));
+        GuiBench::answerFileDialog(file);
+        QTest::mouseClick(page()->findChild<QWidget *>(QLatin1String(button)), Qt::LeftButton);
+        QVERIFY2(QFile::exists(file), name);
+    }
+    judge();
 }
 
 void TestSteps::foldersOfThousandsAreDropped()
