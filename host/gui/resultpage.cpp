@@ -3,7 +3,6 @@
 #include "host/gui/resultpage.h"
 
 #include "host/gui/importwizard.h"
-#include "host/gui/layoutpicture.h"
 #include "host/gui/positionstable.h"
 #include "host/gui/resulttexts.h"
 #include "host/gui/savedlist.h"
@@ -12,6 +11,8 @@
 #include "host/model/panoramajson.h"
 #include "host/model/ptoproject.h"
 #include "host/model/safefile.h"
+#include "host/view/shootpanel.h"
+#include "host/view/shootview.h"
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -85,6 +86,16 @@ QWidget *formOf(const QVector<SummaryLine> &lines)
     return content;
 }
 
+/** What the program keeps of a photo that the import page has read; any thread. */
+std::optional<PhotoReading> readingOf(PhotoReader &photos, const QString &path)
+{
+    const PhotoReader::Answer answer = photos.read(path);
+    if (!answer) {
+        return {};
+    }
+    return PhotoReading{ answer.value()->info(), answer.value()->keptThumbnail().picture() };
+}
+
 } // namespace
 
 ResultPage::ResultPage(PanoHostApplication &app, QWidget *parent)
@@ -119,13 +130,16 @@ void ResultPage::createWidgets()
     m_remarks->setWordWrap(true);
     m_saved = new SavedList;
     m_saved->setObjectName(QStringLiteral("m_saved"));
-    m_layout = new LayoutPicture;
+    m_picture = new ShootPanel;
+    m_picture->setObjectName(QStringLiteral("m_picture"));
+    m_picture->setPhotoSource(
+        [photos = &m_app.photos()](const QString &path) { return readingOf(*photos, path); });
     m_table = new PositionsTable;
     m_table->setObjectName(QStringLiteral("m_table"));
     m_views = new QTabWidget;
     m_views->setObjectName(QStringLiteral("m_views"));
     m_views->setAccessibleName(tr("Views of the panorama"));
-    m_views->addTab(m_layout, tr("Pictu&re"));
+    m_views->addTab(m_picture, tr("Pictu&re"));
     m_views->addTab(m_table, tr("P&ositions"));
     m_lines = new QScrollArea;
     m_lines->setObjectName(QStringLiteral("m_lines"));
@@ -148,6 +162,11 @@ void ResultPage::createWidgets()
     connect(m_saveJson, &QPushButton::clicked, this, &ResultPage::askForJson);
     connect(m_saveTable, &QPushButton::clicked, this, &ResultPage::askForTable);
     connect(m_table, &PositionsTable::positionSelected, this, &ResultPage::positionSelected);
+    connect(m_table, &PositionsTable::positionSelected, m_picture->view(), &ShootView::select);
+    connect(m_picture, &ShootPanel::photoClicked, this, [this](int position) {
+        m_table->selectPosition(position);
+        Q_EMIT positionSelected(position);
+    });
     connect(m_openHugin, &QPushButton::clicked, this, &ResultPage::openInHugin);
 
     auto *warningTexts = new QVBoxLayout;
@@ -246,7 +265,7 @@ void ResultPage::showPanorama(const Result<Panorama> &panorama)
     m_warningIcon->setPixmap(
         style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(iconSide, iconSide));
     setRemarks({});
-    m_layout->show(panorama ? layoutScene(panorama.value()) : LayoutScene{});
+    m_picture->show(panorama ? panorama.value() : Panorama());
     m_table->setPanorama(panorama ? panorama.value() : Panorama());
     m_saveProject->setEnabled(panorama.ok());
     m_saveJson->setEnabled(panorama.ok());
@@ -335,11 +354,13 @@ bool ResultPage::saveTable(const QString &path)
 void ResultPage::setAlignment(const Alignment &alignment)
 {
     m_table->setAlignment(alignment);
+    m_picture->showAligned(alignment.project);
 }
 
 void ResultPage::selectPosition(int position)
 {
     m_table->selectPosition(position);
+    m_picture->view()->select(position);
 }
 
 void ResultPage::showSaved(const Result<QString> &saved, const QString &path)

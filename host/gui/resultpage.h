@@ -19,9 +19,9 @@ class QTabWidget;
 namespace PanoHost
 {
 
-class LayoutPicture;
 class PositionsTable;
 class SavedList;
+class ShootPanel;
 
 /** The last page: what was delivered, and saving it. */
 class ResultPage : public QWizardPage
@@ -94,7 +94,7 @@ private:
     QLabel *m_remarks = nullptr;
     SavedList *m_saved = nullptr;
     QTabWidget *m_views = nullptr;
-    LayoutPicture *m_layout = nullptr;
+    ShootPanel *m_picture = nullptr;
     PositionsTable *m_table = nullptr;
     QScrollArea *m_lines = nullptr;
     QPushButton *m_enterFocal = nullptr;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/view/shootscene.h"
 
+#include "host/align/photoresiduals.h"
 #include "host/model/panorama.h"
 #include "host/model/ptofile.h"
 #include "host/model/ptoline.h"
@@ -205,40 +206,6 @@ void finish(ShootScene *scene)
         = covering.isEmpty() ? Coverage{ 0.0, 360.0, -90.0, 90.0 } : coverageOf(covering);
 }
 
-/** The median residual of each image's right control points, pixels; -1: it has none. */
-std::vector<double> residualsOf(const PtoFile &project)
-{
-    const QVector<PtoImage> &images = project.images();
-    std::vector<std::vector<double>> of(static_cast<size_t>(images.size()));
-    const auto directionOf = [&images](int image, double x, double y) {
-        const PtoImage &one = images.at(image);
-        const AlignLens lens{ one.size, one.lens, one.focalPixels(), one.a, one.b, one.c };
-        return Eigen::Vector3d(rotationOf(one.angles) * lens.rayOf({ x, y }));
-    };
-    for (const PtoPoint &point : project.points()) {
-        if (point.isWrong) {
-            continue;
-        }
-        const double chord = (directionOf(point.first, point.x1, point.y1)
-                              - directionOf(point.second, point.x2, point.y2))
-                                 .norm();
-        const double angle = 2.0 * std::asin(std::min(chord / 2.0, 1.0));
-        for (const int image : { point.first, point.second }) {
-            const double pixels = angle * images.at(image).focalPixels();
-            if (std::isfinite(pixels)) {
-                of[static_cast<size_t>(image)].push_back(pixels);
-            }
-        }
-    }
-    std::vector<double> medians;
-    for (std::vector<double> &values : of) {
-        const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-        std::nth_element(values.begin(), middle, values.end());
-        medians.push_back(values.empty() ? -1.0 : *middle);
-    }
-    return medians;
-}
-
 } // namespace
 
 bool ShootFrame::shows(const Eigen::Vector3d &direction) const
@@ -304,7 +271,7 @@ ShootScene sceneOf(const PtoFile &project)
 {
     ShootScene scene;
     scene.isAligned = true;
-    const std::vector<double> residuals = residualsOf(project);
+    const std::vector<std::optional<double>> residuals = photoResiduals(project);
     const QVector<PtoImage> &images = project.images();
     std::vector<int> frameOf(static_cast<size_t>(images.size()), -1);
     scene.photoCount = images.size();
@@ -322,7 +289,7 @@ ShootScene sceneOf(const PtoFile &project)
         frame.photo = i;
         frame.lens = { image.size, image.lens, image.focalPixels(), image.a, image.b, image.c };
         frame.angles = image.angles;
-        frame.residualPixels = residuals[static_cast<size_t>(i)];
+        frame.residualPixels = residuals[static_cast<size_t>(i)].value_or(-1.0);
         scene.frames += frame;
     }
     QHash<QPair<int, int>, bool> known;

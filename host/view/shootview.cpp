@@ -206,6 +206,9 @@ void ShootView::changed()
 
 void ShootView::select(int frame)
 {
+    if (frame >= m_scene.frames.size()) {
+        frame = -1;
+    }
     m_selected = frame;
     const auto point = middleOf(frame);
     const bool isSeen = point && rect().contains(point->toPoint());

@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/gui/choicepage.h"
 #include "host/gui/importwizard.h"
-#include "host/gui/layoutpicture.h"
 #include "host/gui/readingbar.h"
 #include "host/gui/resultpage.h"
 #include "host/gui/savedlist.h"
 #include "host/gui/shootstrip.h"
 #include "host/import/dialogcatcher.h"
+#include "host/view/shootview.h"
 #include "tests/host/testphotos.h"
 #include "tests/support/hosthead.h"
 #include "tests/support/testprogram.h"
@@ -268,11 +268,13 @@ void TestImportWizard::resultIsSummedUp()
                               "The head is trusted: photos stay where it has recorded them." }) {
         QVERIFY2(lines.contains(QLatin1String(part)), qPrintable(lines));
     }
-    const LayoutScene scene = layoutScene(*result()->panorama());
-    QCOMPARE(scene.places.size(), 3);
-    QVERIFY(qAbs(scene.places.at(2).x() - 60.0) < 1e-4);
+    const ShootScene &scene = result()->findChild<ShootView *>()->scene();
+    QCOMPARE(scene.frames.size(), 3);
+    QVERIFY(qAbs(scene.frames.at(2).angles.yaw - 60.0) < 1e-4);
     QCOMPARE(scene.links.size(), 3);
-    QCOMPARE(scene.linked, QVector<bool>(3, true));
+    for (const ShootFrame &frame : scene.frames) {
+        QVERIFY(frame.isLinked);
+    }
 }
 
 void TestImportWizard::photosOutOfOrderAreNamed()
