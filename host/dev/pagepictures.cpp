@@ -8,6 +8,7 @@
 #include "host/gui/shootstrip.h"
 #include "host/model/photofile.h"
 #include "host/plugin/pluginlibrary.h"
+#include "host/view/shootview.h"
 
 #include <QAbstractButton>
 #include <QCommandLineParser>
@@ -79,6 +80,13 @@ void waitForStrip(ImportWizard &wizard)
             });
         },
         QStringLiteral("the photos were not looked at"));
+}
+
+/** Until the picture on the result page shows all photos. */
+void waitForThumbnails(ImportWizard &wizard)
+{
+    const auto *view = wizard.currentPage()->findChild<ShootView *>();
+    waitFor([view] { return view->isLoaded(); }, QStringLiteral("thumbnails were not read"));
 }
 
 /** Brackets end with the reference exposure: the last photo of a position is seen on top. */
@@ -238,6 +246,7 @@ void Photographer::everything(const HeadFacts &head, const QStringList &files)
     }
     tabs->setCurrentIndex(0);
     wizard.next();
+    waitForThumbnails(wizard);
     auto *views = wizard.currentPage()->findChild<QTabWidget *>();
     for (int view = 0; view < views->count(); ++view) {
         views->setCurrentIndex(view);
@@ -298,7 +307,9 @@ void Photographer::film(const QStringList &files)
     fill(wizard, files);
     frame(wizard, kReadMs);
     wizard.next();
-    waitFor([&wizard] { return wizard.currentPage()->isComplete(); }, QStringLiteral("no result"));
+    waitForThumbnails(wizard);
+    frame(wizard, kReadMs);
+    wizard.findChild<QAbstractButton *>(QStringLiteral("m_sphere"))->click();
     frame(wizard, kReadMs);
     wizard.next();
     frame(wizard, kReadMs);
