@@ -84,6 +84,7 @@ int main(int argc, char **argv)
         qtWords.push_back(word.toLocal8Bit());
     }
     std::vector<char *> qtArguments;
+    qtArguments.reserve(qtWords.size() + 1);
     for (QByteArray &word : qtWords) {
         qtArguments.push_back(word.data());
     }

@@ -50,6 +50,13 @@ void inNextFileDialog(const std::function<void(QLineEdit *edit)> &act)
 GuiBench::GuiBench(const QSize &size)
     : m_size(size)
 {
+    if (qEnvironmentVariableIsSet("PANOHOST_WINDOW_DARK")) {
+        QPalette dark(QColor(45, 45, 48));
+        dark.setColor(QPalette::Base, QColor(30, 30, 32));
+        dark.setColor(QPalette::Highlight, QColor(40, 100, 160));
+        dark.setColor(QPalette::HighlightedText, Qt::white);
+        QApplication::setPalette(dark);
+    }
     PanoHostApplication::instance()->setSettingsFile(path(QStringLiteral("s.ini")));
     reopen();
 }

@@ -63,7 +63,8 @@ public:
     /** "IMG_0001@30": each position's photo and yaw on the result page. */
     [[nodiscard]] QStringList result() const;
 
-    /** Photographs the window, where PANOHOST_WINDOW_PICTURES names a folder. */
+    /** Photographs the window, where PANOHOST_WINDOW_PICTURES names a folder; with
+     * PANOHOST_WINDOW_DARK in dark colours. */
     void picture(const QString &name) const;
 
 private:
