@@ -64,8 +64,9 @@ private:
                 continue;
             }
             m_corners.clear();
+            const MeshPoint *points = m_scene.points.data() + mesh.first;
             for (int i = 0; i < pointCount(mesh); ++i) {
-                const MeshPoint &point = m_scene.points[static_cast<size_t>(mesh.first + i)];
+                const MeshPoint &point = points[i];
                 m_corners.push_back(
                     { static_cast<float>(m_middle.x() + (at + point.yaw) * m_perDegree),
                       static_cast<float>(m_middle.y()
@@ -85,8 +86,9 @@ private:
         }
         m_corners.clear();
         const auto focal = static_cast<float>(m_camera.focalPixels() * m_scale);
+        const MeshPoint *points = m_scene.points.data() + mesh.first;
         for (int i = 0; i < pointCount(mesh); ++i) {
-            const MeshPoint &point = m_scene.points[static_cast<size_t>(mesh.first + i)];
+            const MeshPoint &point = points[i];
             const Eigen::Vector3f seen = m_toCamera * point.direction;
             const bool isBehind = !(seen.z() > static_cast<float>(kLeastViewCosine));
             const float perUnit = isBehind ? 0.0F : focal / seen.z();
@@ -110,10 +112,9 @@ private:
         patch.isCut = mesh.isCut;
         for (int row = 0; row < mesh.rows; ++row) {
             for (int column = 0; column < mesh.columns; ++column) {
-                const auto first = static_cast<size_t>(row * (mesh.columns + 1) + column);
-                const size_t below = first + static_cast<size_t>(mesh.columns) + 1;
-                addCell(m_corners[first], m_corners[first + 1], m_corners[below],
-                        m_corners[below + 1], mesh.isCut);
+                const ScreenPoint *upper = m_corners.data() + row * (mesh.columns + 1) + column;
+                const ScreenPoint *lower = upper + mesh.columns + 1;
+                addCell(upper[0], upper[1], lower[0], lower[1], mesh.isCut);
             }
         }
         patch.count = static_cast<int>(m_list.points.size()) - patch.first;

@@ -339,8 +339,9 @@ private:
             }
             std::vector<Vertex> &vertices = batchFor(tile.page, patch.isCut).vertices;
             const float depth = 1.0F - 2.0F * (static_cast<float>(i) + 1.0F) / (count + 2.0F);
+            const ScreenPoint *points = list.points.data() + patch.first;
             for (int k = 0; k < patch.count; ++k) {
-                const ScreenPoint &point = list.points[static_cast<size_t>(patch.first + k)];
+                const ScreenPoint &point = points[k];
                 vertices.push_back({ point.x, point.y, depth, tile.left, tile.top, tile.width,
                                      tile.height, point.u, point.v, bytesOf(plain),
                                      bytesOf(fill.tint) });

@@ -46,9 +46,9 @@ public:
         QRgb colour = m_fill.plain;
         if (m_width > 0) {
             // Between the middles of four pixels; at the edges the outermost ones go on.
-            const float most = static_cast<float>(kPart);
-            const int x = static_cast<int>((u * static_cast<float>(m_width) - 0.5F) * most);
-            const int y = static_cast<int>((v * static_cast<float>(m_height) - 0.5F) * most);
+            constexpr auto kMost = static_cast<float>(kPart);
+            const int x = static_cast<int>((u * static_cast<float>(m_width) - 0.5F) * kMost);
+            const int y = static_cast<int>((v * static_cast<float>(m_height) - 0.5F) * kMost);
             const int left = x >> 16;
             const int top = y >> 16;
             const auto across = static_cast<quint32>((x >> 8) & 0xff);
