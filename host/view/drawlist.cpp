@@ -112,7 +112,8 @@ private:
         patch.isCut = mesh.isCut;
         for (int row = 0; row < mesh.rows; ++row) {
             for (int column = 0; column < mesh.columns; ++column) {
-                const ScreenPoint *upper = m_corners.data() + row * (mesh.columns + 1) + column;
+                const int first = row * (mesh.columns + 1) + column;
+                const ScreenPoint *upper = m_corners.data() + first;
                 const ScreenPoint *lower = upper + mesh.columns + 1;
                 addCell(upper[0], upper[1], lower[0], lower[1], mesh.isCut);
             }
