@@ -16,6 +16,10 @@ namespace PanoHost
 namespace
 {
 
+// Where photos lie deeper on each other, only some of them are drawn: the others add nothing to
+// see.
+constexpr double kMostLayers = 16.0;
+
 class ListMaker
 {
 public:
@@ -30,6 +34,25 @@ public:
         , m_axis(camera.toCamera().row(2))
     {
     }
+
+    /** About as many pixels as \p frame takes in the picture; 0: it is not seen. */
+    [[nodiscard]] double pixelsOf(int frame) const
+    {
+        const FrameMesh &mesh = m_scene.meshes[static_cast<size_t>(frame)];
+        const bool isSphere = m_camera.mode == ViewMode::Sphere;
+        if (mesh.columns == 0
+            || (isSphere ? !isAhead(m_scene.frames.at(frame))
+                         : std::none_of(kTurns.begin(), kTurns.end(), [&](double turn) {
+                               return isOnMap(mesh, yawOf(frame) + turn);
+                           }))) {
+            return 0.0;
+        }
+        const double side = sideDegrees(frame) * m_perDegree;
+        return std::min(side * side, 4.0 * m_middle.x() * m_middle.y());
+    }
+
+    /** Pixels of the picture. */
+    [[nodiscard]] double pixels() const { return 4.0 * m_middle.x() * m_middle.y(); }
 
     void add(int frame)
     {
@@ -47,20 +70,36 @@ public:
     [[nodiscard]] DrawList take() { return std::move(m_list); }
 
 private:
-    void addOnMap(int frame, const FrameMesh &mesh)
+    // At the edges of the map a frame has a place on either side.
+    static constexpr std::array<double, 3> kTurns{ -360.0, 0.0, 360.0 };
+
+    /** To the right of the camera's middle. */
+    [[nodiscard]] double yawOf(int frame) const
     {
-        const double yaw
-            = wrappedDegrees(m_scene.frames.at(frame).angles.yaw - m_camera.yawDegrees);
+        return wrappedDegrees(m_scene.frames.at(frame).angles.yaw - m_camera.yawDegrees);
+    }
+
+    /** Whether a frame whose middle lies \p at degrees to the right is seen. */
+    [[nodiscard]] bool isOnMap(const FrameMesh &mesh, double at) const
+    {
         const double halfWidth = std::min(m_middle.x() / m_perDegree, 180.0);
         const double halfHeight = m_middle.y() / m_perDegree;
-        if (mesh.pitchTo < m_camera.pitchDegrees - halfHeight
-            || mesh.pitchFrom > m_camera.pitchDegrees + halfHeight) {
-            return;
-        }
-        // At the edges of the map a frame has a place on either side.
-        for (const double turn : { -360.0, 0.0, 360.0 }) {
-            const double at = yaw + turn;
-            if (at + mesh.yawTo < -halfWidth || at + mesh.yawFrom > halfWidth) {
+        return mesh.pitchTo >= m_camera.pitchDegrees - halfHeight
+            && mesh.pitchFrom <= m_camera.pitchDegrees + halfHeight && at + mesh.yawTo >= -halfWidth
+            && at + mesh.yawFrom <= halfWidth;
+    }
+
+    [[nodiscard]] bool isAhead(const ShootFrame &photo) const
+    {
+        const double cosine = std::clamp(m_axis.dot(photo.toWorld.col(2)), -1.0, 1.0);
+        return qRadiansToDegrees(std::acos(cosine)) <= m_cornerDegrees + photo.radiusDegrees;
+    }
+
+    void addOnMap(int frame, const FrameMesh &mesh)
+    {
+        for (const double turn : kTurns) {
+            const double at = yawOf(frame) + turn;
+            if (!isOnMap(mesh, at)) {
                 continue;
             }
             m_corners.clear();
@@ -79,9 +118,7 @@ private:
 
     void addOnSphere(int frame, const FrameMesh &mesh)
     {
-        const ShootFrame &photo = m_scene.frames.at(frame);
-        const double cosine = std::clamp(m_axis.dot(photo.toWorld.col(2)), -1.0, 1.0);
-        if (qRadiansToDegrees(std::acos(cosine)) > m_cornerDegrees + photo.radiusDegrees) {
+        if (!isAhead(m_scene.frames.at(frame))) {
             return;
         }
         m_corners.clear();
@@ -169,7 +206,13 @@ private:
 DrawList drawListOf(const ShootScene &scene, const ViewCamera &camera, double scale, int front)
 {
     ListMaker maker(scene, camera, scale);
+    double pixels = 0.0;
     for (int frame = 0; frame < scene.frames.size(); ++frame) {
+        pixels += maker.pixelsOf(frame);
+    }
+    const int step
+        = std::max(1, static_cast<int>(std::ceil(pixels / (kMostLayers * maker.pixels()))));
+    for (int frame = 0; frame < scene.frames.size(); frame += step) {
         if (frame != front) {
             maker.add(frame);
         }

@@ -38,7 +38,8 @@ struct DrawList {
 };
 
 /**
- * The frames that \p camera sees, in a picture with \p scale pixels to one of the camera.
+ * The frames that \p camera sees, in a picture with \p scale pixels to one of the camera. Where
+ * they would lie more than some 16 deep all over it, evenly chosen ones.
  * \param front this frame comes last; -1: none
  */
 [[nodiscard]] DrawList drawListOf(const ShootScene &scene, const ViewCamera &camera, double scale,

@@ -2,15 +2,19 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/view/shootpanel.h"
 
+#include "host/model/panorama.h"
+#include "host/model/ptofile.h"
 #include "host/view/shootview.h"
 
 #include <QButtonGroup>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QThread>
 #include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace PanoHost
 {
@@ -63,6 +67,13 @@ ShootPanel::ShootPanel(QWidget *parent)
     connect(m_view, &ShootView::photoClicked, this, &ShootPanel::photoClicked);
 }
 
+ShootPanel::~ShootPanel()
+{
+    for (const auto &maker : m_makers) {
+        maker->wait();
+    }
+}
+
 QToolButton *ShootPanel::addTool(const QString &name, const QString &text, const QString &tip)
 {
     auto *button = new QToolButton(this);
@@ -82,22 +93,48 @@ void ShootPanel::setPhotoSource(const PhotoSource &source)
 
 void ShootPanel::show(const Panorama &panorama)
 {
-    showScene(sceneOf(panorama));
+    present(panorama.positions.size(), [panorama] { return sceneOf(panorama); });
 }
 
 void ShootPanel::showAligned(const PtoFile &project)
 {
-    showScene(sceneOf(project));
+    present(project.images().size(), [project] { return sceneOf(project); });
 }
 
 void ShootPanel::clear()
 {
+    ++m_wanted;
     showScene({});
 }
 
-void ShootPanel::showScene(const ShootScene &scene)
+void ShootPanel::present(int positions, const std::function<ShootScene()> &make)
 {
-    m_view->showScene(scene);
+    constexpr int kMostAtOnce = 500; // a few milliseconds
+    clear();
+    if (positions <= kMostAtOnce) {
+        showScene(make());
+        return;
+    }
+    m_makers.erase(std::remove_if(m_makers.begin(), m_makers.end(),
+                                  [](const auto &maker) { return maker->isFinished(); }),
+                   m_makers.end());
+    const auto work = [this, make, number = m_wanted] {
+        auto scene = std::make_shared<ShootScene>(make());
+        QMetaObject::invokeMethod(
+            this,
+            [this, scene, number] {
+                if (number == m_wanted) {
+                    showScene(std::move(*scene));
+                }
+            },
+            Qt::QueuedConnection);
+    };
+    m_makers.emplace_back(QThread::create(work))->start();
+}
+
+void ShootPanel::showScene(ShootScene scene)
+{
+    m_view->showScene(std::move(scene));
     m_view->setGapsShown(m_gaps->isChecked());
     tell({});
 }

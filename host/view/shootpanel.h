@@ -6,7 +6,12 @@
 
 #include <QWidget>
 
+#include <functional>
+#include <memory>
+#include <vector>
+
 class QLabel;
+class QThread;
 class QToolButton;
 
 namespace PanoHost
@@ -23,11 +28,12 @@ class ShootPanel : public QWidget
     Q_OBJECT
 public:
     explicit ShootPanel(QWidget *parent = nullptr);
+    ~ShootPanel() override;
 
     /** Where photos come from; at first they are read from their files. */
     void setPhotoSource(const PhotoSource &source);
 
-    /** As recorded. */
+    /** As recorded. Large shoots follow later, so that the window answers. */
     void show(const Panorama &panorama);
     /** With the lens and the angles that an alignment has found, and how well they fit. */
     void showAligned(const PtoFile &project);
@@ -43,9 +49,12 @@ Q_SIGNALS:
 
 private:
     QToolButton *addTool(const QString &name, const QString &text, const QString &tip);
-    void showScene(const ShootScene &scene);
+    void present(int positions, const std::function<ShootScene()> &make);
+    void showScene(ShootScene scene);
     void tell(const QString &named);
 
+    std::vector<std::unique_ptr<QThread>> m_makers; ///< of scenes; all but the last for nothing
+    int m_wanted = 0; ///< number of the scene that is to be shown
     ShootView *m_view;
     QLabel *m_named;
     QToolButton *m_links = nullptr;

@@ -15,6 +15,8 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <map>
+#include <tuple>
 
 namespace PanoHost
 {
@@ -92,18 +94,60 @@ public:
         FrameMesh mesh;
         mesh.first = static_cast<int>(m_scene.points.size());
         if (frame.isPlaced) {
-            const bool isSteep
-                = std::abs(pitchOf(frame.toWorld.col(2))) + frame.radiusDegrees > kSteepDegrees;
-            if (isSteep) {
-                addGridOfSphere(frame, &mesh);
+            const Shape shape{ frame.angles.pitch,       frame.angles.roll,
+                               frame.lens.focalPixels,   frame.lens.size.width(),
+                               frame.lens.size.height(), static_cast<int>(frame.lens.model) };
+            const auto known = m_known.find(shape);
+            if (known != m_known.end()) {
+                mesh = turned(*known->second.mesh(m_scene), frame.angles.yaw - known->second.yaw);
             } else {
-                addGridOfPhoto(frame, &mesh);
+                addAnew(frame, &mesh);
+                m_known[shape] = { static_cast<int>(m_scene.meshes.size()), frame.angles.yaw };
             }
         }
         m_scene.meshes.push_back(mesh);
     }
 
 private:
+    /** What decides on a mesh but for its yaw: pitch, roll, focal length, size, lens. Lenses of one
+     * shoot do not differ in more. */
+    using Shape = std::tuple<double, double, double, int, int, int>;
+    struct Known {
+        int index = 0;
+        double yaw = 0.0; ///< of its frame
+
+        [[nodiscard]] const FrameMesh *mesh(const ShootScene &scene) const
+        {
+            return &scene.meshes[static_cast<size_t>(index)];
+        }
+    };
+
+    void addAnew(const ShootFrame &frame, FrameMesh *mesh)
+    {
+        const bool isSteep
+            = std::abs(pitchOf(frame.toWorld.col(2))) + frame.radiusDegrees > kSteepDegrees;
+        if (isSteep) {
+            addGridOfSphere(frame, mesh);
+        } else {
+            addGridOfPhoto(frame, mesh);
+        }
+    }
+
+    /** The same mesh so many degrees farther to the right. */
+    FrameMesh turned(const FrameMesh &mesh, double yawDegrees)
+    {
+        FrameMesh other = mesh;
+        other.first = static_cast<int>(m_scene.points.size());
+        const Eigen::Matrix3f turn = rotationOf({ yawDegrees, 0.0, 0.0 }).cast<float>();
+        const int count = (mesh.columns + 1) * (mesh.rows + 1);
+        for (int i = 0; i < count; ++i) {
+            MeshPoint point = m_scene.points[static_cast<size_t>(mesh.first + i)];
+            point.direction = turn * point.direction;
+            m_scene.points.push_back(point);
+        }
+        return other;
+    }
+
     void addGridOfPhoto(const ShootFrame &frame, FrameMesh *mesh)
     {
         const int most = std::max(static_cast<int>(std::sqrt(m_cellsEach)), 1);
@@ -180,6 +224,7 @@ private:
 
     ShootScene &m_scene;
     int m_cellsEach;
+    std::map<Shape, Known> m_known;
 };
 
 /** What all scenes need once their frames and links are known. */

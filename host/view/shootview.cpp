@@ -18,6 +18,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace PanoHost
 {
@@ -130,20 +131,20 @@ ShootView::ShootView(QWidget *parent, Drawing drawing)
 
 ShootView::~ShootView() = default;
 
-void ShootView::showScene(const ShootScene &scene)
+void ShootView::showScene(ShootScene scene)
 {
     m_loader.forget();
-    m_scene = scene;
-    m_thumbnails.reset(scene.frames.size());
-    m_isLoaded = scene.frames.isEmpty();
+    m_scene = std::move(scene);
+    m_thumbnails.reset(m_scene.frames.size());
+    m_isLoaded = m_scene.frames.isEmpty();
     m_gaps.reset();
     m_selected = -1;
     m_list = {};
     hover(-1);
-    const int positions = scene.frames.size();
+    const int positions = m_scene.frames.size();
     setAccessibleName(
         tr("Picture of the shoot: %1, %2")
-            .arg(scene.photoCount == 1 ? tr("1 photo") : tr("%1 photos").arg(scene.photoCount),
+            .arg(m_scene.photoCount == 1 ? tr("1 photo") : tr("%1 photos").arg(m_scene.photoCount),
                  positions == 1 ? tr("1 position") : tr("%1 positions").arg(positions)));
     setAccessibleDescription({});
     fit();

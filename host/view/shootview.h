@@ -38,7 +38,7 @@ public:
     void setPhotoSource(const PhotoSource &source) { m_loader.setSource(source); }
 
     /** Shows \p scene, all of it. */
-    void showScene(const ShootScene &scene);
+    void showScene(ShootScene scene);
     [[nodiscard]] const ShootScene &scene() const { return m_scene; }
 
     [[nodiscard]] ViewMode mode() const { return m_camera.mode; }

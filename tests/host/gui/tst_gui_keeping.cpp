@@ -6,6 +6,7 @@
 #include "host/model/photofile.h"
 #include "tests/host/gui/guibench.h"
 #include "tests/host/testphotos.h"
+#include "tests/support/leaksofothers.h"
 #include "tests/support/testprogram.h"
 
 #include <QCheckBox>
@@ -357,14 +358,20 @@ void TestKeeping::pageThatThrowsIsBorne()
     DialogCatcher boxes;
     QStringList said;
     box->setFocus();
-    QTest::keyClick(box, Qt::Key_Space);
+    {
+        const LeaksOfOthers borne; // Qt loses a pointer's guard when a slot throws
+        QTest::keyClick(box, Qt::Key_Space);
+    }
     QTRY_COMPARE((said += boxes.takeMessages()).size(), 1);
     QVERIFY2(said.first().contains(QLatin1String("no such photo")), qPrintable(said.first()));
     disconnect(slot);
     const QMetaObject::Connection handOver
         = connect(PanoHostApplication::instance(), &PanoHostApplication::delivered, this,
                   [] { throw std::bad_alloc(); });
-    m_bench->press(QWizard::NextButton);
+    {
+        const LeaksOfOthers borne;
+        m_bench->press(QWizard::NextButton);
+    }
     QTRY_COMPARE((said += boxes.takeMessages()).size(), 2);
     QVERIFY2(said.last().contains(QLatin1String("not enough memory")), qPrintable(said.last()));
     disconnect(handOver);

@@ -4,6 +4,7 @@
 #include "host/gui/resultpage.h"
 #include "host/import/pagetime.h"
 #include "host/model/photofile.h"
+#include "host/view/shootview.h"
 #include "tests/host/gui/guibench.h"
 #include "tests/host/gui/watchedapplication.h"
 #include "tests/host/testphotos.h"
@@ -135,6 +136,8 @@ void TestSteps::thousandsOfPhotosAreDropped()
     judge();
     m_bench->press(QWizard::NextButton);
     QVERIFY(qobject_cast<ResultPage *>(page()));
+    const auto *view = page()->findChild<ShootView *>();
+    QTRY_COMPARE(view->scene().frames.size(), kIsSanitized ? 1000 : 10000);
     const char *const kFiles[][2]
         = { { "m_saveProject", "a.pto" }, { "m_saveJson", "a.json" }, { "m_saveTable", "a.csv" } };
     for (const auto &[button, name] : kFiles) {
