@@ -6,7 +6,7 @@
 #include "host/model/photofile.h"
 #include "tests/host/gui/guibench.h"
 #include "tests/host/testphotos.h"
-#include "tests/support/leaksofothers.h"
+#include "tests/support/sanitized.h"
 #include "tests/support/testprogram.h"
 
 #include <QCheckBox>
@@ -349,6 +349,9 @@ void TestKeeping::stripIsOneLineInASmallWindow()
 
 void TestKeeping::pageThatThrowsIsBorne()
 {
+    if (kIsSanitized) {
+        QSKIP("Qt loses the guards of its pointers when a slot throws, which counts as a leak");
+    }
     m_bench->drop(QStringList(m_bench->record(3)) + m_bench->photos(0, 2));
     QTRY_VERIFY(m_bench->isSettled() && m_bench->isNextEnabled());
     // As a slot of the page, and as what it does when Next is pressed.
@@ -358,20 +361,14 @@ void TestKeeping::pageThatThrowsIsBorne()
     DialogCatcher boxes;
     QStringList said;
     box->setFocus();
-    {
-        const LeaksOfOthers borne; // Qt loses a pointer's guard when a slot throws
-        QTest::keyClick(box, Qt::Key_Space);
-    }
+    QTest::keyClick(box, Qt::Key_Space);
     QTRY_COMPARE((said += boxes.takeMessages()).size(), 1);
     QVERIFY2(said.first().contains(QLatin1String("no such photo")), qPrintable(said.first()));
     disconnect(slot);
     const QMetaObject::Connection handOver
         = connect(PanoHostApplication::instance(), &PanoHostApplication::delivered, this,
                   [] { throw std::bad_alloc(); });
-    {
-        const LeaksOfOthers borne;
-        m_bench->press(QWizard::NextButton);
-    }
+    m_bench->press(QWizard::NextButton);
     QTRY_COMPARE((said += boxes.takeMessages()).size(), 2);
     QVERIFY2(said.last().contains(QLatin1String("not enough memory")), qPrintable(said.last()));
     disconnect(handOver);
