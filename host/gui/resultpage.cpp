@@ -104,7 +104,6 @@ ResultPage::ResultPage(PanoHostApplication &app, QWidget *parent)
 {
     setTitle(tr("The panorama"));
     setSubTitle(tr("Look whether the photos stand where they belong, then save the panorama."));
-    setFinalPage(true);
     setFinalPage(true); // making the picture may be left to others
     createWidgets();
 }

@@ -6,11 +6,18 @@
 #include <QLibraryInfo>
 #include <QTranslator>
 
+/** Resources of a static library are found only once somebody asks for them. */
+static void loadResources()
+{
+    Q_INIT_RESOURCE(windowtexts);
+}
+
 namespace PanoHost
 {
 
 void loadWindowTexts(const QLocale &locale)
 {
+    loadResources();
     const auto load = [&locale](const QString &name, const QString &folder) {
         auto *translator = new QTranslator(qApp);
         if (!translator->load(locale, name, QStringLiteral("_"), folder)

@@ -26,8 +26,7 @@ std::optional<std::chrono::seconds> Pace::left() const
 
 QString timeLeftText(std::chrono::seconds left)
 {
-    const auto tr
-        = [](const char *text) { return QCoreApplication::translate("PanoHost::Pace", text); };
+    const auto tr = [](const char *text) { return QCoreApplication::translate("PanoHost", text); };
     const qint64 seconds = left.count();
     const qint64 minutes = (seconds + 59) / 60;
     if (seconds < 100) {

@@ -6,13 +6,19 @@
 #include "importers/headfacts.h"
 #include "tests/host/testphotos.h"
 
+#include <QAbstractButton>
 #include <QDir>
 #include <QDropEvent>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGroupBox>
+#include <QKeySequence>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMap>
 #include <QMimeData>
+#include <QTabBar>
 #include <QThread>
 #include <QTimer>
 #include <QUrl>
@@ -233,6 +239,40 @@ bool GuiBench::isSettled() const
     }
     return strip().isVisible() && !text("photos").isEmpty()
         && row("next").state != StripRow::State::Working;
+}
+
+QStringList GuiBench::ambiguities() const
+{
+    QMap<QString, QStringList> texts;
+    const auto note = [&texts](const QString &text) {
+        const QKeySequence key = QKeySequence::mnemonic(text);
+        if (!key.isEmpty()) {
+            texts[key.toString()] += text;
+        }
+    };
+    for (const QWidget *widget : m_wizard->findChildren<QWidget *>()) {
+        if (!widget->isVisible()) {
+            continue;
+        }
+        if (const auto *button = qobject_cast<const QAbstractButton *>(widget)) {
+            note(button->text());
+        } else if (const auto *label = qobject_cast<const QLabel *>(widget)) {
+            note(label->buddy() == nullptr ? QString() : label->text());
+        } else if (const auto *box = qobject_cast<const QGroupBox *>(widget)) {
+            note(box->title());
+        } else if (const auto *tabs = qobject_cast<const QTabBar *>(widget)) {
+            for (int i = 0; i < tabs->count(); ++i) {
+                note(tabs->tabText(i));
+            }
+        }
+    }
+    QStringList found;
+    for (auto entry = texts.cbegin(); entry != texts.cend(); ++entry) {
+        if (entry->size() > 1) {
+            found += entry.key() + QStringLiteral(": ") + entry->join(QStringLiteral(", "));
+        }
+    }
+    return found;
 }
 
 QStringList GuiBench::result() const

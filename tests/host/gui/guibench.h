@@ -60,6 +60,8 @@ public:
     [[nodiscard]] PanoHost::StripRow row(const char *row) const;
     /** Photos are neither read nor looked at any more. */
     [[nodiscard]] bool isSettled() const;
+    /** "Alt+N: &Next >, ...": letters that stand for several things in the window as it is. */
+    [[nodiscard]] QStringList ambiguities() const;
     /** "IMG_0001@30": each position's photo and yaw on the result page. */
     [[nodiscard]] QStringList result() const;
 

@@ -34,48 +34,12 @@ private Q_SLOTS:
 
 private:
     [[nodiscard]] QWizardPage *page() const { return m_bench->wizard().currentPage(); }
-    /** "Alt+N: &Next >": the texts that the letters of the window stand for, twice used ones only.
-     */
-    [[nodiscard]] QStringList ambiguities() const;
+    [[nodiscard]] QStringList ambiguities() const { return m_bench->ambiguities(); }
     /** The label below the page's title. */
     [[nodiscard]] const QLabel *subtitle() const;
 
     std::unique_ptr<GuiBench> m_bench;
 };
-
-QStringList TestKeys::ambiguities() const
-{
-    QMap<QString, QStringList> texts;
-    const auto note = [&texts](const QString &text) {
-        const QKeySequence key = QKeySequence::mnemonic(text);
-        if (!key.isEmpty()) {
-            texts[key.toString()] += text;
-        }
-    };
-    for (const QWidget *widget : m_bench->wizard().findChildren<QWidget *>()) {
-        if (!widget->isVisible()) {
-            continue;
-        }
-        if (const auto *button = qobject_cast<const QAbstractButton *>(widget)) {
-            note(button->text());
-        } else if (const auto *label = qobject_cast<const QLabel *>(widget)) {
-            note(label->buddy() == nullptr ? QString() : label->text());
-        } else if (const auto *box = qobject_cast<const QGroupBox *>(widget)) {
-            note(box->title());
-        } else if (const auto *tabs = qobject_cast<const QTabBar *>(widget)) {
-            for (int i = 0; i < tabs->count(); ++i) {
-                note(tabs->tabText(i));
-            }
-        }
-    }
-    QStringList found;
-    for (auto entry = texts.cbegin(); entry != texts.cend(); ++entry) {
-        if (entry->size() > 1) {
-            found += entry.key() + QStringLiteral(": ") + entry->join(QStringLiteral(", "));
-        }
-    }
-    return found;
-}
 
 const QLabel *TestKeys::subtitle() const
 {

@@ -30,6 +30,10 @@ const QChar kEnd(0x27e7);
 class PseudoLanguage : public QTranslator
 {
 public:
+    PseudoLanguage()
+        : QTranslator(qApp)
+    {
+    }
     [[nodiscard]] bool isEmpty() const override { return false; }
     [[nodiscard]] QString translate(const char *, const char *source, const char *,
                                     int) const override
@@ -134,30 +138,19 @@ class TestLanguage : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void initTestCase() { QVERIFY(QCoreApplication::installTranslator(&m_language)); }
-    void cleanupTestCase() { QCoreApplication::removeTranslator(&m_language); }
-    void qtsOwnTextsAreTranslated();
+    void cleanup();
     void everyPageIsTranslated_data();
     void everyPageIsTranslated();
-
-private:
-    PseudoLanguage m_language;
+    void everyLanguageFits_data();
+    void everyLanguageFits();
 };
 
-/** First, while no made-up language hides them. */
-void TestLanguage::qtsOwnTextsAreTranslated()
+/** Back to English. */
+void TestLanguage::cleanup()
 {
-    QCoreApplication::removeTranslator(&m_language);
-    loadWindowTexts(QLocale(QLocale::French));
-    {
-        const GuiBench bench;
-        const QString next = bench.wizard().button(QWizard::NextButton)->text();
-        QVERIFY2(next.contains(QStringLiteral("uivant")), qPrintable(next));
-    }
     for (QTranslator *translator : qApp->findChildren<QTranslator *>()) {
         delete translator;
     }
-    QVERIFY(QCoreApplication::installTranslator(&m_language));
 }
 
 void TestLanguage::everyPageIsTranslated_data()
@@ -171,6 +164,7 @@ void TestLanguage::everyPageIsTranslated_data()
 void TestLanguage::everyPageIsTranslated()
 {
     QFETCH(QByteArray, head);
+    QVERIFY(QCoreApplication::installTranslator(new PseudoLanguage));
     GuiBench bench({ 1200, 900 });
     QStringList english;
     QStringList clipped;
@@ -207,6 +201,53 @@ void TestLanguage::everyPageIsTranslated()
     english.removeDuplicates();
     QVERIFY2(english.isEmpty(), qPrintable(QLatin1Char('\n') + english.join(QLatin1Char('\n'))));
     QVERIFY2(clipped.isEmpty(), qPrintable(QLatin1Char('\n') + clipped.join(QLatin1Char('\n'))));
+}
+
+void TestLanguage::everyLanguageFits_data()
+{
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<QString>("next"); // of Qt's own texts
+    const auto row = [](const char *code, const char *next) {
+        QTest::newRow(code) << QString::fromLatin1(code) << QString::fromUtf8(next);
+    };
+    row("es", "Siguiente");
+    row("fr", "Suivant");
+    row("it", "Successivo");
+    row("de", "Weiter");
+    row("pl", "Dalej");
+    row("ru", "Далее");
+    row("ja", "次");
+    row("zh_CN", "下一步");
+    row("zh_TW", "下一個");
+}
+
+void TestLanguage::everyLanguageFits()
+{
+    QFETCH(QString, code);
+    QFETCH(QString, next);
+    const QString english = ImportWizard::tr("Import a panorama");
+    loadWindowTexts(QLocale(code));
+    GuiBench bench({ 1000, 760 });
+    QVERIFY(bench.wizard().windowTitle() != english);
+    QString button = bench.wizard().button(QWizard::NextButton)->text();
+    QVERIFY2(button.remove(QLatin1Char('&')).contains(next), qPrintable(button));
+    QStringList wrong;
+    const auto look = [&](const char *page) {
+        QCoreApplication::processEvents();
+        bench.picture(QStringLiteral("language-%1-%2").arg(code, QLatin1String(page)));
+        for (const QString &text : clippedIn(bench.wizard()) + bench.ambiguities()) {
+            wrong += QLatin1String(page) + QStringLiteral(": ") + text;
+        }
+    };
+    look("choice");
+    bench.drop(QStringList(bench.record(4)) + bench.photos(0, 3));
+    QTRY_VERIFY(bench.isSettled() && bench.isNextEnabled());
+    bench.press(QWizard::NextButton);
+    QTRY_COMPARE(bench.result().size(), 4);
+    look("result");
+    bench.press(QWizard::NextButton);
+    look("make");
+    QVERIFY2(wrong.isEmpty(), qPrintable(QLatin1Char('\n') + wrong.join(QLatin1Char('\n'))));
 }
 
 TEST_CLASS(TestLanguage, PanoHostApplication)
