@@ -29,6 +29,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QStyle>
+#include <QTabWidget>
 #include <QThread>
 #include <QTimer>
 
@@ -183,6 +184,9 @@ void ImportWizard::keepPages()
             m_keepers[i] = new PageKeeper(page, *head, m_app, this);
             connect(m_keepers.at(i), &PageKeeper::changed, m_desk, &ShootDesk::look);
             (void)new PreviewGuide(page, !head->isGrid(), m_keepers.at(i));
+            for (QTabWidget *tabs : page->findChildren<QTabWidget *>()) {
+                tabs->setAccessibleName(page->title());
+            }
         }
     }
 }
