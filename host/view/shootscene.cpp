@@ -140,8 +140,9 @@ private:
         other.first = static_cast<int>(m_scene.points.size());
         const Eigen::Matrix3f turn = rotationOf({ yawDegrees, 0.0, 0.0 }).cast<float>();
         const int count = (mesh.columns + 1) * (mesh.rows + 1);
-        for (int i = 0; i < count; ++i) {
-            MeshPoint point = m_scene.points[static_cast<size_t>(mesh.first + i)];
+        const auto first = static_cast<size_t>(mesh.first);
+        for (size_t i = 0; i < static_cast<size_t>(count); ++i) {
+            MeshPoint point = m_scene.points[first + i];
             point.direction = turn * point.direction;
             m_scene.points.push_back(point);
         }
