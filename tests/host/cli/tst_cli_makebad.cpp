@@ -385,7 +385,9 @@ QString TestCliMakeBad::scriptFor(const FullDiskRow &row, const QString &number,
             tools);
     m_bench.environment().insert(QStringLiteral("PATH"), m_usualPath);
     QString words;
-    for (const QString &word : m_bench.makeWords(row.output, optionsFor(row.kind))) {
+    // One photo after the other: the first tool fills the disk while no other is writing.
+    const QStringList oneByOne{ QStringLiteral("--jobs"), QStringLiteral("1") };
+    for (const QString &word : m_bench.makeWords(row.output, optionsFor(row.kind) + oneByOne)) {
         words += QStringLiteral(" '%1'").arg(word);
     }
     const QString made = nameFor(row.output, row.kind);

@@ -286,6 +286,7 @@ void TestImportWizard::photosOutOfOrderAreNamed()
     TestPhotos::writeJpeg(photos.last(), TestPhotos::quarters(QSize(60, 40)), exif);
     m_wizard->fillIn(QStringList(writeRecord(3)) + photos);
     QTRY_VERIFY(next()->isEnabled());
+    QCoreApplication::processEvents(); // see fillPapywizard
     next()->click();
     QCOMPARE(result()->findChild<QLabel *>(QStringLiteral("m_warnings"))->text(),
              QStringLiteral("Order: %1 was taken before %2")
