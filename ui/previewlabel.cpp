@@ -5,6 +5,8 @@
 #include "ui/pixels.h"
 
 #include <QEvent>
+#include <QPaintEvent>
+#include <QPainter>
 #include <QResizeEvent>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -81,7 +83,11 @@ void PreviewLabel::showPart(const QRegion &region)
         return;
     }
     const QRegion patched = m_zoomed.patch(shown, m_canvas.image(), region);
-    update(patched.translated(place().topLeft()));
+    if (devicePixelRatioF() > 1.0) {
+        update(); // pixels that the zoom leaves out may have changed too
+    } else {
+        update(patched.translated(place().topLeft()));
+    }
 }
 
 /** Where the picture stands on the label. */
@@ -97,6 +103,29 @@ QPixmap *PreviewLabel::ownPixmap() const
     QT_WARNING_DISABLE_DEPRECATED
     return const_cast<QPixmap *>(pixmap());
     QT_WARNING_POP
+}
+
+/** The pixmap has one pixel for several of a fine screen; the canvas has more. */
+void PreviewLabel::paintEvent(QPaintEvent *event)
+{
+    const QPixmap *shown = ownPixmap();
+    QPainter painter(this);
+    if (painter.deviceTransform().m11() <= 1.0 || shown == nullptr || shown->isNull()
+        || m_canvas.image().isNull()) {
+        painter.end();
+        QLabel::paintEvent(event);
+        return;
+    }
+    const QRect whole = place();
+    // Beyond what is asked for, so that smoothing has no edge there; not all, which may be too
+    // large to be painted.
+    constexpr int kMargin = 4;
+    const QRectF part = whole & event->rect().adjusted(-kMargin, -kMargin, kMargin, kMargin);
+    const QSizeF canvas = m_canvas.image().size();
+    const QTransform toCanvas = QTransform::fromTranslate(-whole.x(), -whole.y())
+        * QTransform::fromScale(canvas.width() / whole.width(), canvas.height() / whole.height());
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(part, m_canvas.image(), toCanvas.mapRect(part));
 }
 
 void PreviewLabel::changeEvent(QEvent *event)

@@ -13,7 +13,8 @@ namespace PanoHead
 /**
  * Shows a shoot's layout picture at the page's zoom, on the label's window colour or, for grids, on
  * light grey. The picture is whole when a call returns. It keeps its fonts and colours until the
- * next call: photos are asked for their thumbnails inside calls only.
+ * next call: photos are asked for their thumbnails inside calls only. Screens with finer pixels
+ * show what the zoom leaves out.
  */
 class PreviewLabel : public QLabel
 {
@@ -37,6 +38,7 @@ public:
 
 protected:
     void changeEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     /** The middle of the picture stays in the middle of the scroll area; it starts there. */
     void resizeEvent(QResizeEvent *event) override;
 

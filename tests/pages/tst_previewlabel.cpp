@@ -135,6 +135,7 @@ private Q_SLOTS:
     void drawingAnewShowsOtherPicturesOfTheSamePhotos();
     void takenPixmapKeepsItsPicture();
     void changeOutOfSightIsNotPainted();
+    void fineScreenShowsEveryPixelOfThePicture();
     void sameSceneKeepsThePixmap();
     void largeGridIsWholeWhenTheCallReturns_data();
     void largeGridIsWholeWhenTheCallReturns();
@@ -383,6 +384,23 @@ void TestPreviewLabel::emptySceneShowsNothing()
     QVERIFY(shownBy(label).isNull());
     label.showScene(shoot.with(36), 50);
     QCOMPARE(differenceFrom(label, shoot.with(36), 50), QString());
+}
+
+/** At half its size, on a screen with two pixels for each, the picture is as sharp as it is. */
+void TestPreviewLabel::fineScreenShowsEveryPixelOfThePicture()
+{
+    const Shoot shoot(6, 4, 96, 24); // 580 x 388 pixels
+    PreviewLabel label;
+    label.showScene(shoot.with(20), 50);
+    label.resize(label.sizeHint());
+    QCOMPARE(label.size(), QSize(290, 194));
+    QImage screen(580, 388, QImage::Format_RGB32);
+    screen.setDevicePixelRatio(2.0);
+    label.render(&screen);
+    screen.setDevicePixelRatio(1.0);
+    const QImage picture
+        = plainPicture(shoot.with(20), plainColours(CellStyle::FittedWithCaption, label));
+    QCOMPARE(pixelDifference(screen, picture), QString());
 }
 
 void TestPreviewLabel::sameSceneKeepsThePixmap()
