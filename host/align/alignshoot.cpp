@@ -93,15 +93,10 @@ void addOrders(const Panorama &panorama, bool ignoreExifRotation, AlignPlan &pla
 }
 
 /** The lens as it was recorded, with the distortion that the project knows. */
-AlignLens lensOf(const PtoImage &image)
+AlignLens recordedLensOf(const PtoImage &image)
 {
-    AlignLens lens;
-    lens.size = image.size;
-    lens.model = image.lens;
+    AlignLens lens = lensOf(image);
     lens.focalPixels = focalPixelsOfFov(image.size, image.recordedFovDegrees, image.lens);
-    lens.a = image.a;
-    lens.b = image.b;
-    lens.c = image.c;
     return lens;
 }
 
@@ -188,7 +183,7 @@ AlignShoot shootOf(const PtoFile &project)
         const PtoImage &image = images[static_cast<int>(i)];
         if (image.lensMaster < 0) {
             lensOfImage[i] = static_cast<int>(shoot.model.lenses.size());
-            shoot.model.lenses.push_back(lensOf(image));
+            shoot.model.lenses.push_back(recordedLensOf(image));
         }
         if (image.angleMaster < 0) {
             shoot.viewOfImage[i] = static_cast<int>(shoot.imageOfView.size());

@@ -124,4 +124,9 @@ bool AlignLens::contains(const Eigen::Vector2d &pixel, double margin) const
         && pixel.y() >= -0.5 - margin && pixel.y() <= size.height() - 0.5 + margin;
 }
 
+AlignLens lensOf(const PtoImage &image)
+{
+    return { image.size, image.lens, image.focalPixels(), image.a, image.b, image.c };
+}
+
 } // namespace PanoHost

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "host/model/angles.h"
+#include "host/model/ptofile.h"
 #include "model/lensmodel.h"
 
 #include <QSize>
@@ -48,5 +49,8 @@ struct AlignLens {
     /** \p margin pixels around the photo count as inside. */
     [[nodiscard]] bool contains(const Eigen::Vector2d &pixel, double margin = 0.0) const;
 };
+
+/** The lens of \p image as its project has it now. */
+[[nodiscard]] AlignLens lensOf(const PtoImage &image);
 
 } // namespace PanoHost

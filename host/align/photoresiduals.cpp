@@ -17,25 +17,13 @@ struct PlacedLens {
     AlignLens lens;
 };
 
-PlacedLens placedLens(const PtoImage &image)
-{
-    AlignLens lens;
-    lens.size = image.size;
-    lens.model = image.lens;
-    lens.focalPixels = image.focalPixels();
-    lens.a = image.a;
-    lens.b = image.b;
-    lens.c = image.c;
-    return { rotationOf(image.angles), lens };
-}
-
 } // namespace
 
 std::vector<std::optional<double>> photoResiduals(const PtoFile &project)
 {
     std::vector<PlacedLens> placed;
     for (const PtoImage &image : project.images()) {
-        placed.push_back(placedLens(image));
+        placed.push_back({ rotationOf(image.angles), lensOf(image) });
     }
     std::vector<std::vector<double>> lengths(placed.size());
     const auto add

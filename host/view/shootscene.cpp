@@ -333,7 +333,7 @@ ShootScene sceneOf(const PtoFile &project)
         ShootFrame frame;
         frame.path = image.path;
         frame.photo = i;
-        frame.lens = { image.size, image.lens, image.focalPixels(), image.a, image.b, image.c };
+        frame.lens = lensOf(image);
         frame.angles = image.angles;
         frame.residualPixels = residuals[static_cast<size_t>(i)].value_or(-1.0);
         scene.frames += frame;
