@@ -151,7 +151,8 @@ void ShootStrip::show(const QVector<StripRow> &rows, double focal35mm)
     }
     m_focal35mm = focal35mm;
     // Whoever works with the rows keeps the focus.
-    const QString focused = isAncestorOf(focusWidget()) ? focusWidget()->objectName() : QString();
+    const QWidget *focus = window()->focusWidget();
+    const QString focused = isAncestorOf(focus) ? focus->objectName() : QString();
     m_rows = rows;
     putAway(m_area->takeWidget());
     m_rowsWidget = new QWidget;

@@ -66,6 +66,7 @@ private Q_SLOTS:
     void recordOfAnotherHeadSwitchesTheHead();
     void recordOfAnotherHeadMayBeChosenInTheDialog();
     void everythingIsReachedByKeyboard();
+    void newsDoNotTakeTheFocus();
     void focalLengthIsEnteredWhereThePageHasNoField();
     void focalLengthIsEnteredIntoThePagesField();
     void soundShootAsksForNothing();
@@ -267,6 +268,26 @@ void TestStrip::everythingIsReachedByKeyboard()
     fix->setFocus();
     QTest::keyClick(fix, Qt::Key_Space);
     QTRY_VERIFY(m_bench->isNextEnabled());
+}
+
+/** Who works with the strip keeps the focus; who has left it does not get it back. */
+void TestStrip::newsDoNotTakeTheFocus()
+{
+    m_bench->drop(QStringList(m_bench->record(3)) + m_bench->photos(0, 2));
+    QTRY_VERIFY(m_bench->isSettled());
+    ShootStrip &strip = m_bench->strip();
+    auto *opener = strip.findChild<QWidget *>(QStringLiteral("m_stripOpener"));
+    QWidget *next = m_bench->wizard().button(QWizard::NextButton);
+    const auto news = [&strip](const char *text) {
+        strip.show({ { QStringLiteral("photos"), QStringLiteral("Photos"), QLatin1String(text) } },
+                   0.0);
+    };
+    opener->setFocus();
+    news("first");
+    QCOMPARE(m_bench->wizard().focusWidget(), opener);
+    next->setFocus();
+    news("second");
+    QCOMPARE(m_bench->wizard().focusWidget(), next);
 }
 
 void TestStrip::focalLengthIsEnteredWhereThePageHasNoField()
