@@ -3,9 +3,9 @@
 #include "host/gui/shootdesk.h"
 
 #include "host/gui/pagekeeper.h"
-#include "host/gui/reportrunner.h"
 #include "host/gui/shootstrip.h"
 #include "host/model/commanderror.h"
+#include "host/model/latestjob.h"
 
 #include <QAbstractButton>
 #include <QFileDialog>
@@ -53,11 +53,10 @@ ShootDesk::ShootDesk(PanoHostApplication &app, ShootStrip *strip, QWidget *windo
     , m_app(app)
     , m_strip(strip)
     , m_window(window)
-    , m_runner(new ReportRunner(app, this))
+    , m_looking(new LatestJob(this))
 {
     m_soon.setSingleShot(true);
     connect(&m_soon, &QTimer::timeout, this, &ShootDesk::lookNow);
-    connect(m_runner, &ReportRunner::done, this, &ShootDesk::take);
     connect(strip, &ShootStrip::wanted, this, &ShootDesk::act);
     connect(strip, &ShootStrip::focalEntered, this, &ShootDesk::enterFocal);
 }
@@ -69,7 +68,7 @@ void ShootDesk::setPage(PageKeeper *page)
         m_request = {};
         m_report.reset();
         m_rememberedFocal = 0.0;
-        m_runner->stop();
+        m_looking->stop();
     }
     lookNow();
 }
@@ -84,7 +83,10 @@ void ShootDesk::lookNow()
     if (!isSame(request, m_request)) {
         m_request = request;
         m_report.reset();
-        m_runner->look(request);
+        m_looking->start([this, request](const JobWatch &watch) -> std::function<void()> {
+            auto report = std::make_shared<const ShootReport>(reportOn(m_app, request, watch));
+            return [this, report] { take(report); };
+        });
     }
     tell();
 }

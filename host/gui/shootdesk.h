@@ -15,8 +15,8 @@ class QWidget;
 namespace PanoHost
 {
 
+class LatestJob;
 class PageKeeper;
-class ReportRunner;
 class ShootStrip;
 
 /**
@@ -60,7 +60,7 @@ private:
     PanoHostApplication &m_app;
     ShootStrip *m_strip;
     QWidget *m_window;
-    ReportRunner *m_runner;
+    LatestJob *m_looking;
     QTimer m_soon;
     PageKeeper *m_page = nullptr;
     ImportRequest m_request; ///< that `m_report` answers, or will

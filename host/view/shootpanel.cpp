@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/view/shootpanel.h"
 
+#include "host/model/latestjob.h"
 #include "host/model/panorama.h"
 #include "host/model/ptofile.h"
 #include "host/view/shootview.h"
@@ -9,11 +10,11 @@
 #include <QButtonGroup>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QThread>
 #include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 namespace PanoHost
@@ -21,6 +22,7 @@ namespace PanoHost
 
 ShootPanel::ShootPanel(QWidget *parent)
     : QWidget(parent)
+    , m_maker(new LatestJob(this))
     , m_view(new ShootView(this))
     , m_named(new QLabel(this))
 {
@@ -67,13 +69,6 @@ ShootPanel::ShootPanel(QWidget *parent)
     connect(m_view, &ShootView::photoClicked, this, &ShootPanel::photoClicked);
 }
 
-ShootPanel::~ShootPanel()
-{
-    for (const auto &maker : m_makers) {
-        maker->wait();
-    }
-}
-
 QToolButton *ShootPanel::addTool(const QString &name, const QString &text, const QString &tip)
 {
     auto *button = new QToolButton(this);
@@ -103,7 +98,7 @@ void ShootPanel::showAligned(const PtoFile &project)
 
 void ShootPanel::clear()
 {
-    ++m_wanted;
+    m_maker->stop();
     showScene({});
 }
 
@@ -115,21 +110,10 @@ void ShootPanel::present(int positions, const std::function<ShootScene()> &make)
         showScene(make());
         return;
     }
-    m_makers.erase(std::remove_if(m_makers.begin(), m_makers.end(),
-                                  [](const auto &maker) { return maker->isFinished(); }),
-                   m_makers.end());
-    const auto work = [this, make, number = m_wanted] {
+    m_maker->start([this, make](const JobWatch &) -> std::function<void()> {
         auto scene = std::make_shared<ShootScene>(make());
-        QMetaObject::invokeMethod(
-            this,
-            [this, scene, number] {
-                if (number == m_wanted) {
-                    showScene(std::move(*scene));
-                }
-            },
-            Qt::QueuedConnection);
-    };
-    m_makers.emplace_back(QThread::create(work))->start();
+        return [this, scene] { showScene(std::move(*scene)); };
+    });
 }
 
 void ShootPanel::showScene(ShootScene scene)

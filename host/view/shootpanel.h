@@ -7,16 +7,14 @@
 #include <QWidget>
 
 #include <functional>
-#include <memory>
-#include <vector>
 
 class QLabel;
-class QThread;
 class QToolButton;
 
 namespace PanoHost
 {
 
+class LatestJob;
 struct Panorama;
 class PtoFile;
 struct ShootScene;
@@ -28,7 +26,6 @@ class ShootPanel : public QWidget
     Q_OBJECT
 public:
     explicit ShootPanel(QWidget *parent = nullptr);
-    ~ShootPanel() override;
 
     /** Where photos come from; at first they are read from their files. */
     void setPhotoSource(const PhotoSource &source);
@@ -53,8 +50,7 @@ private:
     void showScene(ShootScene scene);
     void tell(const QString &named);
 
-    std::vector<std::unique_ptr<QThread>> m_makers; ///< of scenes; all but the last for nothing
-    int m_wanted = 0; ///< number of the scene that is to be shown
+    LatestJob *m_maker; ///< of scenes
     ShootView *m_view;
     QLabel *m_named;
     QToolButton *m_links = nullptr;

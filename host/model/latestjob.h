@@ -2,14 +2,13 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "host/import/shootreport.h"
+#include "host/model/jobwatch.h"
 
 #include <QObject>
 
 #include <atomic>
 #include <condition_variable>
 #include <functional>
-#include <memory>
 #include <mutex>
 #include <thread>
 
@@ -18,7 +17,7 @@ namespace PanoHost
 
 /** Does one job after the other on a thread of its own; a new one takes the place of those before.
  */
-class ReportRunner : public QObject
+class LatestJob : public QObject
 {
     Q_OBJECT
 public:
@@ -26,19 +25,15 @@ public:
      * something else was started meanwhile. */
     using Job = std::function<std::function<void()>(const JobWatch &watch)>;
 
-    /** \p app outlives it. */
-    explicit ReportRunner(PanoHostApplication &app, QObject *parent = nullptr);
+    explicit LatestJob(QObject *parent = nullptr);
     /** Waits until the job has heard that it is to stop. */
-    ~ReportRunner() override;
+    ~LatestJob() override;
 
-    /** Looks at \p request; `done` comes later. */
-    void look(const ImportRequest &request);
     void start(Job job);
     /** Nothing comes of what was started. */
     void stop() { start({}); }
 
 Q_SIGNALS:
-    void done(const std::shared_ptr<const PanoHost::ShootReport> &report);
     /** From the thread of the jobs to that of this object: `m_answer` is new. */
     void answered();
 
@@ -46,7 +41,6 @@ private:
     void work();
     void tellAnswer();
 
-    PanoHostApplication &m_app;
     std::atomic<int> m_wanted{ 0 }; ///< number of the last job
     std::mutex m_mutex; ///< guards what follows
     std::condition_variable m_changed;

@@ -1,22 +1,20 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "host/gui/reportrunner.h"
-
-#include "host/model/commanderror.h"
+#include "host/model/latestjob.h"
 
 #include <new>
+#include <utility>
 
 namespace PanoHost
 {
 
-ReportRunner::ReportRunner(PanoHostApplication &app, QObject *parent)
+LatestJob::LatestJob(QObject *parent)
     : QObject(parent)
-    , m_app(app)
 {
-    connect(this, &ReportRunner::answered, this, &ReportRunner::tellAnswer, Qt::QueuedConnection);
+    connect(this, &LatestJob::answered, this, &LatestJob::tellAnswer, Qt::QueuedConnection);
 }
 
-ReportRunner::~ReportRunner()
+LatestJob::~LatestJob()
 {
     stop();
     {
@@ -29,15 +27,7 @@ ReportRunner::~ReportRunner()
     }
 }
 
-void ReportRunner::look(const ImportRequest &request)
-{
-    start([this, request](const JobWatch &watch) -> std::function<void()> {
-        auto report = std::make_shared<const ShootReport>(reportOn(m_app, request, watch));
-        return [this, report] { Q_EMIT done(report); };
-    });
-}
-
-void ReportRunner::start(Job job)
+void LatestJob::start(Job job)
 {
     const std::lock_guard lock(m_mutex);
     ++m_wanted;
@@ -48,7 +38,7 @@ void ReportRunner::start(Job job)
     m_changed.notify_all();
 }
 
-void ReportRunner::work()
+void LatestJob::work()
 {
     std::unique_lock lock(m_mutex);
     while (!m_ends) {
@@ -76,7 +66,7 @@ void ReportRunner::work()
     }
 }
 
-void ReportRunner::tellAnswer()
+void LatestJob::tellAnswer()
 {
     std::function<void()> answer;
     {
