@@ -14,9 +14,6 @@
 namespace PanoHost
 {
 
-/** The colour of a residual, \p part of the worst one: dark blue to yellow, lighter all the way. */
-[[nodiscard]] QColor residualColour(double part);
-
 /**
  * The photos of a shoot where they stand on the sphere, as a map or seen from inside. Dragging
  * moves it, the wheel zooms, a click takes a photo to the front.
@@ -100,16 +97,6 @@ private:
     void draw();
     [[nodiscard]] FrameFill fillOf(const Patch &patch) const;
     [[nodiscard]] double worstShown() const;
-
-    void paintGrid(QPainter &painter) const;
-    void paintGaps(QPainter &painter) const;
-    void paintLinks(QPainter &painter) const;
-    void paintOutlines(QPainter &painter) const;
-    void paintMarks(QPainter &painter) const;
-    void paintLegend(QPainter &painter) const;
-    [[nodiscard]] QVector<QPolygonF> outlineOf(int frame) const;
-    [[nodiscard]] QVector<QPolygonF> linesBetween(const QVector<Eigen::Vector3d> &way) const;
-    [[nodiscard]] std::optional<QPointF> middleOf(int frame) const;
 
     ShootScene m_scene;
     ViewCamera m_camera;

@@ -3,6 +3,7 @@
 #include "host/model/ptoproject.h"
 #include "host/view/shootpanel.h"
 #include "host/view/shootview.h"
+#include "host/view/viewmarks.h"
 #include "tests/host/testpanoramas.h"
 #include "tests/host/view/viewshoots.h"
 #include "tests/support/testprogram.h"
