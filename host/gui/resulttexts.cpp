@@ -17,8 +17,6 @@ namespace PanoHost
 namespace
 {
 
-constexpr qint32 kHdrRadiance = 3;
-
 /** The fewest and the most photos of a position. */
 struct BracketSizes {
     int fewest = 0;
@@ -33,11 +31,6 @@ BracketSizes bracketSizes(const Panorama &panorama)
         sizes.most = std::max(sizes.most, position.photos.size());
     }
     return sizes;
-}
-
-bool hasBrackets(const Panorama &panorama)
-{
-    return bracketSizes(panorama).most > 1;
 }
 
 bool areOnOnePoint(const QVector<Position> &positions)

@@ -34,15 +34,13 @@ QString parentOf(const QString &folder)
 QString photosFolder(const Panorama &panorama)
 {
     QString folder;
-    for (const Position &position : panorama.positions) {
-        for (const PhotoInfo &photo : position.photos) {
-            const QString own = QFileInfo(photo.path).absolutePath();
-            if (folder.isNull()) {
-                folder = own;
-            }
-            while (!isWithin(own, folder)) {
-                folder = parentOf(folder);
-            }
+    for (const QString &path : photoPaths(panorama)) {
+        const QString own = QFileInfo(path).absolutePath();
+        if (folder.isNull()) {
+            folder = own;
+        }
+        while (!isWithin(own, folder)) {
+            folder = parentOf(folder);
         }
     }
     return folder;

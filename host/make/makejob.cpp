@@ -5,11 +5,13 @@
 #include "host/deliver/outputname.h"
 #include "host/import/importjob.h"
 #include "host/import/inputcheck.h"
+#include "host/make/damagedphotos.h"
 #include "host/make/makekeys.h"
 #include "host/make/overallprogress.h"
 #include "host/make/plainnames.h"
 #include "host/make/rawconverter.h"
 #include "host/make/saidlines.h"
+#include "host/make/stepseconds.h"
 #include "host/make/worklog.h"
 #include "host/model/canvas.h"
 #include "host/model/displayname.h"
@@ -17,6 +19,7 @@
 #include "host/model/photofile.h"
 #include "host/model/ptoproject.h"
 #include "host/model/safefile.h"
+#include "host/model/said.h"
 #include "host/plugin/pluginlibrary.h"
 #include "host/stitch/stitchneeds.h"
 #include "host/stitch/toolrun.h"
@@ -36,56 +39,6 @@ namespace PanoHost
 namespace
 {
 
-constexpr double kMegapixel = 1.0e6;
-
-double megapixels(const QSize &size)
-{
-    return double(size.width()) * size.height() / kMegapixel;
-}
-
-/** Seconds that steps take on a machine of two processors; what is off is corrected on the way. */
-double importSeconds(int photos)
-{
-    constexpr double kPerPhoto = 0.02;
-    return 1.0 + kPerPhoto * photos;
-}
-
-double alignSeconds(int photos, double megapixelsOfAll)
-{
-    constexpr double kPerPhoto = 0.4;
-    constexpr double kPerMegapixel = 0.03;
-    return 1.0 + kPerPhoto * photos + kPerMegapixel * megapixelsOfAll;
-}
-
-double stitchSeconds(double megapixelsOfAll, const QSize &canvas)
-{
-    constexpr double kPerPhotoMegapixel = 0.15;
-    constexpr double kPerCanvasMegapixel = 0.4;
-    return 1.0 + kPerPhotoMegapixel * megapixelsOfAll + kPerCanvasMegapixel * megapixels(canvas);
-}
-
-double deliverSeconds(int kinds, const QSize &picture)
-{
-    constexpr double kPerMegapixel = 0.15;
-    return 0.5 + kPerMegapixel * kinds * megapixels(picture);
-}
-
-/** How many of \p kinds there are, or would be. */
-int usualCount(const QVector<Delivery> &kinds)
-{
-    constexpr int kUsual = 2;
-    return kinds.isEmpty() ? kUsual : kinds.size();
-}
-
-double megapixelsOf(const PtoFile &project)
-{
-    double sum = 0.0;
-    for (const PtoImage &image : project.images()) {
-        sum += megapixels(image.size);
-    }
-    return sum;
-}
-
 /** What is there of \p path: it, or the next folder above it that exists. */
 QString existingFolder(const QString &path)
 {
@@ -98,7 +51,7 @@ QString existingFolder(const QString &path)
 
 QString needsText(const StitchNeeds &needs, const QString &work)
 {
-    return QStringLiteral(
+    return Said::tr(
                "panorama of %1 x %2 pixels: takes about %3 in %4 (%5 are free) and %6 of memory")
         .arg(QString::number(needs.picture.width()), QString::number(needs.picture.height()),
              bytesText(needs.diskBytes), displayName(work),
@@ -109,11 +62,11 @@ QString needsText(const StitchNeeds &needs, const QString &work)
 /** How far the light of the panorama can be trusted. */
 QString lightText(bool isLinear)
 {
-    return isLinear ? QStringLiteral("the light is exact to a fraction of a percent, but where "
-                                     "every exposure clips it or shows noise")
-                    : QStringLiteral("the light is good for looking at, not for measuring: the "
-                                     "photos' curve is taken for sRGB's; RAW files, or TIFFs "
-                                     "without a curve and --linear, make it exact");
+    return isLinear ? Said::tr("the light is exact to a fraction of a percent, but where "
+                               "every exposure clips it or shows noise")
+                    : Said::tr("the light is good for looking at, not for measuring: the "
+                               "photos' curve is taken for sRGB's; RAW files, or TIFFs "
+                               "without a curve and --linear, make it exact");
 }
 
 /** Refuses a folder of that name that somebody keeps other things in. */
@@ -124,9 +77,9 @@ void requireOwnFolder(const QString &path)
     content.removeAll(QStringLiteral("lock")); // who stopped just after it began has left no more
     if (!content.isEmpty() && !content.contains(WorkLog::fileName())) {
         throw inputRefused(displayName(path),
-                           QStringLiteral("is to hold what is kept of this panorama, and holds "
-                                          "something else"),
-                           QStringLiteral("rename it, or choose another name with -o"));
+                           Said::tr("is to hold what is kept of this panorama, and holds "
+                                    "something else"),
+                           Said::tr("rename it, or choose another name with -o"));
     }
 }
 
@@ -147,16 +100,16 @@ void tellNotFollowed(const PtoFile &project, const StitchOptions &options, const
 {
     const auto warn = [&](const QString &text) { watch.note(JobWatch::Note::Warning, text); };
     if (!project.isEquirectangular()) {
-        warn(QStringLiteral("the project asks for another projection; the panorama becomes "
-                            "equirectangular"));
+        warn(Said::tr("the project asks for another projection; the panorama becomes "
+                      "equirectangular"));
     }
     if (project.hasKeepingMasks()) {
-        warn(QStringLiteral("masks that include a region are passed over, only those that exclude "
-                            "one count"));
+        warn(Said::tr("masks that include a region are passed over, only those that exclude "
+                      "one count"));
     }
     if (options.centreYawDegrees && project.canvas().horizontalFovDegrees < 360.0) {
-        warn(QStringLiteral("--centre turns full turns only; this part of the sphere stays as it "
-                            "is"));
+        warn(Said::tr("--centre turns full turns only; this part of the sphere stays as it "
+                      "is"));
     }
 }
 
@@ -236,20 +189,9 @@ PlacedProject readInput(const StitchRequest &request, const QString &work, const
                       work, watch);
 }
 
-/** Such photos are put in their places all the same: what they show is worth more than nothing. */
-void warnOfDamage(const Panorama &panorama, const JobWatch &watch)
+int photosIn(const MakeRequest &request)
 {
-    for (const Position &position : panorama.positions) {
-        for (const PhotoInfo &photo : position.photos) {
-            watch.check();
-            if (isDamaged(photo.path)) {
-                watch.note(JobWatch::Note::Warning,
-                           QStringLiteral("%1: cannot be read to its end; copy it from the card "
-                                          "again, or take it again")
-                               .arg(displayName(photo.path)));
-            }
-        }
-    }
+    return request.imported ? photoCount(*request.imported) : request.import.photos.size();
 }
 
 /** What a result must not take the place of. */
@@ -258,13 +200,7 @@ QStringList inputsOf(const MakeRequest &request)
     if (!request.imported) {
         return QStringList(request.import.record) + request.import.photos;
     }
-    QStringList inputs(request.imported->source.record);
-    for (const Position &position : request.imported->positions) {
-        for (const PhotoInfo &photo : position.photos) {
-            inputs += photo.path;
-        }
-    }
-    return inputs;
+    return QStringList(request.imported->source.record) + photoPaths(*request.imported);
 }
 
 /** One run of steps in a work folder. */
@@ -426,10 +362,9 @@ bool MakeRun::develop(int step, Panorama &panorama, const QString &command)
         return false;
     }
     if (command.isEmpty()) {
-        throw inputRefused(QStringLiteral("photos"),
-                           QStringLiteral("%1 of them are RAW files").arg(count),
-                           QStringLiteral("add --raw-converter dcraw, dcraw_emu, darktable-cli or "
-                                          "rawtherapee-cli, or give JPEGs or TIFFs of them"));
+        throw inputRefused(Said::tr("photos"), Said::tr("%1 of them are RAW files").arg(count),
+                           Said::tr("add --raw-converter dcraw, dcraw_emu, darktable-cli or "
+                                    "rawtherapee-cli, or give JPEGs or TIFFs of them"));
     }
     const bool wantsLight
         = outputFor(m_wishes, panorama.description.renderMode, false) == StitchOutput::Hdr;
@@ -462,7 +397,7 @@ PlacedProject MakeRun::place(const MakeRequest &request)
     m_progress.expect(step + 2, deliverSeconds(usualCount(m_wishes.kinds), canvas));
     if (panorama.description.skipOptimization) {
         note(JobWatch::Note::Info,
-             QStringLiteral("photos stay where the head says: optimisation is skipped"));
+             Said::tr("photos stay where the head says: optimisation is skipped"));
         return { recorded, panorama.description.renderMode, request.align.levels.value_or(false),
                  isLinear };
     }
@@ -604,8 +539,8 @@ Result<QStringList> resumableAnswerOf(const QString &workFolder, const JobWatch 
         failure.what = QStringLiteral("stopped; the same command goes on from here");
     } else if (failure.code == ExitCode::ToolFailed) {
         watch.note(JobWatch::Note::Info,
-                   QStringLiteral("what was finished is kept in %1: the same command goes on from "
-                                  "there")
+                   Said::tr("what was finished is kept in %1: the same command goes on from "
+                            "there")
                        .arg(displayName(workFolder)));
     }
     return failure;
@@ -641,34 +576,6 @@ Result<QStringList> commandsOf(const PlacedProject &placed, const PictureWishes 
     return stitch ? Result<QStringList>(commands + stitch.value()) : stitch;
 }
 
-constexpr double kMegapixelsOfUnknownPhotos = 20.0;
-
-QVector<OverallProgress::Step> stitchingSteps(double photoMegapixels, const QSize &canvas,
-                                              int kinds)
-{
-    return { { stitchSeconds(photoMegapixels, canvas), { 0.6, 0.35 } },
-             { deliverSeconds(kinds, canvas) } };
-}
-
-QVector<OverallProgress::Step> allSteps(const MakeRequest &request)
-{
-    const int photos
-        = request.imported ? photoCount(*request.imported) : request.import.photos.size();
-    const double photoMegapixels = kMegapixelsOfUnknownPhotos * photos;
-    const QSize unknownCanvas(8192, 4096);
-    QVector<OverallProgress::Step> steps;
-    steps.append(OverallProgress::Step{ importSeconds(photos), { 0.9 } });
-    if (!request.rawConverter.isEmpty()) {
-        constexpr double kSecondsOfRawFile = 8.0;
-        steps.append(OverallProgress::Step{ kSecondsOfRawFile * photos, { 1.0 } });
-    }
-    // Features, matches, places, matches again, places again, light.
-    steps.append(OverallProgress::Step{ alignSeconds(photos, photoMegapixels),
-                                        { 0.5, 0.2, 0.05, 0.15, 0.05, 0.04 } });
-    return steps
-        + stitchingSteps(photoMegapixels, unknownCanvas, usualCount(request.picture.kinds));
-}
-
 } // namespace
 
 QString workFolderOf(const QString &path)
@@ -687,41 +594,10 @@ StitchOutput outputFor(const PictureWishes &wishes, int renderMode, bool hasBrac
     if (wishes.output) {
         return *wishes.output;
     }
-    constexpr int kHdrRadiance = 3; // as pages number it
     if (wishes.kinds.contains(Delivery::Radiance) || renderMode == kHdrRadiance) {
         return StitchOutput::Hdr;
     }
     return hasBrackets ? StitchOutput::Fused : StitchOutput::Ldr;
-}
-
-MakeSteps makeSteps(PanoHostApplication &app)
-{
-    MakeSteps steps;
-    steps.import = [&app](const ImportRequest &request, const JobWatch &watch) {
-        Result<Panorama> panorama = importShoot(app, request, watch);
-        if (panorama) {
-            warnOfDamage(panorama.value(), watch);
-        }
-        return panorama;
-    };
-    steps.align = [](const Panorama &panorama, const PtoOptions &projectOptions,
-                     const AlignOptions &options, const JobWatch &watch) {
-        return align(panorama, projectOptions, options, watch);
-    };
-    steps.needs = [](const PtoFile &project, const StitchOptions &options) {
-        return needsOf(project, options);
-    };
-    steps.commands = &stitchCommands;
-    steps.stitch = &stitchProject;
-    steps.origin = [](const PtoFile &project, const StitchedPicture &picture) {
-        QVector<PhotoView> views;
-        for (const PtoImage &image : project.images()) {
-            views.append({ image.path, image.angles.yaw, image.angles.pitch });
-        }
-        return originOf(views, picture.centreYawDegrees);
-    };
-    steps.deliver = &deliver;
-    return steps;
 }
 
 Result<QStringList> makePanorama(const MakeRequest &request, const MakeSteps &steps,
@@ -733,7 +609,9 @@ Result<QStringList> makePanorama(const MakeRequest &request, const MakeSteps &st
         if (!request.rawConverter.isEmpty()) { // nothing is begun with a wrong one
             (void)valueOrThrow(rawConverterNamed(request.rawConverter, false));
         }
-        MakeRun run(request.picture, steps, watch, allSteps(request));
+        MakeRun run(
+            request.picture, steps, watch,
+            allSteps(photosIn(request), !request.rawConverter.isEmpty(), request.picture.kinds));
         const PlacedProject placed = run.place(request);
         return run.stitchAndDeliver(request.rawConverter.isEmpty() ? 2 : 3, placed);
     });
@@ -755,7 +633,7 @@ Result<QStringList> stitchPanorama(const StitchRequest &request, const MakeSteps
         {
             MakeRun run(request.picture, steps, watch,
                         stitchingSteps(megapixelsOf(placed.project), placed.project.canvas().size,
-                                       usualCount(request.picture.kinds)));
+                                       request.picture.kinds));
             made = run.stitchAndDeliver(0, placed);
         }
         const bool isMakes
@@ -774,8 +652,8 @@ Result<QStringList> makeCommands(const MakeRequest &request, const MakeSteps &st
         const Panorama panorama = valueOrThrow(steps.import(request.import, watch));
         if (!panorama.description.skipOptimization) {
             watch.note(JobWatch::Note::Info,
-                       QStringLiteral("photos lie where the record puts them in these commands: "
-                                      "nothing is aligned yet"));
+                       Said::tr("photos lie where the record puts them in these commands: "
+                                "nothing is aligned yet"));
         }
         const PlacedProject placed = asRecorded(panorama, request.import.ignoreExifRotation,
                                                 scriptFolderOf(request.picture), watch);

@@ -101,14 +101,9 @@ QByteArray importKey(const ImportRequest &request, const QString &library)
 
 QByteArray importedKey(const Panorama &panorama)
 {
-    KeyText key("imported");
-    key << panoramaToJson(panorama, {});
-    for (const Position &position : panorama.positions) {
-        for (const PhotoInfo &photo : position.photos) {
-            key.addFile(photo.path);
-        }
-    }
-    return key.text();
+    return (KeyText("imported") << panoramaToJson(panorama, {}))
+        .addFiles(photoPaths(panorama))
+        .text();
 }
 
 QByteArray alignKey(const QByteArray &panoramaJson, bool ignoresExifRotation,

@@ -3,6 +3,7 @@
 #include "host/model/panorama.h"
 
 #include "host/model/assumedgrid.h"
+#include "host/model/said.h"
 
 #include <QFileInfo>
 #include <QtMath>
@@ -64,7 +65,7 @@ LensModel lensOf(const StructuredPanoramaProperties &description, const PhotoInf
 
 QString shotNumber(int entry)
 {
-    return QStringLiteral("shot %1").arg(entry + 1);
+    return Said::tr("shot %1").arg(entry + 1);
 }
 
 /** Fills the directions from the recorded angles. */
@@ -78,8 +79,8 @@ std::optional<Failure> takeAngles(const StructuredPanoramaProperties &descriptio
     const int angles = std::min(description.yaw.size(), description.pitch.size());
     const bool perPosition = angles == positions.size();
     if (!perPosition && angles < photos) {
-        return refused(QStringLiteral("the description"),
-                       QStringLiteral("%1 recorded directions for %2 photos at %3 positions")
+        return refused(Said::tr("the description"),
+                       Said::tr("%1 recorded directions for %2 photos at %3 positions")
                            .arg(angles)
                            .arg(photos)
                            .arg(positions.size()));
@@ -90,8 +91,8 @@ std::optional<Failure> takeAngles(const StructuredPanoramaProperties &descriptio
         const double pitch = description.pitch[entry];
         const double roll = description.rollKnown ? description.roll.value(entry) : 0.0;
         if (!std::isfinite(yaw) || !std::isfinite(pitch) || !std::isfinite(roll)) {
-            return refused(shotNumber(entry), QStringLiteral("its direction is not a number"),
-                           QStringLiteral("correct the record"));
+            return refused(shotNumber(entry), Said::tr("its direction is not a number"),
+                           Said::tr("correct the record"));
         }
         position.yawDegrees = qRadiansToDegrees(yaw);
         position.pitchDegrees = qRadiansToDegrees(pitch);
@@ -151,13 +152,13 @@ Result<Panorama> joinPanorama(const StructuredPanoramaProperties &description,
             position.photos.append(std::move(photo).value());
         }
         if (position.photos.isEmpty()) {
-            return refused(QStringLiteral("position %1").arg(panorama.positions.size() + 1),
-                           QStringLiteral("has no photo"));
+            return refused(Said::tr("position %1").arg(panorama.positions.size() + 1),
+                           Said::tr("has no photo"));
         }
         panorama.positions.append(position);
     }
     if (panorama.positions.isEmpty()) {
-        return refused(QStringLiteral("the description"), QStringLiteral("holds no photos"));
+        return refused(Said::tr("the description"), Said::tr("holds no photos"));
     }
     panorama.focal35mm = focalOf(description, panorama.positions, wishes);
     panorama.lens = wishes.lens != LensModel::NotChosen
@@ -222,6 +223,23 @@ int photoCount(const Panorama &panorama)
         photos += position.photos.size();
     }
     return photos;
+}
+
+QStringList photoPaths(const Panorama &panorama)
+{
+    QStringList paths;
+    for (const Position &position : panorama.positions) {
+        for (const PhotoInfo &photo : position.photos) {
+            paths += photo.path;
+        }
+    }
+    return paths;
+}
+
+bool hasBrackets(const Panorama &panorama)
+{
+    return std::any_of(panorama.positions.begin(), panorama.positions.end(),
+                       [](const Position &position) { return position.photos.size() > 1; });
 }
 
 QVector<QVector<int>> linkTargets(const Panorama &panorama)

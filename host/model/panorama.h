@@ -19,6 +19,9 @@ namespace PanoHost
 
 using PanoHead::kFullFrameDiagonalMm;
 
+/** As `renderMode` pages ask for the light itself. */
+constexpr qint32 kHdrRadiance = 3;
+
 /** "standard", "fisheye" or "unknown". */
 [[nodiscard]] QString lensName(LensModel lens);
 
@@ -108,6 +111,12 @@ using PhotoLookup = std::function<Result<PhotoInfo>(const QString &path)>;
 
 /** The number of photos of all positions. */
 [[nodiscard]] int photoCount(const Panorama &panorama);
+
+/** The paths of all photos, position by position. */
+[[nodiscard]] QStringList photoPaths(const Panorama &panorama);
+
+/** Whether a position has several photos. */
+[[nodiscard]] bool hasBrackets(const Panorama &panorama);
 
 /** For each position the positions that its links lead to, as they are described: each link stands
  * at one end, and those of grids may lead to cells without a position. */

@@ -6,6 +6,7 @@
 #include "host/model/ptoline.h"
 #include "host/model/relativepath.h"
 #include "host/model/safefile.h"
+#include "host/model/said.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -127,13 +128,13 @@ Result<PtoProject> ProjectMaker::make()
 std::optional<Failure> ProjectMaker::checkFocalLength() const
 {
     const double focal = m_panorama.focal35mm;
-    const QString what = QStringLiteral("focal length");
-    const QString tryThis = QStringLiteral("give it with --focal");
+    const QString what = Said::tr("focal length");
+    const QString tryThis = Said::tr("give it with --focal");
     if (!(focal > 0.0) || !std::isfinite(focal)) {
-        return refused(what, QStringLiteral("neither the record nor the photos name it"), tryThis);
+        return refused(what, Said::tr("neither the record nor the photos name it"), tryThis);
     }
     if (focal < kShortestFocalMm || focal > kLongestFocalMm) {
-        return refused(what, QStringLiteral("no lens has %1 mm").arg(focal), tryThis);
+        return refused(what, Said::tr("no lens has %1 mm").arg(focal), tryThis);
     }
     return {};
 }
@@ -146,8 +147,8 @@ std::optional<Failure> ProjectMaker::collectImages()
         m_hasStacks = m_hasStacks || position.photos.size() > 1;
         for (const PhotoInfo &photo : position.photos) {
             if (photo.storedSize.isEmpty()) {
-                return refused(photo.path, QStringLiteral("its size in pixels is not known"),
-                               QStringLiteral("can another program open it? leave it out if not"));
+                return refused(photo.path, Said::tr("its size in pixels is not known"),
+                               Said::tr("can another program open it? leave it out if not"));
             }
             Image image;
             image.photo = &photo;
@@ -163,8 +164,8 @@ std::optional<Failure> ProjectMaker::collectImages()
             image.rollDegrees = position.rollDegrees + turnDegrees(photo, m_options);
             if (!std::isfinite(image.yawDegrees) || !std::isfinite(image.pitchDegrees)
                 || !std::isfinite(image.rollDegrees)) {
-                return refused(photo.path, QStringLiteral("its direction is not a number"),
-                               QStringLiteral("correct the record"));
+                return refused(photo.path, Said::tr("its direction is not a number"),
+                               Said::tr("correct the record"));
             }
             if (auto failure = nameImage(image)) {
                 return failure;
@@ -173,11 +174,11 @@ std::optional<Failure> ProjectMaker::collectImages()
         }
     }
     if (m_images.isEmpty()) {
-        return refused(QStringLiteral("the description"), QStringLiteral("holds no photos"));
+        return refused(Said::tr("the description"), Said::tr("holds no photos"));
     }
     if (lensMasters.size() > 1) {
         m_project.warnings.append(
-            QStringLiteral("the photos have %1 different sizes in pixels").arg(lensMasters.size()));
+            Said::tr("the photos have %1 different sizes in pixels").arg(lensMasters.size()));
     }
     return {};
 }
@@ -192,9 +193,9 @@ std::optional<Failure> ProjectMaker::nameImage(Image &image) const
         = path.contains(QChar::Null) ? path : relativePath(path, m_options.projectFolder);
     if (std::any_of(name.cbegin(), name.cend(), isUnfit)) {
         return refused(path,
-                       QStringLiteral("a Hugin project cannot hold a file name with quotation "
-                                      "marks or line ends"),
-                       QStringLiteral("rename the file"));
+                       Said::tr("a Hugin project cannot hold a file name with quotation "
+                                "marks or line ends"),
+                       Said::tr("rename the file"));
     }
     image.name = QFile::encodeName(name);
     return {};
@@ -217,7 +218,7 @@ void ProjectMaker::findExposures()
     m_referenceExposure = medianExposure(reference).value_or(m_missingExposure);
     const int unknown = m_images.size() - all.size();
     if (unknown > 0) {
-        m_project.warnings.append(QStringLiteral("%1 of %2 photos name no exposure; %3 is assumed")
+        m_project.warnings.append(Said::tr("%1 of %2 photos name no exposure; %3 is assumed")
                                       .arg(unknown)
                                       .arg(m_images.size())
                                       .arg(m_missingExposure));
@@ -262,7 +263,6 @@ void ProjectMaker::appendHeader()
 
 void ProjectMaker::appendOutputs()
 {
-    constexpr qint32 kHdrRadiance = 3;
     if (m_panorama.description.renderMode == kHdrRadiance) {
         m_project.text += "#hugin_outputLDRBlended false\n#hugin_outputHDRBlended true\n";
     } else if (m_hasStacks) {
