@@ -8,6 +8,7 @@
 #include "host/align/photometry.h"
 #include "host/align/tiepoints.h"
 #include "host/model/displayname.h"
+#include "host/model/said.h"
 
 #include <QFileInfo>
 
@@ -121,8 +122,8 @@ Result<Alignment> Run::run()
 {
     reportViews();
     if (!m_plan.detects) {
-        note(QStringLiteral("no control points are wanted (automatic detection is off): kept as "
-                            "recorded"));
+        note(Said::tr("no control points are wanted (automatic detection is off): kept as "
+                      "recorded"));
         return Alignment{ m_project, m_report };
     }
     m_pairs = imagePairs(m_shoot, m_plan);
@@ -150,7 +151,7 @@ Result<Alignment> Run::run()
     }
     writePoints();
     if (!m_plan.places) {
-        note(QStringLiteral("photos are left as recorded (optimisation is skipped)"));
+        note(Said::tr("photos are left as recorded (optimisation is skipped)"));
     } else {
         m_report.isPlaced = true;
         writePlaces();
@@ -167,14 +168,13 @@ Result<Alignment> Run::run()
 QString Run::nothingFound() const
 {
     if (m_project.images().size() == 1) {
-        return QStringLiteral("there is one photo only: kept as recorded");
+        return Said::tr("there is one photo only: kept as recorded");
     }
     if (m_pairs.empty()) {
-        return QStringLiteral("no two photos overlap where the record puts them: kept as recorded");
+        return Said::tr("no two photos overlap where the record puts them: kept as recorded");
     }
-    return QStringLiteral(
-        "no spot was found in two photos (nothing but sky or fog, or the photos are "
-        "not of this record): kept as recorded");
+    return Said::tr("no spot was found in two photos (nothing but sky or fog, or the photos are "
+                    "not of this record): kept as recorded");
 }
 
 /** Photos of stacks that are not looked at are not read. */
@@ -211,14 +211,13 @@ std::optional<Failure> Run::readPhotos(TiePointFinder &finder)
         m_whiteShares.push_back(finder.whiteShare(static_cast<int>(i)));
         if (const auto &failure = finder.leftOut(static_cast<int>(i))) {
             ++bad;
-            note(QStringLiteral("%1; kept as recorded").arg(failure->text()));
+            note(Said::tr("%1; kept as recorded").arg(failure->text()));
         }
     }
     if (bad > 0 && bad == static_cast<int>(m_photos.size())) {
         Failure failure = *finder.leftOut(0);
-        failure.tryThis
-            = QStringLiteral("none of the photos can be used: were they moved since the "
-                             "import?");
+        failure.tryThis = Said::tr("none of the photos can be used: were they moved since the "
+                                   "import?");
         return failure;
     }
     return {};
@@ -315,8 +314,7 @@ void Run::checkOrder(TiePointFinder &finder)
         }
     }
     if (!order.isEmpty()) {
-        note(QStringLiteral(
-                 "the photos fit the order '%1' better than '%2': import them with --mode %1")
+        note(Said::tr("the photos fit the order '%1' better than '%2': import them with --mode %1")
                  .arg(order, m_plan.gridOrder));
     }
 }
@@ -476,10 +474,9 @@ void Run::keepWhites(double usualExposure)
     }
     constexpr double kVisibleStops = 0.2;
     if (stops >= kVisibleStops) {
-        note(
-            QStringLiteral("the panorama is made %1 stops brighter: what is white in a photo stays "
-                           "white")
-                .arg(stops, 0, 'f', 1));
+        note(Said::tr("the panorama is made %1 stops brighter: what is white in a photo stays "
+                      "white")
+                 .arg(stops, 0, 'f', 1));
     }
 }
 

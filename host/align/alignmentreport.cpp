@@ -4,6 +4,7 @@
 
 #include "host/model/displayname.h"
 #include "host/model/jsonfields.h"
+#include "host/model/said.h"
 
 #include <QFileInfo>
 #include <QLocale>
@@ -35,10 +36,10 @@ QString fileName(const QString &path)
 
 QString pointsSentence(const AlignmentReport &report)
 {
-    return QStringLiteral("%1 of %2 tied, %3, median %4 pixels")
+    return Said::tr("%1 of %2 tied, %3, median %4 pixels")
         .arg(QString::number(report.tiedCount()), counted(report.photos.size(), "photo"),
-             QLocale(QLocale::English, QLocale::UnitedStates).toString(report.pointCount)
-                 + QLatin1String(report.pointCount == 1 ? " point" : " points"),
+             (report.pointCount == 1 ? Said::tr("%1 point") : Said::tr("%1 points"))
+                 .arg(QLocale(QLocale::English, QLocale::UnitedStates).toString(report.pointCount)),
              figure(report.medianPixels, 2));
 }
 
@@ -52,7 +53,7 @@ QString namesOf(const QStringList &paths)
     }
     const int more = paths.size() - names.size();
     return names.join(QLatin1String(", "))
-        + (more > 0 ? QStringLiteral(" and %1 more").arg(more) : QString());
+        + (more > 0 ? Said::tr(" and %1 more").arg(more) : QString());
 }
 
 void addUntied(const AlignmentReport &report, QStringList &lines)
@@ -64,9 +65,10 @@ void addUntied(const AlignmentReport &report, QStringList &lines)
         }
     }
     if (!untied.isEmpty()) {
-        lines.append(QStringLiteral("no points in %1 (%2): kept where the head put %3")
-                         .arg(counted(untied.size(), "photo"), namesOf(untied),
-                              QLatin1String(untied.size() == 1 ? "it" : "them")));
+        lines.append((untied.size() == 1
+                          ? Said::tr("no points in %1 (%2): kept where the head put it")
+                          : Said::tr("no points in %1 (%2): kept where the head put them"))
+                         .arg(counted(untied.size(), "photo"), namesOf(untied)));
     }
 }
 
@@ -75,7 +77,7 @@ void addLens(const AlignmentReport &report, QStringList &lines)
     constexpr double kVisibleMm = 0.05;
     if (report.focal35mm > 0.0
         && std::abs(report.focal35mm - report.recordedFocal35mm) >= kVisibleMm) {
-        lines.append(QStringLiteral("lens %1 mm instead of %2")
+        lines.append(Said::tr("lens %1 mm instead of %2")
                          .arg(figure(report.focal35mm, 1), figure(report.recordedFocal35mm, 1)));
     }
 }
@@ -84,7 +86,7 @@ void addLight(const AlignmentReport &report, QStringList &lines)
 {
     constexpr double kVisibleShare = 0.1;
     if (report.cornerLight < 1.0 - kVisibleShare) {
-        lines.append(QStringLiteral("the lens darkens its corners by %1 %: evened out")
+        lines.append(Said::tr("the lens darkens its corners by %1 %: evened out")
                          .arg(qRound(100.0 * (1.0 - report.cornerLight))));
     }
     constexpr double kVisibleStops = 0.2;
@@ -93,7 +95,7 @@ void addLight(const AlignmentReport &report, QStringList &lines)
         = std::max_element(report.exposureShifts.cbegin(), report.exposureShifts.cend(), isLess);
     if (most != report.exposureShifts.cend() && std::abs(*most) >= kVisibleStops) {
         lines.append(
-            QStringLiteral("exposures are not what the photos say, by up to %1 stops: evened out")
+            Said::tr("exposures are not what the photos say, by up to %1 stops: evened out")
                 .arg(figure(std::abs(*most), 1)));
     }
 }
@@ -102,50 +104,56 @@ void addHead(const AlignmentReport &report, QStringList &lines)
 {
     if (report.playDegrees) {
         constexpr double kNoneDegrees = 0.01;
-        lines.append(QStringLiteral("the head repeats to %1 degrees")
+        lines.append(Said::tr("the head repeats to %1 degrees")
                          .arg(*report.playDegrees < kNoneDegrees
-                                  ? QStringLiteral("less than %1").arg(kNoneDegrees)
+                                  ? Said::tr("less than %1").arg(kNoneDegrees)
                                   : figure(*report.playDegrees, 2)));
     }
     constexpr double kVisibleDegrees = 0.1;
     const double crooked
         = std::hypot(report.isGrid ? 0.0 : report.mountPitchDegrees, report.mountRollDegrees);
     if (crooked >= kVisibleDegrees) {
-        lines.append(QStringLiteral("the camera sits %1 degrees crooked on the head")
-                         .arg(figure(crooked, 1)));
+        lines.append(
+            Said::tr("the camera sits %1 degrees crooked on the head").arg(figure(crooked, 1)));
     }
     constexpr double kVisibleShare = 0.005;
     if (report.isGrid
         && std::abs(report.yawScale - 1.0) + std::abs(report.pitchScale - 1.0) > kVisibleShare) {
-        lines.append(
-            QStringLiteral("the head's steps are %1 (across) and %2 (up) times what was stated")
-                .arg(figure(report.yawScale, 3), figure(report.pitchScale, 3)));
+        lines.append(Said::tr("the head's steps are %1 (across) and %2 (up) times what was stated")
+                         .arg(figure(report.yawScale, 3), figure(report.pitchScale, 3)));
     }
+}
+
+QString slipSentence(const SlippedAxis &slip)
+{
+    return slip.yawDegrees > 0.0
+        ? Said::tr("from %1 on the head stands %2 degrees farther right than recorded: did its "
+                   "turning axis slip?")
+        : slip.yawDegrees < 0.0
+        ? Said::tr("from %1 on the head stands %2 degrees farther left than recorded: did its "
+                   "turning axis slip?")
+        : slip.pitchDegrees > 0.0
+        ? Said::tr("from %1 on the head stands %2 degrees higher than recorded: did its tilting "
+                   "axis slip?")
+        : Said::tr("from %1 on the head stands %2 degrees lower than recorded: did its tilting "
+                   "axis slip?");
 }
 
 void addFaults(const AlignmentReport &report, QStringList &lines)
 {
     for (const SlippedAxis &slip : report.slips) {
         const bool turns = slip.yawDegrees != 0.0;
-        lines.append(
-            QStringLiteral(
-                "from %1 on the head stands %2 degrees %3 than recorded: did its %4 axis slip?")
-                .arg(fileName(slip.path),
-                     figure(std::abs(turns ? slip.yawDegrees : slip.pitchDegrees), 1),
-                     QLatin1String(turns ? (slip.yawDegrees > 0 ? "farther right" : "farther left")
-                                         : (slip.pitchDegrees > 0 ? "higher" : "lower")),
-                     QLatin1String(turns ? "turning" : "tilting")));
+        lines.append(slipSentence(slip).arg(
+            fileName(slip.path), figure(std::abs(turns ? slip.yawDegrees : slip.pitchDegrees), 1)));
     }
     for (const BumpedPhoto &bump : report.bumps) {
-        lines.append(
-            QStringLiteral("%1 was taken %2 degrees from where the head says: was it bumped?")
-                .arg(fileName(bump.path), figure(bump.degrees, 1)));
+        lines.append(Said::tr("%1 was taken %2 degrees from where the head says: was it bumped?")
+                         .arg(fileName(bump.path), figure(bump.degrees, 1)));
     }
     if (report.parallaxPixels) {
         lines.append(
-            QStringLiteral(
-                "residuals suggest parallax (%1 pixels): near things move against far ones; "
-                "is the camera's nodal point on the head's axes?")
+            Said::tr("residuals suggest parallax (%1 pixels): near things move against far ones; "
+                     "is the camera's nodal point on the head's axes?")
                 .arg(figure(*report.parallaxPixels, 1)));
     }
 }

@@ -3,6 +3,7 @@
 #include "host/align/features.h"
 
 #include "host/model/photofile.h"
+#include "host/model/said.h"
 
 #include <QSemaphore>
 
@@ -202,7 +203,7 @@ Result<GreyPicture> readGreyPicture(const QString &path, const QSize &storedSize
     if (pixels.storedSize != storedSize) {
         return Failure{ ExitCode::InputRefused,
                         path,
-                        QStringLiteral("was %1 x %2 pixels when imported, is now %3 x %4")
+                        Said::tr("was %1 x %2 pixels when imported, is now %3 x %4")
                             .arg(storedSize.width())
                             .arg(storedSize.height())
                             .arg(pixels.storedSize.width())

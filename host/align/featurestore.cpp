@@ -3,6 +3,7 @@
 #include "host/align/featurestore.h"
 
 #include "host/model/commanderror.h"
+#include "host/model/said.h"
 
 #include <utility>
 
@@ -123,10 +124,10 @@ void FeatureStore::write(Entry &entry)
                     })
         && m_file->flush();
     if (!written) {
-        throw CommandError({ ExitCode::ToolFailed, m_folder,
-                             QStringLiteral("cannot keep the features of photos there: %1")
-                                 .arg(m_file->errorString()),
-                             QStringLiteral("TMPDIR names a folder with more room") });
+        throw CommandError(
+            { ExitCode::ToolFailed, m_folder,
+              Said::tr("cannot keep the features of photos there: %1").arg(m_file->errorString()),
+              Said::tr("TMPDIR names a folder with more room") });
     }
     entry.offset = m_fileBytes;
     m_fileBytes += bytesOf(entry.count);
@@ -143,11 +144,11 @@ FeatureSet FeatureStore::read(const Entry &entry)
                               return m_file->read(reinterpret_cast<char *>(values), bytes) == bytes;
                           });
     if (!complete) {
-        throw CommandError({ ExitCode::ToolFailed,
-                             m_folder,
-                             QStringLiteral("cannot read the features of photos back: %1")
-                                 .arg(m_file->errorString()),
-                             {} });
+        throw CommandError(
+            { ExitCode::ToolFailed,
+              m_folder,
+              Said::tr("cannot read the features of photos back: %1").arg(m_file->errorString()),
+              {} });
     }
     return features;
 }

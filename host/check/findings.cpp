@@ -6,6 +6,7 @@
 #include "host/model/displayname.h"
 #include "host/model/jsonfields.h"
 #include "host/model/panorama.h"
+#include "host/model/said.h"
 
 #include <QFileInfo>
 
@@ -24,12 +25,7 @@ QString nameOf(const PhotoInfo &photo)
 
 QString focalOrUnknown(double focal35mm)
 {
-    return focal35mm > 0.0 ? millimetres(focal35mm) : QStringLiteral("not known");
-}
-
-QString lensOrUnknown(LensModel lens)
-{
-    return lens == LensModel::NotChosen ? QStringLiteral("not known") : lensName(lens);
+    return focal35mm > 0.0 ? millimetres(focal35mm) : Said::tr("not known");
 }
 
 struct Findings {
@@ -67,10 +63,10 @@ constexpr auto kDocumentFields = [](JsonFields &json, const Findings &document) 
 Finding recordFinding(const QString &path, const PanoHead::RecordSummary &record)
 {
     return { QStringLiteral("record"),
-             QStringLiteral("%1: %2, bracket %3, focal %4, lens %5")
+             Said::tr("%1: %2, bracket %3, focal %4, lens %5")
                  .arg(displayName(path), counted(record.shotCount, "shot"),
                       QString::number(record.bracketCount), focalOrUnknown(record.focal35mm),
-                      lensOrUnknown(record.lens)) };
+                      lensText(record.lens)) };
 }
 
 Finding badPhotoFinding(const QString &path, const QString &why)
@@ -78,7 +74,7 @@ Finding badPhotoFinding(const QString &path, const QString &why)
     Finding finding{ QStringLiteral("bad"), QStringLiteral("%1: %2").arg(displayName(path), why),
                      Finding::Kind::Trouble };
     finding.files = QStringList(path);
-    finding.cure = QStringLiteral("copy it from the card again");
+    finding.cure = Said::tr("copy it from the card again");
     finding.action = Finding::Action::ReplacePhotos;
     return finding;
 }
@@ -87,9 +83,9 @@ Finding photosFinding(const QVector<PhotoInfo> &photos, int given)
 {
     const KnownLens facts = knownLensOf(photos);
     return { QStringLiteral("photos"),
-             QStringLiteral("%1 given, %2 readable, focal %3, lens %4")
+             Said::tr("%1 given, %2 readable, focal %3, lens %4")
                  .arg(QString::number(given), QString::number(photos.size()),
-                      focalOrUnknown(facts.focal35mm), lensOrUnknown(facts.lens)),
+                      focalOrUnknown(facts.focal35mm), lensText(facts.lens)),
              photos.size() == given ? Finding::Kind::Fact : Finding::Kind::Trouble };
 }
 
@@ -99,9 +95,9 @@ std::optional<Finding> lensFinding(const KnownLens &photos, double recordFocal35
         return {};
     }
     Finding finding{ QStringLiteral("lens"),
-                     QStringLiteral("neither the photos nor the record name the focal length"),
+                     Said::tr("neither the photos nor the record name the focal length"),
                      Finding::Kind::Trouble };
-    finding.cure = QStringLiteral("give it, as for 35 mm film: --focal 24");
+    finding.cure = Said::tr("give it, as for 35 mm film: --focal 24");
     finding.action = Finding::Action::EnterFocal;
     return finding;
 }
@@ -114,27 +110,26 @@ Finding orderFinding(const QVector<PhotoInfo> &photos)
         const PhotoInfo &photo = photos.at(i);
         if (before.timeMs == 0 || photo.timeMs == 0) {
             return { topic,
-                     QStringLiteral("not all photos have a capture time"),
+                     Said::tr("not all photos have a capture time"),
                      Finding::Kind::Fact,
                      { before.timeMs == 0 ? before.path : photo.path } };
         }
         if (photo.timeMs < before.timeMs) {
-            Finding finding{
-                topic, QStringLiteral("%1 was taken before %2").arg(nameOf(photo), nameOf(before)),
-                Finding::Kind::Trouble
-            };
+            Finding finding{ topic,
+                             Said::tr("%1 was taken before %2").arg(nameOf(photo), nameOf(before)),
+                             Finding::Kind::Trouble };
             finding.files = QStringList{ before.path, photo.path };
-            finding.cure = QStringLiteral("try --order time");
+            finding.cure = Said::tr("try --order time");
             finding.action = Finding::Action::FitPhotos;
             return finding;
         }
     }
-    return { topic, QStringLiteral("capture times agree") };
+    return { topic, Said::tr("capture times agree") };
 }
 
 Finding gapFinding(const QVector<PhotoInfo> &photos)
 {
-    Finding none{ QStringLiteral("gaps"), QStringLiteral("none") };
+    Finding none{ QStringLiteral("gaps"), Said::tr("none") };
     QVector<qint64> pauses;
     for (int i = 1; i < photos.size(); ++i) {
         pauses += photos.at(i).timeMs - photos.at(i - 1).timeMs;
@@ -153,7 +148,7 @@ Finding gapFinding(const QVector<PhotoInfo> &photos)
     }
     const int before = static_cast<int>(longest - pauses.cbegin());
     return { none.topic,
-             QStringLiteral("%1 s after %2 (usually %3 s)")
+             Said::tr("%1 s after %2 (usually %3 s)")
                  .arg(QString::number(*longest / 1000), nameOf(photos.at(before)),
                       QString::number(usual / 1000)),
              Finding::Kind::Trouble,

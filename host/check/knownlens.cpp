@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/check/knownlens.h"
 
+#include "host/model/said.h"
+
 namespace PanoHost
 {
 
@@ -24,9 +26,16 @@ KnownLens knownLensOf(const QVector<PhotoInfo> &photos)
     return facts;
 }
 
+QString lensText(LensModel lens)
+{
+    return lens == LensModel::Standard ? Said::tr("standard")
+        : lens == LensModel::Fisheye   ? Said::tr("fisheye")
+                                       : Said::tr("not known");
+}
+
 QString millimetres(double focal35mm)
 {
-    return QStringLiteral("%1 mm").arg(QString::number(focal35mm, 'g', 4));
+    return Said::tr("%1 mm").arg(QString::number(focal35mm, 'g', 4));
 }
 
 } // namespace PanoHost

@@ -19,6 +19,9 @@ struct KnownLens {
 /** The mean focal length of the photos that name one, and the lens of the last that names one. */
 [[nodiscard]] KnownLens knownLensOf(const QVector<PhotoInfo> &photos);
 
+/** "standard", "fisheye" or "not known". */
+[[nodiscard]] QString lensText(LensModel lens);
+
 /** "24 mm". */
 [[nodiscard]] QString millimetres(double focal35mm);
 

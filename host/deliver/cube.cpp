@@ -11,6 +11,7 @@
 #include "host/deliver/stitchedfile.h"
 #include "host/deliver/vipswriter.h"
 #include "host/model/parallel.h"
+#include "host/model/said.h"
 
 #include <QDir>
 #include <QFile>
@@ -124,9 +125,8 @@ Result<QString> deliverCube(const DeliverJob &job, const JobWatch &watch)
     // A folder in it, so that something is there to be removed when it has moved.
     const CubeJob cube{ job, view, side, part.value().path(QStringLiteral("faces")), watch };
     if (!QDir().mkpath(cube.folder)) {
-        return Failure{ ExitCode::ToolFailed, cube.folder,
-                        QStringLiteral("this folder cannot be made"),
-                        QStringLiteral("is the disk full, or the folder above it read-only?") };
+        return Failure{ ExitCode::ToolFailed, cube.folder, Said::tr("this folder cannot be made"),
+                        Said::tr("is the disk full, or the folder above it read-only?") };
     }
     QStringList leftOut;
     for (const CubeFace &face : kCubeFaces) {
@@ -143,10 +143,9 @@ Result<QString> deliverCube(const DeliverJob &job, const JobWatch &watch)
         }
     }
     if (!leftOut.isEmpty()) {
-        watch.note(
-            JobWatch::Note::Warning,
-            QStringLiteral("no photo reaches these sides of the cube, which are left out: %1")
-                .arg(leftOut.join(QStringLiteral(", "))));
+        watch.note(JobWatch::Note::Warning,
+                   Said::tr("no photo reaches these sides of the cube, which are left out: %1")
+                       .arg(leftOut.join(QStringLiteral(", "))));
     }
     return moveFolder(cube.folder, wanted);
 }

@@ -3,6 +3,7 @@
 #include "host/deliver/finalplace.h"
 
 #include "host/model/safefile.h"
+#include "host/model/said.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -28,8 +29,8 @@ Failure notWritten(const QString &path, const QString &why, const QString &tryTh
 
 Failure cannotWrite(const QString &path, const QString &problem)
 {
-    return notWritten(path, QStringLiteral("cannot be written (%1)").arg(problem),
-                      QStringLiteral("make room there or choose another place"));
+    return notWritten(path, Said::tr("cannot be written (%1)").arg(problem),
+                      Said::tr("make room there or choose another place"));
 }
 
 Failure cannotWrite(const QString &path, int error)
@@ -132,9 +133,8 @@ Result<QString> moveTo(const QString &part, const QString &place, const QString 
 {
     const QFileInfo info(place);
     if (!QFileInfo(info.absolutePath()).isDir()) {
-        return notWritten(wanted,
-                          QStringLiteral("the folder %1 does not exist").arg(info.absolutePath()),
-                          QStringLiteral("create it or choose another place"));
+        return notWritten(wanted, Said::tr("the folder %1 does not exist").arg(info.absolutePath()),
+                          Said::tr("create it or choose another place"));
     }
     int error = sync(part);
     error = error == 0 ? putInPlace(part, place) : error;
@@ -180,10 +180,9 @@ Result<QString> checkFilePlace(const QString &wanted)
 {
     const QFileInfo info(wanted);
     if (info.exists() && !info.isFile()) {
-        return notWritten(wanted,
-                          info.isDir() ? QStringLiteral("is a folder")
-                                       : QStringLiteral("is not a regular file"),
-                          QStringLiteral("remove it or choose another name with -o"));
+        return notWritten(
+            wanted, info.isDir() ? Said::tr("is a folder") : Said::tr("is not a regular file"),
+            Said::tr("remove it or choose another name with -o"));
     }
     return wanted;
 }
@@ -195,8 +194,8 @@ Result<QString> checkFolderPlace(const QString &wanted)
         return wanted;
     }
     if (!info.isDir()) {
-        return notWritten(wanted, QStringLiteral("is a file, and a folder of that name is wanted"),
-                          QStringLiteral("remove it or choose another name with -o"));
+        return notWritten(wanted, Said::tr("is a file, and a folder of that name is wanted"),
+                          Said::tr("remove it or choose another name with -o"));
     }
     const QDir folder(wanted);
     if (folder.exists(folderMark())
@@ -205,8 +204,8 @@ Result<QString> checkFolderPlace(const QString &wanted)
                               | QDir::NoDotAndDotDot))) {
         return wanted;
     }
-    return notWritten(wanted, QStringLiteral("is a folder that panohost has not made"),
-                      QStringLiteral("remove it or choose another name with -o"));
+    return notWritten(wanted, Said::tr("is a folder that panohost has not made"),
+                      Said::tr("remove it or choose another name with -o"));
 }
 
 QString folderMark()

@@ -5,6 +5,7 @@
 #include "host/deliver/vips.h"
 #include "host/deliver/vipswriter.h"
 #include "host/model/safefile.h"
+#include "host/model/said.h"
 #include "host/model/tifffile.h"
 #include "host/stitch/toolrun.h"
 
@@ -73,8 +74,8 @@ bool isCompleteJpeg(const QString &path, const QSize &size)
 Failure cutOff(const QString &folder)
 {
     return orLackOfRoom({ ExitCode::ToolFailed, QStringLiteral("vips"),
-                          QStringLiteral("it left a file that is not complete"),
-                          QStringLiteral("is the disk full? make room and try again") },
+                          Said::tr("it left a file that is not complete"),
+                          Said::tr("is the disk full? make room and try again") },
                         folder);
 }
 
@@ -97,8 +98,8 @@ Result<QString> addSegments(const QString &plain, const QString &path, const QBy
         return path;
     }
     return Failure{ ExitCode::ToolFailed, path,
-                    QStringLiteral("cannot be written (%1)").arg(to.errorString()),
-                    QStringLiteral("make room there and try again") };
+                    Said::tr("cannot be written (%1)").arg(to.errorString()),
+                    Said::tr("make room there and try again") };
 }
 
 /**
@@ -174,12 +175,12 @@ Result<QString> checkFlatSize(const QString &name, const QSize &size)
 {
     if (isJpeg(name) && std::max(size.width(), size.height()) > kLargestJpegSide) {
         return Failure{ ExitCode::InputRefused, name,
-                        QStringLiteral("the panorama has %1 x %2 pixels, and JPEG files at most %3 "
-                                       "to a side")
+                        Said::tr("the panorama has %1 x %2 pixels, and JPEG files at most %3 "
+                                 "to a side")
                             .arg(size.width())
                             .arg(size.height())
                             .arg(kLargestJpegSide),
-                        QStringLiteral("name it .tif, or make it smaller with --size") };
+                        Said::tr("name it .tif, or make it smaller with --size") };
     }
     return name;
 }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/deliver/partfolder.h"
 
+#include "host/model/said.h"
+
 #include <QDir>
 
 #include <utility>
@@ -30,9 +32,8 @@ Result<PartFolder> PartFolder::make(const QString &workFolder, const QString &na
 {
     PartFolder folder(QDir(workFolder).absoluteFilePath(name));
     if (!QDir(folder.m_path).removeRecursively() || !QDir().mkpath(folder.m_path)) {
-        return Failure{ ExitCode::ToolFailed, folder.m_path,
-                        QStringLiteral("this folder cannot be made"),
-                        QStringLiteral("is the disk full, or the folder above it read-only?") };
+        return Failure{ ExitCode::ToolFailed, folder.m_path, Said::tr("this folder cannot be made"),
+                        Said::tr("is the disk full, or the folder above it read-only?") };
     }
     return folder;
 }

@@ -5,6 +5,7 @@
 #include "host/model/parallel.h"
 #include "host/model/photoexif.h"
 #include "host/model/safefile.h"
+#include "host/model/said.h"
 
 #include <QFile>
 
@@ -70,8 +71,8 @@ private:
 
 Failure notWritten(const QString &path, const QString &problem)
 {
-    return { ExitCode::ToolFailed, path, QStringLiteral("cannot be written (%1)").arg(problem),
-             QStringLiteral("make room there and try again") };
+    return { ExitCode::ToolFailed, path, Said::tr("cannot be written (%1)").arg(problem),
+             Said::tr("make room there and try again") };
 }
 
 /** Some rows at a time, whose memory is bounded. */

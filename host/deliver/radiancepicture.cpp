@@ -7,6 +7,7 @@
 #include "host/deliver/partfolder.h"
 #include "host/deliver/radiancefile.h"
 #include "host/deliver/stitchedfile.h"
+#include "host/model/said.h"
 
 #include <algorithm>
 
@@ -18,8 +19,8 @@ Result<QString> deliverRadiance(const DeliverJob &job, const JobWatch &watch)
     const QString wanted = outputName(job.output, QLatin1Char('.') + job.radianceSuffix);
     if (job.picture.depth != StitchedPicture::Depth::Radiance) {
         return Failure{ ExitCode::InputRefused, wanted,
-                        QStringLiteral("this panorama's values are not light"),
-                        QStringLiteral("needs --output hdr") };
+                        Said::tr("this panorama's values are not light"),
+                        Said::tr("needs --output hdr") };
     }
     const Result<VipsFile> opened = openStitched(job.picture);
     if (!opened) {

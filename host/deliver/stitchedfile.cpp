@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/deliver/stitchedfile.h"
 
+#include "host/model/said.h"
+
 namespace PanoHost
 {
 namespace
@@ -32,8 +34,8 @@ Result<VipsFile> openStitched(const StitchedPicture &picture)
         return file;
     }
     return Failure{ ExitCode::ToolFailed, picture.path,
-                    QStringLiteral("is not the panorama that was stitched last"),
-                    QStringLiteral("remove it and try again") };
+                    Said::tr("is not the panorama that was stitched last"),
+                    Said::tr("remove it and try again") };
 }
 
 } // namespace PanoHost

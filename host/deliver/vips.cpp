@@ -5,6 +5,7 @@
 #include "host/deliver/viewerpage.h"
 #include "host/model/displayname.h"
 #include "host/model/safefile.h"
+#include "host/model/said.h"
 #include "host/stitch/toolrun.h"
 
 #include <QDir>
@@ -38,8 +39,8 @@ QString jpegOptions(int quality)
 Failure notWhole(const QString &path)
 {
     return orLackOfRoom({ ExitCode::ToolFailed, QStringLiteral("vips"),
-                          QStringLiteral("it left %1 incomplete").arg(displayName(path)),
-                          QStringLiteral("is the disk full?") },
+                          Said::tr("it left %1 incomplete").arg(displayName(path)),
+                          Said::tr("is the disk full?") },
                         QFileInfo(path).path());
 }
 

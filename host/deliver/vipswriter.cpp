@@ -3,6 +3,7 @@
 #include "host/deliver/vipswriter.h"
 
 #include "host/model/safefile.h"
+#include "host/model/said.h"
 
 #include <array>
 
@@ -73,8 +74,8 @@ Result<QString> VipsWriter::finish(const QByteArray &xmp, const QByteArray &iccP
         return m_file.fileName();
     }
     return Failure{ ExitCode::ToolFailed, m_file.fileName(),
-                    QStringLiteral("cannot be written (%1)").arg(m_file.errorString()),
-                    QStringLiteral("make room there and try again") };
+                    Said::tr("cannot be written (%1)").arg(m_file.errorString()),
+                    Said::tr("make room there and try again") };
 }
 
 } // namespace PanoHost

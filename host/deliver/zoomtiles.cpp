@@ -9,6 +9,7 @@
 #include "host/deliver/viewerpage.h"
 #include "host/deliver/vips.h"
 #include "host/model/safefile.h"
+#include "host/model/said.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -211,8 +212,8 @@ Result<QString> iiifFolder(const DeliverJob &job, const JobWatch &watch)
     }
     if (address.isEmpty()) {
         return Failure{ ExitCode::Usage, QStringLiteral("iiif"),
-                        QStringLiteral("the address where the folder will be reached is not known"),
-                        QStringLiteral("give it, such as https://example.org/panoramas") };
+                        Said::tr("the address where the folder will be reached is not known"),
+                        Said::tr("give it, such as https://example.org/panoramas") };
     }
     const QString wanted = outputName(job.output, QStringLiteral("_iiif"));
     if (Result<QString> isFree = checkFolderPlace(wanted); !isFree) {

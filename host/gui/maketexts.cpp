@@ -62,32 +62,47 @@ QString stepText(const QString &text)
 
 QString inWindow(const QString &text)
 {
-    // Where the field or button is that does it here; nothing: it is said already.
-    const std::pair<const char *, QString> options[] = {
-        { " with -o", QString() },
-        { "or choose a smaller --size", MakeTexts::tr("or choose a smaller size") },
-        { "choose --jobs 1 or a smaller --size", MakeTexts::tr("choose a smaller size") },
-        { "choose another --size", MakeTexts::tr("choose another size") },
-        { "make it smaller with --size", MakeTexts::tr("choose a smaller size") },
+    // Where the field or button is that does it here; nothing: it is said already. Translations
+    // name no options.
+    constexpr std::pair<const char *, const char *> kOptions[] = {
+        { " with -o", "" },
+        { "or choose a smaller --size", "or choose a smaller size" },
+        { "choose --jobs 1 or a smaller --size", "choose a smaller size" },
+        { "choose another --size", "choose another size" },
+        { "make it smaller with --size", "choose a smaller size" },
         { "RAW files, or TIFFs without a curve and --linear, make it exact",
-          MakeTexts::tr("RAW files make it exact") },
-        { ": the same command goes on from there", QString() },
-        { "go on with the same command", MakeTexts::tr("press Make panorama again") },
-        { "give it with --focal", MakeTexts::tr("go back and enter it") },
-        { "the same command goes on from here", MakeTexts::tr("Make panorama goes on from here") },
+          "RAW files make it exact" },
+        { ": the same command goes on from there", "" },
+        { "go on with the same command", "press Make panorama again" },
+        { "give it with --focal", "go back and enter it" },
+        { "import them with --mode ", "import them again with the order " },
+        { "the same command goes on from here", "Make panorama goes on from here" },
     };
     QString answer = text;
-    for (const auto &[words, instead] : options) {
-        answer.replace(QLatin1String(words), instead);
+    for (const auto &[words, instead] : kOptions) {
+        answer.replace(QLatin1String(words), QLatin1String(instead));
     }
     return answer;
 }
 
-QString needsText(const StitchNeeds &needs)
+QString needsText(const StitchNeeds &needs, bool inInches)
 {
+    // Prints that are looked at closely have so many.
+    constexpr double kPixelsPerInch = 300.0;
+    constexpr double kInchCentimetres = 2.54;
     const QLocale locale;
-    return MakeTexts::tr("%1 x %2 pixels at most; takes up to %3 of the disk and %4 of memory.")
-        .arg(locale.toString(needs.picture.width()), locale.toString(needs.picture.height()),
+    const auto printed = [&](int pixels) {
+        const double inches = pixels / kPixelsPerInch;
+        return locale.toString(qRound(inInches ? inches : inches * kInchCentimetres));
+    };
+    const QSize picture = needs.picture;
+    const QString print
+        = (inInches ? MakeTexts::tr("%1 x %2 in at %3 dpi") : MakeTexts::tr("%1 x %2 cm at %3 dpi"))
+              .arg(printed(picture.width()), printed(picture.height()),
+                   locale.toString(kPixelsPerInch));
+    return MakeTexts::tr(
+               "%1 x %2 pixels at most (%3); takes up to %4 of the disk and %5 of memory.")
+        .arg(locale.toString(picture.width()), locale.toString(picture.height()), print,
              bytesText(needs.diskBytes), bytesText(needs.memoryBytes));
 }
 

@@ -31,6 +31,18 @@ QString languageKey()
 {
     return QStringLiteral("language");
 }
+QString unitsKey()
+{
+    return QStringLiteral("units");
+}
+QString centimetres()
+{
+    return QStringLiteral("centimetres");
+}
+QString inches()
+{
+    return QStringLiteral("inches");
+}
 QString toolsKey()
 {
     return QStringLiteral("toolFolder");
@@ -50,6 +62,7 @@ Preferences::Preferences(PanoHostApplication &app, QWidget *parent)
     : QDialog(parent)
     , m_app(app)
     , m_language(new QComboBox)
+    , m_units(new QComboBox)
     , m_toolFolder(new QLineEdit(app.ReadSetting(group(), toolsKey(), QString()).toString()))
     , m_tools(new QLabel)
     , m_systemDialogs(new QCheckBox(tr("Use the &desktop's file dialogs")))
@@ -57,6 +70,12 @@ Preferences::Preferences(PanoHostApplication &app, QWidget *parent)
 {
     setWindowTitle(tr("Preferences"));
     m_language->setObjectName(QStringLiteral("m_language"));
+    m_units->setObjectName(QStringLiteral("m_units"));
+    m_units->addItem(tr("As the desktop"), QString());
+    m_units->addItem(tr("Centimetres"), centimetres());
+    m_units->addItem(tr("Inches"), inches());
+    m_units->setCurrentIndex(
+        std::max(0, m_units->findData(app.ReadSetting(group(), unitsKey(), QString()))));
     m_toolFolder->setObjectName(QStringLiteral("m_toolFolder"));
     m_toolFolder->setPlaceholderText(tr("where the system has them"));
     m_tools->setObjectName(QStringLiteral("m_tools"));
@@ -73,13 +92,14 @@ Preferences::Preferences(PanoHostApplication &app, QWidget *parent)
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     auto *form = new QFormLayout(this);
     form->addRow(tr("&Language:"), m_language);
+    form->addRow(tr("&Units of prints:"), m_units);
     auto *label = new QLabel(tr("&Folder of the tools:"));
     label->setBuddy(m_toolFolder);
     form->addRow(label, folder);
     form->addRow(tr("Tools:"), m_tools);
     form->addRow(m_systemDialogs);
     form->addRow(m_thumbnails);
-    form->addRow(new QLabel(tr("Language and thumbnails change with the next start.")));
+    form->addRow(new QLabel(tr("The language changes with the next start.")));
     form->addRow(buttons);
     connect(choose, &QPushButton::clicked, this, &Preferences::chooseFolder);
     connect(m_toolFolder, &QLineEdit::textChanged, this, &Preferences::lookForTools);
@@ -145,11 +165,21 @@ void Preferences::accept()
         return;
     }
     m_app.WriteSetting(group(), languageKey(), m_language->currentData());
+    m_app.WriteSetting(group(), unitsKey(), m_units->currentData());
     m_app.WriteSetting(group(), toolsKey(), folder);
     m_app.WriteSetting(group(), dialogsKey(), m_systemDialogs->isChecked());
     m_app.WriteSetting(group(), thumbnailsKey(), m_thumbnails->isChecked());
+    m_app.shareThumbnails();
     apply(m_app, true);
     QDialog::accept();
+}
+
+bool Preferences::usesInches(PanoHostApplication &app)
+{
+    const QString units = app.ReadSetting(group(), unitsKey(), QString()).toString();
+    return units == inches()
+        || (units != centimetres()
+            && QLocale::system().measurementSystem() != QLocale::MetricSystem);
 }
 
 void Preferences::apply(PanoHostApplication &app, bool isLanguageSaid)

@@ -27,6 +27,9 @@ public:
      */
     static void apply(PanoHostApplication &app, bool isLanguageSaid);
 
+    /** Whether prints are measured in inches: as was chosen, else as the desktop has it. */
+    [[nodiscard]] static bool usesInches(PanoHostApplication &app);
+
     void accept() override;
 
 private:
@@ -36,6 +39,7 @@ private:
 
     PanoHostApplication &m_app;
     QComboBox *m_language;
+    QComboBox *m_units; ///< of prints
     QLineEdit *m_toolFolder;
     QLabel *m_tools; ///< what was found
     QCheckBox *m_systemDialogs;

@@ -5,6 +5,7 @@
 #include "host/model/assumedgrid.h"
 #include "host/model/commanderror.h"
 #include "host/model/displayname.h"
+#include "host/model/said.h"
 
 #include <algorithm>
 #include <array>
@@ -25,7 +26,7 @@ QString photosText(const GridChoice &grid, int photoCount)
     const QString photos = counted(photoCount, "photo");
     return grid.ignoredCount == 0
         ? photos
-        : QStringLiteral("%1 less %2 ignored").arg(photos, QString::number(grid.ignoredCount));
+        : Said::tr("%1 less %2 ignored").arg(photos, QString::number(grid.ignoredCount));
 }
 
 } // namespace
@@ -43,7 +44,7 @@ Finding gridFinding(const GridChoice &grid, int photoCount)
 {
     const int used = std::max(photoCount - grid.ignoredCount, 0);
     return { QStringLiteral("grid"),
-             QStringLiteral("%1, %2, bracket %3, %4 ignored")
+             Said::tr("%1, %2, bracket %3, %4 ignored")
                  .arg(counted(grid.rows, "row"),
                       counted(used / grid.bracketCount / grid.rows, "column"),
                       QString::number(grid.bracketCount), QString::number(grid.ignoredCount)) };
@@ -51,39 +52,35 @@ Finding gridFinding(const GridChoice &grid, int photoCount)
 
 void requireFullGrid(const GridChoice &grid, int photoCount)
 {
-    const QString what = QStringLiteral("photos");
+    const QString what = Said::tr("photos");
     const QString photos = photosText(grid, photoCount);
     const int used = photoCount - grid.ignoredCount;
     if (used < 1) {
         throw inputRefused(
-            what,
-            QStringLiteral("--ignore %1 leaves none of %2").arg(grid.ignoredCount).arg(photoCount),
-            QStringLiteral("ignore fewer, or name all photos"));
+            what, Said::tr("--ignore %1 leaves none of %2").arg(grid.ignoredCount).arg(photoCount),
+            Said::tr("ignore fewer, or name all photos"));
     }
     if (used < grid.bracketCount) {
         throw inputRefused(
-            what, QStringLiteral("--bracket %1 is more than %2").arg(grid.bracketCount).arg(photos),
-            QStringLiteral("each position needs all its exposures"));
+            what, Said::tr("--bracket %1 is more than %2").arg(grid.bracketCount).arg(photos),
+            Said::tr("each position needs all its exposures"));
     }
     if (used % grid.bracketCount != 0) {
         throw inputRefused(
             what,
-            QStringLiteral("%1 are not a multiple of bracket %2")
-                .arg(photos)
-                .arg(grid.bracketCount),
-            QStringLiteral("each position needs all its exposures; --ignore N leaves out the first "
-                           "N photos"));
+            Said::tr("%1 are not a multiple of bracket %2").arg(photos).arg(grid.bracketCount),
+            Said::tr("each position needs all its exposures; --ignore N leaves out the first "
+                     "N photos"));
     }
     const int positions = used / grid.bracketCount;
     if (positions % grid.rows != 0) {
         const QString divided = grid.bracketCount == 1
             ? photos
-            : QStringLiteral("%1 (%2 in brackets of %3)")
+            : Said::tr("%1 (%2 in brackets of %3)")
                   .arg(counted(positions, "position"), photos, QString::number(grid.bracketCount));
         throw inputRefused(
-            what,
-            QStringLiteral("%1 do not divide %2 evenly").arg(counted(grid.rows, "row"), divided),
-            QStringLiteral("are photos missing? --ignore N leaves out the first N photos"));
+            what, Said::tr("%1 do not divide %2 evenly").arg(counted(grid.rows, "row"), divided),
+            Said::tr("are photos missing? --ignore N leaves out the first N photos"));
     }
 }
 

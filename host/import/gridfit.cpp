@@ -8,6 +8,7 @@
 #include "host/model/commanderror.h"
 #include "host/model/displayname.h"
 #include "host/model/panorama.h"
+#include "host/model/said.h"
 
 namespace PanoHost
 {
@@ -29,7 +30,7 @@ QString cellNames(const GridChoice &grid, int columns, const QVector<int> &shots
     }
     const int more = names.size() - kMostNamed;
     return more < 2 ? names.join(QStringLiteral(", "))
-                    : QStringLiteral("%1 and %2 more")
+                    : Said::tr("%1 and %2 more")
                           .arg(QStringList(names.mid(0, kMostNamed)).join(QStringLiteral(", ")))
                           .arg(more);
 }
@@ -39,7 +40,7 @@ QString longestPause(const GridChoice &grid, int columns, const QVector<PhotoInf
 {
     const Finding gap = gapFinding(photos);
     if (gap.files.isEmpty()) {
-        return QStringLiteral("no pause tells where");
+        return Said::tr("no pause tells where");
     }
     int before = 0;
     while (photos.at(before).path != gap.files.first()) {
@@ -47,8 +48,9 @@ QString longestPause(const GridChoice &grid, int columns, const QVector<PhotoInf
     }
     const int position = before / grid.bracketCount;
     const bool byRows = sweepsRows(grid.mode);
-    return QStringLiteral("the longest pause: %1, in %2 %3 as they were taken")
-        .arg(gap.text, byRows ? QStringLiteral("row") : QStringLiteral("column"))
+    return (byRows ? Said::tr("the longest pause: %1, in row %2 as they were taken")
+                   : Said::tr("the longest pause: %1, in column %2 as they were taken"))
+        .arg(gap.text)
         .arg(position / (byRows ? columns : grid.rows) + 1);
 }
 
@@ -59,7 +61,8 @@ Failure refusal(const GridChoice &grid, const QVector<PhotoInfo> &photos, const 
         requireFullGrid(grid, photos.size());
     } catch (const CommandError &error) {
         Failure failure = error.failure();
-        failure.tryThis += QStringLiteral("; the pictures do not tell which are missing: ") + where;
+        failure.tryThis += QStringLiteral("; ")
+            + Said::tr("the pictures do not tell which are missing: %1").arg(where);
         return failure;
     }
     return {};
@@ -89,9 +92,8 @@ Result<PhotoFit> fitGrid(const GridChoice &grid, const QVector<PhotoInfo> &photo
     PhotoFit fit = fitOf(matched->match, used, turns);
     for (Finding &finding : fit.findings) {
         if (finding.topic == QLatin1String("missing")) {
-            finding.text
-                = QStringLiteral("no photo for %1 (rows from the top, columns from the left)")
-                      .arg(cellNames(grid, matched->columns, finding.shots));
+            finding.text = Said::tr("no photo for %1 (rows from the top, columns from the left)")
+                               .arg(cellNames(grid, matched->columns, finding.shots));
         }
     }
     ShotFit all;

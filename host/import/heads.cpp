@@ -4,6 +4,7 @@
 
 #include "host/model/commanderror.h"
 #include "host/model/displayname.h"
+#include "host/model/said.h"
 #include "host/model/wordsuggestion.h"
 
 #include <QFileInfo>
@@ -16,23 +17,40 @@ namespace PanoHost
 namespace
 {
 
+/** What readers say, where it is known beforehand. */
+QString inOurLanguage(const QString &said)
+{
+    [[maybe_unused]] static const char *const kTranslated[] = {
+        QT_TRANSLATE_NOOP("PanoHost::Said", "no such file"),
+        QT_TRANSLATE_NOOP("PanoHost::Said", "not a regular file"),
+        QT_TRANSLATE_NOOP("PanoHost::Said", "no <shoot> pictures"),
+        QT_TRANSLATE_NOOP("PanoHost::Said", "is it an old-style Papywizard file (image/coords)?"),
+        QT_TRANSLATE_NOOP("PanoHost::Said", "its <shoot> holds no <pict>: no shot was recorded"),
+        QT_TRANSLATE_NOOP("PanoHost::Said", "choose the record of a finished shoot"),
+        QT_TRANSLATE_NOOP("PanoHost::Said", "no op_shoot command: no shot was recorded"),
+        QT_TRANSLATE_NOOP("PanoHost::Said", "is it the script that the head ran?"),
+        QT_TRANSLATE_NOOP("PanoHost::Said", "correct this line, or choose another script"),
+    };
+    return Said::tr(said.toUtf8().constData());
+}
+
 /** "RECORD: line N: reason; advice". */
 CommandError unusable(const QString &path, const PanoHead::ReadError &error)
 {
+    const QString reason = inOurLanguage(error.reason);
     const QString why = error.line > 0
-        ? QStringLiteral("line %1: %2").arg(QString::number(error.line), error.reason)
-        : error.reason;
+        ? Said::tr("line %1: %2").arg(QString::number(error.line), reason)
+        : reason;
     return inputRefused(displayName(path), why,
-                        error.advice.isEmpty()
-                            ? QStringLiteral("is it the record that the head wrote?")
-                            : error.advice);
+                        error.advice.isEmpty() ? Said::tr("is it the record that the head wrote?")
+                                               : inOurLanguage(error.advice));
 }
 
 QByteArray bytesOf(const QString &path)
 {
     if (!QFileInfo::exists(path)) {
-        throw inputRefused(displayName(path), QStringLiteral("no such record"),
-                           QStringLiteral("check the name"));
+        throw inputRefused(displayName(path), Said::tr("no such record"),
+                           Said::tr("check the name"));
     }
     PanoHead::ReadError error;
     const std::optional<QByteArray> bytes = PanoHead::readRecordFile(path, &error);
@@ -75,9 +93,8 @@ const HeadFacts &headNamed(const QString &name)
 {
     const HeadFacts *head = PanoHead::headFactsOf(name);
     if (head == nullptr) {
-        throw usageError(
-            QStringLiteral("unknown head '%1'%2").arg(name, suggestion(name, headNames())),
-            QStringLiteral("heads: %1").arg(headNames().join(QLatin1String(", "))));
+        throw usageError(Said::tr("unknown head '%1'%2").arg(name, suggestion(name, headNames())),
+                         Said::tr("heads: %1").arg(headNames().join(QLatin1String(", "))));
     }
     return *head;
 }
@@ -110,8 +127,8 @@ Result<QByteArray> recordExcerpt(const HeadFacts &head, const QString &path,
         };
         if (!std::equal(written.begin(), written.end(), shots.begin(), shots.end(), isRight)) {
             return Failure{ ExitCode::InputRefused, displayName(path),
-                            QStringLiteral("no record of some of its shots can be made"),
-                            QStringLiteral("take the shots by hand") };
+                            Said::tr("no record of some of its shots can be made"),
+                            Said::tr("take the shots by hand") };
         }
         return *excerpt;
     } catch (const CommandError &error) {

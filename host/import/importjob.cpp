@@ -6,6 +6,7 @@
 #include "host/import/pagetime.h"
 #include "host/model/commanderror.h"
 #include "host/model/displayname.h"
+#include "host/model/said.h"
 #include "hostlink/xiabout.h"
 
 #include <QFileInfo>
@@ -87,13 +88,13 @@ const ImportPlugin &ImportJob::openPlugin()
 {
     m_app.SetLastPath(m_dialogFolder.path());
     m_library = valueOrThrow(PluginLibrary::open(m_request.pluginPath));
-    m_watch.note(JobWatch::Note::Detail, QStringLiteral("using %1").arg(m_library->path()));
+    m_watch.note(JobWatch::Note::Detail, Said::tr("using %1").arg(m_library->path()));
     const QString head = m_request.head->name();
     const ImportPlugin *plugin = m_library->find(head);
     if (plugin == nullptr || plugin->page() == nullptr) {
         throw CommandError({ ExitCode::NoPlugin, m_library->path(),
-                             QStringLiteral("has no import plug-in for %1").arg(head),
-                             QStringLiteral("set --plugin to another library") });
+                             Said::tr("has no import plug-in for %1").arg(head),
+                             Said::tr("set --plugin to another library") });
     }
     m_source = plugin->source(m_request.record);
     return *plugin;
@@ -195,10 +196,9 @@ Result<Panorama> importFilled(PanoHostApplication &app, const FilledPage &filled
         return filled.page->validatePage();
     }();
     if (!isAccepted || app.deliveryCount() == before) {
-        return Failure{ ExitCode::InputRefused,
-                        QStringLiteral("photos"),
-                        QStringLiteral("the page refuses them"),
-                        {} };
+        return Failure{
+            ExitCode::InputRefused, Said::tr("photos"), Said::tr("the page refuses them"), {}
+        };
     }
     StructuredPanoramaProperties description = filled.deliveries->take(filled.page, app.delivery());
     JoinWishes wishes = filled.wishes;

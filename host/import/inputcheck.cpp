@@ -4,6 +4,7 @@
 
 #include "host/model/commanderror.h"
 #include "host/model/displayname.h"
+#include "host/model/said.h"
 
 #include <QFileInfo>
 #include <QSaveFile>
@@ -32,29 +33,29 @@ void requireWritable(const QString &path, const QStringList &inputs)
     const QFileInfo folder(file.absolutePath());
     if (!folder.exists()) {
         throw inputRefused(displayName(path),
-                           QStringLiteral("the folder %1 does not exist").arg(folder.filePath()),
-                           QStringLiteral("make it first"));
+                           Said::tr("the folder %1 does not exist").arg(folder.filePath()),
+                           Said::tr("make it first"));
     }
     if (file.isDir()) {
-        throw inputRefused(displayName(path), QStringLiteral("is a folder"),
-                           QStringLiteral("name a file in it"));
+        throw inputRefused(displayName(path), Said::tr("is a folder"),
+                           Said::tr("name a file in it"));
     }
     if (file.exists() && !file.isFile()) {
-        throw inputRefused(displayName(path), QStringLiteral("is not a regular file"),
-                           QStringLiteral("name a file of your own"));
+        throw inputRefused(displayName(path), Said::tr("is not a regular file"),
+                           Said::tr("name a file of your own"));
     }
     // Only trying tells: permissions do not bind everybody and are not all there is.
     QSaveFile probe(path);
     if (!probe.open(QIODevice::WriteOnly)) {
         throw inputRefused(displayName(path),
-                           QStringLiteral("cannot be written there: %1").arg(probe.errorString()),
-                           QStringLiteral("choose a folder of your own"));
+                           Said::tr("cannot be written there: %1").arg(probe.errorString()),
+                           Said::tr("choose a folder of your own"));
     }
     probe.cancelWriting();
     for (const QString &input : inputs) {
         if (isSameFile(file, QFileInfo(input))) {
-            throw inputRefused(displayName(path), QStringLiteral("is one of the input files"),
-                               QStringLiteral("choose another name for the result"));
+            throw inputRefused(displayName(path), Said::tr("is one of the input files"),
+                               Said::tr("choose another name for the result"));
         }
     }
 }
@@ -66,30 +67,28 @@ void requirePhotoFiles(const QStringList &photos)
     for (const QString &photo : photos) {
         const QFileInfo file(photo);
         if (seen.contains(photo)) {
-            throw inputRefused(displayName(photo), QStringLiteral("given twice"),
-                               QStringLiteral("name each photo once"));
+            throw inputRefused(displayName(photo), Said::tr("given twice"),
+                               Said::tr("name each photo once"));
         }
         seen += photo;
         if (!file.exists()) {
             // What could not be decoded became replacement characters.
             const bool isText = !photo.contains(QChar::ReplacementCharacter);
-            throw inputRefused(displayName(photo), QStringLiteral("no such photo"),
-                               isText
-                                   ? QStringLiteral("check the name")
-                                   : QStringLiteral("rename the file: its name is not in UTF-8"));
+            throw inputRefused(displayName(photo), Said::tr("no such photo"),
+                               isText ? Said::tr("check the name")
+                                      : Said::tr("rename the file: its name is not in UTF-8"));
         }
         if (file.isDir()) {
-            throw inputRefused(displayName(photo), QStringLiteral("is a folder"),
-                               QStringLiteral("name the photos in it, e.g. %1/*.jpg").arg(photo));
+            throw inputRefused(displayName(photo), Said::tr("is a folder"),
+                               Said::tr("name the photos in it, e.g. %1/*.jpg").arg(photo));
         }
         if (!file.isFile()) {
-            throw inputRefused(displayName(photo), QStringLiteral("is not a regular file"),
-                               QStringLiteral("name photos only"));
+            throw inputRefused(displayName(photo), Said::tr("is not a regular file"),
+                               Said::tr("name photos only"));
         }
         if (!file.isReadable()) {
-            throw inputRefused(displayName(photo),
-                               QStringLiteral("cannot be read: permission denied"),
-                               QStringLiteral("copy it to a folder of your own"));
+            throw inputRefused(displayName(photo), Said::tr("cannot be read: permission denied"),
+                               Said::tr("copy it to a folder of your own"));
         }
     }
 }
@@ -98,20 +97,20 @@ void requireMatchingCounts(const QString &recordName, const RecordSummary &recor
 {
     if (photoCount != record.shotCount) {
         const QString hint = photoCount < record.shotCount
-            ? QStringLiteral("are photos missing, or did the shoot stop early?")
-            : QStringLiteral("are test shots among the photos?");
+            ? Said::tr("are photos missing, or did the shoot stop early?")
+            : Said::tr("are test shots among the photos?");
         throw inputRefused(
             recordName,
-            QStringLiteral("records %1, %2 given")
+            Said::tr("records %1, %2 given")
                 .arg(counted(record.shotCount, "shot"), counted(photoCount, "photo")),
             hint);
     }
     if (record.bracketCount > 1 && photoCount % record.bracketCount != 0) {
         throw inputRefused(
             recordName,
-            QStringLiteral("%1 are not a multiple of bracket %2")
+            Said::tr("%1 are not a multiple of bracket %2")
                 .arg(counted(photoCount, "photo"), QString::number(record.bracketCount)),
-            QStringLiteral("each position needs all its exposures"));
+            Said::tr("each position needs all its exposures"));
     }
 }
 
@@ -125,8 +124,8 @@ QStringList orderedByTime(PanoHostApplication &app, const QStringList &photos,
         const PhotoInfo info = valueOrThrow(app.photoInfo(photo));
         if (info.timeMs == 0) {
             throw inputRefused(QFileInfo(photo).fileName(),
-                               QStringLiteral("has no capture time to order by"),
-                               QStringLiteral("use --order name or --order given"));
+                               Said::tr("has no capture time to order by"),
+                               Said::tr("use --order name or --order given"));
         }
         timed.emplace_back(info.timeMs, photo);
         watch.report(static_cast<int>(timed.size()), photos.size(),

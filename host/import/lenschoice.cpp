@@ -4,6 +4,7 @@
 
 #include "host/model/commanderror.h"
 #include "host/model/panorama.h"
+#include "host/model/said.h"
 
 #include <algorithm>
 #include <cmath>
@@ -38,11 +39,11 @@ QString searchedPlaces(const ImportRequest &request)
 {
     const bool photosAlone = request.head != nullptr && !request.head->hasLens;
     if (request.focalSource == ValueSource::Record) {
-        return QStringLiteral("the record");
+        return Said::tr("the record");
     }
     return request.focalSource == ValueSource::Photos || photosAlone
-        ? QStringLiteral("the photos' EXIF data")
-        : QStringLiteral("the photos' EXIF data or the record");
+        ? Said::tr("the photos' EXIF data")
+        : Said::tr("the photos' EXIF data or the record");
 }
 
 LensModel chooseLensModel(const ImportRequest &request, const KnownLens &photos,
@@ -70,9 +71,9 @@ LensChoice chooseLens(const ImportRequest &request, const KnownLens &photos,
     const KnownLens used = lensInUse(request, photos, record);
     const bool isGiven = request.focalSource == ValueSource::Given;
     if (!isGiven && !(used.focal35mm > 0.0)) {
-        throw inputRefused(QStringLiteral("focal length"),
-                           QStringLiteral("not known from %1").arg(searchedPlaces(request)),
-                           QStringLiteral("give it with --focal MM (35 mm equivalent)"));
+        throw inputRefused(Said::tr("focal length"),
+                           Said::tr("not known from %1").arg(searchedPlaces(request)),
+                           Said::tr("give it with --focal MM (35 mm equivalent)"));
     }
     LensChoice choice{ used.focal35mm, used.lens, {} };
     if (request.focalSource != ValueSource::Default) {
@@ -82,20 +83,20 @@ LensChoice chooseLens(const ImportRequest &request, const KnownLens &photos,
     if (both
         && std::abs(photos.focal35mm - record.focal35mm) > kNotableDifference * photos.focal35mm) {
         choice.warnings
-            += QStringLiteral("focal length %1 (EXIF) against %2 (record); using EXIF; choose "
-                              "with --focal")
+            += Said::tr("focal length %1 (EXIF) against %2 (record); using EXIF; choose "
+                        "with --focal")
                    .arg(millimetres(photos.focal35mm), millimetres(record.focal35mm));
     }
     if (photos.focal35mm > 0.0 && photos.withoutFocal > 0) {
-        choice.warnings += QStringLiteral("%1 of the photos name no focal length; using that "
-                                          "of the others; choose with --focal")
+        choice.warnings += Said::tr("%1 of the photos name no focal length; using that "
+                                    "of the others; choose with --focal")
                                .arg(photos.withoutFocal);
     }
     if (request.lensSource == ValueSource::Default && photos.lens != LensModel::NotChosen
         && record.lens != LensModel::NotChosen && photos.lens != record.lens) {
-        choice.warnings += QStringLiteral("%1 lens (EXIF) against %2 (record); using EXIF; choose "
-                                          "with --lens")
-                               .arg(lensName(photos.lens), lensName(record.lens));
+        choice.warnings += Said::tr("%1 lens (EXIF) against %2 (record); using EXIF; choose "
+                                    "with --lens")
+                               .arg(lensText(photos.lens), lensText(record.lens));
     }
     return choice;
 }
@@ -114,8 +115,8 @@ QStringList focalSpreadWarnings(const ImportRequest &request, const QVector<Phot
         || longest - shortest <= kNotableDifference * shortest) {
         return {};
     }
-    return { QStringLiteral("the photos name focal lengths from %1 to %2; using their median; "
-                            "choose with --focal")
+    return { Said::tr("the photos name focal lengths from %1 to %2; using their median; "
+                      "choose with --focal")
                  .arg(millimetres(shortest), millimetres(longest)) };
 }
 

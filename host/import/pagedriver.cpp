@@ -5,6 +5,7 @@
 #include "host/import/pagetime.h"
 #include "host/model/commanderror.h"
 #include "host/model/delivery.h"
+#include "host/model/said.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -40,15 +41,15 @@ constexpr int kStopWatchMs = 100;
 
 CommandError missingOnPage(const QString &name)
 {
-    return CommandError({ ExitCode::NoPlugin, QStringLiteral("plug-in page"),
-                          QStringLiteral("has no '%1'").arg(name),
-                          QStringLiteral("is this library of another version? set --plugin") });
+    return CommandError({ ExitCode::NoPlugin, Said::tr("plug-in page"),
+                          Said::tr("has no '%1'").arg(name),
+                          Said::tr("is this library of another version? set --plugin") });
 }
 
 template <typename SpinBox, typename Number> void setWithin(SpinBox *box, Number value)
 {
     if (value < box->minimum() || value > box->maximum()) {
-        throw usageError(QStringLiteral("%1 is not between %2 and %3")
+        throw usageError(Said::tr("%1 is not between %2 and %3")
                              .arg(QString::number(value), QString::number(box->minimum()),
                                   QString::number(box->maximum())));
     }
@@ -121,9 +122,9 @@ void PageDriver::offerPhotos(const QStringList &names)
     settings.useSystemFileDialog = usesSystemDialog;
     throwOnMessage();
     if (!m_dialogs.fileDialogAnswered()) {
-        throw CommandError({ ExitCode::NoPlugin, QStringLiteral("plug-in page"),
-                             QStringLiteral("its photo button opens no file dialog"),
-                             QStringLiteral("set --plugin to another library") });
+        throw CommandError({ ExitCode::NoPlugin, Said::tr("plug-in page"),
+                             Said::tr("its photo button opens no file dialog"),
+                             Said::tr("set --plugin to another library") });
     }
 }
 
@@ -136,11 +137,11 @@ void PageDriver::requireReadable(const QStringList &names) const
     const UnreadablePhoto &first = unreadable.first();
     const QString others = unreadable.size() == 1
         ? QString()
-        : QStringLiteral(" (and %1 more of %2 photos)")
+        : Said::tr(" (and %1 more of %2 photos)")
               .arg(QString::number(unreadable.size() - 1), QString::number(names.size()));
     throw inputRefused(QFileInfo(first.path).fileName(),
-                       QStringLiteral("cannot read (%1)%2").arg(first.why, others),
-                       QStringLiteral("is it a photo? try 'panohost check'"));
+                       Said::tr("cannot read (%1)%2").arg(first.why, others),
+                       Said::tr("is it a photo? try 'panohost check'"));
 }
 
 void PageDriver::requireComplete()
@@ -159,9 +160,9 @@ void PageDriver::requireComplete()
     const QString reason = warning == nullptr
         ? QString()
         : QTextDocumentFragment::fromHtml(warning->text()).toPlainText().trimmed();
-    throw inputRefused(QStringLiteral("photos"),
-                       reason.isEmpty() ? QStringLiteral("the page does not accept them") : reason,
-                       QStringLiteral("try 'panohost check'"));
+    throw inputRefused(Said::tr("photos"),
+                       reason.isEmpty() ? Said::tr("the page does not accept them") : reason,
+                       Said::tr("try 'panohost check'"));
 }
 
 void PageDriver::click(const QString &button)
@@ -227,8 +228,8 @@ StructuredPanoramaProperties PageDriver::handOver()
     const bool accepted = m_page->validatePage();
     throwOnMessage();
     if (!accepted || m_app.deliveryCount() == before) {
-        throw inputRefused(QStringLiteral("photos"), QStringLiteral("the page refuses them"),
-                           QStringLiteral("try 'panohost check'"));
+        throw inputRefused(Said::tr("photos"), Said::tr("the page refuses them"),
+                           Said::tr("try 'panohost check'"));
     }
     DeliveryLog log;
     return log.take(m_page, m_app.delivery());
@@ -238,8 +239,7 @@ void PageDriver::throwOnMessage()
 {
     const QStringList messages = m_dialogs.takeMessages();
     if (!messages.isEmpty()) {
-        throw inputRefused(QStringLiteral("refused by the plug-in"),
-                           messages.join(QLatin1Char(' ')));
+        throw inputRefused(Said::tr("refused by the plug-in"), messages.join(QLatin1Char(' ')));
     }
 }
 

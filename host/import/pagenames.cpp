@@ -3,6 +3,7 @@
 #include "host/import/pagenames.h"
 
 #include "host/model/commanderror.h"
+#include "host/model/said.h"
 
 namespace PanoHost
 {
@@ -22,8 +23,8 @@ QStringList PageNames::linksTo(const QStringList &photos)
     QString error;
     QStringList links = m_aliases.create(photos, &error);
     if (links.isEmpty()) {
-        throw CommandError({ ExitCode::ToolFailed, QStringLiteral("temporary links to the photos"),
-                             error, QStringLiteral("is the temporary folder full? set TMPDIR") });
+        throw CommandError({ ExitCode::ToolFailed, Said::tr("temporary links to the photos"), error,
+                             Said::tr("is the temporary folder full? set TMPDIR") });
     }
     const QHash<QString, QString> &truePaths = m_aliases.truePaths();
     for (auto link = truePaths.begin(); link != truePaths.end(); ++link) {

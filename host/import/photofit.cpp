@@ -5,6 +5,7 @@
 #include "host/check/photonames.h"
 #include "host/check/shotmatch.h"
 #include "host/model/displayname.h"
+#include "host/model/said.h"
 
 #include <QCryptographicHash>
 #include <QFile>
@@ -31,7 +32,7 @@ QString listed(const QStringList &words)
     if (words.size() <= kMostNamed + 1) {
         return words.join(QStringLiteral(", "));
     }
-    return QStringLiteral("%1 and %2 more")
+    return Said::tr("%1 and %2 more")
         .arg(QStringList(words.mid(0, kMostNamed)).join(QStringLiteral(", ")))
         .arg(words.size() - kMostNamed);
 }
@@ -111,25 +112,25 @@ std::optional<Failure> Fitter::doubt(const RecordedShots &record) const
     }
     QString readings;
     const auto inWords = [](int shot) {
-        return shot < 0 ? QStringLiteral("of no shot") : QStringLiteral("shot %1").arg(shot + 1);
+        return shot < 0 ? Said::tr("of no shot") : Said::tr("shot %1").arg(shot + 1);
     };
     for (int photo = 0; photo < m_match.secondReading.size() && readings.isEmpty(); ++photo) {
         const int one = m_match.places[photo].shot;
         const int other = m_match.secondReading[photo];
         if (one != other) {
-            readings = QStringLiteral(": %1 may be %2 (%3 %) or %4")
+            readings = Said::tr(": %1 may be %2 (%3 %) or %4")
                            .arg(nameOf(photo), inWords(one))
                            .arg(std::floor(100.0 * m_match.sureness))
                            .arg(inWords(other));
         }
     }
     return Failure{ ExitCode::InputRefused, record.name,
-                    QStringLiteral("records %1, %2 given")
+                    Said::tr("records %1, %2 given")
                         .arg(counted(record.shots.size(), "shot"),
                              counted(m_photos.size(), "photo")),
-                    QStringLiteral("which photo belongs to which shot cannot be told surely%1; "
-                                   "take photos of other shoots away, or say the order with "
-                                   "--order name, time or given")
+                    Said::tr("which photo belongs to which shot cannot be told surely%1; "
+                             "take photos of other shoots away, or say the order with "
+                             "--order name, time or given")
                         .arg(readings) };
 }
 
@@ -152,15 +153,15 @@ void Fitter::chooseOfDoubled()
         const int shot = m_match.places[best].shot;
         m_match.photoOfShot[shot] = best;
         shots += shot;
-        told += QStringLiteral("%1 for shot %2").arg(nameOf(best)).arg(shot + 1);
+        told += Said::tr("%1 for shot %2").arg(nameOf(best)).arg(shot + 1);
     }
     if (told.isEmpty()) {
         return;
     }
     const QString text = m_match.isBurst
-        ? QStringLiteral("the camera took several photos for each shot: the last one of each is "
-                         "used")
-        : QStringLiteral("taken more than once; used: %1").arg(listed(told));
+        ? Said::tr("the camera took several photos for each shot: the last one of each is "
+                   "used")
+        : Said::tr("taken more than once; used: %1").arg(listed(told));
     tell("shots", text, files).shots = shots;
 }
 
@@ -171,15 +172,15 @@ void Fitter::tellOrder()
         return;
     case NamesAndTimes::Rollover:
         tell("shots",
-             QStringLiteral("the camera's counter began again among these photos: they are ordered "
-                            "by time"));
+             Said::tr("the camera's counter began again among these photos: they are ordered "
+                      "by time"));
         return;
     case NamesAndTimes::Restart:
         tell("shots",
-             QStringLiteral("photo numbers begin again (another card?): they are ordered by time"));
+             Said::tr("photo numbers begin again (another card?): they are ordered by time"));
         return;
     case NamesAndTimes::Differ:
-        tell("shots", QStringLiteral("names and times disagree: photos are ordered by time"));
+        tell("shots", Said::tr("names and times disagree: photos are ordered by time"));
         return;
     }
 }
@@ -212,13 +213,12 @@ void Fitter::tellMissing()
     }
     const bool isEnd = missing.last() - missing.first() + 1 == missing.size()
         && missing.last() + 1 == m_match.photoOfShot.size();
-    Finding &finding
-        = tell("missing",
-               QStringLiteral("no photo for %1%2")
-                   .arg(shotsText(missing),
-                        isEnd ? QStringLiteral(" (was the shoot stopped?)") : QString()));
+    Finding &finding = tell(
+        "missing",
+        Said::tr("no photo for %1%2")
+            .arg(shotsText(missing), isEnd ? Said::tr(" (was the shoot stopped?)") : QString()));
     finding.shots = missing;
-    finding.cure = QStringLiteral("take them again if you can");
+    finding.cure = Said::tr("take them again if you can");
     finding.action = Finding::Action::Reshoot;
 }
 
@@ -232,24 +232,23 @@ void Fitter::tellClock()
     const double off = std::round(std::abs(m_match.clock->seconds));
     const double hours = std::abs(m_match.clock->hours);
     if (off >= kNoteworthySeconds) {
-        const QString time = hours == 0.0
-            ? QStringLiteral("%1 min %2 s")
-                  .arg(std::floor(off / 60.0), 0, 'f', 0)
-                  .arg(std::floor(std::fmod(off, 60.0)))
-            : QStringLiteral("%1 %2").arg(hours).arg(hours == 1.0 ? QStringLiteral("hour")
-                                                                  : QStringLiteral("hours"));
+        const QString time = hours == 0.0 ? Said::tr("%1 min %2 s")
+                                                .arg(std::floor(off / 60.0), 0, 'f', 0)
+                                                .arg(std::floor(std::fmod(off, 60.0)))
+            : hours == 1.0 ? Said::tr("1 hour")
+                           : Said::tr("%1 hours").arg(hours);
         tell("clock",
-             QStringLiteral("the camera's clock is %1 %2 the head's")
-                 .arg(time,
-                      m_match.clock->seconds > 0.0 ? QStringLiteral("ahead of")
-                                                   : QStringLiteral("behind")),
+             (m_match.clock->seconds > 0.0
+                  ? Said::tr("the camera's clock is %1 ahead of the head's")
+                  : Said::tr("the camera's clock is %1 behind the head's"))
+                 .arg(time),
              {}, Finding::Kind::Fact);
     }
     const double gain = m_match.clock->secondsPerMinute;
     if (std::abs(gain) * std::min(1.0, m_match.clock->minutes) >= kNoteworthyGain) {
         tell("clock",
-             QStringLiteral("the camera's clock %1 %2 s in a minute")
-                 .arg(gain > 0.0 ? QStringLiteral("gains") : QStringLiteral("loses"))
+             (gain > 0.0 ? Said::tr("the camera's clock gains %1 s in a minute")
+                         : Said::tr("the camera's clock loses %1 s in a minute"))
                  .arg(std::abs(gain), 0, 'f', 1),
              {}, Finding::Kind::Fact);
     }
@@ -284,7 +283,7 @@ void Fitter::tellSamePictures()
             for (const QString &path : *group) {
                 names += QFileInfo(path).fileName();
             }
-            tell("shots", QStringLiteral("the same picture: %1").arg(listed(names)), *group);
+            tell("shots", Said::tr("the same picture: %1").arg(listed(names)), *group);
         }
     }
 }
@@ -303,9 +302,9 @@ PhotoFit Fitter::fit()
     tellSamePictures();
     chooseOfDoubled();
     tellOrder();
-    tellLeftOut(Kind::InFront, QStringLiteral("before the first shot (a test?): left out"));
-    tellLeftOut(Kind::OtherCamera, QStringLiteral("of another size: left out"));
-    tellLeftOut(Kind::OtherShoot, QStringLiteral("not of this shoot: left out"));
+    tellLeftOut(Kind::InFront, Said::tr("before the first shot (a test?): left out"));
+    tellLeftOut(Kind::OtherCamera, Said::tr("of another size: left out"));
+    tellLeftOut(Kind::OtherShoot, Said::tr("not of this shoot: left out"));
     tellMissing();
     tellClock();
     return PhotoFit{ shotFit(), m_findings, {} };
@@ -324,16 +323,16 @@ PhotoFit Fitter::asNamed(const QString &whyUnchecked)
         tellClock();
     } else {
         tell("shots",
-             QStringLiteral("which photo belongs to which shot could not be checked (%1): they are "
-                            "taken in the order of their names")
+             Said::tr("which photo belongs to which shot could not be checked (%1): they are "
+                      "taken in the order of their names")
                  .arg(whyUnchecked));
     }
     const bool isQuick = whyUnchecked.isEmpty() && m_match.measuredPairs == 0;
     return PhotoFit{ {},
                      m_findings,
                      !isQuick                ? QString()
-                         : m_match.usesTimes ? QStringLiteral("names, times and counts")
-                                             : QStringLiteral("names and counts") };
+                         : m_match.usesTimes ? Said::tr("names, times and counts")
+                                             : Said::tr("names and counts") };
 }
 
 /** One file of each of \p photos. */
@@ -360,9 +359,9 @@ QString whyUnchecked(const RecordedShots &record, const QVector<PhotoInfo> &phot
                       [](const PanoHead::NotedShot &shot) { return shot.time.isValid(); });
     const bool hasTimes = std::any_of(photos.cbegin(), photos.cend(),
                                       [](const PhotoInfo &photo) { return photo.timeMs != 0; });
-    return !hasHeadTimes ? QStringLiteral("the record tells no times")
-        : !hasTimes      ? QStringLiteral("the photos tell no times")
-                         : QStringLiteral("the times of photos and record do not agree");
+    return !hasHeadTimes ? Said::tr("the record tells no times")
+        : !hasTimes      ? Said::tr("the photos tell no times")
+                         : Said::tr("the times of photos and record do not agree");
 }
 
 /** Heads that know of no brackets note each exposure as a shot of the same direction. */
@@ -468,7 +467,7 @@ Result<PhotoFit> fitPhotos(const RecordedShots &record, const QVector<PhotoInfo>
     }
     found.findings.prepend(
         { QStringLiteral("left"),
-          QStringLiteral("%1 left out: other files of the same photos are used, JPEG before RAW")
+          Said::tr("%1 left out: other files of the same photos are used, JPEG before RAW")
               .arg(counted(companions, "file")) });
     return found;
 }

@@ -8,6 +8,7 @@
 #include "host/import/photofit.h"
 #include "host/model/commanderror.h"
 #include "host/model/displayname.h"
+#include "host/model/said.h"
 
 #include <QFileInfo>
 
@@ -160,7 +161,7 @@ void ShootCheck::lookAtPhotos()
     m_findings += gapFinding(ordered);
     if (!m_toldBy.isEmpty()) {
         m_findings += Finding{ QStringLiteral("pictures"),
-                               QStringLiteral("not opened: %1 agree").arg(m_toldBy) };
+                               Said::tr("not opened: %1 agree").arg(m_toldBy) };
     }
 }
 
@@ -170,10 +171,9 @@ void ShootCheck::checkCounts() const
         throw CommandError(*m_doubt);
     }
     if (m_request.fit && photosOf(*m_request.fit).isEmpty()) {
-        throw inputRefused(m_request.grid ? QStringLiteral("the grid")
-                                          : displayName(m_request.record),
-                           QStringLiteral("none of its shots has a photo"),
-                           QStringLiteral("are these the photos of this shoot?"));
+        throw inputRefused(m_request.grid ? Said::tr("the grid") : displayName(m_request.record),
+                           Said::tr("none of its shots has a photo"),
+                           Said::tr("are these the photos of this shoot?"));
     }
     const int shots = m_request.fit ? m_request.fit->size() : m_request.photos.size();
     if (m_request.grid) {

@@ -7,6 +7,7 @@
 #include "host/import/shootcheck.h"
 #include "host/model/commanderror.h"
 #include "host/model/displayname.h"
+#include "host/model/said.h"
 #include "shoot/linksearch.h"
 
 #include <QFileInfo>
@@ -27,7 +28,7 @@ void nameVanished(ImportRequest &request, const JobWatch &watch, ShootReport &re
         if (QFileInfo(photo).isFile()) {
             there += photo;
         } else {
-            report.findings += badPhotoFinding(photo, QStringLiteral("no such photo"));
+            report.findings += badPhotoFinding(photo, Said::tr("no such photo"));
         }
     }
     request.photos = there;
@@ -42,7 +43,7 @@ void nameOwn(PanoHostApplication &app, ImportRequest &request, const JobWatch &w
         watch.check();
         const Result<PhotoInfo> photo = app.photoInfo(path);
         if (photo && photo.value().isPanorama) {
-            report.findings += badPhotoFinding(path, QStringLiteral("was made of other photos"));
+            report.findings += badPhotoFinding(path, Said::tr("was made of other photos"));
         } else {
             photos += path;
         }
@@ -199,13 +200,14 @@ std::optional<Finding> linksFinding(const HeadFacts &head, const QVector<NotedSh
         }
     }
     const int alone = isLinked.count(false);
-    Finding finding{ QStringLiteral("links"),
-                     QStringLiteral("%1 between %2")
-                         .arg(counted(links.size(), "link"), counted(positions, "position")) };
+    Finding finding{
+        QStringLiteral("links"),
+        Said::tr("%1 between %2").arg(counted(links.size(), "link"), counted(positions, "position"))
+    };
     if (alone > 0) {
         finding.kind = Finding::Kind::Trouble;
-        finding.text += QStringLiteral("; %1 without a neighbour near enough")
-                            .arg(counted(alone, "position"));
+        finding.text
+            += Said::tr("; %1 without a neighbour near enough").arg(counted(alone, "position"));
     }
     return finding;
 }

@@ -3,6 +3,7 @@
 #include "host/import/shotfit.h"
 
 #include "host/model/displayname.h"
+#include "host/model/said.h"
 
 #include <QtMath>
 
@@ -108,11 +109,11 @@ QString shotsText(const QVector<int> &shots)
             ++last;
         }
         const QString from = QString::number(shots[i] + 1);
-        parts += last > i ? QStringLiteral("%1 to %2").arg(from).arg(shots[last] + 1) : from;
+        parts += last > i ? Said::tr("%1 to %2").arg(from).arg(shots[last] + 1) : from;
         i = last + 1;
     }
-    return (shots.size() == 1 ? QStringLiteral("shot ") : QStringLiteral("shots "))
-        + parts.join(QStringLiteral(", "));
+    return (shots.size() == 1 ? Said::tr("shot %1") : Said::tr("shots %1"))
+        .arg(parts.join(QStringLiteral(", ")));
 }
 
 QStringList photosOf(const ShotFit &fit)
@@ -228,15 +229,15 @@ QStringList missingShotWarnings(const ShotFit &fit, const StructuredPanoramaProp
         }
         const int entry = perPosition ? i / levels : i;
         const QString level = levels > 1
-            ? QStringLiteral(", exposure %1 of %2")
+            ? Said::tr(", exposure %1 of %2")
                   .arg(QString::number(i % levels + 1), QString::number(levels))
             : QString();
-        warnings += QStringLiteral("no photo for shot %1 (yaw %2, pitch %3%4)")
+        warnings += Said::tr("no photo for shot %1 (yaw %2, pitch %3%4)")
                         .arg(QString::number(i + 1), degreesText(description.yaw.value(entry)),
                              degreesText(description.pitch.value(entry)), level);
     }
     if (!others.isEmpty()) {
-        warnings += QStringLiteral("no photo for %1").arg(shotsText(others));
+        warnings += Said::tr("no photo for %1").arg(shotsText(others));
     }
     return warnings;
 }

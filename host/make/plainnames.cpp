@@ -4,6 +4,7 @@
 
 #include "host/model/commanderror.h"
 #include "host/model/relativepath.h"
+#include "host/model/said.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -37,11 +38,11 @@ void makeLink(const PlainName &name)
     const QString folder = QFileInfo(name.link).absolutePath();
     if (!QDir().mkpath(folder) || !QFile::link(name.photo, name.link)) {
         throw CommandError({ ExitCode::ToolFailed, name.photo,
-                             QStringLiteral("a Hugin project cannot hold a file name with "
-                                            "quotation marks or line ends, and no link to it can "
-                                            "be made in %1")
+                             Said::tr("a Hugin project cannot hold a file name with "
+                                      "quotation marks or line ends, and no link to it can "
+                                      "be made in %1")
                                  .arg(folder),
-                             QStringLiteral("rename the file") });
+                             Said::tr("rename the file") });
     }
 }
 

@@ -5,6 +5,7 @@
 #include "host/model/displayname.h"
 #include "host/model/jobwatch.h"
 #include "host/model/photofile.h"
+#include "host/model/said.h"
 #include "host/stitch/toolrun.h"
 #include "host/stitch/workfolder.h"
 
@@ -61,8 +62,8 @@ std::optional<QStringList> knownArguments(const QString &program, bool wantsLigh
 Failure notAConverter(const QString &command, const QString &why)
 {
     return { ExitCode::Usage, QStringLiteral("--raw-converter %1").arg(command), why,
-             QStringLiteral("name dcraw, dcraw_emu, darktable-cli or rawtherapee-cli, or a "
-                            "command with %i for the RAW file and %o for the TIFF") };
+             Said::tr("name dcraw, dcraw_emu, darktable-cli or rawtherapee-cli, or a "
+                      "command with %i for the RAW file and %o for the TIFF") };
 }
 
 Result<QString> programOf(const RawConverter &converter)
@@ -85,10 +86,10 @@ Result<QString> programOf(const RawConverter &converter)
     };
     const QString package = packages.value(converter.program);
     return Failure{ ExitCode::ToolMissing, converter.program,
-                    QStringLiteral("this RAW converter was not found"),
+                    Said::tr("this RAW converter was not found"),
                     package.isEmpty()
-                        ? QStringLiteral("is its name right? of those known: apt install dcraw, "
-                                         "libraw-bin, darktable or rawtherapee")
+                        ? Said::tr("is its name right? of those known: apt install dcraw, "
+                                   "libraw-bin, darktable or rawtherapee")
                         : QStringLiteral("apt install %1").arg(package) };
 }
 
@@ -138,9 +139,9 @@ void warnOfBalance(const QVector<PhotoInfo *> &photos, const QString &program,
     });
     if (automatic > 0) {
         watch.note(JobWatch::Note::Warning,
-                   QStringLiteral("the camera chose the white balance of %1 RAW files one by one, "
-                                  "and %2 follows it: their colours may differ; dcraw takes the "
-                                  "first one's for all")
+                   Said::tr("the camera chose the white balance of %1 RAW files one by one, "
+                            "and %2 follows it: their colours may differ; dcraw takes the "
+                            "first one's for all")
                        .arg(QString::number(automatic), QFileInfo(program).fileName()));
     }
 }
@@ -156,8 +157,8 @@ Result<QString> develop(const QString &program, const RawConverter &converter, c
     // No link: darktable-cli finds none behind a relative path.
     if (!QFile::copy(raw, copy)) {
         return Failure{ ExitCode::ToolFailed, displayName(copy),
-                        QStringLiteral("this copy of a photo cannot be made"),
-                        QStringLiteral("is the photo readable? is the disk full?") };
+                        Said::tr("this copy of a photo cannot be made"),
+                        Said::tr("is the photo readable? is the disk full?") };
     }
     QStringList arguments = converter.arguments;
     for (QString &argument : arguments) {
@@ -169,18 +170,17 @@ Result<QString> develop(const QString &program, const RawConverter &converter, c
     if (!run) {
         Failure failure = run.error();
         if (failure.code == ExitCode::ToolFailed) {
-            failure.what += QStringLiteral(", of %1").arg(displayName(raw));
+            failure.what += Said::tr(", of %1").arg(displayName(raw));
         }
         return failure;
     }
     const QFileInfo file(copy);
     QFile::rename(file.dir().filePath(file.completeBaseName() + QStringLiteral(".tiff")), part);
     if (isDamaged(part)) {
-        return orLackOfRoom(
-            { ExitCode::ToolFailed, QFileInfo(program).fileName(),
-              QStringLiteral("it left no whole picture of %1").arg(displayName(raw)),
-              QStringLiteral("can it read this camera's files? is the disk full?") },
-            work.path());
+        return orLackOfRoom({ ExitCode::ToolFailed, QFileInfo(program).fileName(),
+                              Said::tr("it left no whole picture of %1").arg(displayName(raw)),
+                              Said::tr("can it read this camera's files? is the disk full?") },
+                            work.path());
     }
     return part;
 }
@@ -191,7 +191,7 @@ Result<RawConverter> rawConverterNamed(const QString &command, bool wantsLight)
 {
     QStringList parts = QProcess::splitCommand(command);
     if (parts.isEmpty()) {
-        return notAConverter(command, QStringLiteral("names no program"));
+        return notAConverter(command, Said::tr("names no program"));
     }
     RawConverter converter;
     converter.program = parts.takeFirst();
@@ -204,7 +204,7 @@ Result<RawConverter> rawConverterNamed(const QString &command, bool wantsLight)
     }
     const QString all = parts.join(QLatin1Char(' '));
     if (!all.contains(kInput) || !all.contains(kOutput)) {
-        return notAConverter(command, QStringLiteral("does not say where its files go"));
+        return notAConverter(command, Said::tr("does not say where its files go"));
     }
     converter.arguments = parts;
     return converter;

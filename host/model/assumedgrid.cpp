@@ -3,6 +3,7 @@
 #include "host/model/assumedgrid.h"
 
 #include "host/model/panorama.h"
+#include "host/model/said.h"
 
 #include <QSet>
 #include <QtMath>
@@ -64,7 +65,7 @@ GridCell gridCellOf(int shot, int mode, int rows, int columns)
 
 QString gridCellName(const GridCell &cell)
 {
-    return QStringLiteral("row %1 of column %2")
+    return Said::tr("row %1 of column %2")
         .arg(QString::number(cell.row + 1), QString::number(cell.column + 1));
 }
 
@@ -99,8 +100,8 @@ AssumedGrid assumedGrid(const StructuredPanoramaProperties &description, const Q
               std::clamp(pitch, -kSteepestPitchDegrees, kSteepestPitchDegrees) });
     }
     if (clamped || (layout.columns - 1) * yawStep >= 360.0) {
-        layout.warnings.append(QStringLiteral(
-            "the grid reaches around the sphere: overlap or rows do not fit this lens"));
+        layout.warnings.append(
+            Said::tr("the grid reaches around the sphere: overlap or rows do not fit this lens"));
     }
     return layout;
 }

@@ -8,6 +8,7 @@
 #include "host/model/lostpageguard.h"
 #include "host/model/photodevice.h"
 #include "host/model/safefile.h"
+#include "host/model/said.h"
 #include "host/model/tifffile.h"
 
 #include <QDateTime>
@@ -38,7 +39,7 @@ struct OpenPhoto {
 
 Failure unreadable(const QString &path)
 {
-    return { ExitCode::InputRefused, path, QStringLiteral("cannot read (not a photo?)"), {} };
+    return { ExitCode::InputRefused, path, Said::tr("cannot read (not a photo?)"), {} };
 }
 
 Result<OpenPhoto> openPhoto(const QString &path)
@@ -138,7 +139,7 @@ Result<StoredPixels> readStoredPixels(const QString &path, int leastWidth)
         return Failure{ ExitCode::InputRefused, path, why, {} };
     };
     if (!photo.value().pictureIsPhoto) {
-        return refused(QStringLiteral("its pixels cannot be decoded (a RAW file?)"));
+        return refused(Said::tr("its pixels cannot be decoded (a RAW file?)"));
     }
     PhotoDevice &device = *photo.value().device;
     device.seek(0);
@@ -157,7 +158,7 @@ Result<StoredPixels> readStoredPixels(const QString &path, int leastWidth)
         reader.setScaledSize(size);
     }
     if (!decodable(reader)) {
-        return refused(QStringLiteral("too large to decode"));
+        return refused(Said::tr("too large to decode"));
     }
     const DecodingTurn turn(reader);
     pixels.picture = reader.read();

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/model/safefile.h"
 
+#include "host/model/said.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -40,20 +42,19 @@ Result<std::unique_ptr<QFile>> openRegularFile(const QString &path)
 {
     if (path.contains(QChar::Null)) {
         // The system would read the name up to there and open another file.
-        return refused(path, QStringLiteral("no such file"));
+        return refused(path, Said::tr("no such file"));
     }
     const int fd
         = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     if (fd < 0) {
-        return errno == ENOENT ? refused(path, QStringLiteral("no such file"))
+        return errno == ENOENT ? refused(path, Said::tr("no such file"))
                                : refused(path, systemError(errno));
     }
     struct stat status = {};
     if (::fstat(fd, &status) != 0 || !S_ISREG(status.st_mode)) {
         const bool folder = S_ISDIR(status.st_mode);
         ::close(fd);
-        return refused(
-            path, folder ? QStringLiteral("is a folder") : QStringLiteral("is not a regular file"));
+        return refused(path, folder ? Said::tr("is a folder") : Said::tr("is not a regular file"));
     }
     auto file = std::make_unique<QFile>(path);
     if (!file->open(fd, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
@@ -76,7 +77,7 @@ Result<QByteArray> readRegularFile(const QString &path, qint64 maxBytes)
         return refused(path, file.errorString());
     }
     if (content.size() > maxBytes) {
-        return refused(path, QStringLiteral("larger than %1 bytes").arg(maxBytes));
+        return refused(path, Said::tr("larger than %1 bytes").arg(maxBytes));
     }
     return content;
 }
@@ -99,15 +100,14 @@ Result<QString> writeFileAtomically(const QString &path, const QByteArray &conte
     const QFileInfo info(path);
     if (info.exists() && !info.isFile()) {
         // Replacing a pipe or a device by a file would break whoever uses it.
-        return notWritten(path,
-                          info.isDir() ? QStringLiteral("is a folder")
-                                       : QStringLiteral("is not a regular file"),
-                          QStringLiteral("give the name of a file"));
+        return notWritten(
+            path, info.isDir() ? Said::tr("is a folder") : Said::tr("is not a regular file"),
+            Said::tr("give the name of a file"));
     }
     const QString folder = info.absolutePath();
     if (!QFileInfo(folder).isDir()) {
-        return notWritten(path, QStringLiteral("the folder %1 does not exist").arg(folder),
-                          QStringLiteral("create it or choose another place"));
+        return notWritten(path, Said::tr("the folder %1 does not exist").arg(folder),
+                          Said::tr("create it or choose another place"));
     }
     QSaveFile file(path);
     // Without this the file would be written in place where the folder takes no temporary file.
@@ -115,8 +115,8 @@ Result<QString> writeFileAtomically(const QString &path, const QByteArray &conte
     // Unbuffered, so that a full disk is named as the reason.
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !writeAll(file, content)
         || !file.commit()) {
-        return notWritten(path, QStringLiteral("cannot be written (%1)").arg(file.errorString()),
-                          QStringLiteral("make room there or choose another place"));
+        return notWritten(path, Said::tr("cannot be written (%1)").arg(file.errorString()),
+                          Said::tr("make room there or choose another place"));
     }
     return path;
 }

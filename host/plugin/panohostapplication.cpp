@@ -172,7 +172,6 @@ void PanoHostApplication::setSettingsFile(const QString &path)
     shareThumbnails();
 }
 
-/** Unless the settings say that the desktop's thumbnails are none of ours. */
 void PanoHostApplication::shareThumbnails()
 {
     using Places = DesktopThumbnails::Places;

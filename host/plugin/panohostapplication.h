@@ -71,6 +71,9 @@ public:
     /** Uses the INI file \p path from now on instead of the user's own. */
     void setSettingsFile(const QString &path);
     [[nodiscard]] QSettings &settings() { return *m_settings; }
+    /** Photos that are read from now on share the desktop's thumbnails, unless the settings say
+     * that these are none of ours. */
+    void shareThumbnails();
     /** What `Locale()` answers from now on; libraries ask when they are loaded. */
     void setLocale(const QLocale &locale) { m_locale = locale; }
     /**
@@ -127,7 +130,6 @@ Q_SIGNALS:
     void photoRead(const QString &path, bool readable);
 
 private:
-    void shareThumbnails();
     [[nodiscard]] PhotoReader::Answer readPhoto(const QString &path);
     void rememberUnreadable(const QString &path, const QString &why);
 

@@ -3,6 +3,7 @@
 #include "host/plugin/pluginlibrary.h"
 
 #include "host/model/panorama.h"
+#include "host/model/said.h"
 #include "host/plugin/panohostapplication.h"
 #include "hostlink/xiabout.h"
 #include "hostlink/xipluginimport.h"
@@ -28,7 +29,7 @@ QString interfaceId()
 Failure noPlugin(const QString &what, const QString &why)
 {
     return { ExitCode::NoPlugin, what, why,
-             QStringLiteral("set --plugin or PANOHOST_PLUGIN_PATH to libXPanoHead.so") };
+             Said::tr("set --plugin or PANOHOST_PLUGIN_PATH to libXPanoHead.so") };
 }
 
 /** The object's sub-object for the interface \p name; null when it has none. */
@@ -124,22 +125,21 @@ Result<std::unique_ptr<PluginLibrary>> PluginLibrary::open(const QString &fileOr
     }
     const QStringList places = searchPath(fileOrFolder);
     if (!fileOrFolder.isEmpty() && !QFileInfo::exists(places.first())) {
-        return noPlugin(places.first(), QStringLiteral("no such file or folder"));
+        return noPlugin(places.first(), Said::tr("no such file or folder"));
     }
-    return noPlugin(QStringLiteral("import plug-ins"),
-                    QStringLiteral("no plug-in library in ") + places.join(QStringLiteral(", ")));
+    return noPlugin(Said::tr("import plug-ins"),
+                    Said::tr("no plug-in library in %1").arg(places.join(QStringLiteral(", "))));
 }
 
 Result<std::unique_ptr<PluginLibrary>> PluginLibrary::load(const QString &file)
 {
     const QString declared = declaredInterface(file);
     if (declared.isEmpty()) {
-        return noPlugin(file, QStringLiteral("is not a Qt plug-in library"));
+        return noPlugin(file, Said::tr("is not a Qt plug-in library"));
     }
     if (declared != interfaceId()) {
         return noPlugin(
-            file,
-            QStringLiteral("its interface is '%1', '%2' is needed").arg(declared, interfaceId()));
+            file, Said::tr("its interface is '%1', '%2' is needed").arg(declared, interfaceId()));
     }
     std::unique_ptr<PluginLibrary> library(new PluginLibrary);
     library->m_loader.setFileName(file);
@@ -151,7 +151,7 @@ Result<std::unique_ptr<PluginLibrary>> PluginLibrary::load(const QString &file)
     }
     auto *const registry = interfaceOf<XIPluginLibrary>(root, "XIPluginLibrary");
     if (!registry) {
-        return noPlugin(file, QStringLiteral("offers no list of plug-ins"));
+        return noPlugin(file, Said::tr("offers no list of plug-ins"));
     }
     library->m_about = interfaceOf<XIAbout>(root, "XIAbout");
     const QList<QPointer<QObject>> objects = registry->Plugins(XIPluginLibrary::AllHeads);
@@ -163,7 +163,7 @@ Result<std::unique_ptr<PluginLibrary>> PluginLibrary::load(const QString &file)
         }
     }
     if (library->m_plugins.isEmpty()) {
-        return noPlugin(file, QStringLiteral("holds no import plug-in"));
+        return noPlugin(file, Said::tr("holds no import plug-in"));
     }
     return library;
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/stitch/hdrmerge.h"
 
+#include "host/model/said.h"
 #include "host/stitch/vipsfile.h"
 
 #include <QFile>
@@ -238,8 +239,8 @@ private:
 
 Failure notWritten(const QString &path)
 {
-    return { ExitCode::ToolFailed, path, QStringLiteral("cannot be written"),
-             QStringLiteral("is the disk full?") };
+    return { ExitCode::ToolFailed, path, Said::tr("cannot be written"),
+             Said::tr("is the disk full?") };
 }
 
 Result<VipsFile> openLevel(const HdrLevel &level, const std::vector<LevelRows> &others)
@@ -248,7 +249,7 @@ Result<VipsFile> openLevel(const HdrLevel &level, const std::vector<LevelRows> &
     if (file && !others.empty() && file.value().size() != others.front().file().size()) {
         return Failure{ ExitCode::InputRefused,
                         level.path,
-                        QStringLiteral("is of another size than the others of its bracket"),
+                        Said::tr("is of another size than the others of its bracket"),
                         {} };
     }
     return file;
@@ -300,9 +301,7 @@ Result<QString> mergeWarped(const QVector<HdrLevel> &levels, const QRect &place,
         const VipsFile &picture = file.value();
         if (picture.size() != place.size() || picture.bands() != kWithAlpha
             || picture.sample() != VipsFile::Sample::Float) {
-            return Failure{
-                ExitCode::ToolFailed, level.path, QStringLiteral("is no warped light"), {}
-            };
+            return Failure{ ExitCode::ToolFailed, level.path, Said::tr("is no warped light"), {} };
         }
         rows.emplace_back(std::move(file).value(), true, level.gain);
     }

@@ -6,6 +6,7 @@
 #include "host/model/displayname.h"
 #include "host/model/parallel.h"
 #include "host/model/safefile.h"
+#include "host/model/said.h"
 #include "host/stitch/hdrmerge.h"
 #include "host/stitch/stitchneeds.h"
 #include "host/stitch/tiffplace.h"
@@ -137,10 +138,10 @@ void Run::checkPhotos() const
         throw inputRefused(
             QStringList(gone.mid(0, kNamed)).join(QStringLiteral(", ")),
             gone.size() > kNamed
-                ? QStringLiteral("these photos of the project, and %1 more, are not there any more")
+                ? Said::tr("these photos of the project, and %1 more, are not there any more")
                       .arg(gone.size() - kNamed)
-                : QStringLiteral("not there any more"),
-            QStringLiteral("put the photos back where they were, or import them again"));
+                : Said::tr("not there any more"),
+            Said::tr("put the photos back where they were, or import them again"));
     }
     if (m_plan.depth != StitchedPicture::Depth::Radiance) {
         checkDepths();
@@ -159,12 +160,12 @@ void Run::checkDepths() const
         if (first.isEmpty()) {
             first = path;
         } else if (bitsOf(path) != bitsOf(first)) {
-            throw inputRefused(QStringLiteral("photos"),
-                               QStringLiteral("%1 has %2 bits a colour, %3 has %4, and all must be "
-                                              "alike to be blended")
+            throw inputRefused(Said::tr("photos"),
+                               Said::tr("%1 has %2 bits a colour, %3 has %4, and all must be "
+                                        "alike to be blended")
                                    .arg(displayName(first), QString::number(bitsOf(first)),
                                         displayName(path), QString::number(bitsOf(path))),
-                               QStringLiteral("convert or develop them alike"));
+                               Said::tr("convert or develop them alike"));
         }
     }
 }
@@ -183,8 +184,7 @@ void Run::linkPhotos()
         // Memory cards know no links.
         if (!QFile::link(photo, m_work.path(name)) && !QFile::copy(photo, m_work.path(name))) {
             throw CommandError({ ExitCode::ToolFailed, m_work.path(name),
-                                 QStringLiteral("cannot be written"),
-                                 QStringLiteral("is the disk full?") });
+                                 Said::tr("cannot be written"), Said::tr("is the disk full?") });
         }
     }
 }
@@ -261,8 +261,8 @@ QString Run::make(const QString &name, const QByteArray &source,
                                                                 : tiffPlace(part).has_value();
         if (!isWhole) {
             return orLackOfRoom(
-                { ExitCode::ToolFailed, name, QStringLiteral("was not written to its end"),
-                  QStringLiteral("is there enough room in %1?").arg(displayName(m_work.path())) },
+                { ExitCode::ToolFailed, name, Said::tr("was not written to its end"),
+                  Said::tr("is there enough room in %1?").arg(displayName(m_work.path())) },
                 m_work.path());
         }
         return part;
@@ -383,15 +383,15 @@ void Run::warp(int index)
         } catch (const CommandError &error) {
             Failure failure = error.failure();
             if (failure.code == ExitCode::ToolFailed) {
-                failure.what = QStringLiteral("nona, of %1").arg(photo);
+                failure.what = Said::tr("nona, of %1").arg(photo);
             }
             throw CommandError(failure);
         }
         const QString made = m_work.path(nonasName(stemOf(part)));
         if (!QFile::rename(made, m_work.path(part))) {
             throw CommandError({ ExitCode::ToolFailed, QStringLiteral("nona"),
-                                 QStringLiteral("made no picture of %1").arg(photo),
-                                 QStringLiteral("is it a photo that other programs open?") });
+                                 Said::tr("made no picture of %1").arg(photo),
+                                 Said::tr("is it a photo that other programs open?") });
         }
     });
 }

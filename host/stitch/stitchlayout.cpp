@@ -7,6 +7,7 @@
 #include "host/align/median.h"
 #include "host/model/canvas.h"
 #include "host/model/ptoline.h"
+#include "host/model/said.h"
 
 #include <algorithm>
 #include <cmath>
@@ -80,11 +81,11 @@ QVector<QVector<int>> stacksOf(const PtoFile &project, StitchOutput output)
 
 Failure refusedSize(const QSizeF &size)
 {
-    return { ExitCode::InputRefused, QStringLiteral("size of the panorama"),
-             QStringLiteral("%1 x %2 pixels cannot be made")
+    return { ExitCode::InputRefused, Said::tr("size of the panorama"),
+             Said::tr("%1 x %2 pixels cannot be made")
                  .arg(size.width(), 0, 'f', 0)
                  .arg(size.height(), 0, 'f', 0),
-             QStringLiteral("choose another --size") };
+             Said::tr("choose another --size") };
 }
 
 } // namespace

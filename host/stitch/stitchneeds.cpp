@@ -4,6 +4,7 @@
 
 #include "host/model/parallel.h"
 #include "host/model/safefile.h"
+#include "host/model/said.h"
 
 #include <QFileInfo>
 
@@ -73,17 +74,17 @@ std::optional<Failure> lackOfRoom(const StitchNeeds &needs, const QString &folde
     const qint64 missing = needs.diskBytes - doneBytes;
     if (missing > diskBytes) {
         return Failure{ ExitCode::InputRefused, folder,
-                        QStringLiteral("the stitch needs %1 there, %2 are free")
+                        Said::tr("the stitch needs %1 there, %2 are free")
                             .arg(bytesText(missing), bytesText(diskBytes)),
-                        QStringLiteral("make room, name another place with -o, or choose a smaller "
-                                       "--size") };
+                        Said::tr("make room, name another place with -o, or choose a smaller "
+                                 "--size") };
     }
     if (needs.memoryBytes > memoryBytes) {
-        return Failure{ ExitCode::InputRefused, QStringLiteral("memory"),
-                        QStringLiteral("the stitch needs about %1, %2 are available")
+        return Failure{ ExitCode::InputRefused, Said::tr("memory"),
+                        Said::tr("the stitch needs about %1, %2 are available")
                             .arg(bytesText(needs.memoryBytes), bytesText(memoryBytes)),
-                        QStringLiteral("close other programs, or choose --jobs 1 or a smaller "
-                                       "--size") };
+                        Said::tr("close other programs, or choose --jobs 1 or a smaller "
+                                 "--size") };
     }
     return {};
 }

@@ -4,6 +4,7 @@
 
 #include "host/model/displayname.h"
 #include "host/model/safefile.h"
+#include "host/model/said.h"
 #include "host/stitch/stitchneeds.h"
 
 #include <QDir>
@@ -72,7 +73,7 @@ QString packagesOf(const QString &tool)
 QString installAgain(const QString &tool)
 {
     const QString packages = packagesOf(tool);
-    return packages.isEmpty() ? QStringLiteral("try it by itself")
+    return packages.isEmpty() ? Said::tr("try it by itself")
                               : QStringLiteral("apt install --reinstall %1").arg(packages);
 }
 
@@ -183,12 +184,12 @@ QString inWords(std::chrono::milliseconds time)
 {
     const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(time).count();
     return seconds < 120 ? QStringLiteral("%1 s").arg(seconds)
-                         : QStringLiteral("%1 minutes").arg(seconds / 60);
+                         : Said::tr("%1 minutes").arg(seconds / 60);
 }
 
 QString askForRoom(const QString &folder)
 {
-    return QStringLiteral("is there enough room in %1?").arg(displayName(folder));
+    return Said::tr("is there enough room in %1?").arg(displayName(folder));
 }
 
 /** Why \p process did not come to an end of its own. */
@@ -197,14 +198,14 @@ Failure crash(const QString &name, const QProcess &process, const QString &said,
 {
     // Of a program that crashed this is the signal.
     if (process.exitCode() == SIGKILL) {
-        return toolFailure(name, QStringLiteral("it was killed, perhaps because memory ran out"),
-                           QStringLiteral("close other programs and try again"));
+        return toolFailure(name, Said::tr("it was killed, perhaps because memory ran out"),
+                           Said::tr("close other programs and try again"));
     }
     const QString line = tellingLine(said);
-    const QString why = QStringLiteral("it crashed (signal %1)").arg(process.exitCode());
+    const QString why = Said::tr("it crashed (signal %1)").arg(process.exitCode());
     // vips says nothing when it crashes on a full disk.
-    return toolFailure(name, line.isEmpty() ? why : why + QStringLiteral(" and said: ") + line,
-                       askForRoom(folder) + QStringLiteral(" if so: ") + installAgain(name));
+    return toolFailure(name, line.isEmpty() ? why : Said::tr("%1 and said: %2").arg(why, line),
+                       askForRoom(folder) + Said::tr(" if so: %1").arg(installAgain(name)));
 }
 
 } // namespace
@@ -217,7 +218,7 @@ Result<QString> findTool(const QString &name)
     }
     const QString packages = packagesOf(name);
     return Failure{ ExitCode::ToolMissing, name,
-                    QStringLiteral("this program is needed for stitching and was not found"),
+                    Said::tr("this program is needed for stitching and was not found"),
                     QStringLiteral("apt install %1").arg(packages.isEmpty() ? name : packages) };
 }
 
@@ -240,8 +241,7 @@ Result<ToolEnd> runToEnd(const QString &path, const QStringList &arguments, cons
     process.setProcessEnvironment(environment);
     process.start(path, arguments, QIODevice::ReadOnly);
     if (!process.waitForStarted()) {
-        return toolFailure(name,
-                           QStringLiteral("cannot be started (%1)").arg(process.errorString()),
+        return toolFailure(name, Said::tr("cannot be started (%1)").arg(process.errorString()),
                            installAgain(name));
     }
     Patience patience(process.processId(), watch.patience);
@@ -255,9 +255,8 @@ Result<ToolEnd> runToEnd(const QString &path, const QStringList &arguments, cons
             stop(process);
             return toolFailure(
                 name,
-                QStringLiteral("it was stopped since it did nothing for %1")
-                    .arg(inWords(watch.patience)),
-                QStringLiteral("is the machine very busy, or a network drive away? try again"));
+                Said::tr("it was stopped since it did nothing for %1").arg(inWords(watch.patience)),
+                Said::tr("is the machine very busy, or a network drive away? try again"));
         }
         said = (said + process.readAll()).right(kKeptBytes);
         if (tick) {
@@ -287,11 +286,11 @@ Result<QString> runTool(const QString &path, const QStringList &arguments, const
     const QString line = tellingLine(end.value().said);
     return orLackOfRoom(
         toolFailure(QFileInfo(path).fileName(),
-                    line.isEmpty() ? QStringLiteral("it failed without a message")
-                                   : QStringLiteral("it failed and said: %1").arg(line),
+                    line.isEmpty() ? Said::tr("it failed without a message")
+                                   : Said::tr("it failed and said: %1").arg(line),
                     tellsOfWriting(line)
                         ? askForRoom(folder)
-                        : QStringLiteral("is the disk full, or a file damaged that it reads?")),
+                        : Said::tr("is the disk full, or a file damaged that it reads?")),
         folder);
 }
 
@@ -304,9 +303,9 @@ Failure orLackOfRoom(const Failure &failure, const QString &folder)
         return failure;
     }
     return { failure.code, failure.what,
-             QStringLiteral("it failed, and there is hardly any room left on the disk at %1 (%2)")
+             Said::tr("it failed, and there is hardly any room left on the disk at %1 (%2)")
                  .arg(disk.rootPath(), bytesText(free)),
-             QStringLiteral("make room there and go on with the same command; nothing is lost") };
+             Said::tr("make room there and go on with the same command; nothing is lost") };
 }
 
 QString shellQuoted(const QString &word)

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/stitch/vipsfile.h"
 
+#include "host/model/said.h"
+
 #include <QSysInfo>
 
 #include <array>
@@ -19,7 +21,7 @@ constexpr qint32 kMagic = 0x08f2a6b6;
 Failure unfit(const QString &path, const QString &why)
 {
     return { ExitCode::ToolFailed, path, why,
-             QStringLiteral("was the disk full? remove the file and try again") };
+             Said::tr("was the disk full? remove the file and try again") };
 }
 
 /** Bytes of a sample of the format with this number; 0: another kind of number. */
@@ -50,7 +52,7 @@ Result<VipsFile> VipsFile::open(const QString &path)
     if (!file.m_file->open(QIODevice::ReadOnly)
         || file.m_file->read(reinterpret_cast<char *>(header.data()), kHeaderBytes)
             != kHeaderBytes) {
-        return unfit(path, QStringLiteral("cannot be read"));
+        return unfit(path, Said::tr("cannot be read"));
     }
     // Magic, width, height, bands, unused, format.
     file.m_size = QSize(header[1], header[2]);
@@ -59,17 +61,17 @@ Result<VipsFile> VipsFile::open(const QString &path)
     constexpr int kMostBands = 64;
     if (header[0] != kMagic || sampleBytes == 0 || file.m_size.isEmpty() || file.m_bands < 1
         || file.m_bands > kMostBands) {
-        return unfit(path, QStringLiteral("is no picture of 8, 16 or floating bits"));
+        return unfit(path, Said::tr("is no picture of 8, 16 or floating bits"));
     }
     file.m_rowBytes = static_cast<qint64>(file.m_size.width()) * file.m_bands * sampleBytes;
     // Rows that are there; a header may promise more bytes than a number holds.
     if ((file.m_file->size() - kHeaderBytes) / file.m_rowBytes < file.m_size.height()) {
-        return unfit(path, QStringLiteral("is cut off"));
+        return unfit(path, Said::tr("is cut off"));
     }
     const qint64 bytes = file.m_rowBytes * file.m_size.height();
     const uchar *const mapped = file.m_file->map(0, kHeaderBytes + bytes);
     if (mapped == nullptr) {
-        return unfit(path, QStringLiteral("cannot be mapped into memory"));
+        return unfit(path, Said::tr("cannot be mapped into memory"));
     }
     file.m_pixels = mapped + kHeaderBytes;
     return file;

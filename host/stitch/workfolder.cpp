@@ -3,6 +3,7 @@
 #include "host/stitch/workfolder.h"
 
 #include "host/model/safefile.h"
+#include "host/model/said.h"
 
 #include <QCryptographicHash>
 #include <QDateTime>
@@ -29,8 +30,8 @@ QByteArray keyOf(const QByteArray &source, const QString &path)
 
 Failure notWritable(const QString &path)
 {
-    return { ExitCode::ToolFailed, path, QStringLiteral("cannot be written"),
-             QStringLiteral("is the disk full, or the folder read-only?") };
+    return { ExitCode::ToolFailed, path, Said::tr("cannot be written"),
+             Said::tr("is the disk full, or the folder read-only?") };
 }
 
 bool removeAll(const QString &path)
@@ -75,8 +76,8 @@ QString lockedBy(QLockFile &lock)
     QString host;
     QString program;
     return lock.getLockInfo(&process, &host, &program)
-        ? QStringLiteral("%1, process %2 on %3").arg(program, QString::number(process), host)
-        : QStringLiteral("another program");
+        ? Said::tr("%1, process %2 on %3").arg(program, QString::number(process), host)
+        : Said::tr("another program");
 }
 
 } // namespace
@@ -95,13 +96,13 @@ WorkFolder::~WorkFolder() = default;
 Result<WorkFolder> WorkFolder::open(const QString &path)
 {
     if (!QDir().mkpath(path)) {
-        const QString why = QStringLiteral("this folder cannot be made");
+        const QString why = Said::tr("this folder cannot be made");
         return QFileInfo::exists(path)
             ? Failure{ ExitCode::InputRefused, path, why,
-                       QStringLiteral("there is a file of that name: rename it, or choose another "
-                                      "name with -o") }
+                       Said::tr("there is a file of that name: rename it, or choose another "
+                                "name with -o") }
             : Failure{ ExitCode::ToolFailed, path, why,
-                       QStringLiteral("is the disk full, or the folder above it read-only?") };
+                       Said::tr("is the disk full, or the folder above it read-only?") };
     }
     WorkFolder folder(QDir(path).absolutePath());
     if (takeLock(*folder.m_lock)) {
@@ -109,8 +110,8 @@ Result<WorkFolder> WorkFolder::open(const QString &path)
     }
     if (folder.m_lock->error() == QLockFile::LockFailedError) {
         return Failure{ ExitCode::InputRefused, path,
-                        QStringLiteral("is in use by %1").arg(lockedBy(*folder.m_lock)),
-                        QStringLiteral("wait for it to end, or choose another name with -o") };
+                        Said::tr("is in use by %1").arg(lockedBy(*folder.m_lock)),
+                        Said::tr("wait for it to end, or choose another name with -o") };
     }
     return notWritable(path);
 }

@@ -64,36 +64,16 @@
         <translation>%1 (Schritt %2 von %3)</translation>
     </message>
     <message>
-        <source>or choose a smaller size</source>
-        <translation>oder eine kleinere Größe wählen</translation>
+        <source>%1 x %2 in at %3 dpi</source>
+        <translation>%1 x %2 Zoll bei %3 dpi</translation>
     </message>
     <message>
-        <source>choose a smaller size</source>
-        <translation>eine kleinere Größe wählen</translation>
+        <source>%1 x %2 cm at %3 dpi</source>
+        <translation>%1 x %2 cm bei %3 dpi</translation>
     </message>
     <message>
-        <source>choose another size</source>
-        <translation>eine andere Größe wählen</translation>
-    </message>
-    <message>
-        <source>RAW files make it exact</source>
-        <translation>RAW-Dateien machen es genau</translation>
-    </message>
-    <message>
-        <source>press Make panorama again</source>
-        <translation>erneut „Panorama erstellen“ drücken</translation>
-    </message>
-    <message>
-        <source>go back and enter it</source>
-        <translation>zurückgehen und sie eingeben</translation>
-    </message>
-    <message>
-        <source>Make panorama goes on from here</source>
-        <translation>„Panorama erstellen“ macht hier weiter</translation>
-    </message>
-    <message>
-        <source>%1 x %2 pixels at most; takes up to %3 of the disk and %4 of memory.</source>
-        <translation>Höchstens %1 x %2 Pixel; braucht bis zu %3 Speicherplatz und %4 Arbeitsspeicher.</translation>
+        <source>%1 x %2 pixels at most (%3); takes up to %4 of the disk and %5 of memory.</source>
+        <translation>Höchstens %1 x %2 Pixel (%3); braucht bis zu %4 Speicherplatz und %5 Arbeitsspeicher.</translation>
     </message>
 </context>
 <context>
@@ -208,14 +188,29 @@
     </message>
 </context>
 <context>
-    <name>PanoHost::ImportWizard</name>
+    <name>PanoHost::HelpMenu</name>
     <message>
-        <source>Import a panorama</source>
-        <translation>Panorama importieren</translation>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
     </message>
     <message>
         <source>Help</source>
         <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Preferences...</source>
+        <translation>&amp;Einstellungen...</translation>
+    </message>
+    <message>
+        <source>&amp;About panohost</source>
+        <translation>Ü&amp;ber panohost</translation>
+    </message>
+</context>
+<context>
+    <name>PanoHost::ImportWizard</name>
+    <message>
+        <source>Import a panorama</source>
+        <translation>Panorama importieren</translation>
     </message>
     <message>
         <source>&amp;Another import</source>
@@ -260,18 +255,6 @@
     <message>
         <source>This page could not do what you asked: %1. Your files are as they were. Try again, or go back and choose fewer files.</source>
         <translation>Diese Seite konnte den Auftrag nicht ausführen: %1. Ihre Dateien sind unverändert. Versuchen Sie es erneut, oder gehen Sie zurück und wählen Sie weniger Dateien aus.</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Hilfe</translation>
-    </message>
-    <message>
-        <source>&amp;Preferences...</source>
-        <translation>&amp;Einstellungen...</translation>
-    </message>
-    <message>
-        <source>&amp;About panohost</source>
-        <translation>Ü&amp;ber panohost</translation>
     </message>
     <message>
         <source>Choose the head that took the photos, then Next. You can also drop the head&apos;s record and the photos, or the folder that holds them, onto this window.</source>
@@ -619,10 +602,6 @@
         <translation>Werkzeuge:</translation>
     </message>
     <message>
-        <source>Language and thumbnails change with the next start.</source>
-        <translation>Sprache und Vorschaubilder ändern sich beim nächsten Start.</translation>
-    </message>
-    <message>
         <source>As the desktop</source>
         <translation>Systemsprache</translation>
     </message>
@@ -645,6 +624,22 @@
     <message>
         <source>%1 is no folder; choose another one, or leave the field empty.</source>
         <translation>%1 ist kein Ordner; wählen Sie einen anderen aus, oder lassen Sie das Feld leer.</translation>
+    </message>
+    <message>
+        <source>Centimetres</source>
+        <translation>Zentimeter</translation>
+    </message>
+    <message>
+        <source>Inches</source>
+        <translation>Zoll</translation>
+    </message>
+    <message>
+        <source>&amp;Units of prints:</source>
+        <translation>&amp;Einheiten für Abzüge:</translation>
+    </message>
+    <message>
+        <source>The language changes with the next start.</source>
+        <translation>Die Sprache ändert sich beim nächsten Start.</translation>
     </message>
 </context>
 <context>
@@ -1160,6 +1155,1270 @@
     <message>
         <source>%1 was not saved: %2</source>
         <translation>%1 wurde nicht gespeichert: %2</translation>
+    </message>
+</context>
+<context>
+    <name>PanoHost::Said</name>
+    <message>
+        <source>no control points are wanted (automatic detection is off): kept as recorded</source>
+        <translation>keine Kontrollpunkte gewünscht (automatische Suche ist aus): Die Bilder bleiben wie aufgezeichnet</translation>
+    </message>
+    <message>
+        <source>photos are left as recorded (optimisation is skipped)</source>
+        <translation>die Bilder bleiben wie aufgezeichnet (Optimierung wird übersprungen)</translation>
+    </message>
+    <message>
+        <source>there is one photo only: kept as recorded</source>
+        <translation>nur ein Bild vorhanden: Es bleibt wie aufgezeichnet</translation>
+    </message>
+    <message>
+        <source>no two photos overlap where the record puts them: kept as recorded</source>
+        <translation>laut Aufnahmedatei überlappen sich keine zwei Bilder: Sie bleiben wie aufgezeichnet</translation>
+    </message>
+    <message>
+        <source>no spot was found in two photos (nothing but sky or fog, or the photos are not of this record): kept as recorded</source>
+        <translation>keine Stelle wurde in zwei Bildern gefunden (nur Himmel oder Nebel, oder die Bilder gehören nicht zu dieser Aufnahmedatei): Sie bleiben wie aufgezeichnet</translation>
+    </message>
+    <message>
+        <source>%1; kept as recorded</source>
+        <translation>%1; bleibt wie aufgezeichnet</translation>
+    </message>
+    <message>
+        <source>none of the photos can be used: were they moved since the import?</source>
+        <translation>keines der Bilder ist verwendbar: Wurden sie seit dem Import verschoben?</translation>
+    </message>
+    <message>
+        <source>the photos fit the order &apos;%1&apos; better than &apos;%2&apos;: import them with --mode %1</source>
+        <translation>die Bilder passen besser zur Reihenfolge „%1“ als zu „%2“: mit Reihenfolge %1 importieren</translation>
+    </message>
+    <message>
+        <source>the panorama is made %1 stops brighter: what is white in a photo stays white</source>
+        <translation>das Panorama wird um %1 Blendenstufen heller: Was in einem Bild weiß ist, bleibt weiß</translation>
+    </message>
+    <message>
+        <source>%1 of %2 tied, %3, median %4 pixels</source>
+        <translation>%1 von %2 verbunden, %3, Median %4 Pixel</translation>
+    </message>
+    <message>
+        <source>%1 point</source>
+        <translation>%1 Punkt</translation>
+    </message>
+    <message>
+        <source>%1 points</source>
+        <translation>%1 Punkte</translation>
+    </message>
+    <message>
+        <source> and %1 more</source>
+        <translation> und %1 weitere</translation>
+    </message>
+    <message>
+        <source>no points in %1 (%2): kept where the head put it</source>
+        <translation>%1 ohne Punkte (%2): bleibt, wo der Kopf es hingesetzt hat</translation>
+    </message>
+    <message>
+        <source>no points in %1 (%2): kept where the head put them</source>
+        <translation>%1 ohne Punkte (%2): bleiben, wo der Kopf sie hingesetzt hat</translation>
+    </message>
+    <message>
+        <source>lens %1 mm instead of %2</source>
+        <translation>Brennweite %1 mm statt %2</translation>
+    </message>
+    <message>
+        <source>the lens darkens its corners by %1 %: evened out</source>
+        <translation>das Objektiv dunkelt die Ecken um %1 % ab: ausgeglichen</translation>
+    </message>
+    <message>
+        <source>exposures are not what the photos say, by up to %1 stops: evened out</source>
+        <translation>die Belichtungen weichen um bis zu %1 Blendenstufen von den Angaben der Bilder ab: ausgeglichen</translation>
+    </message>
+    <message>
+        <source>the head repeats to %1 degrees</source>
+        <translation>Wiederholgenauigkeit des Kopfes: %1 Grad</translation>
+    </message>
+    <message>
+        <source>less than %1</source>
+        <translation>unter %1</translation>
+    </message>
+    <message>
+        <source>the camera sits %1 degrees crooked on the head</source>
+        <translation>die Kamera sitzt um %1 Grad schief auf dem Kopf</translation>
+    </message>
+    <message>
+        <source>the head&apos;s steps are %1 (across) and %2 (up) times what was stated</source>
+        <translation>Schrittweite des Kopfes gegenüber der Angabe: waagerecht %1-fach, senkrecht %2-fach</translation>
+    </message>
+    <message>
+        <source>from %1 on the head stands %2 degrees farther right than recorded: did its turning axis slip?</source>
+        <translation>ab %1 steht der Kopf %2 Grad weiter rechts als aufgezeichnet: Ist die Drehachse verrutscht?</translation>
+    </message>
+    <message>
+        <source>from %1 on the head stands %2 degrees farther left than recorded: did its turning axis slip?</source>
+        <translation>ab %1 steht der Kopf %2 Grad weiter links als aufgezeichnet: Ist die Drehachse verrutscht?</translation>
+    </message>
+    <message>
+        <source>from %1 on the head stands %2 degrees higher than recorded: did its tilting axis slip?</source>
+        <translation>ab %1 steht der Kopf %2 Grad höher als aufgezeichnet: Ist die Neigeachse verrutscht?</translation>
+    </message>
+    <message>
+        <source>from %1 on the head stands %2 degrees lower than recorded: did its tilting axis slip?</source>
+        <translation>ab %1 steht der Kopf %2 Grad tiefer als aufgezeichnet: Ist die Neigeachse verrutscht?</translation>
+    </message>
+    <message>
+        <source>%1 was taken %2 degrees from where the head says: was it bumped?</source>
+        <translation>%1 liegt %2 Grad neben der vom Kopf angegebenen Richtung: Wurde der Kopf angestoßen?</translation>
+    </message>
+    <message>
+        <source>residuals suggest parallax (%1 pixels): near things move against far ones; is the camera&apos;s nodal point on the head&apos;s axes?</source>
+        <translation>die verbleibenden Fehler deuten auf Parallaxe hin (%1 Pixel): Nahes verschiebt sich gegen Fernes; liegt der Nodalpunkt der Kamera auf den Achsen des Kopfes?</translation>
+    </message>
+    <message>
+        <source>was %1 x %2 pixels when imported, is now %3 x %4</source>
+        <translation>hatte beim Import %1 x %2 Pixel, hat jetzt %3 x %4</translation>
+    </message>
+    <message>
+        <source>cannot keep the features of photos there: %1</source>
+        <translation>Bildmerkmale lassen sich dort nicht ablegen: %1</translation>
+    </message>
+    <message>
+        <source>TMPDIR names a folder with more room</source>
+        <translation>TMPDIR auf einen Ordner mit mehr Platz setzen</translation>
+    </message>
+    <message>
+        <source>cannot read the features of photos back: %1</source>
+        <translation>abgelegte Bildmerkmale sind nicht lesbar: %1</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>nicht bekannt</translation>
+    </message>
+    <message>
+        <source>%1: %2, bracket %3, focal %4, lens %5</source>
+        <translation>%1: %2, Belichtungsreihen zu %3, Brennweite %4, Objektiv %5</translation>
+    </message>
+    <message>
+        <source>copy it from the card again</source>
+        <translation>noch einmal von der Karte kopieren</translation>
+    </message>
+    <message>
+        <source>%1 given, %2 readable, focal %3, lens %4</source>
+        <translation>%1 ausgewählt, %2 lesbar, Brennweite %3, Objektiv %4</translation>
+    </message>
+    <message>
+        <source>neither the photos nor the record name the focal length</source>
+        <translation>weder die Bilder noch die Aufnahmedatei nennen die Brennweite</translation>
+    </message>
+    <message>
+        <source>give it, as for 35 mm film: --focal 24</source>
+        <translation>eingeben, auf Kleinbild bezogen</translation>
+    </message>
+    <message>
+        <source>not all photos have a capture time</source>
+        <translation>nicht alle Bilder haben eine Aufnahmezeit</translation>
+    </message>
+    <message>
+        <source>%1 was taken before %2</source>
+        <translation>%1 wurde vor %2 aufgenommen</translation>
+    </message>
+    <message>
+        <source>try --order time</source>
+        <translation>nach Aufnahmezeit ordnen</translation>
+    </message>
+    <message>
+        <source>capture times agree</source>
+        <translation>die Aufnahmezeiten stimmen</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>%1 s after %2 (usually %3 s)</source>
+        <translation>%1 s nach %2 (meist %3 s)</translation>
+    </message>
+    <message>
+        <source>standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>fisheye</source>
+        <translation>Fischauge</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>this folder cannot be made</source>
+        <translation>dieser Ordner lässt sich nicht anlegen</translation>
+    </message>
+    <message>
+        <source>is the disk full, or the folder above it read-only?</source>
+        <translation>ist der Datenträger voll oder der Ordner darüber schreibgeschützt?</translation>
+    </message>
+    <message>
+        <source>no photo reaches these sides of the cube, which are left out: %1</source>
+        <translation>kein Bild reicht bis zu diesen Würfelseiten, sie werden weggelassen: %1</translation>
+    </message>
+    <message>
+        <source>cannot be written (%1)</source>
+        <translation>lässt sich nicht schreiben (%1)</translation>
+    </message>
+    <message>
+        <source>make room there or choose another place</source>
+        <translation>dort Platz schaffen oder einen anderen Ort wählen</translation>
+    </message>
+    <message>
+        <source>the folder %1 does not exist</source>
+        <translation>der Ordner %1 ist nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>create it or choose another place</source>
+        <translation>ihn anlegen oder einen anderen Ort wählen</translation>
+    </message>
+    <message>
+        <source>is a folder</source>
+        <translation>ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>is not a regular file</source>
+        <translation>ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>remove it or choose another name with -o</source>
+        <translation>entfernen oder einen anderen Namen wählen</translation>
+    </message>
+    <message>
+        <source>is a file, and a folder of that name is wanted</source>
+        <translation>ist eine Datei, gebraucht wird ein Ordner dieses Namens</translation>
+    </message>
+    <message>
+        <source>is a folder that panohost has not made</source>
+        <translation>ist ein Ordner, den panohost nicht angelegt hat</translation>
+    </message>
+    <message>
+        <source>it left a file that is not complete</source>
+        <translation>hat eine unvollständige Datei hinterlassen</translation>
+    </message>
+    <message>
+        <source>is the disk full? make room and try again</source>
+        <translation>ist der Datenträger voll? Platz schaffen und erneut versuchen</translation>
+    </message>
+    <message>
+        <source>make room there and try again</source>
+        <translation>dort Platz schaffen und erneut versuchen</translation>
+    </message>
+    <message>
+        <source>the panorama has %1 x %2 pixels, and JPEG files at most %3 to a side</source>
+        <translation>das Panorama hat %1 x %2 Pixel, JPEG-Dateien höchstens %3 je Seite</translation>
+    </message>
+    <message>
+        <source>name it .tif, or make it smaller with --size</source>
+        <translation>als .tif speichern oder eine kleinere Größe wählen</translation>
+    </message>
+    <message>
+        <source>this panorama&apos;s values are not light</source>
+        <translation>die Werte dieses Panoramas sind keine Lichtwerte</translation>
+    </message>
+    <message>
+        <source>needs --output hdr</source>
+        <translation>dafür „Die Lichtwerte selbst (HDR)“ wählen</translation>
+    </message>
+    <message>
+        <source>is not the panorama that was stitched last</source>
+        <translation>ist nicht das zuletzt erstellte Panorama</translation>
+    </message>
+    <message>
+        <source>remove it and try again</source>
+        <translation>entfernen und erneut versuchen</translation>
+    </message>
+    <message>
+        <source>it left %1 incomplete</source>
+        <translation>hat %1 unvollständig hinterlassen</translation>
+    </message>
+    <message>
+        <source>is the disk full?</source>
+        <translation>ist der Datenträger voll?</translation>
+    </message>
+    <message>
+        <source>the address where the folder will be reached is not known</source>
+        <translation>die Adresse, unter der der Ordner erreichbar sein wird, ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>give it, such as https://example.org/panoramas</source>
+        <translation>angeben, etwa https://example.org/panoramas</translation>
+    </message>
+    <message>
+        <source>%1 less %2 ignored</source>
+        <translation>%1 minus %2 übersprungene</translation>
+    </message>
+    <message>
+        <source>%1, %2, bracket %3, %4 ignored</source>
+        <translation>%1, %2, Belichtungsreihen zu %3, %4 übersprungen</translation>
+    </message>
+    <message>
+        <source>photos</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>--ignore %1 leaves none of %2</source>
+        <translation>%1 übersprungen: Von %2 bleibt keines übrig</translation>
+    </message>
+    <message>
+        <source>ignore fewer, or name all photos</source>
+        <translation>weniger überspringen oder alle Bilder auswählen</translation>
+    </message>
+    <message>
+        <source>--bracket %1 is more than %2</source>
+        <translation>Belichtungsreihen zu %1, aber nur %2</translation>
+    </message>
+    <message>
+        <source>each position needs all its exposures</source>
+        <translation>je Position werden alle Belichtungen gebraucht</translation>
+    </message>
+    <message>
+        <source>%1 are not a multiple of bracket %2</source>
+        <translation>%1 ergeben keine vollen Belichtungsreihen zu %2</translation>
+    </message>
+    <message>
+        <source>each position needs all its exposures; --ignore N leaves out the first N photos</source>
+        <translation>je Position werden alle Belichtungen gebraucht; überzählige Dateien am Anfang lassen sich überspringen</translation>
+    </message>
+    <message>
+        <source>%1 (%2 in brackets of %3)</source>
+        <translation>%1 (%2 in Belichtungsreihen zu %3)</translation>
+    </message>
+    <message>
+        <source>%1 do not divide %2 evenly</source>
+        <translation>%2 lassen sich nicht gleichmäßig auf %1 verteilen</translation>
+    </message>
+    <message>
+        <source>are photos missing? --ignore N leaves out the first N photos</source>
+        <translation>fehlen Bilder? überzählige Dateien am Anfang lassen sich überspringen</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>no pause tells where</source>
+        <translation>keine Pause zeigt, wo</translation>
+    </message>
+    <message>
+        <source>the longest pause: %1, in row %2 as they were taken</source>
+        <translation>die längste Pause: %1, in Zeile %2 nach der Reihenfolge der Aufnahme</translation>
+    </message>
+    <message>
+        <source>the longest pause: %1, in column %2 as they were taken</source>
+        <translation>die längste Pause: %1, in Spalte %2 nach der Reihenfolge der Aufnahme</translation>
+    </message>
+    <message>
+        <source>the pictures do not tell which are missing: %1</source>
+        <translation>die Bilder lassen nicht erkennen, welche fehlen: %1</translation>
+    </message>
+    <message>
+        <source>no photo for %1 (rows from the top, columns from the left)</source>
+        <translation>kein Bild für %1 (Zeilen von oben, Spalten von links gezählt)</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>Datei nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>not a regular file</source>
+        <translation>keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>no &lt;shoot&gt; pictures</source>
+        <translation>keine Bilder in &lt;shoot&gt;</translation>
+    </message>
+    <message>
+        <source>is it an old-style Papywizard file (image/coords)?</source>
+        <translation>ist es eine Papywizard-Datei der alten Art (image/coords)?</translation>
+    </message>
+    <message>
+        <source>its &lt;shoot&gt; holds no &lt;pict&gt;: no shot was recorded</source>
+        <translation>&lt;shoot&gt; enthält kein &lt;pict&gt;: Es wurde keine Aufnahme aufgezeichnet</translation>
+    </message>
+    <message>
+        <source>choose the record of a finished shoot</source>
+        <translation>die Aufnahmedatei einer abgeschlossenen Aufnahmeserie auswählen</translation>
+    </message>
+    <message>
+        <source>no op_shoot command: no shot was recorded</source>
+        <translation>kein Befehl op_shoot: Es wurde keine Aufnahme aufgezeichnet</translation>
+    </message>
+    <message>
+        <source>is it the script that the head ran?</source>
+        <translation>ist es das Skript, das der Kopf ausgeführt hat?</translation>
+    </message>
+    <message>
+        <source>correct this line, or choose another script</source>
+        <translation>diese Zeile berichtigen oder ein anderes Skript auswählen</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>is it the record that the head wrote?</source>
+        <translation>ist es die Aufnahmedatei, die der Kopf geschrieben hat?</translation>
+    </message>
+    <message>
+        <source>no such record</source>
+        <translation>Aufnahmedatei nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>check the name</source>
+        <translation>den Namen prüfen</translation>
+    </message>
+    <message>
+        <source>unknown head &apos;%1&apos;%2</source>
+        <translation>unbekannter Kopf „%1“%2</translation>
+    </message>
+    <message>
+        <source>heads: %1</source>
+        <translation>Köpfe: %1</translation>
+    </message>
+    <message>
+        <source>no record of some of its shots can be made</source>
+        <translation>eine Aufnahmedatei mit nur einem Teil der Aufnahmen lässt sich nicht erstellen</translation>
+    </message>
+    <message>
+        <source>take the shots by hand</source>
+        <translation>die Aufnahmen von Hand machen</translation>
+    </message>
+    <message>
+        <source>using %1</source>
+        <translation>verwendet wird %1</translation>
+    </message>
+    <message>
+        <source>has no import plug-in for %1</source>
+        <translation>enthält kein Import-Plug-in für %1</translation>
+    </message>
+    <message>
+        <source>set --plugin to another library</source>
+        <translation>eine andere Bibliothek verwenden</translation>
+    </message>
+    <message>
+        <source>the page refuses them</source>
+        <translation>die Seite lehnt sie ab</translation>
+    </message>
+    <message>
+        <source>make it first</source>
+        <translation>ihn zuerst anlegen</translation>
+    </message>
+    <message>
+        <source>name a file in it</source>
+        <translation>eine Datei darin auswählen</translation>
+    </message>
+    <message>
+        <source>name a file of your own</source>
+        <translation>eine eigene Datei auswählen</translation>
+    </message>
+    <message>
+        <source>cannot be written there: %1</source>
+        <translation>dort lässt sich nichts schreiben: %1</translation>
+    </message>
+    <message>
+        <source>choose a folder of your own</source>
+        <translation>einen eigenen Ordner wählen</translation>
+    </message>
+    <message>
+        <source>is one of the input files</source>
+        <translation>gehört zu den Eingabedateien</translation>
+    </message>
+    <message>
+        <source>choose another name for the result</source>
+        <translation>einen anderen Namen für das Ergebnis wählen</translation>
+    </message>
+    <message>
+        <source>given twice</source>
+        <translation>doppelt ausgewählt</translation>
+    </message>
+    <message>
+        <source>name each photo once</source>
+        <translation>jedes Bild nur einmal auswählen</translation>
+    </message>
+    <message>
+        <source>no such photo</source>
+        <translation>Bild nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>rename the file: its name is not in UTF-8</source>
+        <translation>die Datei umbenennen: Ihr Name ist nicht in UTF-8</translation>
+    </message>
+    <message>
+        <source>name the photos in it, e.g. %1/*.jpg</source>
+        <translation>die Bilder darin auswählen, z. B. %1/*.jpg</translation>
+    </message>
+    <message>
+        <source>name photos only</source>
+        <translation>nur Bilder auswählen</translation>
+    </message>
+    <message>
+        <source>cannot be read: permission denied</source>
+        <translation>nicht lesbar: Zugriff verweigert</translation>
+    </message>
+    <message>
+        <source>copy it to a folder of your own</source>
+        <translation>in einen eigenen Ordner kopieren</translation>
+    </message>
+    <message>
+        <source>are photos missing, or did the shoot stop early?</source>
+        <translation>fehlen Bilder, oder endete die Aufnahmeserie vorzeitig?</translation>
+    </message>
+    <message>
+        <source>are test shots among the photos?</source>
+        <translation>sind Testaufnahmen unter den Bildern?</translation>
+    </message>
+    <message>
+        <source>records %1, %2 given</source>
+        <translation>enthält %1, ausgewählt: %2</translation>
+    </message>
+    <message>
+        <source>has no capture time to order by</source>
+        <translation>hat keine Aufnahmezeit, nach der sich ordnen ließe</translation>
+    </message>
+    <message>
+        <source>use --order name or --order given</source>
+        <translation>nach Namen ordnen</translation>
+    </message>
+    <message>
+        <source>the record</source>
+        <translation>der Aufnahmedatei</translation>
+    </message>
+    <message>
+        <source>the photos&apos; EXIF data</source>
+        <translation>den EXIF-Daten der Bilder</translation>
+    </message>
+    <message>
+        <source>the photos&apos; EXIF data or the record</source>
+        <translation>den EXIF-Daten der Bilder oder der Aufnahmedatei</translation>
+    </message>
+    <message>
+        <source>focal length</source>
+        <translation>Brennweite</translation>
+    </message>
+    <message>
+        <source>not known from %1</source>
+        <translation>nicht zu finden in %1</translation>
+    </message>
+    <message>
+        <source>give it with --focal MM (35 mm equivalent)</source>
+        <translation>zurückgehen und sie eingeben (auf Kleinbild bezogen)</translation>
+    </message>
+    <message>
+        <source>focal length %1 (EXIF) against %2 (record); using EXIF; choose with --focal</source>
+        <translation>Brennweite %1 (EXIF) gegenüber %2 (Aufnahmedatei); EXIF gilt</translation>
+    </message>
+    <message>
+        <source>%1 of the photos name no focal length; using that of the others; choose with --focal</source>
+        <translation>%1 der Bilder ohne Brennweite; es gilt die der übrigen</translation>
+    </message>
+    <message>
+        <source>%1 lens (EXIF) against %2 (record); using EXIF; choose with --lens</source>
+        <translation>Objektiv %1 (EXIF) gegenüber %2 (Aufnahmedatei); EXIF gilt</translation>
+    </message>
+    <message>
+        <source>the photos name focal lengths from %1 to %2; using their median; choose with --focal</source>
+        <translation>die Bilder nennen Brennweiten von %1 bis %2; es gilt der mittlere Wert</translation>
+    </message>
+    <message>
+        <source>plug-in page</source>
+        <translation>Plug-in-Seite</translation>
+    </message>
+    <message>
+        <source>has no &apos;%1&apos;</source>
+        <translation>enthält kein „%1“</translation>
+    </message>
+    <message>
+        <source>is this library of another version? set --plugin</source>
+        <translation>gehört diese Bibliothek zu einer anderen Version?</translation>
+    </message>
+    <message>
+        <source>%1 is not between %2 and %3</source>
+        <translation>%1 liegt nicht zwischen %2 und %3</translation>
+    </message>
+    <message>
+        <source>its photo button opens no file dialog</source>
+        <translation>ihre Bilder-Schaltfläche öffnet keinen Dateidialog</translation>
+    </message>
+    <message>
+        <source> (and %1 more of %2 photos)</source>
+        <translation> (und %1 weitere von %2 Bildern)</translation>
+    </message>
+    <message>
+        <source>cannot read (%1)%2</source>
+        <translation>nicht lesbar (%1)%2</translation>
+    </message>
+    <message>
+        <source>is it a photo? try &apos;panohost check&apos;</source>
+        <translation>ist es ein Bild?</translation>
+    </message>
+    <message>
+        <source>the page does not accept them</source>
+        <translation>die Seite nimmt sie nicht an</translation>
+    </message>
+    <message>
+        <source>try &apos;panohost check&apos;</source>
+        <translation>die Bilder prüfen</translation>
+    </message>
+    <message>
+        <source>refused by the plug-in</source>
+        <translation>vom Plug-in abgelehnt</translation>
+    </message>
+    <message>
+        <source>temporary links to the photos</source>
+        <translation>temporäre Verknüpfungen zu den Bildern</translation>
+    </message>
+    <message>
+        <source>is the temporary folder full? set TMPDIR</source>
+        <translation>ist der temporäre Ordner voll? TMPDIR auf einen anderen setzen</translation>
+    </message>
+    <message>
+        <source>of no shot</source>
+        <translation>keiner Aufnahme</translation>
+    </message>
+    <message>
+        <source>shot %1</source>
+        <translation>Aufnahme %1</translation>
+    </message>
+    <message>
+        <source>: %1 may be %2 (%3 %) or %4</source>
+        <translation>: %1 gehört vielleicht zu %2 (%3 %) oder zu %4</translation>
+    </message>
+    <message>
+        <source>which photo belongs to which shot cannot be told surely%1; take photos of other shoots away, or say the order with --order name, time or given</source>
+        <translation>welches Bild zu welcher Aufnahme gehört, ist nicht sicher%1; Bilder anderer Aufnahmeserien entfernen</translation>
+    </message>
+    <message>
+        <source>%1 for shot %2</source>
+        <translation>%1 für Aufnahme %2</translation>
+    </message>
+    <message>
+        <source>the camera took several photos for each shot: the last one of each is used</source>
+        <translation>die Kamera hat je Aufnahme mehrere Bilder gemacht: Das jeweils letzte wird verwendet</translation>
+    </message>
+    <message>
+        <source>taken more than once; used: %1</source>
+        <translation>mehrfach aufgenommen; verwendet: %1</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s counter began again among these photos: they are ordered by time</source>
+        <translation>der Zähler der Kamera begann zwischen diesen Bildern von vorn: Sie werden nach der Zeit geordnet</translation>
+    </message>
+    <message>
+        <source>photo numbers begin again (another card?): they are ordered by time</source>
+        <translation>die Bildnummern beginnen von vorn (eine andere Karte?): Die Bilder werden nach der Zeit geordnet</translation>
+    </message>
+    <message>
+        <source>names and times disagree: photos are ordered by time</source>
+        <translation>Namen und Zeiten widersprechen sich: Die Bilder werden nach der Zeit geordnet</translation>
+    </message>
+    <message>
+        <source>no photo for %1%2</source>
+        <translation>kein Bild für %1%2</translation>
+    </message>
+    <message>
+        <source> (was the shoot stopped?)</source>
+        <translation> (wurde die Aufnahmeserie abgebrochen?)</translation>
+    </message>
+    <message>
+        <source>take them again if you can</source>
+        <translation>wenn möglich, noch einmal aufnehmen</translation>
+    </message>
+    <message>
+        <source>%1 min %2 s</source>
+        <translation>%1 min %2 s</translation>
+    </message>
+    <message>
+        <source>1 hour</source>
+        <translation>1 Stunde</translation>
+    </message>
+    <message>
+        <source>%1 hours</source>
+        <translation>%1 Stunden</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s clock is %1 ahead of the head&apos;s</source>
+        <translation>die Uhr der Kamera geht gegenüber der des Kopfes um %1 vor</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s clock is %1 behind the head&apos;s</source>
+        <translation>die Uhr der Kamera geht gegenüber der des Kopfes um %1 nach</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s clock gains %1 s in a minute</source>
+        <translation>die Uhr der Kamera geht je Minute um %1 s vor</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s clock loses %1 s in a minute</source>
+        <translation>die Uhr der Kamera geht je Minute um %1 s nach</translation>
+    </message>
+    <message>
+        <source>the same picture: %1</source>
+        <translation>dasselbe Bild: %1</translation>
+    </message>
+    <message>
+        <source>before the first shot (a test?): left out</source>
+        <translation>vor der ersten Aufnahme (ein Test?): weggelassen</translation>
+    </message>
+    <message>
+        <source>of another size: left out</source>
+        <translation>von anderer Größe: weggelassen</translation>
+    </message>
+    <message>
+        <source>not of this shoot: left out</source>
+        <translation>nicht aus dieser Aufnahmeserie: weggelassen</translation>
+    </message>
+    <message>
+        <source>which photo belongs to which shot could not be checked (%1): they are taken in the order of their names</source>
+        <translation>welches Bild zu welcher Aufnahme gehört, ließ sich nicht prüfen (%1): Es gilt die Reihenfolge der Namen</translation>
+    </message>
+    <message>
+        <source>names, times and counts</source>
+        <translation>Namen, Zeiten und Anzahl</translation>
+    </message>
+    <message>
+        <source>names and counts</source>
+        <translation>Namen und Anzahl</translation>
+    </message>
+    <message>
+        <source>the record tells no times</source>
+        <translation>die Aufnahmedatei nennt keine Zeiten</translation>
+    </message>
+    <message>
+        <source>the photos tell no times</source>
+        <translation>die Bilder nennen keine Zeiten</translation>
+    </message>
+    <message>
+        <source>the times of photos and record do not agree</source>
+        <translation>die Zeiten von Bildern und Aufnahmedatei stimmen nicht überein</translation>
+    </message>
+    <message>
+        <source>%1 left out: other files of the same photos are used, JPEG before RAW</source>
+        <translation>%1 weggelassen: Andere Dateien derselben Bilder werden verwendet, JPEG vor RAW</translation>
+    </message>
+    <message>
+        <source>not opened: %1 agree</source>
+        <translation>nicht geöffnet: %1 stimmen überein</translation>
+    </message>
+    <message>
+        <source>the grid</source>
+        <translation>das Raster</translation>
+    </message>
+    <message>
+        <source>none of its shots has a photo</source>
+        <translation>zu keiner seiner Aufnahmen gibt es ein Bild</translation>
+    </message>
+    <message>
+        <source>are these the photos of this shoot?</source>
+        <translation>sind das die Bilder dieser Aufnahmeserie?</translation>
+    </message>
+    <message>
+        <source>was made of other photos</source>
+        <translation>wurde aus anderen Bildern erstellt</translation>
+    </message>
+    <message>
+        <source>%1 between %2</source>
+        <translation>%1 zwischen %2</translation>
+    </message>
+    <message>
+        <source>; %1 without a neighbour near enough</source>
+        <translation>; %1 ohne genügend nahen Nachbarn</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>shots %1</source>
+        <translation>Aufnahmen %1</translation>
+    </message>
+    <message>
+        <source>, exposure %1 of %2</source>
+        <translation>, Belichtung %1 von %2</translation>
+    </message>
+    <message>
+        <source>no photo for shot %1 (yaw %2, pitch %3%4)</source>
+        <translation>kein Bild für Aufnahme %1 (Gierwinkel %2, Nickwinkel %3%4)</translation>
+    </message>
+    <message>
+        <source>no photo for %1</source>
+        <translation>kein Bild für %1</translation>
+    </message>
+    <message>
+        <source>panorama of %1 x %2 pixels: takes about %3 in %4 (%5 are free) and %6 of memory</source>
+        <translation>Panorama mit %1 x %2 Pixeln: braucht etwa %3 in %4 (%5 sind frei) und %6 Arbeitsspeicher</translation>
+    </message>
+    <message>
+        <source>the light is exact to a fraction of a percent, but where every exposure clips it or shows noise</source>
+        <translation>die Lichtwerte sind auf Bruchteile eines Prozents genau, außer wo jede Belichtung ausgefressen ist oder rauscht</translation>
+    </message>
+    <message>
+        <source>the light is good for looking at, not for measuring: the photos&apos; curve is taken for sRGB&apos;s; RAW files, or TIFFs without a curve and --linear, make it exact</source>
+        <translation>die Lichtwerte taugen zum Ansehen, nicht zum Messen: Für die Tonwertkurve der Bilder wird die von sRGB angenommen; RAW-Dateien machen es genau</translation>
+    </message>
+    <message>
+        <source>is to hold what is kept of this panorama, and holds something else</source>
+        <translation>soll die Zwischenergebnisse dieses Panoramas aufnehmen, enthält aber etwas anderes</translation>
+    </message>
+    <message>
+        <source>rename it, or choose another name with -o</source>
+        <translation>umbenennen oder einen anderen Namen wählen</translation>
+    </message>
+    <message>
+        <source>the project asks for another projection; the panorama becomes equirectangular</source>
+        <translation>das Projekt verlangt eine andere Projektion; das Panorama wird equirektangular</translation>
+    </message>
+    <message>
+        <source>masks that include a region are passed over, only those that exclude one count</source>
+        <translation>Masken, die einen Bereich einschließen, werden übergangen; nur solche, die einen ausschließen, zählen</translation>
+    </message>
+    <message>
+        <source>--centre turns full turns only; this part of the sphere stays as it is</source>
+        <translation>nur ein voller Rundumblick lässt sich drehen; dieser Kugelausschnitt bleibt, wie er ist</translation>
+    </message>
+    <message>
+        <source>%1: cannot be read to its end; copy it from the card again, or take it again</source>
+        <translation>%1: nicht bis zum Ende lesbar; noch einmal von der Karte kopieren oder neu aufnehmen</translation>
+    </message>
+    <message>
+        <source>%1 of them are RAW files</source>
+        <translation>%1 davon sind RAW-Dateien</translation>
+    </message>
+    <message>
+        <source>add --raw-converter dcraw, dcraw_emu, darktable-cli or rawtherapee-cli, or give JPEGs or TIFFs of them</source>
+        <translation>dcraw, dcraw_emu, darktable-cli oder rawtherapee-cli installieren oder JPEGs oder TIFFs davon nehmen</translation>
+    </message>
+    <message>
+        <source>photos stay where the head says: optimisation is skipped</source>
+        <translation>die Bilder bleiben, wo der Kopf sie angibt: Die Optimierung wird übersprungen</translation>
+    </message>
+    <message>
+        <source>what was finished is kept in %1: the same command goes on from there</source>
+        <translation>was fertig ist, bleibt in %1 erhalten: „Panorama erstellen“ macht dort weiter</translation>
+    </message>
+    <message>
+        <source>photos lie where the record puts them in these commands: nothing is aligned yet</source>
+        <translation>die Bilder liegen hier noch, wo die Aufnahmedatei sie hinsetzt: Noch ist nichts ausgerichtet</translation>
+    </message>
+    <message>
+        <source>a Hugin project cannot hold a file name with quotation marks or line ends, and no link to it can be made in %1</source>
+        <translation>ein Hugin-Projekt kann keine Dateinamen mit Anführungszeichen oder Zeilenumbrüchen enthalten, und in %1 lässt sich keine Verknüpfung dazu anlegen</translation>
+    </message>
+    <message>
+        <source>rename the file</source>
+        <translation>die Datei umbenennen</translation>
+    </message>
+    <message>
+        <source>name dcraw, dcraw_emu, darktable-cli or rawtherapee-cli, or a command with %i for the RAW file and %o for the TIFF</source>
+        <translation>dcraw, dcraw_emu, darktable-cli oder rawtherapee-cli angeben, oder einen Befehl mit %i für die RAW-Datei und %o für das TIFF</translation>
+    </message>
+    <message>
+        <source>this RAW converter was not found</source>
+        <translation>dieser RAW-Konverter wurde nicht gefunden</translation>
+    </message>
+    <message>
+        <source>is its name right? of those known: apt install dcraw, libraw-bin, darktable or rawtherapee</source>
+        <translation>stimmt sein Name? bekannte: apt install dcraw, libraw-bin, darktable oder rawtherapee</translation>
+    </message>
+    <message>
+        <source>the camera chose the white balance of %1 RAW files one by one, and %2 follows it: their colours may differ; dcraw takes the first one&apos;s for all</source>
+        <translation>die Kamera hat den Weißabgleich von %1 RAW-Dateien einzeln gewählt, und %2 folgt ihr: Die Farben können sich unterscheiden; dcraw nimmt für alle den der ersten</translation>
+    </message>
+    <message>
+        <source>this copy of a photo cannot be made</source>
+        <translation>diese Kopie eines Bildes lässt sich nicht anlegen</translation>
+    </message>
+    <message>
+        <source>is the photo readable? is the disk full?</source>
+        <translation>ist das Bild lesbar? ist der Datenträger voll?</translation>
+    </message>
+    <message>
+        <source>, of %1</source>
+        <translation>, bei %1</translation>
+    </message>
+    <message>
+        <source>it left no whole picture of %1</source>
+        <translation>hat kein vollständiges Bild von %1 hinterlassen</translation>
+    </message>
+    <message>
+        <source>can it read this camera&apos;s files? is the disk full?</source>
+        <translation>kann es die Dateien dieser Kamera lesen? ist der Datenträger voll?</translation>
+    </message>
+    <message>
+        <source>names no program</source>
+        <translation>nennt kein Programm</translation>
+    </message>
+    <message>
+        <source>does not say where its files go</source>
+        <translation>sagt nicht, wohin seine Dateien kommen</translation>
+    </message>
+    <message>
+        <source>row %1 of column %2</source>
+        <translation>Zeile %1 in Spalte %2</translation>
+    </message>
+    <message>
+        <source>the grid reaches around the sphere: overlap or rows do not fit this lens</source>
+        <translation>das Raster reicht rund um die Kugel: Überlappung oder Zeilen passen nicht zu diesem Objektiv</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n column</source>
+        <translation>
+            <numerusform>%n Spalte</numerusform>
+            <numerusform>%n Spalten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file</source>
+        <translation>
+            <numerusform>%n Datei</numerusform>
+            <numerusform>%n Dateien</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n link</source>
+        <translation>
+            <numerusform>%n Verknüpfung</numerusform>
+            <numerusform>%n Verknüpfungen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n photo</source>
+        <translation>
+            <numerusform>%n Bild</numerusform>
+            <numerusform>%n Bilder</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n position</source>
+        <translation>
+            <numerusform>%n Position</numerusform>
+            <numerusform>%n Positionen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row</source>
+        <translation>
+            <numerusform>%n Zeile</numerusform>
+            <numerusform>%n Zeilen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n shot</source>
+        <translation>
+            <numerusform>%n Aufnahme</numerusform>
+            <numerusform>%n Aufnahmen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the description</source>
+        <translation>die Beschreibung</translation>
+    </message>
+    <message>
+        <source>%1 recorded directions for %2 photos at %3 positions</source>
+        <translation>%1 aufgezeichnete Richtungen für %2 Bilder an %3 Positionen</translation>
+    </message>
+    <message>
+        <source>its direction is not a number</source>
+        <translation>die Richtung ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>correct the record</source>
+        <translation>die Aufnahmedatei berichtigen</translation>
+    </message>
+    <message>
+        <source>position %1</source>
+        <translation>Position %1</translation>
+    </message>
+    <message>
+        <source>has no photo</source>
+        <translation>hat kein Bild</translation>
+    </message>
+    <message>
+        <source>holds no photos</source>
+        <translation>enthält keine Bilder</translation>
+    </message>
+    <message>
+        <source>name a file that &apos;panohost import --json&apos; has written</source>
+        <translation>eine Beschreibung auswählen, die dieses Programm gespeichert hat</translation>
+    </message>
+    <message>
+        <source>cannot read (not a photo?)</source>
+        <translation>nicht lesbar (kein Bild?)</translation>
+    </message>
+    <message>
+        <source>its pixels cannot be decoded (a RAW file?)</source>
+        <translation>die Bilddaten sind nicht lesbar (eine RAW-Datei?)</translation>
+    </message>
+    <message>
+        <source>too large to decode</source>
+        <translation>zu groß zum Lesen</translation>
+    </message>
+    <message>
+        <source>give it with --focal</source>
+        <translation>zurückgehen und sie eingeben</translation>
+    </message>
+    <message>
+        <source>neither the record nor the photos name it</source>
+        <translation>weder die Aufnahmedatei noch die Bilder nennen sie</translation>
+    </message>
+    <message>
+        <source>no lens has %1 mm</source>
+        <translation>kein Objektiv hat %1 mm</translation>
+    </message>
+    <message>
+        <source>its size in pixels is not known</source>
+        <translation>die Größe in Pixeln ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>can another program open it? leave it out if not</source>
+        <translation>kann ein anderes Programm es öffnen? wenn nicht, weglassen</translation>
+    </message>
+    <message>
+        <source>the photos have %1 different sizes in pixels</source>
+        <translation>die Bilder haben %1 verschiedene Größen in Pixeln</translation>
+    </message>
+    <message>
+        <source>a Hugin project cannot hold a file name with quotation marks or line ends</source>
+        <translation>ein Hugin-Projekt kann keine Dateinamen mit Anführungszeichen oder Zeilenumbrüchen enthalten</translation>
+    </message>
+    <message>
+        <source>%1 of %2 photos name no exposure; %3 is assumed</source>
+        <translation>%1 von %2 Bildern ohne Angabe der Belichtung; angenommen wird %3</translation>
+    </message>
+    <message>
+        <source>larger than %1 bytes</source>
+        <translation>größer als %1 Byte</translation>
+    </message>
+    <message>
+        <source>give the name of a file</source>
+        <translation>einen Dateinamen angeben</translation>
+    </message>
+    <message>
+        <source>set --plugin or PANOHOST_PLUGIN_PATH to libXPanoHead.so</source>
+        <translation>PANOHOST_PLUGIN_PATH auf libXPanoHead.so setzen</translation>
+    </message>
+    <message>
+        <source>no such file or folder</source>
+        <translation>Datei oder Ordner nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>import plug-ins</source>
+        <translation>Import-Plug-ins</translation>
+    </message>
+    <message>
+        <source>no plug-in library in %1</source>
+        <translation>keine Plug-in-Bibliothek in %1</translation>
+    </message>
+    <message>
+        <source>is not a Qt plug-in library</source>
+        <translation>ist keine Qt-Plug-in-Bibliothek</translation>
+    </message>
+    <message>
+        <source>its interface is &apos;%1&apos;, &apos;%2&apos; is needed</source>
+        <translation>die Schnittstelle ist „%1“, gebraucht wird „%2“</translation>
+    </message>
+    <message>
+        <source>offers no list of plug-ins</source>
+        <translation>bietet keine Liste der Plug-ins</translation>
+    </message>
+    <message>
+        <source>holds no import plug-in</source>
+        <translation>enthält kein Import-Plug-in</translation>
+    </message>
+    <message>
+        <source>cannot be written</source>
+        <translation>lässt sich nicht schreiben</translation>
+    </message>
+    <message>
+        <source>is of another size than the others of its bracket</source>
+        <translation>hat eine andere Größe als die übrigen der Belichtungsreihe</translation>
+    </message>
+    <message>
+        <source>is no warped light</source>
+        <translation>enthält keine entzerrten Lichtwerte</translation>
+    </message>
+    <message>
+        <source>these photos of the project, and %1 more, are not there any more</source>
+        <translation>diese Bilder des Projekts und %1 weitere sind nicht mehr da</translation>
+    </message>
+    <message>
+        <source>not there any more</source>
+        <translation>nicht mehr da</translation>
+    </message>
+    <message>
+        <source>put the photos back where they were, or import them again</source>
+        <translation>die Bilder dorthin zurücklegen, wo sie waren, oder erneut importieren</translation>
+    </message>
+    <message>
+        <source>%1 has %2 bits a colour, %3 has %4, and all must be alike to be blended</source>
+        <translation>%1 hat %2 Bit je Farbe, %3 hat %4; zum Überblenden müssen alle gleich sein</translation>
+    </message>
+    <message>
+        <source>convert or develop them alike</source>
+        <translation>alle gleich umwandeln oder entwickeln</translation>
+    </message>
+    <message>
+        <source>was not written to its end</source>
+        <translation>wurde nicht bis zum Ende geschrieben</translation>
+    </message>
+    <message>
+        <source>is there enough room in %1?</source>
+        <translation>ist in %1 genug Platz?</translation>
+    </message>
+    <message>
+        <source>nona, of %1</source>
+        <translation>nona, bei %1</translation>
+    </message>
+    <message>
+        <source>made no picture of %1</source>
+        <translation>hat aus %1 kein Bild erstellt</translation>
+    </message>
+    <message>
+        <source>is it a photo that other programs open?</source>
+        <translation>ist es ein Bild, das andere Programme öffnen?</translation>
+    </message>
+    <message>
+        <source>size of the panorama</source>
+        <translation>Größe des Panoramas</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels cannot be made</source>
+        <translation>%1 x %2 Pixel sind nicht möglich</translation>
+    </message>
+    <message>
+        <source>choose another --size</source>
+        <translation>eine andere Größe wählen</translation>
+    </message>
+    <message>
+        <source>the stitch needs %1 there, %2 are free</source>
+        <translation>das Panorama braucht dort %1, frei sind %2</translation>
+    </message>
+    <message>
+        <source>make room, name another place with -o, or choose a smaller --size</source>
+        <translation>Platz schaffen oder einen anderen Ort oder eine kleinere Größe wählen</translation>
+    </message>
+    <message>
+        <source>memory</source>
+        <translation>Arbeitsspeicher</translation>
+    </message>
+    <message>
+        <source>the stitch needs about %1, %2 are available</source>
+        <translation>das Panorama braucht etwa %1, verfügbar sind %2</translation>
+    </message>
+    <message>
+        <source>close other programs, or choose --jobs 1 or a smaller --size</source>
+        <translation>andere Programme schließen oder eine kleinere Größe wählen</translation>
+    </message>
+    <message>
+        <source>try it by itself</source>
+        <translation>das Programm für sich allein ausprobieren</translation>
+    </message>
+    <message>
+        <source>%1 minutes</source>
+        <translation>%1 Minuten</translation>
+    </message>
+    <message>
+        <source>it was killed, perhaps because memory ran out</source>
+        <translation>wurde beendet, vielleicht weil der Arbeitsspeicher nicht reichte</translation>
+    </message>
+    <message>
+        <source>close other programs and try again</source>
+        <translation>andere Programme schließen und erneut versuchen</translation>
+    </message>
+    <message>
+        <source>it crashed (signal %1)</source>
+        <translation>abgestürzt (Signal %1)</translation>
+    </message>
+    <message>
+        <source>%1 and said: %2</source>
+        <translation>%1, mit der Meldung: %2</translation>
+    </message>
+    <message>
+        <source> if so: %1</source>
+        <translation> wenn ja: %1</translation>
+    </message>
+    <message>
+        <source>this program is needed for stitching and was not found</source>
+        <translation>dieses Programm wird zum Zusammensetzen gebraucht und wurde nicht gefunden</translation>
+    </message>
+    <message>
+        <source>cannot be started (%1)</source>
+        <translation>lässt sich nicht starten (%1)</translation>
+    </message>
+    <message>
+        <source>it was stopped since it did nothing for %1</source>
+        <translation>wurde angehalten, weil es %1 lang nichts tat</translation>
+    </message>
+    <message>
+        <source>is the machine very busy, or a network drive away? try again</source>
+        <translation>ist der Rechner stark ausgelastet oder ein Netzlaufwerk nicht erreichbar? erneut versuchen</translation>
+    </message>
+    <message>
+        <source>it failed without a message</source>
+        <translation>ist ohne Meldung fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>it failed and said: %1</source>
+        <translation>ist fehlgeschlagen, mit der Meldung: %1</translation>
+    </message>
+    <message>
+        <source>is the disk full, or a file damaged that it reads?</source>
+        <translation>ist der Datenträger voll oder eine der gelesenen Dateien beschädigt?</translation>
+    </message>
+    <message>
+        <source>it failed, and there is hardly any room left on the disk at %1 (%2)</source>
+        <translation>ist fehlgeschlagen, und auf dem Datenträger bei %1 ist kaum noch Platz (%2)</translation>
+    </message>
+    <message>
+        <source>make room there and go on with the same command; nothing is lost</source>
+        <translation>dort Platz schaffen und erneut „Panorama erstellen“ drücken; nichts geht verloren</translation>
+    </message>
+    <message>
+        <source>was the disk full? remove the file and try again</source>
+        <translation>war der Datenträger voll? die Datei entfernen und erneut versuchen</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>nicht lesbar</translation>
+    </message>
+    <message>
+        <source>is no picture of 8, 16 or floating bits</source>
+        <translation>ist kein Bild mit 8 Bit, 16 Bit oder Gleitkommawerten</translation>
+    </message>
+    <message>
+        <source>is cut off</source>
+        <translation>ist abgeschnitten</translation>
+    </message>
+    <message>
+        <source>cannot be mapped into memory</source>
+        <translation>lässt sich nicht in den Arbeitsspeicher einblenden</translation>
+    </message>
+    <message>
+        <source>is the disk full, or the folder read-only?</source>
+        <translation>ist der Datenträger voll oder der Ordner schreibgeschützt?</translation>
+    </message>
+    <message>
+        <source>%1, process %2 on %3</source>
+        <translation>%1, Prozess %2 auf %3</translation>
+    </message>
+    <message>
+        <source>another program</source>
+        <translation>einem anderen Programm</translation>
+    </message>
+    <message>
+        <source>there is a file of that name: rename it, or choose another name with -o</source>
+        <translation>es gibt eine Datei dieses Namens: sie umbenennen oder einen anderen Namen wählen</translation>
+    </message>
+    <message>
+        <source>is in use by %1</source>
+        <translation>wird benutzt von %1</translation>
+    </message>
+    <message>
+        <source>wait for it to end, or choose another name with -o</source>
+        <translation>warten, bis es fertig ist, oder einen anderen Namen wählen</translation>
     </message>
 </context>
 <context>

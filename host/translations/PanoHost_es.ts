@@ -64,36 +64,16 @@
         <translation>%1 (paso %2 de %3)</translation>
     </message>
     <message>
-        <source>or choose a smaller size</source>
-        <translation>o elija un tamaño menor</translation>
+        <source>%1 x %2 in at %3 dpi</source>
+        <translation>%1 x %2 pulgadas a %3 ppp</translation>
     </message>
     <message>
-        <source>choose a smaller size</source>
-        <translation>elija un tamaño menor</translation>
+        <source>%1 x %2 cm at %3 dpi</source>
+        <translation>%1 x %2 cm a %3 ppp</translation>
     </message>
     <message>
-        <source>choose another size</source>
-        <translation>elija otro tamaño</translation>
-    </message>
-    <message>
-        <source>RAW files make it exact</source>
-        <translation>los archivos RAW la hacen exacta</translation>
-    </message>
-    <message>
-        <source>press Make panorama again</source>
-        <translation>pulse de nuevo «Crear panorama»</translation>
-    </message>
-    <message>
-        <source>go back and enter it</source>
-        <translation>vuelva atrás e introdúzcala</translation>
-    </message>
-    <message>
-        <source>Make panorama goes on from here</source>
-        <translation>«Crear panorama» continúa desde aquí</translation>
-    </message>
-    <message>
-        <source>%1 x %2 pixels at most; takes up to %3 of the disk and %4 of memory.</source>
-        <translation>Como máximo %1 x %2 píxeles; ocupa hasta %3 de disco y %4 de memoria.</translation>
+        <source>%1 x %2 pixels at most (%3); takes up to %4 of the disk and %5 of memory.</source>
+        <translation>Como máximo %1 x %2 píxeles (%3); ocupa hasta %4 de disco y %5 de memoria.</translation>
     </message>
 </context>
 <context>
@@ -208,14 +188,29 @@
     </message>
 </context>
 <context>
-    <name>PanoHost::ImportWizard</name>
+    <name>PanoHost::HelpMenu</name>
     <message>
-        <source>Import a panorama</source>
-        <translation>Importar un panorama</translation>
+        <source>&amp;Help</source>
+        <translation>Ay&amp;uda</translation>
     </message>
     <message>
         <source>Help</source>
         <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>&amp;Preferences...</source>
+        <translation>&amp;Preferencias...</translation>
+    </message>
+    <message>
+        <source>&amp;About panohost</source>
+        <translation>Acerca &amp;de panohost</translation>
+    </message>
+</context>
+<context>
+    <name>PanoHost::ImportWizard</name>
+    <message>
+        <source>Import a panorama</source>
+        <translation>Importar un panorama</translation>
     </message>
     <message>
         <source>&amp;Another import</source>
@@ -260,18 +255,6 @@
     <message>
         <source>This page could not do what you asked: %1. Your files are as they were. Try again, or go back and choose fewer files.</source>
         <translation>Esta página no ha podido hacer lo que pidió: %1. Sus archivos están como estaban. Inténtelo de nuevo, o vuelva atrás y elija menos archivos.</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>Ay&amp;uda</translation>
-    </message>
-    <message>
-        <source>&amp;Preferences...</source>
-        <translation>&amp;Preferencias...</translation>
-    </message>
-    <message>
-        <source>&amp;About panohost</source>
-        <translation>Acerca &amp;de panohost</translation>
     </message>
     <message>
         <source>Choose the head that took the photos, then Next. You can also drop the head&apos;s record and the photos, or the folder that holds them, onto this window.</source>
@@ -619,10 +602,6 @@
         <translation>Herramientas:</translation>
     </message>
     <message>
-        <source>Language and thumbnails change with the next start.</source>
-        <translation>El idioma y las miniaturas cambian en el próximo inicio.</translation>
-    </message>
-    <message>
         <source>As the desktop</source>
         <translation>Como el escritorio</translation>
     </message>
@@ -645,6 +624,22 @@
     <message>
         <source>%1 is no folder; choose another one, or leave the field empty.</source>
         <translation>%1 no es una carpeta; elija otra o deje el campo vacío.</translation>
+    </message>
+    <message>
+        <source>Centimetres</source>
+        <translation>Centímetros</translation>
+    </message>
+    <message>
+        <source>Inches</source>
+        <translation>Pulgadas</translation>
+    </message>
+    <message>
+        <source>&amp;Units of prints:</source>
+        <translation>&amp;Unidades de las copias:</translation>
+    </message>
+    <message>
+        <source>The language changes with the next start.</source>
+        <translation>El idioma cambia en el próximo inicio.</translation>
     </message>
 </context>
 <context>
@@ -1160,6 +1155,1270 @@
     <message>
         <source>%1 was not saved: %2</source>
         <translation>%1 no se ha guardado: %2</translation>
+    </message>
+</context>
+<context>
+    <name>PanoHost::Said</name>
+    <message>
+        <source>no control points are wanted (automatic detection is off): kept as recorded</source>
+        <translation>no se piden puntos de control (la detección automática está desactivada): las fotos se quedan donde se registraron</translation>
+    </message>
+    <message>
+        <source>photos are left as recorded (optimisation is skipped)</source>
+        <translation>las fotos se quedan donde se registraron (se omite la optimización)</translation>
+    </message>
+    <message>
+        <source>there is one photo only: kept as recorded</source>
+        <translation>solo hay una foto: se queda donde se registró</translation>
+    </message>
+    <message>
+        <source>no two photos overlap where the record puts them: kept as recorded</source>
+        <translation>ninguna foto se solapa con otra donde las sitúa el registro: se quedan donde se registraron</translation>
+    </message>
+    <message>
+        <source>no spot was found in two photos (nothing but sky or fog, or the photos are not of this record): kept as recorded</source>
+        <translation>no se ha encontrado ningún punto común a dos fotos (solo hay cielo o niebla, o las fotos no son de este registro): se quedan donde se registraron</translation>
+    </message>
+    <message>
+        <source>%1; kept as recorded</source>
+        <translation>%1; las fotos se quedan donde se registraron</translation>
+    </message>
+    <message>
+        <source>none of the photos can be used: were they moved since the import?</source>
+        <translation>no se puede usar ninguna de las fotos: ¿se han movido desde la importación?</translation>
+    </message>
+    <message>
+        <source>the photos fit the order &apos;%1&apos; better than &apos;%2&apos;: import them with --mode %1</source>
+        <translation>las fotos concuerdan mejor con el orden «%1» que con «%2»: impórtelas con el orden %1</translation>
+    </message>
+    <message>
+        <source>the panorama is made %1 stops brighter: what is white in a photo stays white</source>
+        <translation>el panorama se aclara %1 pasos: lo que es blanco en una foto sigue siendo blanco</translation>
+    </message>
+    <message>
+        <source>%1 of %2 tied, %3, median %4 pixels</source>
+        <translation>%1 de %2 enlazadas, %3, mediana de %4 píxeles</translation>
+    </message>
+    <message>
+        <source>%1 point</source>
+        <translation>%1 punto</translation>
+    </message>
+    <message>
+        <source>%1 points</source>
+        <translation>%1 puntos</translation>
+    </message>
+    <message>
+        <source> and %1 more</source>
+        <translation> y %1 más</translation>
+    </message>
+    <message>
+        <source>no points in %1 (%2): kept where the head put it</source>
+        <translation>sin puntos en %1 (%2): se queda donde la situó el cabezal</translation>
+    </message>
+    <message>
+        <source>no points in %1 (%2): kept where the head put them</source>
+        <translation>sin puntos en %1 (%2): se quedan donde las situó el cabezal</translation>
+    </message>
+    <message>
+        <source>lens %1 mm instead of %2</source>
+        <translation>objetivo de %1 mm en lugar de %2</translation>
+    </message>
+    <message>
+        <source>the lens darkens its corners by %1 %: evened out</source>
+        <translation>el objetivo oscurece las esquinas un %1&#xa0;%: compensado</translation>
+    </message>
+    <message>
+        <source>exposures are not what the photos say, by up to %1 stops: evened out</source>
+        <translation>las exposiciones difieren hasta %1 pasos de lo que indican las fotos: compensado</translation>
+    </message>
+    <message>
+        <source>the head repeats to %1 degrees</source>
+        <translation>repetibilidad del cabezal: %1 grados</translation>
+    </message>
+    <message>
+        <source>less than %1</source>
+        <translation>menos de %1</translation>
+    </message>
+    <message>
+        <source>the camera sits %1 degrees crooked on the head</source>
+        <translation>la cámara está torcida %1 grados sobre el cabezal</translation>
+    </message>
+    <message>
+        <source>the head&apos;s steps are %1 (across) and %2 (up) times what was stated</source>
+        <translation>los pasos del cabezal son %1 (en horizontal) y %2 (en vertical) veces los indicados</translation>
+    </message>
+    <message>
+        <source>from %1 on the head stands %2 degrees farther right than recorded: did its turning axis slip?</source>
+        <translation>a partir de %1, el cabezal está %2 grados más a la derecha de lo registrado: ¿ha patinado su eje de giro?</translation>
+    </message>
+    <message>
+        <source>from %1 on the head stands %2 degrees farther left than recorded: did its turning axis slip?</source>
+        <translation>a partir de %1, el cabezal está %2 grados más a la izquierda de lo registrado: ¿ha patinado su eje de giro?</translation>
+    </message>
+    <message>
+        <source>from %1 on the head stands %2 degrees higher than recorded: did its tilting axis slip?</source>
+        <translation>a partir de %1, el cabezal está %2 grados más arriba de lo registrado: ¿ha patinado su eje de inclinación?</translation>
+    </message>
+    <message>
+        <source>from %1 on the head stands %2 degrees lower than recorded: did its tilting axis slip?</source>
+        <translation>a partir de %1, el cabezal está %2 grados más abajo de lo registrado: ¿ha patinado su eje de inclinación?</translation>
+    </message>
+    <message>
+        <source>%1 was taken %2 degrees from where the head says: was it bumped?</source>
+        <translation>%1 se tomó a %2 grados de donde dice el cabezal: ¿recibió un golpe?</translation>
+    </message>
+    <message>
+        <source>residuals suggest parallax (%1 pixels): near things move against far ones; is the camera&apos;s nodal point on the head&apos;s axes?</source>
+        <translation>los errores restantes apuntan a paralaje (%1 píxeles): lo cercano se desplaza respecto a lo lejano; ¿está el punto nodal de la cámara en los ejes del cabezal?</translation>
+    </message>
+    <message>
+        <source>was %1 x %2 pixels when imported, is now %3 x %4</source>
+        <translation>tenía %1 x %2 píxeles al importarla, ahora tiene %3 x %4</translation>
+    </message>
+    <message>
+        <source>cannot keep the features of photos there: %1</source>
+        <translation>ahí no se pueden guardar los detalles de las fotos: %1</translation>
+    </message>
+    <message>
+        <source>TMPDIR names a folder with more room</source>
+        <translation>indique en TMPDIR una carpeta con más espacio</translation>
+    </message>
+    <message>
+        <source>cannot read the features of photos back: %1</source>
+        <translation>no se pueden volver a leer los detalles de las fotos: %1</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>sin indicar</translation>
+    </message>
+    <message>
+        <source>%1: %2, bracket %3, focal %4, lens %5</source>
+        <translation>%1: %2, horquillado de %3, focal %4, objetivo %5</translation>
+    </message>
+    <message>
+        <source>copy it from the card again</source>
+        <translation>vuelva a copiarla de la tarjeta</translation>
+    </message>
+    <message>
+        <source>%1 given, %2 readable, focal %3, lens %4</source>
+        <translation>%1 elegidas, %2 legibles, focal %3, objetivo %4</translation>
+    </message>
+    <message>
+        <source>neither the photos nor the record name the focal length</source>
+        <translation>ni las fotos ni el registro indican la distancia focal</translation>
+    </message>
+    <message>
+        <source>give it, as for 35 mm film: --focal 24</source>
+        <translation>introdúzcala, equivalente a película de 35 mm</translation>
+    </message>
+    <message>
+        <source>not all photos have a capture time</source>
+        <translation>no todas las fotos tienen hora de captura</translation>
+    </message>
+    <message>
+        <source>%1 was taken before %2</source>
+        <translation>%1 se tomó antes que %2</translation>
+    </message>
+    <message>
+        <source>try --order time</source>
+        <translation>pruebe a ordenarlas por hora</translation>
+    </message>
+    <message>
+        <source>capture times agree</source>
+        <translation>las horas de captura concuerdan</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ninguno</translation>
+    </message>
+    <message>
+        <source>%1 s after %2 (usually %3 s)</source>
+        <translation>%1 s después de %2 (normalmente %3 s)</translation>
+    </message>
+    <message>
+        <source>standard</source>
+        <translation>estándar</translation>
+    </message>
+    <message>
+        <source>fisheye</source>
+        <translation>ojo de pez</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>this folder cannot be made</source>
+        <translation>no se puede crear esta carpeta</translation>
+    </message>
+    <message>
+        <source>is the disk full, or the folder above it read-only?</source>
+        <translation>¿está lleno el disco, o protegida contra escritura la carpeta superior?</translation>
+    </message>
+    <message>
+        <source>no photo reaches these sides of the cube, which are left out: %1</source>
+        <translation>ninguna foto llega a estas caras del cubo, que se dejan fuera: %1</translation>
+    </message>
+    <message>
+        <source>cannot be written (%1)</source>
+        <translation>no se puede escribir (%1)</translation>
+    </message>
+    <message>
+        <source>make room there or choose another place</source>
+        <translation>libere espacio ahí o elija otro lugar</translation>
+    </message>
+    <message>
+        <source>the folder %1 does not exist</source>
+        <translation>la carpeta %1 no existe</translation>
+    </message>
+    <message>
+        <source>create it or choose another place</source>
+        <translation>créela o elija otro lugar</translation>
+    </message>
+    <message>
+        <source>is a folder</source>
+        <translation>es una carpeta</translation>
+    </message>
+    <message>
+        <source>is not a regular file</source>
+        <translation>no es un archivo normal</translation>
+    </message>
+    <message>
+        <source>remove it or choose another name with -o</source>
+        <translation>quítelo o elija otro nombre</translation>
+    </message>
+    <message>
+        <source>is a file, and a folder of that name is wanted</source>
+        <translation>es un archivo, y hace falta una carpeta con ese nombre</translation>
+    </message>
+    <message>
+        <source>is a folder that panohost has not made</source>
+        <translation>es una carpeta no creada por panohost</translation>
+    </message>
+    <message>
+        <source>it left a file that is not complete</source>
+        <translation>ha dejado un archivo incompleto</translation>
+    </message>
+    <message>
+        <source>is the disk full? make room and try again</source>
+        <translation>¿está lleno el disco? libere espacio e inténtelo de nuevo</translation>
+    </message>
+    <message>
+        <source>make room there and try again</source>
+        <translation>libere espacio ahí e inténtelo de nuevo</translation>
+    </message>
+    <message>
+        <source>the panorama has %1 x %2 pixels, and JPEG files at most %3 to a side</source>
+        <translation>el panorama tiene %1 x %2 píxeles, y los archivos JPEG admiten como máximo %3 por lado</translation>
+    </message>
+    <message>
+        <source>name it .tif, or make it smaller with --size</source>
+        <translation>use un nombre con .tif o elija un tamaño menor</translation>
+    </message>
+    <message>
+        <source>this panorama&apos;s values are not light</source>
+        <translation>los valores de este panorama no son de luz</translation>
+    </message>
+    <message>
+        <source>needs --output hdr</source>
+        <translation>elija «La luz misma (HDR)»</translation>
+    </message>
+    <message>
+        <source>is not the panorama that was stitched last</source>
+        <translation>no es el último panorama que se unió</translation>
+    </message>
+    <message>
+        <source>remove it and try again</source>
+        <translation>quítelo e inténtelo de nuevo</translation>
+    </message>
+    <message>
+        <source>it left %1 incomplete</source>
+        <translation>ha dejado %1 sin terminar</translation>
+    </message>
+    <message>
+        <source>is the disk full?</source>
+        <translation>¿está lleno el disco?</translation>
+    </message>
+    <message>
+        <source>the address where the folder will be reached is not known</source>
+        <translation>no se conoce la dirección en la que se encontrará la carpeta</translation>
+    </message>
+    <message>
+        <source>give it, such as https://example.org/panoramas</source>
+        <translation>indíquela, por ejemplo https://example.org/panoramas</translation>
+    </message>
+    <message>
+        <source>%1 less %2 ignored</source>
+        <translation>%1 menos %2 sin usar</translation>
+    </message>
+    <message>
+        <source>%1, %2, bracket %3, %4 ignored</source>
+        <translation>%1, %2, horquillado de %3, omitidas: %4</translation>
+    </message>
+    <message>
+        <source>photos</source>
+        <translation>fotos</translation>
+    </message>
+    <message>
+        <source>--ignore %1 leaves none of %2</source>
+        <translation>si se omiten %1, no queda ninguna de %2</translation>
+    </message>
+    <message>
+        <source>ignore fewer, or name all photos</source>
+        <translation>omita menos, o elija todas las fotos</translation>
+    </message>
+    <message>
+        <source>--bracket %1 is more than %2</source>
+        <translation>%2 no bastan para un horquillado de %1</translation>
+    </message>
+    <message>
+        <source>each position needs all its exposures</source>
+        <translation>cada posición necesita todas sus exposiciones</translation>
+    </message>
+    <message>
+        <source>%1 are not a multiple of bracket %2</source>
+        <translation>%1 no son múltiplo del horquillado de %2</translation>
+    </message>
+    <message>
+        <source>each position needs all its exposures; --ignore N leaves out the first N photos</source>
+        <translation>cada posición necesita todas sus exposiciones; se pueden omitir las primeras fotos</translation>
+    </message>
+    <message>
+        <source>%1 (%2 in brackets of %3)</source>
+        <translation>%1 (%2 en horquillados de %3)</translation>
+    </message>
+    <message>
+        <source>%1 do not divide %2 evenly</source>
+        <translation>%2 no se reparten por igual en %1</translation>
+    </message>
+    <message>
+        <source>are photos missing? --ignore N leaves out the first N photos</source>
+        <translation>¿faltan fotos? se pueden omitir las primeras</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 y %2 más</translation>
+    </message>
+    <message>
+        <source>no pause tells where</source>
+        <translation>ninguna pausa indica dónde</translation>
+    </message>
+    <message>
+        <source>the longest pause: %1, in row %2 as they were taken</source>
+        <translation>la pausa más larga: %1, en la fila %2 según el orden de las tomas</translation>
+    </message>
+    <message>
+        <source>the longest pause: %1, in column %2 as they were taken</source>
+        <translation>la pausa más larga: %1, en la columna %2 según el orden de las tomas</translation>
+    </message>
+    <message>
+        <source>the pictures do not tell which are missing: %1</source>
+        <translation>las imágenes no permiten saber cuáles faltan: %1</translation>
+    </message>
+    <message>
+        <source>no photo for %1 (rows from the top, columns from the left)</source>
+        <translation>no hay foto para %1 (filas desde arriba, columnas desde la izquierda)</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>no existe el archivo</translation>
+    </message>
+    <message>
+        <source>not a regular file</source>
+        <translation>no es un archivo normal</translation>
+    </message>
+    <message>
+        <source>no &lt;shoot&gt; pictures</source>
+        <translation>no contiene imágenes &lt;shoot&gt;</translation>
+    </message>
+    <message>
+        <source>is it an old-style Papywizard file (image/coords)?</source>
+        <translation>¿es un archivo antiguo de Papywizard (image/coords)?</translation>
+    </message>
+    <message>
+        <source>its &lt;shoot&gt; holds no &lt;pict&gt;: no shot was recorded</source>
+        <translation>su &lt;shoot&gt; no contiene ningún &lt;pict&gt;: no se registró ninguna toma</translation>
+    </message>
+    <message>
+        <source>choose the record of a finished shoot</source>
+        <translation>elija el registro de una sesión terminada</translation>
+    </message>
+    <message>
+        <source>no op_shoot command: no shot was recorded</source>
+        <translation>sin orden op_shoot: no se registró ninguna toma</translation>
+    </message>
+    <message>
+        <source>is it the script that the head ran?</source>
+        <translation>¿es el script que ejecutó el cabezal?</translation>
+    </message>
+    <message>
+        <source>correct this line, or choose another script</source>
+        <translation>corrija esta línea o elija otro script</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>línea %1: %2</translation>
+    </message>
+    <message>
+        <source>is it the record that the head wrote?</source>
+        <translation>¿es el registro que escribió el cabezal?</translation>
+    </message>
+    <message>
+        <source>no such record</source>
+        <translation>no existe el registro</translation>
+    </message>
+    <message>
+        <source>check the name</source>
+        <translation>revise el nombre</translation>
+    </message>
+    <message>
+        <source>unknown head &apos;%1&apos;%2</source>
+        <translation>cabezal desconocido «%1»%2</translation>
+    </message>
+    <message>
+        <source>heads: %1</source>
+        <translation>cabezales: %1</translation>
+    </message>
+    <message>
+        <source>no record of some of its shots can be made</source>
+        <translation>no se puede crear un registro con solo algunas de sus tomas</translation>
+    </message>
+    <message>
+        <source>take the shots by hand</source>
+        <translation>haga las tomas a mano</translation>
+    </message>
+    <message>
+        <source>using %1</source>
+        <translation>se usa %1</translation>
+    </message>
+    <message>
+        <source>has no import plug-in for %1</source>
+        <translation>no tiene complemento de importación para %1</translation>
+    </message>
+    <message>
+        <source>set --plugin to another library</source>
+        <translation>use otra biblioteca de complementos</translation>
+    </message>
+    <message>
+        <source>the page refuses them</source>
+        <translation>la página las rechaza</translation>
+    </message>
+    <message>
+        <source>make it first</source>
+        <translation>créela antes</translation>
+    </message>
+    <message>
+        <source>name a file in it</source>
+        <translation>elija un archivo dentro de ella</translation>
+    </message>
+    <message>
+        <source>name a file of your own</source>
+        <translation>elija un archivo propio</translation>
+    </message>
+    <message>
+        <source>cannot be written there: %1</source>
+        <translation>no se puede escribir ahí: %1</translation>
+    </message>
+    <message>
+        <source>choose a folder of your own</source>
+        <translation>elija una carpeta propia</translation>
+    </message>
+    <message>
+        <source>is one of the input files</source>
+        <translation>es uno de los archivos de entrada</translation>
+    </message>
+    <message>
+        <source>choose another name for the result</source>
+        <translation>elija otro nombre para el resultado</translation>
+    </message>
+    <message>
+        <source>given twice</source>
+        <translation>elegida dos veces</translation>
+    </message>
+    <message>
+        <source>name each photo once</source>
+        <translation>elija cada foto una sola vez</translation>
+    </message>
+    <message>
+        <source>no such photo</source>
+        <translation>no existe la foto</translation>
+    </message>
+    <message>
+        <source>rename the file: its name is not in UTF-8</source>
+        <translation>cambie el nombre del archivo: no está en UTF-8</translation>
+    </message>
+    <message>
+        <source>name the photos in it, e.g. %1/*.jpg</source>
+        <translation>elija las fotos que contiene, p. ej. %1/*.jpg</translation>
+    </message>
+    <message>
+        <source>name photos only</source>
+        <translation>elija solo fotos</translation>
+    </message>
+    <message>
+        <source>cannot be read: permission denied</source>
+        <translation>no se puede leer: permiso denegado</translation>
+    </message>
+    <message>
+        <source>copy it to a folder of your own</source>
+        <translation>cópiela a una carpeta propia</translation>
+    </message>
+    <message>
+        <source>are photos missing, or did the shoot stop early?</source>
+        <translation>¿faltan fotos, o se detuvo antes la sesión?</translation>
+    </message>
+    <message>
+        <source>are test shots among the photos?</source>
+        <translation>¿hay tomas de prueba entre las fotos?</translation>
+    </message>
+    <message>
+        <source>records %1, %2 given</source>
+        <translation>contiene %1, y aquí hay %2</translation>
+    </message>
+    <message>
+        <source>has no capture time to order by</source>
+        <translation>no tiene hora de captura para ordenarla</translation>
+    </message>
+    <message>
+        <source>use --order name or --order given</source>
+        <translation>ordene las fotos por nombre</translation>
+    </message>
+    <message>
+        <source>the record</source>
+        <translation>el registro</translation>
+    </message>
+    <message>
+        <source>the photos&apos; EXIF data</source>
+        <translation>los datos EXIF de las fotos</translation>
+    </message>
+    <message>
+        <source>the photos&apos; EXIF data or the record</source>
+        <translation>los datos EXIF de las fotos ni en el registro</translation>
+    </message>
+    <message>
+        <source>focal length</source>
+        <translation>distancia focal</translation>
+    </message>
+    <message>
+        <source>not known from %1</source>
+        <translation>no consta en %1</translation>
+    </message>
+    <message>
+        <source>give it with --focal MM (35 mm equivalent)</source>
+        <translation>vuelva atrás e introdúzcala (equivalente a 35 mm)</translation>
+    </message>
+    <message>
+        <source>focal length %1 (EXIF) against %2 (record); using EXIF; choose with --focal</source>
+        <translation>distancia focal de %1 (EXIF) frente a %2 (registro); se usa la de EXIF</translation>
+    </message>
+    <message>
+        <source>%1 of the photos name no focal length; using that of the others; choose with --focal</source>
+        <translation>%1 de las fotos no indican la distancia focal; se usa la de las demás</translation>
+    </message>
+    <message>
+        <source>%1 lens (EXIF) against %2 (record); using EXIF; choose with --lens</source>
+        <translation>objetivo %1 (EXIF) frente a %2 (registro); se usa el de EXIF</translation>
+    </message>
+    <message>
+        <source>the photos name focal lengths from %1 to %2; using their median; choose with --focal</source>
+        <translation>las fotos indican distancias focales de %1 a %2; se usa su mediana</translation>
+    </message>
+    <message>
+        <source>plug-in page</source>
+        <translation>página del complemento</translation>
+    </message>
+    <message>
+        <source>has no &apos;%1&apos;</source>
+        <translation>no tiene «%1»</translation>
+    </message>
+    <message>
+        <source>is this library of another version? set --plugin</source>
+        <translation>¿es esta biblioteca de otra versión?</translation>
+    </message>
+    <message>
+        <source>%1 is not between %2 and %3</source>
+        <translation>%1 no está entre %2 y %3</translation>
+    </message>
+    <message>
+        <source>its photo button opens no file dialog</source>
+        <translation>su botón de fotos no abre ningún diálogo de archivos</translation>
+    </message>
+    <message>
+        <source> (and %1 more of %2 photos)</source>
+        <translation> (y %1 más de %2 fotos)</translation>
+    </message>
+    <message>
+        <source>cannot read (%1)%2</source>
+        <translation>no se puede leer (%1)%2</translation>
+    </message>
+    <message>
+        <source>is it a photo? try &apos;panohost check&apos;</source>
+        <translation>¿es una foto? vea la línea bajo la página</translation>
+    </message>
+    <message>
+        <source>the page does not accept them</source>
+        <translation>la página no las acepta</translation>
+    </message>
+    <message>
+        <source>try &apos;panohost check&apos;</source>
+        <translation>vea la línea bajo la página</translation>
+    </message>
+    <message>
+        <source>refused by the plug-in</source>
+        <translation>rechazado por el complemento</translation>
+    </message>
+    <message>
+        <source>temporary links to the photos</source>
+        <translation>enlaces temporales a las fotos</translation>
+    </message>
+    <message>
+        <source>is the temporary folder full? set TMPDIR</source>
+        <translation>¿está llena la carpeta temporal? indique otra en TMPDIR</translation>
+    </message>
+    <message>
+        <source>of no shot</source>
+        <translation>ninguna toma</translation>
+    </message>
+    <message>
+        <source>shot %1</source>
+        <translation>la toma %1</translation>
+    </message>
+    <message>
+        <source>: %1 may be %2 (%3 %) or %4</source>
+        <translation>: %1 corresponde a %2 (%3&#xa0;%) o a %4</translation>
+    </message>
+    <message>
+        <source>which photo belongs to which shot cannot be told surely%1; take photos of other shoots away, or say the order with --order name, time or given</source>
+        <translation>no se puede saber con seguridad qué foto corresponde a qué toma%1; quite las fotos de otras sesiones</translation>
+    </message>
+    <message>
+        <source>%1 for shot %2</source>
+        <translation>%1 para la toma %2</translation>
+    </message>
+    <message>
+        <source>the camera took several photos for each shot: the last one of each is used</source>
+        <translation>la cámara tomó varias fotos por toma: se usa la última de cada una</translation>
+    </message>
+    <message>
+        <source>taken more than once; used: %1</source>
+        <translation>tomadas más de una vez; se usan: %1</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s counter began again among these photos: they are ordered by time</source>
+        <translation>el contador de la cámara volvió a empezar entre estas fotos: se ordenan por hora</translation>
+    </message>
+    <message>
+        <source>photo numbers begin again (another card?): they are ordered by time</source>
+        <translation>los números de las fotos vuelven a empezar (¿otra tarjeta?): se ordenan por hora</translation>
+    </message>
+    <message>
+        <source>names and times disagree: photos are ordered by time</source>
+        <translation>los nombres y las horas no concuerdan: las fotos se ordenan por hora</translation>
+    </message>
+    <message>
+        <source>no photo for %1%2</source>
+        <translation>no hay foto para %1%2</translation>
+    </message>
+    <message>
+        <source> (was the shoot stopped?)</source>
+        <translation> (¿se detuvo la sesión?)</translation>
+    </message>
+    <message>
+        <source>take them again if you can</source>
+        <translation>repítalas si puede</translation>
+    </message>
+    <message>
+        <source>%1 min %2 s</source>
+        <translation>%1 min %2 s</translation>
+    </message>
+    <message>
+        <source>1 hour</source>
+        <translation>1 hora</translation>
+    </message>
+    <message>
+        <source>%1 hours</source>
+        <translation>%1 horas</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s clock is %1 ahead of the head&apos;s</source>
+        <translation>el reloj de la cámara va %1 adelantado respecto al del cabezal</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s clock is %1 behind the head&apos;s</source>
+        <translation>el reloj de la cámara va %1 atrasado respecto al del cabezal</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s clock gains %1 s in a minute</source>
+        <translation>el reloj de la cámara se adelanta %1 s por minuto</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s clock loses %1 s in a minute</source>
+        <translation>el reloj de la cámara se atrasa %1 s por minuto</translation>
+    </message>
+    <message>
+        <source>the same picture: %1</source>
+        <translation>la misma imagen: %1</translation>
+    </message>
+    <message>
+        <source>before the first shot (a test?): left out</source>
+        <translation>antes de la primera toma (¿una prueba?): sin usar</translation>
+    </message>
+    <message>
+        <source>of another size: left out</source>
+        <translation>de otro tamaño: sin usar</translation>
+    </message>
+    <message>
+        <source>not of this shoot: left out</source>
+        <translation>de otra sesión: sin usar</translation>
+    </message>
+    <message>
+        <source>which photo belongs to which shot could not be checked (%1): they are taken in the order of their names</source>
+        <translation>no se ha podido comprobar qué foto corresponde a qué toma (%1): se toman en el orden de sus nombres</translation>
+    </message>
+    <message>
+        <source>names, times and counts</source>
+        <translation>nombres, horas y cantidades</translation>
+    </message>
+    <message>
+        <source>names and counts</source>
+        <translation>nombres y cantidades</translation>
+    </message>
+    <message>
+        <source>the record tells no times</source>
+        <translation>el registro no indica horas</translation>
+    </message>
+    <message>
+        <source>the photos tell no times</source>
+        <translation>las fotos no indican horas</translation>
+    </message>
+    <message>
+        <source>the times of photos and record do not agree</source>
+        <translation>las horas de las fotos y del registro no concuerdan</translation>
+    </message>
+    <message>
+        <source>%1 left out: other files of the same photos are used, JPEG before RAW</source>
+        <translation>%1 sin usar: hay otros archivos de las mismas fotos, JPEG antes que RAW</translation>
+    </message>
+    <message>
+        <source>not opened: %1 agree</source>
+        <translation>no se han abierto: %1 concuerdan</translation>
+    </message>
+    <message>
+        <source>the grid</source>
+        <translation>la cuadrícula</translation>
+    </message>
+    <message>
+        <source>none of its shots has a photo</source>
+        <translation>ninguna de sus tomas tiene foto</translation>
+    </message>
+    <message>
+        <source>are these the photos of this shoot?</source>
+        <translation>¿son estas las fotos de esta sesión?</translation>
+    </message>
+    <message>
+        <source>was made of other photos</source>
+        <translation>a partir de otras fotos</translation>
+    </message>
+    <message>
+        <source>%1 between %2</source>
+        <translation>%1 entre %2</translation>
+    </message>
+    <message>
+        <source>; %1 without a neighbour near enough</source>
+        <translation>; %1 sin vecina lo bastante cerca</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 a %2</translation>
+    </message>
+    <message>
+        <source>shots %1</source>
+        <translation>las tomas %1</translation>
+    </message>
+    <message>
+        <source>, exposure %1 of %2</source>
+        <translation>, exposición %1 de %2</translation>
+    </message>
+    <message>
+        <source>no photo for shot %1 (yaw %2, pitch %3%4)</source>
+        <translation>no hay foto para la toma %1 (guiñada %2, cabeceo %3%4)</translation>
+    </message>
+    <message>
+        <source>no photo for %1</source>
+        <translation>no hay foto para %1</translation>
+    </message>
+    <message>
+        <source>panorama of %1 x %2 pixels: takes about %3 in %4 (%5 are free) and %6 of memory</source>
+        <translation>panorama de %1 x %2 píxeles: ocupa unos %3 en %4 (quedan %5 libres) y %6 de memoria</translation>
+    </message>
+    <message>
+        <source>the light is exact to a fraction of a percent, but where every exposure clips it or shows noise</source>
+        <translation>la luz es exacta con un error menor del uno por ciento, salvo donde todas las exposiciones están quemadas o tienen ruido</translation>
+    </message>
+    <message>
+        <source>the light is good for looking at, not for measuring: the photos&apos; curve is taken for sRGB&apos;s; RAW files, or TIFFs without a curve and --linear, make it exact</source>
+        <translation>la luz sirve para mirarla, no para medirla: se supone que la curva de las fotos es la de sRGB; los archivos RAW la hacen exacta</translation>
+    </message>
+    <message>
+        <source>is to hold what is kept of this panorama, and holds something else</source>
+        <translation>debía contener lo que se conserva de este panorama, y contiene otra cosa</translation>
+    </message>
+    <message>
+        <source>rename it, or choose another name with -o</source>
+        <translation>cámbiele el nombre o elija otro para el panorama</translation>
+    </message>
+    <message>
+        <source>the project asks for another projection; the panorama becomes equirectangular</source>
+        <translation>el proyecto pide otra proyección; el panorama será equirrectangular</translation>
+    </message>
+    <message>
+        <source>masks that include a region are passed over, only those that exclude one count</source>
+        <translation>no se tienen en cuenta las máscaras que incluyen una zona, solo las que excluyen una</translation>
+    </message>
+    <message>
+        <source>--centre turns full turns only; this part of the sphere stays as it is</source>
+        <translation>solo se puede girar un panorama de vuelta completa; esta parte de la esfera se queda como está</translation>
+    </message>
+    <message>
+        <source>%1: cannot be read to its end; copy it from the card again, or take it again</source>
+        <translation>%1: no se puede leer hasta el final; vuelva a copiarla de la tarjeta o repita la toma</translation>
+    </message>
+    <message>
+        <source>%1 of them are RAW files</source>
+        <translation>archivos RAW entre ellas: %1</translation>
+    </message>
+    <message>
+        <source>add --raw-converter dcraw, dcraw_emu, darktable-cli or rawtherapee-cli, or give JPEGs or TIFFs of them</source>
+        <translation>instale dcraw, libraw-bin, darktable o rawtherapee, o use los JPEG o TIFF de estas fotos</translation>
+    </message>
+    <message>
+        <source>photos stay where the head says: optimisation is skipped</source>
+        <translation>las fotos se quedan donde dice el cabezal: se omite la optimización</translation>
+    </message>
+    <message>
+        <source>what was finished is kept in %1: the same command goes on from there</source>
+        <translation>lo terminado se conserva en %1: «Crear panorama» continúa desde ahí</translation>
+    </message>
+    <message>
+        <source>photos lie where the record puts them in these commands: nothing is aligned yet</source>
+        <translation>las fotos están donde las sitúa el registro: aún no se ha alineado nada</translation>
+    </message>
+    <message>
+        <source>a Hugin project cannot hold a file name with quotation marks or line ends, and no link to it can be made in %1</source>
+        <translation>un proyecto de Hugin no admite nombres de archivo con comillas o saltos de línea, y no se puede crear un enlace al archivo en %1</translation>
+    </message>
+    <message>
+        <source>rename the file</source>
+        <translation>cambie el nombre del archivo</translation>
+    </message>
+    <message>
+        <source>name dcraw, dcraw_emu, darktable-cli or rawtherapee-cli, or a command with %i for the RAW file and %o for the TIFF</source>
+        <translation>indique dcraw, dcraw_emu, darktable-cli o rawtherapee-cli, o una orden con %i para el archivo RAW y %o para el TIFF</translation>
+    </message>
+    <message>
+        <source>this RAW converter was not found</source>
+        <translation>no se ha encontrado este conversor RAW</translation>
+    </message>
+    <message>
+        <source>is its name right? of those known: apt install dcraw, libraw-bin, darktable or rawtherapee</source>
+        <translation>¿es correcto el nombre? de los conocidos: apt install dcraw, libraw-bin, darktable o rawtherapee</translation>
+    </message>
+    <message>
+        <source>the camera chose the white balance of %1 RAW files one by one, and %2 follows it: their colours may differ; dcraw takes the first one&apos;s for all</source>
+        <translation>la cámara eligió el balance de blancos de %1 archivos RAW uno a uno, y %2 lo respeta: sus colores pueden variar; dcraw usa el del primero para todos</translation>
+    </message>
+    <message>
+        <source>this copy of a photo cannot be made</source>
+        <translation>no se puede crear esta copia de una foto</translation>
+    </message>
+    <message>
+        <source>is the photo readable? is the disk full?</source>
+        <translation>¿se puede leer la foto? ¿está lleno el disco?</translation>
+    </message>
+    <message>
+        <source>, of %1</source>
+        <translation>, con %1</translation>
+    </message>
+    <message>
+        <source>it left no whole picture of %1</source>
+        <translation>no ha dejado una imagen completa de %1</translation>
+    </message>
+    <message>
+        <source>can it read this camera&apos;s files? is the disk full?</source>
+        <translation>¿puede leer los archivos de esta cámara? ¿está lleno el disco?</translation>
+    </message>
+    <message>
+        <source>names no program</source>
+        <translation>no indica ningún programa</translation>
+    </message>
+    <message>
+        <source>does not say where its files go</source>
+        <translation>no indica adónde van sus archivos</translation>
+    </message>
+    <message>
+        <source>row %1 of column %2</source>
+        <translation>la fila %1 de la columna %2</translation>
+    </message>
+    <message>
+        <source>the grid reaches around the sphere: overlap or rows do not fit this lens</source>
+        <translation>la cuadrícula da la vuelta a la esfera: el solapamiento o las filas no concuerdan con este objetivo</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n column</source>
+        <translation>
+            <numerusform>%n columna</numerusform>
+            <numerusform>%n columnas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file</source>
+        <translation>
+            <numerusform>%n archivo</numerusform>
+            <numerusform>%n archivos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n link</source>
+        <translation>
+            <numerusform>%n enlace</numerusform>
+            <numerusform>%n enlaces</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n photo</source>
+        <translation>
+            <numerusform>%n foto</numerusform>
+            <numerusform>%n fotos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n position</source>
+        <translation>
+            <numerusform>%n posición</numerusform>
+            <numerusform>%n posiciones</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row</source>
+        <translation>
+            <numerusform>%n fila</numerusform>
+            <numerusform>%n filas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n shot</source>
+        <translation>
+            <numerusform>%n toma</numerusform>
+            <numerusform>%n tomas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the description</source>
+        <translation>la descripción</translation>
+    </message>
+    <message>
+        <source>%1 recorded directions for %2 photos at %3 positions</source>
+        <translation>%1 direcciones registradas para %2 fotos en %3 posiciones</translation>
+    </message>
+    <message>
+        <source>its direction is not a number</source>
+        <translation>su dirección no es un número</translation>
+    </message>
+    <message>
+        <source>correct the record</source>
+        <translation>corrija el registro</translation>
+    </message>
+    <message>
+        <source>position %1</source>
+        <translation>la posición %1</translation>
+    </message>
+    <message>
+        <source>has no photo</source>
+        <translation>no tiene foto</translation>
+    </message>
+    <message>
+        <source>holds no photos</source>
+        <translation>no contiene fotos</translation>
+    </message>
+    <message>
+        <source>name a file that &apos;panohost import --json&apos; has written</source>
+        <translation>elija una descripción guardada con panohost</translation>
+    </message>
+    <message>
+        <source>cannot read (not a photo?)</source>
+        <translation>no se puede leer (¿no es una foto?)</translation>
+    </message>
+    <message>
+        <source>its pixels cannot be decoded (a RAW file?)</source>
+        <translation>no se pueden descodificar sus píxeles (¿un archivo RAW?)</translation>
+    </message>
+    <message>
+        <source>too large to decode</source>
+        <translation>demasiado grande para descodificarla</translation>
+    </message>
+    <message>
+        <source>give it with --focal</source>
+        <translation>vuelva atrás e introdúzcala</translation>
+    </message>
+    <message>
+        <source>neither the record nor the photos name it</source>
+        <translation>ni el registro ni las fotos la indican</translation>
+    </message>
+    <message>
+        <source>no lens has %1 mm</source>
+        <translation>ningún objetivo tiene %1 mm</translation>
+    </message>
+    <message>
+        <source>its size in pixels is not known</source>
+        <translation>no se conoce su tamaño en píxeles</translation>
+    </message>
+    <message>
+        <source>can another program open it? leave it out if not</source>
+        <translation>¿puede abrirla otro programa? si no, no la use</translation>
+    </message>
+    <message>
+        <source>the photos have %1 different sizes in pixels</source>
+        <translation>las fotos tienen %1 tamaños distintos en píxeles</translation>
+    </message>
+    <message>
+        <source>a Hugin project cannot hold a file name with quotation marks or line ends</source>
+        <translation>un proyecto de Hugin no admite nombres de archivo con comillas o saltos de línea</translation>
+    </message>
+    <message>
+        <source>%1 of %2 photos name no exposure; %3 is assumed</source>
+        <translation>%1 de %2 fotos no indican la exposición; se supone %3</translation>
+    </message>
+    <message>
+        <source>larger than %1 bytes</source>
+        <translation>ocupa más de %1 bytes</translation>
+    </message>
+    <message>
+        <source>give the name of a file</source>
+        <translation>indique el nombre de un archivo</translation>
+    </message>
+    <message>
+        <source>set --plugin or PANOHOST_PLUGIN_PATH to libXPanoHead.so</source>
+        <translation>haga que PANOHOST_PLUGIN_PATH apunte a libXPanoHead.so</translation>
+    </message>
+    <message>
+        <source>no such file or folder</source>
+        <translation>no existe el archivo o la carpeta</translation>
+    </message>
+    <message>
+        <source>import plug-ins</source>
+        <translation>complementos de importación</translation>
+    </message>
+    <message>
+        <source>no plug-in library in %1</source>
+        <translation>no hay biblioteca de complementos en %1</translation>
+    </message>
+    <message>
+        <source>is not a Qt plug-in library</source>
+        <translation>no es una biblioteca de complementos de Qt</translation>
+    </message>
+    <message>
+        <source>its interface is &apos;%1&apos;, &apos;%2&apos; is needed</source>
+        <translation>su interfaz es «%1», y se necesita «%2»</translation>
+    </message>
+    <message>
+        <source>offers no list of plug-ins</source>
+        <translation>no ofrece una lista de complementos</translation>
+    </message>
+    <message>
+        <source>holds no import plug-in</source>
+        <translation>no contiene ningún complemento de importación</translation>
+    </message>
+    <message>
+        <source>cannot be written</source>
+        <translation>no se puede escribir</translation>
+    </message>
+    <message>
+        <source>is of another size than the others of its bracket</source>
+        <translation>no tiene el mismo tamaño que las demás de su horquillado</translation>
+    </message>
+    <message>
+        <source>is no warped light</source>
+        <translation>no contiene luz deformada</translation>
+    </message>
+    <message>
+        <source>these photos of the project, and %1 more, are not there any more</source>
+        <translation>estas fotos del proyecto, y %1 más, ya no están</translation>
+    </message>
+    <message>
+        <source>not there any more</source>
+        <translation>ya no hay nada ahí</translation>
+    </message>
+    <message>
+        <source>put the photos back where they were, or import them again</source>
+        <translation>devuelva las fotos a su sitio, o impórtelas de nuevo</translation>
+    </message>
+    <message>
+        <source>%1 has %2 bits a colour, %3 has %4, and all must be alike to be blended</source>
+        <translation>%1 tiene %2 bits por color, %3 tiene %4, y todas deben ser iguales para poder unirlas</translation>
+    </message>
+    <message>
+        <source>convert or develop them alike</source>
+        <translation>conviértalas o revélelas de la misma manera</translation>
+    </message>
+    <message>
+        <source>was not written to its end</source>
+        <translation>no se ha escrito hasta el final</translation>
+    </message>
+    <message>
+        <source>is there enough room in %1?</source>
+        <translation>¿hay espacio suficiente en %1?</translation>
+    </message>
+    <message>
+        <source>nona, of %1</source>
+        <translation>nona, con %1</translation>
+    </message>
+    <message>
+        <source>made no picture of %1</source>
+        <translation>no ha creado ninguna imagen de %1</translation>
+    </message>
+    <message>
+        <source>is it a photo that other programs open?</source>
+        <translation>¿es una foto que otros programas abren?</translation>
+    </message>
+    <message>
+        <source>size of the panorama</source>
+        <translation>tamaño del panorama</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels cannot be made</source>
+        <translation>no se pueden crear %1 x %2 píxeles</translation>
+    </message>
+    <message>
+        <source>choose another --size</source>
+        <translation>elija otro tamaño</translation>
+    </message>
+    <message>
+        <source>the stitch needs %1 there, %2 are free</source>
+        <translation>el panorama necesita %1 ahí, y quedan %2 libres</translation>
+    </message>
+    <message>
+        <source>make room, name another place with -o, or choose a smaller --size</source>
+        <translation>libere espacio, elija otro lugar o un tamaño menor</translation>
+    </message>
+    <message>
+        <source>memory</source>
+        <translation>memoria</translation>
+    </message>
+    <message>
+        <source>the stitch needs about %1, %2 are available</source>
+        <translation>el panorama necesita unos %1, y hay %2 disponibles</translation>
+    </message>
+    <message>
+        <source>close other programs, or choose --jobs 1 or a smaller --size</source>
+        <translation>cierre otros programas o elija un tamaño menor</translation>
+    </message>
+    <message>
+        <source>try it by itself</source>
+        <translation>pruébelo por separado</translation>
+    </message>
+    <message>
+        <source>%1 minutes</source>
+        <translation>%1 minutos</translation>
+    </message>
+    <message>
+        <source>it was killed, perhaps because memory ran out</source>
+        <translation>ha sido interrumpido, quizá por falta de memoria</translation>
+    </message>
+    <message>
+        <source>close other programs and try again</source>
+        <translation>cierre otros programas e inténtelo de nuevo</translation>
+    </message>
+    <message>
+        <source>it crashed (signal %1)</source>
+        <translation>se ha cerrado de forma inesperada (señal %1)</translation>
+    </message>
+    <message>
+        <source>%1 and said: %2</source>
+        <translation>%1, con el mensaje: %2</translation>
+    </message>
+    <message>
+        <source> if so: %1</source>
+        <translation> si lo hay: %1</translation>
+    </message>
+    <message>
+        <source>this program is needed for stitching and was not found</source>
+        <translation>este programa hace falta para crear el panorama y no se ha encontrado</translation>
+    </message>
+    <message>
+        <source>cannot be started (%1)</source>
+        <translation>no se puede iniciar (%1)</translation>
+    </message>
+    <message>
+        <source>it was stopped since it did nothing for %1</source>
+        <translation>se ha detenido porque no hizo nada durante %1</translation>
+    </message>
+    <message>
+        <source>is the machine very busy, or a network drive away? try again</source>
+        <translation>¿está el equipo muy ocupado, o desconectada una unidad de red? inténtelo de nuevo</translation>
+    </message>
+    <message>
+        <source>it failed without a message</source>
+        <translation>ha fallado sin ningún mensaje</translation>
+    </message>
+    <message>
+        <source>it failed and said: %1</source>
+        <translation>ha fallado con el mensaje: %1</translation>
+    </message>
+    <message>
+        <source>is the disk full, or a file damaged that it reads?</source>
+        <translation>¿está lleno el disco, o dañado un archivo que lee?</translation>
+    </message>
+    <message>
+        <source>it failed, and there is hardly any room left on the disk at %1 (%2)</source>
+        <translation>ha fallado, y apenas queda espacio en el disco en %1 (%2)</translation>
+    </message>
+    <message>
+        <source>make room there and go on with the same command; nothing is lost</source>
+        <translation>libere espacio ahí y pulse de nuevo «Crear panorama»; no se pierde nada</translation>
+    </message>
+    <message>
+        <source>was the disk full? remove the file and try again</source>
+        <translation>¿estaba lleno el disco? quite el archivo e inténtelo de nuevo</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>no se puede leer</translation>
+    </message>
+    <message>
+        <source>is no picture of 8, 16 or floating bits</source>
+        <translation>no es una imagen de 8 bits, 16 bits o coma flotante</translation>
+    </message>
+    <message>
+        <source>is cut off</source>
+        <translation>está cortado</translation>
+    </message>
+    <message>
+        <source>cannot be mapped into memory</source>
+        <translation>no se puede asignar en memoria</translation>
+    </message>
+    <message>
+        <source>is the disk full, or the folder read-only?</source>
+        <translation>¿está lleno el disco, o protegida contra escritura la carpeta?</translation>
+    </message>
+    <message>
+        <source>%1, process %2 on %3</source>
+        <translation>%1, proceso %2 en %3</translation>
+    </message>
+    <message>
+        <source>another program</source>
+        <translation>otro programa</translation>
+    </message>
+    <message>
+        <source>there is a file of that name: rename it, or choose another name with -o</source>
+        <translation>hay un archivo con ese nombre: cámbiele el nombre o elija otro para el panorama</translation>
+    </message>
+    <message>
+        <source>is in use by %1</source>
+        <translation>en uso por %1</translation>
+    </message>
+    <message>
+        <source>wait for it to end, or choose another name with -o</source>
+        <translation>espere a que termine o elija otro nombre</translation>
     </message>
 </context>
 <context>

@@ -64,36 +64,16 @@
         <translation>%1 (étape %2 sur %3)</translation>
     </message>
     <message>
-        <source>or choose a smaller size</source>
-        <translation>ou choisissez une taille plus petite</translation>
+        <source>%1 x %2 in at %3 dpi</source>
+        <translation>%1 x %2 po à %3 ppp</translation>
     </message>
     <message>
-        <source>choose a smaller size</source>
-        <translation>choisissez une taille plus petite</translation>
+        <source>%1 x %2 cm at %3 dpi</source>
+        <translation>%1 x %2 cm à %3 ppp</translation>
     </message>
     <message>
-        <source>choose another size</source>
-        <translation>choisissez une autre taille</translation>
-    </message>
-    <message>
-        <source>RAW files make it exact</source>
-        <translation>des fichiers RAW la rendent exacte</translation>
-    </message>
-    <message>
-        <source>press Make panorama again</source>
-        <translation>appuyez de nouveau sur «&#xa0;Créer le panorama&#xa0;»</translation>
-    </message>
-    <message>
-        <source>go back and enter it</source>
-        <translation>revenez en arrière et saisissez-la</translation>
-    </message>
-    <message>
-        <source>Make panorama goes on from here</source>
-        <translation>«&#xa0;Créer le panorama&#xa0;» reprend ici</translation>
-    </message>
-    <message>
-        <source>%1 x %2 pixels at most; takes up to %3 of the disk and %4 of memory.</source>
-        <translation>Au plus %1 x %2 pixels&#xa0;; occupe jusqu&apos;à %3 du disque et %4 de mémoire.</translation>
+        <source>%1 x %2 pixels at most (%3); takes up to %4 of the disk and %5 of memory.</source>
+        <translation>Au plus %1 x %2 pixels (%3)&#xa0;; occupe jusqu&apos;à %4 du disque et %5 de mémoire.</translation>
     </message>
 </context>
 <context>
@@ -208,14 +188,29 @@
     </message>
 </context>
 <context>
-    <name>PanoHost::ImportWizard</name>
+    <name>PanoHost::HelpMenu</name>
     <message>
-        <source>Import a panorama</source>
-        <translation>Importer un panorama</translation>
+        <source>&amp;Help</source>
+        <translation>Ai&amp;de</translation>
     </message>
     <message>
         <source>Help</source>
         <translation>Aide</translation>
+    </message>
+    <message>
+        <source>&amp;Preferences...</source>
+        <translation>&amp;Préférences...</translation>
+    </message>
+    <message>
+        <source>&amp;About panohost</source>
+        <translation>À prop&amp;os de panohost</translation>
+    </message>
+</context>
+<context>
+    <name>PanoHost::ImportWizard</name>
+    <message>
+        <source>Import a panorama</source>
+        <translation>Importer un panorama</translation>
     </message>
     <message>
         <source>&amp;Another import</source>
@@ -260,18 +255,6 @@
     <message>
         <source>This page could not do what you asked: %1. Your files are as they were. Try again, or go back and choose fewer files.</source>
         <translation>Cette page n&apos;a pas pu faire ce que vous avez demandé&#xa0;: %1. Vos fichiers sont restés tels quels. Réessayez, ou revenez en arrière et choisissez moins de fichiers.</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>Ai&amp;de</translation>
-    </message>
-    <message>
-        <source>&amp;Preferences...</source>
-        <translation>&amp;Préférences...</translation>
-    </message>
-    <message>
-        <source>&amp;About panohost</source>
-        <translation>À prop&amp;os de panohost</translation>
     </message>
     <message>
         <source>Choose the head that took the photos, then Next. You can also drop the head&apos;s record and the photos, or the folder that holds them, onto this window.</source>
@@ -619,10 +602,6 @@
         <translation>Outils&#xa0;:</translation>
     </message>
     <message>
-        <source>Language and thumbnails change with the next start.</source>
-        <translation>La langue et les miniatures changent au prochain démarrage.</translation>
-    </message>
-    <message>
         <source>As the desktop</source>
         <translation>Comme le bureau</translation>
     </message>
@@ -645,6 +624,22 @@
     <message>
         <source>%1 is no folder; choose another one, or leave the field empty.</source>
         <translation>%1 n&apos;est pas un dossier&#xa0;; choisissez-en un autre, ou laissez le champ vide.</translation>
+    </message>
+    <message>
+        <source>Centimetres</source>
+        <translation>Centimètres</translation>
+    </message>
+    <message>
+        <source>Inches</source>
+        <translation>Pouces</translation>
+    </message>
+    <message>
+        <source>&amp;Units of prints:</source>
+        <translation>&amp;Unités des tirages :</translation>
+    </message>
+    <message>
+        <source>The language changes with the next start.</source>
+        <translation>La langue change au prochain démarrage.</translation>
     </message>
 </context>
 <context>
@@ -1160,6 +1155,1270 @@
     <message>
         <source>%1 was not saved: %2</source>
         <translation>%1 n&apos;a pas été enregistré&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>PanoHost::Said</name>
+    <message>
+        <source>no control points are wanted (automatic detection is off): kept as recorded</source>
+        <translation>aucun point de contrôle n&apos;est demandé (la détection automatique est désactivée)&#xa0;: les photos restent aux positions enregistrées</translation>
+    </message>
+    <message>
+        <source>photos are left as recorded (optimisation is skipped)</source>
+        <translation>les photos restent aux positions enregistrées (optimisation non effectuée)</translation>
+    </message>
+    <message>
+        <source>there is one photo only: kept as recorded</source>
+        <translation>il n&apos;y a qu&apos;une photo&#xa0;: elle reste à la position enregistrée</translation>
+    </message>
+    <message>
+        <source>no two photos overlap where the record puts them: kept as recorded</source>
+        <translation>aucune photo n&apos;en recouvre une autre là où le fichier de prise de vue les place&#xa0;: elles y restent</translation>
+    </message>
+    <message>
+        <source>no spot was found in two photos (nothing but sky or fog, or the photos are not of this record): kept as recorded</source>
+        <translation>aucun point commun à deux photos n&apos;a été trouvé (rien que du ciel ou du brouillard, ou des photos étrangères à ce fichier de prise de vue)&#xa0;: elles restent aux positions enregistrées</translation>
+    </message>
+    <message>
+        <source>%1; kept as recorded</source>
+        <translation>%1&#xa0;; les photos restent aux positions enregistrées</translation>
+    </message>
+    <message>
+        <source>none of the photos can be used: were they moved since the import?</source>
+        <translation>aucune photo n&apos;est utilisable&#xa0;: ont-elles été déplacées depuis l&apos;importation&#xa0;?</translation>
+    </message>
+    <message>
+        <source>the photos fit the order &apos;%1&apos; better than &apos;%2&apos;: import them with --mode %1</source>
+        <translation>les photos correspondent mieux à l&apos;ordre «&#xa0;%1&#xa0;» qu&apos;à «&#xa0;%2&#xa0;»&#xa0;: importez-les avec l&apos;ordre %1</translation>
+    </message>
+    <message>
+        <source>the panorama is made %1 stops brighter: what is white in a photo stays white</source>
+        <translation>le panorama est éclairci de %1 IL&#xa0;: ce qui est blanc sur une photo reste blanc</translation>
+    </message>
+    <message>
+        <source>%1 of %2 tied, %3, median %4 pixels</source>
+        <translation>%1 sur %2 liées, %3, médiane de %4 pixels</translation>
+    </message>
+    <message>
+        <source>%1 point</source>
+        <translation>%1 point</translation>
+    </message>
+    <message>
+        <source>%1 points</source>
+        <translation>%1 points</translation>
+    </message>
+    <message>
+        <source> and %1 more</source>
+        <translation> et %1 de plus</translation>
+    </message>
+    <message>
+        <source>no points in %1 (%2): kept where the head put it</source>
+        <translation>aucun point dans %1 (%2)&#xa0;: elle reste là où la tête l&apos;a placée</translation>
+    </message>
+    <message>
+        <source>no points in %1 (%2): kept where the head put them</source>
+        <translation>aucun point dans %1 (%2)&#xa0;: elles restent là où la tête les a placées</translation>
+    </message>
+    <message>
+        <source>lens %1 mm instead of %2</source>
+        <translation>objectif de %1 mm au lieu de %2</translation>
+    </message>
+    <message>
+        <source>the lens darkens its corners by %1 %: evened out</source>
+        <translation>l&apos;objectif assombrit les coins de %1&#xa0;%&#xa0;: compensé</translation>
+    </message>
+    <message>
+        <source>exposures are not what the photos say, by up to %1 stops: evened out</source>
+        <translation>les expositions diffèrent de ce qu&apos;indiquent les photos, jusqu&apos;à %1 IL&#xa0;: compensé</translation>
+    </message>
+    <message>
+        <source>the head repeats to %1 degrees</source>
+        <translation>répétabilité de la tête&#xa0;: %1 degrés</translation>
+    </message>
+    <message>
+        <source>less than %1</source>
+        <translation>moins de %1</translation>
+    </message>
+    <message>
+        <source>the camera sits %1 degrees crooked on the head</source>
+        <translation>l&apos;appareil est de travers de %1 degrés sur la tête</translation>
+    </message>
+    <message>
+        <source>the head&apos;s steps are %1 (across) and %2 (up) times what was stated</source>
+        <translation>les pas de la tête valent %1 fois (horizontalement) et %2 fois (verticalement) ceux indiqués</translation>
+    </message>
+    <message>
+        <source>from %1 on the head stands %2 degrees farther right than recorded: did its turning axis slip?</source>
+        <translation>à partir de %1, la tête est %2 degrés à droite de la position enregistrée&#xa0;: son axe de rotation a-t-il glissé&#xa0;?</translation>
+    </message>
+    <message>
+        <source>from %1 on the head stands %2 degrees farther left than recorded: did its turning axis slip?</source>
+        <translation>à partir de %1, la tête est %2 degrés à gauche de la position enregistrée&#xa0;: son axe de rotation a-t-il glissé&#xa0;?</translation>
+    </message>
+    <message>
+        <source>from %1 on the head stands %2 degrees higher than recorded: did its tilting axis slip?</source>
+        <translation>à partir de %1, la tête est %2 degrés au-dessus de la position enregistrée&#xa0;: son axe d&apos;inclinaison a-t-il glissé&#xa0;?</translation>
+    </message>
+    <message>
+        <source>from %1 on the head stands %2 degrees lower than recorded: did its tilting axis slip?</source>
+        <translation>à partir de %1, la tête est %2 degrés au-dessous de la position enregistrée&#xa0;: son axe d&apos;inclinaison a-t-il glissé&#xa0;?</translation>
+    </message>
+    <message>
+        <source>%1 was taken %2 degrees from where the head says: was it bumped?</source>
+        <translation>%1 a été prise à %2 degrés de la direction donnée par la tête&#xa0;: y a-t-il eu un choc&#xa0;?</translation>
+    </message>
+    <message>
+        <source>residuals suggest parallax (%1 pixels): near things move against far ones; is the camera&apos;s nodal point on the head&apos;s axes?</source>
+        <translation>les erreurs restantes font penser à une parallaxe (%1 pixels)&#xa0;: les objets proches bougent par rapport aux lointains&#xa0;; le point nodal de l&apos;appareil est-il sur les axes de la tête&#xa0;?</translation>
+    </message>
+    <message>
+        <source>was %1 x %2 pixels when imported, is now %3 x %4</source>
+        <translation>mesurait %1 x %2 pixels à l&apos;importation, mesure maintenant %3 x %4</translation>
+    </message>
+    <message>
+        <source>cannot keep the features of photos there: %1</source>
+        <translation>impossible d&apos;y conserver les détails des photos&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>TMPDIR names a folder with more room</source>
+        <translation>indiquez dans TMPDIR un dossier offrant plus d&apos;espace</translation>
+    </message>
+    <message>
+        <source>cannot read the features of photos back: %1</source>
+        <translation>impossible de relire les détails des photos&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>sans indication</translation>
+    </message>
+    <message>
+        <source>%1: %2, bracket %3, focal %4, lens %5</source>
+        <translation>%1&#xa0;: %2, bracketing de %3, focale %4, objectif %5</translation>
+    </message>
+    <message>
+        <source>copy it from the card again</source>
+        <translation>copiez-la de nouveau depuis la carte</translation>
+    </message>
+    <message>
+        <source>%1 given, %2 readable, focal %3, lens %4</source>
+        <translation>%1 choisies, %2 lisibles, focale %3, objectif %4</translation>
+    </message>
+    <message>
+        <source>neither the photos nor the record name the focal length</source>
+        <translation>ni les photos ni le fichier de prise de vue n&apos;indiquent la distance focale</translation>
+    </message>
+    <message>
+        <source>give it, as for 35 mm film: --focal 24</source>
+        <translation>saisissez-la, en équivalent film 35 mm</translation>
+    </message>
+    <message>
+        <source>not all photos have a capture time</source>
+        <translation>certaines photos n&apos;ont pas d&apos;heure de prise de vue</translation>
+    </message>
+    <message>
+        <source>%1 was taken before %2</source>
+        <translation>%1 a été prise avant %2</translation>
+    </message>
+    <message>
+        <source>try --order time</source>
+        <translation>essayez de les trier par heure</translation>
+    </message>
+    <message>
+        <source>capture times agree</source>
+        <translation>les heures de prise de vue concordent</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>aucun</translation>
+    </message>
+    <message>
+        <source>%1 s after %2 (usually %3 s)</source>
+        <translation>%1 s après %2 (d&apos;habitude %3 s)</translation>
+    </message>
+    <message>
+        <source>standard</source>
+        <translation>standard</translation>
+    </message>
+    <message>
+        <source>fisheye</source>
+        <translation>fisheye</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>this folder cannot be made</source>
+        <translation>impossible de créer ce dossier</translation>
+    </message>
+    <message>
+        <source>is the disk full, or the folder above it read-only?</source>
+        <translation>le disque est-il plein, ou le dossier parent en lecture seule&#xa0;?</translation>
+    </message>
+    <message>
+        <source>no photo reaches these sides of the cube, which are left out: %1</source>
+        <translation>aucune photo n&apos;atteint ces faces du cube, qui sont omises&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>cannot be written (%1)</source>
+        <translation>écriture impossible (%1)</translation>
+    </message>
+    <message>
+        <source>make room there or choose another place</source>
+        <translation>libérez-y de l&apos;espace ou choisissez un autre emplacement</translation>
+    </message>
+    <message>
+        <source>the folder %1 does not exist</source>
+        <translation>le dossier %1 n&apos;existe pas</translation>
+    </message>
+    <message>
+        <source>create it or choose another place</source>
+        <translation>créez-le ou choisissez un autre emplacement</translation>
+    </message>
+    <message>
+        <source>is a folder</source>
+        <translation>est un dossier</translation>
+    </message>
+    <message>
+        <source>is not a regular file</source>
+        <translation>n&apos;est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>remove it or choose another name with -o</source>
+        <translation>supprimez-le ou choisissez un autre nom</translation>
+    </message>
+    <message>
+        <source>is a file, and a folder of that name is wanted</source>
+        <translation>est un fichier, alors qu&apos;il faut un dossier de ce nom</translation>
+    </message>
+    <message>
+        <source>is a folder that panohost has not made</source>
+        <translation>est un dossier non créé par panohost</translation>
+    </message>
+    <message>
+        <source>it left a file that is not complete</source>
+        <translation>a laissé un fichier incomplet</translation>
+    </message>
+    <message>
+        <source>is the disk full? make room and try again</source>
+        <translation>le disque est-il plein&#xa0;? libérez de l&apos;espace et réessayez</translation>
+    </message>
+    <message>
+        <source>make room there and try again</source>
+        <translation>libérez-y de l&apos;espace et réessayez</translation>
+    </message>
+    <message>
+        <source>the panorama has %1 x %2 pixels, and JPEG files at most %3 to a side</source>
+        <translation>le panorama fait %1 x %2 pixels, et les fichiers JPEG au plus %3 de côté</translation>
+    </message>
+    <message>
+        <source>name it .tif, or make it smaller with --size</source>
+        <translation>choisissez un nom en .tif, ou une taille plus petite</translation>
+    </message>
+    <message>
+        <source>this panorama&apos;s values are not light</source>
+        <translation>les valeurs de ce panorama ne représentent pas la lumière</translation>
+    </message>
+    <message>
+        <source>needs --output hdr</source>
+        <translation>choisissez «&#xa0;La lumière elle-même (HDR)&#xa0;»</translation>
+    </message>
+    <message>
+        <source>is not the panorama that was stitched last</source>
+        <translation>n&apos;est pas le dernier panorama assemblé</translation>
+    </message>
+    <message>
+        <source>remove it and try again</source>
+        <translation>supprimez-le et réessayez</translation>
+    </message>
+    <message>
+        <source>it left %1 incomplete</source>
+        <translation>a laissé %1 incomplet</translation>
+    </message>
+    <message>
+        <source>is the disk full?</source>
+        <translation>le disque est-il plein&#xa0;?</translation>
+    </message>
+    <message>
+        <source>the address where the folder will be reached is not known</source>
+        <translation>l&apos;adresse où se trouvera le dossier n&apos;est pas connue</translation>
+    </message>
+    <message>
+        <source>give it, such as https://example.org/panoramas</source>
+        <translation>indiquez-la, par exemple https://example.org/panoramas</translation>
+    </message>
+    <message>
+        <source>%1 less %2 ignored</source>
+        <translation>%1 moins %2 à ignorer</translation>
+    </message>
+    <message>
+        <source>%1, %2, bracket %3, %4 ignored</source>
+        <translation>%1, %2, bracketing de %3, ignorées&#xa0;: %4</translation>
+    </message>
+    <message>
+        <source>photos</source>
+        <translation>photos</translation>
+    </message>
+    <message>
+        <source>--ignore %1 leaves none of %2</source>
+        <translation>si %1 sont ignorées, il n&apos;en reste aucune sur %2</translation>
+    </message>
+    <message>
+        <source>ignore fewer, or name all photos</source>
+        <translation>ignorez-en moins, ou choisissez toutes les photos</translation>
+    </message>
+    <message>
+        <source>--bracket %1 is more than %2</source>
+        <translation>%2 ne suffisent pas pour un bracketing de %1</translation>
+    </message>
+    <message>
+        <source>each position needs all its exposures</source>
+        <translation>chaque position a besoin de toutes ses expositions</translation>
+    </message>
+    <message>
+        <source>%1 are not a multiple of bracket %2</source>
+        <translation>%1 ne font pas un multiple du bracketing de %2</translation>
+    </message>
+    <message>
+        <source>each position needs all its exposures; --ignore N leaves out the first N photos</source>
+        <translation>chaque position a besoin de toutes ses expositions&#xa0;; les premières photos peuvent être ignorées</translation>
+    </message>
+    <message>
+        <source>%1 (%2 in brackets of %3)</source>
+        <translation>%1 (%2 en bracketing de %3)</translation>
+    </message>
+    <message>
+        <source>%1 do not divide %2 evenly</source>
+        <translation>%2 ne se répartissent pas à parts égales sur %1</translation>
+    </message>
+    <message>
+        <source>are photos missing? --ignore N leaves out the first N photos</source>
+        <translation>manque-t-il des photos&#xa0;? les premières peuvent être ignorées</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 et %2 autres</translation>
+    </message>
+    <message>
+        <source>no pause tells where</source>
+        <translation>aucune pause n&apos;indique où</translation>
+    </message>
+    <message>
+        <source>the longest pause: %1, in row %2 as they were taken</source>
+        <translation>la plus longue pause&#xa0;: %1, dans la ligne %2 selon l&apos;ordre de prise de vue</translation>
+    </message>
+    <message>
+        <source>the longest pause: %1, in column %2 as they were taken</source>
+        <translation>la plus longue pause&#xa0;: %1, dans la colonne %2 selon l&apos;ordre de prise de vue</translation>
+    </message>
+    <message>
+        <source>the pictures do not tell which are missing: %1</source>
+        <translation>les images ne permettent pas de savoir lesquelles manquent&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>no photo for %1 (rows from the top, columns from the left)</source>
+        <translation>aucune photo pour %1 (lignes à partir du haut, colonnes à partir de la gauche)</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>fichier introuvable</translation>
+    </message>
+    <message>
+        <source>not a regular file</source>
+        <translation>n&apos;est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>no &lt;shoot&gt; pictures</source>
+        <translation>ne contient aucune image &lt;shoot&gt;</translation>
+    </message>
+    <message>
+        <source>is it an old-style Papywizard file (image/coords)?</source>
+        <translation>est-ce un ancien fichier Papywizard (image/coords)&#xa0;?</translation>
+    </message>
+    <message>
+        <source>its &lt;shoot&gt; holds no &lt;pict&gt;: no shot was recorded</source>
+        <translation>son &lt;shoot&gt; ne contient aucun &lt;pict&gt;&#xa0;: aucune vue n&apos;a été enregistrée</translation>
+    </message>
+    <message>
+        <source>choose the record of a finished shoot</source>
+        <translation>choisissez le fichier d&apos;une prise de vue terminée</translation>
+    </message>
+    <message>
+        <source>no op_shoot command: no shot was recorded</source>
+        <translation>aucune commande op_shoot&#xa0;: aucune vue n&apos;a été enregistrée</translation>
+    </message>
+    <message>
+        <source>is it the script that the head ran?</source>
+        <translation>est-ce bien le script exécuté par la tête&#xa0;?</translation>
+    </message>
+    <message>
+        <source>correct this line, or choose another script</source>
+        <translation>corrigez cette ligne, ou choisissez un autre script</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>ligne %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>is it the record that the head wrote?</source>
+        <translation>est-ce bien le fichier écrit par la tête&#xa0;?</translation>
+    </message>
+    <message>
+        <source>no such record</source>
+        <translation>fichier de prise de vue introuvable</translation>
+    </message>
+    <message>
+        <source>check the name</source>
+        <translation>vérifiez le nom</translation>
+    </message>
+    <message>
+        <source>unknown head &apos;%1&apos;%2</source>
+        <translation>tête inconnue «&#xa0;%1&#xa0;»%2</translation>
+    </message>
+    <message>
+        <source>heads: %1</source>
+        <translation>têtes&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>no record of some of its shots can be made</source>
+        <translation>impossible de créer un fichier de prise de vue avec certaines vues seulement</translation>
+    </message>
+    <message>
+        <source>take the shots by hand</source>
+        <translation>prenez les vues à la main</translation>
+    </message>
+    <message>
+        <source>using %1</source>
+        <translation>utilisation de %1</translation>
+    </message>
+    <message>
+        <source>has no import plug-in for %1</source>
+        <translation>n&apos;a pas de module d&apos;importation pour %1</translation>
+    </message>
+    <message>
+        <source>set --plugin to another library</source>
+        <translation>utilisez une autre bibliothèque de modules</translation>
+    </message>
+    <message>
+        <source>the page refuses them</source>
+        <translation>la page les refuse</translation>
+    </message>
+    <message>
+        <source>make it first</source>
+        <translation>créez-le d&apos;abord</translation>
+    </message>
+    <message>
+        <source>name a file in it</source>
+        <translation>choisissez un fichier dans ce dossier</translation>
+    </message>
+    <message>
+        <source>name a file of your own</source>
+        <translation>choisissez un fichier qui vous appartient</translation>
+    </message>
+    <message>
+        <source>cannot be written there: %1</source>
+        <translation>impossible d&apos;y écrire&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>choose a folder of your own</source>
+        <translation>choisissez un dossier qui vous appartient</translation>
+    </message>
+    <message>
+        <source>is one of the input files</source>
+        <translation>est l&apos;un des fichiers d&apos;entrée</translation>
+    </message>
+    <message>
+        <source>choose another name for the result</source>
+        <translation>choisissez un autre nom pour le résultat</translation>
+    </message>
+    <message>
+        <source>given twice</source>
+        <translation>choisie deux fois</translation>
+    </message>
+    <message>
+        <source>name each photo once</source>
+        <translation>ne choisissez chaque photo qu&apos;une fois</translation>
+    </message>
+    <message>
+        <source>no such photo</source>
+        <translation>photo introuvable</translation>
+    </message>
+    <message>
+        <source>rename the file: its name is not in UTF-8</source>
+        <translation>renommez le fichier&#xa0;: son nom n&apos;est pas en UTF-8</translation>
+    </message>
+    <message>
+        <source>name the photos in it, e.g. %1/*.jpg</source>
+        <translation>choisissez les photos qu&apos;il contient, p. ex. %1/*.jpg</translation>
+    </message>
+    <message>
+        <source>name photos only</source>
+        <translation>ne choisissez que des photos</translation>
+    </message>
+    <message>
+        <source>cannot be read: permission denied</source>
+        <translation>illisible&#xa0;: permission refusée</translation>
+    </message>
+    <message>
+        <source>copy it to a folder of your own</source>
+        <translation>copiez-la dans un dossier qui vous appartient</translation>
+    </message>
+    <message>
+        <source>are photos missing, or did the shoot stop early?</source>
+        <translation>manque-t-il des photos, ou la prise de vue s&apos;est-elle arrêtée trop tôt&#xa0;?</translation>
+    </message>
+    <message>
+        <source>are test shots among the photos?</source>
+        <translation>y a-t-il des vues d&apos;essai parmi les photos&#xa0;?</translation>
+    </message>
+    <message>
+        <source>records %1, %2 given</source>
+        <translation>contient %1 pour %2</translation>
+    </message>
+    <message>
+        <source>has no capture time to order by</source>
+        <translation>n&apos;a pas d&apos;heure de prise de vue pour être triée</translation>
+    </message>
+    <message>
+        <source>use --order name or --order given</source>
+        <translation>triez les photos par nom</translation>
+    </message>
+    <message>
+        <source>the record</source>
+        <translation>le fichier de prise de vue</translation>
+    </message>
+    <message>
+        <source>the photos&apos; EXIF data</source>
+        <translation>les données EXIF des photos</translation>
+    </message>
+    <message>
+        <source>the photos&apos; EXIF data or the record</source>
+        <translation>les données EXIF des photos ou le fichier de prise de vue</translation>
+    </message>
+    <message>
+        <source>focal length</source>
+        <translation>distance focale</translation>
+    </message>
+    <message>
+        <source>not known from %1</source>
+        <translation>introuvable dans %1</translation>
+    </message>
+    <message>
+        <source>give it with --focal MM (35 mm equivalent)</source>
+        <translation>revenez en arrière et saisissez-la (équivalent 35 mm)</translation>
+    </message>
+    <message>
+        <source>focal length %1 (EXIF) against %2 (record); using EXIF; choose with --focal</source>
+        <translation>distance focale de %1 (EXIF) contre %2 (fichier de prise de vue)&#xa0;; celle de l&apos;EXIF est utilisée</translation>
+    </message>
+    <message>
+        <source>%1 of the photos name no focal length; using that of the others; choose with --focal</source>
+        <translation>%1 des photos n&apos;indiquent pas la distance focale&#xa0;; celle des autres est utilisée</translation>
+    </message>
+    <message>
+        <source>%1 lens (EXIF) against %2 (record); using EXIF; choose with --lens</source>
+        <translation>objectif %1 (EXIF) contre %2 (fichier de prise de vue)&#xa0;; celui de l&apos;EXIF est utilisé</translation>
+    </message>
+    <message>
+        <source>the photos name focal lengths from %1 to %2; using their median; choose with --focal</source>
+        <translation>les photos indiquent des distances focales de %1 à %2&#xa0;; leur médiane est utilisée</translation>
+    </message>
+    <message>
+        <source>plug-in page</source>
+        <translation>page du module</translation>
+    </message>
+    <message>
+        <source>has no &apos;%1&apos;</source>
+        <translation>n&apos;a pas de «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>is this library of another version? set --plugin</source>
+        <translation>cette bibliothèque est-elle d&apos;une autre version&#xa0;?</translation>
+    </message>
+    <message>
+        <source>%1 is not between %2 and %3</source>
+        <translation>%1 n&apos;est pas compris entre %2 et %3</translation>
+    </message>
+    <message>
+        <source>its photo button opens no file dialog</source>
+        <translation>son bouton de photos n&apos;ouvre aucune boîte de dialogue de fichiers</translation>
+    </message>
+    <message>
+        <source> (and %1 more of %2 photos)</source>
+        <translation> (et %1 de plus, sur %2 photos)</translation>
+    </message>
+    <message>
+        <source>cannot read (%1)%2</source>
+        <translation>illisible (%1)%2</translation>
+    </message>
+    <message>
+        <source>is it a photo? try &apos;panohost check&apos;</source>
+        <translation>est-ce bien une photo&#xa0;? voyez la ligne sous la page</translation>
+    </message>
+    <message>
+        <source>the page does not accept them</source>
+        <translation>la page ne les accepte pas</translation>
+    </message>
+    <message>
+        <source>try &apos;panohost check&apos;</source>
+        <translation>voyez la ligne sous la page</translation>
+    </message>
+    <message>
+        <source>refused by the plug-in</source>
+        <translation>refusé par le module</translation>
+    </message>
+    <message>
+        <source>temporary links to the photos</source>
+        <translation>liens temporaires vers les photos</translation>
+    </message>
+    <message>
+        <source>is the temporary folder full? set TMPDIR</source>
+        <translation>le dossier temporaire est-il plein&#xa0;? indiquez-en un autre dans TMPDIR</translation>
+    </message>
+    <message>
+        <source>of no shot</source>
+        <translation>aucune vue</translation>
+    </message>
+    <message>
+        <source>shot %1</source>
+        <translation>la vue %1</translation>
+    </message>
+    <message>
+        <source>: %1 may be %2 (%3 %) or %4</source>
+        <translation>, car %1 correspond à %2 (%3&#xa0;%) ou à %4</translation>
+    </message>
+    <message>
+        <source>which photo belongs to which shot cannot be told surely%1; take photos of other shoots away, or say the order with --order name, time or given</source>
+        <translation>impossible de savoir avec certitude quelle photo va avec quelle vue%1&#xa0;; retirez les photos d&apos;autres prises de vue</translation>
+    </message>
+    <message>
+        <source>%1 for shot %2</source>
+        <translation>%1 pour la vue %2</translation>
+    </message>
+    <message>
+        <source>the camera took several photos for each shot: the last one of each is used</source>
+        <translation>l&apos;appareil a pris plusieurs photos par vue&#xa0;: la dernière de chacune est utilisée</translation>
+    </message>
+    <message>
+        <source>taken more than once; used: %1</source>
+        <translation>prises plusieurs fois&#xa0;; photos utilisées&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s counter began again among these photos: they are ordered by time</source>
+        <translation>le compteur de l&apos;appareil est reparti du début parmi ces photos&#xa0;: elles sont triées par heure</translation>
+    </message>
+    <message>
+        <source>photo numbers begin again (another card?): they are ordered by time</source>
+        <translation>les numéros des photos repartent du début (autre carte&#xa0;?)&#xa0;: elles sont triées par heure</translation>
+    </message>
+    <message>
+        <source>names and times disagree: photos are ordered by time</source>
+        <translation>les noms et les heures ne concordent pas&#xa0;: les photos sont triées par heure</translation>
+    </message>
+    <message>
+        <source>no photo for %1%2</source>
+        <translation>aucune photo pour %1%2</translation>
+    </message>
+    <message>
+        <source> (was the shoot stopped?)</source>
+        <translation> (la prise de vue a-t-elle été arrêtée&#xa0;?)</translation>
+    </message>
+    <message>
+        <source>take them again if you can</source>
+        <translation>refaites-les si vous le pouvez</translation>
+    </message>
+    <message>
+        <source>%1 min %2 s</source>
+        <translation>%1 min %2 s</translation>
+    </message>
+    <message>
+        <source>1 hour</source>
+        <translation>1 heure</translation>
+    </message>
+    <message>
+        <source>%1 hours</source>
+        <translation>%1 heures</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s clock is %1 ahead of the head&apos;s</source>
+        <translation>l&apos;horloge de l&apos;appareil est en avance de %1 sur celle de la tête</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s clock is %1 behind the head&apos;s</source>
+        <translation>l&apos;horloge de l&apos;appareil est en retard de %1 sur celle de la tête</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s clock gains %1 s in a minute</source>
+        <translation>l&apos;horloge de l&apos;appareil avance de %1 s par minute</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s clock loses %1 s in a minute</source>
+        <translation>l&apos;horloge de l&apos;appareil retarde de %1 s par minute</translation>
+    </message>
+    <message>
+        <source>the same picture: %1</source>
+        <translation>la même image&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>before the first shot (a test?): left out</source>
+        <translation>avant la première vue (un essai&#xa0;?), hors panorama</translation>
+    </message>
+    <message>
+        <source>of another size: left out</source>
+        <translation>d&apos;une autre taille, hors panorama</translation>
+    </message>
+    <message>
+        <source>not of this shoot: left out</source>
+        <translation>d&apos;une autre prise de vue, hors panorama</translation>
+    </message>
+    <message>
+        <source>which photo belongs to which shot could not be checked (%1): they are taken in the order of their names</source>
+        <translation>impossible de vérifier quelle photo va avec quelle vue (%1)&#xa0;: elles sont prises dans l&apos;ordre de leurs noms</translation>
+    </message>
+    <message>
+        <source>names, times and counts</source>
+        <translation>noms, heures et nombres</translation>
+    </message>
+    <message>
+        <source>names and counts</source>
+        <translation>noms et nombres</translation>
+    </message>
+    <message>
+        <source>the record tells no times</source>
+        <translation>le fichier de prise de vue n&apos;indique pas d&apos;heures</translation>
+    </message>
+    <message>
+        <source>the photos tell no times</source>
+        <translation>les photos n&apos;indiquent pas d&apos;heures</translation>
+    </message>
+    <message>
+        <source>the times of photos and record do not agree</source>
+        <translation>les heures des photos et du fichier de prise de vue ne concordent pas</translation>
+    </message>
+    <message>
+        <source>%1 left out: other files of the same photos are used, JPEG before RAW</source>
+        <translation>%1 en double&#xa0;: d&apos;autres fichiers des mêmes photos sont utilisés, JPEG avant RAW</translation>
+    </message>
+    <message>
+        <source>not opened: %1 agree</source>
+        <translation>non ouvertes&#xa0;: %1 concordent</translation>
+    </message>
+    <message>
+        <source>the grid</source>
+        <translation>la grille</translation>
+    </message>
+    <message>
+        <source>none of its shots has a photo</source>
+        <translation>aucune de ses vues n&apos;a de photo</translation>
+    </message>
+    <message>
+        <source>are these the photos of this shoot?</source>
+        <translation>ces photos sont-elles celles de cette prise de vue&#xa0;?</translation>
+    </message>
+    <message>
+        <source>was made of other photos</source>
+        <translation>à partir d&apos;autres photos</translation>
+    </message>
+    <message>
+        <source>%1 between %2</source>
+        <translation>%1 entre %2</translation>
+    </message>
+    <message>
+        <source>; %1 without a neighbour near enough</source>
+        <translation>, dont %1 sans voisine assez proche</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 à %2</translation>
+    </message>
+    <message>
+        <source>shots %1</source>
+        <translation>les vues %1</translation>
+    </message>
+    <message>
+        <source>, exposure %1 of %2</source>
+        <translation>, exposition %1 sur %2</translation>
+    </message>
+    <message>
+        <source>no photo for shot %1 (yaw %2, pitch %3%4)</source>
+        <translation>aucune photo pour la vue %1 (lacet %2, tangage %3%4)</translation>
+    </message>
+    <message>
+        <source>no photo for %1</source>
+        <translation>aucune photo pour %1</translation>
+    </message>
+    <message>
+        <source>panorama of %1 x %2 pixels: takes about %3 in %4 (%5 are free) and %6 of memory</source>
+        <translation>panorama de %1 x %2 pixels&#xa0;: occupe environ %3 dans %4 (%5 libres) et %6 de mémoire</translation>
+    </message>
+    <message>
+        <source>the light is exact to a fraction of a percent, but where every exposure clips it or shows noise</source>
+        <translation>la lumière est exacte à moins d&apos;un pour cent près, sauf là où toutes les expositions sont brûlées ou bruitées</translation>
+    </message>
+    <message>
+        <source>the light is good for looking at, not for measuring: the photos&apos; curve is taken for sRGB&apos;s; RAW files, or TIFFs without a curve and --linear, make it exact</source>
+        <translation>la lumière convient pour être regardée, non mesurée&#xa0;: la courbe des photos est supposée être celle de sRGB&#xa0;; des fichiers RAW la rendent exacte</translation>
+    </message>
+    <message>
+        <source>is to hold what is kept of this panorama, and holds something else</source>
+        <translation>devait contenir ce qui est conservé de ce panorama, et contient autre chose</translation>
+    </message>
+    <message>
+        <source>rename it, or choose another name with -o</source>
+        <translation>renommez-le, ou choisissez un autre nom</translation>
+    </message>
+    <message>
+        <source>the project asks for another projection; the panorama becomes equirectangular</source>
+        <translation>le projet demande une autre projection&#xa0;; le panorama sera équirectangulaire</translation>
+    </message>
+    <message>
+        <source>masks that include a region are passed over, only those that exclude one count</source>
+        <translation>les masques qui incluent une zone sont ignorés, seuls comptent ceux qui en excluent une</translation>
+    </message>
+    <message>
+        <source>--centre turns full turns only; this part of the sphere stays as it is</source>
+        <translation>seul un panorama à tour complet peut être tourné&#xa0;; cette partie de la sphère reste telle quelle</translation>
+    </message>
+    <message>
+        <source>%1: cannot be read to its end; copy it from the card again, or take it again</source>
+        <translation>%1&#xa0;: lecture impossible jusqu&apos;au bout&#xa0;; copiez-la de nouveau depuis la carte, ou refaites la vue</translation>
+    </message>
+    <message>
+        <source>%1 of them are RAW files</source>
+        <translation>fichiers RAW parmi elles&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>add --raw-converter dcraw, dcraw_emu, darktable-cli or rawtherapee-cli, or give JPEGs or TIFFs of them</source>
+        <translation>installez dcraw, libraw-bin, darktable ou rawtherapee, ou prenez les JPEG ou TIFF de ces photos</translation>
+    </message>
+    <message>
+        <source>photos stay where the head says: optimisation is skipped</source>
+        <translation>les photos restent là où la tête l&apos;indique&#xa0;: optimisation non effectuée</translation>
+    </message>
+    <message>
+        <source>what was finished is kept in %1: the same command goes on from there</source>
+        <translation>ce qui est terminé est conservé dans %1&#xa0;: «&#xa0;Créer le panorama&#xa0;» reprend à cet endroit</translation>
+    </message>
+    <message>
+        <source>photos lie where the record puts them in these commands: nothing is aligned yet</source>
+        <translation>les photos sont aux positions enregistrées&#xa0;: rien n&apos;est encore aligné</translation>
+    </message>
+    <message>
+        <source>a Hugin project cannot hold a file name with quotation marks or line ends, and no link to it can be made in %1</source>
+        <translation>un projet Hugin n&apos;admet pas de nom de fichier avec guillemets ou saut de ligne, et aucun lien vers ce fichier ne peut être créé dans %1</translation>
+    </message>
+    <message>
+        <source>rename the file</source>
+        <translation>renommez le fichier</translation>
+    </message>
+    <message>
+        <source>name dcraw, dcraw_emu, darktable-cli or rawtherapee-cli, or a command with %i for the RAW file and %o for the TIFF</source>
+        <translation>indiquez dcraw, dcraw_emu, darktable-cli ou rawtherapee-cli, ou une commande avec %i pour le fichier RAW et %o pour le TIFF</translation>
+    </message>
+    <message>
+        <source>this RAW converter was not found</source>
+        <translation>ce convertisseur RAW est introuvable</translation>
+    </message>
+    <message>
+        <source>is its name right? of those known: apt install dcraw, libraw-bin, darktable or rawtherapee</source>
+        <translation>son nom est-il juste&#xa0;? parmi ceux connus&#xa0;: apt install dcraw, libraw-bin, darktable ou rawtherapee</translation>
+    </message>
+    <message>
+        <source>the camera chose the white balance of %1 RAW files one by one, and %2 follows it: their colours may differ; dcraw takes the first one&apos;s for all</source>
+        <translation>l&apos;appareil a choisi la balance des blancs de %1 fichiers RAW un par un, et %2 la suit&#xa0;: leurs couleurs peuvent différer&#xa0;; dcraw prend celle du premier pour tous</translation>
+    </message>
+    <message>
+        <source>this copy of a photo cannot be made</source>
+        <translation>impossible de créer cette copie d&apos;une photo</translation>
+    </message>
+    <message>
+        <source>is the photo readable? is the disk full?</source>
+        <translation>la photo est-elle lisible&#xa0;? le disque est-il plein&#xa0;?</translation>
+    </message>
+    <message>
+        <source>, of %1</source>
+        <translation>, pour %1</translation>
+    </message>
+    <message>
+        <source>it left no whole picture of %1</source>
+        <translation>n&apos;a pas laissé d&apos;image complète de %1</translation>
+    </message>
+    <message>
+        <source>can it read this camera&apos;s files? is the disk full?</source>
+        <translation>peut-il lire les fichiers de cet appareil&#xa0;? le disque est-il plein&#xa0;?</translation>
+    </message>
+    <message>
+        <source>names no program</source>
+        <translation>n&apos;indique aucun programme</translation>
+    </message>
+    <message>
+        <source>does not say where its files go</source>
+        <translation>n&apos;indique pas où vont ses fichiers</translation>
+    </message>
+    <message>
+        <source>row %1 of column %2</source>
+        <translation>la ligne %1 de la colonne %2</translation>
+    </message>
+    <message>
+        <source>the grid reaches around the sphere: overlap or rows do not fit this lens</source>
+        <translation>la grille fait le tour de la sphère&#xa0;: le recouvrement ou les lignes ne vont pas avec cet objectif</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n column</source>
+        <translation>
+            <numerusform>%n colonne</numerusform>
+            <numerusform>%n colonnes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file</source>
+        <translation>
+            <numerusform>%n fichier</numerusform>
+            <numerusform>%n fichiers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n link</source>
+        <translation>
+            <numerusform>%n lien</numerusform>
+            <numerusform>%n liens</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n photo</source>
+        <translation>
+            <numerusform>%n photo</numerusform>
+            <numerusform>%n photos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n position</source>
+        <translation>
+            <numerusform>%n position</numerusform>
+            <numerusform>%n positions</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row</source>
+        <translation>
+            <numerusform>%n ligne</numerusform>
+            <numerusform>%n lignes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n shot</source>
+        <translation>
+            <numerusform>%n vue</numerusform>
+            <numerusform>%n vues</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the description</source>
+        <translation>la description</translation>
+    </message>
+    <message>
+        <source>%1 recorded directions for %2 photos at %3 positions</source>
+        <translation>%1 directions enregistrées pour %2 photos à %3 positions</translation>
+    </message>
+    <message>
+        <source>its direction is not a number</source>
+        <translation>sa direction n&apos;est pas un nombre</translation>
+    </message>
+    <message>
+        <source>correct the record</source>
+        <translation>corrigez le fichier de prise de vue</translation>
+    </message>
+    <message>
+        <source>position %1</source>
+        <translation>la position %1</translation>
+    </message>
+    <message>
+        <source>has no photo</source>
+        <translation>n&apos;a pas de photo</translation>
+    </message>
+    <message>
+        <source>holds no photos</source>
+        <translation>ne contient pas de photos</translation>
+    </message>
+    <message>
+        <source>name a file that &apos;panohost import --json&apos; has written</source>
+        <translation>choisissez une description enregistrée avec panohost</translation>
+    </message>
+    <message>
+        <source>cannot read (not a photo?)</source>
+        <translation>illisible (n&apos;est-ce pas une photo&#xa0;?)</translation>
+    </message>
+    <message>
+        <source>its pixels cannot be decoded (a RAW file?)</source>
+        <translation>impossible de décoder ses pixels (un fichier RAW&#xa0;?)</translation>
+    </message>
+    <message>
+        <source>too large to decode</source>
+        <translation>trop grande pour être décodée</translation>
+    </message>
+    <message>
+        <source>give it with --focal</source>
+        <translation>revenez en arrière et saisissez-la</translation>
+    </message>
+    <message>
+        <source>neither the record nor the photos name it</source>
+        <translation>ni le fichier de prise de vue ni les photos ne l&apos;indiquent</translation>
+    </message>
+    <message>
+        <source>no lens has %1 mm</source>
+        <translation>aucun objectif n&apos;a %1 mm</translation>
+    </message>
+    <message>
+        <source>its size in pixels is not known</source>
+        <translation>sa taille en pixels n&apos;est pas connue</translation>
+    </message>
+    <message>
+        <source>can another program open it? leave it out if not</source>
+        <translation>un autre programme peut-il l&apos;ouvrir&#xa0;? sinon, ne l&apos;utilisez pas</translation>
+    </message>
+    <message>
+        <source>the photos have %1 different sizes in pixels</source>
+        <translation>les photos ont %1 tailles différentes en pixels</translation>
+    </message>
+    <message>
+        <source>a Hugin project cannot hold a file name with quotation marks or line ends</source>
+        <translation>un projet Hugin n&apos;admet pas de nom de fichier avec guillemets ou saut de ligne</translation>
+    </message>
+    <message>
+        <source>%1 of %2 photos name no exposure; %3 is assumed</source>
+        <translation>%1 photos sur %2 n&apos;indiquent pas l&apos;exposition&#xa0;; %3 est supposé</translation>
+    </message>
+    <message>
+        <source>larger than %1 bytes</source>
+        <translation>plus de %1 octets</translation>
+    </message>
+    <message>
+        <source>give the name of a file</source>
+        <translation>indiquez le nom d&apos;un fichier</translation>
+    </message>
+    <message>
+        <source>set --plugin or PANOHOST_PLUGIN_PATH to libXPanoHead.so</source>
+        <translation>faites pointer PANOHOST_PLUGIN_PATH vers libXPanoHead.so</translation>
+    </message>
+    <message>
+        <source>no such file or folder</source>
+        <translation>fichier ou dossier introuvable</translation>
+    </message>
+    <message>
+        <source>import plug-ins</source>
+        <translation>modules d&apos;importation</translation>
+    </message>
+    <message>
+        <source>no plug-in library in %1</source>
+        <translation>aucune bibliothèque de modules dans %1</translation>
+    </message>
+    <message>
+        <source>is not a Qt plug-in library</source>
+        <translation>n&apos;est pas une bibliothèque de modules Qt</translation>
+    </message>
+    <message>
+        <source>its interface is &apos;%1&apos;, &apos;%2&apos; is needed</source>
+        <translation>son interface est «&#xa0;%1&#xa0;», il faut «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>offers no list of plug-ins</source>
+        <translation>ne propose pas de liste de modules</translation>
+    </message>
+    <message>
+        <source>holds no import plug-in</source>
+        <translation>ne contient aucun module d&apos;importation</translation>
+    </message>
+    <message>
+        <source>cannot be written</source>
+        <translation>écriture impossible</translation>
+    </message>
+    <message>
+        <source>is of another size than the others of its bracket</source>
+        <translation>n&apos;a pas la même taille que les autres de son bracketing</translation>
+    </message>
+    <message>
+        <source>is no warped light</source>
+        <translation>ne contient pas de lumière déformée</translation>
+    </message>
+    <message>
+        <source>these photos of the project, and %1 more, are not there any more</source>
+        <translation>ces photos du projet, et %1 de plus, n&apos;existent plus</translation>
+    </message>
+    <message>
+        <source>not there any more</source>
+        <translation>il n&apos;y a plus rien à cet endroit</translation>
+    </message>
+    <message>
+        <source>put the photos back where they were, or import them again</source>
+        <translation>remettez les photos à leur place, ou importez-les de nouveau</translation>
+    </message>
+    <message>
+        <source>%1 has %2 bits a colour, %3 has %4, and all must be alike to be blended</source>
+        <translation>%1 a %2 bits par couleur, %3 en a %4, et toutes doivent être pareilles pour être raccordées</translation>
+    </message>
+    <message>
+        <source>convert or develop them alike</source>
+        <translation>convertissez-les ou développez-les de la même façon</translation>
+    </message>
+    <message>
+        <source>was not written to its end</source>
+        <translation>n&apos;a pas été écrit jusqu&apos;au bout</translation>
+    </message>
+    <message>
+        <source>is there enough room in %1?</source>
+        <translation>y a-t-il assez d&apos;espace dans %1&#xa0;?</translation>
+    </message>
+    <message>
+        <source>nona, of %1</source>
+        <translation>nona, pour %1</translation>
+    </message>
+    <message>
+        <source>made no picture of %1</source>
+        <translation>n&apos;a créé aucune image de %1</translation>
+    </message>
+    <message>
+        <source>is it a photo that other programs open?</source>
+        <translation>est-ce une photo que d&apos;autres programmes ouvrent&#xa0;?</translation>
+    </message>
+    <message>
+        <source>size of the panorama</source>
+        <translation>taille du panorama</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels cannot be made</source>
+        <translation>impossible de créer %1 x %2 pixels</translation>
+    </message>
+    <message>
+        <source>choose another --size</source>
+        <translation>choisissez une autre taille</translation>
+    </message>
+    <message>
+        <source>the stitch needs %1 there, %2 are free</source>
+        <translation>le panorama y demande %1, %2 sont libres</translation>
+    </message>
+    <message>
+        <source>make room, name another place with -o, or choose a smaller --size</source>
+        <translation>libérez de l&apos;espace, choisissez un autre emplacement ou une taille plus petite</translation>
+    </message>
+    <message>
+        <source>memory</source>
+        <translation>mémoire</translation>
+    </message>
+    <message>
+        <source>the stitch needs about %1, %2 are available</source>
+        <translation>le panorama demande environ %1, %2 sont disponibles</translation>
+    </message>
+    <message>
+        <source>close other programs, or choose --jobs 1 or a smaller --size</source>
+        <translation>fermez d&apos;autres programmes, ou choisissez une taille plus petite</translation>
+    </message>
+    <message>
+        <source>try it by itself</source>
+        <translation>essayez-le séparément</translation>
+    </message>
+    <message>
+        <source>%1 minutes</source>
+        <translation>%1 minutes</translation>
+    </message>
+    <message>
+        <source>it was killed, perhaps because memory ran out</source>
+        <translation>a été interrompu, peut-être faute de mémoire</translation>
+    </message>
+    <message>
+        <source>close other programs and try again</source>
+        <translation>fermez d&apos;autres programmes et réessayez</translation>
+    </message>
+    <message>
+        <source>it crashed (signal %1)</source>
+        <translation>s&apos;est arrêté brutalement (signal %1)</translation>
+    </message>
+    <message>
+        <source>%1 and said: %2</source>
+        <translation>%1, avec le message&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source> if so: %1</source>
+        <translation> si oui&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>this program is needed for stitching and was not found</source>
+        <translation>ce programme est nécessaire pour créer le panorama et est introuvable</translation>
+    </message>
+    <message>
+        <source>cannot be started (%1)</source>
+        <translation>impossible de le démarrer (%1)</translation>
+    </message>
+    <message>
+        <source>it was stopped since it did nothing for %1</source>
+        <translation>a été arrêté, n&apos;ayant rien fait pendant %1</translation>
+    </message>
+    <message>
+        <source>is the machine very busy, or a network drive away? try again</source>
+        <translation>l&apos;ordinateur est-il très occupé, ou un lecteur réseau absent&#xa0;? réessayez</translation>
+    </message>
+    <message>
+        <source>it failed without a message</source>
+        <translation>a échoué sans message</translation>
+    </message>
+    <message>
+        <source>it failed and said: %1</source>
+        <translation>a échoué avec le message&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>is the disk full, or a file damaged that it reads?</source>
+        <translation>le disque est-il plein, ou un fichier à lire endommagé&#xa0;?</translation>
+    </message>
+    <message>
+        <source>it failed, and there is hardly any room left on the disk at %1 (%2)</source>
+        <translation>a échoué, et il ne reste presque plus d&apos;espace sur le disque à %1 (%2)</translation>
+    </message>
+    <message>
+        <source>make room there and go on with the same command; nothing is lost</source>
+        <translation>libérez-y de l&apos;espace et appuyez de nouveau sur «&#xa0;Créer le panorama&#xa0;»&#xa0;; rien n&apos;est perdu</translation>
+    </message>
+    <message>
+        <source>was the disk full? remove the file and try again</source>
+        <translation>le disque était-il plein&#xa0;? supprimez le fichier et réessayez</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>illisible</translation>
+    </message>
+    <message>
+        <source>is no picture of 8, 16 or floating bits</source>
+        <translation>n&apos;est pas une image en 8 bits, 16 bits ou virgule flottante</translation>
+    </message>
+    <message>
+        <source>is cut off</source>
+        <translation>est tronqué</translation>
+    </message>
+    <message>
+        <source>cannot be mapped into memory</source>
+        <translation>impossible de le projeter en mémoire</translation>
+    </message>
+    <message>
+        <source>is the disk full, or the folder read-only?</source>
+        <translation>le disque est-il plein, ou le dossier en lecture seule&#xa0;?</translation>
+    </message>
+    <message>
+        <source>%1, process %2 on %3</source>
+        <translation>%1, processus %2 sur %3</translation>
+    </message>
+    <message>
+        <source>another program</source>
+        <translation>un autre programme</translation>
+    </message>
+    <message>
+        <source>there is a file of that name: rename it, or choose another name with -o</source>
+        <translation>un fichier porte ce nom&#xa0;: renommez-le, ou choisissez un autre nom</translation>
+    </message>
+    <message>
+        <source>is in use by %1</source>
+        <translation>est utilisé par %1</translation>
+    </message>
+    <message>
+        <source>wait for it to end, or choose another name with -o</source>
+        <translation>attendez qu&apos;il se termine, ou choisissez un autre nom</translation>
     </message>
 </context>
 <context>

@@ -64,36 +64,16 @@
         <translation>%1（手順 %2 / %3）</translation>
     </message>
     <message>
-        <source>or choose a smaller size</source>
-        <translation>または小さいサイズを選んでください</translation>
+        <source>%1 x %2 in at %3 dpi</source>
+        <translation>%3 dpi で %1 x %2 インチ</translation>
     </message>
     <message>
-        <source>choose a smaller size</source>
-        <translation>小さいサイズを選んでください</translation>
+        <source>%1 x %2 cm at %3 dpi</source>
+        <translation>%3 dpi で %1 x %2 cm</translation>
     </message>
     <message>
-        <source>choose another size</source>
-        <translation>別のサイズを選んでください</translation>
-    </message>
-    <message>
-        <source>RAW files make it exact</source>
-        <translation>RAW ファイルなら正確になります</translation>
-    </message>
-    <message>
-        <source>press Make panorama again</source>
-        <translation>「パノラマを作成」をもう一度押してください</translation>
-    </message>
-    <message>
-        <source>go back and enter it</source>
-        <translation>戻って入力してください</translation>
-    </message>
-    <message>
-        <source>Make panorama goes on from here</source>
-        <translation>「パノラマを作成」で続きから再開します</translation>
-    </message>
-    <message>
-        <source>%1 x %2 pixels at most; takes up to %3 of the disk and %4 of memory.</source>
-        <translation>最大 %1 x %2 ピクセル。必要な容量はディスクが最大 %3、メモリが最大 %4 です。</translation>
+        <source>%1 x %2 pixels at most (%3); takes up to %4 of the disk and %5 of memory.</source>
+        <translation>最大 %1 x %2 ピクセル（%3）。必要な容量はディスクが最大 %4、メモリが最大 %5 です。</translation>
     </message>
 </context>
 <context>
@@ -208,14 +188,29 @@
     </message>
 </context>
 <context>
-    <name>PanoHost::ImportWizard</name>
+    <name>PanoHost::HelpMenu</name>
     <message>
-        <source>Import a panorama</source>
-        <translation>パノラマの読み込み</translation>
+        <source>&amp;Help</source>
+        <translation>ヘルプ(&amp;H)</translation>
     </message>
     <message>
         <source>Help</source>
         <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>&amp;Preferences...</source>
+        <translation>環境設定(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>&amp;About panohost</source>
+        <translation>panohost について(&amp;O)</translation>
+    </message>
+</context>
+<context>
+    <name>PanoHost::ImportWizard</name>
+    <message>
+        <source>Import a panorama</source>
+        <translation>パノラマの読み込み</translation>
     </message>
     <message>
         <source>&amp;Another import</source>
@@ -260,18 +255,6 @@
     <message>
         <source>This page could not do what you asked: %1. Your files are as they were. Try again, or go back and choose fewer files.</source>
         <translation>このページで処理を実行できませんでした: %1。ファイルは元のままです。もう一度お試しになるか、戻ってファイルの数を減らしてください。</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>ヘルプ(&amp;H)</translation>
-    </message>
-    <message>
-        <source>&amp;Preferences...</source>
-        <translation>環境設定(&amp;P)...</translation>
-    </message>
-    <message>
-        <source>&amp;About panohost</source>
-        <translation>panohost について(&amp;O)</translation>
     </message>
     <message>
         <source>Choose the head that took the photos, then Next. You can also drop the head&apos;s record and the photos, or the folder that holds them, onto this window.</source>
@@ -619,10 +602,6 @@
         <translation>ツール:</translation>
     </message>
     <message>
-        <source>Language and thumbnails change with the next start.</source>
-        <translation>言語とサムネイルの変更は、次回の起動から有効になります。</translation>
-    </message>
-    <message>
         <source>As the desktop</source>
         <translation>デスクトップに合わせる</translation>
     </message>
@@ -645,6 +624,22 @@
     <message>
         <source>%1 is no folder; choose another one, or leave the field empty.</source>
         <translation>%1 はフォルダではありません。別のフォルダを選ぶか、欄を空にしてください。</translation>
+    </message>
+    <message>
+        <source>Centimetres</source>
+        <translation>センチメートル</translation>
+    </message>
+    <message>
+        <source>Inches</source>
+        <translation>インチ</translation>
+    </message>
+    <message>
+        <source>&amp;Units of prints:</source>
+        <translation>プリントの単位(&amp;U):</translation>
+    </message>
+    <message>
+        <source>The language changes with the next start.</source>
+        <translation>言語の変更は、次回の起動から有効になります。</translation>
     </message>
 </context>
 <context>
@@ -1160,6 +1155,1263 @@
     <message>
         <source>%1 was not saved: %2</source>
         <translation>%1 は保存されませんでした: %2</translation>
+    </message>
+</context>
+<context>
+    <name>PanoHost::Said</name>
+    <message>
+        <source>no control points are wanted (automatic detection is off): kept as recorded</source>
+        <translation>コントロールポイントは使いません（自動検出はオフ）: 記録された位置のままにします</translation>
+    </message>
+    <message>
+        <source>photos are left as recorded (optimisation is skipped)</source>
+        <translation>写真は記録された位置のままにします（最適化は省略）</translation>
+    </message>
+    <message>
+        <source>there is one photo only: kept as recorded</source>
+        <translation>写真が 1 枚しかありません: 記録された位置のままにします</translation>
+    </message>
+    <message>
+        <source>no two photos overlap where the record puts them: kept as recorded</source>
+        <translation>記録された位置では、重なり合う写真がありません: 記録された位置のままにします</translation>
+    </message>
+    <message>
+        <source>no spot was found in two photos (nothing but sky or fog, or the photos are not of this record): kept as recorded</source>
+        <translation>2 枚の写真に共通する点が見つかりません（空や霧しか写っていないか、この撮影記録の写真ではありません）: 記録された位置のままにします</translation>
+    </message>
+    <message>
+        <source>%1; kept as recorded</source>
+        <translation>%1。記録された位置のままにします</translation>
+    </message>
+    <message>
+        <source>none of the photos can be used: were they moved since the import?</source>
+        <translation>使える写真がありません: 読み込んだ後に移動していませんか?</translation>
+    </message>
+    <message>
+        <source>the photos fit the order &apos;%1&apos; better than &apos;%2&apos;: import them with --mode %1</source>
+        <translation>写真には順序「%2」より「%1」のほうが合っています: 順序「%1」で読み込んでください</translation>
+    </message>
+    <message>
+        <source>the panorama is made %1 stops brighter: what is white in a photo stays white</source>
+        <translation>パノラマを %1 段明るくしました: 写真の白い部分は白いままです</translation>
+    </message>
+    <message>
+        <source>%1 of %2 tied, %3, median %4 pixels</source>
+        <translation>%2のうち %1 枚にポイントあり、%3、ずれの中央値 %4 ピクセル</translation>
+    </message>
+    <message>
+        <source>%1 point</source>
+        <translation>%1 ポイント</translation>
+    </message>
+    <message>
+        <source>%1 points</source>
+        <translation>%1 ポイント</translation>
+    </message>
+    <message>
+        <source> and %1 more</source>
+        <translation> ほか %1 枚</translation>
+    </message>
+    <message>
+        <source>no points in %1 (%2): kept where the head put it</source>
+        <translation>%1（%2）にポイントが見つかりません: 雲台が記録した位置のままにします</translation>
+    </message>
+    <message>
+        <source>no points in %1 (%2): kept where the head put them</source>
+        <translation>%1（%2）にポイントが見つかりません: 雲台が記録した位置のままにします</translation>
+    </message>
+    <message>
+        <source>lens %1 mm instead of %2</source>
+        <translation>レンズは %2 mm ではなく %1 mm でした</translation>
+    </message>
+    <message>
+        <source>the lens darkens its corners by %1 %: evened out</source>
+        <translation>レンズの周辺減光は %1 % です: 補正しました</translation>
+    </message>
+    <message>
+        <source>exposures are not what the photos say, by up to %1 stops: evened out</source>
+        <translation>露出が写真の記録と最大 %1 段違います: 補正しました</translation>
+    </message>
+    <message>
+        <source>the head repeats to %1 degrees</source>
+        <translation>雲台の繰り返し精度（度）: %1</translation>
+    </message>
+    <message>
+        <source>less than %1</source>
+        <translation>%1 未満</translation>
+    </message>
+    <message>
+        <source>the camera sits %1 degrees crooked on the head</source>
+        <translation>カメラが雲台に %1 度傾いて取り付けられています</translation>
+    </message>
+    <message>
+        <source>the head&apos;s steps are %1 (across) and %2 (up) times what was stated</source>
+        <translation>雲台の送り角は、指定された値の %1 倍（横）、%2 倍（縦）です</translation>
+    </message>
+    <message>
+        <source>from %1 on the head stands %2 degrees farther right than recorded: did its turning axis slip?</source>
+        <translation>%1 以降、雲台が記録より %2 度右を向いています: 水平回転の軸が滑りませんでしたか?</translation>
+    </message>
+    <message>
+        <source>from %1 on the head stands %2 degrees farther left than recorded: did its turning axis slip?</source>
+        <translation>%1 以降、雲台が記録より %2 度左を向いています: 水平回転の軸が滑りませんでしたか?</translation>
+    </message>
+    <message>
+        <source>from %1 on the head stands %2 degrees higher than recorded: did its tilting axis slip?</source>
+        <translation>%1 以降、雲台が記録より %2 度上を向いています: 上下回転の軸が滑りませんでしたか?</translation>
+    </message>
+    <message>
+        <source>from %1 on the head stands %2 degrees lower than recorded: did its tilting axis slip?</source>
+        <translation>%1 以降、雲台が記録より %2 度下を向いています: 上下回転の軸が滑りませんでしたか?</translation>
+    </message>
+    <message>
+        <source>%1 was taken %2 degrees from where the head says: was it bumped?</source>
+        <translation>%1 は、雲台の記録から %2 度ずれて撮影されています: 何かがぶつかりませんでしたか?</translation>
+    </message>
+    <message>
+        <source>residuals suggest parallax (%1 pixels): near things move against far ones; is the camera&apos;s nodal point on the head&apos;s axes?</source>
+        <translation>残った誤差から視差が疑われます（%1 ピクセル）: 近くのものが遠くのものに対してずれています。カメラのノーダルポイントは雲台の軸上にありますか?</translation>
+    </message>
+    <message>
+        <source>was %1 x %2 pixels when imported, is now %3 x %4</source>
+        <translation>読み込んだときは %1 x %2 ピクセルでしたが、今は %3 x %4 です</translation>
+    </message>
+    <message>
+        <source>cannot keep the features of photos there: %1</source>
+        <translation>写真の特徴データをそこに保存できません: %1</translation>
+    </message>
+    <message>
+        <source>TMPDIR names a folder with more room</source>
+        <translation>TMPDIR に、空き容量の多いフォルダを指定してください</translation>
+    </message>
+    <message>
+        <source>cannot read the features of photos back: %1</source>
+        <translation>写真の特徴データを読み戻せません: %1</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>%1: %2, bracket %3, focal %4, lens %5</source>
+        <translation>%1: %2、ブラケット %3 枚、焦点距離 %4、レンズ %5</translation>
+    </message>
+    <message>
+        <source>copy it from the card again</source>
+        <translation>カードからもう一度コピーしてください</translation>
+    </message>
+    <message>
+        <source>%1 given, %2 readable, focal %3, lens %4</source>
+        <translation>選択 %1 枚、読み取り可能 %2 枚、焦点距離 %3、レンズ %4</translation>
+    </message>
+    <message>
+        <source>neither the photos nor the record name the focal length</source>
+        <translation>写真にも撮影記録にも、焦点距離が記録されていません</translation>
+    </message>
+    <message>
+        <source>give it, as for 35 mm film: --focal 24</source>
+        <translation>35 mm 判換算で入力してください</translation>
+    </message>
+    <message>
+        <source>not all photos have a capture time</source>
+        <translation>撮影時刻のない写真があります</translation>
+    </message>
+    <message>
+        <source>%1 was taken before %2</source>
+        <translation>%1 は %2 より前に撮影されています</translation>
+    </message>
+    <message>
+        <source>try --order time</source>
+        <translation>時刻順を試してください</translation>
+    </message>
+    <message>
+        <source>capture times agree</source>
+        <translation>撮影時刻の順序は合っています</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>%1 s after %2 (usually %3 s)</source>
+        <translation>%2 の %1 秒後（通常は %3 秒）</translation>
+    </message>
+    <message>
+        <source>standard</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>fisheye</source>
+        <translation>魚眼</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>this folder cannot be made</source>
+        <translation>このフォルダを作成できません</translation>
+    </message>
+    <message>
+        <source>is the disk full, or the folder above it read-only?</source>
+        <translation>ディスクの空き容量がないか、上のフォルダが読み取り専用ではありませんか?</translation>
+    </message>
+    <message>
+        <source>no photo reaches these sides of the cube, which are left out: %1</source>
+        <translation>写真が届いていないキューブの面は省きます: %1</translation>
+    </message>
+    <message>
+        <source>cannot be written (%1)</source>
+        <translation>書き込めません（%1）</translation>
+    </message>
+    <message>
+        <source>make room there or choose another place</source>
+        <translation>空きを作るか、別の場所を選んでください</translation>
+    </message>
+    <message>
+        <source>the folder %1 does not exist</source>
+        <translation>フォルダ %1 がありません</translation>
+    </message>
+    <message>
+        <source>create it or choose another place</source>
+        <translation>フォルダを作成するか、別の場所を選んでください</translation>
+    </message>
+    <message>
+        <source>is a folder</source>
+        <translation>フォルダです</translation>
+    </message>
+    <message>
+        <source>is not a regular file</source>
+        <translation>通常のファイルではありません</translation>
+    </message>
+    <message>
+        <source>remove it or choose another name with -o</source>
+        <translation>削除するか、別の名前を選んでください</translation>
+    </message>
+    <message>
+        <source>is a file, and a folder of that name is wanted</source>
+        <translation>ファイルです。同じ名前のフォルダが必要です</translation>
+    </message>
+    <message>
+        <source>is a folder that panohost has not made</source>
+        <translation>panohost が作成したフォルダではありません</translation>
+    </message>
+    <message>
+        <source>it left a file that is not complete</source>
+        <translation>出力されたファイルが不完全です</translation>
+    </message>
+    <message>
+        <source>is the disk full? make room and try again</source>
+        <translation>ディスクの空き容量がないのではありませんか? 空きを作って、もう一度お試しください</translation>
+    </message>
+    <message>
+        <source>make room there and try again</source>
+        <translation>空きを作って、もう一度お試しください</translation>
+    </message>
+    <message>
+        <source>the panorama has %1 x %2 pixels, and JPEG files at most %3 to a side</source>
+        <translation>パノラマは %1 x %2 ピクセルですが、JPEG ファイルは一辺 %3 ピクセルまでです</translation>
+    </message>
+    <message>
+        <source>name it .tif, or make it smaller with --size</source>
+        <translation>名前の末尾を .tif にするか、小さいサイズを選んでください</translation>
+    </message>
+    <message>
+        <source>this panorama&apos;s values are not light</source>
+        <translation>このパノラマの値は実際の光の値ではありません</translation>
+    </message>
+    <message>
+        <source>needs --output hdr</source>
+        <translation>「ブラケット」で「実際の光の値（HDR）」を選んでください</translation>
+    </message>
+    <message>
+        <source>is not the panorama that was stitched last</source>
+        <translation>最後に作成したパノラマではありません</translation>
+    </message>
+    <message>
+        <source>remove it and try again</source>
+        <translation>削除して、もう一度お試しください</translation>
+    </message>
+    <message>
+        <source>it left %1 incomplete</source>
+        <translation>出力された %1 が不完全です</translation>
+    </message>
+    <message>
+        <source>is the disk full?</source>
+        <translation>ディスクの空き容量がないのではありませんか?</translation>
+    </message>
+    <message>
+        <source>the address where the folder will be reached is not known</source>
+        <translation>フォルダを公開するアドレスがわかりません</translation>
+    </message>
+    <message>
+        <source>give it, such as https://example.org/panoramas</source>
+        <translation>アドレスを入力してください（例: https://example.org/panoramas）</translation>
+    </message>
+    <message>
+        <source>%1 less %2 ignored</source>
+        <translation>%1（うち %2 枚は無視）</translation>
+    </message>
+    <message>
+        <source>%1, %2, bracket %3, %4 ignored</source>
+        <translation>%1、%2、ブラケット %3 枚、無視 %4 枚</translation>
+    </message>
+    <message>
+        <source>photos</source>
+        <translation>写真</translation>
+    </message>
+    <message>
+        <source>--ignore %1 leaves none of %2</source>
+        <translation>%1 枚を無視すると、%2 枚のうち 1 枚も残りません</translation>
+    </message>
+    <message>
+        <source>ignore fewer, or name all photos</source>
+        <translation>無視する枚数を減らすか、すべての写真を選んでください</translation>
+    </message>
+    <message>
+        <source>--bracket %1 is more than %2</source>
+        <translation>1 ブラケット %1 枚に対して、%2しかありません</translation>
+    </message>
+    <message>
+        <source>each position needs all its exposures</source>
+        <translation>各撮影位置に、すべての露出の写真が必要です</translation>
+    </message>
+    <message>
+        <source>%1 are not a multiple of bracket %2</source>
+        <translation>%1は、1 ブラケット %2 枚の倍数ではありません</translation>
+    </message>
+    <message>
+        <source>each position needs all its exposures; --ignore N leaves out the first N photos</source>
+        <translation>各撮影位置に、すべての露出の写真が必要です。先頭の余分な写真は「先頭から無視するファイル数」で除けます</translation>
+    </message>
+    <message>
+        <source>%1 (%2 in brackets of %3)</source>
+        <translation>%1（%2、各 %3 枚のブラケット）</translation>
+    </message>
+    <message>
+        <source>%1 do not divide %2 evenly</source>
+        <translation>%2を %1に均等に分けられません</translation>
+    </message>
+    <message>
+        <source>are photos missing? --ignore N leaves out the first N photos</source>
+        <translation>足りない写真はありませんか? 先頭の余分な写真は「先頭から無視するファイル数」で除けます</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 ほか %2 件</translation>
+    </message>
+    <message>
+        <source>no pause tells where</source>
+        <translation>撮影の間隔からも場所はわかりません</translation>
+    </message>
+    <message>
+        <source>the longest pause: %1, in row %2 as they were taken</source>
+        <translation>最も長い中断: %1、撮影順で %2 行目</translation>
+    </message>
+    <message>
+        <source>the longest pause: %1, in column %2 as they were taken</source>
+        <translation>最も長い中断: %1、撮影順で %2 列目</translation>
+    </message>
+    <message>
+        <source>the pictures do not tell which are missing: %1</source>
+        <translation>画像からは、どの写真が足りないか判断できません: %1</translation>
+    </message>
+    <message>
+        <source>no photo for %1 (rows from the top, columns from the left)</source>
+        <translation>%1の写真がありません（行は上から、列は左から数えます）</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>ファイルがありません</translation>
+    </message>
+    <message>
+        <source>not a regular file</source>
+        <translation>通常のファイルではありません</translation>
+    </message>
+    <message>
+        <source>no &lt;shoot&gt; pictures</source>
+        <translation>&lt;shoot&gt; に写真の記録がありません</translation>
+    </message>
+    <message>
+        <source>is it an old-style Papywizard file (image/coords)?</source>
+        <translation>古い形式の Papywizard ファイル (image/coords) ではありませんか?</translation>
+    </message>
+    <message>
+        <source>its &lt;shoot&gt; holds no &lt;pict&gt;: no shot was recorded</source>
+        <translation>&lt;shoot&gt; に &lt;pict&gt; がありません: ショットが 1 つも記録されていません</translation>
+    </message>
+    <message>
+        <source>choose the record of a finished shoot</source>
+        <translation>最後まで終わった撮影の記録を選んでください</translation>
+    </message>
+    <message>
+        <source>no op_shoot command: no shot was recorded</source>
+        <translation>op_shoot コマンドがありません: ショットが 1 つも記録されていません</translation>
+    </message>
+    <message>
+        <source>is it the script that the head ran?</source>
+        <translation>雲台が実行したスクリプトですか?</translation>
+    </message>
+    <message>
+        <source>correct this line, or choose another script</source>
+        <translation>この行を直すか、別のスクリプトを選んでください</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>%1 行目: %2</translation>
+    </message>
+    <message>
+        <source>is it the record that the head wrote?</source>
+        <translation>雲台が書き出した撮影記録ですか?</translation>
+    </message>
+    <message>
+        <source>no such record</source>
+        <translation>撮影記録がありません</translation>
+    </message>
+    <message>
+        <source>check the name</source>
+        <translation>名前を確認してください</translation>
+    </message>
+    <message>
+        <source>unknown head &apos;%1&apos;%2</source>
+        <translation>不明な雲台「%1」%2</translation>
+    </message>
+    <message>
+        <source>heads: %1</source>
+        <translation>雲台: %1</translation>
+    </message>
+    <message>
+        <source>no record of some of its shots can be made</source>
+        <translation>一部のショットだけの撮影記録を作成できません</translation>
+    </message>
+    <message>
+        <source>take the shots by hand</source>
+        <translation>手動で撮影してください</translation>
+    </message>
+    <message>
+        <source>using %1</source>
+        <translation>%1 を使用</translation>
+    </message>
+    <message>
+        <source>has no import plug-in for %1</source>
+        <translation>%1 の読み込みプラグインがありません</translation>
+    </message>
+    <message>
+        <source>set --plugin to another library</source>
+        <translation>別のプラグインライブラリを使ってください</translation>
+    </message>
+    <message>
+        <source>the page refuses them</source>
+        <translation>このページでは受け付けられません</translation>
+    </message>
+    <message>
+        <source>make it first</source>
+        <translation>先にフォルダを作成してください</translation>
+    </message>
+    <message>
+        <source>name a file in it</source>
+        <translation>その中のファイルを選んでください</translation>
+    </message>
+    <message>
+        <source>name a file of your own</source>
+        <translation>ご自分のファイルを選んでください</translation>
+    </message>
+    <message>
+        <source>cannot be written there: %1</source>
+        <translation>そこには書き込めません: %1</translation>
+    </message>
+    <message>
+        <source>choose a folder of your own</source>
+        <translation>ご自分のフォルダを選んでください</translation>
+    </message>
+    <message>
+        <source>is one of the input files</source>
+        <translation>入力ファイルの 1 つです</translation>
+    </message>
+    <message>
+        <source>choose another name for the result</source>
+        <translation>結果には別の名前を選んでください</translation>
+    </message>
+    <message>
+        <source>given twice</source>
+        <translation>2 回指定されています</translation>
+    </message>
+    <message>
+        <source>name each photo once</source>
+        <translation>同じ写真は 1 回だけ選んでください</translation>
+    </message>
+    <message>
+        <source>no such photo</source>
+        <translation>写真がありません</translation>
+    </message>
+    <message>
+        <source>rename the file: its name is not in UTF-8</source>
+        <translation>ファイル名を変更してください: 名前が UTF-8 ではありません</translation>
+    </message>
+    <message>
+        <source>name the photos in it, e.g. %1/*.jpg</source>
+        <translation>その中の写真を選んでください（例: %1/*.jpg）</translation>
+    </message>
+    <message>
+        <source>name photos only</source>
+        <translation>写真だけを選んでください</translation>
+    </message>
+    <message>
+        <source>cannot be read: permission denied</source>
+        <translation>読み込めません: アクセス権がありません</translation>
+    </message>
+    <message>
+        <source>copy it to a folder of your own</source>
+        <translation>ご自分のフォルダにコピーしてください</translation>
+    </message>
+    <message>
+        <source>are photos missing, or did the shoot stop early?</source>
+        <translation>足りない写真があるか、撮影が途中で終わっていませんか?</translation>
+    </message>
+    <message>
+        <source>are test shots among the photos?</source>
+        <translation>テスト撮影の写真が混ざっていませんか?</translation>
+    </message>
+    <message>
+        <source>records %1, %2 given</source>
+        <translation>記録は %1ですが、選ばれたのは%2です</translation>
+    </message>
+    <message>
+        <source>has no capture time to order by</source>
+        <translation>撮影時刻がないため、時刻順に並べられません</translation>
+    </message>
+    <message>
+        <source>use --order name or --order given</source>
+        <translation>名前順か、選んだ順を使ってください</translation>
+    </message>
+    <message>
+        <source>the record</source>
+        <translation>撮影記録</translation>
+    </message>
+    <message>
+        <source>the photos&apos; EXIF data</source>
+        <translation>写真の EXIF データ</translation>
+    </message>
+    <message>
+        <source>the photos&apos; EXIF data or the record</source>
+        <translation>写真の EXIF データや撮影記録</translation>
+    </message>
+    <message>
+        <source>focal length</source>
+        <translation>焦点距離</translation>
+    </message>
+    <message>
+        <source>not known from %1</source>
+        <translation>%1からはわかりません</translation>
+    </message>
+    <message>
+        <source>give it with --focal MM (35 mm equivalent)</source>
+        <translation>戻って入力してください（35 mm 判換算）</translation>
+    </message>
+    <message>
+        <source>focal length %1 (EXIF) against %2 (record); using EXIF; choose with --focal</source>
+        <translation>焦点距離は EXIF では %1、撮影記録では %2 です。EXIF の値を使います</translation>
+    </message>
+    <message>
+        <source>%1 of the photos name no focal length; using that of the others; choose with --focal</source>
+        <translation>%1 枚の写真に焦点距離の記録がありません。ほかの写真の値を使います</translation>
+    </message>
+    <message>
+        <source>%1 lens (EXIF) against %2 (record); using EXIF; choose with --lens</source>
+        <translation>レンズは EXIF では%1、撮影記録では%2です。EXIF に従います</translation>
+    </message>
+    <message>
+        <source>the photos name focal lengths from %1 to %2; using their median; choose with --focal</source>
+        <translation>写真に記録された焦点距離は %1 から %2 までばらついています。中央値を使います</translation>
+    </message>
+    <message>
+        <source>plug-in page</source>
+        <translation>プラグインのページ</translation>
+    </message>
+    <message>
+        <source>has no &apos;%1&apos;</source>
+        <translation>「%1」がありません</translation>
+    </message>
+    <message>
+        <source>is this library of another version? set --plugin</source>
+        <translation>ライブラリのバージョンが違っていませんか?</translation>
+    </message>
+    <message>
+        <source>%1 is not between %2 and %3</source>
+        <translation>%1 は %2 から %3 の範囲にありません</translation>
+    </message>
+    <message>
+        <source>its photo button opens no file dialog</source>
+        <translation>写真ボタンを押してもファイルダイアログが開きません</translation>
+    </message>
+    <message>
+        <source> (and %1 more of %2 photos)</source>
+        <translation> (写真 %2 枚中、ほか %1 枚)</translation>
+    </message>
+    <message>
+        <source>cannot read (%1)%2</source>
+        <translation>読み込めません（%1）%2</translation>
+    </message>
+    <message>
+        <source>is it a photo? try &apos;panohost check&apos;</source>
+        <translation>写真のファイルですか?</translation>
+    </message>
+    <message>
+        <source>the page does not accept them</source>
+        <translation>このページでは受け付けられません</translation>
+    </message>
+    <message>
+        <source>try &apos;panohost check&apos;</source>
+        <translation>写真を確認してください</translation>
+    </message>
+    <message>
+        <source>refused by the plug-in</source>
+        <translation>プラグインに拒否されました</translation>
+    </message>
+    <message>
+        <source>temporary links to the photos</source>
+        <translation>写真への一時的なリンク</translation>
+    </message>
+    <message>
+        <source>is the temporary folder full? set TMPDIR</source>
+        <translation>一時フォルダの空き容量がないのではありませんか? TMPDIR に別のフォルダを指定してください</translation>
+    </message>
+    <message>
+        <source>of no shot</source>
+        <translation>対象外</translation>
+    </message>
+    <message>
+        <source>shot %1</source>
+        <translation>ショット %1</translation>
+    </message>
+    <message>
+        <source>: %1 may be %2 (%3 %) or %4</source>
+        <translation>: %1 は%2（%3 %）または%4の可能性があります</translation>
+    </message>
+    <message>
+        <source>which photo belongs to which shot cannot be told surely%1; take photos of other shoots away, or say the order with --order name, time or given</source>
+        <translation>どの写真がどのショットのものか、確実には判断できません%1。ほかの撮影の写真を外すか、順序（名前順、時刻順、選んだ順）を指定してください</translation>
+    </message>
+    <message>
+        <source>%1 for shot %2</source>
+        <translation>%1（ショット %2）</translation>
+    </message>
+    <message>
+        <source>the camera took several photos for each shot: the last one of each is used</source>
+        <translation>カメラがショットごとに複数の写真を撮影しました: それぞれ最後の 1 枚を使います</translation>
+    </message>
+    <message>
+        <source>taken more than once; used: %1</source>
+        <translation>2 回以上撮影されたショットがあります。使う写真: %1</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s counter began again among these photos: they are ordered by time</source>
+        <translation>カメラの連番がこれらの写真の途中で最初に戻っています: 時刻順に並べます</translation>
+    </message>
+    <message>
+        <source>photo numbers begin again (another card?): they are ordered by time</source>
+        <translation>写真の番号が最初に戻っています（別のカードですか?）: 時刻順に並べます</translation>
+    </message>
+    <message>
+        <source>names and times disagree: photos are ordered by time</source>
+        <translation>名前と時刻の順序が一致しません: 時刻順に並べます</translation>
+    </message>
+    <message>
+        <source>no photo for %1%2</source>
+        <translation>%1 の写真がありません%2</translation>
+    </message>
+    <message>
+        <source> (was the shoot stopped?)</source>
+        <translation> (撮影を途中で止めましたか?)</translation>
+    </message>
+    <message>
+        <source>take them again if you can</source>
+        <translation>できれば撮り直してください</translation>
+    </message>
+    <message>
+        <source>%1 min %2 s</source>
+        <translation>%1 分 %2 秒</translation>
+    </message>
+    <message>
+        <source>1 hour</source>
+        <translation>1 時間</translation>
+    </message>
+    <message>
+        <source>%1 hours</source>
+        <translation>%1 時間</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s clock is %1 ahead of the head&apos;s</source>
+        <translation>カメラの時計は雲台の時計より %1進んでいます</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s clock is %1 behind the head&apos;s</source>
+        <translation>カメラの時計は雲台の時計より %1遅れています</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s clock gains %1 s in a minute</source>
+        <translation>カメラの時計は 1 分間に %1 秒進みます</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s clock loses %1 s in a minute</source>
+        <translation>カメラの時計は 1 分間に %1 秒遅れます</translation>
+    </message>
+    <message>
+        <source>the same picture: %1</source>
+        <translation>同じ画像です: %1</translation>
+    </message>
+    <message>
+        <source>before the first shot (a test?): left out</source>
+        <translation>最初のショットより前の写真（テスト撮影?）: 除外しました</translation>
+    </message>
+    <message>
+        <source>of another size: left out</source>
+        <translation>大きさが違います: 除外しました</translation>
+    </message>
+    <message>
+        <source>not of this shoot: left out</source>
+        <translation>この撮影の写真ではありません: 除外しました</translation>
+    </message>
+    <message>
+        <source>which photo belongs to which shot could not be checked (%1): they are taken in the order of their names</source>
+        <translation>どの写真がどのショットのものか確認できませんでした（%1）: 名前順に割り当てます</translation>
+    </message>
+    <message>
+        <source>names, times and counts</source>
+        <translation>名前・時刻・枚数</translation>
+    </message>
+    <message>
+        <source>names and counts</source>
+        <translation>名前・枚数</translation>
+    </message>
+    <message>
+        <source>the record tells no times</source>
+        <translation>撮影記録に時刻がありません</translation>
+    </message>
+    <message>
+        <source>the photos tell no times</source>
+        <translation>写真に時刻がありません</translation>
+    </message>
+    <message>
+        <source>the times of photos and record do not agree</source>
+        <translation>写真と撮影記録の時刻が一致しません</translation>
+    </message>
+    <message>
+        <source>%1 left out: other files of the same photos are used, JPEG before RAW</source>
+        <translation>%1を除外: 同じ写真の別のファイルを使います（RAW より JPEG を優先）</translation>
+    </message>
+    <message>
+        <source>not opened: %1 agree</source>
+        <translation>開いていません: %1が一致しています</translation>
+    </message>
+    <message>
+        <source>the grid</source>
+        <translation>グリッド</translation>
+    </message>
+    <message>
+        <source>none of its shots has a photo</source>
+        <translation>どのショットにも写真がありません</translation>
+    </message>
+    <message>
+        <source>are these the photos of this shoot?</source>
+        <translation>この撮影の写真ですか?</translation>
+    </message>
+    <message>
+        <source>was made of other photos</source>
+        <translation>ほかの写真から作られた画像です</translation>
+    </message>
+    <message>
+        <source>%1 between %2</source>
+        <translation>%2の間に%1</translation>
+    </message>
+    <message>
+        <source>; %1 without a neighbour near enough</source>
+        <translation>、うち%1は十分近くに隣がありません</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1～%2</translation>
+    </message>
+    <message>
+        <source>shots %1</source>
+        <translation>ショット %1</translation>
+    </message>
+    <message>
+        <source>, exposure %1 of %2</source>
+        <translation>、露出 %1 / %2</translation>
+    </message>
+    <message>
+        <source>no photo for shot %1 (yaw %2, pitch %3%4)</source>
+        <translation>ショット %1 の写真がありません（ヨー %2、ピッチ %3%4）</translation>
+    </message>
+    <message>
+        <source>no photo for %1</source>
+        <translation>%1 の写真がありません</translation>
+    </message>
+    <message>
+        <source>panorama of %1 x %2 pixels: takes about %3 in %4 (%5 are free) and %6 of memory</source>
+        <translation>%1 x %2 ピクセルのパノラマ: %4 に約 %3（空き %5）、メモリ %6 が必要です</translation>
+    </message>
+    <message>
+        <source>the light is exact to a fraction of a percent, but where every exposure clips it or shows noise</source>
+        <translation>光の値の誤差は 1 パーセント未満です。ただし、どの露出でも白飛びしているかノイズのある部分を除きます</translation>
+    </message>
+    <message>
+        <source>the light is good for looking at, not for measuring: the photos&apos; curve is taken for sRGB&apos;s; RAW files, or TIFFs without a curve and --linear, make it exact</source>
+        <translation>光の値は見るには十分ですが、測定には使えません: 写真のトーンカーブを sRGB とみなしています。RAW ファイルなら正確になります</translation>
+    </message>
+    <message>
+        <source>is to hold what is kept of this panorama, and holds something else</source>
+        <translation>このパノラマの途中の結果を入れるフォルダですが、別のものが入っています</translation>
+    </message>
+    <message>
+        <source>rename it, or choose another name with -o</source>
+        <translation>その名前を変更するか、別の名前を選んでください</translation>
+    </message>
+    <message>
+        <source>the project asks for another projection; the panorama becomes equirectangular</source>
+        <translation>プロジェクトでは別の投影法が指定されていますが、パノラマは正距円筒図法になります</translation>
+    </message>
+    <message>
+        <source>masks that include a region are passed over, only those that exclude one count</source>
+        <translation>領域を含めるマスクは無視されます。領域を除外するマスクだけが有効です</translation>
+    </message>
+    <message>
+        <source>--centre turns full turns only; this part of the sphere stays as it is</source>
+        <translation>中心を変えられるのは全周のパノラマだけです。全周に満たないこのパノラマはそのままです</translation>
+    </message>
+    <message>
+        <source>%1: cannot be read to its end; copy it from the card again, or take it again</source>
+        <translation>%1: 最後まで読み込めません。カードからもう一度コピーするか、撮り直してください</translation>
+    </message>
+    <message>
+        <source>%1 of them are RAW files</source>
+        <translation>そのうち %1 枚は RAW ファイルです</translation>
+    </message>
+    <message>
+        <source>add --raw-converter dcraw, dcraw_emu, darktable-cli or rawtherapee-cli, or give JPEGs or TIFFs of them</source>
+        <translation>dcraw、dcraw_emu、darktable-cli、rawtherapee-cli のいずれかを用意するか、JPEG または TIFF を使ってください</translation>
+    </message>
+    <message>
+        <source>photos stay where the head says: optimisation is skipped</source>
+        <translation>写真は雲台が記録した位置のままです: 最適化は省略します</translation>
+    </message>
+    <message>
+        <source>what was finished is kept in %1: the same command goes on from there</source>
+        <translation>完了した分は %1 に残っています: 「パノラマを作成」で続きから再開します</translation>
+    </message>
+    <message>
+        <source>photos lie where the record puts them in these commands: nothing is aligned yet</source>
+        <translation>写真は撮影記録の位置に置かれています: まだ位置合わせをしていません</translation>
+    </message>
+    <message>
+        <source>a Hugin project cannot hold a file name with quotation marks or line ends, and no link to it can be made in %1</source>
+        <translation>Hugin プロジェクトでは引用符や改行を含むファイル名を使えず、%1 にはそのリンクも作成できません</translation>
+    </message>
+    <message>
+        <source>rename the file</source>
+        <translation>ファイル名を変更してください</translation>
+    </message>
+    <message>
+        <source>name dcraw, dcraw_emu, darktable-cli or rawtherapee-cli, or a command with %i for the RAW file and %o for the TIFF</source>
+        <translation>dcraw、dcraw_emu、darktable-cli、rawtherapee-cli のいずれか、または RAW ファイルを %i、TIFF を %o で表したコマンドを指定してください</translation>
+    </message>
+    <message>
+        <source>this RAW converter was not found</source>
+        <translation>この RAW 現像プログラムが見つかりません</translation>
+    </message>
+    <message>
+        <source>is its name right? of those known: apt install dcraw, libraw-bin, darktable or rawtherapee</source>
+        <translation>名前は正しいですか? 対応しているもの: apt install dcraw、libraw-bin、darktable、rawtherapee</translation>
+    </message>
+    <message>
+        <source>the camera chose the white balance of %1 RAW files one by one, and %2 follows it: their colours may differ; dcraw takes the first one&apos;s for all</source>
+        <translation>カメラが RAW ファイル %1 枚のホワイトバランスを 1 枚ごとに決めており、%2 はそれに従います: 色がばらつくことがあります。dcraw なら最初の 1 枚の設定を全部に使います</translation>
+    </message>
+    <message>
+        <source>this copy of a photo cannot be made</source>
+        <translation>写真のこのコピーを作成できません</translation>
+    </message>
+    <message>
+        <source>is the photo readable? is the disk full?</source>
+        <translation>写真は読み込めますか? ディスクの空き容量はありますか?</translation>
+    </message>
+    <message>
+        <source>, of %1</source>
+        <translation>、%1 の処理</translation>
+    </message>
+    <message>
+        <source>it left no whole picture of %1</source>
+        <translation>%1 の完全な画像が出力されませんでした</translation>
+    </message>
+    <message>
+        <source>can it read this camera&apos;s files? is the disk full?</source>
+        <translation>このカメラのファイルに対応していますか? ディスクの空き容量はありますか?</translation>
+    </message>
+    <message>
+        <source>names no program</source>
+        <translation>プログラムが指定されていません</translation>
+    </message>
+    <message>
+        <source>does not say where its files go</source>
+        <translation>ファイルの出力先が指定されていません</translation>
+    </message>
+    <message>
+        <source>row %1 of column %2</source>
+        <translation>%2 列目の %1 行目</translation>
+    </message>
+    <message>
+        <source>the grid reaches around the sphere: overlap or rows do not fit this lens</source>
+        <translation>グリッドが全周を超えています: 重なりまたは行数がこのレンズに合っていません</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n column</source>
+        <translation>
+            <numerusform>%n 列</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file</source>
+        <translation>
+            <numerusform>ファイル %n 個</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n link</source>
+        <translation>
+            <numerusform>リンク %n 個</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n photo</source>
+        <translation>
+            <numerusform>写真 %n 枚</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n position</source>
+        <translation>
+            <numerusform>撮影位置 %n か所</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row</source>
+        <translation>
+            <numerusform>%n 行</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n shot</source>
+        <translation>
+            <numerusform>%n ショット</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the description</source>
+        <translation>記述データ</translation>
+    </message>
+    <message>
+        <source>%1 recorded directions for %2 photos at %3 positions</source>
+        <translation>撮影位置 %3 か所の写真 %2 枚に対して、記録された向きは %1 個です</translation>
+    </message>
+    <message>
+        <source>its direction is not a number</source>
+        <translation>向きが数値ではありません</translation>
+    </message>
+    <message>
+        <source>correct the record</source>
+        <translation>撮影記録を直してください</translation>
+    </message>
+    <message>
+        <source>position %1</source>
+        <translation>撮影位置 %1</translation>
+    </message>
+    <message>
+        <source>has no photo</source>
+        <translation>写真がありません</translation>
+    </message>
+    <message>
+        <source>holds no photos</source>
+        <translation>写真がありません</translation>
+    </message>
+    <message>
+        <source>name a file that &apos;panohost import --json&apos; has written</source>
+        <translation>このプログラムで保存した記述データ (JSON) を選んでください</translation>
+    </message>
+    <message>
+        <source>cannot read (not a photo?)</source>
+        <translation>読み込めません（写真ではない?）</translation>
+    </message>
+    <message>
+        <source>its pixels cannot be decoded (a RAW file?)</source>
+        <translation>画像をデコードできません（RAW ファイル?）</translation>
+    </message>
+    <message>
+        <source>too large to decode</source>
+        <translation>大きすぎてデコードできません</translation>
+    </message>
+    <message>
+        <source>give it with --focal</source>
+        <translation>戻って入力してください</translation>
+    </message>
+    <message>
+        <source>neither the record nor the photos name it</source>
+        <translation>撮影記録にも写真にも記録されていません</translation>
+    </message>
+    <message>
+        <source>no lens has %1 mm</source>
+        <translation>%1 mm のレンズはありません</translation>
+    </message>
+    <message>
+        <source>its size in pixels is not known</source>
+        <translation>ピクセル数がわかりません</translation>
+    </message>
+    <message>
+        <source>can another program open it? leave it out if not</source>
+        <translation>ほかのプログラムで開けますか? 開けなければ、この写真を外してください</translation>
+    </message>
+    <message>
+        <source>the photos have %1 different sizes in pixels</source>
+        <translation>写真のピクセル数が %1 種類あります</translation>
+    </message>
+    <message>
+        <source>a Hugin project cannot hold a file name with quotation marks or line ends</source>
+        <translation>Hugin プロジェクトでは、引用符や改行を含むファイル名を使えません</translation>
+    </message>
+    <message>
+        <source>%1 of %2 photos name no exposure; %3 is assumed</source>
+        <translation>写真 %2 枚中 %1 枚に露出の記録がありません。%3 とみなします</translation>
+    </message>
+    <message>
+        <source>larger than %1 bytes</source>
+        <translation>%1 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>give the name of a file</source>
+        <translation>ファイルの名前を指定してください</translation>
+    </message>
+    <message>
+        <source>set --plugin or PANOHOST_PLUGIN_PATH to libXPanoHead.so</source>
+        <translation>PANOHOST_PLUGIN_PATH に libXPanoHead.so を指定してください</translation>
+    </message>
+    <message>
+        <source>no such file or folder</source>
+        <translation>ファイルまたはフォルダがありません</translation>
+    </message>
+    <message>
+        <source>import plug-ins</source>
+        <translation>読み込みプラグイン</translation>
+    </message>
+    <message>
+        <source>no plug-in library in %1</source>
+        <translation>%1 にプラグインライブラリがありません</translation>
+    </message>
+    <message>
+        <source>is not a Qt plug-in library</source>
+        <translation>Qt のプラグインライブラリではありません</translation>
+    </message>
+    <message>
+        <source>its interface is &apos;%1&apos;, &apos;%2&apos; is needed</source>
+        <translation>インターフェイスが「%1」です。「%2」が必要です</translation>
+    </message>
+    <message>
+        <source>offers no list of plug-ins</source>
+        <translation>プラグインの一覧がありません</translation>
+    </message>
+    <message>
+        <source>holds no import plug-in</source>
+        <translation>読み込みプラグインが含まれていません</translation>
+    </message>
+    <message>
+        <source>cannot be written</source>
+        <translation>書き込めません</translation>
+    </message>
+    <message>
+        <source>is of another size than the others of its bracket</source>
+        <translation>同じブラケットのほかの写真と大きさが違います</translation>
+    </message>
+    <message>
+        <source>is no warped light</source>
+        <translation>変形済みの光の画像ではありません</translation>
+    </message>
+    <message>
+        <source>these photos of the project, and %1 more, are not there any more</source>
+        <translation>プロジェクトのこれらの写真と、ほか %1 枚がなくなっています</translation>
+    </message>
+    <message>
+        <source>not there any more</source>
+        <translation>なくなっています</translation>
+    </message>
+    <message>
+        <source>put the photos back where they were, or import them again</source>
+        <translation>写真を元の場所に戻すか、もう一度読み込んでください</translation>
+    </message>
+    <message>
+        <source>%1 has %2 bits a colour, %3 has %4, and all must be alike to be blended</source>
+        <translation>%1 は各色 %2 ビット、%3 は %4 ビットです。ブレンドするには、すべて同じでなければなりません</translation>
+    </message>
+    <message>
+        <source>convert or develop them alike</source>
+        <translation>同じビット数に変換または現像してください</translation>
+    </message>
+    <message>
+        <source>was not written to its end</source>
+        <translation>最後まで書き込まれていません</translation>
+    </message>
+    <message>
+        <source>is there enough room in %1?</source>
+        <translation>%1 に十分な空きがありますか?</translation>
+    </message>
+    <message>
+        <source>nona, of %1</source>
+        <translation>nona、%1 の処理</translation>
+    </message>
+    <message>
+        <source>made no picture of %1</source>
+        <translation>%1 の画像が作成されませんでした</translation>
+    </message>
+    <message>
+        <source>is it a photo that other programs open?</source>
+        <translation>ほかのプログラムで開ける写真ですか?</translation>
+    </message>
+    <message>
+        <source>size of the panorama</source>
+        <translation>パノラマのサイズ</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels cannot be made</source>
+        <translation>%1 x %2 ピクセルのパノラマは作成できません</translation>
+    </message>
+    <message>
+        <source>choose another --size</source>
+        <translation>別のサイズを選んでください</translation>
+    </message>
+    <message>
+        <source>the stitch needs %1 there, %2 are free</source>
+        <translation>作成には %1 必要ですが、空きは %2 です</translation>
+    </message>
+    <message>
+        <source>make room, name another place with -o, or choose a smaller --size</source>
+        <translation>空きを作るか、別の場所または小さいサイズを選んでください</translation>
+    </message>
+    <message>
+        <source>memory</source>
+        <translation>メモリ</translation>
+    </message>
+    <message>
+        <source>the stitch needs about %1, %2 are available</source>
+        <translation>作成には約 %1 必要ですが、使えるのは %2 です</translation>
+    </message>
+    <message>
+        <source>close other programs, or choose --jobs 1 or a smaller --size</source>
+        <translation>ほかのプログラムを閉じるか、小さいサイズを選んでください</translation>
+    </message>
+    <message>
+        <source>try it by itself</source>
+        <translation>単独で実行してみてください</translation>
+    </message>
+    <message>
+        <source>%1 minutes</source>
+        <translation>%1 分</translation>
+    </message>
+    <message>
+        <source>it was killed, perhaps because memory ran out</source>
+        <translation>強制終了されました。メモリが足りなくなったのかもしれません</translation>
+    </message>
+    <message>
+        <source>close other programs and try again</source>
+        <translation>ほかのプログラムを閉じて、もう一度お試しください</translation>
+    </message>
+    <message>
+        <source>it crashed (signal %1)</source>
+        <translation>異常終了しました（シグナル %1）</translation>
+    </message>
+    <message>
+        <source>%1 and said: %2</source>
+        <translation>%1。メッセージ: %2</translation>
+    </message>
+    <message>
+        <source> if so: %1</source>
+        <translation> 十分なら: %1</translation>
+    </message>
+    <message>
+        <source>this program is needed for stitching and was not found</source>
+        <translation>パノラマの作成に必要なこのプログラムが見つかりません</translation>
+    </message>
+    <message>
+        <source>cannot be started (%1)</source>
+        <translation>起動できません（%1）</translation>
+    </message>
+    <message>
+        <source>it was stopped since it did nothing for %1</source>
+        <translation>%1のあいだ何も進まなかったため、中止しました</translation>
+    </message>
+    <message>
+        <source>is the machine very busy, or a network drive away? try again</source>
+        <translation>コンピュータの負荷が高いか、ネットワークドライブが切断されていませんか? もう一度お試しください</translation>
+    </message>
+    <message>
+        <source>it failed without a message</source>
+        <translation>失敗しました。メッセージはありません</translation>
+    </message>
+    <message>
+        <source>it failed and said: %1</source>
+        <translation>失敗しました。メッセージ: %1</translation>
+    </message>
+    <message>
+        <source>is the disk full, or a file damaged that it reads?</source>
+        <translation>ディスクの空き容量がないか、読み込むファイルが壊れていませんか?</translation>
+    </message>
+    <message>
+        <source>it failed, and there is hardly any room left on the disk at %1 (%2)</source>
+        <translation>失敗しました。%1 のディスクにほとんど空きがありません（%2）</translation>
+    </message>
+    <message>
+        <source>make room there and go on with the same command; nothing is lost</source>
+        <translation>空きを作って、「パノラマを作成」をもう一度押してください。完了した分は失われません</translation>
+    </message>
+    <message>
+        <source>was the disk full? remove the file and try again</source>
+        <translation>ディスクの空き容量がなかったのではありませんか? ファイルを削除して、もう一度お試しください</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>読み込めません</translation>
+    </message>
+    <message>
+        <source>is no picture of 8, 16 or floating bits</source>
+        <translation>8 ビット、16 ビット、浮動小数点のいずれの画像でもありません</translation>
+    </message>
+    <message>
+        <source>is cut off</source>
+        <translation>途中で切れています</translation>
+    </message>
+    <message>
+        <source>cannot be mapped into memory</source>
+        <translation>メモリに割り当てられません</translation>
+    </message>
+    <message>
+        <source>is the disk full, or the folder read-only?</source>
+        <translation>ディスクの空き容量がないか、フォルダが読み取り専用ではありませんか?</translation>
+    </message>
+    <message>
+        <source>%1, process %2 on %3</source>
+        <translation>%3 の %1（プロセス %2）</translation>
+    </message>
+    <message>
+        <source>another program</source>
+        <translation>別のプログラム</translation>
+    </message>
+    <message>
+        <source>there is a file of that name: rename it, or choose another name with -o</source>
+        <translation>同じ名前のファイルがあります: そのファイルの名前を変更するか、別の名前を選んでください</translation>
+    </message>
+    <message>
+        <source>is in use by %1</source>
+        <translation>%1 が使用中です</translation>
+    </message>
+    <message>
+        <source>wait for it to end, or choose another name with -o</source>
+        <translation>終わるまで待つか、別の名前を選んでください</translation>
     </message>
 </context>
 <context>

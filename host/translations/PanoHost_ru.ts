@@ -64,36 +64,16 @@
         <translation>%1 (шаг %2 из %3)</translation>
     </message>
     <message>
-        <source>or choose a smaller size</source>
-        <translation>или выберите меньший размер</translation>
+        <source>%1 x %2 in at %3 dpi</source>
+        <translation>%1 x %2 дюймов при %3 dpi</translation>
     </message>
     <message>
-        <source>choose a smaller size</source>
-        <translation>выберите меньший размер</translation>
+        <source>%1 x %2 cm at %3 dpi</source>
+        <translation>%1 x %2 см при %3 dpi</translation>
     </message>
     <message>
-        <source>choose another size</source>
-        <translation>выберите другой размер</translation>
-    </message>
-    <message>
-        <source>RAW files make it exact</source>
-        <translation>файлы RAW дают точные значения</translation>
-    </message>
-    <message>
-        <source>press Make panorama again</source>
-        <translation>нажмите «Создать панораму» ещё раз</translation>
-    </message>
-    <message>
-        <source>go back and enter it</source>
-        <translation>вернитесь и введите его</translation>
-    </message>
-    <message>
-        <source>Make panorama goes on from here</source>
-        <translation>«Создать панораму» продолжит отсюда</translation>
-    </message>
-    <message>
-        <source>%1 x %2 pixels at most; takes up to %3 of the disk and %4 of memory.</source>
-        <translation>Не более %1 x %2 пикселей; займёт до %3 на диске и %4 памяти.</translation>
+        <source>%1 x %2 pixels at most (%3); takes up to %4 of the disk and %5 of memory.</source>
+        <translation>Не более %1 x %2 пикселей (%3); займёт до %4 на диске и %5 памяти.</translation>
     </message>
 </context>
 <context>
@@ -208,14 +188,29 @@
     </message>
 </context>
 <context>
-    <name>PanoHost::ImportWizard</name>
+    <name>PanoHost::HelpMenu</name>
     <message>
-        <source>Import a panorama</source>
-        <translation>Импорт панорамы</translation>
+        <source>&amp;Help</source>
+        <translation>&amp;Справка</translation>
     </message>
     <message>
         <source>Help</source>
         <translation>Справка</translation>
+    </message>
+    <message>
+        <source>&amp;Preferences...</source>
+        <translation>Нас&amp;тройки...</translation>
+    </message>
+    <message>
+        <source>&amp;About panohost</source>
+        <translation>&amp;О программе panohost</translation>
+    </message>
+</context>
+<context>
+    <name>PanoHost::ImportWizard</name>
+    <message>
+        <source>Import a panorama</source>
+        <translation>Импорт панорамы</translation>
     </message>
     <message>
         <source>&amp;Another import</source>
@@ -260,18 +255,6 @@
     <message>
         <source>This page could not do what you asked: %1. Your files are as they were. Try again, or go back and choose fewer files.</source>
         <translation>Эта страница не смогла выполнить запрос: %1. Ваши файлы не изменились. Повторите попытку или вернитесь и выберите меньше файлов.</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Справка</translation>
-    </message>
-    <message>
-        <source>&amp;Preferences...</source>
-        <translation>Нас&amp;тройки...</translation>
-    </message>
-    <message>
-        <source>&amp;About panohost</source>
-        <translation>&amp;О программе panohost</translation>
     </message>
     <message>
         <source>Choose the head that took the photos, then Next. You can also drop the head&apos;s record and the photos, or the folder that holds them, onto this window.</source>
@@ -619,10 +602,6 @@
         <translation>Инструменты:</translation>
     </message>
     <message>
-        <source>Language and thumbnails change with the next start.</source>
-        <translation>Язык и миниатюры изменятся при следующем запуске.</translation>
-    </message>
-    <message>
         <source>As the desktop</source>
         <translation>Язык системы</translation>
     </message>
@@ -645,6 +624,22 @@
     <message>
         <source>%1 is no folder; choose another one, or leave the field empty.</source>
         <translation>%1 — не папка; выберите другую или оставьте поле пустым.</translation>
+    </message>
+    <message>
+        <source>Centimetres</source>
+        <translation>Сантиметры</translation>
+    </message>
+    <message>
+        <source>Inches</source>
+        <translation>Дюймы</translation>
+    </message>
+    <message>
+        <source>&amp;Units of prints:</source>
+        <translation>&amp;Единицы для отпечатков:</translation>
+    </message>
+    <message>
+        <source>The language changes with the next start.</source>
+        <translation>Язык изменится при следующем запуске.</translation>
     </message>
 </context>
 <context>
@@ -1160,6 +1155,1277 @@
     <message>
         <source>%1 was not saved: %2</source>
         <translation>Файл %1 не сохранён: %2</translation>
+    </message>
+</context>
+<context>
+    <name>PanoHost::Said</name>
+    <message>
+        <source>no control points are wanted (automatic detection is off): kept as recorded</source>
+        <translation>контрольные точки не нужны (автоматический поиск отключён): снимки остаются на записанных местах</translation>
+    </message>
+    <message>
+        <source>photos are left as recorded (optimisation is skipped)</source>
+        <translation>снимки остаются на записанных местах (оптимизация пропущена)</translation>
+    </message>
+    <message>
+        <source>there is one photo only: kept as recorded</source>
+        <translation>снимок всего один: он остаётся на записанном месте</translation>
+    </message>
+    <message>
+        <source>no two photos overlap where the record puts them: kept as recorded</source>
+        <translation>по файлу съёмки никакие два снимка не перекрываются: они остаются на записанных местах</translation>
+    </message>
+    <message>
+        <source>no spot was found in two photos (nothing but sky or fog, or the photos are not of this record): kept as recorded</source>
+        <translation>ни на одной паре снимков не нашлось общего места (только небо или туман, либо снимки не от этой съёмки): они остаются на записанных местах</translation>
+    </message>
+    <message>
+        <source>%1; kept as recorded</source>
+        <translation>%1; остаётся на записанном месте</translation>
+    </message>
+    <message>
+        <source>none of the photos can be used: were they moved since the import?</source>
+        <translation>ни один из снимков не пригоден: не переместили ли их после импорта?</translation>
+    </message>
+    <message>
+        <source>the photos fit the order &apos;%1&apos; better than &apos;%2&apos;: import them with --mode %1</source>
+        <translation>снимкам лучше подходит порядок «%1», чем «%2»: импортируйте их в порядке %1</translation>
+    </message>
+    <message>
+        <source>the panorama is made %1 stops brighter: what is white in a photo stays white</source>
+        <translation>панорама становится светлее на %1 ступени: белое на снимке остаётся белым</translation>
+    </message>
+    <message>
+        <source>%1 of %2 tied, %3, median %4 pixels</source>
+        <translation>%2, из них связано: %1, %3, медиана %4 пикселя</translation>
+    </message>
+    <message>
+        <source>%1 point</source>
+        <translation>%1 точка</translation>
+    </message>
+    <message>
+        <source>%1 points</source>
+        <translation>точек: %1</translation>
+    </message>
+    <message>
+        <source> and %1 more</source>
+        <translation> и ещё %1</translation>
+    </message>
+    <message>
+        <source>no points in %1 (%2): kept where the head put it</source>
+        <translation>%1 без точек (%2): остаётся там, куда его поставила головка</translation>
+    </message>
+    <message>
+        <source>no points in %1 (%2): kept where the head put them</source>
+        <translation>%1 без точек (%2): остаются там, куда их поставила головка</translation>
+    </message>
+    <message>
+        <source>lens %1 mm instead of %2</source>
+        <translation>фокусное расстояние %1 мм вместо %2</translation>
+    </message>
+    <message>
+        <source>the lens darkens its corners by %1 %: evened out</source>
+        <translation>объектив затемняет углы на %1 %: выровнено</translation>
+    </message>
+    <message>
+        <source>exposures are not what the photos say, by up to %1 stops: evened out</source>
+        <translation>экспозиции отличаются от указанных в снимках, до %1 ступени: выровнено</translation>
+    </message>
+    <message>
+        <source>the head repeats to %1 degrees</source>
+        <translation>повторяемость головки: %1 градуса</translation>
+    </message>
+    <message>
+        <source>less than %1</source>
+        <translation>менее %1</translation>
+    </message>
+    <message>
+        <source>the camera sits %1 degrees crooked on the head</source>
+        <translation>камера стоит на головке криво, с наклоном %1 градуса</translation>
+    </message>
+    <message>
+        <source>the head&apos;s steps are %1 (across) and %2 (up) times what was stated</source>
+        <translation>шаг головки относительно заданного: ×%1 по горизонтали, ×%2 по вертикали</translation>
+    </message>
+    <message>
+        <source>from %1 on the head stands %2 degrees farther right than recorded: did its turning axis slip?</source>
+        <translation>начиная с %1 головка стоит на %2 градуса правее, чем записано: не проскользнула ли ось поворота?</translation>
+    </message>
+    <message>
+        <source>from %1 on the head stands %2 degrees farther left than recorded: did its turning axis slip?</source>
+        <translation>начиная с %1 головка стоит на %2 градуса левее, чем записано: не проскользнула ли ось поворота?</translation>
+    </message>
+    <message>
+        <source>from %1 on the head stands %2 degrees higher than recorded: did its tilting axis slip?</source>
+        <translation>начиная с %1 головка стоит на %2 градуса выше, чем записано: не проскользнула ли ось наклона?</translation>
+    </message>
+    <message>
+        <source>from %1 on the head stands %2 degrees lower than recorded: did its tilting axis slip?</source>
+        <translation>начиная с %1 головка стоит на %2 градуса ниже, чем записано: не проскользнула ли ось наклона?</translation>
+    </message>
+    <message>
+        <source>%1 was taken %2 degrees from where the head says: was it bumped?</source>
+        <translation>%1 снят в %2 градуса от направления, указанного головкой: не задели ли её?</translation>
+    </message>
+    <message>
+        <source>residuals suggest parallax (%1 pixels): near things move against far ones; is the camera&apos;s nodal point on the head&apos;s axes?</source>
+        <translation>остаточные ошибки указывают на параллакс (%1 пикселя): близкое смещается относительно далёкого; лежит ли нодальная точка камеры на осях головки?</translation>
+    </message>
+    <message>
+        <source>was %1 x %2 pixels when imported, is now %3 x %4</source>
+        <translation>при импорте было %1 x %2 пикселей, теперь %3 x %4</translation>
+    </message>
+    <message>
+        <source>cannot keep the features of photos there: %1</source>
+        <translation>не удаётся сохранить там детали снимков: %1</translation>
+    </message>
+    <message>
+        <source>TMPDIR names a folder with more room</source>
+        <translation>укажите в TMPDIR папку, где больше места</translation>
+    </message>
+    <message>
+        <source>cannot read the features of photos back: %1</source>
+        <translation>не удаётся прочитать сохранённые детали снимков: %1</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>неизвестно</translation>
+    </message>
+    <message>
+        <source>%1: %2, bracket %3, focal %4, lens %5</source>
+        <translation>%1: %2, брекетинг по %3, фокусное расстояние: %4, объектив: %5</translation>
+    </message>
+    <message>
+        <source>copy it from the card again</source>
+        <translation>скопируйте с карты ещё раз</translation>
+    </message>
+    <message>
+        <source>%1 given, %2 readable, focal %3, lens %4</source>
+        <translation>выбрано: %1, читается: %2, фокусное расстояние: %3, объектив: %4</translation>
+    </message>
+    <message>
+        <source>neither the photos nor the record name the focal length</source>
+        <translation>фокусное расстояние не указано ни в снимках, ни в файле съёмки</translation>
+    </message>
+    <message>
+        <source>give it, as for 35 mm film: --focal 24</source>
+        <translation>введите его в эквиваленте 35 мм</translation>
+    </message>
+    <message>
+        <source>not all photos have a capture time</source>
+        <translation>не у всех снимков есть время съёмки</translation>
+    </message>
+    <message>
+        <source>%1 was taken before %2</source>
+        <translation>%1 снят раньше, чем %2</translation>
+    </message>
+    <message>
+        <source>try --order time</source>
+        <translation>упорядочите по времени</translation>
+    </message>
+    <message>
+        <source>capture times agree</source>
+        <translation>время съёмки сходится</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>нет</translation>
+    </message>
+    <message>
+        <source>%1 s after %2 (usually %3 s)</source>
+        <translation>%1 с после %2 (обычно %3 с)</translation>
+    </message>
+    <message>
+        <source>standard</source>
+        <translation>стандартный</translation>
+    </message>
+    <message>
+        <source>fisheye</source>
+        <translation>«рыбий глаз»</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 мм</translation>
+    </message>
+    <message>
+        <source>this folder cannot be made</source>
+        <translation>не удаётся создать эту папку</translation>
+    </message>
+    <message>
+        <source>is the disk full, or the folder above it read-only?</source>
+        <translation>не заполнен ли диск, не защищена ли от записи папка выше?</translation>
+    </message>
+    <message>
+        <source>no photo reaches these sides of the cube, which are left out: %1</source>
+        <translation>до этих граней куба не достаёт ни один снимок, они пропущены: %1</translation>
+    </message>
+    <message>
+        <source>cannot be written (%1)</source>
+        <translation>не удаётся записать (%1)</translation>
+    </message>
+    <message>
+        <source>make room there or choose another place</source>
+        <translation>освободите там место или выберите другое</translation>
+    </message>
+    <message>
+        <source>the folder %1 does not exist</source>
+        <translation>папки %1 нет</translation>
+    </message>
+    <message>
+        <source>create it or choose another place</source>
+        <translation>создайте её или выберите другое место</translation>
+    </message>
+    <message>
+        <source>is a folder</source>
+        <translation>это папка</translation>
+    </message>
+    <message>
+        <source>is not a regular file</source>
+        <translation>это не обычный файл</translation>
+    </message>
+    <message>
+        <source>remove it or choose another name with -o</source>
+        <translation>удалите или выберите другое имя</translation>
+    </message>
+    <message>
+        <source>is a file, and a folder of that name is wanted</source>
+        <translation>это файл, а нужна папка с таким именем</translation>
+    </message>
+    <message>
+        <source>is a folder that panohost has not made</source>
+        <translation>эта папка создана не программой panohost</translation>
+    </message>
+    <message>
+        <source>it left a file that is not complete</source>
+        <translation>файл записан не полностью</translation>
+    </message>
+    <message>
+        <source>is the disk full? make room and try again</source>
+        <translation>не заполнен ли диск? освободите место и повторите</translation>
+    </message>
+    <message>
+        <source>make room there and try again</source>
+        <translation>освободите там место и повторите</translation>
+    </message>
+    <message>
+        <source>the panorama has %1 x %2 pixels, and JPEG files at most %3 to a side</source>
+        <translation>в панораме %1 x %2 пикселей, а в файлах JPEG не более %3 по стороне</translation>
+    </message>
+    <message>
+        <source>name it .tif, or make it smaller with --size</source>
+        <translation>сохраните как .tif или выберите меньший размер</translation>
+    </message>
+    <message>
+        <source>this panorama&apos;s values are not light</source>
+        <translation>в этой панораме нет реальных значений яркости</translation>
+    </message>
+    <message>
+        <source>needs --output hdr</source>
+        <translation>выберите «Реальные значения яркости (HDR)»</translation>
+    </message>
+    <message>
+        <source>is not the panorama that was stitched last</source>
+        <translation>это не та панорама, что была собрана последней</translation>
+    </message>
+    <message>
+        <source>remove it and try again</source>
+        <translation>удалите и повторите</translation>
+    </message>
+    <message>
+        <source>it left %1 incomplete</source>
+        <translation>файл %1 записан не полностью</translation>
+    </message>
+    <message>
+        <source>is the disk full?</source>
+        <translation>не заполнен ли диск?</translation>
+    </message>
+    <message>
+        <source>the address where the folder will be reached is not known</source>
+        <translation>неизвестен адрес, по которому будет доступна папка</translation>
+    </message>
+    <message>
+        <source>give it, such as https://example.org/panoramas</source>
+        <translation>укажите его, например https://example.org/panoramas</translation>
+    </message>
+    <message>
+        <source>%1 less %2 ignored</source>
+        <translation>%1 без %2 пропущенных</translation>
+    </message>
+    <message>
+        <source>%1, %2, bracket %3, %4 ignored</source>
+        <translation>%1, %2, брекетинг по %3, пропущено: %4</translation>
+    </message>
+    <message>
+        <source>photos</source>
+        <translation>снимки</translation>
+    </message>
+    <message>
+        <source>--ignore %1 leaves none of %2</source>
+        <translation>пропущено %1 из %2, ничего не остаётся</translation>
+    </message>
+    <message>
+        <source>ignore fewer, or name all photos</source>
+        <translation>пропустите меньше или выберите все снимки</translation>
+    </message>
+    <message>
+        <source>--bracket %1 is more than %2</source>
+        <translation>серии по %1, а есть только %2</translation>
+    </message>
+    <message>
+        <source>each position needs all its exposures</source>
+        <translation>каждой позиции нужны все её экспозиции</translation>
+    </message>
+    <message>
+        <source>%1 are not a multiple of bracket %2</source>
+        <translation>%1, на полные серии по %2 не разделить</translation>
+    </message>
+    <message>
+        <source>each position needs all its exposures; --ignore N leaves out the first N photos</source>
+        <translation>каждой позиции нужны все её экспозиции; лишние файлы в начале можно пропустить</translation>
+    </message>
+    <message>
+        <source>%1 (%2 in brackets of %3)</source>
+        <translation>%1 (%2 в сериях по %3)</translation>
+    </message>
+    <message>
+        <source>%1 do not divide %2 evenly</source>
+        <translation>%2, поровну на %1 не разделить</translation>
+    </message>
+    <message>
+        <source>are photos missing? --ignore N leaves out the first N photos</source>
+        <translation>не хватает снимков? лишние файлы в начале можно пропустить</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 и ещё %2</translation>
+    </message>
+    <message>
+        <source>no pause tells where</source>
+        <translation>по паузам не видно где</translation>
+    </message>
+    <message>
+        <source>the longest pause: %1, in row %2 as they were taken</source>
+        <translation>самая долгая пауза: %1, в строке %2 по порядку съёмки</translation>
+    </message>
+    <message>
+        <source>the longest pause: %1, in column %2 as they were taken</source>
+        <translation>самая долгая пауза: %1, в столбце %2 по порядку съёмки</translation>
+    </message>
+    <message>
+        <source>the pictures do not tell which are missing: %1</source>
+        <translation>по снимкам не видно, каких не хватает: %1</translation>
+    </message>
+    <message>
+        <source>no photo for %1 (rows from the top, columns from the left)</source>
+        <translation>нет снимка: %1 (строки сверху, столбцы слева)</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>нет такого файла</translation>
+    </message>
+    <message>
+        <source>not a regular file</source>
+        <translation>это не обычный файл</translation>
+    </message>
+    <message>
+        <source>no &lt;shoot&gt; pictures</source>
+        <translation>нет снимков в &lt;shoot&gt;</translation>
+    </message>
+    <message>
+        <source>is it an old-style Papywizard file (image/coords)?</source>
+        <translation>не старого ли образца этот файл Papywizard (image/coords)?</translation>
+    </message>
+    <message>
+        <source>its &lt;shoot&gt; holds no &lt;pict&gt;: no shot was recorded</source>
+        <translation>в &lt;shoot&gt; нет ни одного &lt;pict&gt;: ни один кадр не записан</translation>
+    </message>
+    <message>
+        <source>choose the record of a finished shoot</source>
+        <translation>выберите файл завершённой съёмки</translation>
+    </message>
+    <message>
+        <source>no op_shoot command: no shot was recorded</source>
+        <translation>нет команды op_shoot: ни один кадр не записан</translation>
+    </message>
+    <message>
+        <source>is it the script that the head ran?</source>
+        <translation>тот ли это сценарий, который выполнила головка?</translation>
+    </message>
+    <message>
+        <source>correct this line, or choose another script</source>
+        <translation>исправьте эту строку или выберите другой сценарий</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>строка %1: %2</translation>
+    </message>
+    <message>
+        <source>is it the record that the head wrote?</source>
+        <translation>тот ли это файл съёмки, который записала головка?</translation>
+    </message>
+    <message>
+        <source>no such record</source>
+        <translation>нет такого файла съёмки</translation>
+    </message>
+    <message>
+        <source>check the name</source>
+        <translation>проверьте имя</translation>
+    </message>
+    <message>
+        <source>unknown head &apos;%1&apos;%2</source>
+        <translation>неизвестная головка «%1»%2</translation>
+    </message>
+    <message>
+        <source>heads: %1</source>
+        <translation>головки: %1</translation>
+    </message>
+    <message>
+        <source>no record of some of its shots can be made</source>
+        <translation>нельзя создать файл съёмки только для части кадров</translation>
+    </message>
+    <message>
+        <source>take the shots by hand</source>
+        <translation>снимите эти кадры вручную</translation>
+    </message>
+    <message>
+        <source>using %1</source>
+        <translation>используется %1</translation>
+    </message>
+    <message>
+        <source>has no import plug-in for %1</source>
+        <translation>нет модуля импорта для %1</translation>
+    </message>
+    <message>
+        <source>set --plugin to another library</source>
+        <translation>возьмите другую библиотеку</translation>
+    </message>
+    <message>
+        <source>the page refuses them</source>
+        <translation>страница их отклоняет</translation>
+    </message>
+    <message>
+        <source>make it first</source>
+        <translation>сначала создайте её</translation>
+    </message>
+    <message>
+        <source>name a file in it</source>
+        <translation>выберите файл в ней</translation>
+    </message>
+    <message>
+        <source>name a file of your own</source>
+        <translation>выберите свой файл</translation>
+    </message>
+    <message>
+        <source>cannot be written there: %1</source>
+        <translation>туда нельзя записать: %1</translation>
+    </message>
+    <message>
+        <source>choose a folder of your own</source>
+        <translation>выберите свою папку</translation>
+    </message>
+    <message>
+        <source>is one of the input files</source>
+        <translation>это один из исходных файлов</translation>
+    </message>
+    <message>
+        <source>choose another name for the result</source>
+        <translation>выберите другое имя для результата</translation>
+    </message>
+    <message>
+        <source>given twice</source>
+        <translation>выбран дважды</translation>
+    </message>
+    <message>
+        <source>name each photo once</source>
+        <translation>выберите каждый снимок один раз</translation>
+    </message>
+    <message>
+        <source>no such photo</source>
+        <translation>нет такого снимка</translation>
+    </message>
+    <message>
+        <source>rename the file: its name is not in UTF-8</source>
+        <translation>переименуйте файл: его имя не в UTF-8</translation>
+    </message>
+    <message>
+        <source>name the photos in it, e.g. %1/*.jpg</source>
+        <translation>выберите снимки в ней, например %1/*.jpg</translation>
+    </message>
+    <message>
+        <source>name photos only</source>
+        <translation>выбирайте только снимки</translation>
+    </message>
+    <message>
+        <source>cannot be read: permission denied</source>
+        <translation>не читается: нет прав доступа</translation>
+    </message>
+    <message>
+        <source>copy it to a folder of your own</source>
+        <translation>скопируйте в свою папку</translation>
+    </message>
+    <message>
+        <source>are photos missing, or did the shoot stop early?</source>
+        <translation>не хватает снимков или съёмка закончилась раньше времени?</translation>
+    </message>
+    <message>
+        <source>are test shots among the photos?</source>
+        <translation>нет ли среди снимков пробных?</translation>
+    </message>
+    <message>
+        <source>records %1, %2 given</source>
+        <translation>записано: %1, выбрано: %2</translation>
+    </message>
+    <message>
+        <source>has no capture time to order by</source>
+        <translation>нет времени съёмки, по которому можно упорядочить</translation>
+    </message>
+    <message>
+        <source>use --order name or --order given</source>
+        <translation>упорядочите по именам</translation>
+    </message>
+    <message>
+        <source>the record</source>
+        <translation>в файле съёмки</translation>
+    </message>
+    <message>
+        <source>the photos&apos; EXIF data</source>
+        <translation>в EXIF снимков</translation>
+    </message>
+    <message>
+        <source>the photos&apos; EXIF data or the record</source>
+        <translation>ни в EXIF снимков, ни в файле съёмки</translation>
+    </message>
+    <message>
+        <source>focal length</source>
+        <translation>фокусное расстояние</translation>
+    </message>
+    <message>
+        <source>not known from %1</source>
+        <translation>не указано %1</translation>
+    </message>
+    <message>
+        <source>give it with --focal MM (35 mm equivalent)</source>
+        <translation>вернитесь и введите его (в эквиваленте 35 мм)</translation>
+    </message>
+    <message>
+        <source>focal length %1 (EXIF) against %2 (record); using EXIF; choose with --focal</source>
+        <translation>фокусное расстояние %1 (EXIF), а в файле съёмки %2 (взято из EXIF)</translation>
+    </message>
+    <message>
+        <source>%1 of the photos name no focal length; using that of the others; choose with --focal</source>
+        <translation>снимков без фокусного расстояния: %1; взято фокусное расстояние остальных</translation>
+    </message>
+    <message>
+        <source>%1 lens (EXIF) against %2 (record); using EXIF; choose with --lens</source>
+        <translation>объектив: %1 (EXIF), а в файле съёмки %2 (взято из EXIF)</translation>
+    </message>
+    <message>
+        <source>the photos name focal lengths from %1 to %2; using their median; choose with --focal</source>
+        <translation>в снимках указаны фокусные расстояния от %1 до %2; взято среднее из них (медиана)</translation>
+    </message>
+    <message>
+        <source>plug-in page</source>
+        <translation>страница модуля</translation>
+    </message>
+    <message>
+        <source>has no &apos;%1&apos;</source>
+        <translation>нет элемента «%1»</translation>
+    </message>
+    <message>
+        <source>is this library of another version? set --plugin</source>
+        <translation>не от другой ли версии эта библиотека?</translation>
+    </message>
+    <message>
+        <source>%1 is not between %2 and %3</source>
+        <translation>%1 не между %2 и %3</translation>
+    </message>
+    <message>
+        <source>its photo button opens no file dialog</source>
+        <translation>кнопка снимков не открывает диалог выбора файлов</translation>
+    </message>
+    <message>
+        <source> (and %1 more of %2 photos)</source>
+        <translation> (и ещё %1 из %2 снимков)</translation>
+    </message>
+    <message>
+        <source>cannot read (%1)%2</source>
+        <translation>не читается (%1)%2</translation>
+    </message>
+    <message>
+        <source>is it a photo? try &apos;panohost check&apos;</source>
+        <translation>снимок ли это?</translation>
+    </message>
+    <message>
+        <source>the page does not accept them</source>
+        <translation>страница их не принимает</translation>
+    </message>
+    <message>
+        <source>try &apos;panohost check&apos;</source>
+        <translation>проверьте снимки</translation>
+    </message>
+    <message>
+        <source>refused by the plug-in</source>
+        <translation>модуль отклонил</translation>
+    </message>
+    <message>
+        <source>temporary links to the photos</source>
+        <translation>временные ссылки на снимки</translation>
+    </message>
+    <message>
+        <source>is the temporary folder full? set TMPDIR</source>
+        <translation>не заполнена ли временная папка? укажите в TMPDIR другую</translation>
+    </message>
+    <message>
+        <source>of no shot</source>
+        <translation>ни один из кадров</translation>
+    </message>
+    <message>
+        <source>shot %1</source>
+        <translation>кадр %1</translation>
+    </message>
+    <message>
+        <source>: %1 may be %2 (%3 %) or %4</source>
+        <translation>: %1 — возможно, %2 (%3 %) или %4</translation>
+    </message>
+    <message>
+        <source>which photo belongs to which shot cannot be told surely%1; take photos of other shoots away, or say the order with --order name, time or given</source>
+        <translation>нельзя точно сказать, какой снимок к какому кадру относится%1; уберите снимки других съёмок</translation>
+    </message>
+    <message>
+        <source>%1 for shot %2</source>
+        <translation>%1 для кадра %2</translation>
+    </message>
+    <message>
+        <source>the camera took several photos for each shot: the last one of each is used</source>
+        <translation>камера сделала по нескольку снимков на кадр: взят последний из каждых</translation>
+    </message>
+    <message>
+        <source>taken more than once; used: %1</source>
+        <translation>сняты больше одного раза; взяты: %1</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s counter began again among these photos: they are ordered by time</source>
+        <translation>счётчик камеры начался среди этих снимков заново: они упорядочены по времени</translation>
+    </message>
+    <message>
+        <source>photo numbers begin again (another card?): they are ordered by time</source>
+        <translation>номера снимков начинаются заново (другая карта?): снимки упорядочены по времени</translation>
+    </message>
+    <message>
+        <source>names and times disagree: photos are ordered by time</source>
+        <translation>имена и время расходятся: снимки упорядочены по времени</translation>
+    </message>
+    <message>
+        <source>no photo for %1%2</source>
+        <translation>нет снимка: %1%2</translation>
+    </message>
+    <message>
+        <source> (was the shoot stopped?)</source>
+        <translation> (съёмку прервали?)</translation>
+    </message>
+    <message>
+        <source>take them again if you can</source>
+        <translation>если возможно, снимите их ещё раз</translation>
+    </message>
+    <message>
+        <source>%1 min %2 s</source>
+        <translation>%1 мин %2 с</translation>
+    </message>
+    <message>
+        <source>1 hour</source>
+        <translation>1 час</translation>
+    </message>
+    <message>
+        <source>%1 hours</source>
+        <translation>%1 ч</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s clock is %1 ahead of the head&apos;s</source>
+        <translation>часы камеры спешат относительно часов головки на %1</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s clock is %1 behind the head&apos;s</source>
+        <translation>часы камеры отстают от часов головки на %1</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s clock gains %1 s in a minute</source>
+        <translation>часы камеры уходят вперёд на %1 с в минуту</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s clock loses %1 s in a minute</source>
+        <translation>часы камеры отстают на %1 с в минуту</translation>
+    </message>
+    <message>
+        <source>the same picture: %1</source>
+        <translation>один и тот же снимок: %1</translation>
+    </message>
+    <message>
+        <source>before the first shot (a test?): left out</source>
+        <translation>до первого кадра (проба?): пропущено</translation>
+    </message>
+    <message>
+        <source>of another size: left out</source>
+        <translation>другой размер: пропущено</translation>
+    </message>
+    <message>
+        <source>not of this shoot: left out</source>
+        <translation>не от этой съёмки: пропущено</translation>
+    </message>
+    <message>
+        <source>which photo belongs to which shot could not be checked (%1): they are taken in the order of their names</source>
+        <translation>не удалось проверить, какой снимок к какому кадру относится (%1): взяты по порядку имён</translation>
+    </message>
+    <message>
+        <source>names, times and counts</source>
+        <translation>имена, время и количество</translation>
+    </message>
+    <message>
+        <source>names and counts</source>
+        <translation>имена и количество</translation>
+    </message>
+    <message>
+        <source>the record tells no times</source>
+        <translation>в файле съёмки нет времени</translation>
+    </message>
+    <message>
+        <source>the photos tell no times</source>
+        <translation>в снимках нет времени</translation>
+    </message>
+    <message>
+        <source>the times of photos and record do not agree</source>
+        <translation>время снимков и файла съёмки расходится</translation>
+    </message>
+    <message>
+        <source>%1 left out: other files of the same photos are used, JPEG before RAW</source>
+        <translation>пропущено (%1): взяты другие файлы тех же снимков, JPEG предпочтительнее RAW</translation>
+    </message>
+    <message>
+        <source>not opened: %1 agree</source>
+        <translation>не открывались: %1 сходятся</translation>
+    </message>
+    <message>
+        <source>the grid</source>
+        <translation>сетка</translation>
+    </message>
+    <message>
+        <source>none of its shots has a photo</source>
+        <translation>ни у одного из её кадров нет снимка</translation>
+    </message>
+    <message>
+        <source>are these the photos of this shoot?</source>
+        <translation>от этой ли съёмки эти снимки?</translation>
+    </message>
+    <message>
+        <source>was made of other photos</source>
+        <translation>составлен из других снимков</translation>
+    </message>
+    <message>
+        <source>%1 between %2</source>
+        <translation>%2, между ними %1</translation>
+    </message>
+    <message>
+        <source>; %1 without a neighbour near enough</source>
+        <translation>; %1 без достаточно близкого соседа</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1–%2</translation>
+    </message>
+    <message>
+        <source>shots %1</source>
+        <translation>кадры %1</translation>
+    </message>
+    <message>
+        <source>, exposure %1 of %2</source>
+        <translation>, экспозиция %1 из %2</translation>
+    </message>
+    <message>
+        <source>no photo for shot %1 (yaw %2, pitch %3%4)</source>
+        <translation>нет снимка для кадра %1 (рыскание %2, тангаж %3%4)</translation>
+    </message>
+    <message>
+        <source>no photo for %1</source>
+        <translation>нет снимка: %1</translation>
+    </message>
+    <message>
+        <source>panorama of %1 x %2 pixels: takes about %3 in %4 (%5 are free) and %6 of memory</source>
+        <translation>панорама %1 x %2 пикселей: займёт около %3 в %4 (свободно %5) и %6 памяти</translation>
+    </message>
+    <message>
+        <source>the light is exact to a fraction of a percent, but where every exposure clips it or shows noise</source>
+        <translation>значения яркости точны до долей процента, кроме мест, где все экспозиции пересвечены или шумят</translation>
+    </message>
+    <message>
+        <source>the light is good for looking at, not for measuring: the photos&apos; curve is taken for sRGB&apos;s; RAW files, or TIFFs without a curve and --linear, make it exact</source>
+        <translation>значения яркости годятся для просмотра, но не для измерений: кривая снимков принята за кривую sRGB; файлы RAW дают точные значения</translation>
+    </message>
+    <message>
+        <source>is to hold what is kept of this panorama, and holds something else</source>
+        <translation>здесь должны храниться рабочие файлы этой панорамы, а лежит что-то другое</translation>
+    </message>
+    <message>
+        <source>rename it, or choose another name with -o</source>
+        <translation>переименуйте или выберите другое имя</translation>
+    </message>
+    <message>
+        <source>the project asks for another projection; the panorama becomes equirectangular</source>
+        <translation>проект требует другой проекции; панорама будет равнопромежуточной</translation>
+    </message>
+    <message>
+        <source>masks that include a region are passed over, only those that exclude one count</source>
+        <translation>маски, включающие область, не учитываются, действуют только исключающие</translation>
+    </message>
+    <message>
+        <source>--centre turns full turns only; this part of the sphere stays as it is</source>
+        <translation>повернуть можно только полную круговую панораму; эта часть сферы остаётся как есть</translation>
+    </message>
+    <message>
+        <source>%1: cannot be read to its end; copy it from the card again, or take it again</source>
+        <translation>%1: не читается до конца; скопируйте с карты ещё раз или переснимите</translation>
+    </message>
+    <message>
+        <source>%1 of them are RAW files</source>
+        <translation>из них в формате RAW: %1</translation>
+    </message>
+    <message>
+        <source>add --raw-converter dcraw, dcraw_emu, darktable-cli or rawtherapee-cli, or give JPEGs or TIFFs of them</source>
+        <translation>установите dcraw, dcraw_emu, darktable-cli или rawtherapee-cli либо возьмите JPEG или TIFF этих снимков</translation>
+    </message>
+    <message>
+        <source>photos stay where the head says: optimisation is skipped</source>
+        <translation>снимки остаются там, где указала головка: оптимизация пропущена</translation>
+    </message>
+    <message>
+        <source>what was finished is kept in %1: the same command goes on from there</source>
+        <translation>то, что готово, сохранено в %1: «Создать панораму» продолжит с этого места</translation>
+    </message>
+    <message>
+        <source>photos lie where the record puts them in these commands: nothing is aligned yet</source>
+        <translation>снимки здесь пока лежат по файлу съёмки: выравнивания ещё не было</translation>
+    </message>
+    <message>
+        <source>a Hugin project cannot hold a file name with quotation marks or line ends, and no link to it can be made in %1</source>
+        <translation>в проекте Hugin имя файла не может содержать кавычки или перевод строки, а создать ссылку на такой файл в %1 нельзя</translation>
+    </message>
+    <message>
+        <source>rename the file</source>
+        <translation>переименуйте файл</translation>
+    </message>
+    <message>
+        <source>name dcraw, dcraw_emu, darktable-cli or rawtherapee-cli, or a command with %i for the RAW file and %o for the TIFF</source>
+        <translation>укажите dcraw, dcraw_emu, darktable-cli или rawtherapee-cli либо команду с %i для файла RAW и %o для TIFF</translation>
+    </message>
+    <message>
+        <source>this RAW converter was not found</source>
+        <translation>этот конвертер RAW не найден</translation>
+    </message>
+    <message>
+        <source>is its name right? of those known: apt install dcraw, libraw-bin, darktable or rawtherapee</source>
+        <translation>верно ли имя? из известных: apt install dcraw, libraw-bin, darktable или rawtherapee</translation>
+    </message>
+    <message>
+        <source>the camera chose the white balance of %1 RAW files one by one, and %2 follows it: their colours may differ; dcraw takes the first one&apos;s for all</source>
+        <translation>камера выбирала баланс белого для каждого файла RAW отдельно (таких %1), и %2 следует ей: цвета могут различаться; dcraw берёт для всех баланс первого</translation>
+    </message>
+    <message>
+        <source>this copy of a photo cannot be made</source>
+        <translation>не удаётся создать эту копию снимка</translation>
+    </message>
+    <message>
+        <source>is the photo readable? is the disk full?</source>
+        <translation>читается ли снимок? не заполнен ли диск?</translation>
+    </message>
+    <message>
+        <source>, of %1</source>
+        <translation>, файл %1</translation>
+    </message>
+    <message>
+        <source>it left no whole picture of %1</source>
+        <translation>полного изображения из %1 не получилось</translation>
+    </message>
+    <message>
+        <source>can it read this camera&apos;s files? is the disk full?</source>
+        <translation>читает ли он файлы этой камеры? не заполнен ли диск?</translation>
+    </message>
+    <message>
+        <source>names no program</source>
+        <translation>не указана программа</translation>
+    </message>
+    <message>
+        <source>does not say where its files go</source>
+        <translation>не указано, куда записывать файлы</translation>
+    </message>
+    <message>
+        <source>row %1 of column %2</source>
+        <translation>строка %1 в столбце %2</translation>
+    </message>
+    <message>
+        <source>the grid reaches around the sphere: overlap or rows do not fit this lens</source>
+        <translation>сетка замыкается вокруг сферы: перекрытие или число строк не подходит к этому объективу</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n column</source>
+        <translation>
+            <numerusform>%n столбец</numerusform>
+            <numerusform>%n столбца</numerusform>
+            <numerusform>%n столбцов</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file</source>
+        <translation>
+            <numerusform>%n файл</numerusform>
+            <numerusform>%n файла</numerusform>
+            <numerusform>%n файлов</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n link</source>
+        <translation>
+            <numerusform>%n связь</numerusform>
+            <numerusform>%n связи</numerusform>
+            <numerusform>%n связей</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n photo</source>
+        <translation>
+            <numerusform>%n снимок</numerusform>
+            <numerusform>%n снимка</numerusform>
+            <numerusform>%n снимков</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n position</source>
+        <translation>
+            <numerusform>%n позиция</numerusform>
+            <numerusform>%n позиции</numerusform>
+            <numerusform>%n позиций</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row</source>
+        <translation>
+            <numerusform>%n строка</numerusform>
+            <numerusform>%n строки</numerusform>
+            <numerusform>%n строк</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n shot</source>
+        <translation>
+            <numerusform>%n кадр</numerusform>
+            <numerusform>%n кадра</numerusform>
+            <numerusform>%n кадров</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the description</source>
+        <translation>описание</translation>
+    </message>
+    <message>
+        <source>%1 recorded directions for %2 photos at %3 positions</source>
+        <translation>записано направлений: %1, снимков: %2, позиций: %3</translation>
+    </message>
+    <message>
+        <source>its direction is not a number</source>
+        <translation>направление — не число</translation>
+    </message>
+    <message>
+        <source>correct the record</source>
+        <translation>исправьте файл съёмки</translation>
+    </message>
+    <message>
+        <source>position %1</source>
+        <translation>позиция %1</translation>
+    </message>
+    <message>
+        <source>has no photo</source>
+        <translation>нет снимка</translation>
+    </message>
+    <message>
+        <source>holds no photos</source>
+        <translation>нет снимков</translation>
+    </message>
+    <message>
+        <source>name a file that &apos;panohost import --json&apos; has written</source>
+        <translation>выберите описание, сохранённое этой программой</translation>
+    </message>
+    <message>
+        <source>cannot read (not a photo?)</source>
+        <translation>не читается (не снимок?)</translation>
+    </message>
+    <message>
+        <source>its pixels cannot be decoded (a RAW file?)</source>
+        <translation>пиксели не читаются (файл RAW?)</translation>
+    </message>
+    <message>
+        <source>too large to decode</source>
+        <translation>слишком большой, не прочитать</translation>
+    </message>
+    <message>
+        <source>give it with --focal</source>
+        <translation>вернитесь и введите его</translation>
+    </message>
+    <message>
+        <source>neither the record nor the photos name it</source>
+        <translation>не указано ни в файле съёмки, ни в снимках</translation>
+    </message>
+    <message>
+        <source>no lens has %1 mm</source>
+        <translation>объективов %1 мм не бывает</translation>
+    </message>
+    <message>
+        <source>its size in pixels is not known</source>
+        <translation>размер в пикселях неизвестен</translation>
+    </message>
+    <message>
+        <source>can another program open it? leave it out if not</source>
+        <translation>открывается ли в другой программе? если нет, уберите</translation>
+    </message>
+    <message>
+        <source>the photos have %1 different sizes in pixels</source>
+        <translation>у снимков разные размеры в пикселях (%1)</translation>
+    </message>
+    <message>
+        <source>a Hugin project cannot hold a file name with quotation marks or line ends</source>
+        <translation>в проекте Hugin имя файла не может содержать кавычки или перевод строки</translation>
+    </message>
+    <message>
+        <source>%1 of %2 photos name no exposure; %3 is assumed</source>
+        <translation>снимков без экспозиции: %1 из %2; принято %3</translation>
+    </message>
+    <message>
+        <source>larger than %1 bytes</source>
+        <translation>больше %1 байт</translation>
+    </message>
+    <message>
+        <source>give the name of a file</source>
+        <translation>укажите имя файла</translation>
+    </message>
+    <message>
+        <source>set --plugin or PANOHOST_PLUGIN_PATH to libXPanoHead.so</source>
+        <translation>укажите в PANOHOST_PLUGIN_PATH путь к libXPanoHead.so</translation>
+    </message>
+    <message>
+        <source>no such file or folder</source>
+        <translation>нет такого файла или папки</translation>
+    </message>
+    <message>
+        <source>import plug-ins</source>
+        <translation>модули импорта</translation>
+    </message>
+    <message>
+        <source>no plug-in library in %1</source>
+        <translation>нет библиотеки модулей в %1</translation>
+    </message>
+    <message>
+        <source>is not a Qt plug-in library</source>
+        <translation>это не библиотека модулей Qt</translation>
+    </message>
+    <message>
+        <source>its interface is &apos;%1&apos;, &apos;%2&apos; is needed</source>
+        <translation>её интерфейс — «%1», а нужен «%2»</translation>
+    </message>
+    <message>
+        <source>offers no list of plug-ins</source>
+        <translation>не даёт списка модулей</translation>
+    </message>
+    <message>
+        <source>holds no import plug-in</source>
+        <translation>нет модуля импорта</translation>
+    </message>
+    <message>
+        <source>cannot be written</source>
+        <translation>не удаётся записать</translation>
+    </message>
+    <message>
+        <source>is of another size than the others of its bracket</source>
+        <translation>размер не такой, как у остальных снимков серии</translation>
+    </message>
+    <message>
+        <source>is no warped light</source>
+        <translation>нет преобразованных значений яркости</translation>
+    </message>
+    <message>
+        <source>these photos of the project, and %1 more, are not there any more</source>
+        <translation>этих снимков проекта и ещё %1 больше нет</translation>
+    </message>
+    <message>
+        <source>not there any more</source>
+        <translation>больше нет</translation>
+    </message>
+    <message>
+        <source>put the photos back where they were, or import them again</source>
+        <translation>верните снимки на прежнее место или импортируйте их снова</translation>
+    </message>
+    <message>
+        <source>%1 has %2 bits a colour, %3 has %4, and all must be alike to be blended</source>
+        <translation>%1 — %2 бит на цвет, %3 — %4, а для сшивки все должны быть одинаковыми</translation>
+    </message>
+    <message>
+        <source>convert or develop them alike</source>
+        <translation>преобразуйте или проявите их одинаково</translation>
+    </message>
+    <message>
+        <source>was not written to its end</source>
+        <translation>записано не до конца</translation>
+    </message>
+    <message>
+        <source>is there enough room in %1?</source>
+        <translation>хватает ли места в %1?</translation>
+    </message>
+    <message>
+        <source>nona, of %1</source>
+        <translation>nona, файл %1</translation>
+    </message>
+    <message>
+        <source>made no picture of %1</source>
+        <translation>изображения из %1 не получилось</translation>
+    </message>
+    <message>
+        <source>is it a photo that other programs open?</source>
+        <translation>открывается ли этот снимок в других программах?</translation>
+    </message>
+    <message>
+        <source>size of the panorama</source>
+        <translation>размер панорамы</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels cannot be made</source>
+        <translation>%1 x %2 пикселей создать нельзя</translation>
+    </message>
+    <message>
+        <source>choose another --size</source>
+        <translation>выберите другой размер</translation>
+    </message>
+    <message>
+        <source>the stitch needs %1 there, %2 are free</source>
+        <translation>для панорамы там нужно %1, свободно %2</translation>
+    </message>
+    <message>
+        <source>make room, name another place with -o, or choose a smaller --size</source>
+        <translation>освободите место, выберите другое место или меньший размер</translation>
+    </message>
+    <message>
+        <source>memory</source>
+        <translation>память</translation>
+    </message>
+    <message>
+        <source>the stitch needs about %1, %2 are available</source>
+        <translation>для панорамы нужно около %1, доступно %2</translation>
+    </message>
+    <message>
+        <source>close other programs, or choose --jobs 1 or a smaller --size</source>
+        <translation>закройте другие программы или выберите меньший размер</translation>
+    </message>
+    <message>
+        <source>try it by itself</source>
+        <translation>попробуйте эту программу отдельно</translation>
+    </message>
+    <message>
+        <source>%1 minutes</source>
+        <translation>%1 мин</translation>
+    </message>
+    <message>
+        <source>it was killed, perhaps because memory ran out</source>
+        <translation>программа завершена принудительно, возможно, не хватило памяти</translation>
+    </message>
+    <message>
+        <source>close other programs and try again</source>
+        <translation>закройте другие программы и повторите</translation>
+    </message>
+    <message>
+        <source>it crashed (signal %1)</source>
+        <translation>сбой программы (сигнал %1)</translation>
+    </message>
+    <message>
+        <source>%1 and said: %2</source>
+        <translation>%1, сообщение: %2</translation>
+    </message>
+    <message>
+        <source> if so: %1</source>
+        <translation> если да: %1</translation>
+    </message>
+    <message>
+        <source>this program is needed for stitching and was not found</source>
+        <translation>эта программа нужна для сборки панорамы, но не найдена</translation>
+    </message>
+    <message>
+        <source>cannot be started (%1)</source>
+        <translation>не удаётся запустить (%1)</translation>
+    </message>
+    <message>
+        <source>it was stopped since it did nothing for %1</source>
+        <translation>работа остановлена: программа ничего не делала %1</translation>
+    </message>
+    <message>
+        <source>is the machine very busy, or a network drive away? try again</source>
+        <translation>не перегружен ли компьютер, доступен ли сетевой диск? повторите</translation>
+    </message>
+    <message>
+        <source>it failed without a message</source>
+        <translation>ошибка без сообщения</translation>
+    </message>
+    <message>
+        <source>it failed and said: %1</source>
+        <translation>ошибка, сообщение: %1</translation>
+    </message>
+    <message>
+        <source>is the disk full, or a file damaged that it reads?</source>
+        <translation>не заполнен ли диск, не повреждён ли читаемый файл?</translation>
+    </message>
+    <message>
+        <source>it failed, and there is hardly any room left on the disk at %1 (%2)</source>
+        <translation>ошибка, а на диске %1 почти не осталось места (%2)</translation>
+    </message>
+    <message>
+        <source>make room there and go on with the same command; nothing is lost</source>
+        <translation>освободите там место и нажмите «Создать панораму» ещё раз; ничего не пропадёт</translation>
+    </message>
+    <message>
+        <source>was the disk full? remove the file and try again</source>
+        <translation>не был ли заполнен диск? удалите файл и повторите</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>не читается</translation>
+    </message>
+    <message>
+        <source>is no picture of 8, 16 or floating bits</source>
+        <translation>это не изображение с 8 или 16 битами или с плавающей запятой</translation>
+    </message>
+    <message>
+        <source>is cut off</source>
+        <translation>файл обрезан</translation>
+    </message>
+    <message>
+        <source>cannot be mapped into memory</source>
+        <translation>не удаётся отобразить в память</translation>
+    </message>
+    <message>
+        <source>is the disk full, or the folder read-only?</source>
+        <translation>не заполнен ли диск, не защищена ли папка от записи?</translation>
+    </message>
+    <message>
+        <source>%1, process %2 on %3</source>
+        <translation>программой %1 (процесс %2 на %3)</translation>
+    </message>
+    <message>
+        <source>another program</source>
+        <translation>другой программой</translation>
+    </message>
+    <message>
+        <source>there is a file of that name: rename it, or choose another name with -o</source>
+        <translation>есть файл с таким именем: переименуйте его или выберите другое имя</translation>
+    </message>
+    <message>
+        <source>is in use by %1</source>
+        <translation>занято %1</translation>
+    </message>
+    <message>
+        <source>wait for it to end, or choose another name with -o</source>
+        <translation>дождитесь её завершения или выберите другое имя</translation>
     </message>
 </context>
 <context>

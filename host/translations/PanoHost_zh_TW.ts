@@ -64,36 +64,16 @@
         <translation>%1（第 %2 步，共 %3 步）</translation>
     </message>
     <message>
-        <source>or choose a smaller size</source>
-        <translation>或選擇較小的尺寸</translation>
+        <source>%1 x %2 in at %3 dpi</source>
+        <translation>%3 dpi 時 %1 x %2 英寸</translation>
     </message>
     <message>
-        <source>choose a smaller size</source>
-        <translation>請選擇較小的尺寸</translation>
+        <source>%1 x %2 cm at %3 dpi</source>
+        <translation>%3 dpi 時 %1 x %2 公分</translation>
     </message>
     <message>
-        <source>choose another size</source>
-        <translation>請選擇其他尺寸</translation>
-    </message>
-    <message>
-        <source>RAW files make it exact</source>
-        <translation>RAW 檔案可使其準確</translation>
-    </message>
-    <message>
-        <source>press Make panorama again</source>
-        <translation>請再按一次「製作全景圖」</translation>
-    </message>
-    <message>
-        <source>go back and enter it</source>
-        <translation>請返回並輸入</translation>
-    </message>
-    <message>
-        <source>Make panorama goes on from here</source>
-        <translation>按「製作全景圖」可從此處繼續</translation>
-    </message>
-    <message>
-        <source>%1 x %2 pixels at most; takes up to %3 of the disk and %4 of memory.</source>
-        <translation>最大 %1 x %2 像素；最多使用 %3 磁碟空間和 %4 記憶體。</translation>
+        <source>%1 x %2 pixels at most (%3); takes up to %4 of the disk and %5 of memory.</source>
+        <translation>最大 %1 x %2 像素（%3）；最多使用 %4 磁碟空間和 %5 記憶體。</translation>
     </message>
 </context>
 <context>
@@ -208,14 +188,29 @@
     </message>
 </context>
 <context>
-    <name>PanoHost::ImportWizard</name>
+    <name>PanoHost::HelpMenu</name>
     <message>
-        <source>Import a panorama</source>
-        <translation>匯入全景圖</translation>
+        <source>&amp;Help</source>
+        <translation>說明(&amp;H)</translation>
     </message>
     <message>
         <source>Help</source>
         <translation>說明</translation>
+    </message>
+    <message>
+        <source>&amp;Preferences...</source>
+        <translation>偏好設定(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>&amp;About panohost</source>
+        <translation>關於 panohost(&amp;O)</translation>
+    </message>
+</context>
+<context>
+    <name>PanoHost::ImportWizard</name>
+    <message>
+        <source>Import a panorama</source>
+        <translation>匯入全景圖</translation>
     </message>
     <message>
         <source>&amp;Another import</source>
@@ -260,18 +255,6 @@
     <message>
         <source>This page could not do what you asked: %1. Your files are as they were. Try again, or go back and choose fewer files.</source>
         <translation>此頁面無法完成所要求的動作：%1。您的檔案未被變更。請再試一次，或返回並減少檔案數量。</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>說明(&amp;H)</translation>
-    </message>
-    <message>
-        <source>&amp;Preferences...</source>
-        <translation>偏好設定(&amp;P)...</translation>
-    </message>
-    <message>
-        <source>&amp;About panohost</source>
-        <translation>關於 panohost(&amp;O)</translation>
     </message>
     <message>
         <source>Choose the head that took the photos, then Next. You can also drop the head&apos;s record and the photos, or the folder that holds them, onto this window.</source>
@@ -619,10 +602,6 @@
         <translation>工具：</translation>
     </message>
     <message>
-        <source>Language and thumbnails change with the next start.</source>
-        <translation>語言和縮圖的變更會在下次啟動後生效。</translation>
-    </message>
-    <message>
         <source>As the desktop</source>
         <translation>與桌面一致</translation>
     </message>
@@ -645,6 +624,22 @@
     <message>
         <source>%1 is no folder; choose another one, or leave the field empty.</source>
         <translation>%1 不是資料夾；請選擇其他資料夾，或將此欄留空。</translation>
+    </message>
+    <message>
+        <source>Centimetres</source>
+        <translation>公分</translation>
+    </message>
+    <message>
+        <source>Inches</source>
+        <translation>英寸</translation>
+    </message>
+    <message>
+        <source>&amp;Units of prints:</source>
+        <translation>列印單位(&amp;U)：</translation>
+    </message>
+    <message>
+        <source>The language changes with the next start.</source>
+        <translation>語言的變更會在下次啟動後生效。</translation>
     </message>
 </context>
 <context>
@@ -1160,6 +1155,1263 @@
     <message>
         <source>%1 was not saved: %2</source>
         <translation>%1 未儲存：%2</translation>
+    </message>
+</context>
+<context>
+    <name>PanoHost::Said</name>
+    <message>
+        <source>no control points are wanted (automatic detection is off): kept as recorded</source>
+        <translation>不使用控制點（自動偵測已關閉）：維持記錄的位置</translation>
+    </message>
+    <message>
+        <source>photos are left as recorded (optimisation is skipped)</source>
+        <translation>相片維持記錄的位置（略過最佳化）</translation>
+    </message>
+    <message>
+        <source>there is one photo only: kept as recorded</source>
+        <translation>只有一張相片：維持記錄的位置</translation>
+    </message>
+    <message>
+        <source>no two photos overlap where the record puts them: kept as recorded</source>
+        <translation>依記錄的位置，沒有任何兩張相片重疊：維持記錄的位置</translation>
+    </message>
+    <message>
+        <source>no spot was found in two photos (nothing but sky or fog, or the photos are not of this record): kept as recorded</source>
+        <translation>找不到兩張相片共有的點（只有天空或霧，或相片不屬於這份拍攝記錄）：維持記錄的位置</translation>
+    </message>
+    <message>
+        <source>%1; kept as recorded</source>
+        <translation>%1；維持記錄的位置</translation>
+    </message>
+    <message>
+        <source>none of the photos can be used: were they moved since the import?</source>
+        <translation>沒有一張相片可以使用：匯入後是否移動過？</translation>
+    </message>
+    <message>
+        <source>the photos fit the order &apos;%1&apos; better than &apos;%2&apos;: import them with --mode %1</source>
+        <translation>相片較符合順序「%1」，而不是「%2」：請以順序「%1」匯入</translation>
+    </message>
+    <message>
+        <source>the panorama is made %1 stops brighter: what is white in a photo stays white</source>
+        <translation>全景圖已調亮 %1 級：相片中的白色仍是白色</translation>
+    </message>
+    <message>
+        <source>%1 of %2 tied, %3, median %4 pixels</source>
+        <translation>%2中有 %1 張找到控制點，%3，偏差中位數 %4 像素</translation>
+    </message>
+    <message>
+        <source>%1 point</source>
+        <translation>%1 個點</translation>
+    </message>
+    <message>
+        <source>%1 points</source>
+        <translation>%1 個點</translation>
+    </message>
+    <message>
+        <source> and %1 more</source>
+        <translation> 及另外 %1 張</translation>
+    </message>
+    <message>
+        <source>no points in %1 (%2): kept where the head put it</source>
+        <translation>%1（%2）中找不到點：維持雲台記錄的位置</translation>
+    </message>
+    <message>
+        <source>no points in %1 (%2): kept where the head put them</source>
+        <translation>%1（%2）中找不到點：維持雲台記錄的位置</translation>
+    </message>
+    <message>
+        <source>lens %1 mm instead of %2</source>
+        <translation>鏡頭為 %1 mm，而不是 %2 mm</translation>
+    </message>
+    <message>
+        <source>the lens darkens its corners by %1 %: evened out</source>
+        <translation>鏡頭暗角 %1 %：已修正</translation>
+    </message>
+    <message>
+        <source>exposures are not what the photos say, by up to %1 stops: evened out</source>
+        <translation>曝光與相片的記錄不符，最多相差 %1 級：已修正</translation>
+    </message>
+    <message>
+        <source>the head repeats to %1 degrees</source>
+        <translation>雲台的重複精度：%1 度</translation>
+    </message>
+    <message>
+        <source>less than %1</source>
+        <translation>小於 %1</translation>
+    </message>
+    <message>
+        <source>the camera sits %1 degrees crooked on the head</source>
+        <translation>相機裝在雲台上歪了 %1 度</translation>
+    </message>
+    <message>
+        <source>the head&apos;s steps are %1 (across) and %2 (up) times what was stated</source>
+        <translation>雲台的步進角度是設定值的 %1 倍（水平）和 %2 倍（垂直）</translation>
+    </message>
+    <message>
+        <source>from %1 on the head stands %2 degrees farther right than recorded: did its turning axis slip?</source>
+        <translation>從 %1 起，雲台比記錄偏右 %2 度：水平轉軸是否打滑了？</translation>
+    </message>
+    <message>
+        <source>from %1 on the head stands %2 degrees farther left than recorded: did its turning axis slip?</source>
+        <translation>從 %1 起，雲台比記錄偏左 %2 度：水平轉軸是否打滑了？</translation>
+    </message>
+    <message>
+        <source>from %1 on the head stands %2 degrees higher than recorded: did its tilting axis slip?</source>
+        <translation>從 %1 起，雲台比記錄偏高 %2 度：俯仰轉軸是否打滑了？</translation>
+    </message>
+    <message>
+        <source>from %1 on the head stands %2 degrees lower than recorded: did its tilting axis slip?</source>
+        <translation>從 %1 起，雲台比記錄偏低 %2 度：俯仰轉軸是否打滑了？</translation>
+    </message>
+    <message>
+        <source>%1 was taken %2 degrees from where the head says: was it bumped?</source>
+        <translation>%1 的拍攝方向與雲台記錄相差 %2 度：是否被碰到了？</translation>
+    </message>
+    <message>
+        <source>residuals suggest parallax (%1 pixels): near things move against far ones; is the camera&apos;s nodal point on the head&apos;s axes?</source>
+        <translation>剩餘偏差顯示可能有視差（%1 像素）：近的物體相對於遠的物體有移動；相機的節點是否位於雲台的轉軸上？</translation>
+    </message>
+    <message>
+        <source>was %1 x %2 pixels when imported, is now %3 x %4</source>
+        <translation>匯入時為 %1 x %2 像素，現在為 %3 x %4</translation>
+    </message>
+    <message>
+        <source>cannot keep the features of photos there: %1</source>
+        <translation>無法在該處儲存相片的特徵資料：%1</translation>
+    </message>
+    <message>
+        <source>TMPDIR names a folder with more room</source>
+        <translation>請將 TMPDIR 設為空間較大的資料夾</translation>
+    </message>
+    <message>
+        <source>cannot read the features of photos back: %1</source>
+        <translation>無法讀回相片的特徵資料：%1</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>%1: %2, bracket %3, focal %4, lens %5</source>
+        <translation>%1：%2，包圍曝光每組 %3 張，焦距 %4，鏡頭 %5</translation>
+    </message>
+    <message>
+        <source>copy it from the card again</source>
+        <translation>請從記憶卡重新複製</translation>
+    </message>
+    <message>
+        <source>%1 given, %2 readable, focal %3, lens %4</source>
+        <translation>選了 %1 張，可讀取 %2 張，焦距 %3，鏡頭 %4</translation>
+    </message>
+    <message>
+        <source>neither the photos nor the record name the focal length</source>
+        <translation>相片和拍攝記錄都沒有記錄焦距</translation>
+    </message>
+    <message>
+        <source>give it, as for 35 mm film: --focal 24</source>
+        <translation>請輸入 35 mm 等效焦距</translation>
+    </message>
+    <message>
+        <source>not all photos have a capture time</source>
+        <translation>有些相片沒有拍攝時間</translation>
+    </message>
+    <message>
+        <source>%1 was taken before %2</source>
+        <translation>%1 的拍攝時間早於 %2</translation>
+    </message>
+    <message>
+        <source>try --order time</source>
+        <translation>請試著依時間排序</translation>
+    </message>
+    <message>
+        <source>capture times agree</source>
+        <translation>拍攝時間的順序相符</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>無</translation>
+    </message>
+    <message>
+        <source>%1 s after %2 (usually %3 s)</source>
+        <translation>%2 之後 %1 秒（通常為 %3 秒）</translation>
+    </message>
+    <message>
+        <source>standard</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>fisheye</source>
+        <translation>魚眼</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>this folder cannot be made</source>
+        <translation>無法建立這個資料夾</translation>
+    </message>
+    <message>
+        <source>is the disk full, or the folder above it read-only?</source>
+        <translation>磁碟是否已滿，或上層資料夾是否為唯讀？</translation>
+    </message>
+    <message>
+        <source>no photo reaches these sides of the cube, which are left out: %1</source>
+        <translation>立方體的下列各面沒有相片涵蓋，已略過：%1</translation>
+    </message>
+    <message>
+        <source>cannot be written (%1)</source>
+        <translation>無法寫入（%1）</translation>
+    </message>
+    <message>
+        <source>make room there or choose another place</source>
+        <translation>請在該處騰出空間，或選擇其他位置</translation>
+    </message>
+    <message>
+        <source>the folder %1 does not exist</source>
+        <translation>資料夾 %1 不存在</translation>
+    </message>
+    <message>
+        <source>create it or choose another place</source>
+        <translation>請建立該資料夾，或選擇其他位置</translation>
+    </message>
+    <message>
+        <source>is a folder</source>
+        <translation>是資料夾</translation>
+    </message>
+    <message>
+        <source>is not a regular file</source>
+        <translation>不是一般檔案</translation>
+    </message>
+    <message>
+        <source>remove it or choose another name with -o</source>
+        <translation>請將它移除，或選擇其他名稱</translation>
+    </message>
+    <message>
+        <source>is a file, and a folder of that name is wanted</source>
+        <translation>是檔案，但此處需要同名的資料夾</translation>
+    </message>
+    <message>
+        <source>is a folder that panohost has not made</source>
+        <translation>不是由 panohost 建立的資料夾</translation>
+    </message>
+    <message>
+        <source>it left a file that is not complete</source>
+        <translation>輸出的檔案不完整</translation>
+    </message>
+    <message>
+        <source>is the disk full? make room and try again</source>
+        <translation>磁碟是否已滿？請騰出空間後再試一次</translation>
+    </message>
+    <message>
+        <source>make room there and try again</source>
+        <translation>請在該處騰出空間後再試一次</translation>
+    </message>
+    <message>
+        <source>the panorama has %1 x %2 pixels, and JPEG files at most %3 to a side</source>
+        <translation>全景圖為 %1 x %2 像素，而 JPEG 檔案每邊最多 %3 像素</translation>
+    </message>
+    <message>
+        <source>name it .tif, or make it smaller with --size</source>
+        <translation>請將檔名改為 .tif，或選擇較小的尺寸</translation>
+    </message>
+    <message>
+        <source>this panorama&apos;s values are not light</source>
+        <translation>這張全景圖的數值不是真實光線</translation>
+    </message>
+    <message>
+        <source>needs --output hdr</source>
+        <translation>請在「包圍曝光」選擇「真實光線（HDR）」</translation>
+    </message>
+    <message>
+        <source>is not the panorama that was stitched last</source>
+        <translation>不是最近一次接合的全景圖</translation>
+    </message>
+    <message>
+        <source>remove it and try again</source>
+        <translation>請將它移除後再試一次</translation>
+    </message>
+    <message>
+        <source>it left %1 incomplete</source>
+        <translation>輸出的 %1 不完整</translation>
+    </message>
+    <message>
+        <source>is the disk full?</source>
+        <translation>磁碟是否已滿？</translation>
+    </message>
+    <message>
+        <source>the address where the folder will be reached is not known</source>
+        <translation>不知道這個資料夾將公開在哪個網址</translation>
+    </message>
+    <message>
+        <source>give it, such as https://example.org/panoramas</source>
+        <translation>請輸入網址，例如 https://example.org/panoramas</translation>
+    </message>
+    <message>
+        <source>%1 less %2 ignored</source>
+        <translation>%1（其中略過 %2 張）</translation>
+    </message>
+    <message>
+        <source>%1, %2, bracket %3, %4 ignored</source>
+        <translation>%1，%2，包圍曝光每組 %3 張，略過 %4 張</translation>
+    </message>
+    <message>
+        <source>photos</source>
+        <translation>相片</translation>
+    </message>
+    <message>
+        <source>--ignore %1 leaves none of %2</source>
+        <translation>略過 %1 張後，%2 張中一張也不剩</translation>
+    </message>
+    <message>
+        <source>ignore fewer, or name all photos</source>
+        <translation>請減少略過的數量，或選擇所有相片</translation>
+    </message>
+    <message>
+        <source>--bracket %1 is more than %2</source>
+        <translation>包圍曝光每組需要 %1 張，但只有 %2</translation>
+    </message>
+    <message>
+        <source>each position needs all its exposures</source>
+        <translation>每個拍攝位置都需要所有曝光的相片</translation>
+    </message>
+    <message>
+        <source>%1 are not a multiple of bracket %2</source>
+        <translation>%1，不是包圍曝光每組 %2 張的整數倍</translation>
+    </message>
+    <message>
+        <source>each position needs all its exposures; --ignore N leaves out the first N photos</source>
+        <translation>每個拍攝位置都需要所有曝光的相片；可用「略過開頭的檔案數」略過開頭多餘的相片</translation>
+    </message>
+    <message>
+        <source>%1 (%2 in brackets of %3)</source>
+        <translation>%1（%2，包圍曝光每組 %3 張）</translation>
+    </message>
+    <message>
+        <source>%1 do not divide %2 evenly</source>
+        <translation>%2無法平均分成 %1</translation>
+    </message>
+    <message>
+        <source>are photos missing? --ignore N leaves out the first N photos</source>
+        <translation>是否少了相片？可用「略過開頭的檔案數」略過開頭多餘的相片</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 及另外 %2 項</translation>
+    </message>
+    <message>
+        <source>no pause tells where</source>
+        <translation>從拍攝間隔也看不出位置</translation>
+    </message>
+    <message>
+        <source>the longest pause: %1, in row %2 as they were taken</source>
+        <translation>最長的間斷：%1，依拍攝順序在第 %2 列</translation>
+    </message>
+    <message>
+        <source>the longest pause: %1, in column %2 as they were taken</source>
+        <translation>最長的間斷：%1，依拍攝順序在第 %2 欄</translation>
+    </message>
+    <message>
+        <source>the pictures do not tell which are missing: %1</source>
+        <translation>從畫面看不出少了哪些相片：%1</translation>
+    </message>
+    <message>
+        <source>no photo for %1 (rows from the top, columns from the left)</source>
+        <translation>%1沒有相片（列由上往下數，欄由左往右數）</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>檔案不存在</translation>
+    </message>
+    <message>
+        <source>not a regular file</source>
+        <translation>不是一般檔案</translation>
+    </message>
+    <message>
+        <source>no &lt;shoot&gt; pictures</source>
+        <translation>&lt;shoot&gt; 中沒有相片記錄</translation>
+    </message>
+    <message>
+        <source>is it an old-style Papywizard file (image/coords)?</source>
+        <translation>是不是舊格式的 Papywizard 檔案 (image/coords)？</translation>
+    </message>
+    <message>
+        <source>its &lt;shoot&gt; holds no &lt;pict&gt;: no shot was recorded</source>
+        <translation>&lt;shoot&gt; 中沒有 &lt;pict&gt;：沒有記錄任何拍攝</translation>
+    </message>
+    <message>
+        <source>choose the record of a finished shoot</source>
+        <translation>請選擇已完成拍攝的記錄</translation>
+    </message>
+    <message>
+        <source>no op_shoot command: no shot was recorded</source>
+        <translation>沒有 op_shoot 指令：沒有記錄任何拍攝</translation>
+    </message>
+    <message>
+        <source>is it the script that the head ran?</source>
+        <translation>這是雲台執行的指令碼嗎？</translation>
+    </message>
+    <message>
+        <source>correct this line, or choose another script</source>
+        <translation>請更正這一行，或選擇其他指令碼</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>第 %1 行：%2</translation>
+    </message>
+    <message>
+        <source>is it the record that the head wrote?</source>
+        <translation>這是雲台寫入的拍攝記錄嗎？</translation>
+    </message>
+    <message>
+        <source>no such record</source>
+        <translation>拍攝記錄不存在</translation>
+    </message>
+    <message>
+        <source>check the name</source>
+        <translation>請檢查名稱</translation>
+    </message>
+    <message>
+        <source>unknown head &apos;%1&apos;%2</source>
+        <translation>不明的雲台「%1」%2</translation>
+    </message>
+    <message>
+        <source>heads: %1</source>
+        <translation>雲台：%1</translation>
+    </message>
+    <message>
+        <source>no record of some of its shots can be made</source>
+        <translation>無法產生只含其中部分拍攝的記錄</translation>
+    </message>
+    <message>
+        <source>take the shots by hand</source>
+        <translation>請手動補拍</translation>
+    </message>
+    <message>
+        <source>using %1</source>
+        <translation>使用 %1</translation>
+    </message>
+    <message>
+        <source>has no import plug-in for %1</source>
+        <translation>沒有適用於 %1 的匯入外掛程式</translation>
+    </message>
+    <message>
+        <source>set --plugin to another library</source>
+        <translation>請使用其他外掛程式庫</translation>
+    </message>
+    <message>
+        <source>the page refuses them</source>
+        <translation>此頁面不接受這些相片</translation>
+    </message>
+    <message>
+        <source>make it first</source>
+        <translation>請先建立該資料夾</translation>
+    </message>
+    <message>
+        <source>name a file in it</source>
+        <translation>請指定其中的檔案</translation>
+    </message>
+    <message>
+        <source>name a file of your own</source>
+        <translation>請指定您自己的檔案</translation>
+    </message>
+    <message>
+        <source>cannot be written there: %1</source>
+        <translation>無法寫入該處：%1</translation>
+    </message>
+    <message>
+        <source>choose a folder of your own</source>
+        <translation>請選擇您自己的資料夾</translation>
+    </message>
+    <message>
+        <source>is one of the input files</source>
+        <translation>是輸入檔案之一</translation>
+    </message>
+    <message>
+        <source>choose another name for the result</source>
+        <translation>請為結果選擇其他名稱</translation>
+    </message>
+    <message>
+        <source>given twice</source>
+        <translation>重複指定</translation>
+    </message>
+    <message>
+        <source>name each photo once</source>
+        <translation>每張相片只需選擇一次</translation>
+    </message>
+    <message>
+        <source>no such photo</source>
+        <translation>相片不存在</translation>
+    </message>
+    <message>
+        <source>rename the file: its name is not in UTF-8</source>
+        <translation>請重新命名檔案：檔名不是 UTF-8 編碼</translation>
+    </message>
+    <message>
+        <source>name the photos in it, e.g. %1/*.jpg</source>
+        <translation>請選擇其中的相片，例如 %1/*.jpg</translation>
+    </message>
+    <message>
+        <source>name photos only</source>
+        <translation>請只選擇相片</translation>
+    </message>
+    <message>
+        <source>cannot be read: permission denied</source>
+        <translation>無法讀取：沒有存取權限</translation>
+    </message>
+    <message>
+        <source>copy it to a folder of your own</source>
+        <translation>請將它複製到您自己的資料夾</translation>
+    </message>
+    <message>
+        <source>are photos missing, or did the shoot stop early?</source>
+        <translation>是否少了相片，或拍攝提早停止了？</translation>
+    </message>
+    <message>
+        <source>are test shots among the photos?</source>
+        <translation>相片中是否混有試拍的相片？</translation>
+    </message>
+    <message>
+        <source>records %1, %2 given</source>
+        <translation>記錄了 %1，但選了 %2</translation>
+    </message>
+    <message>
+        <source>has no capture time to order by</source>
+        <translation>沒有拍攝時間，無法依時間排序</translation>
+    </message>
+    <message>
+        <source>use --order name or --order given</source>
+        <translation>請依名稱或依選擇的順序排列</translation>
+    </message>
+    <message>
+        <source>the record</source>
+        <translation>拍攝記錄</translation>
+    </message>
+    <message>
+        <source>the photos&apos; EXIF data</source>
+        <translation>相片的 EXIF 資料</translation>
+    </message>
+    <message>
+        <source>the photos&apos; EXIF data or the record</source>
+        <translation>相片的 EXIF 資料或拍攝記錄</translation>
+    </message>
+    <message>
+        <source>focal length</source>
+        <translation>焦距</translation>
+    </message>
+    <message>
+        <source>not known from %1</source>
+        <translation>無法從%1得知</translation>
+    </message>
+    <message>
+        <source>give it with --focal MM (35 mm equivalent)</source>
+        <translation>請返回並輸入（35 mm 等效焦距）</translation>
+    </message>
+    <message>
+        <source>focal length %1 (EXIF) against %2 (record); using EXIF; choose with --focal</source>
+        <translation>焦距在 EXIF 中為 %1，在拍攝記錄中為 %2；採用 EXIF</translation>
+    </message>
+    <message>
+        <source>%1 of the photos name no focal length; using that of the others; choose with --focal</source>
+        <translation>%1 張相片沒有記錄焦距；採用其他相片的焦距</translation>
+    </message>
+    <message>
+        <source>%1 lens (EXIF) against %2 (record); using EXIF; choose with --lens</source>
+        <translation>鏡頭在 EXIF 中為%1，在拍攝記錄中為%2；採用 EXIF</translation>
+    </message>
+    <message>
+        <source>the photos name focal lengths from %1 to %2; using their median; choose with --focal</source>
+        <translation>相片記錄的焦距從 %1 到 %2 不等；採用中位數</translation>
+    </message>
+    <message>
+        <source>plug-in page</source>
+        <translation>外掛程式頁面</translation>
+    </message>
+    <message>
+        <source>has no &apos;%1&apos;</source>
+        <translation>沒有「%1」</translation>
+    </message>
+    <message>
+        <source>is this library of another version? set --plugin</source>
+        <translation>這個程式庫的版本是否不同？</translation>
+    </message>
+    <message>
+        <source>%1 is not between %2 and %3</source>
+        <translation>%1 不在 %2 到 %3 之間</translation>
+    </message>
+    <message>
+        <source>its photo button opens no file dialog</source>
+        <translation>其相片按鈕沒有開啟檔案對話框</translation>
+    </message>
+    <message>
+        <source> (and %1 more of %2 photos)</source>
+        <translation> (%2 張相片中另有 %1 張)</translation>
+    </message>
+    <message>
+        <source>cannot read (%1)%2</source>
+        <translation>無法讀取（%1）%2</translation>
+    </message>
+    <message>
+        <source>is it a photo? try &apos;panohost check&apos;</source>
+        <translation>這是相片嗎？</translation>
+    </message>
+    <message>
+        <source>the page does not accept them</source>
+        <translation>此頁面不接受這些相片</translation>
+    </message>
+    <message>
+        <source>try &apos;panohost check&apos;</source>
+        <translation>請檢查這些相片</translation>
+    </message>
+    <message>
+        <source>refused by the plug-in</source>
+        <translation>被外掛程式拒絕</translation>
+    </message>
+    <message>
+        <source>temporary links to the photos</source>
+        <translation>相片的暫時連結</translation>
+    </message>
+    <message>
+        <source>is the temporary folder full? set TMPDIR</source>
+        <translation>暫存資料夾是否已滿？請將 TMPDIR 設為其他資料夾</translation>
+    </message>
+    <message>
+        <source>of no shot</source>
+        <translation>無對應的拍攝</translation>
+    </message>
+    <message>
+        <source>shot %1</source>
+        <translation>第 %1 次拍攝</translation>
+    </message>
+    <message>
+        <source>: %1 may be %2 (%3 %) or %4</source>
+        <translation>：%1 可能是%2（%3 %）或%4</translation>
+    </message>
+    <message>
+        <source>which photo belongs to which shot cannot be told surely%1; take photos of other shoots away, or say the order with --order name, time or given</source>
+        <translation>無法確定哪張相片對應哪次拍攝%1；請移除其他拍攝的相片，或指定順序：依名稱、依時間或依選擇的順序</translation>
+    </message>
+    <message>
+        <source>%1 for shot %2</source>
+        <translation>%1（第 %2 次拍攝）</translation>
+    </message>
+    <message>
+        <source>the camera took several photos for each shot: the last one of each is used</source>
+        <translation>相機每次拍了多張相片：各採用最後一張</translation>
+    </message>
+    <message>
+        <source>taken more than once; used: %1</source>
+        <translation>有重複拍攝；採用：%1</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s counter began again among these photos: they are ordered by time</source>
+        <translation>相機的編號在這些相片中重新開始：依時間排序</translation>
+    </message>
+    <message>
+        <source>photo numbers begin again (another card?): they are ordered by time</source>
+        <translation>相片編號重新開始（換了記憶卡？）：依時間排序</translation>
+    </message>
+    <message>
+        <source>names and times disagree: photos are ordered by time</source>
+        <translation>名稱與時間的順序不符：依時間排序</translation>
+    </message>
+    <message>
+        <source>no photo for %1%2</source>
+        <translation>%1沒有相片%2</translation>
+    </message>
+    <message>
+        <source> (was the shoot stopped?)</source>
+        <translation> (拍攝是否中途停止？)</translation>
+    </message>
+    <message>
+        <source>take them again if you can</source>
+        <translation>如果可以，請補拍</translation>
+    </message>
+    <message>
+        <source>%1 min %2 s</source>
+        <translation>%1 分 %2 秒</translation>
+    </message>
+    <message>
+        <source>1 hour</source>
+        <translation>1 小時</translation>
+    </message>
+    <message>
+        <source>%1 hours</source>
+        <translation>%1 小時</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s clock is %1 ahead of the head&apos;s</source>
+        <translation>相機的時鐘比雲台快 %1</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s clock is %1 behind the head&apos;s</source>
+        <translation>相機的時鐘比雲台慢 %1</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s clock gains %1 s in a minute</source>
+        <translation>相機的時鐘每分鐘快 %1 秒</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s clock loses %1 s in a minute</source>
+        <translation>相機的時鐘每分鐘慢 %1 秒</translation>
+    </message>
+    <message>
+        <source>the same picture: %1</source>
+        <translation>相同的影像：%1</translation>
+    </message>
+    <message>
+        <source>before the first shot (a test?): left out</source>
+        <translation>早於第一次拍攝（試拍？）：已略過</translation>
+    </message>
+    <message>
+        <source>of another size: left out</source>
+        <translation>尺寸不同：已略過</translation>
+    </message>
+    <message>
+        <source>not of this shoot: left out</source>
+        <translation>不屬於這次拍攝：已略過</translation>
+    </message>
+    <message>
+        <source>which photo belongs to which shot could not be checked (%1): they are taken in the order of their names</source>
+        <translation>無法確認哪張相片對應哪次拍攝（%1）：依名稱順序採用</translation>
+    </message>
+    <message>
+        <source>names, times and counts</source>
+        <translation>名稱、時間和數量</translation>
+    </message>
+    <message>
+        <source>names and counts</source>
+        <translation>名稱和數量</translation>
+    </message>
+    <message>
+        <source>the record tells no times</source>
+        <translation>拍攝記錄中沒有時間</translation>
+    </message>
+    <message>
+        <source>the photos tell no times</source>
+        <translation>相片中沒有時間</translation>
+    </message>
+    <message>
+        <source>the times of photos and record do not agree</source>
+        <translation>相片與拍攝記錄的時間不符</translation>
+    </message>
+    <message>
+        <source>%1 left out: other files of the same photos are used, JPEG before RAW</source>
+        <translation>已略過 %1：採用相同相片的其他檔案，JPEG 優先於 RAW</translation>
+    </message>
+    <message>
+        <source>not opened: %1 agree</source>
+        <translation>未開啟：%1相符</translation>
+    </message>
+    <message>
+        <source>the grid</source>
+        <translation>網格</translation>
+    </message>
+    <message>
+        <source>none of its shots has a photo</source>
+        <translation>所有拍攝都沒有對應的相片</translation>
+    </message>
+    <message>
+        <source>are these the photos of this shoot?</source>
+        <translation>這些是這次拍攝的相片嗎？</translation>
+    </message>
+    <message>
+        <source>was made of other photos</source>
+        <translation>是由其他相片製作的影像</translation>
+    </message>
+    <message>
+        <source>%1 between %2</source>
+        <translation>%2之間有 %1</translation>
+    </message>
+    <message>
+        <source>; %1 without a neighbour near enough</source>
+        <translation>；其中 %1附近沒有相鄰位置</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 至 %2</translation>
+    </message>
+    <message>
+        <source>shots %1</source>
+        <translation>第 %1 次拍攝</translation>
+    </message>
+    <message>
+        <source>, exposure %1 of %2</source>
+        <translation>，第 %1 次曝光，共 %2 次</translation>
+    </message>
+    <message>
+        <source>no photo for shot %1 (yaw %2, pitch %3%4)</source>
+        <translation>第 %1 次拍攝沒有相片（偏航角 %2，俯仰角 %3%4）</translation>
+    </message>
+    <message>
+        <source>no photo for %1</source>
+        <translation>%1沒有相片</translation>
+    </message>
+    <message>
+        <source>panorama of %1 x %2 pixels: takes about %3 in %4 (%5 are free) and %6 of memory</source>
+        <translation>%1 x %2 像素的全景圖：%4 約需 %3（可用 %5），記憶體需要 %6</translation>
+    </message>
+    <message>
+        <source>the light is exact to a fraction of a percent, but where every exposure clips it or shows noise</source>
+        <translation>光線的數值誤差不到百分之一，但所有曝光都過曝或有雜訊的部分除外</translation>
+    </message>
+    <message>
+        <source>the light is good for looking at, not for measuring: the photos&apos; curve is taken for sRGB&apos;s; RAW files, or TIFFs without a curve and --linear, make it exact</source>
+        <translation>光線的數值適合觀看，不適合測量：相片的曲線以 sRGB 處理；RAW 檔案可使其準確</translation>
+    </message>
+    <message>
+        <source>is to hold what is kept of this panorama, and holds something else</source>
+        <translation>應存放這張全景圖的中間結果，但其中有其他內容</translation>
+    </message>
+    <message>
+        <source>rename it, or choose another name with -o</source>
+        <translation>請將它重新命名，或選擇其他名稱</translation>
+    </message>
+    <message>
+        <source>the project asks for another projection; the panorama becomes equirectangular</source>
+        <translation>專案指定了其他投影方式；全景圖將採用等距柱狀投影</translation>
+    </message>
+    <message>
+        <source>masks that include a region are passed over, only those that exclude one count</source>
+        <translation>包含區域的遮罩沒有作用，只有排除區域的遮罩有效</translation>
+    </message>
+    <message>
+        <source>--centre turns full turns only; this part of the sphere stays as it is</source>
+        <translation>只有完整一圈的全景圖才能變更中心；這張全景圖維持不變</translation>
+    </message>
+    <message>
+        <source>%1: cannot be read to its end; copy it from the card again, or take it again</source>
+        <translation>%1：無法完整讀取；請從記憶卡重新複製，或重新拍攝</translation>
+    </message>
+    <message>
+        <source>%1 of them are RAW files</source>
+        <translation>其中 %1 張是 RAW 檔案</translation>
+    </message>
+    <message>
+        <source>add --raw-converter dcraw, dcraw_emu, darktable-cli or rawtherapee-cli, or give JPEGs or TIFFs of them</source>
+        <translation>請安裝 dcraw、dcraw_emu、darktable-cli 或 rawtherapee-cli，或使用這些相片的 JPEG 或 TIFF 檔案</translation>
+    </message>
+    <message>
+        <source>photos stay where the head says: optimisation is skipped</source>
+        <translation>相片維持雲台記錄的位置：略過最佳化</translation>
+    </message>
+    <message>
+        <source>what was finished is kept in %1: the same command goes on from there</source>
+        <translation>已完成的部分保留在 %1 中：按「製作全景圖」可從該處繼續</translation>
+    </message>
+    <message>
+        <source>photos lie where the record puts them in these commands: nothing is aligned yet</source>
+        <translation>相片位於拍攝記錄的位置：尚未對齊</translation>
+    </message>
+    <message>
+        <source>a Hugin project cannot hold a file name with quotation marks or line ends, and no link to it can be made in %1</source>
+        <translation>Hugin 專案不支援含有引號或換行字元的檔名，而且無法在 %1 中為其建立連結</translation>
+    </message>
+    <message>
+        <source>rename the file</source>
+        <translation>請重新命名檔案</translation>
+    </message>
+    <message>
+        <source>name dcraw, dcraw_emu, darktable-cli or rawtherapee-cli, or a command with %i for the RAW file and %o for the TIFF</source>
+        <translation>請指定 dcraw、dcraw_emu、darktable-cli 或 rawtherapee-cli，或指定以 %i 代表 RAW 檔案、以 %o 代表 TIFF 的指令</translation>
+    </message>
+    <message>
+        <source>this RAW converter was not found</source>
+        <translation>找不到這個 RAW 轉換程式</translation>
+    </message>
+    <message>
+        <source>is its name right? of those known: apt install dcraw, libraw-bin, darktable or rawtherapee</source>
+        <translation>名稱是否正確？已知的有：apt install dcraw、libraw-bin、darktable 或 rawtherapee</translation>
+    </message>
+    <message>
+        <source>the camera chose the white balance of %1 RAW files one by one, and %2 follows it: their colours may differ; dcraw takes the first one&apos;s for all</source>
+        <translation>相機為 %1 個 RAW 檔案逐張選擇白平衡，而 %2 會照著處理：色彩可能不一致；dcraw 會將第一張的白平衡套用到所有相片</translation>
+    </message>
+    <message>
+        <source>this copy of a photo cannot be made</source>
+        <translation>無法建立相片的這份副本</translation>
+    </message>
+    <message>
+        <source>is the photo readable? is the disk full?</source>
+        <translation>相片是否可以讀取？磁碟是否已滿？</translation>
+    </message>
+    <message>
+        <source>, of %1</source>
+        <translation>，處理 %1 時</translation>
+    </message>
+    <message>
+        <source>it left no whole picture of %1</source>
+        <translation>沒有輸出 %1 的完整影像</translation>
+    </message>
+    <message>
+        <source>can it read this camera&apos;s files? is the disk full?</source>
+        <translation>它是否支援這台相機的檔案？磁碟是否已滿？</translation>
+    </message>
+    <message>
+        <source>names no program</source>
+        <translation>沒有指定程式</translation>
+    </message>
+    <message>
+        <source>does not say where its files go</source>
+        <translation>沒有指定檔案的輸出位置</translation>
+    </message>
+    <message>
+        <source>row %1 of column %2</source>
+        <translation>第 %2 欄第 %1 列</translation>
+    </message>
+    <message>
+        <source>the grid reaches around the sphere: overlap or rows do not fit this lens</source>
+        <translation>網格超出了一整圈：重疊或列數與這顆鏡頭不符</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n column</source>
+        <translation>
+            <numerusform>%n 欄</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file</source>
+        <translation>
+            <numerusform>%n 個檔案</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n link</source>
+        <translation>
+            <numerusform>%n 個連結</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n photo</source>
+        <translation>
+            <numerusform>%n 張相片</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n position</source>
+        <translation>
+            <numerusform>%n 個拍攝位置</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row</source>
+        <translation>
+            <numerusform>%n 列</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n shot</source>
+        <translation>
+            <numerusform>%n 次拍攝</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the description</source>
+        <translation>描述</translation>
+    </message>
+    <message>
+        <source>%1 recorded directions for %2 photos at %3 positions</source>
+        <translation>%3 個拍攝位置的 %2 張相片，只有 %1 個記錄的方向</translation>
+    </message>
+    <message>
+        <source>its direction is not a number</source>
+        <translation>其方向不是數字</translation>
+    </message>
+    <message>
+        <source>correct the record</source>
+        <translation>請更正拍攝記錄</translation>
+    </message>
+    <message>
+        <source>position %1</source>
+        <translation>拍攝位置 %1</translation>
+    </message>
+    <message>
+        <source>has no photo</source>
+        <translation>沒有相片</translation>
+    </message>
+    <message>
+        <source>holds no photos</source>
+        <translation>不含相片</translation>
+    </message>
+    <message>
+        <source>name a file that &apos;panohost import --json&apos; has written</source>
+        <translation>請選擇由本程式儲存的描述檔 (JSON)</translation>
+    </message>
+    <message>
+        <source>cannot read (not a photo?)</source>
+        <translation>無法讀取（不是相片？）</translation>
+    </message>
+    <message>
+        <source>its pixels cannot be decoded (a RAW file?)</source>
+        <translation>無法解碼其影像（RAW 檔案？）</translation>
+    </message>
+    <message>
+        <source>too large to decode</source>
+        <translation>太大，無法解碼</translation>
+    </message>
+    <message>
+        <source>give it with --focal</source>
+        <translation>請返回並輸入</translation>
+    </message>
+    <message>
+        <source>neither the record nor the photos name it</source>
+        <translation>拍攝記錄和相片都沒有記錄焦距</translation>
+    </message>
+    <message>
+        <source>no lens has %1 mm</source>
+        <translation>沒有 %1 mm 的鏡頭</translation>
+    </message>
+    <message>
+        <source>its size in pixels is not known</source>
+        <translation>其像素尺寸不明</translation>
+    </message>
+    <message>
+        <source>can another program open it? leave it out if not</source>
+        <translation>其他程式能開啟它嗎？如果不能，請移除它</translation>
+    </message>
+    <message>
+        <source>the photos have %1 different sizes in pixels</source>
+        <translation>相片有 %1 種不同的像素尺寸</translation>
+    </message>
+    <message>
+        <source>a Hugin project cannot hold a file name with quotation marks or line ends</source>
+        <translation>Hugin 專案不支援含有引號或換行字元的檔名</translation>
+    </message>
+    <message>
+        <source>%1 of %2 photos name no exposure; %3 is assumed</source>
+        <translation>%2 張相片中有 %1 張沒有記錄曝光；以 %3 處理</translation>
+    </message>
+    <message>
+        <source>larger than %1 bytes</source>
+        <translation>大於 %1 位元組</translation>
+    </message>
+    <message>
+        <source>give the name of a file</source>
+        <translation>請指定檔名</translation>
+    </message>
+    <message>
+        <source>set --plugin or PANOHOST_PLUGIN_PATH to libXPanoHead.so</source>
+        <translation>請將 PANOHOST_PLUGIN_PATH 設為 libXPanoHead.so</translation>
+    </message>
+    <message>
+        <source>no such file or folder</source>
+        <translation>檔案或資料夾不存在</translation>
+    </message>
+    <message>
+        <source>import plug-ins</source>
+        <translation>匯入外掛程式</translation>
+    </message>
+    <message>
+        <source>no plug-in library in %1</source>
+        <translation>%1 中沒有外掛程式庫</translation>
+    </message>
+    <message>
+        <source>is not a Qt plug-in library</source>
+        <translation>不是 Qt 外掛程式庫</translation>
+    </message>
+    <message>
+        <source>its interface is &apos;%1&apos;, &apos;%2&apos; is needed</source>
+        <translation>其介面為「%1」，需要「%2」</translation>
+    </message>
+    <message>
+        <source>offers no list of plug-ins</source>
+        <translation>沒有提供外掛程式清單</translation>
+    </message>
+    <message>
+        <source>holds no import plug-in</source>
+        <translation>不含匯入外掛程式</translation>
+    </message>
+    <message>
+        <source>cannot be written</source>
+        <translation>無法寫入</translation>
+    </message>
+    <message>
+        <source>is of another size than the others of its bracket</source>
+        <translation>與同組包圍曝光的其他相片尺寸不同</translation>
+    </message>
+    <message>
+        <source>is no warped light</source>
+        <translation>不是變形後的光線影像</translation>
+    </message>
+    <message>
+        <source>these photos of the project, and %1 more, are not there any more</source>
+        <translation>專案中的這些相片以及另外 %1 張已不存在</translation>
+    </message>
+    <message>
+        <source>not there any more</source>
+        <translation>已不存在</translation>
+    </message>
+    <message>
+        <source>put the photos back where they were, or import them again</source>
+        <translation>請將相片放回原處，或重新匯入</translation>
+    </message>
+    <message>
+        <source>%1 has %2 bits a colour, %3 has %4, and all must be alike to be blended</source>
+        <translation>%1 每色 %2 位元，%3 為 %4 位元，全部相同才能混合</translation>
+    </message>
+    <message>
+        <source>convert or develop them alike</source>
+        <translation>請以相同的位元數轉換或沖洗</translation>
+    </message>
+    <message>
+        <source>was not written to its end</source>
+        <translation>沒有完整寫入</translation>
+    </message>
+    <message>
+        <source>is there enough room in %1?</source>
+        <translation>%1 的空間是否足夠？</translation>
+    </message>
+    <message>
+        <source>nona, of %1</source>
+        <translation>nona，處理 %1 時</translation>
+    </message>
+    <message>
+        <source>made no picture of %1</source>
+        <translation>沒有產生 %1 的影像</translation>
+    </message>
+    <message>
+        <source>is it a photo that other programs open?</source>
+        <translation>這是其他程式能開啟的相片嗎？</translation>
+    </message>
+    <message>
+        <source>size of the panorama</source>
+        <translation>全景圖的尺寸</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels cannot be made</source>
+        <translation>無法製作 %1 x %2 像素的全景圖</translation>
+    </message>
+    <message>
+        <source>choose another --size</source>
+        <translation>請選擇其他尺寸</translation>
+    </message>
+    <message>
+        <source>the stitch needs %1 there, %2 are free</source>
+        <translation>接合在該處需要 %1，可用 %2</translation>
+    </message>
+    <message>
+        <source>make room, name another place with -o, or choose a smaller --size</source>
+        <translation>請騰出空間、選擇其他位置，或選擇較小的尺寸</translation>
+    </message>
+    <message>
+        <source>memory</source>
+        <translation>記憶體</translation>
+    </message>
+    <message>
+        <source>the stitch needs about %1, %2 are available</source>
+        <translation>接合約需 %1，可用 %2</translation>
+    </message>
+    <message>
+        <source>close other programs, or choose --jobs 1 or a smaller --size</source>
+        <translation>請關閉其他程式，或選擇較小的尺寸</translation>
+    </message>
+    <message>
+        <source>try it by itself</source>
+        <translation>請試著單獨執行它</translation>
+    </message>
+    <message>
+        <source>%1 minutes</source>
+        <translation>%1 分鐘</translation>
+    </message>
+    <message>
+        <source>it was killed, perhaps because memory ran out</source>
+        <translation>已被強制結束，可能是記憶體不足</translation>
+    </message>
+    <message>
+        <source>close other programs and try again</source>
+        <translation>請關閉其他程式後再試一次</translation>
+    </message>
+    <message>
+        <source>it crashed (signal %1)</source>
+        <translation>程式異常終止（訊號 %1）</translation>
+    </message>
+    <message>
+        <source>%1 and said: %2</source>
+        <translation>%1，訊息為：%2</translation>
+    </message>
+    <message>
+        <source> if so: %1</source>
+        <translation> 如果足夠：%1</translation>
+    </message>
+    <message>
+        <source>this program is needed for stitching and was not found</source>
+        <translation>找不到接合所需的這個程式</translation>
+    </message>
+    <message>
+        <source>cannot be started (%1)</source>
+        <translation>無法啟動（%1）</translation>
+    </message>
+    <message>
+        <source>it was stopped since it did nothing for %1</source>
+        <translation>已停止，因為 %1內沒有任何進展</translation>
+    </message>
+    <message>
+        <source>is the machine very busy, or a network drive away? try again</source>
+        <translation>電腦是否非常忙碌，或網路磁碟機是否已中斷連線？請再試一次</translation>
+    </message>
+    <message>
+        <source>it failed without a message</source>
+        <translation>執行失敗，沒有任何訊息</translation>
+    </message>
+    <message>
+        <source>it failed and said: %1</source>
+        <translation>執行失敗，訊息為：%1</translation>
+    </message>
+    <message>
+        <source>is the disk full, or a file damaged that it reads?</source>
+        <translation>磁碟是否已滿，或其讀取的檔案是否損壞？</translation>
+    </message>
+    <message>
+        <source>it failed, and there is hardly any room left on the disk at %1 (%2)</source>
+        <translation>執行失敗，%1 所在的磁碟幾乎沒有剩餘空間（%2）</translation>
+    </message>
+    <message>
+        <source>make room there and go on with the same command; nothing is lost</source>
+        <translation>請在該處騰出空間，然後再按一次「製作全景圖」；已完成的部分不會遺失</translation>
+    </message>
+    <message>
+        <source>was the disk full? remove the file and try again</source>
+        <translation>磁碟先前是否已滿？請移除該檔案後再試一次</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>無法讀取</translation>
+    </message>
+    <message>
+        <source>is no picture of 8, 16 or floating bits</source>
+        <translation>不是 8 位元、16 位元或浮點影像</translation>
+    </message>
+    <message>
+        <source>is cut off</source>
+        <translation>不完整，中途截斷</translation>
+    </message>
+    <message>
+        <source>cannot be mapped into memory</source>
+        <translation>無法對應到記憶體</translation>
+    </message>
+    <message>
+        <source>is the disk full, or the folder read-only?</source>
+        <translation>磁碟是否已滿，或資料夾是否為唯讀？</translation>
+    </message>
+    <message>
+        <source>%1, process %2 on %3</source>
+        <translation>%3 上的 %1（處理程序 %2）</translation>
+    </message>
+    <message>
+        <source>another program</source>
+        <translation>其他程式</translation>
+    </message>
+    <message>
+        <source>there is a file of that name: rename it, or choose another name with -o</source>
+        <translation>已有同名的檔案：請將它重新命名，或選擇其他名稱</translation>
+    </message>
+    <message>
+        <source>is in use by %1</source>
+        <translation>正由 %1 使用</translation>
+    </message>
+    <message>
+        <source>wait for it to end, or choose another name with -o</source>
+        <translation>請等待它結束，或選擇其他名稱</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/gui/makepage.h"
 #include "host/gui/pictureview.h"
+#include "host/gui/preferences.h"
 #include "host/stitch/workfolder.h"
 #include "tests/host/testpanoramas.h"
 #include "tests/host/testphotos.h"
@@ -109,6 +110,7 @@ private Q_SLOTS:
     void cleanup();
     void resultsGoBesideThePhotos();
     void estimateIsSaidBefore();
+    void printsAreMeasuredAsPreferred();
     void stepsAreShownAndThePictureAtTheEnd();
     void stoppedAndGoneOnWith();
     void failureSaysWhatToDoInThisWindow();
@@ -198,8 +200,27 @@ void TestGuiMake::estimateIsSaidBefore()
 {
     open();
     QTRY_COMPARE(state(),
-                 QStringLiteral("4,000 x 2,000 pixels at most; takes up to 64 MB of the disk and "
-                                "512 MB of memory."));
+                 QStringLiteral("4,000 x 2,000 pixels at most (34 x 17 cm at 300 dpi); takes up to "
+                                "64 MB of the disk and 512 MB of memory."));
+}
+
+/** 300 pixels to an inch of 2.54 cm. */
+void TestGuiMake::printsAreMeasuredAsPreferred()
+{
+    PanoHostApplication &app = *PanoHostApplication::instance();
+    const auto prefer = [&app](const char *units) {
+        Preferences box(app, nullptr);
+        auto *list = box.findChild<QComboBox *>(QStringLiteral("m_units"));
+        list->setCurrentIndex(list->findText(QLatin1String(units)));
+        QCOMPARE(list->currentText(), QLatin1String(units));
+        box.accept();
+    };
+    prefer("Inches");
+    open();
+    QTRY_VERIFY2(state().contains(QStringLiteral("(13 x 7 in at 300 dpi)")), qPrintable(state()));
+    prefer("Centimetres");
+    m_page->take(m_panorama);
+    QTRY_VERIFY2(state().contains(QStringLiteral("(34 x 17 cm at 300 dpi)")), qPrintable(state()));
 }
 
 void TestGuiMake::stepsAreShownAndThePictureAtTheEnd()
