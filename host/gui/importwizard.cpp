@@ -2,33 +2,29 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/gui/importwizard.h"
 
-#include "host/gui/aboutbox.h"
+#include "host/gui/belowpages.h"
 #include "host/gui/choicepage.h"
 #include "host/gui/filedrop.h"
+#include "host/gui/helpmenu.h"
 #include "host/gui/makepage.h"
 #include "host/gui/pagekeeper.h"
-#include "host/gui/preferences.h"
 #include "host/gui/previewguide.h"
+#include "host/gui/programicon.h"
 #include "host/gui/readingbar.h"
 #include "host/gui/recentlist.h"
-#include "host/gui/reportrunner.h"
 #include "host/gui/resultpage.h"
 #include "host/gui/shootdesk.h"
 #include "host/gui/shootstrip.h"
 #include "host/import/importjob.h"
+#include "host/model/latestjob.h"
 
 #include <QAbstractButton>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
-#include <QLayout>
 #include <QLineEdit>
-#include <QMenu>
-#include <QPushButton>
 #include <QResizeEvent>
-#include <QScreen>
 #include <QScrollArea>
-#include <QStyle>
 #include <QTabWidget>
 #include <QThread>
 #include <QTimer>
@@ -37,27 +33,11 @@
 #include <iterator>
 #include <utility>
 
-/** The linker takes only what is asked for out of this library. */
-static void initializeIcons()
-{
-    Q_INIT_RESOURCE(icons);
-}
-
 namespace PanoHost
 {
 
 namespace
 {
-
-QIcon programIcon()
-{
-    initializeIcons();
-    QIcon icon;
-    for (const char *const side : { "48", "64", "128" }) {
-        icon.addFile(QStringLiteral(":/panohost/icon-%1.png").arg(QLatin1String(side)));
-    }
-    return icon;
-}
 
 constexpr int kChoiceId = 0;
 constexpr int kFirstPluginId = 1;
@@ -101,15 +81,15 @@ ImportWizard::ImportWizard(PanoHostApplication &app, const PluginLibrary &librar
     , m_makePage(new MakePage(app, makeSteps(app)))
     , m_readingBar(new ReadingBar(this))
     , m_strip(new ShootStrip(this))
+    , m_below(new BelowPages(this, m_readingBar, m_strip))
     , m_desk(new ShootDesk(app, m_strip, this))
     , m_drop(new FileDrop(this))
-    , m_gatherer(new ReportRunner(app, this))
+    , m_gatherer(new LatestJob(this))
 {
     setWindowTitle(tr("Import a panorama"));
     setWindowIcon(programIcon());
     setWizardStyle(QWizard::ModernStyle);
     setOption(QWizard::HaveHelpButton);
-    setButtonText(QWizard::HelpButton, tr("Help")); // F1; "H" is wanted by pages
     setOption(QWizard::HaveCustomButton1);
     setButtonText(QWizard::CustomButton1, tr("&Another import"));
     setPage(kChoiceId, m_choicePage);
@@ -128,13 +108,12 @@ ImportWizard::ImportWizard(PanoHostApplication &app, const PluginLibrary &librar
             m_choicePage->choose(i);
         }
     }
-    resize(kFirstSize.boundedTo(largestSize()));
+    resize(kFirstSize.boundedTo(m_below->largestSize()));
     restoreGeometry(app.ReadSetting(settingsGroup(), geometryKey(), QByteArray()).toByteArray());
     // Photos are read on the pages' threads.
     connect(&app, &PanoHostApplication::photoRead, m_readingBar, &ReadingBar::advance,
             Qt::QueuedConnection);
     app.setTellThrown([this](const QString &why) { tellThrown(why); });
-    m_readingBar->installEventFilter(this);
     keepPages();
     setUpStrip();
     qApp->installEventFilter(this);
@@ -153,7 +132,7 @@ ImportWizard::ImportWizard(PanoHostApplication &app, const PluginLibrary &librar
     connect(this, &QWizard::currentIdChanged, this, &ImportWizard::rememberChoice);
     connect(this, &QWizard::currentIdChanged, this, &ImportWizard::enterPage);
     connect(this, &QWizard::customButtonClicked, this, &ImportWizard::importAnother);
-    setUpHelp();
+    addHelpMenu(this, app, library, [this] { return helpText(); });
 }
 
 ImportWizard::~ImportWizard()
@@ -194,8 +173,6 @@ void ImportWizard::keepPages()
 void ImportWizard::setUpStrip()
 {
     m_strip->hide();
-    connect(m_strip, &ShootStrip::heightChanged, this, &ImportWizard::makeRoom);
-    connect(m_strip, &ShootStrip::opened, this, [this](bool open) { m_wantsOpenStrip = open; });
     connect(m_drop, &FileDrop::given, this,
             QOverload<const QStringList &>::of(&ImportWizard::fillIn));
     connect(m_choicePage->recent(), &RecentList::openWanted, this,
@@ -415,11 +392,7 @@ void ImportWizard::goTo(int plugin)
 
 bool ImportWizard::eventFilter(QObject *watched, QEvent *event)
 {
-    const bool barComesOrGoes = watched == m_readingBar
-        && (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent);
-    if (barComesOrGoes || (event->type() == QEvent::LayoutRequest && watched == content())) {
-        makeRoom();
-    } else if (event->type() == QEvent::Show) {
+    if (event->type() == QEvent::Show) {
         followPhotoDialogs(watched);
     } else if (event->type() == QEvent::WindowActivate && watched == this) {
         QTimer::singleShot(0, this, &ImportWizard::fillInWaiting);
@@ -427,76 +400,10 @@ bool ImportWizard::eventFilter(QObject *watched, QEvent *event)
     return QWizard::eventFilter(watched, event);
 }
 
-/** Keeps the window large enough for what the page shows. */
-void ImportWizard::fitPages()
-{
-    // The base class asks a page for its size only when it comes to the front, but texts grow when
-    // a record is read. All of the wizard's parts lie in one widget, its buttons too.
-    if (content()->layout() != nullptr) {
-        const QSize needed
-            = content()->layout()->totalMinimumSize() + QSize(0, barHeight() + lineHeight());
-        setMinimumSize(needed.boundedTo(largestSize()));
-    }
-}
-
-/** That leaves the window on its screen, with its frame. */
-QSize ImportWizard::largestSize() const
-{
-    constexpr int kSides = 8;
-    const QSize usualFrame(
-        kSides, kSides / 2 + style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this));
-    return screen()->availableSize() - usualFrame.expandedTo(frameSize() - size());
-}
-
-int ImportWizard::barHeight() const
-{
-    return m_readingBar->isVisibleTo(this) ? m_readingBar->sizeHint().height() : 0;
-}
-
-int ImportWizard::lineHeight() const
-{
-    return m_strip->isVisibleTo(this) ? m_strip->lineHeight() : 0;
-}
-
-QWidget *ImportWizard::content() const
-{
-    return button(QWizard::CancelButton)->parentWidget();
-}
-
-/**
- * Bar and strip stand below all that the base class has laid out. Where there is no room for it
- * all, on a small screen or while the strip's rows are open, the upper end of the page is out of
- * sight: its title first, and never Next.
- */
-void ImportWizard::makeRoom()
-{
-    fitPages();
-    const int fixed = barHeight() + lineHeight();
-    const int needed
-        = content()->layout() == nullptr ? 0 : content()->layout()->totalMinimumSize().height();
-    const int free = height() - fixed - needed;
-    const int room = std::max(0, free);
-    int rows = m_strip->isVisibleTo(this) ? m_strip->rowsHeight() : 0;
-    if (!m_wantsOpenStrip) {
-        const QSignalBlocker blocker(m_strip);
-        m_strip->setOpen(m_strip->hasTrouble() && rows <= room);
-    }
-    rows = m_strip->isOpen() ? std::min(rows, height() / 2) : 0;
-    const int hidden = std::max(0, rows - free);
-    content()->setGeometry(0, -hidden, width(), height() - fixed - (rows - hidden));
-    const int bottom = height() - barHeight();
-    m_readingBar->setGeometry(0, bottom, width(), barHeight());
-    m_strip->setGeometry(0, bottom - lineHeight() - rows, width(), lineHeight() + rows);
-}
-
 void ImportWizard::resizeEvent(QResizeEvent *event)
 {
     QWizard::resizeEvent(event);
-    const bool hasGrown = minimumHeight() > largestSize().height();
-    makeRoom();
-    if (hasGrown && event->oldSize().isValid()) {
-        resize(event->oldSize().expandedTo(minimumSize())); // the page that came is too large
-    }
+    m_below->follow(*event);
 }
 
 /** Whoever shows a file dialog of the page: its photos can be read before the page asks. */
@@ -603,13 +510,13 @@ void ImportWizard::enterPage()
     if (page != nullptr && !m_held.photos.isEmpty()) {
         giveTo(std::exchange(m_held, {}));
     }
-    makeRoom();
+    m_below->makeRoom();
 }
 
 /** Neither saved nor made. */
 bool ImportWizard::isUnsaved() const
 {
-    return m_resultPage->isUnsaved() && !m_makePage->hasMade();
+    return m_resultPage->isUnsaved() && m_panorama && !m_makePage->hasMade(m_panorama.value());
 }
 
 /** Photos that are still being read have only just been chosen. */
@@ -737,23 +644,10 @@ void ImportWizard::tellThrown(const QString &why)
     });
 }
 
-void ImportWizard::setUpHelp()
-{
-    auto *menu = new QMenu(this);
-    QAction *help = menu->addAction(tr("&Help"), this, &ImportWizard::showHelp);
-    help->setShortcut(QKeySequence::HelpContents);
-    addAction(help); // the menu's own keys work while it is open only
-    menu->addAction(tr("&Preferences..."), this, [this] { Preferences(m_app, this).exec(); });
-    menu->addAction(tr("&About panohost"), this, [this] { AboutBox(m_library, this).exec(); });
-    if (auto *opener = qobject_cast<QPushButton *>(button(QWizard::HelpButton))) {
-        opener->setMenu(menu);
-    }
-}
-
-void ImportWizard::showHelp()
+QString ImportWizard::helpText() const
 {
     const bool choosing = currentId() == kChoiceId;
-    const QString text = choosing
+    return choosing
         ? tr("Choose the head that took the photos, then Next. You can also drop the head's record "
              "and the photos, or the folder that holds them, onto this window.")
         : currentId() == kMakeId
@@ -761,12 +655,11 @@ void ImportWizard::showHelp()
              "what is finished is kept, and made again it goes on from there.")
         : currentId() == kResultId
         ? tr("Next makes the panorama here. Or save the project and open it in Hugin, or save the "
-             "description as JSON. Back returns "
-             "to the import page; its photos and options are kept.")
+             "description as JSON. Back returns to the import page; its photos and options are "
+             "kept.")
         : tr("Choose the head's record and all its photos. Next is enabled when every photo has "
              "been read and their number is that of the record. Red text says what does not fit; "
              "the line below all says why, and its buttons put it right.");
-    showMessage(QMessageBox::Information, tr("Help"), text);
 }
 
 void ImportWizard::showMessage(QMessageBox::Icon icon, const QString &title, const QString &text)

@@ -12,19 +12,19 @@
 #include <QWizard>
 
 #include <functional>
-#include <optional>
 
 class QFileDialog;
 
 namespace PanoHost
 {
 
+class BelowPages;
 class ChoicePage;
 class FileDrop;
+class LatestJob;
 class MakePage;
 class PageKeeper;
 class ReadingBar;
-class ReportRunner;
 class ResultPage;
 class ShootDesk;
 class ShootStrip;
@@ -91,17 +91,10 @@ private:
     void followPhotoDialogs(QObject *watched);
     void beginReading(const QStringList &files);
     void endReading();
-    void makeRoom();
-    [[nodiscard]] QSize largestSize() const;
-    [[nodiscard]] int barHeight() const;
-    [[nodiscard]] int lineHeight() const;
-    [[nodiscard]] QWidget *content() const;
     void setUpSubtitle();
-    void fitPages();
     void rememberChoice(int id);
     void tellThrown(const QString &why);
-    void setUpHelp();
-    void showHelp();
+    [[nodiscard]] QString helpText() const;
     void showMessage(QMessageBox::Icon icon, const QString &title, const QString &text);
     [[nodiscard]] const ImportPlugin *pluginOf(int id) const;
 
@@ -114,14 +107,14 @@ private:
     Result<Panorama> m_panorama = Failure();
     ReadingBar *m_readingBar;
     ShootStrip *m_strip;
+    BelowPages *m_below;
     ShootDesk *m_desk;
     FileDrop *m_drop;
-    ReportRunner *m_gatherer; ///< looks into folders
+    LatestJob *m_gatherer; ///< looks into folders
     QVector<PageKeeper *> m_keepers; ///< one for each plug-in; null: it has no page
     GivenFiles m_held; ///< until the user chooses the head
     bool m_isTellingThrown = false;
     QStringList m_waiting; ///< to be filled in
-    std::optional<bool> m_wantsOpenStrip; ///< nothing: the user has not said
 };
 
 } // namespace PanoHost

@@ -4,11 +4,12 @@
 
 #include "host/gui/maketexts.h"
 #include "host/gui/pictureview.h"
-#include "host/gui/reportrunner.h"
+#include "host/gui/preferences.h"
 #include "host/import/proposedplace.h"
-#include "host/make/makekeys.h"
 #include "host/make/rawconverter.h"
 #include "host/model/displayname.h"
+#include "host/model/latestjob.h"
+#include "host/model/panoramajson.h"
 #include "host/stitch/panoramastitch.h"
 
 #include <QCheckBox>
@@ -47,12 +48,6 @@ template <typename Widget> Widget *named(Widget *widget, const char *name)
     return widget;
 }
 
-bool hasBrackets(const Panorama &panorama)
-{
-    return std::any_of(panorama.positions.begin(), panorama.positions.end(),
-                       [](const Position &position) { return position.photos.size() > 1; });
-}
-
 /** The first converter of those that are known that is installed here; empty: none is. */
 QString installedRawConverter()
 {
@@ -71,7 +66,7 @@ MakePage::MakePage(PanoHostApplication &app, MakeSteps steps, QWidget *parent)
     , m_app(app)
     , m_steps(std::move(steps))
     , m_runner(new MakeRunner(m_steps, this))
-    , m_estimator(new ReportRunner(app, this))
+    , m_estimator(new LatestJob(this))
 {
     setTitle(tr("Make the panorama"));
     setSubTitle(tr("Every photo is put where it belongs, and all are joined to one picture."));
@@ -206,9 +201,9 @@ QWidget *MakePage::createSettings()
 
 void MakePage::take(const Result<Panorama> &panorama)
 {
-    const QByteArray key = panorama ? importedKey(panorama.value()) : QByteArray();
-    if (key != m_key || !panorama) {
-        m_key = key;
+    const QByteArray identity = panorama ? identityOf(panorama.value()) : QByteArray();
+    if (identity != m_identity || !panorama) {
+        m_identity = identity;
         m_panorama.reset();
         m_made = {};
         m_log->clear();
@@ -237,6 +232,11 @@ void MakePage::offerSettings()
     m_output->setVisible(brackets);
     m_outputLabel->setVisible(brackets);
     m_trust->setChecked(m_panorama->description.skipOptimization);
+}
+
+bool MakePage::hasMade(const Panorama &panorama) const
+{
+    return hasMade() && identityOf(panorama) == m_identity;
 }
 
 void MakePage::cleanupPage()
@@ -318,16 +318,17 @@ void MakePage::estimate()
         return;
     }
     showState(tr("Estimating..."), false);
-    m_estimator->start([this, request = request()](const JobWatch &) -> std::function<void()> {
+    m_estimator->start([this, needsOf = m_steps.needs,
+                        request = request()](const JobWatch &) -> std::function<void()> {
         PtoOptions options;
         options.projectFolder = QFileInfo(request.picture.path).absolutePath();
         const Result<PtoFile> project = projectOf(*request.imported, options);
         StitchOptions stitch = request.picture.stitch;
         stitch.output = request.picture.output.value_or(StitchOutput::Ldr);
         const Result<StitchNeeds> needs
-            = project ? m_steps.needs(project.value(), stitch) : project.error();
+            = project ? needsOf(project.value(), stitch) : project.error();
         return [this, needs] {
-            needs ? showState(needsText(needs.value()), false)
+            needs ? showState(needsText(needs.value(), Preferences::usesInches(m_app)), false)
                   : showState(inWindow(needs.error().text()), true);
         };
     });

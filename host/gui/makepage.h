@@ -21,8 +21,8 @@ class QStackedWidget;
 namespace PanoHost
 {
 
+class LatestJob;
 class PictureView;
-class ReportRunner;
 
 /** From the panorama that a page has delivered to the finished picture. */
 class MakePage : public QWizardPage
@@ -40,8 +40,10 @@ public:
     [[nodiscard]] bool isComplete() const override { return !isRunning(); }
 
     [[nodiscard]] bool isRunning() const { return m_runner->isRunning(); }
-    /** Whether the panorama was made since the page was entered. */
+    /** What was taken last was made. */
     [[nodiscard]] bool hasMade() const { return !m_made.paths.isEmpty(); }
+    /** Whether that is \p panorama. */
+    [[nodiscard]] bool hasMade(const Panorama &panorama) const;
     /** Where it will be. */
     [[nodiscard]] QString path() const;
 
@@ -65,9 +67,9 @@ private:
     PanoHostApplication &m_app;
     MakeSteps m_steps;
     MakeRunner *m_runner;
-    ReportRunner *m_estimator;
+    LatestJob *m_estimator;
     std::optional<Panorama> m_panorama;
-    QByteArray m_key; ///< of it
+    QByteArray m_identity; ///< of it
     MadePanorama m_made;
     bool m_isStopping = false;
 

@@ -14,7 +14,6 @@
 #include "host/view/shootpanel.h"
 #include "host/view/shootview.h"
 
-#include <QCryptographicHash>
 #include <QDir>
 #include <QEventLoop>
 #include <QFileDialog>
@@ -198,14 +197,10 @@ void ResultPage::initializePage()
     recallFiles();
 }
 
-/** The same for the same description of the same photos, wherever it was saved. */
 const QByteArray &ResultPage::identity()
 {
     if (m_identity.isEmpty()) {
-        Panorama panorama = *m_panorama;
-        panorama.project.reset();
-        m_identity
-            = QCryptographicHash::hash(panoramaToJson(panorama, {}), QCryptographicHash::Sha1);
+        m_identity = identityOf(*m_panorama);
     }
     return m_identity;
 }

@@ -4,7 +4,9 @@
 
 #include "host/model/jsonfields.h"
 #include "host/model/safefile.h"
+#include "host/model/said.h"
 
+#include <QCryptographicHash>
 #include <QFileInfo>
 
 namespace PanoHost
@@ -187,6 +189,13 @@ Result<Panorama> panoramaFromJson(const QByteArray &json, const QString &folder)
     return panorama;
 }
 
+QByteArray identityOf(const Panorama &panorama)
+{
+    Panorama unsaved = panorama;
+    unsaved.project.reset();
+    return QCryptographicHash::hash(panoramaToJson(unsaved, {}), QCryptographicHash::Sha1);
+}
+
 QByteArray panoramaSchema()
 {
     return jsonSchema("https://orvane.invalid/panohost.schema.json",
@@ -201,7 +210,7 @@ QByteArray panoramaSchema()
 
 Result<Panorama> readPanoramaJson(const QString &path)
 {
-    const QString tryThis = QStringLiteral("name a file that 'panohost import --json' has written");
+    const QString tryThis = Said::tr("name a file that 'panohost import --json' has written");
     const auto content = readRegularFile(path, kMostBytes);
     if (!content) {
         Failure failure = content.error();

@@ -16,6 +16,10 @@ namespace PanoHost
  */
 [[nodiscard]] QByteArray panoramaToJson(const Panorama &panorama, const QString &folder);
 
+/** What tells \p panorama from others: the same for the same description of the same photos,
+ * whatever project was written of it. */
+[[nodiscard]] QByteArray identityOf(const Panorama &panorama);
+
 /**
  * Reads what `panoramaToJson` wrote; unknown keys are ignored. Writing the result for the same
  * folder gives the same bytes. Errors name the line or the key and carry no file name.

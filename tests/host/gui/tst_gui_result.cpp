@@ -1,22 +1,16 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "host/gui/positionstable.h"
-#include "host/gui/resultpage.h"
 #include "host/gui/savedlist.h"
 #include "host/model/photofile.h"
-#include "tests/host/gui/guibench.h"
-#include "tests/host/testpanoramas.h"
-#include "tests/host/testphotos.h"
+#include "tests/host/gui/resultbench.h"
 #include "tests/support/testprogram.h"
 
 #include <QAccessible>
-#include <QClipboard>
 #include <QComboBox>
 #include <QDesktopServices>
 #include <QDir>
 #include <QDoubleSpinBox>
 #include <QFile>
-#include <QHeaderView>
 #include <QLabel>
 #include <QProcess>
 #include <QPushButton>
@@ -26,50 +20,8 @@
 
 using namespace PanoHost;
 
-namespace
-{
-
-/** Comma-separated values read by the book: fields in quotes may hold anything, quotes doubled. */
-QVector<QStringList> readCsv(const QByteArray &bytes)
-{
-    QVector<QStringList> lines;
-    QStringList line;
-    QByteArray field;
-    bool isQuoted = false;
-    for (int i = 0; i < bytes.size(); ++i) {
-        const char c = bytes.at(i);
-        if (isQuoted) {
-            if (c != '"') {
-                field += c;
-            } else if (i + 1 < bytes.size() && bytes.at(i + 1) == '"') {
-                field += bytes.at(++i);
-            } else {
-                isQuoted = false;
-            }
-        } else if (c == '"') {
-            isQuoted = true;
-        } else if (c == ',') {
-            line += QString::fromUtf8(field);
-            field.clear();
-        } else if (c == '\r' && i + 1 < bytes.size() && bytes.at(i + 1) == '\n') {
-            ++i;
-            lines += line << QString::fromUtf8(field);
-            line.clear();
-            field.clear();
-        } else {
-            field += c;
-        }
-    }
-    if (isQuoted || !field.isEmpty() || !line.isEmpty()) {
-        qFatal("The last line has no end");
-    }
-    return lines;
-}
-
-} // namespace
-
 /** The page that shows what was delivered, and saves it. */
-class TestResult : public QObject
+class TestResult : public QObject, private ResultBench
 {
     Q_OBJECT
 
@@ -81,19 +33,12 @@ public:
     Q_SLOT void openUrl(const QUrl &url) { m_opened += url; }
 
 private Q_SLOTS:
-    void init() { m_bench = std::make_unique<GuiBench>(); }
+    void init() { openBench(); }
     void cleanup()
     {
-        m_bench.reset();
+        closeBench();
         m_opened.clear();
     }
-    void tableSortsByTheColumnClicked();
-    void tableIsSavedAsItIsSorted();
-    void tableTakesOddNames();
-    void selectedRowsAreCopied();
-    void selectedPositionsAreTold();
-    void alignmentShowsItsColumns();
-    void thousandsOfPositionsAreShown();
     void resultsGoBesideThePhotos();
     void cancelledSavingLeavesNoFolder();
     void everySavedFileIsListed();
@@ -109,202 +54,8 @@ private Q_SLOTS:
     void fitsSmallScreens();
 
 private:
-    /** To the page, with \p shots photos of a Papywizard in the folder "shoot". */
-    void showResult(int shots);
-    [[nodiscard]] ResultPage *page() const
-    {
-        return qobject_cast<ResultPage *>(m_bench->wizard().currentPage());
-    }
-    template <typename Widget> [[nodiscard]] Widget *widget(const char *name) const
-    {
-        return page()->findChild<Widget *>(QLatin1String(name));
-    }
-    [[nodiscard]] PositionsTable *table() const { return widget<PositionsTable>("m_table"); }
-    void showTable() const { widget<QTabWidget>("m_views")->setCurrentWidget(table()); }
-    void clickHeader(int column) const
-    {
-        QHeaderView *header = table()->horizontalHeader();
-        const int x = header->sectionViewportPosition(column) + header->sectionSize(column) / 2;
-        QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, { x, header->height() / 2 });
-    }
-    void click(const char *button) const
-    {
-        QTest::mouseClick(widget<QPushButton>(button), Qt::LeftButton);
-    }
-    /** A letter together with Alt, wherever the focus is. */
-    void pressAlt(Qt::Key key) const
-    {
-        m_bench->wizard().activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&m_bench->wizard()));
-        QTest::keyClick(m_bench->wizard().windowHandle(), key, Qt::AltModifier);
-        QTest::keyRelease(m_bench->wizard().windowHandle(), Qt::Key_Alt);
-    }
-    /** With the Tab key, as often as it takes. */
-    void tabTo(const QWidget *target) const
-    {
-        constexpr int kMost = 60;
-        for (int i = 0; i < kMost && m_bench->wizard().focusWidget() != target; ++i) {
-            QTest::keyClick(m_bench->wizard().focusWidget(), Qt::Key_Tab);
-        }
-        QCOMPARE(m_bench->wizard().focusWidget(), target);
-    }
-    [[nodiscard]] QStringList column(int column) const
-    {
-        QStringList texts;
-        for (int row = 0; row < table()->model()->rowCount(); ++row) {
-            texts += table()->model()->index(row, column).data().toString();
-        }
-        return texts;
-    }
-
-    std::unique_ptr<GuiBench> m_bench;
     QVector<QUrl> m_opened;
 };
-
-void TestResult::showResult(int shots)
-{
-    QStringList files;
-    for (int shot = 0; shot < shots; ++shot) {
-        files += m_bench->photo(QStringLiteral("shoot/IMG_%1.jpg").arg(shot + 1), shot);
-    }
-    files += m_bench->record(shots, "papywizard", QStringLiteral("shoot/evening.xml"));
-    m_bench->drop(files);
-    QTRY_VERIFY(m_bench->isSettled() && m_bench->isNextEnabled());
-    m_bench->press(QWizard::NextButton);
-    QVERIFY(page());
-}
-
-void TestResult::tableSortsByTheColumnClicked()
-{
-    showResult(3);
-    showTable();
-    QCOMPARE(column(PositionsModel::Number),
-             QStringList({ QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3") }));
-    QCOMPARE(
-        column(PositionsModel::Yaw),
-        QStringList({ QStringLiteral("0.00"), QStringLiteral("10.00"), QStringLiteral("20.00") }));
-    clickHeader(PositionsModel::Yaw);
-    clickHeader(PositionsModel::Yaw); // once more: falling
-    QCOMPARE(column(PositionsModel::Number),
-             QStringList({ QStringLiteral("3"), QStringLiteral("2"), QStringLiteral("1") }));
-    m_bench->picture(QStringLiteral("result-table"));
-}
-
-void TestResult::tableIsSavedAsItIsSorted()
-{
-    showResult(3);
-    showTable();
-    clickHeader(PositionsModel::Number);
-    const QString path = m_bench->path(QStringLiteral("table.csv"));
-    GuiBench::answerFileDialog(path);
-    click("m_saveTable");
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QByteArray bytes = file.readAll();
-    QVERIFY(bytes.startsWith("\xef\xbb\xbf"));
-    const QVector<QStringList> lines = readCsv(bytes.mid(3));
-    QCOMPARE(lines.size(), 4);
-    QCOMPARE(lines.at(0).value(2), QStringLiteral("yaw_deg"));
-    QCOMPARE(lines.at(1).value(0), QStringLiteral("3"));
-    QCOMPARE(lines.at(1).value(1), QStringLiteral("IMG_3.jpg"));
-    QVERIFY(qAbs(lines.at(1).value(2).toDouble() - 20.0) < 1e-4);
-    QCOMPARE(lines.at(3).value(11), QStringLiteral("2024-05-01T10:00:00"));
-    for (const QStringList &line : lines) {
-        QCOMPARE(line.size(), lines.first().size());
-    }
-}
-
-void TestResult::tableTakesOddNames()
-{
-    const QStringList names{ QStringLiteral("a,b.jpg"),  QStringLiteral("\"a\".jpg"),
-                             QStringLiteral("a\nb.jpg"), QStringLiteral("a\r\nb.jpg"),
-                             QStringLiteral("é.jpg"),    QStringLiteral("\",\".jpg") };
-    Panorama panorama;
-    for (const QString &name : names) {
-        panorama.positions
-            += TestPanoramas::positionAt(1.5, 0, { TestPanoramas::photoNamed(name) });
-    }
-    PositionsTable table;
-    table.setPanorama(panorama);
-    const QVector<QStringList> lines = readCsv(table.csv().mid(3));
-    QCOMPARE(lines.size(), names.size() + 1);
-    for (int i = 0; i < names.size(); ++i) {
-        QCOMPARE(lines.at(i + 1).value(1), names.at(i));
-        QCOMPARE(lines.at(i + 1).value(2), QStringLiteral("1.500000"));
-    }
-}
-
-void TestResult::selectedRowsAreCopied()
-{
-    showResult(3);
-    showTable();
-    table()->setFocus();
-    table()->selectRow(1);
-    QTest::keyClick(table(), Qt::Key_Down, Qt::ShiftModifier);
-    QTest::keyClick(table(), Qt::Key_C, Qt::ControlModifier);
-    QTest::keyRelease(table(), Qt::Key_Control);
-    const QStringList lines
-        = QGuiApplication::clipboard()->text().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    QCOMPARE(lines.size(), 2);
-    // Without the columns that are not shown.
-    QVERIFY2(lines.at(0).startsWith(QLatin1String("2\tIMG_2.jpg\t10.00\t0.00\t0.00\t2024-05-01 ")),
-             qPrintable(lines.at(0)));
-    QVERIFY(lines.at(1).startsWith(QLatin1String("3\tIMG_3.jpg\t20.00\t")));
-}
-
-void TestResult::selectedPositionsAreTold()
-{
-    showResult(3);
-    showTable();
-    clickHeader(PositionsModel::Number); // falling
-    QSignalSpy selected(page(), &ResultPage::positionSelected);
-    const QPoint first = table()->visualRect(table()->model()->index(0, 1)).center();
-    QTest::mouseClick(table()->viewport(), Qt::LeftButton, {}, first);
-    QCOMPARE(selected.size(), 1);
-    QCOMPARE(selected.first().first().toInt(), 2);
-    page()->selectPosition(0);
-    QCOMPARE(selected.size(), 1);
-    const QModelIndexList rows = table()->selectionModel()->selectedRows();
-    QCOMPARE(rows.size(), 1);
-    QCOMPARE(rows.first().row(), 2); // the last one, as it is sorted
-    page()->selectPosition(99);
-    QVERIFY(!table()->selectionModel()->hasSelection());
-}
-
-void TestResult::alignmentShowsItsColumns()
-{
-    showResult(3);
-    showTable();
-    QVERIFY(table()->isColumnHidden(PositionsModel::AlignedYaw));
-    QVERIFY(table()->isColumnHidden(PositionsModel::Residual));
-    Result<PtoFile> project = projectOf(*page()->panorama());
-    QVERIFY(project.ok());
-    Alignment alignment{ std::move(project).value(), {} };
-    alignment.project.place(1, { { 12.5, 0.0, 0.0 }, {} });
-    page()->setAlignment(alignment);
-    QVERIFY(!table()->isColumnHidden(PositionsModel::AlignedYaw));
-    QCOMPARE(column(PositionsModel::AlignedYaw).at(1), QStringLiteral("12.500"));
-    m_bench->picture(QStringLiteral("result-table-aligned"));
-    m_bench->press(QWizard::BackButton);
-    m_bench->press(QWizard::NextButton);
-    QVERIFY(table()->isColumnHidden(PositionsModel::AlignedYaw)); // of the delivery before
-}
-
-void TestResult::thousandsOfPositionsAreShown()
-{
-    constexpr int kMany = 10000;
-    PositionsTable table;
-    table.resize(700, 400);
-    table.setPanorama(TestPanoramas::row(kMany));
-    table.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&table));
-    table.sortByColumn(PositionsModel::Yaw, Qt::DescendingOrder);
-    QCOMPARE(table.model()->index(0, PositionsModel::Number).data().toInt(), kMany);
-    table.selectPosition(4321);
-    const QModelIndex current = table.currentIndex();
-    QCOMPARE(current.siblingAtColumn(PositionsModel::Number).data().toInt(), 4322);
-    QVERIFY(table.viewport()->rect().contains(table.visualRect(current).center()));
-}
 
 void TestResult::resultsGoBesideThePhotos()
 {

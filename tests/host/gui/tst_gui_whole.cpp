@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/gui/makepage.h"
 #include "host/gui/positionsmodel.h"
-#include "importers/headfacts.h"
-#include "tests/host/align/support/shootlist.h"
+#include "host/import/dialogcatcher.h"
 #include "tests/host/gui/guibench.h"
-#include "tests/host/testphotos.h"
+#include "tests/host/gui/tinyshoot.h"
 #include "tests/support/testprogram.h"
 
 #include <QDir>
@@ -23,32 +22,14 @@ class TestGuiWhole : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void dropToPanoramaIsFourSteps();
-
-private:
-    /** Photos and record of a small shoot in the folder \p folder. */
-    static void shoot(const QString &folder);
+    void nextShootIsAnotherPanorama();
 };
-
-void TestGuiWhole::shoot(const QString &folder)
-{
-    const TestShoots::TestShoot shoot = TestShoots::tiny();
-    QVERIFY(TestShoots::photographed(shoot, folder));
-    PanoHead::NotedShoot noted;
-    for (const Pose &pose : TestShoots::recordedAngles(shoot)) {
-        PanoHead::NotedShot shot;
-        shot.yawDegrees = pose.yawDegrees;
-        shot.pitchDegrees = pose.pitchDegrees;
-        noted.shots += shot;
-    }
-    const PanoHead::HeadFacts &head = *PanoHead::headFactsOf(QStringLiteral("papywizard"));
-    TestPhotos::writeFile(folder + QStringLiteral("/record.xml"), head.write(noted));
-}
 
 void TestGuiWhole::dropToPanoramaIsFourSteps()
 {
     GuiBench bench;
     const QString folder = bench.path(QStringLiteral("shoot"));
-    shoot(folder);
+    photographTinyShoot(folder);
     bench.drop({ folder }); // 1
     QTRY_VERIFY(bench.isNextEnabled());
     QTRY_VERIFY(bench.isSettled());
@@ -91,6 +72,34 @@ void TestGuiWhole::dropToPanoramaIsFourSteps()
     // No question: the panorama is there.
     bench.press(QWizard::FinishButton);
     QVERIFY(!bench.wizard().isVisible());
+}
+
+/** What was made of the shoot before saves nothing of this one. */
+void TestGuiWhole::nextShootIsAnotherPanorama()
+{
+    GuiBench bench;
+    const auto import = [&bench](const QStringList &files, int positions) {
+        bench.drop(files);
+        QTRY_VERIFY(bench.isSettled() && bench.isNextEnabled());
+        bench.press(QWizard::NextButton);
+        QTRY_COMPARE(bench.result().size(), positions);
+    };
+    const QString folder = bench.path(QStringLiteral("shoot"));
+    photographTinyShoot(folder);
+    import({ folder }, 6);
+    bench.press(QWizard::NextButton);
+    const auto *page = bench.wizard().findChild<MakePage *>();
+    QTest::mouseClick(page->findChild<QPushButton *>(QStringLiteral("m_make")), Qt::LeftButton);
+    QTRY_VERIFY_WITH_TIMEOUT(page->hasMade(), 600'000);
+    const auto questionsOf = [&bench](QWizard::WizardButton button) {
+        DialogCatcher escape; // answers boxes by Esc
+        bench.press(button);
+        return escape.takeMessages().size();
+    };
+    QCOMPARE(questionsOf(QWizard::CustomButton1), 0);
+    import(QStringList(bench.record(3)) + bench.photos(0, 2), 3);
+    QCOMPARE(questionsOf(QWizard::CancelButton), 1);
+    QVERIFY(bench.wizard().isVisible());
 }
 
 TEST_CLASS(TestGuiWhole, PanoHostApplication)
