@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "tests/host/gui/guibench.h"
 
+#include "host/dev/darkpalette.h"
 #include "host/gui/resultpage.h"
 #include "importers/headfacts.h"
 #include "tests/host/testphotos.h"
@@ -57,11 +58,7 @@ GuiBench::GuiBench(const QSize &size)
     : m_size(size)
 {
     if (qEnvironmentVariableIsSet("PANOHOST_WINDOW_DARK")) {
-        QPalette dark(QColor(45, 45, 48));
-        dark.setColor(QPalette::Base, QColor(30, 30, 32));
-        dark.setColor(QPalette::Highlight, QColor(40, 100, 160));
-        dark.setColor(QPalette::HighlightedText, Qt::white);
-        QApplication::setPalette(dark);
+        QApplication::setPalette(darkPalette());
     }
     PanoHostApplication::instance()->setSettingsFile(path(QStringLiteral("s.ini")));
     reopen();

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "host/dev/darkpalette.h"
 #include "host/gui/makepage.h"
 #include "host/model/photofile.h"
 #include "tests/host/gui/guibench.h"
@@ -37,17 +38,6 @@ double contrast(const QColor &a, const QColor &b)
     const double lighter = std::max(luminance(a), luminance(b));
     const double darker = std::min(luminance(a), luminance(b));
     return (lighter + 0.05) / (darker + 0.05);
-}
-
-QPalette darkPalette()
-{
-    const QColor window(0x2b, 0x2e, 0x31);
-    QPalette palette(window, window);
-    for (const auto role : { QPalette::WindowText, QPalette::Text, QPalette::ButtonText }) {
-        palette.setColor(role, QColor(0xec, 0xec, 0xec));
-    }
-    palette.setColor(QPalette::Base, QColor(0x1d, 0x1f, 0x21));
-    return palette;
 }
 
 } // namespace
