@@ -226,6 +226,15 @@ QString GuiBench::text(const char *row) const
     return this->row(row).text;
 }
 
+void GuiBench::openStrip() const
+{
+    if (!strip().isOpen()) {
+        auto *opener = strip().findChild<QAbstractButton *>(QStringLiteral("m_stripOpener"));
+        QTest::mouseClick(opener, Qt::LeftButton);
+    }
+    QVERIFY(strip().isOpen());
+}
+
 bool GuiBench::isSettled() const
 {
     const auto *page = m_wizard->currentPage();

@@ -55,6 +55,8 @@ public:
     [[nodiscard]] QAbstractButton *button(const char *row, PanoHost::StripAction action) const;
 
     [[nodiscard]] PanoHost::ShootStrip &strip() const;
+    /** With the mouse, unless it is open. */
+    void openStrip() const;
     /** The text of a row; null: there is no such row. */
     [[nodiscard]] QString text(const char *row) const;
     [[nodiscard]] PanoHost::StripRow row(const char *row) const;

@@ -124,7 +124,7 @@ void TestAccess::everythingHasANameAndCanBeRead()
         look("choice");
         bench.drop(QStringList(bench.record(4, head.constData())) + bench.photos(0, 3));
         QTRY_VERIFY(bench.isSettled() && bench.isNextEnabled());
-        bench.strip().setOpen(true);
+        bench.openStrip();
         look("import");
         bench.press(QWizard::NextButton);
         QTRY_COMPARE(bench.result().size(), 4);

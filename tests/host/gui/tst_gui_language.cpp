@@ -3,6 +3,8 @@
 #include "host/gui/elidedlabel.h"
 #include "host/gui/windowtexts.h"
 #include "tests/host/gui/guibench.h"
+#include "tests/host/gui/pseudolanguage.h"
+#include "tests/host/testphotos.h"
 #include "tests/support/testprogram.h"
 
 #include <QAbstractItemView>
@@ -13,7 +15,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QRegularExpression>
 #include <QTabBar>
 #include <QTranslator>
 #include <QtTest>
@@ -22,48 +23,6 @@ using namespace PanoHost;
 
 namespace
 {
-
-const QChar kBegin(0x27e6); // brackets that no text of ours holds
-const QChar kEnd(0x27e7);
-
-/** A language in which every text is a third longer, and known by its brackets. */
-class PseudoLanguage : public QTranslator
-{
-public:
-    PseudoLanguage()
-        : QTranslator(qApp)
-    {
-    }
-    [[nodiscard]] bool isEmpty() const override { return false; }
-    [[nodiscard]] QString translate(const char *, const char *source, const char *,
-                                    int) const override
-    {
-        const QString text = QString::fromUtf8(source);
-        return kBegin + text + QString(text.size() / 3, QLatin1Char('~')) + kEnd;
-    }
-};
-
-/** What is left of \p text without what is translated, names of files and heads, and numbers. */
-QString untranslated(QString text)
-{
-    static const QRegularExpression kTag(QStringLiteral("<[^>]*>"));
-    text.remove(kTag);
-    // Translated texts may hold others.
-    static const QRegularExpression kTranslated(QStringLiteral("\u27e6[^\u27e6\u27e7]*\u27e7"));
-    while (text.contains(kTranslated)) {
-        text.replace(kTranslated, QString());
-    }
-    static const QRegularExpression kFile(
-        QStringLiteral("[^\\s]*(/|\\.(jpg|xml|txt|html|pto))[^\\s]*"));
-    text.remove(kFile);
-    for (const char *name :
-         { "Papywizard", "VR Drive 2", "Clauss", "Gigapan", "XML", "EXIF", "panohost", "Hugin",
-           "Merlin", "mm", "JSON", "CSV", "IMG_", "shoot" }) {
-        text.remove(QLatin1String(name));
-    }
-    static const QRegularExpression kNoLetters(QStringLiteral("[^\\p{L}]+"));
-    return text.replace(kNoLetters, QStringLiteral(" ")).trimmed();
-}
 
 struct ShownText {
     QString where;
@@ -81,6 +40,10 @@ QVector<ShownText> textsOf(const QWidget &window)
         const QString where = QString::fromLatin1(widget->metaObject()->className())
             + QLatin1Char(' ') + widget->objectName();
         const auto add = [&](const QString &text) { texts.append({ where, text }); };
+        if (qobject_cast<const ElidedLabel *>(widget) != nullptr) {
+            add(widget->accessibleName()); // all of it
+            continue;
+        }
         if (const auto *label = qobject_cast<const QLabel *>(widget)) {
             add(label->text());
         } else if (const auto *button = qobject_cast<const QAbstractButton *>(widget)) {
@@ -186,8 +149,20 @@ void TestLanguage::everyPageIsTranslated()
     const QString record = bench.record(4, head.constData());
     bench.drop(QStringList(record) + bench.photos(0, 3));
     QTRY_VERIFY(bench.isSettled());
-    bench.strip().setOpen(true);
+    bench.openStrip();
     look("import");
+    // What is said where something is wrong.
+    bench.drop(
+        { bench.photo(QStringLiteral("IMG_0003.jpg"), 2, 0, false), bench.photos(0, 0).first() });
+    QTRY_VERIFY(bench.isSettled());
+    bench.openStrip();
+    look("missing");
+    TestPhotos::writeFile(bench.path(QStringLiteral("IMG_0002.jpg")), "no photo");
+    bench.drop(bench.photos(0, 0) << bench.path(QStringLiteral("IMG_0002.jpg")));
+    QTRY_VERIFY(bench.isSettled());
+    look("unreadable");
+    bench.drop(bench.photos(0, 3));
+    QTRY_VERIFY(bench.isSettled());
     QTRY_VERIFY(bench.isNextEnabled());
     bench.press(QWizard::NextButton);
     QTRY_COMPARE(bench.result().size(), 4);

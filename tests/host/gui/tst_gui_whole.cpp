@@ -4,12 +4,14 @@
 #include "host/gui/positionsmodel.h"
 #include "host/import/dialogcatcher.h"
 #include "tests/host/gui/guibench.h"
+#include "tests/host/gui/pseudolanguage.h"
 #include "tests/host/gui/tinyshoot.h"
 #include "tests/support/testprogram.h"
 
 #include <QDir>
 #include <QImageReader>
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTableView>
 #include <QtTest>
@@ -23,6 +25,7 @@ class TestGuiWhole : public QObject
 private Q_SLOTS:
     void dropToPanoramaIsFourSteps();
     void nextShootIsAnotherPanorama();
+    void otherLanguagesMakeTheSame();
 };
 
 void TestGuiWhole::dropToPanoramaIsFourSteps()
@@ -100,6 +103,44 @@ void TestGuiWhole::nextShootIsAnotherPanorama()
     import(QStringList(bench.record(3)) + bench.photos(0, 2), 3);
     QCOMPARE(questionsOf(QWizard::CancelButton), 1);
     QVERIFY(bench.wizard().isVisible());
+}
+
+/** Nothing that is said is also a file's name, and nothing of it stays English. */
+void TestGuiWhole::otherLanguagesMakeTheSame()
+{
+    GuiBench bench;
+    const QString folder = bench.path(QStringLiteral("shoot"));
+    photographTinyShoot(folder);
+    PseudoLanguage language; // goes, and takes itself out
+    QVERIFY(QCoreApplication::installTranslator(&language));
+    bench.reopen();
+    bench.drop({ folder });
+    QTRY_VERIFY(bench.isSettled() && bench.isNextEnabled());
+    bench.press(QWizard::NextButton);
+    QTRY_COMPARE(bench.result().size(), 6);
+    bench.press(QWizard::NextButton);
+    const auto *page = bench.wizard().findChild<MakePage *>();
+    const auto *state = page->findChild<QLabel *>(QStringLiteral("m_makeState"));
+    QStringList english;
+    const auto note = [&english](const QString &text) {
+        const QString left = untranslated(text);
+        if (!left.isEmpty()) {
+            english += left;
+        }
+    };
+    QTest::mouseClick(page->findChild<QPushButton *>(QStringLiteral("m_make")), Qt::LeftButton);
+    QVERIFY(page->isRunning());
+    while (page->isRunning()) {
+        note(state->text());
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    QVERIFY2(page->hasMade(), qPrintable(state->text()));
+    note(state->text());
+    note(page->findChild<QPlainTextEdit *>(QStringLiteral("m_makeLog"))->toPlainText());
+    english.removeDuplicates();
+    QVERIFY2(english.isEmpty(), qPrintable(english.join(QLatin1Char('\n'))));
+    QVERIFY(QFileInfo(page->path()).size() > 10'000);
+    QVERIFY(QFile::exists(bench.path(QStringLiteral("shoot panorama/record.html"))));
 }
 
 TEST_CLASS(TestGuiWhole, PanoHostApplication)
