@@ -92,8 +92,9 @@ QString needsText(const StitchNeeds &needs, bool inInches)
     constexpr double kInchCentimetres = 2.54;
     const QLocale locale;
     const auto printed = [&](int pixels) {
-        const double inches = pixels / kPixelsPerInch;
-        return locale.toString(qRound(inInches ? inches : inches * kInchCentimetres));
+        const double length = pixels / kPixelsPerInch * (inInches ? 1.0 : kInchCentimetres);
+        constexpr double kLong = 10.0;
+        return locale.toString(length, 'f', length < kLong ? 1 : 0);
     };
     const QSize picture = needs.picture;
     const QString print

@@ -82,6 +82,15 @@ QStringList clippedIn(const QWidget &window)
         const bool isText = (label != nullptr && !label->text().isEmpty() && !label->wordWrap()
                              && qobject_cast<const ElidedLabel *>(label) == nullptr)
             || qobject_cast<const QAbstractButton *>(widget) != nullptr;
+        // A wrapped text is as high as its width makes it.
+        const bool isLow = label != nullptr && label->wordWrap() && label->isVisible()
+            && label->height() < label->heightForWidth(label->width());
+        if (isLow) {
+            clipped += QStringLiteral("%1: %2 of %3 pixels high")
+                           .arg(label->objectName())
+                           .arg(label->height())
+                           .arg(label->heightForWidth(label->width()));
+        }
         const bool isShown = widget->isVisible() && !widget->visibleRegion().isEmpty();
         if (isText && isShown && widget->width() < widget->minimumSizeHint().width()) {
             clipped
@@ -92,6 +101,14 @@ QStringList clippedIn(const QWidget &window)
         }
     }
     return clipped;
+}
+
+/** Until the page that makes says what it takes. */
+void waitForEstimate(const GuiBench &bench)
+{
+    const auto *state
+        = bench.wizard().currentPage()->findChild<QLabel *>(QStringLiteral("m_makeState"));
+    QTRY_VERIFY2(state->text().contains(QStringLiteral(" MB")), qPrintable(state->text()));
 }
 
 } // namespace
@@ -172,6 +189,7 @@ void TestLanguage::everyPageIsTranslated()
         look("positions");
     }
     bench.press(QWizard::NextButton);
+    waitForEstimate(bench);
     look("make");
     english.removeDuplicates();
     QVERIFY2(english.isEmpty(), qPrintable(QLatin1Char('\n') + english.join(QLatin1Char('\n'))));
@@ -221,6 +239,7 @@ void TestLanguage::everyLanguageFits()
     QTRY_COMPARE(bench.result().size(), 4);
     look("result");
     bench.press(QWizard::NextButton);
+    waitForEstimate(bench);
     look("make");
     QVERIFY2(wrong.isEmpty(), qPrintable(QLatin1Char('\n') + wrong.join(QLatin1Char('\n'))));
 }

@@ -217,7 +217,7 @@ void TestGuiMake::printsAreMeasuredAsPreferred()
     };
     prefer("Inches");
     open();
-    QTRY_VERIFY2(state().contains(QStringLiteral("(13 x 7 in at 300 dpi)")), qPrintable(state()));
+    QTRY_VERIFY2(state().contains(QStringLiteral("(13 x 6.7 in at 300 dpi)")), qPrintable(state()));
     prefer("Centimetres");
     m_page->take(m_panorama);
     QTRY_VERIFY2(state().contains(QStringLiteral("(34 x 17 cm at 300 dpi)")), qPrintable(state()));
