@@ -19,7 +19,7 @@ struct PlacedLens {
 
 } // namespace
 
-std::vector<std::optional<double>> photoResiduals(const PtoFile &project)
+PhotoResiduals photoResiduals(const PtoFile &project)
 {
     std::vector<PlacedLens> placed;
     for (const PtoImage &image : project.images()) {

@@ -10,8 +10,11 @@
 namespace PanoHost
 {
 
+/** Pixels, one per image; nothing: it is not known. */
+using PhotoResiduals = std::vector<std::optional<double>>;
+
 /** How far the control points of each image of \p project land from their matches, as the project
  * places the images now: the median in pixels. Nothing for images without right points. */
-[[nodiscard]] std::vector<std::optional<double>> photoResiduals(const PtoFile &project);
+[[nodiscard]] PhotoResiduals photoResiduals(const PtoFile &project);
 
 } // namespace PanoHost

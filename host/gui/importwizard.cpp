@@ -119,7 +119,7 @@ ImportWizard::ImportWizard(PanoHostApplication &app, const PluginLibrary &librar
     qApp->installEventFilter(this);
     connect(m_makePage, &MakePage::made, this, [this](const MadePanorama &made) {
         if (made.alignment) {
-            m_resultPage->setAlignment(*made.alignment);
+            m_resultPage->setAlignment(*made.alignment, made.residuals);
         }
     });
     connect(this, &QWizard::currentIdChanged, this, &ImportWizard::setUpSubtitle);

@@ -142,8 +142,9 @@ Result<MadePanorama> MakeRunner::make(const MakeRequest &request)
         const bool isAligned = !request.imported->description.skipOptimization;
         const QString project = work.filePath(isAligned ? QStringLiteral("2_aligned.pto")
                                                         : QStringLiteral("1_import.pto"));
-        return MadePanorama{ made.value(), project, shownPicture(made.value().value(0)),
-                             isAligned ? alignmentIn(work) : nullptr };
+        const auto alignment = isAligned ? alignmentIn(work) : nullptr;
+        return MadePanorama{ made.value(), project, shownPicture(made.value().value(0)), alignment,
+                             alignment ? photoResiduals(alignment->project) : PhotoResiduals() };
     } catch (const std::bad_alloc &) {
         return Failure{ ExitCode::ToolFailed,
                         tr("Not enough memory"),

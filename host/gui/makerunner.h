@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "host/align/photoresiduals.h"
 #include "host/make/makejob.h"
 #include "host/model/pace.h"
 
@@ -23,6 +24,7 @@ struct MadePanorama {
     QString project; ///< by which it was stitched; Hugin can open it
     QImage picture; ///< null: it cannot be shown
     std::shared_ptr<const Alignment> alignment; ///< null: the head was trusted
+    PhotoResiduals residuals; ///< of its project
 };
 
 /** Makes panoramas on a thread of its own, one at a time. Nothing of it blocks. */

@@ -1,9 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/gui/positionsmodel.h"
-
-#include "host/align/photoresiduals.h"
-
 #include <QFileInfo>
 #include <QHash>
 
@@ -87,7 +84,7 @@ void PositionsModel::setPanorama(const Panorama &panorama)
     endResetModel();
 }
 
-void PositionsModel::setAlignment(const Alignment &alignment)
+void PositionsModel::setAlignment(const Alignment &alignment, const PhotoResiduals &residuals)
 {
     QHash<QString, Row *> rowOf;
     for (Row &row : m_rows) {
@@ -96,7 +93,6 @@ void PositionsModel::setAlignment(const Alignment &alignment)
             row.numbers[column].reset();
         }
     }
-    const std::vector<std::optional<double>> residuals = photoResiduals(alignment.project);
     const QVector<PtoImage> &images = alignment.project.images();
     for (int i = 0; i < images.size(); ++i) {
         if (Row *const row = rowOf.value(images.at(i).path)) {

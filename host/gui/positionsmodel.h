@@ -3,6 +3,7 @@
 #pragma once
 
 #include "host/align/alignment.h"
+#include "host/align/photoresiduals.h"
 #include "host/model/panorama.h"
 
 #include <QAbstractTableModel>
@@ -45,7 +46,7 @@ public:
     /** In place of what was shown; of this one no alignment is known. */
     void setPanorama(const Panorama &panorama);
     /** Of the panorama shown. Positions that it does not name stay without. */
-    void setAlignment(const Alignment &alignment);
+    void setAlignment(const Alignment &alignment, const PhotoResiduals &residuals);
     [[nodiscard]] bool isAligned() const { return m_isAligned; }
     /** Whether only an alignment fills \p column. */
     [[nodiscard]] static bool isOfAlignment(int column);

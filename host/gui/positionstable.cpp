@@ -47,9 +47,9 @@ void PositionsTable::setPanorama(const Panorama &panorama)
     fitColumns();
 }
 
-void PositionsTable::setAlignment(const Alignment &alignment)
+void PositionsTable::setAlignment(const Alignment &alignment, const PhotoResiduals &residuals)
 {
-    m_positions->setAlignment(alignment);
+    m_positions->setAlignment(alignment, residuals);
     fitColumns();
 }
 

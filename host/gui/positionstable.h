@@ -20,7 +20,7 @@ public:
 
     void setPanorama(const Panorama &panorama);
     /** Shows the columns that only an alignment fills. */
-    void setAlignment(const Alignment &alignment);
+    void setAlignment(const Alignment &alignment, const PhotoResiduals &residuals);
 
     /** Selects \p position, counted from 0, and scrolls to it; none, when there is no such. */
     void selectPosition(int position);

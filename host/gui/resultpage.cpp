@@ -345,9 +345,9 @@ bool ResultPage::saveTable(const QString &path)
     return written.ok();
 }
 
-void ResultPage::setAlignment(const Alignment &alignment)
+void ResultPage::setAlignment(const Alignment &alignment, const PhotoResiduals &residuals)
 {
-    m_table->setAlignment(alignment);
+    m_table->setAlignment(alignment, residuals);
     m_picture->showAligned(alignment.project);
 }
 

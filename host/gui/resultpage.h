@@ -3,6 +3,7 @@
 #pragma once
 
 #include "host/align/alignment.h"
+#include "host/align/photoresiduals.h"
 #include "host/model/panorama.h"
 #include "host/plugin/panohostapplication.h"
 
@@ -49,8 +50,9 @@ public:
     bool saveJson(const QString &path);
     bool saveTable(const QString &path);
 
-    /** Where an alignment of this panorama has put the photos; until then it is not known. */
-    void setAlignment(const Alignment &alignment);
+    /** Where an alignment of this panorama has put the photos, and how well; until then it is not
+     * known. */
+    void setAlignment(const Alignment &alignment, const PhotoResiduals &residuals);
     /** Shows \p position, counted from 0, as selected. */
     void selectPosition(int position);
 

@@ -317,7 +317,7 @@ ShootScene sceneOf(const PtoFile &project)
 {
     ShootScene scene;
     scene.isAligned = true;
-    const std::vector<std::optional<double>> residuals = photoResiduals(project);
+    const PhotoResiduals residuals = photoResiduals(project);
     const QVector<PtoImage> &images = project.images();
     std::vector<int> frameOf(static_cast<size_t>(images.size()), -1);
     scene.photoCount = images.size();

@@ -87,7 +87,7 @@ void TestGuiPicture::alignedPhotosTellHowWellTheyFit()
     Alignment alignment{ projectOf(*page()->panorama()).value(), {} };
     alignment.project.place(2, { { 21.0, 0.0, 0.0 }, {} });
     alignment.project.setPoints({ { 0, 1, 40.0, 20.0, 30.0, 20.0 } });
-    page()->setAlignment(alignment);
+    page()->setAlignment(alignment, photoResiduals(alignment.project));
     QVERIFY(view().scene().isAligned);
     QCOMPARE(view().scene().frames.at(2).angles.yaw, 21.0);
     QVERIFY(view().textOf(0).contains(QStringLiteral("pixels")));

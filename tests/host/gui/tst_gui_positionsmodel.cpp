@@ -34,6 +34,10 @@ private:
         link.indices = { from, to };
         panorama.description.authorizedLinks += link;
     }
+    static void setAlignment(Model &model, const Alignment &alignment)
+    {
+        model.setAlignment(alignment, photoResiduals(alignment.project));
+    }
     /** Photo 1 has come to stand where photo 0 stands. */
     static Alignment alignmentOf(const Panorama &panorama)
     {
@@ -122,7 +126,7 @@ void TestPositionsModel::alignmentFillsItsColumns()
     Model model;
     model.setPanorama(panorama);
     QSignalSpy changed(&model, &Model::dataChanged);
-    model.setAlignment(alignmentOf(panorama));
+    setAlignment(model, alignmentOf(panorama));
     QVERIFY(model.isAligned());
     QCOMPARE(changed.size(), 1);
     QCOMPARE(text(model, 1, Model::Yaw), QStringLiteral("120.00")); // as it was
@@ -143,13 +147,13 @@ void TestPositionsModel::anotherPanoramaForgetsTheAlignment()
     const Panorama panorama = TestPanoramas::row(3);
     Model model;
     model.setPanorama(panorama);
-    model.setAlignment(alignmentOf(panorama));
+    setAlignment(model, alignmentOf(panorama));
     model.setPanorama(panorama);
     QVERIFY(!model.isAligned());
     QCOMPARE(text(model, 0, Model::AlignedYaw), QString());
     model.setPanorama(Panorama());
     QCOMPARE(model.rowCount(), 0);
-    model.setAlignment(alignmentOf(panorama)); // of a panorama that is not shown
+    setAlignment(model, alignmentOf(panorama)); // of a panorama that is not shown
 }
 
 void TestPositionsModel::exportIsTheSameEverywhere()

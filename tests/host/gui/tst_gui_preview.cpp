@@ -111,6 +111,12 @@ void TestPreview::wheelZoomsAndDoubleClickFits()
     QVERIFY(shown.width() <= room.width() && shown.height() <= room.height());
     QVERIFY(shown.width() * more >= room.width() - 1 || shown.height() * more >= room.height() - 1);
     m_bench->picture(QStringLiteral("preview-fit"));
+    // Where nothing is shown, nothing is scrolled.
+    zoom()->setValue(100);
+    QTRY_VERIFY(area()->horizontalScrollBar()->isVisible());
+    QTest::mouseClick(page()->findChild<QWidget *>(QStringLiteral("m_pbReset")), Qt::LeftButton);
+    QTRY_VERIFY(!area()->horizontalScrollBar()->isVisible());
+    QVERIFY(!area()->verticalScrollBar()->isVisible());
 }
 
 TEST_CLASS(TestPreview, PanoHostApplication)

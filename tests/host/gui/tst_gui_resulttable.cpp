@@ -181,7 +181,7 @@ void TestResultTable::alignmentShowsItsColumns()
     QVERIFY(project.ok());
     Alignment alignment{ std::move(project).value(), {} };
     alignment.project.place(1, { { 12.5, 0.0, 0.0 }, {} });
-    page()->setAlignment(alignment);
+    page()->setAlignment(alignment, photoResiduals(alignment.project));
     QVERIFY(!table()->isColumnHidden(PositionsModel::AlignedYaw));
     QCOMPARE(column(PositionsModel::AlignedYaw).at(1), QStringLiteral("12.500"));
     m_bench->picture(QStringLiteral("result-table-aligned"));
