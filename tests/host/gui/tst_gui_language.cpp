@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Orvane
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/gui/elidedlabel.h"
+#include "host/gui/preferences.h"
 #include "host/gui/windowtexts.h"
 #include "tests/host/gui/guibench.h"
 #include "tests/host/gui/pseudolanguage.h"
@@ -136,7 +137,7 @@ void TestLanguage::cleanup()
 void TestLanguage::everyPageIsTranslated_data()
 {
     QTest::addColumn<QByteArray>("head");
-    for (const char *head : { "papywizard", "vrdrive2", "clauss" }) {
+    for (const char *head : { "papywizard", "vrdrive2", "clauss", "gigapan" }) {
         QTest::newRow(head) << QByteArray(head);
     }
 }
@@ -163,8 +164,12 @@ void TestLanguage::everyPageIsTranslated()
         }
     };
     look("choice");
-    const QString record = bench.record(4, head.constData());
-    bench.drop(QStringList(record) + bench.photos(0, 3));
+    if (head == "gigapan") {
+        bench.choose("Gigapan");
+        bench.drop(bench.photos(0, 3));
+    } else {
+        bench.drop(QStringList(bench.record(4, head.constData())) + bench.photos(0, 3));
+    }
     QTRY_VERIFY(bench.isSettled());
     bench.openStrip();
     look("import");
@@ -241,6 +246,12 @@ void TestLanguage::everyLanguageFits()
     bench.press(QWizard::NextButton);
     waitForEstimate(bench);
     look("make");
+    Preferences preferences(*PanoHostApplication::instance(), &bench.wizard());
+    preferences.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&preferences));
+    for (const QString &text : clippedIn(preferences)) {
+        wrong += QStringLiteral("preferences: ") + text;
+    }
     QVERIFY2(wrong.isEmpty(), qPrintable(QLatin1Char('\n') + wrong.join(QLatin1Char('\n'))));
 }
 
