@@ -3,7 +3,6 @@
 #include "host/make/makejob.h"
 
 #include "host/deliver/outputname.h"
-#include "host/import/importjob.h"
 #include "host/import/inputcheck.h"
 #include "host/make/damagedphotos.h"
 #include "host/make/makekeys.h"
@@ -16,7 +15,6 @@
 #include "host/model/canvas.h"
 #include "host/model/displayname.h"
 #include "host/model/panoramajson.h"
-#include "host/model/photofile.h"
 #include "host/model/ptoproject.h"
 #include "host/model/safefile.h"
 #include "host/model/said.h"
