@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
+#include <QStaticText>
 #include <QtTest>
 
 #include <algorithm>
@@ -82,18 +83,27 @@ Outcome runApart(const std::function<void()> &work)
     return outcome;
 }
 
-/** Work like that of a page with much to show, written down plainly. */
+/** Work like that of a page with much to show, written down plainly: outlines, and captions that
+ * are broken into lines. */
 void plainWork()
 {
-    QImage image(2000, 1000, QImage::Format_ARGB32_Premultiplied);
+    QImage image(4000, 2000, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::white);
     QPainter painter(&image);
-    constexpr int kNumbers = 100000;
-    for (int i = 0; i < kNumbers; ++i) {
-        painter.drawText(i * 37 % image.width(), i * 17 % image.height(), QString::number(i));
+    constexpr int kCells = 30000;
+    constexpr int kSide = 96;
+    for (int i = 0; i < kCells; ++i) {
+        const QPoint place(i * 37 % (image.width() - kSide), i * 17 % (image.height() - kSide));
+        QStaticText text(QStringLiteral("%1 (%2,%3)").arg(i).arg(i % 360).arg(i % 90));
+        text.setTextFormat(Qt::PlainText);
+        text.setTextWidth(kSide);
+        text.prepare({}, painter.font());
+        painter.fillRect(QRect(place, QSize(kSide, 1)), Qt::black);
+        painter.fillRect(QRect(place, QSize(1, kSide)), Qt::black);
+        painter.drawStaticText(place, text);
     }
 }
-constexpr double kUsualPlainSeconds = 0.5;
+constexpr double kUsualPlainSeconds = 0.26;
 
 /** How much slower than usual processor time goes by now: machines differ, and neighbours on the
  * same processor slow each other down. */
@@ -171,10 +181,12 @@ void TestHostile::judge(const std::function<void()> &work, const Limits &limits)
 {
     Outcome outcome = runApart(work);
     double allowed = limits.cpuSeconds * kSlowness;
-    if (outcome.cpuSeconds > allowed) { // is it the machine?
+    // Is it the machine? A page that is slow by itself is so each time.
+    constexpr int kMoreTries = 4;
+    for (int i = 0; i < kMoreTries && outcome.cpuSeconds > allowed; ++i) {
         const double slowness = slownessNow();
         outcome = runApart(work);
-        allowed *= std::max(slowness, slownessNow());
+        allowed = limits.cpuSeconds * kSlowness * std::max(slowness, slownessNow());
     }
     ++m_judged;
     m_worst.cpuSeconds = std::max(m_worst.cpuSeconds, outcome.cpuSeconds);
