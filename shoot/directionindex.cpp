@@ -17,7 +17,7 @@ namespace
 constexpr double kHalfPi = kPi / 2.0;
 constexpr double kFullTurn = 2.0 * kPi;
 // Far above the rounding of the coordinates, far below any distance between two photos.
-constexpr double kMargin = 1e-6; // radians
+constexpr double kSlack = 1e-6; // radians
 bool isFinite(const UnitVector &v)
 {
     return std::isfinite(v.x) && std::isfinite(v.y) && std::isfinite(v.z);
@@ -43,7 +43,7 @@ DirectionIndex::DirectionIndex(const QVector<UnitVector> &directions, double typ
     const double span = std::max(highest - lowest, 0.0);
     const double count = std::max(static_cast<double>(directions.size()), 1.0);
     m_firstLatitude = lowest;
-    m_bandHeight = std::max({ typicalRadius / 2.0, span / count, kMargin });
+    m_bandHeight = std::max({ typicalRadius / 2.0, span / count, kSlack });
     m_bands.resize(static_cast<std::size_t>(span / m_bandHeight) + 1);
     for (int i = 0; i < directions.size(); ++i) {
         const Place &place = m_places[i];
@@ -70,14 +70,14 @@ DirectionIndex::Cap DirectionIndex::capAround(int centre, double radius) const
     if (std::isnan(place.latitude)) {
         return { 0, -1, { kNone, kNone } };
     }
-    const double reach = radius + kMargin;
+    const double reach = radius + kSlack;
     Cap cap{ bandAt(place.latitude - reach),
              bandAt(place.latitude + reach),
              { Longitudes{ -kPi, kPi }, kNone } };
     // A cap that holds a pole meets every longitude.
     if (std::abs(place.latitude) + reach < kHalfPi) {
         const double sine = std::sin(reach) / std::cos(place.latitude);
-        const double halfWidth = std::asin(std::min(sine, 1.0)) + kMargin;
+        const double halfWidth = std::asin(std::min(sine, 1.0)) + kSlack;
         cap.parts[0] = { place.longitude - halfWidth, place.longitude + halfWidth };
         if (std::abs(place.longitude) + halfWidth > kPi) {
             const double turn = place.longitude < 0.0 ? kFullTurn : -kFullTurn;

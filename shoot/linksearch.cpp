@@ -19,7 +19,7 @@ namespace
 constexpr double kReachFactor = 0.6499999761581421; // 0.65 as 32-bit float
 constexpr double kCloseFactor = 0.699999988079071; // 0.7 as 32-bit float
 constexpr float kPiSingle = 3.1415927F;
-constexpr float kFullTurn = 6.2831854820251465F; // 2 pi as 32-bit float
+constexpr float kFullTurnSingle = 6.2831854820251465F; // 2 pi as 32-bit float
 constexpr qint32 kNoLink = 0;
 constexpr qint32 kBelow = 1;
 constexpr qint32 kBeside = 2;
@@ -164,10 +164,10 @@ qint32 linkTypeTowards(const Pointing &a, const Pointing &b)
     float yawStep = b.yaw - a.yaw;
     // Two tests of their own: a step of exactly half a turn passes through both.
     if (static_cast<double>(yawStep) > kPi) {
-        yawStep -= kFullTurn;
+        yawStep -= kFullTurnSingle;
     }
     if (static_cast<double>(yawStep) < -kPi) {
-        yawStep += kFullTurn;
+        yawStep += kFullTurnSingle;
     }
     const float pitchStep = b.pitch - a.pitch;
     const bool sameDirection = yawStep == 0.0F && pitchStep == 0.0F && !std::signbit(yawStep);

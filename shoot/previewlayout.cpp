@@ -13,7 +13,7 @@ namespace
 {
 
 constexpr double kLargestStepDegrees = 360.0;
-constexpr double kMargin = 50.0; // pixels around the outermost centres
+constexpr double kBorder = 50.0; // pixels around the outermost centres
 constexpr double kBytesPerPixel = 4.0;
 constexpr double kRoundingReserve
     = 1.0 - 1e-6; // a reduced canvas never exceeds the limit by rounding
@@ -89,7 +89,7 @@ private:
     /** Factor for the scale of a canvas that does not fit. */
     [[nodiscard]] double reductionToLimits() const
     {
-        const double margins = 2.0 * kMargin;
+        const double margins = 2.0 * kBorder;
         const double fullWidth = static_cast<double>(m_scale) * static_cast<double>(m_yawSpan);
         const double fullHeight = static_cast<double>(m_scale) * static_cast<double>(m_pitchSpan);
         const double longest = std::max(fullWidth, fullHeight);
@@ -110,13 +110,13 @@ private:
     /** In pixels and fractions of one. */
     [[nodiscard]] static Real canvasSide(Real span, Real scale)
     {
-        return scale * span + static_cast<Real>(2.0 * kMargin);
+        return scale * span + static_cast<Real>(2.0 * kBorder);
     }
 
     void appendCell(PreviewLayout &layout, int index, Real scale, double side) const
     {
         const ShootData &shot = m_shots[index];
-        const Real margin = static_cast<Real>(kMargin);
+        const Real margin = static_cast<Real>(kBorder);
         const Real x = margin + scale * (static_cast<Real>(shot.yaw) - m_yawMin);
         const Real y
             = margin + scale * (m_pitchSpan - (static_cast<Real>(shot.pitch) - m_pitchMin));

@@ -27,11 +27,6 @@ double idealRadius(double radius, const AlignLens &lens)
     return r;
 }
 
-double halfShorterSide(const AlignLens &lens)
-{
-    return std::min(lens.size.width(), lens.size.height()) / 2.0;
-}
-
 bool isDistorted(const AlignLens &lens)
 {
     return lens.a != 0.0 || lens.b != 0.0 || lens.c != 0.0;
@@ -85,7 +80,7 @@ Eigen::Vector3d AlignLens::rayOf(const Eigen::Vector2d &pixel) const
                           (size.height() - 1) / 2.0 - pixel.y());
     const double radius = plane.norm();
     if (isDistorted(*this) && radius > 0.0) {
-        const double unit = halfShorterSide(*this);
+        const double unit = halfShorterSide();
         plane *= idealRadius(radius / unit, *this) * unit / radius;
     }
     plane /= focalPixels;
@@ -111,7 +106,7 @@ std::optional<Eigen::Vector2d> AlignLens::pixelOf(const Eigen::Vector3d &ray) co
         plane *= focalPixels * (sine > 0.0 ? angle / sine : 1.0);
     }
     if (isDistorted(*this)) {
-        const double r = plane.norm() / halfShorterSide(*this);
+        const double r = plane.norm() / halfShorterSide();
         plane *= ((a * r + b) * r + c) * r + 1.0 - a - b - c;
     }
     return Eigen::Vector2d((size.width() - 1) / 2.0 + plane.x(),

@@ -10,6 +10,7 @@
 
 #include <Eigen/Core>
 
+#include <algorithm>
 #include <optional>
 
 /*
@@ -41,6 +42,11 @@ struct AlignLens {
     double b = 0.0;
     double c = 0.0;
 
+    /** Pixels; the unit of the radii. */
+    [[nodiscard]] double halfShorterSide() const
+    {
+        return std::min(size.width(), size.height()) / 2.0;
+    }
     /** The unit vector, in the camera's own frame, of what pixel \p pixel sees. */
     [[nodiscard]] Eigen::Vector3d rayOf(const Eigen::Vector2d &pixel) const;
     /** Where \p ray (any length, the camera's own frame) meets the photo's plane, inside the photo

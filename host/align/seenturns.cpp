@@ -17,7 +17,7 @@ constexpr int kWidest = 900;
 constexpr int kMostFeatures = 960; // ten for each cell
 constexpr size_t kKept = 64; // more than most rows of a grid have
 constexpr size_t kLeastPoints = 10; // by chance, wrong matches agree less often
-constexpr std::uint32_t kSeed = 1;
+constexpr std::uint32_t kTurnSeed = 1;
 
 AlignLens lensOf(const PhotoInfo &photo, double focal35mm, LensModel model)
 {
@@ -60,7 +60,7 @@ std::optional<Eigen::Matrix3d> SeenTurns::look(int one, int other)
     const auto theirs = seen(other);
     const AlignLens lens = lensOf(first, m_focal35mm, m_lens);
     const PairMatches found = matchPair({ ours->features, lens }, { theirs->features, lens },
-                                        Eigen::Matrix3d::Identity(), anyLook(lens), kSeed);
+                                        Eigen::Matrix3d::Identity(), anyLook(lens), kTurnSeed);
     if (found.pairs.size() < kLeastPoints) {
         return {};
     }

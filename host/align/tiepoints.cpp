@@ -14,7 +14,7 @@ namespace
 {
 
 /** The same for every pair: what is found does not hang on which others are asked for. */
-constexpr std::uint32_t kSeed = 1;
+constexpr std::uint32_t kTieSeed = 1;
 
 /** What is found between two photos. */
 struct Found {
@@ -135,7 +135,7 @@ TiePoints TiePointFinder::match(const std::vector<QPair<int, int>> &pairs, const
             const AlignLens &lens = model.lensOf(second);
             const PairMatches matches = matchPair(
                 { *ours, model.lensOf(first) }, { *theirs, lens },
-                model.rotation(second).transpose() * model.rotation(first), rules(lens), kSeed);
+                model.rotation(second).transpose() * model.rotation(first), rules(lens), kTieSeed);
             found[index] = tiePoints(pairs[index], matches, *ours, *theirs);
         }
         done(first);

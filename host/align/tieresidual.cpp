@@ -35,11 +35,6 @@ template <class T, int N> double plain(const ceres::Jet<T, N> &value)
     return value.a;
 }
 
-double halfShorterSide(const AlignLens &lens)
-{
-    return std::min(lens.size.width(), lens.size.height()) / 2.0;
-}
-
 /** The photo's radius by the ideal one, which is in halves of the shorter side. */
 template <class T, class R> T polynomial(const AlignLens &start, const T *change, const R &r)
 {
@@ -82,7 +77,7 @@ Eigen::Matrix<T, 3, 1> rayOf(const Eigen::Vector2d &pixel, const AlignLens &star
     const double radius = plane.norm();
     T scale = exp(-change[LogFocal]) / start.focalPixels;
     if (radius > 0.0) {
-        const double unit = halfShorterSide(start);
+        const double unit = start.halfShorterSide();
         scale *= idealRadius(start, change, radius / unit) * (unit / radius);
     }
     T forward(1.0);
@@ -117,7 +112,7 @@ Eigen::Matrix<T, 2, 1> planeOf(const Eigen::Matrix<T, 3, 1> &ray, const AlignLen
         scale *= atan2(sine, ray.z()) / sine;
     }
     const T radius = plain(square) > kNothing ? T(sqrt(square) * scale) : T(0.0);
-    scale *= polynomial(start, change, T(radius / halfShorterSide(start)));
+    scale *= polynomial(start, change, T(radius / start.halfShorterSide()));
     return { ray.x() * scale, ray.y() * scale };
 }
 

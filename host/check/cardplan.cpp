@@ -3,6 +3,7 @@
 #include "host/check/cardplan.h"
 
 #include "host/check/shotpath.h"
+#include "host/model/pathparts.h"
 
 #include <QHash>
 #include <QSet>
@@ -21,14 +22,8 @@ namespace PanoHost
 namespace
 {
 
-constexpr double kQuarterHour = 900.0;
 constexpr double kSameClockSeconds = 90.0; ///< a card's clocks drift apart no more
 constexpr double kAboutSeconds = 60.0; ///< clocks that were set by hand differ by no more
-
-QString folderOf(const QString &path)
-{
-    return path.left(path.lastIndexOf(QLatin1Char('/')));
-}
 
 /** 1 for no difference, half of that for \p half. */
 double closeness(double difference, double half)
@@ -405,7 +400,7 @@ void Planner::findCandidates()
     constexpr int kMostHours = 14;
     std::vector<double> hours;
     for (int hour = -kMostHours; hour <= kMostHours; ++hour) {
-        hours.push_back(4 * kQuarterHour * hour);
+        hours.push_back(4 * kQuarterHourSeconds * hour);
     }
     m_overlays.resize(records);
     for (int record = 0; record < records; ++record) {
@@ -670,7 +665,8 @@ void Planner::weighClocks()
         if (candidate.byTimes) {
             const double all = most[candidate.record];
             const double off = std::abs(candidate.clockSeconds);
-            const double fromQuarter = off - kQuarterHour * std::round(off / kQuarterHour);
+            const double fromQuarter
+                = off - kQuarterHourSeconds * std::round(off / kQuarterHourSeconds);
             candidate.score += (all > 0.0 ? kVotes * votes[i] / all : 0.0)
                 + std::max(kAgreeing * closeness(off, kHandSeconds),
                            kHours * closeness(fromQuarter, kHandSeconds));

@@ -5,6 +5,7 @@
 #include "host/model/displayname.h"
 #include "host/model/jsonfields.h"
 #include "host/model/messages.h"
+#include "host/model/pathparts.h"
 
 #include <QDateTime>
 
@@ -17,16 +18,6 @@ namespace
 {
 
 constexpr int kSchema = 1;
-
-QString nameOf(const QString &path)
-{
-    return path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
-}
-
-QString folderOf(const QString &path)
-{
-    return path.left(path.lastIndexOf(QLatin1Char('/')));
-}
 
 /** "papywizard or vrdrive2". */
 QString headsOf(const CardRecord &record)

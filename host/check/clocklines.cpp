@@ -19,7 +19,7 @@ constexpr double kMostDrift = 0.03;
 constexpr double kMostMisfit = 16.0; ///< squared seconds
 constexpr int kSamples = 64;
 
-struct Candidate {
+struct LineCandidate {
     ClockLine line;
     double misfit = 0.0;
 };
@@ -76,7 +76,7 @@ private:
     const ShotClock &m_shots;
     double m_slack;
     std::vector<int> m_bySample;
-    std::vector<Candidate> m_all;
+    std::vector<LineCandidate> m_all;
 };
 
 double Candidates::misfit(const ClockLine &line) const
@@ -180,9 +180,10 @@ void Candidates::gather()
 
 std::vector<ClockLine> Candidates::best(int most)
 {
-    std::stable_sort(m_all.begin(), m_all.end(), [](const Candidate &one, const Candidate &other) {
-        return one.misfit < other.misfit;
-    });
+    std::stable_sort(m_all.begin(), m_all.end(),
+                     [](const LineCandidate &one, const LineCandidate &other) {
+                         return one.misfit < other.misfit;
+                     });
     constexpr double kSameSeconds = 0.7;
     const double same = std::max(kSameSeconds, m_slack / 8.0);
     const double first = m_shots.rising.front();
@@ -193,7 +194,7 @@ std::vector<ClockLine> Candidates::best(int most)
         ? HUGE_VAL
         : m_all.front().misfit + kSamples;
     std::vector<ClockLine> lines;
-    for (const Candidate &candidate : m_all) {
+    for (const LineCandidate &candidate : m_all) {
         if (candidate.misfit > mostMisfit) {
             break;
         }
@@ -320,7 +321,6 @@ double costInOrder(const ShotClock &photos, const ShotClock &shots, double drift
 double costOfLine(const ClockLine &line, const ShotClock &shots)
 {
     constexpr double kFewSeconds = 3.0;
-    constexpr double kQuarterHour = 900.0;
     constexpr double kLargestZone = 26.0 * 3600.0;
     constexpr double kOddHourCost = 3.0;
     constexpr double kOddCost = 6.0;
@@ -328,7 +328,7 @@ double costOfLine(const ClockLine &line, const ShotClock &shots)
     constexpr double kNoteworthySeconds = 1.5;
     const double slack = kFewSeconds + shots.slackSeconds;
     const double offset = std::abs(line.offset);
-    const double beyond = std::abs(std::remainder(offset, kQuarterHour));
+    const double beyond = std::abs(std::remainder(offset, kQuarterHourSeconds));
     double cost = kOddCost;
     if (offset <= slack) {
         cost = 0.0;

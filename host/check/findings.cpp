@@ -6,9 +6,8 @@
 #include "host/model/displayname.h"
 #include "host/model/jsonfields.h"
 #include "host/model/panorama.h"
+#include "host/model/pathparts.h"
 #include "host/model/said.h"
-
-#include <QFileInfo>
 
 #include <algorithm>
 
@@ -17,11 +16,6 @@ namespace PanoHost
 
 namespace
 {
-
-QString nameOf(const PhotoInfo &photo)
-{
-    return QFileInfo(photo.path).fileName();
-}
 
 QString focalOrUnknown(double focal35mm)
 {
@@ -115,9 +109,11 @@ Finding orderFinding(const QVector<PhotoInfo> &photos)
                      { before.timeMs == 0 ? before.path : photo.path } };
         }
         if (photo.timeMs < before.timeMs) {
-            Finding finding{ topic,
-                             Said::tr("%1 was taken before %2").arg(nameOf(photo), nameOf(before)),
-                             Finding::Kind::Trouble };
+            Finding finding{
+                topic,
+                Said::tr("%1 was taken before %2").arg(nameOf(photo.path), nameOf(before.path)),
+                Finding::Kind::Trouble
+            };
             finding.files = QStringList{ before.path, photo.path };
             finding.cure = Said::tr("try --order time");
             finding.action = Finding::Action::FitPhotos;
@@ -149,7 +145,7 @@ Finding gapFinding(const QVector<PhotoInfo> &photos)
     const int before = static_cast<int>(longest - pauses.cbegin());
     return { none.topic,
              Said::tr("%1 s after %2 (usually %3 s)")
-                 .arg(QString::number(*longest / 1000), nameOf(photos.at(before)),
+                 .arg(QString::number(*longest / 1000), nameOf(photos.at(before).path),
                       QString::number(usual / 1000)),
              Finding::Kind::Trouble,
              { photos.at(before).path, photos.at(before + 1).path } };

@@ -13,8 +13,6 @@ namespace PanoHost
 namespace
 {
 
-constexpr double kUnknown = std::numeric_limits<double>::quiet_NaN();
-
 /** As known of all photos and shots, but for the times of the photos and what pictures say. */
 ShotEvidence evidenceOf(const StrangeRun &run, const ShotEvidence &all)
 {

@@ -4,6 +4,7 @@
 
 #include "host/check/photonames.h"
 #include "host/check/shotpath.h"
+#include "host/model/pathparts.h"
 
 #include <QHash>
 
@@ -27,16 +28,6 @@ QString baseName(const QString &path)
     const int start = path.lastIndexOf(QLatin1Char('/')) + 1;
     const int dot = path.lastIndexOf(QLatin1Char('.'));
     return path.mid(start, dot > start ? dot - start : -1);
-}
-
-QString folderOf(const QString &path)
-{
-    return path.left(path.lastIndexOf(QLatin1Char('/')) + 1);
-}
-
-QString nameOf(const QString &path)
-{
-    return path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
 }
 
 /** Cameras write the time of a RAW file and of its JPEG with different precision. */
@@ -101,7 +92,7 @@ private:
     [[nodiscard]] QString keyBeside(int file) const
     {
         const QString &path = m_files[file].info.path;
-        return folderOf(path) + baseName(path).toLower();
+        return folderOf(path) + QLatin1Char('/') + baseName(path).toLower();
     }
     /** By name and second. */
     [[nodiscard]] QString keyElsewhere(int file) const

@@ -16,7 +16,7 @@ namespace PanoHost
 namespace
 {
 
-constexpr int kCounterEnd = 10000; ///< cameras count to 9999
+constexpr int kCounterRange = 10000; ///< cameras count to 9999
 constexpr int kLeastDigits = 3; ///< of a counter
 
 bool isDigit(QChar c)
@@ -112,7 +112,7 @@ void startAfterRollover(const std::vector<CountedName> &names, std::vector<int>:
 {
     constexpr int kFewLost = 16; // photos that are gone just where the counter ran over
     constexpr int kLongPause = 1000;
-    const int around = names.at(*begin).counter + kCounterEnd - names.at(*(end - 1)).counter;
+    const int around = names.at(*begin).counter + kCounterRange - names.at(*(end - 1)).counter;
     if (end - begin < 2 || around < 1 || around > kFewLost) {
         return;
     }
@@ -242,7 +242,7 @@ bool isCountedNext(const QString &path, const QString &next, int most)
     if (one.front != other.front || one.counter < 0 || other.counter < 0) {
         return false;
     }
-    const int steps = (other.counter - one.counter + kCounterEnd) % kCounterEnd;
+    const int steps = (other.counter - one.counter + kCounterRange) % kCounterRange;
     return steps >= 1 && steps <= most;
 }
 

@@ -22,7 +22,6 @@ namespace PanoHost
 namespace
 {
 
-constexpr double kUnknown = std::numeric_limits<double>::quiet_NaN();
 constexpr double kSure = 0.95;
 constexpr double kAnyMargin = 1000.0; ///< where there is no second reading
 
@@ -1037,14 +1036,13 @@ ShotMatch Matcher::result() const
     match.usesTimes = assumption.clock.has_value();
     match.usesExposures = !assumption.levelExposures.empty();
     if (assumption.clock) {
-        constexpr double kQuarterHour = 900.0;
         constexpr double kFewSeconds = 30.0;
         ClockDifference difference;
         difference.seconds = assumption.clock->offset;
         difference.secondsPerMinute = assumption.clock->drift * 60.0;
         difference.minutes = (m_shotClock.rising.back() - m_shotClock.rising.front()) / 60.0;
-        const double quarters = std::round(difference.seconds / kQuarterHour);
-        if (std::abs(difference.seconds - quarters * kQuarterHour) <= kFewSeconds) {
+        const double quarters = std::round(difference.seconds / kQuarterHourSeconds);
+        if (std::abs(difference.seconds - quarters * kQuarterHourSeconds) <= kFewSeconds) {
             difference.hours = quarters / 4.0;
         }
         match.clock = difference;

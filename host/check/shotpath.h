@@ -4,6 +4,7 @@
 
 #include <Eigen/Core>
 
+#include <limits>
 #include <map>
 #include <optional>
 #include <vector>
@@ -14,6 +15,11 @@
  */
 namespace PanoHost
 {
+
+/** A second, an exposure or another number that is not known. */
+constexpr double kUnknown = std::numeric_limits<double>::quiet_NaN();
+/** Time zones differ by whole ones. */
+constexpr double kQuarterHourSeconds = 900.0;
 
 /** When photos were taken, or shots recorded, in their order. */
 struct ShotClock {

@@ -42,7 +42,7 @@ CommandLine alignLine()
         } + alignOptionRows());
 }
 
-QString inputFrom(const CommandLine &line)
+QString fileToAlign(const CommandLine &line)
 {
     const QStringList words = line.positional();
     if (words.size() != 1) {
@@ -75,7 +75,7 @@ ExitCode runAlign(Session &session, const QStringList &arguments)
         return ExitCode::Done;
     }
     applyCommonOptions(session, line);
-    const QString input = inputFrom(line);
+    const QString input = fileToAlign(line);
     const QFileInfo file(input);
     const Outputs outputs = outputsFrom(
         line,

@@ -12,7 +12,7 @@ namespace PanoHost
 namespace
 {
 
-QString degrees(double value)
+QString degreesText(double value)
 {
     return QStringLiteral("%1").arg(value, 8, 'f', 2);
 }
@@ -52,8 +52,8 @@ QString panoramaTable(const Panorama &panorama, const QString &folder)
     for (int i = 0; i < panorama.positions.size(); ++i) {
         const Position &position = panorama.positions.at(i);
         text += QStringLiteral("%1 %2 %3 %4  %5 %6\n")
-                    .arg(QString::number(i).rightJustified(4), degrees(position.yawDegrees),
-                         degrees(position.pitchDegrees), degrees(position.rollDegrees),
+                    .arg(QString::number(i).rightJustified(4), degreesText(position.yawDegrees),
+                         degreesText(position.pitchDegrees), degreesText(position.rollDegrees),
                          numbers(targets.at(i)).leftJustified(12), photoNames(position, base));
     }
     return text;

@@ -43,7 +43,7 @@ CommandLine stitchLine()
             });
 }
 
-QString inputFrom(const CommandLine &line)
+QString fileToStitch(const CommandLine &line)
 {
     const QStringList words = line.positional();
     if (words.size() != 1) {
@@ -63,7 +63,7 @@ ExitCode runStitch(Session &session, const QStringList &arguments)
     }
     applyCommonOptions(session, line);
     StitchRequest request;
-    request.input = inputFrom(line);
+    request.input = fileToStitch(line);
     const QFileInfo file(request.input);
     request.picture = pictureWishes(
         line, file.absoluteDir().filePath(file.completeBaseName() + QStringLiteral(".tif")));

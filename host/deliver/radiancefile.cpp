@@ -29,7 +29,7 @@ namespace PanoHost
 namespace
 {
 
-constexpr int kBands = 4;
+constexpr int kPixelBands = 4;
 
 /** Keeps in mind what went wrong: the library closes a file without a word. */
 class ExrStream final : public Imf::OStream
@@ -81,7 +81,7 @@ class Band
 public:
     explicit Band(const RadiancePicture &picture)
         : m_picture(picture)
-        , m_rowValues(static_cast<size_t>(picture.size.width()) * kBands)
+        , m_rowValues(static_cast<size_t>(picture.size.width()) * kPixelBands)
         , m_rows(static_cast<int>(std::clamp<size_t>(kValues / m_rowValues, 1, kMostRows)))
         , m_pixels(m_rowValues * static_cast<size_t>(m_rows))
     {
@@ -144,7 +144,7 @@ Imf::Header exrHeader(const RadiancePicture &picture, const PictureOrigin &origi
 }
 
 /** Red, green and blue of \p pixel with a common exponent. */
-std::array<char, kBands> sharedExponent(const float *pixel)
+std::array<char, kPixelBands> sharedExponent(const float *pixel)
 {
     constexpr float kSmallest = 1e-32F;
     static constexpr float kLargest = 1e38F;
@@ -159,7 +159,7 @@ std::array<char, kBands> sharedExponent(const float *pixel)
     }
     int exponent = 0;
     std::frexp(brightest, &exponent);
-    std::array<char, kBands> bytes{};
+    std::array<char, kPixelBands> bytes{};
     std::transform(light.begin(), light.end(), bytes.begin(), [exponent](float value) {
         return static_cast<char>(static_cast<int>(std::ldexp(value, 8 - exponent)));
     });
@@ -181,7 +181,7 @@ Result<QString> saveExr(const RadiancePicture &picture, const PictureOrigin &ori
         Imf::setGlobalThreadCount(threadCount(0));
         Imf::OutputFile exr(stream, exrHeader(picture, origin));
         Band band(picture);
-        const size_t pixelBytes = kBands * sizeof(float);
+        const size_t pixelBytes = kPixelBands * sizeof(float);
         const size_t rowBytes = pixelBytes * static_cast<size_t>(picture.size.width());
         for (int first = 0; first < picture.size.height();) {
             if (watch.stopWanted()) {
@@ -229,8 +229,8 @@ Result<QString> saveHdr(const RadiancePicture &picture, const QString &path, con
             QByteArray bytes;
             for (int x = 0; x < picture.size.width(); ++x) {
                 const auto pixel
-                    = sharedExponent(band.at(row) + static_cast<ptrdiff_t>(x) * kBands);
-                bytes.append(pixel.data(), kBands);
+                    = sharedExponent(band.at(row) + static_cast<ptrdiff_t>(x) * kPixelBands);
+                bytes.append(pixel.data(), kPixelBands);
             }
             isSound = isSound && writeAll(file, bytes);
         }

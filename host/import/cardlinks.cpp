@@ -4,6 +4,7 @@
 
 #include "host/model/commanderror.h"
 #include "host/model/displayname.h"
+#include "host/model/pathparts.h"
 
 #include <QDir>
 #include <QFile>
@@ -34,11 +35,6 @@ CommandError notWritten(const QString &path, int error)
                         .arg(QString::fromLocal8Bit(std::strerror(error))),
           noLinks ? QStringLiteral("choose a folder on the computer's own disk")
                   : QStringLiteral("make room there or choose another place") });
-}
-
-QString nameOf(const QString &path)
-{
-    return QFileInfo(path).fileName();
 }
 
 /** A folder's name that is easy to type, from whatever a record is called. */

@@ -7,8 +7,8 @@
 #include "host/model/assumedgrid.h"
 #include "host/model/displayname.h"
 #include "host/model/panorama.h"
+#include "host/model/pathparts.h"
 
-#include <QFileInfo>
 #include <QMap>
 #include <QSet>
 
@@ -30,11 +30,6 @@ struct Shot {
     int position = 0;
     int level = 0;
 };
-
-QString nameOf(const QString &path)
-{
-    return QFileInfo(path).fileName();
-}
 
 /** All shots of one shoot, and what is wrong with them. */
 class Search

@@ -17,7 +17,7 @@ namespace
 {
 
 /** Shots without a photo that are named one by one. */
-constexpr int kMostNamed = 5;
+constexpr int kMostWarnings = 5;
 /** From shot to shot where only one end is known. */
 constexpr qint64 kStepMs = 1000;
 
@@ -223,7 +223,7 @@ QStringList missingShotWarnings(const ShotFit &fit, const StructuredPanoramaProp
         if (!fit.at(i).photo.isEmpty()) {
             continue;
         }
-        if (warnings.size() == kMostNamed) {
+        if (warnings.size() == kMostWarnings) {
             others += i;
             continue;
         }

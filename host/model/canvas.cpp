@@ -17,7 +17,7 @@ namespace
 /** A full turn whose zenith and nadir are open by less stays an uncropped 2:1 picture. */
 constexpr double kOpenCapDegrees = 15.0;
 /** No canvas side is longer, whatever the photos claim; pixels. */
-constexpr double kLongestSide = 1e9;
+constexpr double kLongestCanvasSide = 1e9;
 
 } // namespace
 
@@ -32,7 +32,7 @@ Canvas canvasAround(const QVector<Frame> &frames, double focalPixels, int width)
     canvas.yawCentreDegrees = fov < 360.0 ? covered.yawCentreDegrees : 0.0;
 
     const double wanted = width > 0 ? width : qDegreesToRadians(fov) * focalPixels;
-    const double bounded = std::min(wanted, kLongestSide * std::min(1.0, fov / 180.0));
+    const double bounded = std::min(wanted, kLongestCanvasSide * std::min(1.0, fov / 180.0));
     const int w = 2 * std::max(1, qRound(bounded / 2.0));
     const int h = std::max(1, qRound(180.0 * w / fov));
     canvas.size = QSize(w, h);

@@ -40,11 +40,6 @@ QString unless(bool fine, const char *expected)
     return fine ? QString() : QLatin1String(expected);
 }
 
-Failure refused(const QString &what, const QString &why)
-{
-    return { ExitCode::InputRefused, what, why, {} };
-}
-
 /** Writes the members of an object to the end of a text. */
 class Writer : public JsonFields
 {

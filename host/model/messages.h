@@ -29,6 +29,13 @@ struct Failure {
     [[nodiscard]] QString text() const;
 };
 
+/** What was given cannot be used. */
+[[nodiscard]] inline Failure refused(const QString &what, const QString &why,
+                                     const QString &tryThis = {})
+{
+    return { ExitCode::InputRefused, what, why, tryThis };
+}
+
 /** "panohost: error: WHAT: WHY; TRY" without a line end. */
 [[nodiscard]] QString errorLine(const Failure &failure);
 

@@ -17,11 +17,6 @@ namespace PanoHost
 namespace
 {
 
-Failure refused(const QString &what, const QString &why, const QString &tryThis = {})
-{
-    return { ExitCode::InputRefused, what, why, tryThis };
-}
-
 double median(QVector<double> values)
 {
     if (values.isEmpty()) {

@@ -17,7 +17,7 @@ namespace
 
 constexpr int kSchema = 1;
 /** 70,000 positions with a million links take about 64 MB. */
-constexpr qint64 kMostBytes = 512LL * 1024 * 1024;
+constexpr qint64 kMostJsonBytes = 512LL * 1024 * 1024;
 
 QString stackLinkingName(qint32 linking)
 {
@@ -211,7 +211,7 @@ QByteArray panoramaSchema()
 Result<Panorama> readPanoramaJson(const QString &path)
 {
     const QString tryThis = Said::tr("name a file that 'panohost import --json' has written");
-    const auto content = readRegularFile(path, kMostBytes);
+    const auto content = readRegularFile(path, kMostJsonBytes);
     if (!content) {
         Failure failure = content.error();
         failure.tryThis = tryThis;

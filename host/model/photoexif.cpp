@@ -236,7 +236,7 @@ void readTime(const Entries &exif, PhotoInfo &info)
     info.timeMs = time.toMSecsSinceEpoch();
 }
 
-bool isPanorama(const Exiv2::XmpData &xmp)
+bool saysPanorama(const Exiv2::XmpData &xmp)
 {
     return std::any_of(xmp.begin(), xmp.end(), [](const Exiv2::Xmpdatum &entry) {
         return entry.groupName() == "GPano"
@@ -288,14 +288,14 @@ bool isRaw(const Exiv2::Image &image)
 
 bool isPanorama(const Exiv2::Image &image)
 {
-    return isPanorama(image.xmpData());
+    return saysPanorama(image.xmpData());
 }
 
 bool isPanorama(const QByteArray &xmpPacket)
 {
     try {
         Exiv2::XmpData xmp;
-        return Exiv2::XmpParser::decode(xmp, xmpPacket.toStdString()) == 0 && isPanorama(xmp);
+        return Exiv2::XmpParser::decode(xmp, xmpPacket.toStdString()) == 0 && saysPanorama(xmp);
     } catch (const std::exception &) {
         return false;
     }

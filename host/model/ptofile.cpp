@@ -25,7 +25,7 @@ namespace
 {
 
 /** 70,000 photos with a million points take 100 MB. */
-constexpr qint64 kMostBytes = 128LL * 1024 * 1024;
+constexpr qint64 kMostPtoBytes = 128LL * 1024 * 1024;
 constexpr int kMostImages = 250'000;
 constexpr int kMostPoints = 10'000'000;
 constexpr size_t kLongestLine = 65'536;
@@ -38,11 +38,6 @@ constexpr std::string_view kCentre = "#panohost centre";
 constexpr std::string_view kHead = "#panohost head";
 constexpr std::string_view kRecord = "#panohost record";
 constexpr std::string_view kWrong = "#panohost wrong c";
-
-std::string_view viewOf(const QByteArray &line)
-{
-    return { line.constData(), static_cast<size_t>(line.size()) };
-}
 
 QString textOf(std::string_view bytes)
 {
@@ -522,7 +517,7 @@ Result<PtoFile> PtoFile::parse(const QByteArray &text, const QString &folder)
 
 Result<PtoFile> PtoFile::read(const QString &path)
 {
-    const auto content = readRegularFile(path, kMostBytes);
+    const auto content = readRegularFile(path, kMostPtoBytes);
     if (!content) {
         return content.error();
     }

@@ -31,11 +31,6 @@ bool endsInNoNumber(std::string_view word)
     return end == "nan" || end == "inf";
 }
 
-std::string_view viewOf(const QByteArray &line)
-{
-    return { line.constData(), static_cast<size_t>(line.size()) };
-}
-
 template <typename T> std::optional<T> numberIn(std::string_view text)
 {
     if (text.size() > 1 && text[0] == '+' && text[1] != '-') {

@@ -12,6 +12,11 @@
 namespace PanoHost
 {
 
+[[nodiscard]] inline std::string_view viewOf(const QByteArray &line)
+{
+    return { line.constData(), static_cast<size_t>(line.size()) };
+}
+
 /** A variable as it is written. */
 struct PtoVariable {
     std::string_view name; ///< letters only

@@ -29,11 +29,6 @@ constexpr double kLongestFocalMm = 50000.0;
 /** stackLinking of the description */
 constexpr qint32 kHardLinks = 0;
 
-Failure refused(const QString &what, const QString &why, const QString &tryThis = {})
-{
-    return { ExitCode::InputRefused, what, why, tryThis };
-}
-
 /** Median of the exposure values known; the middle pair's lower one, so that it is a real one. */
 std::optional<double> medianExposure(QVector<double> known)
 {

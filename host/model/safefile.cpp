@@ -21,11 +21,6 @@ namespace PanoHost
 namespace
 {
 
-Failure refused(const QString &path, const QString &why, const QString &tryThis = {})
-{
-    return { ExitCode::InputRefused, path, why, tryThis };
-}
-
 QString systemError(int number)
 {
     return QString::fromLocal8Bit(std::strerror(number));

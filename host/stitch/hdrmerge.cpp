@@ -3,6 +3,7 @@
 #include "host/stitch/hdrmerge.h"
 
 #include "host/model/said.h"
+#include "host/stitch/tiffhandle.h"
 #include "host/stitch/vipsfile.h"
 
 #include <QFile>
@@ -14,14 +15,12 @@
 #include <memory>
 #include <vector>
 
-#include <tiffio.h>
-
 namespace PanoHost
 {
 namespace
 {
 
-constexpr int kColours = 3;
+constexpr int kHdrColours = 3;
 constexpr int kWithAlpha = 4;
 /** From here on a value may be clipped, and there it is: between, it counts less and less. */
 constexpr double kNearlyWhite = 0.8;
@@ -77,7 +76,7 @@ public:
     /** Whether there is anything at \p x, \p y of a file of floats with alpha. */
     [[nodiscard]] bool shows(int x, int y) const
     {
-        return m_file.row<float>(y)[x * kWithAlpha + kColours] > 0.0F;
+        return m_file.row<float>(y)[x * kWithAlpha + kHdrColours] > 0.0F;
     }
     [[nodiscard]] const VipsFile &file() const { return m_file; }
 
@@ -90,9 +89,9 @@ private:
     {
         const int bands = m_file.bands();
         for (int x = 0; x < m_file.size().width(); ++x) {
-            for (int colour = 0; colour < kColours; ++colour) {
-                row[static_cast<size_t>(x) * kColours + static_cast<size_t>(colour)]
-                    = get(x * bands + (bands < kColours ? 0 : colour));
+            for (int colour = 0; colour < kHdrColours; ++colour) {
+                row[static_cast<size_t>(x) * kHdrColours + static_cast<size_t>(colour)]
+                    = get(x * bands + (bands < kHdrColours ? 0 : colour));
             }
         }
     }
@@ -109,18 +108,13 @@ double trust(float brightest)
                       1.0);
 }
 
-struct TiffCloser {
-    void operator()(TIFF *file) const { TIFFClose(file); }
-};
-using TiffFile = std::unique_ptr<TIFF, TiffCloser>;
-
-TiffFile floatTiff(const QString &path, const QSize &size, int bands)
+TiffHandle floatTiff(const QString &path, const QSize &size, int bands)
 {
     TIFFSetErrorHandler(nullptr);
     TIFFSetWarningHandler(nullptr);
     constexpr qint64 kMostOfClassic = 4'000'000'000;
     const qint64 bytes = static_cast<qint64>(size.width()) * size.height() * bands * 4;
-    TiffFile file(
+    TiffHandle file(
         TIFFOpen(QFile::encodeName(path).constData(), bytes > kMostOfClassic ? "w8" : "w"));
     if (file != nullptr) {
         TIFFSetField(file.get(), TIFFTAG_IMAGEWIDTH, static_cast<uint32_t>(size.width()));
@@ -164,7 +158,7 @@ public:
         , m_bands(bands)
         , m_size(m_levels.front().file().size())
         , m_values(m_levels.size(),
-                   std::vector<float>(static_cast<size_t>(m_size.width()) * kColours))
+                   std::vector<float>(static_cast<size_t>(m_size.width()) * kHdrColours))
     {
     }
 
@@ -183,10 +177,10 @@ public:
 private:
     void pixel(int x, int y, float *light) const
     {
-        const auto at = static_cast<size_t>(x) * kColours;
-        std::array<double, kColours> sum{};
+        const auto at = static_cast<size_t>(x) * kHdrColours;
+        std::array<double, kHdrColours> sum{};
         double gathered = 0.0;
-        std::array<double, kColours> ofShortest{};
+        std::array<double, kHdrColours> ofShortest{};
         double shortestGain = 0.0; // nothing seen
         for (size_t level = 0; level < m_levels.size(); ++level) {
             if (m_bands == kWithAlpha && !m_levels[level].shows(x, y)) {
@@ -197,22 +191,22 @@ private:
             // What a level shows of the same light, and how exactly, goes with its exposure.
             const double weight = trust(std::max({ value[0], value[1], value[2] }));
             gathered += weight / gain;
-            for (size_t colour = 0; colour < kColours; ++colour) {
+            for (size_t colour = 0; colour < kHdrColours; ++colour) {
                 sum[colour] += weight * static_cast<double>(value[colour]);
             }
             if (gain > shortestGain) {
                 shortestGain = gain;
-                std::copy_n(value, kColours, ofShortest.begin());
+                std::copy_n(value, kHdrColours, ofShortest.begin());
             }
         }
         const double inCorner = fallOff(x, y);
-        for (size_t colour = 0; colour < kColours; ++colour) {
+        for (size_t colour = 0; colour < kHdrColours; ++colour) {
             const double found
                 = gathered > 0.0 ? sum[colour] / gathered : ofShortest[colour] * shortestGain;
             light[colour] = static_cast<float>(found / inCorner);
         }
         if (m_bands == kWithAlpha) {
-            light[kColours] = shortestGain > 0.0 ? 1.0F : 0.0F;
+            light[kHdrColours] = shortestGain > 0.0 ? 1.0F : 0.0F;
         }
     }
 
@@ -284,9 +278,9 @@ Result<QString> mergeLevels(const QVector<HdrLevel> &levels, const HdrCurve &cur
         }
         rows.emplace_back(std::move(file).value(), curve.isLinear, 1.0);
     }
-    Merge merge(std::move(rows), levels, curve, kColours);
-    const TiffFile out = floatTiff(tiffPath, merge.size(), kColours);
-    return write(merge, kColours, out.get(), tiffPath);
+    Merge merge(std::move(rows), levels, curve, kHdrColours);
+    const TiffHandle out = floatTiff(tiffPath, merge.size(), kHdrColours);
+    return write(merge, kHdrColours, out.get(), tiffPath);
 }
 
 Result<QString> mergeWarped(const QVector<HdrLevel> &levels, const QRect &place,
@@ -307,7 +301,7 @@ Result<QString> mergeWarped(const QVector<HdrLevel> &levels, const QRect &place,
     }
     const HdrCurve light{ true, {} };
     Merge merge(std::move(rows), levels, light, kWithAlpha);
-    const TiffFile out = floatTiff(tiffPath, place.size(), kWithAlpha);
+    const TiffHandle out = floatTiff(tiffPath, place.size(), kWithAlpha);
     if (out != nullptr) {
         placeOnCanvas(out.get(), place.topLeft(), canvas);
     }

@@ -2,34 +2,27 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/stitch/tiffplace.h"
 
+#include "host/stitch/tiffhandle.h"
+
 #include <QFile>
 #include <QFileInfo>
-
-#include <memory>
-
-#include <tiffio.h>
 
 namespace PanoHost
 {
 namespace
 {
 
-struct Closer {
-    void operator()(TIFF *file) const { TIFFClose(file); }
-};
-using TiffFile = std::unique_ptr<TIFF, Closer>;
-
 /** Null for what is no TIFF file; a pipe or a device is not opened. */
-TiffFile opened(const QString &path)
+TiffHandle opened(const QString &path)
 {
     static const bool isQuiet = [] {
         TIFFSetErrorHandler(nullptr);
         TIFFSetWarningHandler(nullptr);
         return true;
     }();
-    return TiffFile(isQuiet && QFileInfo(path).isFile()
-                        ? TIFFOpen(QFile::encodeName(path).constData(), "r")
-                        : nullptr);
+    return TiffHandle(isQuiet && QFileInfo(path).isFile()
+                          ? TIFFOpen(QFile::encodeName(path).constData(), "r")
+                          : nullptr);
 }
 
 /** Whether the file is long enough for all strips or tiles. */
@@ -62,7 +55,7 @@ int pixels(TIFF *file, uint32_t position, uint32_t resolution)
 
 std::optional<int> tiffBits(const QString &path)
 {
-    const TiffFile file = opened(path);
+    const TiffHandle file = opened(path);
     uint16_t bits = 0;
     return file != nullptr && TIFFGetField(file.get(), TIFFTAG_BITSPERSAMPLE, &bits) != 0
         ? std::optional<int>(bits)
@@ -71,7 +64,7 @@ std::optional<int> tiffBits(const QString &path)
 
 std::optional<QRect> tiffPlace(const QString &path)
 {
-    const TiffFile file = opened(path);
+    const TiffHandle file = opened(path);
     uint32_t width = 0;
     uint32_t height = 0;
     if (file == nullptr || TIFFGetField(file.get(), TIFFTAG_IMAGEWIDTH, &width) == 0
